@@ -1,0 +1,26 @@
+# Language level, warnings and floating-point rules, the same for every target.
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+set(CMAKE_LINK_LIBRARIES_ONLY_TARGETS ON)
+set(CMAKE_VERIFY_INTERFACE_HEADER_SETS ON)
+# Line numbers in crash reports, without the size of full debug information.
+set(CMAKE_CXX_FLAGS_RELWITHDEBINFO "-O2 -g1")
+
+find_program(CCACHE_PROGRAM ccache)
+if(CCACHE_PROGRAM)
+  # A second checkout finds the objects of the first.
+  set(CMAKE_CXX_COMPILER_LAUNCHER
+      ${CMAKE_COMMAND} -E env CCACHE_BASEDIR=${PROJECT_SOURCE_DIR} CCACHE_NOHASHDIR=1 ${CCACHE_PROGRAM})
+endif()
+
+add_library(project_warnings INTERFACE)
+target_compile_options(project_warnings INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Werror)
+
+# Contracted multiply-add would make results differ between machines.
+add_compile_options(-ffp-contract=off)
+if(VELMAR_SANITIZE)
+  add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
+  add_link_options(-fsanitize=address,undefined)
+endif()

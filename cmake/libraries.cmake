@@ -1,0 +1,18 @@
+# Everything the product links, found in one place; see docs/architecture.md for the reasons.
+find_package(Threads REQUIRED)
+find_package(PkgConfig REQUIRED)
+find_package(SQLite3 REQUIRED)
+find_package(SQLiteCpp REQUIRED)
+find_package(pugixml REQUIRED)
+find_package(CLI11 REQUIRED)
+find_package(nlohmann_json REQUIRED)
+find_package(GTest REQUIRED)
+find_package(benchmark REQUIRED)
+# libzip's own CMake file asks for programs that its -dev package does not bring.
+pkg_check_modules(LIBZIP REQUIRED IMPORTED_TARGET libzip)
+pkg_check_modules(INIH REQUIRED IMPORTED_TARGET INIReader)
+pkg_check_modules(LIBMDB REQUIRED IMPORTED_TARGET libmdb)
+if(VELMAR_WITH_WINDOWS)
+  find_package(Qt6 6.4 REQUIRED COMPONENTS Core Gui Widgets PrintSupport Svg Test)
+endif()
+include(GoogleTest)

@@ -1,0 +1,33 @@
+# Fails when a file includes a header of a layer that its own layer does not use.
+# cmake -DTABLE=<layers.cmake of the build> -DSOURCE=<src> -P check_layers.cmake
+cmake_minimum_required(VERSION 3.25)
+include(${TABLE})
+list(SORT folders ORDER DESCENDING)  # the inner folder before the outer one
+
+function(layer_of path result)
+  foreach(folder IN LISTS folders)
+    if(path MATCHES "^${folder}/")
+      set(${result} ${layer_of_${folder}} PARENT_SCOPE)
+      return()
+    endif()
+  endforeach()
+  set(${result} "" PARENT_SCOPE)
+endfunction()
+
+file(GLOB_RECURSE files RELATIVE ${SOURCE} ${SOURCE}/*.h ${SOURCE}/*.cpp)
+foreach(file IN LISTS files)
+  layer_of(${file} layer)
+  if(layer STREQUAL "")
+    message(SEND_ERROR "${file} belongs to no layer")
+  endif()
+  file(STRINGS ${SOURCE}/${file} lines REGEX "^#include \"")
+  foreach(line IN LISTS lines)
+    string(REGEX REPLACE "^#include \"([^\"]+)\".*" "\\1" header "${line}")
+    layer_of(${header} used)
+    if(used STREQUAL "")
+      message(SEND_ERROR "${file}: \"${header}\" is in no layer; write the path from src/")
+    elseif(NOT used STREQUAL layer AND NOT used IN_LIST ${layer}_uses)
+      message(SEND_ERROR "${file}: ${layer} may not use ${used}")
+    endif()
+  endforeach()
+endforeach()
