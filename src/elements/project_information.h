@@ -1,0 +1,25 @@
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <string>
+
+namespace velmar::elements {
+
+/// One caption and its value, such as "Cliente" and the client's name.
+struct ProjectInformationRow {
+  std::string caption{};
+  std::string value{};
+
+  bool operator==(const ProjectInformationRow&) const = default;
+};
+
+inline constexpr std::size_t kProjectInformationRows = 8;
+inline constexpr std::size_t kNotesRow = 5;       ///< the one row whose value may hold line breaks
+inline constexpr std::size_t kAttachmentRow = 6;  ///< the attachment's code
+
+/// The project information: project, client, project number, engineer, project data, notes, attachment, and
+/// one row without a default caption. A loaded project brings its own captions.
+using ProjectInformation = std::array<ProjectInformationRow, kProjectInformationRows>;
+
+}  // namespace velmar::elements

@@ -1,0 +1,38 @@
+#include "elements/setup.h"
+
+#include <gtest/gtest.h>
+
+namespace velmar::elements {
+namespace {
+
+TEST(Setup, IsAValue) {
+  elements::Setup a;
+  elements::Setup b = a;
+  EXPECT_EQ(a, b);
+  b.leaf2.rows[9].slot.loss_factor = 0.01;
+  EXPECT_NE(a, b);
+}
+
+TEST(Facade, CountsTheComponentsThatItsTextNames) {
+  Facade facade;
+  for (const auto& [text, count] : {std::pair{"3", 3}, {"9 ", 9}, {"12", 9}, {"", 1}, {"0", 1}, {"due", 1}}) {
+    facade.count_text = text;
+    EXPECT_EQ(facade.Count(), count) << text;
+  }
+}
+
+TEST(SeaCavity, ShowsTheRowsOfItsType) {
+  int fibres = 0;
+  int masses = 0;
+  for (int i = 0; i < kSeaCavityTypeCount; ++i) {
+    fibres += FibreCount(static_cast<SeaCavityType>(i));
+    masses += MassCount(static_cast<SeaCavityType>(i));
+  }
+  EXPECT_EQ(FibreCount(SeaCavityType::kFibreMassFibreMassFibre), 3);
+  EXPECT_EQ(MassCount(SeaCavityType::kMassFibreMass), 2);
+  EXPECT_EQ(fibres, 10);
+  EXPECT_EQ(masses, 8);
+}
+
+}  // namespace
+}  // namespace velmar::elements
