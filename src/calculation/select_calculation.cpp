@@ -2,6 +2,8 @@
 
 #include <string_view>
 
+#include "calculation/cavity_rules.h"
+
 namespace velmar::calculation {
 namespace {
 
@@ -89,7 +91,7 @@ void SelectCalculation(elements::Setup& setup, Calculation calculation) {
   }
   if (setup.cavity.kind == elements::CavityKind::kGenericMaterial &&
       !LayoutOf(calculation).generic_cavity_offered) {
-    setup.cavity.kind = elements::CavityKind::kFibrous;
+    ChooseCavityKind(setup, elements::CavityKind::kFibrous);
   }
   if (row.family == Family::kSea) setup.sea_cavity.type = elements::SeaCavityType::kEmpty;
   if (IsLining(row.family)) {
