@@ -1,0 +1,38 @@
+#include "models/relations/relation.h"
+
+#include <string>
+
+#include "foundation/failure.h"
+#include "models/relations/relation_quantities.h"
+#include "models/relations/relation_table.h"
+
+namespace velmar::models {
+namespace {
+
+float Narrow(double value) {
+  RequireFinite(value, "the value of a relation");
+  return static_cast<float>(value);
+}
+
+}  // namespace
+
+std::optional<MessagePiece> FirstRangeLeft(RelationId id, const RelationInput& in) {
+  for (const RelationRange& range : FindRelation(id).ranges) {
+    const double quantity = RequireFinite(range.quantity(in), "a quantity of a relation");
+    if (quantity >= range.lowest && quantity <= range.highest) continue;
+    if (range.words != nullptr) return std::string(range.words);
+    return range.question;
+  }
+  return std::nullopt;
+}
+
+RelationValue EvaluateRelation(RelationId id, const RelationInput& in) {
+  RelationValue value;
+  value.rating_db = Narrow(FindRelation(id).rating(in));
+  if (id == RelationId::kFloatingScreed) {
+    value.improvement_db = Narrow(FloatingScreedImprovement(FindFloatingScreed(in)));
+  }
+  return value;
+}
+
+}  // namespace velmar::models

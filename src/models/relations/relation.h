@@ -1,0 +1,28 @@
+#pragma once
+
+#include <optional>
+
+#include "foundation/message.h"
+#include "models/relations/relation_id.h"
+#include "models/relations/relation_input.h"
+
+namespace velmar::models {
+
+/// What a relation gives.
+struct RelationValue {
+  float rating_db = 0.0F;       ///< RwRelation
+  float improvement_db = 0.0F;  ///< DeltaRw, by a floating screed; may be negative. 0 for all other relations
+};
+
+/// What to ask the user before relation `id` is applied outside of what it was measured on: the text of the
+/// first range that `in` leaves, a row or words of its own. The further ranges are not looked at: one
+/// question is all a run asks.
+/// @return nothing inside of all ranges
+/// @throws ArithmeticFailure when a quantity of a range cannot be formed
+std::optional<MessagePiece> FirstRangeLeft(RelationId id, const RelationInput& in);
+
+/// The rating by relation `id`, formed in double and narrowed to single precision. Ranges are not checked.
+/// @throws ArithmeticFailure for the logarithm of a mass or depth that is not positive
+RelationValue EvaluateRelation(RelationId id, const RelationInput& in);
+
+}  // namespace velmar::models
