@@ -86,7 +86,8 @@ Value OleObject(MdbHandle* mdb, MdbColumn* column) {
 }  // namespace
 
 AccessTable::AccessTable(MdbCatalogEntry* entry) : name_(entry->object_name), table_(mdb_read_table(entry)) {
-  if (name_.empty() || !table_ || mdb_read_columns(table_.get()) == nullptr || table_->columns == nullptr) {
+  if (name_.empty() || !table_ || mdb_read_columns(table_.get()) == nullptr || table_->columns == nullptr ||
+      table_->columns->len == 0) {
     throw ReadingFailure{ExitCode::kTableDamaged, "a table definition is damaged"};
   }
   for (guint i = 0; i < table_->columns->len; ++i) {
@@ -132,12 +133,6 @@ void AccessTable::Bind() {
       throw ReadingFailure{ExitCode::kTableDamaged, "a column cannot be read"};
     }
   }
-}
-
-bool AccessTable::AllRowsThere() {
-  std::uint64_t rows = 0;
-  while (rows <= StatedRows() && mdb_fetch_row(table_.get()) != 0) ++rows;
-  return rows == StatedRows();
 }
 
 bool AccessTable::Next(std::vector<Value>& row) {

@@ -29,9 +29,6 @@ class AccessTable {
   /// The number of rows that the file itself states.
   std::uint64_t StatedRows() const { return table_->num_rows; }
 
-  /// Passes over all rows. @return whether they are as many as the file states
-  bool AllRowsThere();
-
   /// Fills `row` with the next row, one value a column. @return false behind the last one
   /// @throws ReadingFailure when a value lies outside its page or does not fit
   bool Next(std::vector<Value>& row);

@@ -59,7 +59,6 @@ SqliteCopy::SqliteCopy(const std::string& path)
     : database_(path, SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE), transaction_(database_) {}
 
 void SqliteCopy::Add(AccessTable& table) {
-  if (table.Columns().empty()) return;
   database_.exec(CreateTable(table));
   CopyRows(table);
   for (const IndexInfo& index : table.Indexes()) CreateIndex(table.Name(), index);
