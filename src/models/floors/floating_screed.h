@@ -3,7 +3,7 @@
 #include <vector>
 
 #include "acoustics/bands.h"
-#include "models/floors/resilient_layers.h"
+#include "models/floors/resilient_mats.h"
 #include "models/plates/plate_layer.h"
 
 namespace velmar::models {
@@ -12,7 +12,7 @@ namespace velmar::models {
 struct FloatingScreedInput {
   std::vector<PlateLayer> slab;
   std::vector<PlateLayer> screed;
-  std::vector<ResilientLayer> resilient;
+  std::vector<ResilientMat> resilient;
   double side_a_m = 0.0;  ///< its sign is dropped, like that of the other side
   double side_b_m = 0.0;
 };

@@ -8,9 +8,9 @@ double SurfaceMass(std::span<const PlateLayer> layers) {
   return mass;
 }
 
-double SurfaceMass(std::span<const ResilientLayer> layers) {
+double SurfaceMass(std::span<const ResilientMat> layers) {
   double mass = 0.0;
-  for (const ResilientLayer& layer : layers) {
+  for (const ResilientMat& layer : layers) {
     if (layer.density_kg_m3 < 0.0) continue;
     mass += layer.thickness_mm * layer.density_kg_m3 * layer.multiplicity * 0.001;
   }

@@ -2,7 +2,7 @@
 
 #include <span>
 
-#include "models/floors/resilient_layers.h"
+#include "models/floors/resilient_mats.h"
 #include "models/plates/plate_layer.h"
 
 namespace velmar::models {
@@ -11,6 +11,6 @@ namespace velmar::models {
 double SurfaceMass(std::span<const PlateLayer> layers);
 
 /// Surface mass of `layers`, kg/m²; a layer of negative density tells none and does not take part.
-double SurfaceMass(std::span<const ResilientLayer> layers);
+double SurfaceMass(std::span<const ResilientMat> layers);
 
 }  // namespace velmar::models

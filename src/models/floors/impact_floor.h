@@ -4,7 +4,7 @@
 
 #include "acoustics/bands.h"
 #include "foundation/message.h"
-#include "models/floors/resilient_layers.h"
+#include "models/floors/resilient_mats.h"
 #include "models/floors/screed_improvement.h"
 #include "models/plates/plate_layer.h"
 
@@ -24,7 +24,7 @@ struct ImpactFloorInput {
   ImpactFloorVariant variant = ImpactFloorVariant::kFloatingFloor;
   std::vector<PlateLayer> bearing;
   std::vector<PlateLayer> screed;
-  std::vector<ResilientLayer> resilient;
+  std::vector<ResilientMat> resilient;
   double side_a_m = 0.0;  ///< its sign is dropped, like that of the other side
   double side_b_m = 0.0;
 };

@@ -6,7 +6,7 @@
 
 #include "acoustics/logarithm.h"
 #include "foundation/failure.h"
-#include "models/floors/resilient_layers.h"
+#include "models/floors/resilient_mats.h"
 #include "models/plates/failure_rows.h"
 
 namespace velmar::models {

@@ -48,10 +48,14 @@ TEST_P(ImpactRelationOf, GivesRatingAndQuestion) {
   const RelationCase& floor = GetParam();
   const ImpactRelation relation = FindImpactRelation(floor.variant, floor.mass_kg_m2, floor.thickness_m);
   ASSERT_EQ(relation.lnw_db.has_value(), floor.lnw_db.has_value());
-  if (floor.lnw_db) EXPECT_NEAR(*relation.lnw_db, *floor.lnw_db, 5e-5);
+  if (floor.lnw_db) {
+    EXPECT_NEAR(*relation.lnw_db, *floor.lnw_db, 5e-5);
+  }
   ASSERT_EQ(relation.question.has_value(), floor.question.has_value())
       << floor.mass_kg_m2 << " kg/m², " << floor.thickness_m << " m";
-  if (floor.question) EXPECT_EQ(relation.question->number, *floor.question);
+  if (floor.question) {
+    EXPECT_EQ(relation.question->number, *floor.question);
+  }
 }
 
 constexpr double kBelow200mm = 0.19999999999999998;

@@ -92,7 +92,7 @@ TEST(ImpactFloor, WithoutAResilientLayerTheScreedIsPartOfTheSlab) {
   EXPECT_NEAR(outcome.loss_factor, 0.015, 1e-12);
 }
 
-TEST(ImpactFloor, AMatWithoutDynamicStiffnessIsNoResilientLayer) {
+TEST(ImpactFloor, AMatWithoutDynamicStiffnessIsNoResilientMat) {
   ImpactFloorInput input = SlabWithScreed();
   const ImpactFloorOutcome bonded = CalculateImpactFloor(input);
   input.resilient = {Mat(0.0)};

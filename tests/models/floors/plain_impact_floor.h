@@ -38,7 +38,7 @@ inline PlainImpactFloor CalculatePlainly(const ImpactFloorInput& input) {
   const PlainSums bearing = SumPlainly(input.bearing);
   const PlainSums screed = SumPlainly(input.screed);
   double compliance = 0;
-  for (const ResilientLayer& mat : input.resilient) {
+  for (const ResilientMat& mat : input.resilient) {
     if (mat.dynamic_stiffness_mn_m3 != 0) compliance += mat.multiplicity / mat.dynamic_stiffness_mn_m3;
   }
   const bool floating = compliance > 0;

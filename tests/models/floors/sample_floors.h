@@ -6,7 +6,7 @@
 #include <random>
 #include <vector>
 
-#include "models/floors/resilient_layers.h"
+#include "models/floors/resilient_mats.h"
 #include "models/plates/plate_layer.h"
 
 namespace velmar::models {
@@ -27,7 +27,7 @@ inline PlateLayer Mortar(double thickness_mm) {
           .poissons_ratio = 0.2};
 }
 
-inline ResilientLayer Mat(double dynamic_stiffness_mn_m3) {
+inline ResilientMat Mat(double dynamic_stiffness_mn_m3) {
   return {.thickness_mm = 10.0, .density_kg_m3 = 30.0, .dynamic_stiffness_mn_m3 = dynamic_stiffness_mn_m3};
 }
 
@@ -51,10 +51,9 @@ inline std::vector<PlateLayer> RandomLayers(std::mt19937& random, int most) {
 }
 
 /// Up to three layers, some without a dynamic stiffness.
-inline std::vector<ResilientLayer> RandomMats(std::mt19937& random) {
-  std::vector<ResilientLayer> mats(
-      static_cast<std::size_t>(std::uniform_int_distribution<int>(0, 3)(random)));
-  for (ResilientLayer& mat : mats) {
+inline std::vector<ResilientMat> RandomMats(std::mt19937& random) {
+  std::vector<ResilientMat> mats(static_cast<std::size_t>(std::uniform_int_distribution<int>(0, 3)(random)));
+  for (ResilientMat& mat : mats) {
     mat = {.multiplicity = std::uniform_int_distribution<int>(1, 4)(random),
            .thickness_mm = Between(random, 2.0, 50.0),
            .density_kg_m3 = Between(random, -20.0, 200.0),

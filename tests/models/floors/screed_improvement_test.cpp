@@ -41,7 +41,7 @@ TEST(ScreedImprovement, WeightedValueStandsAFixedStepAboveTheBandOf500Hz) {
   }
 }
 
-TEST(ScreedImprovement, IsNoneWithoutScreedOrResilientLayer) {
+TEST(ScreedImprovement, IsNoneWithoutScreedOrResilientMat) {
   for (const auto& [mass, stiffness] : {std::pair{0.0, 8.0}, {100.0, 0.0}, {0.0, 0.0}}) {
     const ScreedImprovement improvement = FindScreedImprovement(mass, stiffness);
     EXPECT_EQ(improvement.resonance_hz, 0.0);

@@ -1,4 +1,4 @@
-#include "models/floors/resilient_layers.h"
+#include "models/floors/resilient_mats.h"
 
 #include <limits>
 #include <vector>
@@ -14,7 +14,7 @@ namespace {
 
 struct StiffnessCase {
   const char* what;
-  std::vector<ResilientLayer> layers;
+  std::vector<ResilientMat> layers;
   double expected_mn_m3;
 };
 
@@ -24,8 +24,8 @@ TEST_P(CombinedStiffness, AddsTheCompliances) {
   EXPECT_DOUBLE_EQ(CombinedDynamicStiffness(GetParam().layers), GetParam().expected_mn_m3) << GetParam().what;
 }
 
-ResilientLayer Mats(int multiplicity, double dynamic_stiffness_mn_m3) {
-  ResilientLayer layer = Mat(dynamic_stiffness_mn_m3);
+ResilientMat Mats(int multiplicity, double dynamic_stiffness_mn_m3) {
+  ResilientMat layer = Mat(dynamic_stiffness_mn_m3);
   layer.multiplicity = multiplicity;
   return layer;
 }
@@ -53,7 +53,7 @@ TEST(CombinedStiffness, FailsOnWhatIsNoStiffness) {
 
 // 2 x 10 mm x 30 kg/m³ = 0.6 kg/m²; a density below 0 stands for none.
 TEST(SurfaceMass, CountsEverySheetOfKnownDensity) {
-  ResilientLayer unknown = Mat(20.0);
+  ResilientMat unknown = Mat(20.0);
   unknown.density_kg_m3 = -1.0;
   EXPECT_DOUBLE_EQ(SurfaceMass(std::vector{Mats(2, 20.0), unknown}), 0.6);
   PlateLayer screed = Mortar(25.0);

@@ -1,4 +1,4 @@
-#include "models/floors/resilient_layers.h"
+#include "models/floors/resilient_mats.h"
 
 #include <cmath>
 #include <string>
@@ -16,9 +16,9 @@ double RequireStiffness(double value) {
 
 }  // namespace
 
-double CombinedDynamicStiffness(std::span<const ResilientLayer> layers) {
+double CombinedDynamicStiffness(std::span<const ResilientMat> layers) {
   double compliance = 0.0;
-  for (const ResilientLayer& layer : layers) {
+  for (const ResilientMat& layer : layers) {
     if (layer.dynamic_stiffness_mn_m3 == 0.0) continue;
     compliance += layer.multiplicity / RequireStiffness(layer.dynamic_stiffness_mn_m3);
   }
