@@ -10,9 +10,9 @@ namespace velmar::models {
 
 /// All that the airborne calculation of a floor with a floating screed reads.
 struct FloatingScreedInput {
-  std::vector<PlateLayer> slab;
-  std::vector<PlateLayer> screed;
-  std::vector<ResilientMat> resilient;
+  std::vector<PlateLayer> slab{};
+  std::vector<PlateLayer> screed{};
+  std::vector<ResilientMat> resilient{};
   double side_a_m = 0.0;  ///< its sign is dropped, like that of the other side
   double side_b_m = 0.0;
 };

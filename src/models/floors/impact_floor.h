@@ -22,9 +22,9 @@ enum class ImpactFloorVariant {
 /// All that the impact sound calculation reads.
 struct ImpactFloorInput {
   ImpactFloorVariant variant = ImpactFloorVariant::kFloatingFloor;
-  std::vector<PlateLayer> bearing;
-  std::vector<PlateLayer> screed;
-  std::vector<ResilientMat> resilient;
+  std::vector<PlateLayer> bearing{};
+  std::vector<PlateLayer> screed{};
+  std::vector<ResilientMat> resilient{};
   double side_a_m = 0.0;  ///< its sign is dropped, like that of the other side
   double side_b_m = 0.0;
 };
@@ -36,7 +36,7 @@ inline constexpr MessageRow kInvalidLossFactorRow{1070};
 struct ImpactFloorOutcome {
   acoustics::Spectrum impact_level_db{};     ///< Ln of the floor without the improvement of the screed
   acoustics::Spectrum reduction_index_db{};  ///< R
-  ScreedImprovement improvement;
+  ScreedImprovement improvement{};
   double critical_frequency_hz = 0.0;
   double loss_factor = 0.0;  ///< of the bearing layers alone, mean by thickness
   double mass_kg_m2 = 0.0;   ///< M, of the slab; a screed that does not float counts as part of it

@@ -11,9 +11,9 @@ namespace velmar::models {
 /// What the relation of a kind of floor says of one floor.
 struct ImpactRelation {
   /// Ln,w in dB of the floor without a floating screed; nothing when the calculated rating stands.
-  std::optional<double> lnw_db;
+  std::optional<double> lnw_db{};
   /// The question to ask before the relation is used: the floor lies outside its range.
-  std::optional<MessageRow> question;
+  std::optional<MessageRow> question{};
 };
 
 /// The relation of the variant, a regression on measured floors over the surface mass (for hollow blocks

@@ -1,24 +1,22 @@
 #include "models/floors/floating_screed.h"
 
-#include <array>
 #include <cmath>
 #include <cstddef>
 #include <random>
+#include <vector>
 
 #include <gtest/gtest.h>
 
-#include "acoustics/fine_grid.h"
 #include "foundation/failure.h"
 #include "models/plates/failure_rows.h"
-#include "models/plates/loss_factor.h"
-#include "models/plates/transmission.h"
+#include "models/relations/relation.h"
+#include "tests/models/floors/plain_floating_screed.h"
 #include "tests/models/floors/sample_floors.h"
 
 namespace velmar::models {
 namespace {
 
 using acoustics::kBandCount;
-using acoustics::kFineGridPoints;
 
 /// 4 m by 5 m: 160 mm of concrete, 50 mm of mortar on a mat.
 FloatingScreedInput Floor() {
@@ -27,6 +25,14 @@ FloatingScreedInput Floor() {
           .resilient = {Mat(8.0)},
           .side_a_m = 4.0,
           .side_b_m = 5.0};
+}
+
+FloatingScreedInput RandomFloor(std::mt19937& random) {
+  return {.slab = RandomLayers(random, 10),
+          .screed = RandomLayers(random, 10),
+          .resilient = RandomMats(random),
+          .side_a_m = Between(random, 0.05, 30.0),
+          .side_b_m = Between(random, 0.05, 30.0)};
 }
 
 // m1 = 0.16 x 2400 = 384, m2 = 0.05 x 2000 = 100 kg/m², the mat 10 x 30 x 0.001 = 0.3 kg/m².
@@ -43,23 +49,45 @@ TEST(FloatingScreed, SumsSlabAndScreedIntoOnePlate) {
   EXPECT_NEAR(outcome.critical_frequency_hz, 110.838, 5e-4);
 }
 
-// Law of the model: BandR at each point of the grid, of one plate with the mats' mass, the losses of one
-// without.
-TEST(FloatingScreed, GivesTheCurveOfThatPlate) {
-  const FloatingScreedOutcome outcome = CalculateFloatingScreed(Floor());
-  const LossTerms terms =
-      FindLossTerms(484.0, outcome.loss_factor, outcome.critical_frequency_hz, {.a_m = 4.0, .b_m = 5.0});
-  std::array<double, kFineGridPoints> fine{};
-  double loss = 0.0;
-  for (std::size_t point = 0; point < kFineGridPoints; ++point) {
-    const double f = acoustics::FineGridFrequency(point);
-    loss = TotalLossFactor(terms, f, loss);
-    fine[point] = BandR(f, {.mass_kg_m2 = 484.3, .bending_n_m = outcome.bending_n_m, .loss_factor = loss});
+TEST(FloatingScreed, EqualsThePlainFormulas) {
+  std::mt19937 random(496);
+  std::vector<FloatingScreedInput> floors = {Floor()};
+  for (int run = 0; run < 5; ++run) floors.push_back(RandomFloor(random));
+  for (const FloatingScreedInput& floor : floors) {
+    const acoustics::Spectrum expected = PlainFloatingScreed(floor);
+    const FloatingScreedOutcome outcome = CalculateFloatingScreed(floor);
+    for (std::size_t band = 0; band < kBandCount; ++band) {
+      EXPECT_NEAR(outcome.reduction_index_db[band], expected[band], 1e-9) << band;
+    }
   }
-  const acoustics::Spectrum expected = acoustics::FineGridToBands(fine);
-  for (std::size_t band = 0; band < kBandCount; ++band) {
-    EXPECT_NEAR(outcome.reduction_index_db[band], expected[band], 1e-9) << band;
+}
+
+/// What relation 17 reads of the floor.
+RelationInput RelationInputOf(const FloatingScreedInput& input) {
+  const FloatingScreedOutcome outcome = CalculateFloatingScreed(input);
+  RelationInput relation;
+  relation.leaf1_mass_kg_m2 = outcome.slab_mass_kg_m2;
+  relation.leaf2_mass_kg_m2 = outcome.screed_mass_kg_m2;
+  for (const ResilientMat& mat : input.resilient) {
+    relation.resilient_layers.push_back({mat.dynamic_stiffness_mn_m3, mat.multiplicity});
   }
+  return relation;
+}
+
+// M = 484 kg/m²: 23 lg 484 - 8 = 53.7514 dB. f0 = 160 sqrt((1 / 100 + 1 / 384) 8) = 50.8068 Hz:
+// 72 - (26.8757 + 34.1184) = 11.0058 dB.
+TEST(FloatingScreed, HandsItsMassesToTheRelation) {
+  const RelationValue value = EvaluateRelation(RelationId::kFloatingScreed, RelationInputOf(Floor()));
+  EXPECT_NEAR(value.improvement_db, 11.0058F, 5e-4F);
+  EXPECT_NEAR(value.rating_db, 53.7514F + 11.0058F, 5e-4F);
+}
+
+TEST(FloatingScreed, WithoutResilientLayersTheRelationImprovesNothing) {
+  FloatingScreedInput input = Floor();
+  input.resilient.clear();
+  const RelationValue value = EvaluateRelation(RelationId::kFloatingScreed, RelationInputOf(input));
+  EXPECT_EQ(value.improvement_db, 0.0F);
+  EXPECT_NEAR(value.rating_db, 53.7514F, 5e-4F);
 }
 
 TEST(FloatingScreed, WithoutResilientLayersThePlateWeighsSlabAndScreed) {
@@ -143,11 +171,7 @@ INSTANTIATE_TEST_SUITE_P(
 TEST(FloatingScreed, RandomFloorsGiveFiniteNumbers) {
   std::mt19937 random(1717);
   for (int run = 0; run < 1000; ++run) {
-    const FloatingScreedOutcome outcome = CalculateFloatingScreed({.slab = RandomLayers(random, 10),
-                                                                   .screed = RandomLayers(random, 10),
-                                                                   .resilient = RandomMats(random),
-                                                                   .side_a_m = Between(random, 0.05, 30.0),
-                                                                   .side_b_m = Between(random, 0.05, 30.0)});
+    const FloatingScreedOutcome outcome = CalculateFloatingScreed(RandomFloor(random));
     for (const double level : outcome.reduction_index_db) ASSERT_TRUE(std::isfinite(level)) << run;
     ASSERT_TRUE(std::isfinite(outcome.critical_frequency_hz) && std::isfinite(outcome.bending_n_m));
   }
