@@ -50,15 +50,15 @@ void SeaLineBridgeCoupling(const SeaLineBridge& bridge, const HzSpectrum& radiat
   const double forced = bridge.count * kAirDensity / (m * m * kTwoPi) * resistance;
   const double resonant = bridge.count * kAirImpedance / (kTwoPi * m * bridge.loss_factor);
   RequireBalance(resonant, forced);
-  for (std::size_t hz = 1; hz <= kHighestHz; ++hz) {
-    const auto f = static_cast<double>(hz);
-    coupling[hz] = (forced * std::sqrt(f) + radiation_efficiency[hz] * resonant) / f;
+  const HzSpectrum& roots = RootsOfHz();
+  for (std::size_t f = 1; f <= kHighestHz; ++f) {
+    coupling[f] = (forced * roots[f] + radiation_efficiency[f] * resonant) / static_cast<double>(f);
   }
 }
 
 void AddBridge(const HzSpectrum& coupling, HzSpectrum& power_ratio) {
   for (std::size_t f = 1; f <= kHighestHz; ++f) {
-    const double ratio = 1.0 / (1.0 / power_ratio[f] + coupling[f]);
+    const double ratio = power_ratio[f] / (1.0 + power_ratio[f] * coupling[f]);
     power_ratio[f] = ratio < 1.0 ? 1.0 : ratio;
   }
 }

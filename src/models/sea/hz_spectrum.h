@@ -13,6 +13,9 @@ inline constexpr std::size_t kHighestHz = 6000;
 /// transmitted sound power, in which the models calculate because it needs no logarithm.
 using HzSpectrum = std::array<double, kHighestHz + 1>;
 
+/// The square root of each frequency, the only root of a frequency alone that the formulas need.
+const HzSpectrum& RootsOfHz();
+
 // Literals of the energy balances, none derived from another.
 inline constexpr double kFourfoldAirImpedance = 1810.644;  ///< 4 rho0 c0, Pa·s/m
 inline constexpr double kPiAirImpedance = 1422.0797976;    ///< pi rho0 c0, Pa·s/m

@@ -21,6 +21,17 @@ constexpr double kMinus5Db = 0.31622776601683794;
 
 bool IsPositiveFinite(double x) { return x > 0.0 && x <= std::numeric_limits<double>::max(); }
 
+/// So far from the ends of the number range that positive factors leave a positive finite balance.
+bool IsOrdinary(double x) { return x > 1e-60 && x < 1e60; }
+
+void RequireBalance(const HzSpectrum& power_ratio) {
+  for (std::size_t f = 1; f <= kHighestHz; ++f) {
+    if (!IsPositiveFinite(power_ratio[f])) {
+      throw ArithmeticFailure(kNoLeafBalanceRow, "no energy balance of a leaf at some frequency");
+    }
+  }
+}
+
 }  // namespace
 
 void SeaLeafPowerRatio(const HzSpectrum& radiation_efficiency, const SeaLeaf& leaf, HzSpectrum& power_ratio) {
@@ -34,20 +45,19 @@ void SeaLeafPowerRatio(const HzSpectrum& radiation_efficiency, const SeaLeaf& le
   if (!IsPositiveFinite(std::abs(resonance)) || !IsPositiveFinite(inertia)) {
     throw ArithmeticFailure(kNoBendingWaveRow, "a leaf has no mass, thickness or wave speed");
   }
-  // Both paths over f³ eta sqrt(f): one division and one root a frequency.
+  const HzSpectrum& roots = RootsOfHz();
+  // Both paths over f³ eta sqrt(f): one division a frequency.
   for (std::size_t hz = 1; hz <= kHighestHz; ++hz) {
     const auto f = static_cast<double>(hz);
-    const double root = std::sqrt(f);
-    const double loss = leaf.loss_factor * root + radiation_loss;
+    const double loss = leaf.loss_factor * roots[hz] + radiation_loss;
     const double efficiency = radiation_efficiency[hz];
     power_ratio[hz] =
         f * f * f * loss /
-        (kFourfoldAirImpedance * (resonance * efficiency * efficiency * root + inertia * f * loss));
+        (kFourfoldAirImpedance * (resonance * efficiency * efficiency * roots[hz] + inertia * f * loss));
   }
-  for (std::size_t hz = 1; hz <= kHighestHz; ++hz) {
-    if (!IsPositiveFinite(power_ratio[hz])) {
-      throw ArithmeticFailure(kNoLeafBalanceRow, "no energy balance of a leaf at some frequency");
-    }
+  if (!IsOrdinary(resonance) || !IsOrdinary(inertia) || !IsOrdinary(leaf.loss_factor + radiation_loss) ||
+      leaf.loss_factor < 0.0) {
+    RequireBalance(power_ratio);
   }
   for (std::size_t hz = 1; hz <= kHighestHz; ++hz) {
     const double normal = impedance * static_cast<double>(hz);

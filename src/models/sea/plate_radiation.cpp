@@ -72,13 +72,17 @@ bool HasPoleOnGrid(double critical_frequency_hz) {
 /// Edge and corner radiation at 1 Hz to `last_hz`, all of them below coincidence. A negative efficiency
 /// counts as 1.
 void FillEdgeModes(const RadiationFormula& formula, std::size_t last_hz, HzSpectrum& efficiency) {
+  const HzSpectrum& roots = RootsOfHz();
+  const double per_hz = 1.0 / formula.critical_frequency_hz;
+  const double per_root = 1.0 / std::sqrt(formula.critical_frequency_hz);
   for (std::size_t f = 1; f <= last_hz; ++f) {
-    const double wave_ratio = std::sqrt(static_cast<double>(f) / formula.critical_frequency_hz);
-    efficiency[f] = std::log((1.0 + wave_ratio) / (1.0 - wave_ratio));
+    const double wave_ratio = roots[f] * per_root;
+    efficiency[f] = (1.0 + wave_ratio) / (1.0 - wave_ratio);
   }
+  for (std::size_t f = 1; f <= last_hz; ++f) efficiency[f] = std::log(efficiency[f]);
   for (std::size_t f = 1; f <= last_hz; ++f) {
-    const double ratio = static_cast<double>(f) / formula.critical_frequency_hz;
-    const double wave_ratio = std::sqrt(ratio);
+    const double ratio = static_cast<double>(f) * per_hz;
+    const double wave_ratio = roots[f] * per_root;
     const double distance = 1.0 - ratio;
     const double edge = formula.edge * (efficiency[f] * distance + 2.0 * wave_ratio) * wave_ratio;
     const double corner = formula.corner * (1.0 - 2.0 * ratio) * distance;
@@ -87,11 +91,8 @@ void FillEdgeModes(const RadiationFormula& formula, std::size_t last_hz, HzSpect
   }
 }
 
-/// Supersonic radiation from `first_hz` on.
-void FillSupersonic(const RadiationFormula& formula, std::size_t first_hz, HzSpectrum& efficiency) {
-  for (std::size_t f = first_hz; f <= kHighestHz; ++f) {
-    efficiency[f] = 1.0 / std::sqrt(std::abs(1.0 - formula.critical_frequency_hz / static_cast<double>(f)));
-  }
+double Supersonic(const RadiationFormula& formula, std::size_t hz) {
+  return 1.0 / std::sqrt(std::abs(1.0 - formula.critical_frequency_hz / static_cast<double>(hz)));
 }
 
 /// Whether the level of `left` is not above that of `right`. The levels are only formed where their rounding
@@ -146,19 +147,22 @@ std::size_t TakePlateau(const RadiationFormula& formula, std::size_t after_hz, s
 }
 
 /// The plateau as far as supersonic radiation exceeds it, supersonic radiation beyond.
-void TakeSupersonic(const RadiationFormula& formula, std::size_t after_hz, HzSpectrum& scratch,
+void TakeSupersonic(const RadiationFormula& formula, std::size_t after_hz, std::size_t below_hz,
                     HzSpectrum& efficiency) {
   if (after_hz == kHighestHz) return;
-  FillSupersonic(formula, after_hz + 1, scratch);
   std::size_t last = 0;
   for (std::size_t f = after_hz + 1; f <= kHighestHz; ++f) {
-    if (IsLevelNotAbove(formula.plateau, scratch[f])) {
+    if (IsLevelNotAbove(formula.plateau, Supersonic(formula, f))) {
       efficiency[f] = formula.plateau;
       last = f;
+    } else if (f > below_hz + 1) {
+      break;  // above coincidence the radiation only falls
     }
   }
-  if (last == 0 && after_hz > 0) FillSupersonic(formula, 1, scratch);
-  for (std::size_t f = last + 1; f <= kHighestHz; ++f) efficiency[f] = scratch[f];
+  const std::size_t coincidence = std::max(last, below_hz) + 1;
+  for (std::size_t f = last + 1; f < coincidence; ++f) efficiency[f] = Supersonic(formula, f);
+  // Above coincidence it never falls below 1, which no cap lets through: any such number will do.
+  for (std::size_t f = coincidence; f <= kHighestHz; ++f) efficiency[f] = 1.0;
 }
 
 }  // namespace
@@ -193,10 +197,9 @@ SeaPlate SeaPlateRadiation(const SeaPlateInput& input) {
   const std::size_t low_end = TakeLow(formula, scratch, efficiency);
   const std::size_t edge_end = TakeEdgeModes(formula, low_end, below_hz, scratch, efficiency);
   const std::size_t plateau_end = TakePlateau(formula, edge_end, below_hz, efficiency);
-  TakeSupersonic(formula, plateau_end, scratch, efficiency);
-  for (std::size_t f = 1; f <= kHighestHz; ++f) {
-    efficiency[f] = std::min(efficiency[f], input.radiation_cap);
-  }
+  TakeSupersonic(formula, plateau_end, below_hz, efficiency);
+  const double cap = std::min(input.radiation_cap, kSingleWallRadiationCap);
+  for (std::size_t f = 1; f <= kHighestHz; ++f) efficiency[f] = std::min(efficiency[f], cap);
   plate.critical_frequency_hz = critical_hz;
   plate.longitudinal_speed_m_s = speed;
   plate.surface_mass_kg_m2 = mass;

@@ -23,8 +23,8 @@ struct SeaPlateInput {
   double length_a_m = 0.0;
   double length_b_m = 0.0;
   std::array<SeaSheet, 3> sheets{};
-  double poissons_ratio = 0.0;  ///< of the main sheet
-  double radiation_cap = kSingleWallRadiationCap;
+  double poissons_ratio = 0.0;                     ///< of the main sheet
+  double radiation_cap = kSingleWallRadiationCap;  ///< above 0, at most 1
 };
 
 /// Why a leaf has no radiation efficiency.

@@ -17,7 +17,7 @@ constexpr double kMinus5Point5Db = 0.28183829312644537;
 
 void MultiplyPorousLayer(const SeaPorousLayer& layer, HzSpectrum& absorption, HzSpectrum& power_ratio) {
   if (!layer.is_present) {
-    for (std::size_t f = 1; f <= kHighestHz; ++f) power_ratio[f] /= kRestTransmission;
+    for (std::size_t f = 1; f <= kHighestHz; ++f) power_ratio[f] *= 1.0 / kRestTransmission;
     return;
   }
   const double per_hz = acoustics::kPi * (layer.thickness_m * layer.density_kg_m3) / acoustics::kAirImpedance;
