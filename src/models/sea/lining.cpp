@@ -20,8 +20,7 @@ constexpr std::array<double, 3> kHangerConnections = {kRigidConnections, 2.0, 0.
 
 bool IsPositive(const std::optional<double>& value) { return value && *value > 0.0; }
 
-/// The bands that the base element brings: level in dB where it stands alone, power ratio where the cavity's
-/// masses add to it.
+/// Band means of the base element above the mass law, where it adds to the lining decibel by decibel.
 acoustics::Spectrum BaseBands(const HzSpectrum& base_db, std::size_t mass_law_end) {
   HzSpectrum above = base_db;
   for (std::size_t f = 0; f <= mass_law_end; ++f) above[f] = 0.0;
