@@ -32,8 +32,6 @@ class ArithmeticFailure : public Failure {
   explicit ArithmeticFailure(std::string detail);
   /// @param cause the row that tells the user what to check
   ArithmeticFailure(MessageRow cause, std::string detail);
-  /// @param cause the line that tells the user what to check
-  ArithmeticFailure(MessageLine cause, std::string detail);
 };
 
 /// `value` itself when it is finite.

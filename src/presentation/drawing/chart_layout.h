@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QColor>
+#include <QFont>
+#include <QRectF>
+#include <QString>
+#include <vector>
+
+#include "presentation/drawing/chart_scale.h"
+#include "presentation/drawing/curve_chart.h"
+
+namespace velmar::presentation {
+
+/// One entry of the legend: a sample in `colour` with `text` behind it.
+struct LegendEntry {
+  QString text{};
+  QColor colour{};
+  bool dotted = true;  ///< a curve with dots; the reference curve has none
+  QRectF box{};
+};
+
+/// Where the pieces of a chart stand.
+struct ChartLayout {
+  QFont font{};
+  double text_px = 0.0;
+  QRectF plot{};
+  QRectF title{};
+  QRectF frequency_axis{};
+  QRectF frequency_labels{};
+  QRectF level_axis{};  ///< a column; its text runs upwards
+  std::vector<LegendEntry> legend{};
+
+  /// The point of `band` at logical height `y` (0 to 90).
+  QPointF At(double band, double y) const;
+};
+
+/// The places of the pieces of `chart` within `area`. The legend takes as many lines as its words need.
+ChartLayout LayoutOf(const QRectF& area, const CurveChart& chart, const QFont& font);
+
+}  // namespace velmar::presentation

@@ -1,0 +1,80 @@
+#include "presentation/drawing/chart_scale.h"
+
+#include <algorithm>
+
+#include "foundation/rounding.h"
+
+namespace velmar::presentation {
+namespace {
+
+constexpr std::size_t kStartBand = 10;  // 500 Hz
+// The reference values that take part in the range: 100 Hz upwards, 2500 Hz downwards.
+constexpr std::size_t kRaisingReference = 0;
+constexpr std::size_t kLoweringReference = 14;
+
+void Widen(ChartRange& range, double value) {
+  if (value > range.maximum) range.maximum = value;
+  if (value != 0.0 && value < range.minimum) range.minimum = value;
+}
+
+}  // namespace
+
+ChartRange RangeOf(const CurveChart& chart) {
+  ChartRange range;
+  if (chart.autoscale) {
+    range = {chart.values[kStartBand], chart.values[kStartBand]};
+    for (std::size_t band = chart.first_band + 1; band <= chart.last_band; ++band) {
+      Widen(range, chart.values[band]);
+      if (chart.base) Widen(range, (*chart.base)[band]);
+      for (const auto* overlay : {&chart.laboratory, &chart.in_situ}) {
+        if (*overlay && (**overlay)[band] != 0.0) Widen(range, (**overlay)[band]);
+      }
+    }
+    if (chart.shift) {
+      range.maximum = std::max(range.maximum, chart.reference[kRaisingReference] + *chart.shift);
+      range.minimum = std::min(range.minimum, chart.reference[kLoweringReference] + *chart.shift);
+    }
+  }
+  if (range.maximum == range.minimum) range.maximum += 1.0;
+  return range;
+}
+
+std::array<int, kAxisLabelCount> AxisLabels(const ChartRange& range) {
+  std::array<int, kAxisLabelCount> labels{};
+  for (std::size_t i = 0; i < labels.size(); ++i) {
+    const double value = (range.maximum - range.minimum) * static_cast<double>(i) / 7.0 + range.minimum;
+    labels[i] = static_cast<int>(RoundToEven(value));
+  }
+  return labels;
+}
+
+double LogicalY(double level_db, const ChartRange& range) {
+  return 80.0 + (level_db - range.maximum) * (70.0 / (range.maximum - range.minimum));
+}
+
+std::vector<ChartSegment> CurveSegments(const acoustics::Spectrum& values, std::size_t first,
+                                        std::size_t last) {
+  std::vector<ChartSegment> segments;
+  std::size_t from = acoustics::kBandCount - 1;
+  std::size_t to = 0;
+  for (std::size_t band = first; band < last; ++band) {
+    if (to > from) {
+      segments.push_back({from, to});
+      from = to;
+    }
+    if (values[band] != 0.0) from = band;
+    if (values[band + 1] != 0.0) to = band + 1;
+  }
+  if (to > from) segments.push_back({from, to});
+  return segments;
+}
+
+std::vector<std::size_t> DottedBands(const acoustics::Spectrum& values, std::size_t first, std::size_t last) {
+  std::vector<std::size_t> bands;
+  for (std::size_t band = first; band <= last; ++band) {
+    if (values[band] != 0.0) bands.push_back(band);
+  }
+  return bands;
+}
+
+}  // namespace velmar::presentation

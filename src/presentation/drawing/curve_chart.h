@@ -1,0 +1,65 @@
+#pragma once
+
+#include <QFont>
+#include <QRectF>
+#include <array>
+#include <cstddef>
+#include <optional>
+#include <string>
+
+#include "acoustics/airborne_rating.h"
+#include "acoustics/bands.h"
+#include "elements/result_set.h"
+#include "elements/setup.h"
+#include "presentation/texts/words.h"
+
+class QPainter;
+
+namespace velmar::presentation {
+
+/// What the chart says in words, UTF-8. An empty text is not drawn.
+struct ChartWords {
+  std::string title{};
+  std::string frequency_axis{};
+  std::string level_axis{};
+  std::string calculated{};
+  std::string reference{};
+  std::string laboratory{};
+  std::string in_situ{};
+  std::string base{};
+};
+
+/// A result as curves over the bands. A value of exactly 0 is a band without a value. Levels in dB.
+struct CurveChart {
+  acoustics::Spectrum values{};
+  std::array<double, acoustics::kRatedBandCount> reference = acoustics::kAirborneReference;
+  std::optional<double> shift;                    ///< of the reference curve; without one it is not drawn
+  std::optional<acoustics::Spectrum> base;        ///< the element under a lining
+  std::optional<acoustics::Spectrum> laboratory;  ///< compared with, measured in the laboratory
+  std::optional<acoustics::Spectrum> in_situ;     ///< compared with, measured in a building
+  bool autoscale = false;                         ///< false: 10 to 80 dB
+  std::size_t first_band = 0;
+  std::size_t last_band = acoustics::kBandCount - 1;
+  std::optional<std::size_t> highlighted_band;  ///< marked by a line, as under the mouse
+  ChartWords words{};
+};
+
+/// The chart of a result; nothing when it has no curve (generic linings, a facade by single numbers).
+std::optional<CurveChart> CurveChartOf(const elements::Setup& setup, const elements::ResultSet& result,
+                                       const Words& words);
+
+/// A chart without curves for the time before a run: grid and axes alone.
+CurveChart EmptyChart(const Words& words);
+
+/// Draws `chart` into `area`, on white, in units of which one is a screen pixel; screen, printer, preview and
+/// report picture all call this. The painter's font gives the family and the size of the labels.
+void DrawCurveChart(QPainter& painter, const QRectF& area, const CurveChart& chart);
+
+/// Where the curves of `chart` stand when it is drawn into `area` with `font`.
+QRectF PlotArea(const QRectF& area, const CurveChart& chart, const QFont& font);
+
+/// The band nearest to `position` in a chart drawn into `area` with `font`; nothing beside the curves.
+std::optional<std::size_t> BandAt(const QPointF& position, const QRectF& area, const CurveChart& chart,
+                                  const QFont& font);
+
+}  // namespace velmar::presentation

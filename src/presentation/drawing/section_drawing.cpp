@@ -1,0 +1,165 @@
+#include "presentation/drawing/section_drawing.h"
+
+#include <QPainter>
+#include <algorithm>
+#include <array>
+
+#include "presentation/drawing/colours.h"
+#include "presentation/drawing/hatches.h"
+#include "presentation/drawing/section_layout.h"
+#include "presentation/drawing/text.h"
+
+namespace velmar::presentation {
+namespace {
+
+constexpr double kBorderWidth = 1.0;
+constexpr double kArrowHead = 7.0;
+constexpr double kLargestDot = 1.8;
+const QColor kHighlightTint(0x16, 0x25, 0x4B, 0x38);
+
+void DrawStrips(QPainter& painter, const SectionLayout& layout, const Section& section,
+                const SectionOptions& options) {
+  for (std::size_t i = 0; i < section.strips.size(); ++i) {
+    FillStrip(painter, layout.strips[i], section.strips[i].kind, section.horizontal);
+  }
+  painter.setRenderHint(QPainter::Antialiasing, false);
+  painter.setBrush(Qt::NoBrush);
+  // Sheets thinner than a few pixels would drown in black borders.
+  for (const QRectF& strip : layout.strips) {
+    const double depth = section.horizontal ? strip.height() : strip.width();
+    painter.setPen(QPen(Qt::black, std::clamp(depth / 5.0, 0.25, kBorderWidth)));
+    painter.drawRect(strip);
+  }
+  if (options.highlighted_number == 0) return;
+  for (std::size_t i = 0; i < section.strips.size(); ++i) {
+    if (section.strips[i].number != options.highlighted_number) continue;
+    painter.fillRect(layout.strips[i], kHighlightTint);
+    const double depth = std::min(layout.strips[i].width(), layout.strips[i].height());
+    painter.setPen(QPen(kInkColour, std::min(2.0 * kBorderWidth, depth / 2.0)));
+    painter.drawRect(layout.strips[i]);
+  }
+}
+
+void DrawNumber(QPainter& painter, const QRectF& box, int number, bool highlighted) {
+  if (highlighted) {
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(kInkColour);
+    painter.drawRoundedRect(box, 2.0, 2.0);
+  }
+  painter.setPen(highlighted ? kPaperColour : kInkColour);
+  DrawTextIn(painter, box, Qt::AlignCenter, QString::number(number));
+}
+
+void DrawLabels(QPainter& painter, const SectionLayout& layout, const SectionOptions& options) {
+  painter.setRenderHint(QPainter::Antialiasing);
+  double thinnest = kLargestDot / 0.45;
+  for (const QRectF& strip : layout.strips) {
+    thinnest = std::min(thinnest, std::min(strip.width(), strip.height()));
+  }
+  const double dot = 0.45 * thinnest;
+  for (const SectionLabel& label : layout.labels) {
+    painter.setPen(QPen(kLeaderColour, kBorderWidth));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawPolyline(label.leader);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(kInkColour);
+    painter.drawEllipse(label.leader.last(), dot, dot);
+  }
+  painter.setFont(PixelFont(layout.font, layout.label_px, true));
+  for (const SectionLabel& label : layout.labels) {
+    DrawNumber(painter, label.box, label.number, label.number == options.highlighted_number);
+  }
+}
+
+void DrawArrowHead(QPainter& painter, const QPointF& tip, const QPointF& back) {
+  const QPointF side(back.y() * 0.35, back.x() * 0.35);
+  const std::array<QPointF, 3> head = {tip, tip + back + side, tip + back - side};
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(kQuietInkColour);
+  painter.drawPolygon(head.data(), 3);
+}
+
+void DrawDimension(QPainter& painter, const SectionLayout& layout, const Section& section) {
+  const double em = layout.text_px;
+  const QRectF& body = layout.body;
+  painter.setFont(layout.font);
+  painter.setRenderHint(QPainter::Antialiasing);
+  const QString end = DimensionText(section.thickness_mm);
+  const QString origin = QStringLiteral("0 (mm)");
+  const QPointF from = section.horizontal ? body.topRight() + QPointF(0.9 * em, 0.0)
+                                          : body.bottomLeft() + QPointF(0.0, 0.8 * em);
+  const QPointF to = section.horizontal ? body.bottomRight() + QPointF(0.9 * em, 0.0)
+                                        : body.bottomRight() + QPointF(0.0, 0.8 * em);
+  const QPointF back = section.horizontal ? QPointF(0.0, kArrowHead) : QPointF(kArrowHead, 0.0);
+  painter.setPen(QPen(kQuietInkColour, kBorderWidth));
+  painter.drawLine(from, to);
+  DrawArrowHead(painter, from, back);
+  DrawArrowHead(painter, to, -back);
+  painter.setPen(kInkColour);
+  if (section.horizontal) {
+    const double x = from.x() + 0.7 * em;
+    const double width = layout.arrow.right() - x;
+    DrawTextIn(painter, QRectF(x, from.y() - 0.2 * em, width, 1.3 * em), Qt::AlignLeft | Qt::AlignVCenter,
+               origin);
+    DrawTextIn(painter, QRectF(x, to.y() - 1.1 * em, width, 1.3 * em), Qt::AlignLeft | Qt::AlignVCenter, end);
+  } else {
+    const QRectF line(body.left(), from.y() + 0.4 * em, body.width(), 1.3 * em);
+    DrawTextIn(painter, line, Qt::AlignLeft | Qt::AlignVCenter, origin);
+    DrawTextIn(painter, line, Qt::AlignRight | Qt::AlignVCenter, end);
+  }
+}
+
+void DrawList(QPainter& painter, const SectionLayout& layout, const SectionOptions& options) {
+  const double number_width = WidthOf(QStringLiteral("00"), layout.font);
+  for (const SectionListEntry& entry : layout.list) {
+    const bool highlighted = entry.number == options.highlighted_number;
+    painter.setFont(PixelFont(layout.font, layout.text_px, true));
+    DrawNumber(painter, QRectF(entry.box.topLeft(), QSizeF(number_width + 2.0, entry.box.height())),
+               entry.number, highlighted);
+    painter.setFont(PixelFont(layout.font, layout.text_px, highlighted));
+    painter.setPen(kInkColour);
+    const QRectF name = entry.box.adjusted(number_width + layout.text_px, 0.0, 0.0, 0.0);
+    DrawTextIn(painter, name, Qt::AlignLeft | Qt::AlignVCenter,
+               Fitted(entry.text, painter.font(), name.width()));
+  }
+}
+
+std::optional<LayerPlace> PlaceOf(const Section& section, int number) {
+  const auto found = std::ranges::find(section.strips, number, &Strip::number);
+  if (number == 0 || found == section.strips.end()) return std::nullopt;
+  return found->place;
+}
+
+}  // namespace
+
+void DrawSection(QPainter& painter, const QRectF& area, const Section& section,
+                 const SectionOptions& options) {
+  if (area.isEmpty()) return;
+  painter.save();
+  painter.fillRect(area, kPaperColour);
+  if (!section.strips.empty()) {
+    const SectionLayout layout = LayoutOf(area, section, painter.font(), options);
+    DrawStrips(painter, layout, section, options);
+    DrawLabels(painter, layout, options);
+    DrawDimension(painter, layout, section);
+    DrawList(painter, layout, options);
+  }
+  painter.restore();
+}
+
+std::optional<LayerPlace> LayerAt(const QPointF& position, const QRectF& area, const Section& section,
+                                  const QFont& font, const SectionOptions& options) {
+  const SectionLayout layout = LayoutOf(area, section, font, options);
+  for (std::size_t i = 0; i < layout.strips.size(); ++i) {
+    if (layout.strips[i].contains(position)) return PlaceOf(section, section.strips[i].number);
+  }
+  for (const SectionLabel& label : layout.labels) {
+    if (label.box.contains(position)) return PlaceOf(section, label.number);
+  }
+  for (const SectionListEntry& entry : layout.list) {
+    if (entry.box.contains(position)) return PlaceOf(section, entry.number);
+  }
+  return std::nullopt;
+}
+
+}  // namespace velmar::presentation

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <QFont>
+#include <QPolygonF>
+#include <QRectF>
+#include <QString>
+#include <vector>
+
+#include "presentation/drawing/section.h"
+#include "presentation/drawing/section_drawing.h"
+
+namespace velmar::presentation {
+
+/// A number beside the strips.
+struct SectionLabel {
+  int number = 0;
+  QRectF box{};
+  QPolygonF leader{};  ///< from the number into its strip
+};
+
+/// A line of the list of names.
+struct SectionListEntry {
+  int number = 0;
+  QString text{};  ///< in full; cut to the box when drawn
+  QRectF box{};
+};
+
+/// Where the pieces of a section stand.
+struct SectionLayout {
+  QFont font{};
+  double text_px = 0.0;
+  double label_px = 0.0;  ///< text of the numbers; smaller when there are many
+  QRectF body{};          ///< the strips
+  std::vector<QRectF> strips{};
+  std::vector<SectionLabel> labels{};
+  std::vector<SectionListEntry> list{};
+  QRectF arrow{};  ///< band of the dimension arrow
+};
+
+/// The far end of the dimension arrow: "330 (mm)".
+QString DimensionText(double thickness_mm);
+
+/// The places of the pieces of `section` within `area`. Numbers never overlap; names are left out where they
+/// would leave too little for the strips.
+SectionLayout LayoutOf(const QRectF& area, const Section& section, const QFont& font,
+                       const SectionOptions& options);
+
+}  // namespace velmar::presentation
