@@ -1,0 +1,23 @@
+#include "storage/project/project_failure.h"
+
+#include <utility>
+
+namespace velmar::storage {
+namespace {
+
+Message DamagedAt(int line_number, MessageLine what) {
+  MessageLine line = {expected::kLineRow, " " + std::to_string(line_number) + ": "};
+  line.insert(line.end(), what.begin(), what.end());
+  return {{kProjectDamagedRow}, std::move(line)};
+}
+
+}  // namespace
+
+ProjectFileFailure::ProjectFileFailure(int line_number, MessageLine what, const std::string& detail)
+    : Failure(DamagedAt(line_number, std::move(what)), "line " + std::to_string(line_number) + ": " + detail),
+      line_number_(line_number) {}
+
+ProjectFileFailure::ProjectFileFailure(Message message, std::string detail)
+    : Failure(std::move(message), std::move(detail)) {}
+
+}  // namespace velmar::storage

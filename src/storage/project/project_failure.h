@@ -1,0 +1,48 @@
+#pragma once
+
+#include <string>
+
+#include "foundation/failure.h"
+#include "foundation/message.h"
+
+namespace velmar::storage {
+
+/// "The project could not be read": the first line of what the user is told.
+inline constexpr MessageRow kProjectDamagedRow{394};
+/// What the user is told of a file that does not exist.
+inline constexpr const char* kProjectMissing = "Impossibile aprire il file: file non trovato";
+
+/// What a line of a project file should have been; rows of the program's own texts.
+namespace expected {
+inline constexpr MessageRow kLineRow{1120};
+inline constexpr MessageRow kFileEndsRow{1121};
+inline constexpr MessageRow kNumberRow{1122};
+inline constexpr MessageRow kIntegerFromRow{1123};
+inline constexpr MessageRow kIntegerToRow{1124};
+inline constexpr MessageRow kOneOfRow{1125};
+inline constexpr MessageRow kBlankRow{1126};
+inline constexpr MessageRow kBeginningRow{1127};
+inline constexpr MessageRow kNullCharacterRow{1128};
+inline constexpr MessageRow kNotUtf8Row{1129};
+inline constexpr MessageRow kForeignVariantRow{1130};
+}  // namespace expected
+
+/// A project file could not be read. Nothing of it was taken over.
+class ProjectFileFailure : public Failure {
+ public:
+  /// Line `line_number` (from 1) of the file is not what the format asks for.
+  /// @param what what was expected, behind "Riga n: "
+  /// @param detail the same in English
+  ProjectFileFailure(int line_number, MessageLine what, const std::string& detail);
+
+  /// The file as a whole cannot be read.
+  ProjectFileFailure(Message message, std::string detail);
+
+  /// The line that stopped the reading; 0 when none did.
+  int LineNumber() const noexcept { return line_number_; }
+
+ private:
+  int line_number_ = 0;
+};
+
+}  // namespace velmar::storage
