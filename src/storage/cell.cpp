@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cctype>
+#include <cmath>
 #include <utility>
 
 #include "foundation/decimal.h"
@@ -40,6 +41,10 @@ std::optional<Cell> ParseCell(ColumnType type, std::string_view text) {
       return Cell{std::string(text)};
     case ColumnType::kNumber:
       if (const auto number = ParseDecimal(text)) return Cell{*number};
+      return std::nullopt;
+    case ColumnType::kWhole:
+      if (const auto number = ParseDecimal(text); number && *number == std::trunc(*number))
+        return Cell{*number};
       return std::nullopt;
     case ColumnType::kYesNo:
       if (const auto yes = ParseYesNo(text)) return Cell{*yes};

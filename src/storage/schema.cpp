@@ -14,6 +14,7 @@ class Columns {
  public:
   Columns& Text(std::string_view name) { return Add(name, ColumnType::kText); }
   Columns& Number(std::string_view name) { return Add(name, ColumnType::kNumber); }
+  Columns& Whole(std::string_view name) { return Add(name, ColumnType::kWhole); }
   Columns& YesNo(std::string_view name) { return Add(name, ColumnType::kYesNo); }
   Columns& Bands(std::string_view prefix) {
     for (const std::string& name : BandColumns(prefix)) Number(name);
@@ -82,6 +83,7 @@ std::string_view SqlType(ColumnType type) {
     case ColumnType::kNumber:
       return "REAL";
     case ColumnType::kYesNo:
+    case ColumnType::kWhole:
       return "INTEGER";
   }
   return "";
@@ -200,6 +202,19 @@ std::vector<TableSchema> ResultTables() {
   return {AirborneResultTable(), ImpactResultTable(), LiningResultTable()};
 }
 
+TableSchema CatalogueTable(const std::vector<std::string>& languages) {
+  Columns columns;
+  for (const std::string& language : languages) columns.Text(language);
+  return {"DRAV", columns, "", false};
+}
+
+TableSchema FurtherTextTable(const std::vector<std::string>& languages) {
+  Columns columns;
+  columns.Whole("Riga");
+  for (const std::string& language : languages) columns.Text(language);
+  return {"Testi", columns, "Riga", true};
+}
+
 std::vector<LibraryFolder> LibraryFolders() {
   std::vector<LibraryFolder> folders;
   for (const LibraryRow& row : kLibrary) {
@@ -226,22 +241,25 @@ std::string QuotedName(std::string_view name) {
   return quoted + '"';
 }
 
-std::string CreateTableStatement(const TableSchema& table) {
-  std::string statement = "CREATE TABLE " + QuotedName(table.name) + " (";
-  for (size_t i = 0; i < table.columns.size(); ++i) {
-    const ColumnSchema& column = table.columns[i];
-    if (i > 0) statement += ", ";
-    statement += QuotedName(column.name) + " ";
-    statement += SqlType(column.type);
-    if (column.name == table.key) statement += " NOT NULL";
+std::vector<std::string> CreateStatements(const TableSchema& table) {
+  std::string columns;
+  bool needs_index = !table.key.empty();
+  for (const ColumnSchema& column : table.columns) {
+    if (!columns.empty()) columns += ", ";
+    columns += QuotedName(column.name) + " ";
+    columns += SqlType(column.type);
+    if (column.name != table.key) continue;
+    const bool is_number = column.type == ColumnType::kWhole;
+    columns += is_number ? " PRIMARY KEY" : " NOT NULL";
+    if (is_number) needs_index = false;
   }
-  return statement + ")";
-}
-
-std::string CreateIndexStatement(const TableSchema& table) {
-  return std::string(table.unique_key ? "CREATE UNIQUE INDEX " : "CREATE INDEX ") +
-         QuotedName(table.name + " " + table.key) + " ON " + QuotedName(table.name) + " (" +
-         QuotedName(table.key) + " COLLATE NOCASE)";
+  std::vector<std::string> statements = {"CREATE TABLE " + QuotedName(table.name) + " (" + columns + ")"};
+  if (needs_index) {
+    statements.push_back(std::string(table.unique_key ? "CREATE UNIQUE INDEX " : "CREATE INDEX ") +
+                         QuotedName(table.name + " " + table.key) + " ON " + QuotedName(table.name) + " (" +
+                         QuotedName(table.key) + " COLLATE NOCASE)");
+  }
+  return statements;
 }
 
 std::string InsertStatement(const TableSchema& table) {

@@ -7,7 +7,7 @@
 
 namespace velmar::storage {
 
-enum class ColumnType { kText, kNumber, kYesNo };
+enum class ColumnType { kText, kNumber, kYesNo, kWhole };
 
 struct ColumnSchema {
   std::string name;  ///< with its unit; part of the format
@@ -18,7 +18,7 @@ struct ColumnSchema {
 struct TableSchema {
   std::string name;
   std::vector<ColumnSchema> columns;
-  std::string key;          ///< the name of the index is `name` + " " + `key`
+  std::string key;          ///< the name of its index is `name` + " " + `key`; may be empty
   bool unique_key = false;  ///< without regard to the case of ASCII letters
 
   /// The place of the column called `column`, or nothing.
@@ -43,6 +43,11 @@ TableSchema LiningResultTable();
 /// The three tables above, in that order: what a results database holds.
 std::vector<TableSchema> ResultTables();
 
+/// "DRAV": the message catalogue, one column a language. Row n of the table is text n; no column holds n.
+TableSchema CatalogueTable(const std::vector<std::string>& languages);
+/// "Testi": the program's further texts under their number, "Riga".
+TableSchema FurtherTextTable(const std::vector<std::string>& languages);
+
 /// A folder of the library of measured structures: every file in it holds one table.
 struct LibraryFolder {
   std::string key;     ///< of its node in the windows' trees
@@ -60,10 +65,9 @@ std::vector<std::string> BandColumns(std::string_view prefix);
 
 /// `name` as an identifier of SQL, in quotation marks.
 std::string QuotedName(std::string_view name);
-/// CREATE TABLE with SQLite's types.
-std::string CreateTableStatement(const TableSchema& table);
-/// CREATE INDEX on the key column, NOCASE, so that a look-up must ask with the same collation.
-std::string CreateIndexStatement(const TableSchema& table);
+/// The statements that make an empty table with its index. The index is NOCASE, so that a look-up must ask
+/// with the same collation; a key that is a whole number is the table's primary key and needs none.
+std::vector<std::string> CreateStatements(const TableSchema& table);
 /// INSERT of a whole row, one parameter a column in the order of the schema.
 std::string InsertStatement(const TableSchema& table);
 

@@ -32,6 +32,8 @@ INSTANTIATE_TEST_SUITE_P(
                     CellCase{"Si", ColumnType::kYesNo, "Sì", Cell{true}},
                     CellCase{"SiCapitals", ColumnType::kYesNo, "SÌ", Cell{true}},
                     CellCase{"Two", ColumnType::kYesNo, "2", std::nullopt},
+                    CellCase{"Whole", ColumnType::kWhole, "1001", Cell{1001.0}},
+                    CellCase{"NotWhole", ColumnType::kWhole, "1,5", std::nullopt},
                     CellCase{"TextOfDigits", ColumnType::kText, "12", Cell{std::string("12")}}),
     [](const auto& test) { return test.param.name; });
 

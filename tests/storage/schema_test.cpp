@@ -23,8 +23,7 @@ std::vector<TableSchema> AllTables() {
 TEST(Schema, EveryTableCanBeMadeInOneFile) {
   SQLite::Database database(":memory:", SQLite::OPEN_READWRITE);
   for (const TableSchema& table : AllTables()) {
-    database.exec(CreateTableStatement(table));
-    database.exec(CreateIndexStatement(table));
+    for (const std::string& statement : CreateStatements(table)) database.exec(statement);
     SQLite::Statement insert(database, InsertStatement(table));
     insert.bind(1, "Mattone \"pieno\"");
     insert.exec();
@@ -39,11 +38,21 @@ TEST(Schema, EveryTableCanBeMadeInOneFile) {
 
 TEST(Schema, RefusesASecondNameThatDiffersInCaseAlone) {
   SQLite::Database database(":memory:", SQLite::OPEN_READWRITE);
-  database.exec(CreateTableStatement(StructuralMaterialTable()));
-  database.exec(CreateIndexStatement(StructuralMaterialTable()));
+  for (const std::string& statement : CreateStatements(StructuralMaterialTable())) database.exec(statement);
   database.exec("INSERT INTO Modulo_A1 (\"Materiale\") VALUES ('Laterizio')");
   EXPECT_THROW(database.exec("INSERT INTO Modulo_A1 (\"Materiale\") VALUES ('LATERIZIO')"),
                SQLite::Exception);
+}
+
+TEST(Schema, FurtherTextsAreKeptUnderTheirNumber) {
+  const TableSchema table = FurtherTextTable({"Italiano"});
+  SQLite::Database database(":memory:", SQLite::OPEN_READWRITE);
+  for (const std::string& statement : CreateStatements(table)) database.exec(statement);
+  SQLite::Statement insert(database, InsertStatement(table));
+  insert.bind(1, 1002.0);
+  insert.bind(2, "due");
+  insert.exec();
+  EXPECT_EQ(database.execAndGet("SELECT rowid FROM Testi").getInt(), 1002);
 }
 
 TEST(Schema, ColumnNamesAreUniqueInATable) {

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <filesystem>
+#include <vector>
+
+#include "storage/cell.h"
+#include "storage/csv.h"
+#include "storage/schema.h"
+
+namespace velmar::data_builder {
+
+/// The CSV table of a file.
+/// @throws std::runtime_error that names the file
+storage::CsvTable ReadTableText(const std::filesystem::path& file);
+
+/// The rows of a file whose heading must be the columns of `schema`, in their order.
+/// @throws std::runtime_error that names file, row and column of what is wrong
+std::vector<std::vector<storage::Cell>> ReadRows(const std::filesystem::path& file,
+                                                 const storage::TableSchema& schema);
+
+}  // namespace velmar::data_builder
