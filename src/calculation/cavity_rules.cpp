@@ -10,8 +10,8 @@
 namespace velmar::calculation {
 namespace {
 
-/// "Cavity thickness missing or not valid."
-constexpr MessageRow kCavityDepthRow{231};
+/// "The cavity depth must be above 0; 10 mm have been set."
+constexpr MessageRow kCavityDepthRow{141};
 constexpr const char* kFallbackDepth = "10";
 
 double LayersThickness(const elements::CavityLayers& layers) {

@@ -14,6 +14,9 @@ ArithmeticFailure::ArithmeticFailure(std::string detail)
 ArithmeticFailure::ArithmeticFailure(MessageRow cause, std::string detail)
     : Failure({{kArithmeticFailureRow}, {cause}}, std::move(detail)) {}
 
+ArithmeticFailure::ArithmeticFailure(MessageLine cause, std::string detail)
+    : Failure({{kArithmeticFailureRow}, std::move(cause)}, std::move(detail)) {}
+
 double RequireFinite(double value, const char* name) {
   if (!std::isfinite(value)) throw ArithmeticFailure(std::string(name) + " is not a finite number");
   return value;

@@ -32,6 +32,8 @@ class ArithmeticFailure : public Failure {
   explicit ArithmeticFailure(std::string detail);
   /// @param cause the row that tells the user what to check
   ArithmeticFailure(MessageRow cause, std::string detail);
+  /// @param cause the line that tells the user what to check
+  ArithmeticFailure(MessageLine cause, std::string detail);
 };
 
 /// `value` itself when it is finite.

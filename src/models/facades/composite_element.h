@@ -21,7 +21,7 @@ struct FacadePart {
 
 /// A window, a door, a vent or a small element in the opaque part.
 struct FacadeComponent {
-  FacadePart part;
+  FacadePart part{};
   double area_m2 = 0.0;     ///< its sign is dropped; 0 means a small element, rated by Dn,e
   int tightness_class = 0;  ///< air tightness after EN 12207, 0 to 4
 };
@@ -29,8 +29,8 @@ struct FacadeComponent {
 /// All that the calculation of a composite facade reads.
 struct CompositeElementInput {
   double area_m2 = 0.0;  ///< S, the whole element; its sign is dropped
-  FacadePart opaque;     ///< takes the area that the components leave
-  std::vector<FacadeComponent> components;
+  FacadePart opaque{};   ///< takes the area that the components leave
+  std::vector<FacadeComponent> components{};
 };
 
 /// Why a composite element cannot be calculated: the lines of the box that says so.

@@ -35,12 +35,6 @@ double CornerTerm(double x) {
          (rest * std::sqrt(rest));
 }
 
-double EfficiencyBelow(const LossTerms& terms, double x) {
-  const double sigma = terms.lambda_c_m * terms.lambda_c_m / terms.area_m2 *
-                       (2.0 * SideTerm(x) + terms.perimeter_m / terms.lambda_c_m * CornerTerm(x));
-  return std::min({sigma, 1.0, terms.sigma_crit});
-}
-
 double EfficiencyAbove(const LossTerms& terms, double frequency_hz) {
   const double sigma =
       std::min(1.0 / std::sqrt(1.0 - terms.critical_frequency_hz / frequency_hz), terms.sigma_cap);
@@ -82,11 +76,18 @@ LossTerms FindLossTerms(double mass_kg_m2, double internal_loss_factor, double c
   return terms;
 }
 
+double RadiationBelowCritical(const LossTerms& terms, double frequency_hz) {
+  const double x = frequency_hz / terms.critical_frequency_hz;
+  const double sigma = terms.lambda_c_m * terms.lambda_c_m / terms.area_m2 *
+                       (2.0 * SideTerm(x) + terms.perimeter_m / terms.lambda_c_m * CornerTerm(x));
+  return std::min({sigma, 1.0, terms.sigma_crit});
+}
+
 double TotalLossFactor(const LossTerms& terms, double frequency_hz, double value_before) {
   const double fc = terms.critical_frequency_hz;
   double radiation = 0.0;
   if (frequency_hz <= fc / 2.0) {
-    radiation = EfficiencyBelow(terms, frequency_hz / fc) * kTwiceAirImpedance;
+    radiation = RadiationBelowCritical(terms, frequency_hz) * kTwiceAirImpedance;
   } else if (frequency_hz < fc * kAboveCritical) {
     radiation = terms.sigma_crit * kAirImpedance;
   } else if (frequency_hz > fc * kAboveCritical) {

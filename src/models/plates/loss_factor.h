@@ -34,6 +34,10 @@ struct LossTerms {
 LossTerms FindLossTerms(double mass_kg_m2, double internal_loss_factor, double critical_frequency_hz,
                         const PlateDimensions& dimensions);
 
+/// The radiation efficiency at `frequency_hz`, above 0 and at most half of Fc: sides and corners after
+/// Maidanik, never above 1 nor above the efficiency around Fc.
+double RadiationBelowCritical(const LossTerms& terms, double frequency_hz);
+
 /// EtaTotal at `frequency_hz` (above 0): internal, radiation and edge losses, with the radiation
 /// efficiency below, around and above the critical frequency after Maidanik. Below half of Fc the radiation
 /// counts twice as much as elsewhere.

@@ -1,0 +1,35 @@
+#include "calculation/entered_numbers.h"
+
+#include <cmath>
+#include <optional>
+
+#include "foundation/decimal.h"
+#include "foundation/failure.h"
+
+namespace velmar::calculation {
+
+double EnteredNumber(const std::string& text) {
+  const std::optional<double> number = ParseDecimal(text);
+  if (number) return *number;
+  throw ArithmeticFailure(MessageLine{kNoNumberRow, " \"" + text + "\""}, "\"" + text + "\" is no number");
+}
+
+double EnteredNumberOrZero(const std::string& text) { return text.empty() ? 0.0 : EnteredNumber(text); }
+
+double EnteredLength(const std::string& text) { return std::abs(EnteredNumber(text)); }
+
+std::vector<models::PlateLayer> PlateLayers(const elements::LeafLayers& leaf) {
+  std::vector<models::PlateLayer> layers;
+  for (int i = 0; i < leaf.count; ++i) {
+    const auto& row = leaf.rows.at(static_cast<std::size_t>(i));
+    layers.push_back({.multiplicity = row.multiplicity,
+                      .thickness_mm = row.slot.thickness_mm,
+                      .density_kg_m3 = row.slot.density_kg_m3,
+                      .youngs_modulus_gpa = row.slot.youngs_modulus_gpa,
+                      .loss_factor = row.slot.loss_factor,
+                      .poissons_ratio = row.slot.poissons_ratio});
+  }
+  return layers;
+}
+
+}  // namespace velmar::calculation

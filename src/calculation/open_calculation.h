@@ -1,0 +1,68 @@
+#pragma once
+
+#include <functional>
+#include <optional>
+#include <utility>
+
+#include "calculation/run.h"
+#include "calculation/totals.h"
+#include "elements/result_set.h"
+#include "elements/setup.h"
+
+namespace velmar::calculation {
+
+/// The one open calculation: the set-up, and a result that exists only while it belongs to the set-up.
+class OpenCalculation {
+ public:
+  const elements::Setup& Setup() const { return setup_; }
+  const std::optional<elements::ResultSet>& Result() const { return result_; }
+  const Totals& CurrentTotals() const { return totals_; }
+
+  /// `NothingToSave`: no change since the project was begun, opened or saved.
+  bool IsSaved() const { return is_saved_; }
+  /// `InputTouched`: there was an input since the last run.
+  bool IsTouched() const { return is_touched_; }
+
+  /// The way to change the set-up. Drops the result (`Nuovo_modifica`(1)), then tells the listener.
+  template <typename Change>
+  void Edit(Change&& change) {
+    std::forward<Change>(change)(setup_);
+    AfterChange(/*keep_result=*/false);
+  }
+
+  /// The exception: typed band values, ratings and areas of facade and base elements leave the result
+  /// standing.
+  template <typename Change>
+  void EditKeepingResult(Change&& change) {
+    std::forward<Change>(change)(setup_);
+    AfterChange(/*keep_result=*/true);
+  }
+
+  /// A new or opened project takes the place of the old one (`Nuovo_modifica`(0)).
+  void Replace(elements::Setup setup);
+
+  /// The project was written to its file.
+  void MarkSaved();
+
+  /// `Nuovo_modifica`(1) by itself: the result goes, the set-up stays.
+  void DropResult();
+
+  /// Prepares the set-up and runs it. Without a result it leaves none behind.
+  RunOutcome Run(const AskToGoOn& ask);
+
+  /// `listener` is called after every change of set-up, result or saved state; nothing calls it before.
+  void OnChange(std::function<void()> listener) { listener_ = std::move(listener); }
+
+ private:
+  void AfterChange(bool keep_result);
+  void Tell();
+
+  elements::Setup setup_;
+  std::optional<elements::ResultSet> result_;
+  Totals totals_;
+  bool is_saved_ = true;
+  bool is_touched_ = false;
+  std::function<void()> listener_;
+};
+
+}  // namespace velmar::calculation

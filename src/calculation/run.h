@@ -1,0 +1,46 @@
+#pragma once
+
+#include <functional>
+#include <optional>
+#include <vector>
+
+#include "elements/result_set.h"
+#include "elements/setup.h"
+#include "foundation/message.h"
+
+namespace velmar::calculation {
+
+/// How a run ended.
+enum class RunStatus {
+  kDone,
+  kDeclined,  ///< the user did not want to leave a relation's range
+  kRefused,   ///< something is missing or does not fit, and the messages say what
+  kFailed,    ///< the arithmetic came to nothing usable
+};
+
+/// What a run left behind: a result only when it is done.
+struct RunOutcome {
+  RunStatus status = RunStatus::kRefused;
+  std::optional<elements::ResultSet> result{};
+  std::vector<Message> messages{};  ///< every box shown, questions included, in order
+};
+
+/// Asks the user whether to go on; true for yes. The last line of a question is the one that asks.
+using AskToGoOn = std::function<bool(const Message& question)>;
+
+/// "Go on all the same?": the last line of every question.
+inline constexpr MessageRow kGoOnRow{190};
+/// "Choose a calculation first."
+inline constexpr MessageRow kNoCalculationRow{1010};
+
+/// What a run changes of the set-up before it reads it: empty `Text9` and `Text8` become "10", a SEA cavity
+/// takes at least the depth of its contents, the base of a lining 200 mm where it has none.
+void PrepareRun(elements::Setup& setup);
+
+/// Runs the chosen calculation on a prepared set-up: model, rating, relation, adaptation terms. Asks at most
+/// one question. Never throws for what a set-up holds: an arithmetic failure ends as kFailed, without a
+/// result.
+/// @param loss_factor_before EtaInt of the result that stands, 0 without one; light double walls divide it
+RunOutcome RunCalculation(const elements::Setup& setup, double loss_factor_before, const AskToGoOn& ask);
+
+}  // namespace velmar::calculation

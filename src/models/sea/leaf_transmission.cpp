@@ -1,0 +1,76 @@
+#include "models/sea/leaf_transmission.h"
+
+#include <cmath>
+#include <limits>
+
+#include "acoustics/constants.h"
+#include "foundation/failure.h"
+#include "models/sea/failure_causes.h"
+#include "models/sea/power_ratio.h"
+
+namespace velmar::models {
+namespace {
+
+using acoustics::kAirDensity;
+using acoustics::kPi;
+using acoustics::kSpeedOfSound;
+using acoustics::kTwiceAirImpedance;
+using acoustics::kTwoPi;
+
+constexpr double kMinus5Db = 0.31622776601683794;
+
+bool IsPositiveFinite(double x) { return x > 0.0 && x <= std::numeric_limits<double>::max(); }
+
+/// So far from the ends of the number range that positive factors leave a positive finite balance.
+bool IsOrdinary(double x) { return x > 1e-60 && x < 1e60; }
+
+void RequireBalance(const HzSpectrum& power_ratio) {
+  for (std::size_t f = 1; f <= kHighestHz; ++f) {
+    if (!IsPositiveFinite(power_ratio[f])) {
+      throw ArithmeticFailure(kNoLeafBalanceRow, "no energy balance of a leaf at some frequency");
+    }
+  }
+}
+
+}  // namespace
+
+void SeaLeafPowerRatio(const HzSpectrum& radiation_efficiency, const SeaLeaf& leaf, HzSpectrum& power_ratio) {
+  const double mass = leaf.surface_mass_kg_m2;
+  const double resonance =
+      kSpeedOfSound * kSpeedOfSound * kSpeedOfSound * (std::sqrt(12.0) * kPi) * kAirDensity /
+      (2.0 * (kTwoPi * kTwoPi * kTwoPi) * mass * mass * leaf.thickness_m * leaf.longitudinal_speed_m_s);
+  const double inertia = kPiAirImpedance / (mass * mass * (kTwoPi * kTwoPi));
+  const double radiation_loss = mass / 485.0;
+  const double impedance = kTwoPi * mass / kTwiceAirImpedance;
+  if (!IsPositiveFinite(std::abs(resonance)) || !IsPositiveFinite(inertia)) {
+    throw ArithmeticFailure(kNoBendingWaveRow, "a leaf has no mass, thickness or wave speed");
+  }
+  const HzSpectrum& roots = RootsOfHz();
+  // Both paths over f³ eta sqrt(f): one division a frequency.
+  for (std::size_t hz = 1; hz <= kHighestHz; ++hz) {
+    const auto f = static_cast<double>(hz);
+    const double loss = leaf.loss_factor * roots[hz] + radiation_loss;
+    const double efficiency = radiation_efficiency[hz];
+    power_ratio[hz] =
+        f * f * f * loss /
+        (kFourfoldAirImpedance * (resonance * efficiency * efficiency * roots[hz] + inertia * f * loss));
+  }
+  if (!IsOrdinary(resonance) || !IsOrdinary(inertia) || !IsOrdinary(leaf.loss_factor + radiation_loss) ||
+      leaf.loss_factor < 0.0) {
+    RequireBalance(power_ratio);
+  }
+  for (std::size_t hz = 1; hz <= kHighestHz; ++hz) {
+    const double normal = impedance * static_cast<double>(hz);
+    const double ceiling = (1.0 + normal * normal) * kMinus5Db;
+    const double limited = power_ratio[hz] < ceiling ? power_ratio[hz] : ceiling;
+    power_ratio[hz] = limited < 1.0 ? 1.0 : limited;
+  }
+}
+
+HzSpectrum SeaLeafTransmission(const HzSpectrum& radiation_efficiency, const SeaLeaf& leaf) {
+  HzSpectrum ratio{};
+  SeaLeafPowerRatio(radiation_efficiency, leaf, ratio);
+  return LevelsOf(ratio);
+}
+
+}  // namespace velmar::models
