@@ -99,7 +99,7 @@ TEST_P(BridgedFormTest, AtFiveHundredHertz) {
 // m1 = 10, m2 = 20 kg/m², fc 3000 and 1500 Hz, b = 0.6 m, 3 m: M = 20 lg(30 * 500) - 48 = 35.5218252,
 // lg(0.6 * 3000) = 3.2552725; the first leaf holds the highest fc, so X = m2 = 20.
 // P1 = sqrt(500/3000) 350.9 * 10 * 6 = 8595.2596, P2 = sqrt(500/1500) 350.9 * 20 * 6 = 24311.065
-// A1 = 350.9² (4/3.1416) 10/3000 = 522.5796, A2 = 350.9² (4/3.1416) 20/1500 = 2090.3182
+// A1 = 350.9² (4/3.1416) 10/3000 = 522.58217, A2 = 350.9² (4/3.1416) 20/1500 = 2090.32866
 INSTANTIATE_TEST_SUITE_P(Forms, BridgedFormTest,
                          testing::Values(FormCase{"LineLine", LightWallForm::kLineLine, 58.213132742702},
                                          FormCase{"LinePoint", LightWallForm::kLinePoint, 53.996238878891},

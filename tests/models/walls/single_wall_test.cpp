@@ -1,5 +1,8 @@
 #include "models/walls/single_wall.h"
 
+#include <cmath>
+#include <vector>
+
 #include <gtest/gtest.h>
 
 #include "acoustics/airborne_rating.h"
@@ -12,7 +15,7 @@ namespace {
 const PlateLayer kBrick{1, 250, 800, 3, 0.02, 0.2};
 const PlateLayer kPlaster{1, 15, 1400, 4, 0.01, 0.2};
 
-SingleWallResult Run(std::vector<PlateLayer> layers, double a_m = 4, double b_m = 3) {
+SingleWallResult Calculate(std::vector<PlateLayer> layers, double a_m = 4, double b_m = 3) {
   return CalculateSingleWall({std::move(layers), {a_m, b_m}});
 }
 
@@ -22,7 +25,7 @@ SingleWallResult Run(std::vector<PlateLayer> layers, double a_m = 4, double b_m 
 TEST(SingleWall, LeavesItsPlateValues) {
   PlateLayer plaster = kPlaster;
   plaster.multiplicity = 2;
-  const SingleWallResult wall = Run({kBrick, plaster});
+  const SingleWallResult wall = Calculate({kBrick, plaster});
   EXPECT_DOUBLE_EQ(wall.mass_kg_m2, 242);
   EXPECT_NEAR(wall.bending_n_m, 1.990625e8 * 0.28 / 12, 1e-6);
   EXPECT_NEAR(wall.internal_loss_factor, 0.0053 / 0.28, 1e-15);
@@ -32,7 +35,7 @@ TEST(SingleWall, LeavesItsPlateValues) {
 
 TEST(SingleWall, AveragesTheGridPointsOfABand) {
   // Band 80 Hz holds one grid point, so it is BandR there with the loss factor of 80 Hz.
-  const SingleWallResult wall = Run({kBrick});
+  const SingleWallResult wall = Calculate({kBrick});
   const LossTerms losses =
       FindLossTerms(wall.mass_kg_m2, wall.internal_loss_factor, wall.critical_frequency_hz, {4, 3});
   EXPECT_NEAR(wall.spectrum[2],
@@ -40,8 +43,8 @@ TEST(SingleWall, AveragesTheGridPointsOfABand) {
 }
 
 TEST(SingleWall, DoesNotTellItsSidesApart) {
-  const SingleWallResult upright = Run({kBrick, kPlaster}, 2.7, 5.2);
-  const SingleWallResult lying = Run({kBrick, kPlaster}, 5.2, 2.7);
+  const SingleWallResult upright = Calculate({kBrick, kPlaster}, 2.7, 5.2);
+  const SingleWallResult lying = Calculate({kBrick, kPlaster}, 5.2, 2.7);
   for (std::size_t band = 0; band < 21; ++band)
     EXPECT_NEAR(upright.spectrum[band], lying.spectrum[band], 1e-11);
 }
@@ -51,35 +54,35 @@ TEST(SingleWall, OfTwoSheetsIsThatOfOneTwiceAsThick) {
   two.multiplicity = 2;
   PlateLayer thick = kPlaster;
   thick.thickness_mm = 30;
-  EXPECT_EQ(Run({two}).spectrum, Run({thick}).spectrum);
+  EXPECT_EQ(Calculate({two}).spectrum, Calculate({thick}).spectrum);
 }
 
 TEST(SingleWall, OfAHeavyConcreteSlabRatesLikeOne) {
   // 20 cm of concrete, 460 kg/m²: measured slabs of this kind lie between 54 and 60 dB.
-  const SingleWallResult slab = Run({{1, 200, 2300, 30, 0.006, 0.2}});
+  const SingleWallResult slab = Calculate({{1, 200, 2300, 30, 0.006, 0.2}});
   const double rw = acoustics::RatingOfShift(acoustics::FindShift(slab.spectrum));
   EXPECT_GE(rw, 52);
   EXPECT_LE(rw, 62);
 }
 
 TEST(SingleWall, DipsAtItsCriticalFrequency) {
-  const SingleWallResult pane = Run({{1, 6, 2500, 70, 0.01, 0.2}}, 1.25, 1.5);  // fc = 2095 Hz
+  const SingleWallResult pane = Calculate({{1, 6, 2500, 70, 0.01, 0.2}}, 1.25, 1.5);  // fc = 2095 Hz
   EXPECT_LT(pane.spectrum[16], pane.spectrum[13]);
   EXPECT_LT(pane.spectrum[16], pane.spectrum[19]);
 }
 
 TEST(SingleWall, TakesAnyPlateThatIsOne) {
   for (const double modulus_gpa : {1e-4, 0.01, 1.0, 200.0}) {  // fc from far above to far below the grid
-    EXPECT_NO_THROW(Run({{1, 12.5, 700, modulus_gpa, 0.01, 0.3}}));
+    EXPECT_NO_THROW(Calculate({{1, 12.5, 700, modulus_gpa, 0.01, 0.3}}));
   }
 }
 
 TEST(SingleWall, RefusesWhatIsNoPlate) {
-  EXPECT_THROW(Run({}), ArithmeticFailure);
-  EXPECT_THROW(Run({{1, 0, 800, 3, 0.02, 0.2}}), ArithmeticFailure);
-  EXPECT_THROW(Run({{1, 100, 0, 3, 0.02, 0.2}}), ArithmeticFailure);
-  EXPECT_THROW(Run({kBrick}, 0, 3), ArithmeticFailure);
-  EXPECT_THROW(Run({kBrick}, 4, 0), ArithmeticFailure);
+  EXPECT_THROW(Calculate({}), ArithmeticFailure);
+  EXPECT_THROW(Calculate({{1, 0, 800, 3, 0.02, 0.2}}), ArithmeticFailure);
+  EXPECT_THROW(Calculate({{1, 100, 0, 3, 0.02, 0.2}}), ArithmeticFailure);
+  EXPECT_THROW(Calculate({kBrick}, 0, 3), ArithmeticFailure);
+  EXPECT_THROW(Calculate({kBrick}, 4, 0), ArithmeticFailure);
 }
 
 }  // namespace
