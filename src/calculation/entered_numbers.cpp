@@ -32,4 +32,16 @@ std::vector<models::PlateLayer> PlateLayers(const elements::LeafLayers& leaf) {
   return layers;
 }
 
+std::vector<models::ResilientMat> ResilientMatsOf(const elements::ResilientLayers& table) {
+  std::vector<models::ResilientMat> layers;
+  for (int i = 0; i < table.count; ++i) {
+    const auto& row = table.rows.at(static_cast<std::size_t>(i));
+    layers.push_back({.multiplicity = row.multiplicity,
+                      .thickness_mm = row.slot.thickness_mm,
+                      .density_kg_m3 = row.slot.density_kg_m3,
+                      .dynamic_stiffness_mn_m3 = row.slot.dynamic_stiffness_mn_m3});
+  }
+  return layers;
+}
+
 }  // namespace velmar::calculation

@@ -6,6 +6,7 @@
 #include "elements/layers.h"
 #include "elements/setup.h"
 #include "foundation/message.h"
+#include "models/floors/resilient_mats.h"
 #include "models/plates/plate_layer.h"
 
 namespace velmar::calculation {
@@ -29,5 +30,8 @@ double EnteredLength(const std::string& text);
 
 /// The rows of a leaf that are in use, as a plate model reads them.
 std::vector<models::PlateLayer> PlateLayers(const elements::LeafLayers& leaf);
+
+/// The resilient rows that are in use, as a floor model reads them.
+std::vector<models::ResilientMat> ResilientMatsOf(const elements::ResilientLayers& table);
 
 }  // namespace velmar::calculation

@@ -22,7 +22,7 @@ struct RelationInput {
   float cavity_depth_mm = 0.0F;
   float fibre_thickness_mm = 0.0F;
   CavityKind cavity_kind = CavityKind::kEmpty;
-  std::vector<ResilientLayer> resilient_layers;
+  std::vector<ResilientLayer> resilient_layers{};
 };
 
 }  // namespace velmar::models

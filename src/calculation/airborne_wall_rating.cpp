@@ -1,0 +1,42 @@
+#include "calculation/airborne_wall_rating.h"
+
+#include <optional>
+
+#include "acoustics/airborne_rating.h"
+#include "calculation/relation_choice.h"
+#include "models/relations/apply_relation.h"
+#include "models/relations/relation.h"
+
+namespace velmar::calculation {
+
+bool AskToLeaveRange(const RunRequest& request, const MessagePiece& check) {
+  return request.ask({{check}, {kGoOnRow}});
+}
+
+RunOutcome Declined() { return {.status = RunStatus::kDeclined}; }
+
+RunOutcome RateWall(const RunRequest& request, elements::ResultSet result,
+                    const models::RelationInput& relation) {
+  models::ShiftedSpectrum rated{.spectrum = result.spectrum.value(),
+                                .shift = acoustics::FindShift(result.spectrum.value())};
+  const double model_rating = acoustics::RatingOfShift(rated.shift);
+  result.relation_rating = model_rating;
+  if (const std::optional<models::RelationId> id = RelationOf(request.calculation)) {
+    const auto check = models::FirstRangeLeft(*id, relation);
+    if (check && !AskToLeaveRange(request, *check)) return Declined();
+    const models::RelationValue value = models::EvaluateRelation(*id, relation);
+    rated = models::ApplyRelation(rated, model_rating, value.rating_db);
+    result.relation_rating = static_cast<double>(value.rating_db);
+    if (*id == models::RelationId::kFloatingScreed)
+      result.delta_rw = static_cast<double>(value.improvement_db);
+  }
+  result.spectrum = rated.spectrum;
+  result.shift = rated.shift;
+  result.rw = acoustics::RatingOfShift(rated.shift);
+  const acoustics::AdaptationTerms terms = acoustics::FindAdaptationTerms(rated.spectrum, *result.rw);
+  result.c = terms.c;
+  result.ctr = terms.ctr;
+  return {.status = RunStatus::kDone, .result = result};
+}
+
+}  // namespace velmar::calculation
