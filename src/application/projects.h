@@ -1,0 +1,19 @@
+#pragma once
+
+#include <filesystem>
+
+#include "elements/material_record.h"
+#include "elements/setup.h"
+#include "storage/project/project_reader.h"
+
+namespace velmar::application {
+
+/// Opens the project file `path` over `current`: its calculation is chosen as by its menu entry, then takes
+/// the file's values.
+/// @param current what stands in fields that the file does not have
+/// @param materials today's material tables
+/// @throws ProjectFileFailure; nothing has changed then
+storage::OpenedProject OpenProject(const std::filesystem::path& path, const elements::Setup& current,
+                                   const elements::MaterialLookup& materials);
+
+}  // namespace velmar::application

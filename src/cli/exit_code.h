@@ -1,0 +1,13 @@
+#pragma once
+
+namespace velmar::cli {
+
+/// What a command tells the shell.
+enum class ExitCode {
+  kDone = 0,
+  kFailed = 1,      ///< a file cannot be read or written, or a calculation failed
+  kWrongUsage = 2,  ///< the command line is not understood
+  kNoResult = 3,    ///< a calculation was refused or declined
+};
+
+}  // namespace velmar::cli

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <string>
+
+#include <nlohmann/json_fwd.hpp>
+
+#include "calculation/run.h"
+#include "calculation/totals.h"
+#include "elements/result_set.h"
+#include "presentation/texts/words.h"
+
+namespace velmar::cli {
+
+/// The texts that name a calculation, as a project file holds them.
+struct CalculationTexts {
+  std::string family{};
+  std::string variant{};
+  std::string orientation{};
+};
+
+/// A run as one JSON object: the calculation, "status", "messages", the quantities that the calculation
+/// writes (a quantity it does not write has no key), "thickness" in mm and "surface_mass" in kg/m². Numbers
+/// read back exactly.
+nlohmann::json OutcomeJson(const CalculationTexts& texts, const calculation::RunOutcome& outcome,
+                           const calculation::Totals& totals, const presentation::Words& words);
+
+/// Only what the result holds, under the same keys.
+nlohmann::json ResultJson(const elements::ResultSet& result);
+
+/// The lines of a box as an array of {"row", "text"}. Words of our own, and literals, have row 0; the line
+/// that asks whether to go on is left out, so a question counts once.
+nlohmann::json MessageJson(const Message& message, const presentation::Words& words);
+
+/// "ok", "declined", "refused" or "failed".
+std::string StatusText(calculation::RunStatus status);
+
+}  // namespace velmar::cli
