@@ -12,6 +12,7 @@
 #include <SQLiteCpp/Statement.h>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 #include "data_builder/shipped_data.h"
 #include "data_builder/table_text.h"
@@ -179,30 +180,8 @@ TEST(MessageDatabase, HoldsTheCatalogueInOrderAndTheFurtherTexts) {
   EXPECT_FALSE(database.execAndGet("SELECT English FROM Testi WHERE Riga = 1001").getString().empty());
 }
 
-TEST(Library, HasEveryFolderAndEveryFileItsTable) {
-  for (const storage::LibraryFolder& folder : storage::LibraryFolders()) {
-    const fs::path path = BuiltDatabase("Database") / folder.folder;
-    ASSERT_TRUE(fs::is_directory(path)) << path;
-    for (const fs::directory_entry& file : fs::directory_iterator(path)) {
-      SQLite::Database database(file.path().string());
-      EXPECT_GT(Count(database, folder.table.name), 0) << file.path();
-      for (const char* column : {"Descrizione", "Parola chiave", "Certificato", "Immagine"}) {
-        EXPECT_EQ(Count(database, folder.table.name, QuotedName(column) + " IS NULL"), 0)
-            << file.path() << column;
-      }
-      EXPECT_EQ(
-          database
-              .execAndGet("SELECT count(*) - count(DISTINCT \"Nome\") FROM " + QuotedName(folder.table.name))
-              .getInt(),
-          0)
-          << file.path();
-    }
-  }
-  EXPECT_TRUE(fs::is_regular_file(BuiltDatabase("immagine/senza.jpg")));
-}
-
 TEST(BuildShippedData, GivesTheSameBytesAgain) {
-  const fs::path again = fs::temp_directory_path() / "velmar-built-twice";
+  const fs::path again = fs::temp_directory_path() / ("velmar-built-twice-" + std::to_string(getpid()));
   fs::remove_all(again);
   data_builder::BuildShippedData(VELMAR_TEXTS, again);
   int files = 0;
@@ -212,7 +191,7 @@ TEST(BuildShippedData, GivesTheSameBytesAgain) {
     EXPECT_TRUE(Bytes(entry.path()) == Bytes(VELMAR_BUILT_DATA / fs::relative(entry.path(), again)))
         << entry.path();
   }
-  EXPECT_GE(files, 4);
+  EXPECT_GE(files, 20);
   fs::remove_all(again);
 }
 

@@ -5,6 +5,7 @@
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 #include "data_builder/message_tables.h"
 #include "data_builder/table_text.h"
@@ -25,9 +26,9 @@ class RefusedTextTest : public testing::Test {
     return folder_ / name;
   }
 
-  std::filesystem::path folder_ =
-      std::filesystem::temp_directory_path() /
-      (std::string("velmar-refused-") + testing::UnitTest::GetInstance()->current_test_info()->name());
+  std::filesystem::path folder_ = std::filesystem::temp_directory_path() /
+                                  ("velmar-refused-" + std::to_string(getpid()) + "-" +
+                                   testing::UnitTest::GetInstance()->current_test_info()->name());
 };
 
 const storage::TableSchema kSchema{
