@@ -1,0 +1,102 @@
+#include "storage/configuration/first_start.h"
+
+#include <random>
+#include <string>
+#include <system_error>
+
+#include <fcntl.h>
+#include <unistd.h>
+
+#include "foundation/failure.h"
+#include "storage/database/rename.h"
+
+namespace velmar::storage {
+namespace {
+
+namespace fs = std::filesystem;
+
+/// Without a catalogue both languages are said.
+Failure NotMade(const fs::path& folder, const std::string& reason) {
+  return {{{"Impossibile creare la cartella dei dati: " + folder.string()},
+           {"Controllare la voce CartellaDati del file Velmar.ini e i permessi della cartella."},
+           {"The data folder cannot be created: " + folder.string()},
+           {"Check the entry CartellaDati of the file Velmar.ini and the permissions of the folder."},
+           {reason}},
+          "cannot create " + folder.string() + ": " + reason};
+}
+
+void Sync(const fs::path& path) {
+  const int descriptor = ::open(path.c_str(), O_RDONLY | O_CLOEXEC);
+  if (descriptor < 0) return;
+  ::fsync(descriptor);
+  ::close(descriptor);
+}
+
+/// Makes what was copied writable (an installed program's files are not) and sends it to the disk.
+void Settle(const fs::path& path) {
+  const bool folder = fs::is_directory(path);
+  fs::permissions(path, folder ? fs::perms::owner_all : fs::perms::owner_read | fs::perms::owner_write,
+                  fs::perm_options::add);
+  if (folder) {
+    for (const fs::directory_entry& entry : fs::directory_iterator(path)) Settle(entry.path());
+  }
+  Sync(path);
+}
+
+/// A name beside `path` for what is not finished yet; it disappears unless it was renamed.
+class Unfinished {
+ public:
+  explicit Unfinished(const fs::path& path)
+      : path_(path.parent_path() / (".velmar-" + std::to_string(::getpid()) + "-" +
+                                    std::to_string(std::random_device()()) + ".tmp")) {}
+  Unfinished(const Unfinished&) = delete;
+  Unfinished& operator=(const Unfinished&) = delete;
+  ~Unfinished() {
+    std::error_code error;
+    fs::remove_all(path_, error);
+  }
+  const fs::path& Path() const { return path_; }
+
+ private:
+  fs::path path_;
+};
+
+/// @return false when something took the name meanwhile
+bool CopyTo(const fs::path& source, const fs::path& target) {
+  fs::create_directories(target.parent_path());
+  const Unfinished unfinished(target);
+  fs::copy(source, unfinished.Path(), fs::copy_options::recursive);
+  Settle(unfinished.Path());
+  if (!RenameToFreeName(unfinished.Path(), target)) return false;
+  Sync(target.parent_path());
+  return true;
+}
+
+/// `path` without a trailing separator, which a rename would not take.
+fs::path Plain(const fs::path& path) {
+  const fs::path whole = fs::absolute(path);
+  return whole.has_filename() ? whole : whole.parent_path();
+}
+
+}  // namespace
+
+DataFolderState PrepareDataFolder(const fs::path& data_folder, const fs::path& shipped) {
+  const fs::path folder = Plain(data_folder);
+  try {
+    if (fs::exists(fs::symlink_status(folder))) return DataFolderState::kThere;
+    return CopyTo(shipped, folder) ? DataFolderState::kCreated : DataFolderState::kThere;
+  } catch (const fs::filesystem_error& error) {
+    throw NotMade(folder, error.what());
+  }
+}
+
+bool RestoreShippedFile(const fs::path& data_folder, const fs::path& shipped, const fs::path& name) {
+  try {
+    if (fs::exists(fs::symlink_status(data_folder / name))) return false;
+    return CopyTo(shipped / name, data_folder / name);
+  } catch (const fs::filesystem_error& error) {
+    throw NotMade(data_folder / name, error.what());
+  }
+}
+
+}  // namespace velmar::storage

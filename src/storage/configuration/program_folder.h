@@ -1,0 +1,18 @@
+#pragma once
+
+#include <filesystem>
+#include <optional>
+
+namespace velmar::storage {
+
+/// The folder of the program that runs.
+std::filesystem::path ProgramFolder();
+
+/// The default data folder that comes with the program ("share/velmarpro"), as installed beside `program` or
+/// in the tree that built it; nothing when it is not there.
+std::optional<std::filesystem::path> ShippedDataFolder(const std::filesystem::path& program);
+
+/// The program that reads genuine Access files, as installed or as built; nothing when it is not there.
+std::optional<std::filesystem::path> AccessReaderProgram(const std::filesystem::path& program);
+
+}  // namespace velmar::storage
