@@ -1,0 +1,241 @@
+#include "cli/command_line.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+#include <vector>
+
+#include <gtest/gtest.h>
+#include <nlohmann/json.hpp>
+#include <unistd.h>
+
+namespace velmar::cli {
+namespace {
+
+struct Said {
+  int code = -1;
+  std::string out;
+  std::string errors;
+
+  nlohmann::json Json() const { return nlohmann::json::parse(out); }
+};
+
+/// The command line with rows shown by their numbers, and no material known.
+Said Say(const std::vector<std::string>& arguments) {
+  const OpenServices open = [](const auto&) {
+    Services services;
+    services.words = [](MessageRow row) { return "row " + std::to_string(row.number); };
+    services.materials.structural = [](std::string_view) { return std::nullopt; };
+    services.materials.fibrous = [](std::string_view) { return std::nullopt; };
+    services.materials.resilient = [](std::string_view) { return std::nullopt; };
+    return services;
+  };
+  std::ostringstream out;
+  std::ostringstream errors;
+  const int code = RunCommandLine(arguments, open, out, errors);
+  return {code, out.str(), errors.str()};
+}
+
+std::string Example(const char* name) { return std::string(EXAMPLES) + "/" + name + ".drav"; }
+
+class TemporaryFile {
+ public:
+  explicit TemporaryFile(const std::string& bytes)
+      : path_(std::filesystem::temp_directory_path() /
+              ("velmar-cli-" + std::to_string(::getpid()) + "-" + std::to_string(++count_) + ".drav")) {
+    std::ofstream(path_, std::ios::binary) << bytes;
+  }
+  ~TemporaryFile() { std::filesystem::remove(path_); }
+  TemporaryFile(const TemporaryFile&) = delete;
+  TemporaryFile& operator=(const TemporaryFile&) = delete;
+
+  std::string Path() const { return path_.string(); }
+
+ private:
+  static inline int count_ = 0;
+  std::filesystem::path path_;
+};
+
+std::string BytesOf(const std::string& path) {
+  std::ifstream file(path, std::ios::binary);
+  return {std::istreambuf_iterator<char>(file), {}};
+}
+
+TEST(Run, GivesOneObjectThatReadsBackExactly) {
+  const Said said = Say({"run", Example("parete-forato-intonacata"), "--json"});
+  EXPECT_EQ(said.code, 0);
+  const nlohmann::json json = said.Json();
+  EXPECT_EQ(json["family"], "SINGOLA");
+  EXPECT_EQ(json["variant"], "Parete singola in laterizio");
+  EXPECT_EQ(json["orientation"], "verticale singola");
+  EXPECT_EQ(json["status"], "ok");
+  EXPECT_EQ(json["spectrum"].size(), 21U);
+  EXPECT_EQ(json["thickness"], 150);
+  EXPECT_EQ(json["Rw"].get<double>(), json["X"].get<double>() - 4);
+  EXPECT_FALSE(json.contains("Lnw"));
+  EXPECT_TRUE(json["messages"].empty());
+  EXPECT_EQ(nlohmann::json::parse(json.dump()), json);
+}
+
+TEST(Run, WritesATableForAPerson) {
+  const Said said = Say({"run", Example("parete-forato-intonacata")});
+  EXPECT_EQ(said.code, 0);
+  EXPECT_NE(said.out.find("3150"), std::string::npos);
+  EXPECT_NE(said.out.find("Rw"), std::string::npos);
+  EXPECT_EQ(said.errors, "");
+}
+
+TEST(Run, DeclinesByDefaultAndCountsAQuestionOnce) {
+  const Said declined = Say({"run", Example("parete-fuori-campo"), "--json"});
+  EXPECT_EQ(declined.code, 3);
+  EXPECT_EQ(declined.Json()["status"], "declined");
+  ASSERT_EQ(declined.Json()["messages"].size(), 1U);
+  EXPECT_EQ(declined.Json()["messages"][0]["row"], 195);
+  EXPECT_FALSE(declined.Json().contains("spectrum"));
+
+  const Said accepted = Say({"run", Example("parete-fuori-campo"), "--json", "--answer", "yes"});
+  EXPECT_EQ(accepted.code, 0);
+  EXPECT_EQ(accepted.Json()["status"], "ok");
+  EXPECT_EQ(accepted.Json()["messages"].size(), 1U);
+}
+
+TEST(Run, WritesLevelsAndImprovementOfAFloor) {
+  const nlohmann::json json = Say({"run", Example("calpestio-galleggiante"), "--json"}).Json();
+  EXPECT_EQ(json["status"], "ok");
+  for (const char* key : {"Lnw", "Ci", "DeltaLnw", "RwEstimate", "DeltaRwEstimate", "X"}) {
+    EXPECT_TRUE(json.contains(key)) << key;
+  }
+  for (const char* key : {"Rw", "C", "Ctr"}) EXPECT_FALSE(json.contains(key)) << key;
+}
+
+TEST(Run, ListsEachLineOfABox) {
+  // No fibre has an absorption here, because no material is known.
+  const Said said = Say({"run", Example("controplaccaggio-calibel"), "--json"});
+  EXPECT_EQ(said.code, 3);
+  EXPECT_EQ(said.Json()["status"], "refused");
+  ASSERT_EQ(said.Json()["messages"].size(), 2U);
+  EXPECT_EQ(said.Json()["messages"][0]["row"], 231);
+  EXPECT_EQ(said.Json()["messages"][1]["row"], 247);
+}
+
+TEST(Run, SaysSoWhenTheFileIsNotThere) {
+  const Said said = Say({"run", "/nowhere/at/all.drav", "--json"});
+  EXPECT_EQ(said.code, 1);
+  EXPECT_EQ(said.errors, "Impossibile aprire il file: file non trovato\n");
+  EXPECT_EQ(said.Json()["status"], "failed");
+  EXPECT_EQ(said.Json()["messages"][0]["row"], 0);
+}
+
+TEST(Run, RefusesADamagedFileWithItsRow) {
+  const std::string whole = BytesOf(Example("doppia-forati-vuota"));
+  const TemporaryFile cut(whole.substr(0, whole.size() / 2));
+  const Said said = Say({"run", cut.Path(), "--json"});
+  EXPECT_EQ(said.code, 1);
+  EXPECT_EQ(said.Json()["messages"][0]["row"], 394);
+  EXPECT_FALSE(said.Json().contains("spectrum"));
+}
+
+TEST(Run, RefusesACalculationThatIsNotKnown) {
+  std::string bytes = BytesOf(Example("parete-forato-intonacata"));
+  const std::string variant = "Parete singola in laterizio";
+  bytes.replace(bytes.find(variant), variant.size(), "Parete in paglia");
+  const TemporaryFile file(bytes);
+  const Said said = Say({"run", file.Path(), "--json"});
+  EXPECT_EQ(said.code, 3);
+  EXPECT_EQ(said.Json()["status"], "refused");
+  EXPECT_EQ(said.Json()["variant"], "Parete in paglia");
+}
+
+/// Every shipped example.
+class ExampleTest : public testing::TestWithParam<std::string> {};
+
+std::vector<std::string> Examples() {
+  std::vector<std::string> names;
+  for (const auto& entry : std::filesystem::directory_iterator(EXAMPLES)) {
+    if (entry.path().extension() == ".drav") names.push_back(entry.path().stem().string());
+  }
+  std::sort(names.begin(), names.end());
+  return names;
+}
+
+TEST_P(ExampleTest, IsReadWithoutAComplaintAndSavedAsItStands) {
+  const std::string path = Example(GetParam().c_str());
+  EXPECT_NE(Say({"run", path, "--answer", "yes"}).code, 1);
+  const TemporaryFile copy("");
+  EXPECT_EQ(Say({"save", path, copy.Path()}).code, 0);
+  EXPECT_EQ(BytesOf(copy.Path()), BytesOf(path));
+}
+
+INSTANTIATE_TEST_SUITE_P(Shipped, ExampleTest, testing::ValuesIn(Examples()), [](const auto& test) {
+  std::string name = test.param;
+  std::replace(name.begin(), name.end(), '-', '_');
+  return name;
+});
+
+TEST(Save, LeavesTheTargetWhenTheSourceIsDamaged) {
+  const TemporaryFile source("VELMAR 2.0.0\r\n");
+  const TemporaryFile target("untouched");
+  EXPECT_EQ(Say({"save", source.Path(), target.Path()}).code, 1);
+  EXPECT_EQ(BytesOf(target.Path()), "untouched");
+}
+
+/// The worked example of ISO 717-1, Annex C.
+const std::vector<std::string> kStandardExample = {"20.4", "16,3", "17.7", "22.6", "22.4", "22.7",
+                                                   "24.8", "26.6", "28.0", "30.5", "31.8", "32.5",
+                                                   "33.4", "33.0", "31.0", "25.5"};
+
+TEST(Rate, RatesSixteenBands) {
+  std::vector<std::string> arguments = {"rate", "--airborne", "--json", "--"};
+  arguments.insert(arguments.end(), kStandardExample.begin(), kStandardExample.end());
+  const Said said = Say(arguments);
+  EXPECT_EQ(said.code, 0);
+  EXPECT_EQ(said.Json(), (nlohmann::json{{"Rw", 30}, {"C", -2}, {"Ctr", -3}, {"X", 34}}));
+}
+
+TEST(Rate, RatesTwentyOneBandsAndNegativeLevels) {
+  std::vector<std::string> arguments = {"rate", "--impact", "--json", "--"};
+  for (int band = 0; band < 21; ++band) arguments.push_back("-5.5");
+  const Said said = Say(arguments);
+  EXPECT_EQ(said.code, 0);
+  EXPECT_TRUE(said.Json().contains("Lnw"));
+  EXPECT_TRUE(said.Json().contains("Ci"));
+}
+
+struct WrongUsage {
+  const char* name;
+  std::vector<std::string> arguments;
+};
+
+class WrongUsageTest : public testing::TestWithParam<WrongUsage> {};
+
+TEST_P(WrongUsageTest, EndsWithTwoAndAWord) {
+  const Said said = Say(GetParam().arguments);
+  EXPECT_EQ(said.code, 2);
+  EXPECT_NE(said.errors, "");
+  EXPECT_EQ(said.out, "");
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Arguments, WrongUsageTest,
+    testing::Values(WrongUsage{"None", {}}, WrongUsage{"Unknown", {"calcola"}},
+                    WrongUsage{"RunWithoutProject", {"run"}},
+                    WrongUsage{"Answer", {"run", "a.drav", "--answer", "maybe"}},
+                    WrongUsage{"RateBoth", {"rate", "--airborne", "--impact", "--", "1"}},
+                    WrongUsage{"RateNeither", {"rate", "--", "1"}},
+                    WrongUsage{"RateTooFew", {"rate", "--airborne", "--", "1", "2"}},
+                    WrongUsage{"RateNoNumber",
+                               {"rate", "--airborne", "--", "a", "2", "3", "4", "5", "6", "7", "8", "9", "10",
+                                "11", "12", "13", "14", "15", "16"}}),
+    [](const auto& test) { return test.param.name; });
+
+TEST(Catalogue, ListsFortySevenCalculations) {
+  EXPECT_EQ(Say({"catalogue", "--json"}).Json().size(), 47U);
+  const std::string lines = Say({"catalogue"}).out;
+  EXPECT_EQ(std::count(lines.begin(), lines.end(), '\n'), 47);
+}
+
+TEST(Help, IsNoMistake) { EXPECT_EQ(Say({"--help"}).code, 0); }
+
+}  // namespace
+}  // namespace velmar::cli
