@@ -1,14 +1,42 @@
 #include "application/projects.h"
 
+#include <memory>
+#include <string_view>
+#include <utility>
+
 #include "calculation/select_calculation.h"
+#include "foundation/failure.h"
 
 namespace velmar::application {
+namespace {
+
+template <typename Find>
+Find Forgiving(Find find, std::shared_ptr<bool> told, std::function<void(const Message&)> tell) {
+  return [=](std::string_view name) -> typename Find::result_type {
+    try {
+      return find(name);
+    } catch (const Failure& failure) {
+      if (!std::exchange(*told, true)) tell(failure.UserMessage());
+      return std::nullopt;
+    }
+  };
+}
+
+}  // namespace
 
 storage::OpenedProject OpenProject(const std::filesystem::path& path, const elements::Setup& current,
                                    const elements::MaterialLookup& materials) {
   return storage::OpenProject(
       path,
       {.current = current, .select_calculation = calculation::SelectCalculation, .materials = materials});
+}
+
+elements::MaterialLookup ForgivingLookup(elements::MaterialLookup materials,
+                                         std::function<void(const Message&)> tell) {
+  const auto told = std::make_shared<bool>(false);
+  return {.structural = Forgiving(std::move(materials.structural), told, tell),
+          .fibrous = Forgiving(std::move(materials.fibrous), told, tell),
+          .resilient = Forgiving(std::move(materials.resilient), told, tell)};
 }
 
 }  // namespace velmar::application

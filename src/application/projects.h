@@ -1,9 +1,11 @@
 #pragma once
 
 #include <filesystem>
+#include <functional>
 
 #include "elements/material_record.h"
 #include "elements/setup.h"
+#include "foundation/message.h"
 #include "storage/project/project_reader.h"
 
 namespace velmar::application {
@@ -15,5 +17,10 @@ namespace velmar::application {
 /// @throws ProjectFileFailure; nothing has changed then
 storage::OpenedProject OpenProject(const std::filesystem::path& path, const elements::Setup& current,
                                    const elements::MaterialLookup& materials);
+
+/// `materials` for a program that can do without: a table that cannot be read holds nothing, and `tell` is
+/// called the first time.
+elements::MaterialLookup ForgivingLookup(elements::MaterialLookup materials,
+                                         std::function<void(const Message&)> tell);
 
 }  // namespace velmar::application

@@ -1,0 +1,37 @@
+#include <clocale>
+#include <iostream>
+#include <span>
+#include <string>
+#include <vector>
+
+#include "application/environment.h"
+#include "application/projects.h"
+#include "cli/command_line.h"
+#include "cli/outcome_table.h"
+#include "storage/materials/material_store.h"
+
+namespace {
+
+velmar::cli::Services OpenServices(const std::optional<std::filesystem::path>& data_folder) {
+  velmar::application::Environment environment = velmar::application::OpenEnvironmentForReading(data_folder);
+  velmar::cli::Services services;
+  services.words = [messages = std::move(environment.messages)](velmar::MessageRow row) {
+    return messages.Text(row);
+  };
+  const auto tell = [words = services.words](const velmar::Message& message) {
+    velmar::cli::WriteMessage(message, words, std::cerr);
+  };
+  services.materials = velmar::application::ForgivingLookup(
+      velmar::storage::MaterialLookupIn(environment.configuration.PercorsoDatabase()), tell);
+  for (const velmar::Message& warning : environment.warnings) tell(warning);
+  return services;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  // Libraries below read and write numbers by the locale; files and JSON need the point.
+  std::setlocale(LC_NUMERIC, "C");
+  const std::vector<std::string> arguments(argv + 1, argv + argc);
+  return velmar::cli::RunCommandLine(arguments, OpenServices, std::cout, std::cerr);
+}
