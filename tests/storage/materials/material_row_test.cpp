@@ -24,6 +24,9 @@ std::vector<Cell> DistinctCells(const TableSchema& table) {
       case ColumnType::kYesNo:
         cells.emplace_back(true);
         break;
+      case ColumnType::kWhole:
+        ADD_FAILURE() << column.name << ": no material table has a column of whole numbers";
+        break;
     }
   }
   return cells;
