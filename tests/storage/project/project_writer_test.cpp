@@ -1,9 +1,9 @@
 #include "storage/project/project_writer.h"
 
 #include <algorithm>
-#include <regex>
 #include <utility>
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "storage/project/project_reader.h"
@@ -22,8 +22,7 @@ bool Holds(const std::string& bytes, const std::string& part) {
 
 TEST(ProjectWriter, TheHeaderNamesTheProgramsVersion) {
   const std::string bytes = WriteProject({});
-  EXPECT_TRUE(std::regex_match(bytes.substr(0, bytes.find('\r')), std::regex(R"(VELMAR 2\.\d+\.\d+)")))
-      << bytes;
+  EXPECT_THAT(bytes.substr(0, bytes.find('\r')), testing::MatchesRegex("VELMAR 2\\.[0-9]+\\.[0-9]+"));
 }
 
 TEST(ProjectWriter, NoCalculationIsTwentyLines) {
