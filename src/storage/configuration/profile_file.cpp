@@ -8,7 +8,7 @@
 
 #include <INIReader.h>
 
-#include "storage/database/file_kind.h"
+#include "storage/files/windows_1252.h"
 
 namespace velmar::storage {
 namespace {
@@ -31,33 +31,6 @@ std::string_view Trimmed(std::string_view text) {
 
 bool IsContinuation(char byte) { return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U; }
 
-bool IsUtf8(std::string_view text) {
-  for (std::size_t i = 0; i < text.size(); ++i) {
-    const auto lead = static_cast<unsigned char>(text[i]);
-    if (lead < 0x80) continue;
-    const std::size_t more = lead >= 0xF0 ? 3 : lead >= 0xE0 ? 2 : 1;
-    if (lead < 0xC2 || lead > 0xF4 || text.size() - i <= more) return false;
-    for (std::size_t k = 0; k < more; ++k) {
-      if (!IsContinuation(text[++i])) return false;
-    }
-  }
-  return true;
-}
-
-std::string Utf8FromLatin1(std::string_view bytes) {
-  std::string text;
-  for (const char c : bytes) {
-    const auto byte = static_cast<unsigned char>(c);
-    if (byte < 0x80) {
-      text += c;
-    } else {
-      text += static_cast<char>(0xC0U | (byte >> 6U));
-      text += static_cast<char>(0x80U | (byte & 0x3FU));
-    }
-  }
-  return text;
-}
-
 std::string TextOf(const fs::path& file) {
   // Opening a pipe would wait for its other end.
   std::error_code error;
@@ -69,7 +42,7 @@ std::string TextOf(const fs::path& file) {
   std::erase(bytes, '\0');
   constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
   if (bytes.starts_with(kByteOrderMark)) bytes.erase(0, kByteOrderMark.size());
-  return IsUtf8(bytes) ? bytes : Utf8FromLatin1(bytes);
+  return IsUtf8(bytes) ? bytes : Utf8FromWindows1252(bytes);
 }
 
 /// `line` in the form that the parser hands back unharmed.
