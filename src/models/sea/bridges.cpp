@@ -34,7 +34,7 @@ HzSpectrum SeaPointBridgeCoupling(const SeaPointBridge& bridge, const HzSpectrum
   const double resonant = kAirImpedance / (m * m * impedance * kTwoPi * bridge.loss_factor) * scale;
   const double forced = 1.0 / kTwoPi * kAirDensity / (m * m * kSpeedOfSound) * scale;
   RequireBalance(resonant, forced);
-  for (std::size_t f = 1; f <= kHighestHz; ++f) {
+  for (int f = 1; f <= kLastHz; ++f) {
     coupling[f] = radiation_efficiency[f] * resonant / static_cast<double>(f) + forced;
   }
   return coupling;
@@ -51,7 +51,7 @@ void SeaLineBridgeCoupling(const SeaLineBridge& bridge, const HzSpectrum& radiat
   const double resonant = bridge.count * kAirImpedance / (kTwoPi * m * bridge.loss_factor);
   RequireBalance(resonant, forced);
   const HzSpectrum& roots = RootsOfHz();
-  for (std::size_t f = 1; f <= kHighestHz; ++f) {
+  for (int f = 1; f <= kLastHz; ++f) {
     coupling[f] = (forced * roots[f] + radiation_efficiency[f] * resonant) / static_cast<double>(f);
   }
 }

@@ -7,6 +7,9 @@ namespace velmar::models {
 
 /// The highest frequency of the energy balances, Hz.
 inline constexpr std::size_t kHighestHz = 6000;
+/// The same as a signed number: a loop that turns its frequency into a double counts in int, which a
+/// processor converts several at a time.
+inline constexpr int kLastHz = static_cast<int>(kHighestHz);
 
 /// One value per whole Hz, index = frequency, 0 to 6000. The balances work from 1 Hz on; index 0 stays as it
 /// was unless a function says otherwise. Levels are in dB; a "power ratio" is 10^(R/10), incident over

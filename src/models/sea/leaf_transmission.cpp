@@ -47,7 +47,7 @@ void SeaLeafPowerRatio(const HzSpectrum& radiation_efficiency, const SeaLeaf& le
   }
   const HzSpectrum& roots = RootsOfHz();
   // Both paths over f³ eta sqrt(f): one division a frequency.
-  for (std::size_t hz = 1; hz <= kHighestHz; ++hz) {
+  for (int hz = 1; hz <= kLastHz; ++hz) {
     const auto f = static_cast<double>(hz);
     const double loss = leaf.loss_factor * roots[hz] + radiation_loss;
     const double efficiency = radiation_efficiency[hz];
@@ -59,7 +59,7 @@ void SeaLeafPowerRatio(const HzSpectrum& radiation_efficiency, const SeaLeaf& le
       leaf.loss_factor < 0.0) {
     RequireBalance(power_ratio);
   }
-  for (std::size_t hz = 1; hz <= kHighestHz; ++hz) {
+  for (int hz = 1; hz <= kLastHz; ++hz) {
     const double normal = impedance * static_cast<double>(hz);
     const double ceiling = (1.0 + normal * normal) * kMinus5Db;
     const double limited = power_ratio[hz] < ceiling ? power_ratio[hz] : ceiling;

@@ -80,7 +80,7 @@ void FillEdgeModes(const RadiationFormula& formula, std::size_t last_hz, HzSpect
     efficiency[f] = (1.0 + wave_ratio) / (1.0 - wave_ratio);
   }
   for (std::size_t f = 1; f <= last_hz; ++f) efficiency[f] = std::log(efficiency[f]);
-  for (std::size_t f = 1; f <= last_hz; ++f) {
+  for (int f = 1; f <= static_cast<int>(last_hz); ++f) {
     const double ratio = static_cast<double>(f) * per_hz;
     const double wave_ratio = roots[f] * per_root;
     const double distance = 1.0 - ratio;

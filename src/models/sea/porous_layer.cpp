@@ -28,7 +28,7 @@ void MultiplyPorousLayer(const SeaPorousLayer& layer, HzSpectrum& absorption, Hz
     if (absorption[f] >= 1.0) absorption[f] = absorption[f - 1];
   }
   if (absorption[0] >= 1.0 && absorption[1] >= 1.0) throw ArithmeticFailure("a fill absorbs everything");
-  for (std::size_t f = 1; f <= kHighestHz; ++f) {
+  for (int f = 1; f <= kLastHz; ++f) {
     const double mass = per_hz * static_cast<double>(f);
     power_ratio[f] *= 1.0 / ((1.0 - absorption[f]) * kRestTransmission) + mass * mass * kMinus5Point5Db;
   }

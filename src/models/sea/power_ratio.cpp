@@ -13,8 +13,9 @@ HzSpectrum LevelsOf(const HzSpectrum& power_ratio) {
 }
 
 HzSpectrum PowerRatiosOf(const HzSpectrum& level_db) {
+  const double nepers = std::log(10.0) / 10.0;
   HzSpectrum ratio{};
-  for (std::size_t f = 1; f <= kHighestHz; ++f) ratio[f] = std::pow(10.0, level_db[f] / 10.0);
+  for (std::size_t f = 1; f <= kHighestHz; ++f) ratio[f] = std::exp(level_db[f] * nepers);
   return ratio;
 }
 
