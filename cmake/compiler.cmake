@@ -23,4 +23,6 @@ add_compile_options(-ffp-contract=off)
 if(VELMAR_SANITIZE)
   add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
   add_link_options(-fsanitize=address,undefined)
+  # g++ warns of unused parts of a std::variant once the sanitizers have rewritten it.
+  target_compile_options(project_warnings INTERFACE -Wno-maybe-uninitialized)
 endif()
