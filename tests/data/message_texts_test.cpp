@@ -143,7 +143,7 @@ TEST(MessageCatalogueTexts, HoldTheWordsThatOthersCountOn) {
 }
 
 TEST(MessageCatalogueTexts, KeepTheStoredKeywordInEveryLanguage) {
-  const Text& keyword = Texts("catalogue.csv").at(kStoredKeywordRow - 1);
+  const Text keyword = Texts("catalogue.csv").at(kStoredKeywordRow - 1);
   EXPECT_EQ(keyword.english, keyword.italian);
 }
 
