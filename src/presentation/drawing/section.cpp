@@ -1,11 +1,10 @@
 #include "presentation/drawing/section.h"
 
 #include <algorithm>
-#include <array>
-#include <span>
 
 #include "elements/catalogue.h"
 #include "presentation/texts/layer_rows.h"
+#include "presentation/texts/sea_cavity_parts.h"
 
 namespace velmar::presentation {
 namespace {
@@ -15,7 +14,6 @@ using elements::Family;
 using elements::LayerGroup;
 using elements::LayerRow;
 using elements::Orientation;
-using elements::SeaCavityType;
 using elements::Setup;
 
 /// Stacks strips one behind the other and numbers the rows.
@@ -120,24 +118,12 @@ void AddCavity(Stack& stack, const elements::Cavity& cavity, elements::Calculati
   stack.EndCavity();
 }
 
-enum class CavityPart { kFibre, kMass };
-
-/// What a SEA cavity of `type` holds, in order.
-std::span<const CavityPart> PartsOf(SeaCavityType type) {
-  using enum CavityPart;
-  static constexpr std::array kFromFibre = {kFibre, kMass, kFibre, kMass, kFibre};
-  static constexpr std::array kBetweenMasses = {kMass, kFibre, kMass};
-  if (type == SeaCavityType::kMassFibreMass) return kBetweenMasses;
-  const auto count = static_cast<std::size_t>(elements::FibreCount(type) + elements::MassCount(type));
-  return std::span(kFromFibre).first(count);
-}
-
 void AddSeaCavity(Stack& stack, const elements::SeaCavity& cavity) {
   stack.BeginCavity(NumberOf(cavity.depth_text));
   int fibre = 0;
   int mass = 0;
-  for (const CavityPart part : PartsOf(cavity.type)) {
-    if (part == CavityPart::kFibre) {
+  for (const SeaCavityPart part : PartsOf(cavity.type)) {
+    if (part == SeaCavityPart::kFibre) {
       const auto& row = cavity.fibres[static_cast<std::size_t>(fibre)];
       stack.AddRow(row.slot.thickness_mm, row.multiplicity, FillingKind(NameOf(row)), NameOf(row),
                    {LayerGroup::kSeaCavityFibre, fibre++});

@@ -3,7 +3,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "tests/presentation/drawing/sample_setups.h"
+#include "tests/presentation/sample_setups.h"
 
 namespace velmar::presentation {
 namespace {

@@ -10,7 +10,7 @@
 #include "presentation/drawing/colours.h"
 #include "tests/presentation/drawing/catalogue_words.h"
 #include "tests/presentation/drawing/picture.h"
-#include "tests/presentation/drawing/sample_setups.h"
+#include "tests/presentation/sample_setups.h"
 
 namespace velmar::presentation {
 namespace {

@@ -1,4 +1,4 @@
-// Paints charts and sections of typical elements into PNG files, to be looked at.
+// Paints charts, sections and printed pages of typical elements into PNG files, to be looked at.
 // drawing_samples FOLDER
 
 #include <QGuiApplication>
@@ -8,10 +8,12 @@
 #include <functional>
 #include <iostream>
 
+#include "acoustics/impact_rating.h"
 #include "presentation/drawing/curve_chart.h"
+#include "presentation/drawing/printed_page.h"
 #include "presentation/drawing/section_drawing.h"
 #include "tests/presentation/drawing/catalogue_words.h"
-#include "tests/presentation/drawing/sample_setups.h"
+#include "tests/presentation/sample_setups.h"
 
 namespace velmar::presentation {
 namespace {
@@ -81,6 +83,48 @@ void SaveCharts(const Folder& folder, const Words& words) {
   }
 }
 
+elements::ResultSet ImpactResult() {
+  elements::ResultSet result;
+  acoustics::Spectrum spectrum{};
+  for (std::size_t i = 0; i < spectrum.size(); ++i) spectrum[i] = 66.0 - 1.3 * static_cast<double>(i);
+  result.spectrum = spectrum;
+  result.shift = acoustics::FindImpactShift(spectrum);
+  result.lnw = acoustics::ImpactRatingOfShift(*result.shift);
+  result.ci = acoustics::FindImpactAdaptationTerm(spectrum, *result.lnw);
+  return result;
+}
+
+void SavePages(const Folder& folder, const Words& words) {
+  elements::ResultSet ceiling = samples::Result(56.0, 1.9);
+  ceiling.delta_rw = 9.0;
+  const struct {
+    const char* name;
+    elements::Setup setup;
+    elements::ResultSet result;
+    PageTotals totals;
+  } pages[] = {
+      {"wall", samples::PlasteredBrickWall(), samples::Result(), {150.0, 141.0}},
+      {"double", samples::PlasterboardDoubleWall(), samples::Result(), {150.0, 44.7}},
+      {"sea", samples::FullSeaWall(), samples::Result(), {222.0, 71.6}},
+      {"thin", samples::ManyThinLayers(10), samples::Result(), {340.0, 34.0}},
+      {"facade", samples::FacadeOfNine(), samples::Result(), {}},
+      {"floor", samples::FloatingFloor(), ImpactResult(), {373.0, 720.3}},
+      {"ceiling", samples::Lining(elements::Calculation::kCeilingSea), ceiling, {339.0, 339.4}},
+  };
+  for (const auto& [name, setup, result, totals] : pages) {
+    elements::Setup told = setup;
+    samples::TellTheProject(told);
+    const PaginaDiStampa page = PaginaDi(told, totals, &result, words);
+    const auto save = [&](const QString& file, const QSizeF& paper, double scale) {
+      folder.Save(file, (paper * 96.0).toSize(), scale,
+                  [&](QPainter& painter, const QRectF&) { ComponiPagina(painter, 96.0, paper, page); });
+    };
+    save(QStringLiteral("page_%1").arg(name), {8.27, 11.69}, 1.0);
+    save(QStringLiteral("page_%1_200").arg(name), {8.27, 11.69}, 2.0);
+    save(QStringLiteral("page_%1_landscape").arg(name), {11.69, 8.27}, 1.0);
+  }
+}
+
 }  // namespace
 }  // namespace velmar::presentation
 
@@ -95,5 +139,6 @@ int main(int argc, char** argv) {
   const velmar::presentation::Words words = velmar::presentation::CatalogueWords();
   SaveSections(folder);
   SaveCharts(folder, words);
+  SavePages(folder, words);
   return 0;
 }

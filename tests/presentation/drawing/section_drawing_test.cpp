@@ -7,7 +7,7 @@
 #include "presentation/drawing/colours.h"
 #include "presentation/drawing/section_layout.h"
 #include "tests/presentation/drawing/picture.h"
-#include "tests/presentation/drawing/sample_setups.h"
+#include "tests/presentation/sample_setups.h"
 
 namespace velmar::presentation {
 namespace {

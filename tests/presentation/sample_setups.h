@@ -160,4 +160,20 @@ inline elements::ResultSet Result(double level = 48.0, double slope = 1.6) {
   return result;
 }
 
+/// Fills in the project information, the notes over two lines.
+inline void TellTheProject(elements::Setup& setup) {
+  const std::pair<const char*, const char*> rows[] = {
+      {"Progetto", "Ristrutturazione di un edificio residenziale, via Garibaldi 12"},
+      {"Cliente", "Società Cooperativa Edilizia «La Quercia»"},
+      {"Progetto n.", "2024-117"},
+      {"Tecnico", "ing. Anna Bianchi"},
+      {"Dati di progetto", "Parete tra unità immobiliari distinte, piano secondo"},
+      {"Note", "Valori da verificare in opera.\nGiunti perimetrali sigillati."},
+      {"Allegato n./sigla", "A3"},
+      {"", ""}};
+  for (std::size_t i = 0; i < setup.information.size(); ++i) {
+    setup.information[i] = {rows[i].first, rows[i].second};
+  }
+}
+
 }  // namespace velmar::presentation::samples

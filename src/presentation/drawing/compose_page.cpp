@@ -1,0 +1,202 @@
+#include <QPainter>
+#include <algorithm>
+#include <functional>
+
+#include "presentation/drawing/colours.h"
+#include "presentation/drawing/page_blocks.h"
+#include "presentation/drawing/page_text.h"
+#include "presentation/drawing/printed_page.h"
+#include "presentation/drawing/section_drawing.h"
+#include "presentation/drawing/text.h"
+
+namespace velmar::presentation {
+namespace {
+
+constexpr double kFrameInset = 0.3 * kPageInch;
+constexpr double kContentInset = 0.55 * kPageInch;
+constexpr double kGap = 0.08 * kPageInch;
+constexpr double kFrameWidth = 0.01 * kPageInch;
+constexpr double kBandTableWidth = 2.4 * kPageInch;
+constexpr double kTallestChart = 3.8 * kPageInch;
+constexpr double kLargestChartPart = 0.44;
+constexpr std::size_t kLongLayerList = 14;
+constexpr double kDrawingPixels = kTextPoints * 96.0 / 72.0;
+
+/// What is left of the page; blocks take their room from its top.
+class Composer {
+ public:
+  Composer(QPainter& painter, const QSizeF& paper, const PaginaDiStampa& page)
+      : painter_(painter),
+        page_(page),
+        paper_(QPointF(), paper),
+        room_(paper_.adjusted(kContentInset, kContentInset, -kContentInset, -kContentInset)) {}
+
+  void Compose() {
+    DrawFrame();
+    DrawTitle();
+    DrawProject();
+    DrawResult();
+    DrawElement();
+  }
+
+ private:
+  void Take(double height) { room_.setTop(std::min(room_.top() + height, room_.bottom())); }
+  QRectF Top(double height) const { return {room_.topLeft(), QSizeF(room_.width(), height)}; }
+  bool Landscape() const { return paper_.width() > paper_.height(); }
+
+  void DrawFrame() {
+    painter_.setPen(QPen(kInkColour, kFrameWidth));
+    painter_.setBrush(Qt::NoBrush);
+    painter_.drawRect(paper_.adjusted(kFrameInset, kFrameInset, -kFrameInset, -kFrameInset));
+  }
+
+  void DrawRule() {
+    Take(0.6 * kGap);
+    painter_.setPen(QPen(kVerticalGridColour, kFrameWidth));
+    painter_.drawLine(room_.topLeft(), room_.topRight());
+    Take(0.8 * kGap);
+  }
+
+  void DrawTitle() {
+    if (page_.title.empty()) return;
+    // The longest title keeps one line.
+    const QString title = FromWords(page_.title);
+    double points = kTitlePoints;
+    while (points > kHeadingPoints && WidthOf(title, PageFont(points, true)) > room_.width()) points -= 0.5;
+    const QFont font = PageFont(points, true);
+    const double height = LineHeight(font);
+    painter_.setPen(kInkColour);
+    DrawWrapped(painter_, Top(height), font, title, Qt::AlignHCenter | Qt::AlignVCenter);
+    Take(height + kGap);
+    DrawRule();
+  }
+
+  void DrawProject() {
+    if (!page_.information.empty()) {
+      Take(DrawFields(painter_, room_, page_.information, kTextPoints, Landscape() ? 3 : 2));
+      DrawRule();
+    }
+    if (!page_.fields.empty()) {
+      Take(DrawFields(painter_, room_, page_.fields, kTextPoints + 1.0, Landscape() ? 3 : 2));
+      DrawRule();
+    }
+  }
+
+  void DrawPixels(const QRectF& area, const std::function<void(const QRectF&)>& draw) {
+    painter_.save();
+    painter_.translate(area.topLeft());
+    painter_.scale(kPagePixel, kPagePixel);
+    painter_.setFont(PixelFont(QFont(QStringLiteral("Arial")), kDrawingPixels));
+    draw(QRectF(QPointF(), area.size() / kPagePixel));
+    painter_.restore();
+  }
+
+  /// Chart and result at the left, the bands at the right.
+  void DrawResult() {
+    const double line = 1.35 * LineHeight(PageFont(kResultPoints, true));
+    const double results = line * static_cast<double>(page_.results.size());
+    if (!page_.chart && page_.bands.heads.empty()) {
+      DrawResultLines(room_, line);
+      Take(results + (page_.results.empty() ? 0.0 : kGap));
+      return;
+    }
+    const double height =
+        std::min(kTallestChart, kLargestChartPart * (paper_.height() - 2.0 * kContentInset));
+    QRectF left = Top(height);
+    if (!page_.bands.heads.empty()) {
+      const QRectF bands(left.right() - kBandTableWidth, left.top(), kBandTableWidth, height);
+      left.setRight(bands.left() - 2.0 * kGap);
+      DrawTable(
+          painter_, bands, page_.bands,
+          {.points = kTextPoints, .weights = {1.4, 1.0, 1.0}, .first_left = false, .largest_height = height});
+    }
+    const QRectF chart(left.topLeft(), QSizeF(left.width(), height - results));
+    if (page_.chart) {
+      DrawPixels(chart, [&](const QRectF& area) { DrawCurveChart(painter_, area, *page_.chart); });
+      painter_.setPen(QPen(kVerticalGridColour, kFrameWidth));
+      painter_.setBrush(Qt::NoBrush);
+      painter_.drawRect(chart);
+    }
+    DrawResultLines({chart.bottomLeft(), QSizeF(left.width(), results)}, line);
+    Take(height + kGap);
+    DrawRule();
+  }
+
+  void DrawResultLines(QRectF area, double line) {
+    painter_.setPen(kInkColour);
+    for (const std::string& result : page_.results) {
+      DrawWrapped(painter_, {area.topLeft(), QSizeF(area.width(), line)}, PageFont(kResultPoints, true),
+                  FromWords(result), Qt::AlignLeft | Qt::AlignVCenter);
+      area.setTop(area.top() + line);
+    }
+  }
+
+  void DrawElement() {
+    if (!page_.elements.heads.empty()) {
+      const bool facade = page_.structure.empty();
+      const std::vector<double> weights =
+          facade ? std::vector{3.4, 0.8, 0.9, 0.8, 1.7} : std::vector<double>{};
+      const double height = DrawTable(painter_, room_, page_.elements,
+                                      {.points = kTextPoints + 1.0,
+                                       .weights = weights,
+                                       .first_left = facade,
+                                       .largest_height = room_.height()});
+      Take(height + 1.5 * kGap);
+    }
+    if (page_.structure.empty()) return;
+    const QFont font = PageFont(kHeadingPoints, true);
+    painter_.setPen(kInkColour);
+    DrawWrapped(painter_, Top(LineHeight(font)), font, FromWords(page_.structure_heading));
+    Take(LineHeight(font) + kGap);
+    DrawLayers();
+  }
+
+  std::size_t LineCount() const {
+    std::size_t lines = page_.structure_notes.size();
+    for (const StructureBlock& block : page_.structure) lines += block.lines.size() + 1;
+    return lines;
+  }
+
+  /// The section beside a short list; of a wall with many layers above the list, so that its numbers have
+  /// room.
+  void DrawLayers() {
+    const bool long_list = LineCount() > kLongLayerList;
+    const bool above = long_list && !page_.section.horizontal && !Landscape();
+    QRectF section = room_;
+    QRectF list = room_;
+    if (page_.section.strips.empty()) {
+      section = {};
+    } else if (above) {
+      section.setHeight(std::min(0.42 * room_.height(), 2.0 * kPageInch));
+      list.setTop(section.bottom() + kGap);
+    } else {
+      section.setLeft(room_.right() - (long_list && Landscape() ? 0.3 : 0.42) * room_.width());
+      section.setHeight(std::min(room_.height(), 3.4 * kPageInch));
+      list.setRight(section.left() - 3.0 * kGap);
+    }
+    DrawStructure(painter_, list, page_);
+    if (section.isEmpty()) return;
+    DrawPixels(section, [&](const QRectF& area) {
+      DrawSection(painter_, area, page_.section, {.list_names = false});
+    });
+  }
+
+  QPainter& painter_;
+  const PaginaDiStampa& page_;
+  QRectF paper_;
+  QRectF room_;
+};
+
+}  // namespace
+
+void ComponiPagina(QPainter& painter, double units_per_inch, const QSizeF& paper_inches,
+                   const PaginaDiStampa& page) {
+  if (units_per_inch <= 0.0 || paper_inches.isEmpty()) return;
+  painter.save();
+  painter.scale(units_per_inch / kPageInch, units_per_inch / kPageInch);
+  painter.setRenderHint(QPainter::Antialiasing);
+  Composer(painter, paper_inches * kPageInch, page).Compose();
+  painter.restore();
+}
+
+}  // namespace velmar::presentation

@@ -1,0 +1,172 @@
+#include <cmath>
+
+#include "elements/catalogue.h"
+#include "foundation/decimal.h"
+#include "foundation/rounding.h"
+#include "presentation/drawing/printed_page.h"
+#include "presentation/texts/calculation_labels.h"
+#include "presentation/texts/facade_texts.h"
+#include "presentation/texts/layer_rows.h"
+#include "presentation/texts/result_lines.h"
+#include "presentation/texts/results_table.h"
+
+namespace velmar::presentation {
+namespace {
+
+using elements::Calculation;
+using elements::CalculationRow;
+using elements::Family;
+using elements::Setup;
+
+constexpr MessageRow kConnectionRow{76};
+constexpr MessageRow kElementTypeRow{79};
+constexpr MessageRow kTheoryRow{80};
+constexpr MessageRow kAreaRow{95};
+constexpr MessageRow kBaseWallRow{229};
+constexpr MessageRow kBaseFloorRow{228};
+constexpr int kFirstInformationRow = 124;
+constexpr MessageRow kThicknessRow{177};
+constexpr MessageRow kMassRow{217};
+constexpr MessageRow kOpaquePartRow{260};
+constexpr MessageRow kComponentRow{261};
+constexpr MessageRow kElementHeadRow{263};
+constexpr MessageRow kShareHeadRow{264};
+constexpr MessageRow kNotesHeadRow{265};
+constexpr MessageRow kStructureRow{285};
+constexpr MessageRow kWidthRow{411};
+constexpr MessageRow kHeightRow{412};
+constexpr MessageRow kDecoupledRow{414};
+/// "rif [dB]", the reference column of the printed page.
+constexpr MessageRow kReferenceColumnRow{1500};
+
+bool IsLining(Family family) { return family == Family::kLining || family == Family::kCeiling; }
+
+std::string NumberText(double value) { return FormatShortest(RoundToEven(value, 4)); }
+
+std::vector<PageField> InformationOf(const Setup& setup, const Words& words) {
+  std::vector<PageField> fields;
+  for (std::size_t i = 0; i < setup.information.size(); ++i) {
+    const elements::ProjectInformationRow& row = setup.information[i];
+    if (row.value.empty()) continue;
+    const std::string caption =
+        row.caption.empty() ? words({kFirstInformationRow + static_cast<int>(i)}) : row.caption;
+    fields.push_back({WithoutColon(caption), row.value});
+  }
+  return fields;
+}
+
+std::vector<PageField> FieldsOf(const Setup& setup, const CalculationRow& row, const PageTotals& totals,
+                                const Words& words) {
+  std::vector<PageField> fields;
+  const auto add = [&](MessageRow caption, std::string value) {
+    if (!value.empty()) fields.push_back({WithoutColon(words(caption)), std::move(value)});
+  };
+  add(kElementTypeRow, ElementTypeText(row.calculation, words));
+  add(kTheoryRow, TheoryText(row.calculation, words));
+  if (row.family == Family::kFacade) {
+    add(kAreaRow, NumberText(FacadeArea(setup)));
+    return fields;
+  }
+  if (!IsLining(row.family)) {
+    add(kWidthRow, setup.width_text);
+    add(kHeightRow, setup.height_text);
+  }
+  add(kThicknessRow, NumberText(totals.thickness_mm));
+  add(kMassRow, NumberText(totals.surface_mass_kg_m2));
+  if (IsLining(row.family)) {
+    add(row.family == Family::kCeiling ? kBaseFloorRow : kBaseWallRow, setup.base.name);
+  }
+  if (row.calculation == Calculation::kCeilingSea) add(kConnectionRow, HangerText(setup.hanger, words));
+  if (row.calculation == Calculation::kDoubleWallSeaBrick && setup.decoupled) {
+    fields.push_back({{}, words(kDecoupledRow)});
+  }
+  return fields;
+}
+
+PageTable BandsOf(const Setup& setup, Family family, const elements::ResultSet& result, const Words& words) {
+  PageTable table;
+  const std::optional<BandSpan> span = ShownBands(setup);
+  if (!span || !result.spectrum) return table;
+  table.heads = {words(kFrequencyRow), ValueHeading(family, words), words(kReferenceColumnRow)};
+  for (std::size_t band = span->first; band <= span->last; ++band) {
+    table.rows.push_back({FormatShortest(acoustics::BandCentre(band)), FormatLevel((*result.spectrum)[band]),
+                          ReferenceLevel(family, result.shift, band)});
+  }
+  return table;
+}
+
+/// "infisso 2: Porta", or the kind alone for a part without a name.
+std::string PartName(const std::string& kind, const std::string& name) {
+  return name.empty() ? kind : kind + ": " + name;
+}
+
+PageTable FacadeTable(const Setup& setup, const Words& words) {
+  PageTable table{.heads = {words(kElementHeadRow), "Rw (dB)", words(kAreaRow), words(kShareHeadRow),
+                            words(kNotesHeadRow)}};
+  const double opaque = OpaqueArea(setup);
+  table.rows.push_back({PartName(words(kOpaquePartRow), setup.base.name),
+                        setup.base.rating_text,
+                        NumberText(opaque),
+                        ShareText(setup, opaque),
+                        {}});
+  for (int i = 0; i < setup.facade.Count(); ++i) {
+    const elements::FacadeComponent& part = setup.facade.components[static_cast<std::size_t>(i)];
+    const double area = ComponentArea(part);
+    const bool small = area == 0.0;
+    table.rows.push_back({PartName(words(kComponentRow), part.name), part.rating_text,
+                          small ? std::string(elements::kSmallElementArea) : NumberText(area),
+                          small ? std::string(elements::kSmallElementArea) : ShareText(setup, area),
+                          small ? std::string() : TightnessText(part.tightness_class, words)});
+  }
+  return table;
+}
+
+PageTable LiningTable(const Setup& setup, const elements::ResultSet* result) {
+  PageTable table{.heads = {"m'", "Rw (dB)", "m' add", "DRw (dB)"}};
+  table.rows.push_back({FormatFixed(static_cast<double>(setup.base.mass_kg_m2), 1), setup.base.rating_text,
+                        FormatFixed(LiningMass(setup), 1),
+                        result != nullptr ? FormatTerm(result->delta_rw) : std::string()});
+  return table;
+}
+
+/// What the two floors in hollow brick and concrete add behind their layers.
+std::vector<std::string> NotesOf(const CalculationRow& row, const PageTotals& totals,
+                                 const elements::ResultSet* result) {
+  std::vector<std::string> notes;
+  const bool floating = row.calculation == Calculation::kFloorWithFloatingScreed;
+  if (!floating && row.calculation != Calculation::kFloorHollowBrickConcrete) return notes;
+  notes.push_back("S= " + NumberText(totals.thickness_mm) + "mm");
+  notes.push_back(MassText(totals.surface_mass_kg_m2));
+  if (floating && result != nullptr && result->delta_rw) {
+    notes.push_back("DRw= " + FormatLevel(result->delta_rw) + " dB");
+  }
+  return notes;
+}
+
+}  // namespace
+
+PaginaDiStampa PaginaDi(const Setup& setup, const PageTotals& totals, const elements::ResultSet* result,
+                        const Words& words, std::optional<CurveChart> chart) {
+  PaginaDiStampa page;
+  page.information = InformationOf(setup, words);
+  if (!setup.calculation) return page;
+  const CalculationRow& row = elements::RowOf(*setup.calculation);
+  page.title = TitleOf(row.family, words);
+  page.fields = FieldsOf(setup, row, totals, words);
+  if (result != nullptr) {
+    page.chart = chart ? std::move(chart) : CurveChartOf(setup, *result, words);
+    page.bands = BandsOf(setup, row.family, *result, words);
+    for (std::string line : {ResultLine(row.family, *result), ImprovementLine(row.family, *result)}) {
+      if (!line.empty()) page.results.push_back(std::move(line));
+    }
+  }
+  if (row.family == Family::kFacade) page.elements = FacadeTable(setup, words);
+  if (IsLining(row.family)) page.elements = LiningTable(setup, result);
+  page.structure = StructureOf(setup, words);
+  if (!page.structure.empty()) page.structure_heading = words(kStructureRow);
+  page.structure_notes = NotesOf(row, totals, result);
+  page.section = SectionOf(setup);
+  return page;
+}
+
+}  // namespace velmar::presentation

@@ -1,0 +1,126 @@
+#include <QPainter>
+#include <algorithm>
+#include <numeric>
+
+#include "presentation/drawing/colours.h"
+#include "presentation/drawing/page_blocks.h"
+#include "presentation/drawing/page_text.h"
+#include "presentation/drawing/text.h"
+
+namespace velmar::presentation {
+namespace {
+
+constexpr double kRuleWidth = 0.5 * kPagePoint;
+constexpr int kMostLines = 3;
+const QColor kHeadTint(0xEE, 0xF0, 0xF4);
+
+/// A table measured for one text size.
+struct MeasuredTable {
+  QFont font{};
+  QFont head_font{};
+  double padding = 0.0;
+  std::vector<double> widths{};
+  double head_height = 0.0;
+  std::vector<double> row_heights{};
+
+  double Height() const { return head_height + std::accumulate(row_heights.begin(), row_heights.end(), 0.0); }
+};
+
+double RowHeight(const std::vector<std::string>& cells, const QFont& font, const MeasuredTable& table) {
+  double height = LineHeight(font);
+  for (std::size_t i = 0; i < cells.size(); ++i) {
+    height =
+        std::max(height, WrappedHeight(FromWords(cells[i]), font, table.widths[i] - 2.0 * table.padding));
+  }
+  return std::min(height, kMostLines * LineHeight(font)) + 0.6 * table.padding;
+}
+
+MeasuredTable Measure(const PageTable& table, const TableStyle& style, double points, double width) {
+  MeasuredTable measured;
+  measured.font = PageFont(points);
+  measured.head_font = PageFont(points, true);
+  measured.padding = 0.35 * points * kPagePoint;
+  std::vector<double> weights = style.weights;
+  weights.resize(table.heads.size(), 1.0);
+  const double sum = std::accumulate(weights.begin(), weights.end(), 0.0);
+  for (const double weight : weights) measured.widths.push_back(width * weight / sum);
+  measured.head_height = RowHeight(table.heads, measured.head_font, measured);
+  for (const auto& row : table.rows) measured.row_heights.push_back(RowHeight(row, measured.font, measured));
+  return measured;
+}
+
+void DrawRow(QPainter& painter, const QPointF& corner, double height, const std::vector<std::string>& cells,
+             const QFont& font, const MeasuredTable& table, bool first_left) {
+  double x = corner.x();
+  for (std::size_t i = 0; i < cells.size(); ++i) {
+    const QRectF cell(x + table.padding, corner.y(), table.widths[i] - 2.0 * table.padding, height);
+    const int align = i == 0 && first_left ? Qt::AlignLeft : Qt::AlignHCenter;
+    DrawWrapped(painter, cell, font, FromWords(cells[i]), align | Qt::AlignVCenter);
+    x += table.widths[i];
+  }
+}
+
+}  // namespace
+
+double DrawTable(QPainter& painter, const QRectF& area, const PageTable& table, const TableStyle& style) {
+  if (table.heads.empty()) return 0.0;
+  double points = style.points;
+  MeasuredTable measured = Measure(table, style, points, area.width());
+  while (measured.Height() > style.largest_height && points > kSmallestPoints) {
+    points = std::max(kSmallestPoints, points - 0.5);
+    measured = Measure(table, style, points, area.width());
+  }
+  painter.fillRect(QRectF(area.topLeft(), QSizeF(area.width(), measured.head_height)), kHeadTint);
+  painter.setPen(kInkColour);
+  DrawRow(painter, area.topLeft(), measured.head_height, table.heads, measured.head_font, measured,
+          style.first_left);
+  double y = area.top() + measured.head_height;
+  const double bottom = area.top() + style.largest_height;
+  for (std::size_t i = 0; i < table.rows.size(); ++i) {
+    const bool last = i + 1 == table.rows.size();
+    const double height = measured.row_heights[i];
+    if (y + height + (last ? 0.0 : LineHeight(measured.font)) > bottom + 1.0) {
+      DrawRow(painter, {area.left(), y}, LineHeight(measured.font), {"\xE2\x80\xA6"}, measured.font, measured,
+              style.first_left);
+      y += LineHeight(measured.font);
+      break;
+    }
+    painter.setPen(QPen(kVerticalGridColour, kRuleWidth));
+    painter.drawLine(QPointF(area.left(), y + height), QPointF(area.right(), y + height));
+    painter.setPen(kInkColour);
+    DrawRow(painter, {area.left(), y}, height, table.rows[i], measured.font, measured, style.first_left);
+    y += height;
+  }
+  return y - area.top();
+}
+
+double DrawFields(QPainter& painter, const QRectF& area, const std::vector<PageField>& fields, double points,
+                  int columns) {
+  const QFont font = PageFont(points);
+  const double gap = 2.0 * points * kPagePoint;
+  const double width = (area.width() - gap * (columns - 1)) / columns;
+  double y = area.top();
+  for (std::size_t begin = 0; begin < fields.size(); begin += static_cast<std::size_t>(columns)) {
+    double row_height = LineHeight(font);
+    for (int column = 0; column < columns; ++column) {
+      const std::size_t index = begin + static_cast<std::size_t>(column);
+      if (index >= fields.size()) break;
+      const PageField& field = fields[index];
+      const QString caption = field.caption.empty() ? QString() : FromWords(field.caption + ": ");
+      const double indent = std::min(WidthOf(caption, font), 0.6 * width);
+      const double x = area.left() + column * (width + gap);
+      const QString value = FromWords(field.value);
+      const double height =
+          std::min(WrappedHeight(value, font, width - indent), kMostLines * LineHeight(font));
+      painter.setPen(kQuietInkColour);
+      DrawWrapped(painter, QRectF(x, y, indent + 1.0, LineHeight(font)), font, caption);
+      painter.setPen(kInkColour);
+      DrawWrapped(painter, QRectF(x + indent, y, width - indent, height), font, value);
+      row_height = std::max(row_height, height);
+    }
+    y += row_height + 0.25 * points * kPagePoint;
+  }
+  return y - area.top();
+}
+
+}  // namespace velmar::presentation

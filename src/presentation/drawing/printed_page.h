@@ -1,0 +1,65 @@
+#pragma once
+
+#include <QSizeF>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "elements/result_set.h"
+#include "elements/setup.h"
+#include "presentation/drawing/curve_chart.h"
+#include "presentation/drawing/section.h"
+#include "presentation/texts/structure.h"
+#include "presentation/texts/words.h"
+
+class QPainter;
+
+namespace velmar::presentation {
+
+/// A caption and its value, printed as "caption: value".
+struct PageField {
+  std::string caption{};
+  std::string value{};
+};
+
+/// A table with heads; every row has as many cells as there are heads.
+struct PageTable {
+  std::vector<std::string> heads{};
+  std::vector<std::vector<std::string>> rows{};
+};
+
+/// What stands on the one page of a calculation. UTF-8.
+struct PaginaDiStampa {
+  std::string title{};
+  std::vector<PageField> information{};  ///< of the project; a value may hold line breaks
+  std::vector<PageField> fields{};       ///< of the calculation
+  std::optional<CurveChart> chart{};
+  std::vector<std::string> results{};  ///< bold lines
+  PageTable bands{};                   ///< frequency, level, reference; no heads: no table
+  PageTable elements{};                ///< parts of a facade, or a lining with its base
+  std::string structure_heading{};
+  std::vector<StructureBlock> structure{};
+  std::vector<std::string> structure_notes{};  ///< lines behind the layers
+  Section section{};
+};
+
+/// The totals of an element as the window shows them.
+struct PageTotals {
+  double thickness_mm = 0.0;
+  double surface_mass_kg_m2 = 0.0;
+};
+
+/// The page of a calculation. @param result nothing before a run: the page then shows the set-up alone.
+/// @param chart the chart as shown, with its overlays; without one it is made of `result`
+PaginaDiStampa PaginaDi(const elements::Setup& setup, const PageTotals& totals,
+                        const elements::ResultSet* result, const Words& words,
+                        std::optional<CurveChart> chart = std::nullopt);
+
+/// `ComponiPagina`: draws `page` on a paper of `paper_inches` whose corner is the painter's origin; one inch
+/// of paper takes `units_per_inch` of the painter's units (the target's resolution times the factor of
+/// PreparaPagina). Everything is drawn as vectors. Long lists take smaller text, down to 7 points, and more
+/// columns; what still finds no room ends in an ellipsis.
+void ComponiPagina(QPainter& painter, double units_per_inch, const QSizeF& paper_inches,
+                   const PaginaDiStampa& page);
+
+}  // namespace velmar::presentation

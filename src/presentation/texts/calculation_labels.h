@@ -1,0 +1,29 @@
+#pragma once
+
+#include <string>
+
+#include "elements/catalogue.h"
+#include "elements/layers.h"
+#include "presentation/texts/words.h"
+
+namespace velmar::presentation {
+
+/// The theory that a calculation applies, with its relation's mark: "relazione sperimentale [10]".
+std::string TheoryText(elements::Calculation calculation, const Words& words);
+
+/// The kind of element as a value behind a caption: the label without its closing colon.
+std::string ElementTypeText(elements::Calculation calculation, const Words& words);
+
+/// The title of printed page and reports: airborne, facade or impact.
+std::string TitleOf(elements::Family family, const Words& words);
+
+/// An entry of `ComboTipoIntercSEA`: "Intercapedine vuota", "Fibroso+ Massa", ...
+std::string SeaCavityTypeText(elements::SeaCavityType type, const Words& words);
+
+/// An entry of `ComboTipoAppendino`, 0 to 2; an empty text for another position.
+std::string HangerText(int hanger, const Words& words);
+
+/// `caption` without a closing colon.
+std::string WithoutColon(std::string caption);
+
+}  // namespace velmar::presentation

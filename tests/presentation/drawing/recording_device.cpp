@@ -1,0 +1,92 @@
+#include "tests/presentation/drawing/recording_device.h"
+
+#include <QFontMetricsF>
+#include <QPainter>
+#include <QPainterPath>
+#include <algorithm>
+#include <cmath>
+
+namespace velmar::presentation {
+
+class RecordingDevice::Engine : public QPaintEngine {
+ public:
+  Engine() : QPaintEngine(AllFeatures) {}
+
+  bool begin(QPaintDevice*) override { return true; }
+  bool end() override { return true; }
+  Type type() const override { return User; }
+  void updateState(const QPaintEngineState&) override {}
+
+  void drawPixmap(const QRectF& target, const QPixmap&, const QRectF&) override { AddPicture(target); }
+  void drawImage(const QRectF& target, const QImage&, const QRectF&, Qt::ImageConversionFlags) override {
+    AddPicture(target);
+  }
+  void drawPath(const QPainterPath& path) override { Add(path.boundingRect()); }
+  void drawPolygon(const QPointF* points, int count, PolygonDrawMode) override {
+    QPolygonF polygon;
+    for (int i = 0; i < count; ++i) polygon << points[i];
+    Add(polygon.boundingRect());
+  }
+  void drawTextItem(const QPointF& at, const QTextItem& item) override {
+    const QTransform to_device = painter()->combinedTransform();
+    const QRectF box(at.x(), at.y() - item.ascent(), item.width(), item.ascent() + item.descent());
+    const double scale = std::sqrt(std::abs(to_device.determinant()));
+    texts.push_back(
+        {item.text(), to_device.mapRect(box), item.font().pixelSize() * scale, item.font().bold()});
+    Add(box);
+  }
+
+  std::vector<RecordedText> texts{};
+  QRectF extent{};
+  int pictures = 0;
+
+ private:
+  void AddPicture(const QRectF& target) {
+    ++pictures;
+    Add(target);
+  }
+  /// Counts what the clip lets through.
+  void Add(const QRectF& box) {
+    QRectF visible = box.normalized().adjusted(0.0, 0.0, 1e-6, 1e-6);
+    if (painter()->hasClipping()) visible &= painter()->clipBoundingRect();
+    if (!visible.isEmpty()) extent |= painter()->combinedTransform().mapRect(visible);
+  }
+};
+
+RecordingDevice::RecordingDevice(const QSize& size) : size_(size), engine_(std::make_unique<Engine>()) {}
+RecordingDevice::~RecordingDevice() = default;
+
+QPaintEngine* RecordingDevice::paintEngine() const { return engine_.get(); }
+const std::vector<RecordedText>& RecordingDevice::Texts() const { return engine_->texts; }
+QRectF RecordingDevice::Extent() const { return engine_->extent; }
+int RecordingDevice::Pictures() const { return engine_->pictures; }
+
+RecordedText RecordingDevice::Find(const QString& words) const {
+  const auto found = std::ranges::find_if(
+      engine_->texts, [&](const RecordedText& text) { return text.text.contains(words); });
+  return found == engine_->texts.end() ? RecordedText{} : *found;
+}
+
+bool RecordingDevice::Says(const QString& words) const { return !Find(words).text.isEmpty(); }
+
+int RecordingDevice::metric(PaintDeviceMetric metric) const {
+  switch (metric) {
+    case PdmWidth:
+      return size_.width();
+    case PdmHeight:
+      return size_.height();
+    case PdmDpiX:
+    case PdmDpiY:
+    case PdmPhysicalDpiX:
+    case PdmPhysicalDpiY:
+      return 96;
+    case PdmDevicePixelRatio:
+      return 1;
+    case PdmDepth:
+      return 32;
+    default:
+      return QPaintDevice::metric(metric);
+  }
+}
+
+}  // namespace velmar::presentation
