@@ -170,14 +170,15 @@ class Composer {
       section.setHeight(std::min(0.42 * room_.height(), 2.0 * kPageInch));
       list.setTop(section.bottom() + kGap);
     } else {
-      section.setLeft(room_.right() - (long_list && Landscape() ? 0.3 : 0.42) * room_.width());
+      section.setLeft(room_.right() - (long_list && Landscape() ? 0.36 : 0.42) * room_.width());
       section.setHeight(std::min(room_.height(), 3.4 * kPageInch));
       list.setRight(section.left() - 3.0 * kGap);
     }
     DrawStructure(painter_, list, page_);
     if (section.isEmpty()) return;
     DrawPixels(section, [&](const QRectF& area) {
-      DrawSection(painter_, area, page_.section, {.list_names = false});
+      DrawSection(painter_, area, page_.section,
+                  {.list_names = false, .smallest_number_px = kSmallestPoints * 96.0 / 72.0});
     });
   }
 

@@ -11,8 +11,9 @@ class QPainter;
 namespace velmar::presentation {
 
 struct SectionOptions {
-  int highlighted_number = 0;  ///< the row to light up; 0 for none
-  bool list_names = true;      ///< numbers and names beside or below the section, where there is room
+  int highlighted_number = 0;       ///< the row to light up; 0 for none
+  bool list_names = true;           ///< numbers and names beside or below the section, where there is room
+  double smallest_number_px = 4.0;  ///< where numbers would have to be smaller, some are left out
 };
 
 /// Draws `section` to scale into `area`, on white, in units of which one is a screen pixel: strips, numbers

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <optional>
 
 #include "foundation/decimal.h"
 #include "foundation/rounding.h"
@@ -14,7 +15,6 @@ namespace {
 constexpr double kListLine = 1.45;  // in text heights
 constexpr double kLargestListPart = 0.48;
 constexpr double kSmallestBody = 0.2;  // of the area; names give way before the strips get smaller
-constexpr double kSmallestLabel = 4.0;
 
 /// A number and its material.
 struct NumberedRow {
@@ -82,7 +82,10 @@ struct LabelLanes {
   double SizeOf(std::size_t index) const { return two && index % 2 == 1 ? leader : size; }
 };
 
-LabelLanes LanesFor(std::size_t count, double length, double text_px, const QFont& font, bool horizontal) {
+/// The lanes for `count` numbers along `length`, none smaller than `smallest_px`; nothing when they do not
+/// fit.
+std::optional<LabelLanes> LanesFor(std::size_t count, double length, double text_px, double smallest_px,
+                                   const QFont& font, bool horizontal) {
   LabelLanes lanes;
   for (lanes.text_px = text_px;; lanes.text_px -= 1.0) {
     const QFont label_font = PixelFont(font, lanes.text_px, true);
@@ -92,7 +95,8 @@ LabelLanes LanesFor(std::size_t count, double length, double text_px, const QFon
     lanes.two = lanes.size * static_cast<double>(count) > length;
     const double taken =
         lanes.two ? (static_cast<double>((count + 3) / 2)) * (lanes.size + lanes.leader) : 0.0;
-    if (taken <= length || lanes.text_px <= kSmallestLabel) return lanes;
+    if (taken <= length) return lanes;
+    if (lanes.text_px - 1.0 < smallest_px) return std::nullopt;
   }
 }
 
@@ -117,11 +121,31 @@ double TargetOf(const Section& section, int number) {
   return middle.position_mm + middle.thickness_mm / 2.0;
 }
 
-/// The band of numbers for strips that reach from `from` to `to`.
-LabelBand BandOf(const std::vector<NumberedRow>& rows, const Section& section, const SectionLayout& layout,
-                 double from, double to) {
+/// Every `step`th of `rows`.
+std::vector<NumberedRow> Thinned(const std::vector<NumberedRow>& rows, std::size_t step) {
+  std::vector<NumberedRow> kept;
+  for (std::size_t i = 0; i < rows.size(); i += step) kept.push_back(rows[i]);
+  return kept;
+}
+
+/// The band of numbers for strips that reach from `from` to `to`. Where not all are legible, `rows` keeps
+/// every second or third, as on a rule.
+LabelBand BandOf(std::vector<NumberedRow>& rows, const Section& section, const SectionLayout& layout,
+                 double smallest_px, double from, double to) {
   LabelBand band;
-  band.lanes = LanesFor(rows.size(), to - from, layout.text_px, layout.font, section.horizontal);
+  const std::vector<NumberedRow> all = rows;
+  for (std::size_t step = 1; step <= all.size(); ++step) {
+    rows = Thinned(all, step);
+    const auto lanes =
+        LanesFor(rows.size(), to - from, layout.text_px, smallest_px, layout.font, section.horizontal);
+    if (!lanes) continue;
+    band.lanes = *lanes;
+    break;
+  }
+  if (band.lanes.text_px == 0.0) {
+    rows.clear();
+    return band;
+  }
   const QFont label_font = PixelFont(layout.font, band.lanes.text_px, true);
   band.lane_width = section.horizontal ? WidthOf(QStringLiteral("00"), label_font) + 0.5 * band.lanes.text_px
                                        : 1.3 * band.lanes.text_px;
@@ -193,12 +217,14 @@ SectionLayout LayoutOf(const QRectF& area, const Section& section, const QFont& 
   const double em = layout.text_px;
   QRectF room = area.adjusted(0.6 * em, 0.6 * em, -0.6 * em, -0.6 * em);
 
-  const std::vector<NumberedRow> rows = NumberedRows(section);
+  std::vector<NumberedRow> rows = NumberedRows(section);
   if (options.list_names) PlaceList(layout, room, rows);
   if (section.horizontal) room.adjust(0.0, 0.3 * em, 0.0, -0.3 * em);
 
-  const LabelBand band = section.horizontal ? BandOf(rows, section, layout, room.top(), room.bottom())
-                                            : BandOf(rows, section, layout, room.left(), room.right());
+  const LabelBand band =
+      section.horizontal
+          ? BandOf(rows, section, layout, options.smallest_number_px, room.top(), room.bottom())
+          : BandOf(rows, section, layout, options.smallest_number_px, room.left(), room.right());
   layout.label_px = band.lanes.text_px;
   if (section.horizontal) {
     const double arrow_width = 1.8 * em + WidthOf(DimensionText(section.thickness_mm), layout.font);
@@ -212,7 +238,9 @@ SectionLayout LayoutOf(const QRectF& area, const Section& section, const QFont& 
                        layout.body.height() < kSmallestBody * area.height();
   if (cramped && options.list_names) {
     return LayoutOf(area, section, font,
-                    {.highlighted_number = options.highlighted_number, .list_names = false});
+                    {.highlighted_number = options.highlighted_number,
+                     .list_names = false,
+                     .smallest_number_px = options.smallest_number_px});
   }
   PlaceStrips(layout, section);
   PlaceLabels(layout, rows, band, section.horizontal);

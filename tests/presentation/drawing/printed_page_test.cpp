@@ -250,7 +250,8 @@ INSTANTIATE_TEST_SUITE_P(
                     Print{"Ceiling", samples::Lining(Calculation::kCeilingSea), kPortrait},
                     Print{"Sea", samples::FullSeaWall(), kLandscape}, Print{"Crowded", Crowded(), kPortrait},
                     Print{"CrowdedLandscape", Crowded(), kLandscape},
-                    Print{"CrowdedFloor", CrowdedFloor(), kPortrait}),
+                    Print{"CrowdedFloor", CrowdedFloor(), kPortrait},
+                    Print{"CrowdedFloorLandscape", CrowdedFloor(), kLandscape}),
     [](const auto& test) { return test.param.name; });
 
 TEST(ComponiPagina, SetsTitleAndResultBoldAtTheirSizes) {

@@ -57,6 +57,19 @@ TEST(SectionLayout, PointsEveryNumberAtItsStrip) {
   }
 }
 
+TEST(SectionLayout, LeavesNumbersOutRatherThanShrinkingThemTooFar) {
+  const Section floor = Horizontal(SectionOf(samples::ManyThinLayers(10)));
+  const SectionLayout layout =
+      LayoutOf(QRectF(0, 0, 300, 150), floor, QFont(), {.list_names = false, .smallest_number_px = 9.0});
+  EXPECT_GE(layout.label_px, 9.0);
+  ASSERT_GT(layout.labels.size(), 3U);
+  const int step = layout.labels[1].number - layout.labels[0].number;
+  EXPECT_GT(step, 1);
+  for (std::size_t i = 1; i < layout.labels.size(); ++i) {
+    EXPECT_EQ(layout.labels[i].number - layout.labels[i - 1].number, step);
+  }
+}
+
 TEST(SectionLayout, IsToScale) {
   const Section section = SectionOf(samples::PlasteredBrickWall());
   const SectionLayout layout = LayoutOf(QRectF(0, 0, 500, 300), section, QFont(), {});
