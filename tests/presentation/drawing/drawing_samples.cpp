@@ -1,9 +1,11 @@
-// Paints charts, sections and printed pages of typical elements into PNG files, to be looked at.
+// Paints charts, sections and printed pages of typical elements into PNG and PDF files, to be looked at.
 // drawing_samples FOLDER
 
 #include <QGuiApplication>
 #include <QImage>
+#include <QPageSize>
 #include <QPainter>
+#include <QPdfWriter>
 #include <QString>
 #include <functional>
 #include <iostream>
@@ -34,6 +36,14 @@ class Folder {
     painter.end();
     const QString file = path_ + "/" + name + ".png";
     if (!image.save(file)) std::cerr << "cannot write " << file.toStdString() << '\n';
+  }
+
+  void SavePdf(const QString& name, const PaginaDiStampa& page) const {
+    QPdfWriter writer(path_ + "/" + name + ".pdf");
+    writer.setPageSize(QPageSize(QPageSize::A4));
+    writer.setPageMargins({0.0, 0.0, 0.0, 0.0});
+    QPainter painter(&writer);
+    ComponiPagina(painter, writer.resolution(), QPageSize::size(QPageSize::A4, QPageSize::Inch), page);
   }
 
  private:
@@ -119,6 +129,7 @@ void SavePages(const Folder& folder, const Words& words) {
       folder.Save(file, (paper * 96.0).toSize(), scale,
                   [&](QPainter& painter, const QRectF&) { ComponiPagina(painter, 96.0, paper, page); });
     };
+    folder.SavePdf(QStringLiteral("page_%1").arg(name), page);
     save(QStringLiteral("page_%1").arg(name), {8.27, 11.69}, 1.0);
     save(QStringLiteral("page_%1_200").arg(name), {8.27, 11.69}, 2.0);
     save(QStringLiteral("page_%1_landscape").arg(name), {11.69, 8.27}, 1.0);
