@@ -24,8 +24,9 @@ ExitCode RunInChild(const std::function<ExitCode()>& work) {
   }
   if (!WIFEXITED(status)) return ExitCode::kReaderDied;
   const int code = WEXITSTATUS(status);
-  // Any other code is not ours: a sanitizer, or a library that called exit().
-  const bool known = code >= 0 && code <= static_cast<int>(ExitCode::kCopyNotWritten);
+  // Any other code is not the work's: a sanitizer, or a library that called exit().
+  const bool known =
+      code != static_cast<int>(ExitCode::kWrongUsage) && code <= static_cast<int>(ExitCode::kCopyNotWritten);
   return known ? static_cast<ExitCode>(code) : ExitCode::kReaderDied;
 }
 

@@ -217,6 +217,7 @@ TableSchema FurtherTextTable(const std::vector<std::string>& languages) {
 
 std::vector<LibraryFolder> LibraryFolders() {
   std::vector<LibraryFolder> folders;
+  folders.reserve(kLibrary.size());
   for (const LibraryRow& row : kLibrary) {
     folders.push_back({std::string(row.key), std::string(row.folder), LibraryTable(row),
                        std::string(row.ratings[0]), std::string(row.band_prefix)});
@@ -226,6 +227,7 @@ std::vector<LibraryFolder> LibraryFolders() {
 
 std::vector<std::string> BandColumns(std::string_view prefix) {
   std::vector<std::string> names;
+  names.reserve(kBandCentres.size());
   for (const std::string_view centre : kBandCentres) {
     names.push_back(std::string(prefix) + " - " + std::string(centre) + "Hz (dB)");
   }

@@ -40,6 +40,7 @@ TEST(RunInChild, AnEndlessLoopIsStopped) {
 
 TEST(RunInChild, AForeignExitCodeIsNotTakenForSuccess) {
   EXPECT_EQ(RunInChild([]() -> ExitCode { _Exit(77); }), ExitCode::kReaderDied);
+  EXPECT_EQ(RunInChild([]() -> ExitCode { _Exit(1); }), ExitCode::kReaderDied);
 }
 
 }  // namespace
