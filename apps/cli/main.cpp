@@ -18,6 +18,9 @@ velmar::cli::Services OpenServices(const std::optional<std::filesystem::path>& d
   services.words = [messages = std::move(environment.messages)](velmar::MessageRow row) {
     return messages.Text(row);
   };
+  services.material_database = environment.configuration.PercorsoDatabase();
+  services.result_database = environment.configuration.PercorsoDatabaseTeorico();
+  services.library_folder = environment.configuration.CartellaLibreria();
   const auto tell = [words = services.words](const velmar::Message& message) {
     velmar::cli::WriteMessage(message, words, std::cerr);
   };

@@ -1,11 +1,13 @@
 #include "cli/command_line.h"
 
+#include <map>
 #include <ostream>
 #include <vector>
 
 #include <CLI/CLI.hpp>
 
 #include "cli/catalogue_command.h"
+#include "cli/materials_command.h"
 #include "cli/outcome_table.h"
 #include "cli/rate_command.h"
 #include "cli/run_command.h"
@@ -24,6 +26,7 @@ struct Parsed {
   SaveCommand save{};
   RateCommand rate{};
   CatalogueCommand catalogue{};
+  MaterialsCommand materials{};
 };
 
 void AddRun(CLI::App& app, Parsed& parsed) {
@@ -59,12 +62,55 @@ void AddCatalogue(CLI::App& app, Parsed& parsed) {
   command->add_flag("--json", parsed.catalogue.json, "one JSON array on standard output");
 }
 
+/// One of the commands that work on the material database.
+CLI::App* AddMaterialsAction(CLI::App& group, Parsed& parsed, const char* name, const char* help,
+                             MaterialsAction action) {
+  using enum elements::MaterialFamily;
+  static const std::map<std::string, elements::MaterialFamily> kFamilies = {
+      {"structural", kStructural}, {"fibrous", kFibrous}, {"resilient", kResilient}};
+  CLI::App* command = group.add_subcommand(name, help);
+  command->add_option("--family", parsed.materials.family, "the table: structural, fibrous or resilient")
+      ->transform(CLI::CheckedTransformer(kFamilies));
+  command->add_flag("--json", parsed.materials.json, "JSON on standard output");
+  command->callback([&parsed, action] { parsed.materials.action = action; });
+  return command;
+}
+
+void AddMaterials(CLI::App& app, Parsed& parsed) {
+  CLI::App* group = app.add_subcommand("materials", "Lists and changes the material database");
+  group->require_subcommand(1);
+  const auto add = [&](const char* name, const char* help, MaterialsAction action) {
+    return AddMaterialsAction(*group, parsed, name, help, action);
+  };
+  add("list", "Lists the materials", MaterialsAction::kList)
+      ->add_option("--keyword", parsed.materials.keyword, "only what this keyword filter shows");
+  constexpr const char* kSettings = "\"COLUMN=VALUE\", columns as the table spells them";
+  const auto add_name = [&](CLI::App* command) {
+    command->add_option("NAME", parsed.materials.name, "name of the material")->required();
+    return command;
+  };
+  add_name(add("show", "Shows one material", MaterialsAction::kShow));
+  add("add", "Adds a material", MaterialsAction::kAdd)
+      ->add_option("SETTINGS", parsed.materials.settings, kSettings)
+      ->required();
+  add_name(add("edit", "Changes a material", MaterialsAction::kEdit))
+      ->add_option("SETTINGS", parsed.materials.settings, kSettings)
+      ->required();
+  add_name(add("delete", "Deletes a material", MaterialsAction::kDelete));
+  add("import", "Adds the rows of a CSV file, all or none", MaterialsAction::kImport)
+      ->add_option("FILE", parsed.materials.file, "CSV in UTF-8 with a heading")
+      ->required();
+  add("export", "Writes a table as CSV in UTF-8", MaterialsAction::kExport)
+      ->add_option("FILE", parsed.materials.file, "target; standard output without it");
+}
+
 ExitCode ExecuteParsed(const CLI::App& app, Parsed& parsed, const Services& services, std::ostream& out,
                        std::ostream& errors) {
   parsed.run.go_on_outside_ranges = parsed.answer == "yes";
   if (app.got_subcommand("run")) return Execute(parsed.run, services, out, errors);
   if (app.got_subcommand("save")) return Execute(parsed.save, services, errors);
   if (app.got_subcommand("rate")) return Execute(parsed.rate, services.words, out, errors);
+  if (app.got_subcommand("materials")) return Execute(parsed.materials, services, out, errors);
   return Execute(parsed.catalogue, services.words, out);
 }
 
@@ -81,6 +127,7 @@ int RunCommandLine(std::span<const std::string> arguments, const OpenServices& o
   AddSave(app, parsed);
   AddRate(app, parsed);
   AddCatalogue(app, parsed);
+  AddMaterials(app, parsed);
   try {
     std::vector<std::string> reversed(arguments.rbegin(), arguments.rend());
     app.parse(reversed);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <filesystem>
+
 #include "elements/material_record.h"
 #include "presentation/texts/words.h"
 
@@ -9,6 +11,9 @@ namespace velmar::cli {
 struct Services {
   presentation::Words words{};
   elements::MaterialLookup materials{};
+  std::filesystem::path material_database{};
+  std::filesystem::path result_database{};
+  std::filesystem::path library_folder{};  ///< below which every kind of measured structure has its own
 };
 
 }  // namespace velmar::cli
