@@ -2,6 +2,7 @@
 
 #include <map>
 #include <ostream>
+#include <string_view>
 #include <vector>
 
 #include <CLI/CLI.hpp>
@@ -17,6 +18,10 @@
 namespace velmar::cli {
 namespace {
 
+constexpr MessageRow kWrongUsageRow{1200};
+constexpr MessageRow kProgramRow{1204};
+constexpr MessageRow kDataOptionRow{1211};
+
 /// Everything that the command line can say, filled by the parser.
 struct Parsed {
   std::optional<std::string> data_folder{};
@@ -29,79 +34,75 @@ struct Parsed {
   MaterialsCommand materials{};
 };
 
-void AddRun(CLI::App& app, Parsed& parsed) {
-  CLI::App* command = app.add_subcommand("run", "Opens a project, runs it and prints the result");
-  command->add_option("PROJECT", parsed.run.project, "project file (.drav)")->required();
-  command->add_flag("--json", parsed.run.json, "one JSON object on standard output");
-  command->add_option("--answer", parsed.answer, "the answer to every question")
+void AddRun(CLI::App& app, Parsed& parsed, const presentation::Words& words) {
+  CLI::App* command = app.add_subcommand("run", words({1205}));
+  command->add_option("PROJECT", parsed.run.project, words({1244}))->required();
+  command->add_flag("--json", parsed.run.json, words({1209}));
+  command->add_option("--answer", parsed.answer, words({1210}))
       ->check(CLI::IsMember({"yes", "no"}))
       ->capture_default_str();
 }
 
-void AddSave(CLI::App& app, Parsed& parsed) {
-  CLI::App* command = app.add_subcommand("save", "Opens a project and saves it under another name");
-  command->add_option("IN", parsed.save.from, "project file to open")->required();
-  command->add_option("OUT", parsed.save.to, "project file to write")->required();
+void AddSave(CLI::App& app, Parsed& parsed, const presentation::Words& words) {
+  CLI::App* command = app.add_subcommand("save", words({1206}));
+  command->add_option("IN", parsed.save.from, words({1245}))->required();
+  command->add_option("OUT", parsed.save.to, words({1246}))->required();
 }
 
-void AddRate(CLI::App& app, Parsed& parsed) {
-  CLI::App* command = app.add_subcommand("rate", "Rates a spectrum after ISO 717");
+void AddRate(CLI::App& app, Parsed& parsed, const presentation::Words& words) {
+  CLI::App* command = app.add_subcommand("rate", words({1207}));
   auto* kind = command->add_option_group("kind");
-  kind->add_flag("--airborne", parsed.airborne, "R: Rw, C, Ctr");
-  kind->add_flag("--impact", parsed.rate.impact, "Ln: Ln,w, Ci");
+  kind->add_flag("--airborne", parsed.airborne, words({1214}));
+  kind->add_flag("--impact", parsed.rate.impact, words({1215}));
   kind->require_option(1);
-  command->add_flag("--json", parsed.rate.json, "one JSON object on standard output");
-  command
-      ->add_option("VALUES", parsed.rate.values,
-                   "16 values (100 to 3150 Hz) or 21 (50 to 5000 Hz), behind --")
-      ->required();
+  command->add_flag("--json", parsed.rate.json, words({1209}));
+  command->add_option("VALUES", parsed.rate.values, words({1247}))->required();
 }
 
-void AddCatalogue(CLI::App& app, Parsed& parsed) {
-  CLI::App* command = app.add_subcommand("catalogue", "Lists the calculations");
-  command->add_flag("--json", parsed.catalogue.json, "one JSON array on standard output");
+void AddCatalogue(CLI::App& app, Parsed& parsed, const presentation::Words& words) {
+  CLI::App* command = app.add_subcommand("catalogue", words({1208}));
+  command->add_flag("--json", parsed.catalogue.json, words({1209}));
 }
 
 /// One of the commands that work on the material database.
-CLI::App* AddMaterialsAction(CLI::App& group, Parsed& parsed, const char* name, const char* help,
-                             MaterialsAction action) {
+CLI::App* AddMaterialsAction(CLI::App& group, Parsed& parsed, const presentation::Words& words,
+                             const char* name, MessageRow help, MaterialsAction action) {
   using enum elements::MaterialFamily;
   static const std::map<std::string, elements::MaterialFamily> kFamilies = {
       {"structural", kStructural}, {"fibrous", kFibrous}, {"resilient", kResilient}};
-  CLI::App* command = group.add_subcommand(name, help);
-  command->add_option("--family", parsed.materials.family, "the table: structural, fibrous or resilient")
+  CLI::App* command = group.add_subcommand(name, words(help));
+  command->add_option("--family", parsed.materials.family, words({1248}))
       ->transform(CLI::CheckedTransformer(kFamilies));
-  command->add_flag("--json", parsed.materials.json, "JSON on standard output");
+  command->add_flag("--json", parsed.materials.json, words({1209}));
   command->callback([&parsed, action] { parsed.materials.action = action; });
   return command;
 }
 
-void AddMaterials(CLI::App& app, Parsed& parsed) {
-  CLI::App* group = app.add_subcommand("materials", "Lists and changes the material database");
+void AddMaterials(CLI::App& app, Parsed& parsed, const presentation::Words& words) {
+  CLI::App* group = app.add_subcommand("materials", words({1249}));
   group->require_subcommand(1);
-  const auto add = [&](const char* name, const char* help, MaterialsAction action) {
-    return AddMaterialsAction(*group, parsed, name, help, action);
+  const auto add = [&](const char* name, MessageRow help, MaterialsAction action) {
+    return AddMaterialsAction(*group, parsed, words, name, help, action);
   };
-  add("list", "Lists the materials", MaterialsAction::kList)
-      ->add_option("--keyword", parsed.materials.keyword, "only what this keyword filter shows");
-  constexpr const char* kSettings = "\"COLUMN=VALUE\", columns as the table spells them";
+  add("list", {1255}, MaterialsAction::kList)
+      ->add_option("--keyword", parsed.materials.keyword, words({1250}));
+  const std::string settings = words({1254});
   const auto add_name = [&](CLI::App* command) {
-    command->add_option("NAME", parsed.materials.name, "name of the material")->required();
+    command->add_option("NAME", parsed.materials.name, words({1251}))->required();
     return command;
   };
-  add_name(add("show", "Shows one material", MaterialsAction::kShow));
-  add("add", "Adds a material", MaterialsAction::kAdd)
-      ->add_option("SETTINGS", parsed.materials.settings, kSettings)
+  add_name(add("show", {1256}, MaterialsAction::kShow));
+  add("add", {1257}, MaterialsAction::kAdd)
+      ->add_option("SETTINGS", parsed.materials.settings, settings)
       ->required();
-  add_name(add("edit", "Changes a material", MaterialsAction::kEdit))
-      ->add_option("SETTINGS", parsed.materials.settings, kSettings)
+  add_name(add("edit", {1258}, MaterialsAction::kEdit))
+      ->add_option("SETTINGS", parsed.materials.settings, settings)
       ->required();
-  add_name(add("delete", "Deletes a material", MaterialsAction::kDelete));
-  add("import", "Adds the rows of a CSV file, all or none", MaterialsAction::kImport)
-      ->add_option("FILE", parsed.materials.file, "CSV in UTF-8 with a heading")
+  add_name(add("delete", {1259}, MaterialsAction::kDelete));
+  add("import", {1260}, MaterialsAction::kImport)
+      ->add_option("FILE", parsed.materials.file, words({1252}))
       ->required();
-  add("export", "Writes a table as CSV in UTF-8", MaterialsAction::kExport)
-      ->add_option("FILE", parsed.materials.file, "target; standard output without it");
+  add("export", {1261}, MaterialsAction::kExport)->add_option("FILE", parsed.materials.file, words({1253}));
 }
 
 ExitCode ExecuteParsed(const CLI::App& app, Parsed& parsed, const Services& services, std::ostream& out,
@@ -114,30 +115,49 @@ ExitCode ExecuteParsed(const CLI::App& app, Parsed& parsed, const Services& serv
   return Execute(parsed.catalogue, services.words, out);
 }
 
+/// What --data names among `arguments`, looked for before they are parsed: the help is already in the
+/// language that the data folder holds.
+std::optional<std::filesystem::path> DataFolderIn(std::span<const std::string> arguments) {
+  constexpr std::string_view kOption = "--data";
+  for (std::size_t i = 0; i < arguments.size() && arguments[i] != "--"; ++i) {
+    if (arguments[i] == kOption && i + 1 < arguments.size()) return arguments[i + 1];
+    if (arguments[i].starts_with("--data=")) return arguments[i].substr(kOption.size() + 1);
+  }
+  return std::nullopt;
+}
+
+int ParseAndExecute(std::span<const std::string> arguments, const Services& services, std::ostream& out,
+                    std::ostream& errors) {
+  Parsed parsed;
+  const presentation::Words& words = services.words;
+  CLI::App app(words(kProgramRow), "velmar");
+  app.require_subcommand(1);
+  app.fallthrough();
+  app.add_option("--data", parsed.data_folder, words(kDataOptionRow));
+  AddRun(app, parsed, words);
+  AddSave(app, parsed, words);
+  AddRate(app, parsed, words);
+  AddCatalogue(app, parsed, words);
+  AddMaterials(app, parsed, words);
+  try {
+    std::vector<std::string> reversed(arguments.rbegin(), arguments.rend());
+    app.parse(reversed);
+  } catch (const CLI::Success& asked_for_help) {
+    app.exit(asked_for_help, out, errors);
+    return static_cast<int>(ExitCode::kDone);
+  } catch (const CLI::ParseError& error) {
+    errors << words(kWrongUsageRow) << '\n' << error.what() << '\n';
+    return static_cast<int>(ExitCode::kWrongUsage);
+  }
+  return static_cast<int>(ExecuteParsed(app, parsed, services, out, errors));
+}
+
 }  // namespace
 
 int RunCommandLine(std::span<const std::string> arguments, const OpenServices& open_services,
                    std::ostream& out, std::ostream& errors) {
-  Parsed parsed;
-  CLI::App app("VELMARpro: predicts the sound insulation of building elements", "velmar");
-  app.require_subcommand(1);
-  app.fallthrough();
-  app.add_option("--data", parsed.data_folder, "data folder (default: as configured)");
-  AddRun(app, parsed);
-  AddSave(app, parsed);
-  AddRate(app, parsed);
-  AddCatalogue(app, parsed);
-  AddMaterials(app, parsed);
   try {
-    std::vector<std::string> reversed(arguments.rbegin(), arguments.rend());
-    app.parse(reversed);
-  } catch (const CLI::ParseError& error) {
-    const bool asked_for_help = app.exit(error, out, errors) == 0;
-    return static_cast<int>(asked_for_help ? ExitCode::kDone : ExitCode::kWrongUsage);
-  }
-  try {
-    const Services services = open_services(parsed.data_folder);
-    return static_cast<int>(ExecuteParsed(app, parsed, services, out, errors));
+    return ParseAndExecute(arguments, open_services(DataFolderIn(arguments)), out, errors);
   } catch (const Failure& failure) {
     // Without a catalogue only literal words can be shown; a failure that early carries them.
     WriteMessage(
