@@ -1,0 +1,85 @@
+#include "storage/library/library_store.h"
+
+#include <algorithm>
+#include <system_error>
+#include <variant>
+
+#include <SQLiteCpp/Database.h>
+
+#include "storage/database/connection.h"
+#include "storage/database/fold_case.h"
+#include "storage/database/table_rows.h"
+
+namespace velmar::storage {
+namespace {
+
+namespace fs = std::filesystem;
+
+std::string TextOf(const Cell& cell) {
+  const auto* text = std::get_if<std::string>(&cell);
+  return text == nullptr ? std::string() : *text;
+}
+
+}  // namespace
+
+std::optional<LibraryFolder> FindLibraryFolder(std::string_view key) {
+  for (LibraryFolder& folder : LibraryFolders()) {
+    if (folder.key == key) return std::move(folder);
+  }
+  return std::nullopt;
+}
+
+std::vector<std::string> TestKeywords(const std::vector<ListedTest>& tests, const std::string& all) {
+  std::vector<std::string> keywords = {all};
+  for (const ListedTest& test : tests) {
+    const bool known = std::ranges::find(keywords, test.keyword) != keywords.end();
+    if (!test.keyword.empty() && !known) keywords.push_back(test.keyword);
+  }
+  return keywords;
+}
+
+std::vector<std::string> TestsUnderFilter(const std::vector<ListedTest>& tests, std::string_view filter,
+                                          std::string_view all) {
+  std::vector<std::string> names;
+  for (const ListedTest& test : tests) {
+    if (filter == all || test.keyword == filter) names.push_back(test.name);
+  }
+  return names;
+}
+
+std::vector<LibraryFile> LibraryStore::Files(const LibraryFolder& folder) const {
+  std::vector<LibraryFile> files;
+  std::error_code error;
+  for (fs::directory_iterator entry(root_ / folder.folder, error);
+       !error && entry != fs::directory_iterator(); entry.increment(error)) {
+    std::error_code no_file;
+    if (!SameName(entry->path().extension().string(), ".mdb") || !entry->is_regular_file(no_file)) continue;
+    files.push_back({entry->path().stem().string(), entry->path()});
+  }
+  std::ranges::sort(files, {},
+                    [](const LibraryFile& file) { return std::pair(FoldCase(file.name), file.name); });
+  return files;
+}
+
+std::vector<ListedTest> LibraryStore::Tests(const LibraryFolder& folder, const fs::path& file) const {
+  return ReadDatabase(session_->Readable(file), [&](SQLite::Database& database) {
+    std::vector<ListedTest> tests;
+    const TableSchema columns = Only(folder.table, {"Nome", "Descrizione", "Parola chiave"});
+    for (const StoredRow& row : TableRows(database, columns).All()) {
+      tests.push_back({TextOf(row.cells[0]), TextOf(row.cells[1]), TextOf(row.cells[2])});
+    }
+    return tests;
+  });
+}
+
+std::optional<MeasuredTest> LibraryStore::Find(const LibraryFolder& folder, const fs::path& file,
+                                               std::string_view name) const {
+  return ReadDatabase(session_->Readable(file),
+                      [&](SQLite::Database& database) -> std::optional<MeasuredTest> {
+                        const auto row = TableRows(database, folder.table).Find(name);
+                        if (!row) return std::nullopt;
+                        return TestFromCells(folder, row->cells);
+                      });
+}
+
+}  // namespace velmar::storage

@@ -1,0 +1,91 @@
+#include "storage/library/measured_test.h"
+
+#include <string_view>
+#include <variant>
+
+#include "foundation/decimal.h"
+
+namespace velmar::storage {
+namespace {
+
+/// The columns of the two adaptation terms: those between the rating and the bands. Some tables have one.
+std::array<std::string, 2> AdaptationColumns(const LibraryFolder& folder) {
+  std::array<std::string, 2> names;
+  const std::optional<std::size_t> rating = folder.table.Find(folder.rating);
+  const std::optional<std::size_t> first_band = folder.table.Find(BandColumns(folder.band_prefix).front());
+  if (!rating || !first_band) return names;
+  for (std::size_t i = 0; i < names.size() && *rating + 1 + i < *first_band; ++i) {
+    names.at(i) = folder.table.columns[*rating + 1 + i].name;
+  }
+  return names;
+}
+
+/// Reads cells by the name of their column.
+class Reader {
+ public:
+  Reader(const TableSchema& schema, const std::vector<Cell>& cells) : schema_(schema), cells_(cells) {}
+
+  std::optional<double> Number(std::string_view column) const {
+    const auto place = schema_.Find(column);
+    const auto* number = place ? std::get_if<double>(&cells_.at(*place)) : nullptr;
+    return number == nullptr ? std::nullopt : std::optional<double>(*number);
+  }
+  std::string Text(std::string_view column) const {
+    const auto place = schema_.Find(column);
+    const auto* text = place ? std::get_if<std::string>(&cells_.at(*place)) : nullptr;
+    return text == nullptr ? std::string() : *text;
+  }
+
+ private:
+  const TableSchema& schema_;
+  const std::vector<Cell>& cells_;
+};
+
+std::string Shortest(const std::optional<double>& value) {
+  return value ? FormatShortest(*value) : std::string();
+}
+
+}  // namespace
+
+bool IsSmallElement(const LibraryFolder& folder) { return folder.table.name == "Dnew_laboratorio"; }
+
+MeasuredTest TestFromCells(const LibraryFolder& folder, const std::vector<Cell>& cells) {
+  const Reader reader(folder.table, cells);
+  const std::array<std::string, 2> adaptation = AdaptationColumns(folder);
+  MeasuredTest test;
+  test.name = reader.Text("Nome");
+  test.description = reader.Text("Descrizione");
+  test.keyword = reader.Text("Parola chiave");
+  test.rating = reader.Number(folder.rating);
+  test.adaptation = reader.Number(adaptation[0]);
+  test.other_adaptation = reader.Number(adaptation[1]);
+  const std::vector<std::string> bands = BandColumns(folder.band_prefix);
+  for (std::size_t i = 0; i < bands.size(); ++i) test.bands.at(i) = reader.Number(bands[i]);
+  test.area_m2 = reader.Number("Area (m²)");
+  test.mass_kg_m2 = reader.Number("m' (kg/m²)");
+  test.certificate = reader.Text("Certificato");
+  test.date = reader.Text("Data Prova");
+  test.laboratory = reader.Text("Ente di prova");
+  test.client = reader.Text("Società richiedente");
+  test.notes = reader.Text("Informazione addizionale");
+  test.picture = reader.Text("Immagine");
+  return test;
+}
+
+MeasuredCurve CurveOf(const LibraryFolder& folder, const MeasuredTest& test) {
+  return {test.name,
+          test.description,
+          test.bands,
+          test.rating,
+          test.adaptation,
+          test.other_adaptation,
+          IsSmallElement(folder) ? std::optional<double>(0.0) : test.area_m2,
+          test.mass_kg_m2.value_or(0.0)};
+}
+
+std::string RatingLabel(const LibraryFolder& folder, const MeasuredTest& test) {
+  return std::string(IsSmallElement(folder) ? "Dnew" : "Rw") + "(C,Ctr)= " + Shortest(test.rating) + "(" +
+         Shortest(test.adaptation) + ", " + Shortest(test.other_adaptation) + ") dB";
+}
+
+}  // namespace velmar::storage

@@ -1,0 +1,56 @@
+#pragma once
+
+#include <array>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "acoustics/bands.h"
+#include "storage/cell.h"
+#include "storage/schema.h"
+
+namespace velmar::storage {
+
+/// A measured structure of the library. Nothing stands for a null.
+struct MeasuredTest {
+  std::string name{};
+  std::string description{};
+  std::string keyword{};
+  std::optional<double> rating{};                                    ///< the column LibraryFolder::rating, dB
+  std::optional<double> adaptation{};                                ///< C, or Ci
+  std::optional<double> other_adaptation{};                          ///< Ctr, or Ci 50-5000
+  std::array<std::optional<double>, acoustics::kBandCount> bands{};  ///< dB
+  std::optional<double> area_m2{};
+  std::optional<double> mass_kg_m2{};
+  std::string certificate{};  ///< "Certificato"
+  std::string date{};         ///< "Data Prova"
+  std::string laboratory{};   ///< "Ente di prova"
+  std::string client{};       ///< "Società richiedente"
+  std::string notes{};        ///< "Informazione addizionale"
+  std::string picture{};      ///< "Immagine"
+};
+
+/// What a measured test hands over to a facade (`CurvaSperimentale`).
+struct MeasuredCurve {
+  std::string name{};
+  std::string description{};
+  std::array<std::optional<double>, acoustics::kBandCount> bands{};
+  std::optional<double> rating{};
+  std::optional<double> c{};
+  std::optional<double> ctr{};
+  std::optional<double> area_m2{};  ///< 0 for a small element, whatever the test says
+  double mass_kg_m2 = 0.0;          ///< 0 when the test has none
+};
+
+/// Whether the tests of `folder` are rated by Dn,e, that is, have no area.
+bool IsSmallElement(const LibraryFolder& folder);
+
+/// The test that `cells` hold, in the order of the folder's table.
+MeasuredTest TestFromCells(const LibraryFolder& folder, const std::vector<Cell>& cells);
+
+MeasuredCurve CurveOf(const LibraryFolder& folder, const MeasuredTest& test);
+
+/// "Rw(C,Ctr)= 50(-1, -5) dB", or "Dnew(C,Ctr)= ..." for a small element; a null is left out.
+std::string RatingLabel(const LibraryFolder& folder, const MeasuredTest& test);
+
+}  // namespace velmar::storage

@@ -1,0 +1,52 @@
+#pragma once
+
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "foundation/message.h"
+#include "storage/results/saved_result.h"
+
+namespace velmar::storage {
+
+/// "The database already holds a structure of this name."
+inline constexpr MessageRow kResultExistsRow{224};
+
+enum class SaveStatus {
+  kSaved,
+  kNoName,     ///< nothing to tell: an empty name gives the saving up
+  kNameExists  ///< told with kResultExistsRow
+};
+
+/// What the grid of the results window shows of a row.
+struct ListedResult {
+  std::string name{};
+  std::string description{};
+};
+
+/// The results database. Every operation opens the file, works and closes it; a change is one transaction.
+/// Every member throws DatabaseFailure when the file cannot be read or changed.
+class ResultsStore {
+ public:
+  explicit ResultsStore(std::filesystem::path file) : file_(std::move(file)) {}
+
+  /// Name and description of every row, in the order of insertion.
+  std::vector<ListedResult> List(ResultTable table) const;
+
+  /// The row called `name`, case ignored.
+  std::optional<SavedResult> Find(ResultTable table, std::string_view name) const;
+
+  /// Adds `result`, its description cut at 250 characters, unless its name is empty or exists (case ignored).
+  SaveStatus Save(ResultTable table, const SavedResult& result);
+
+  /// Removes the first row whose name is exactly `name`: unlike in the look-ups, case counts.
+  /// @return false when there is none
+  bool Delete(ResultTable table, std::string_view name);
+
+ private:
+  std::filesystem::path file_;
+};
+
+}  // namespace velmar::storage
