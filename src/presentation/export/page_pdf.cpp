@@ -1,0 +1,33 @@
+#include "presentation/export/page_pdf.h"
+
+#include <QBuffer>
+#include <QPageSize>
+#include <QPainter>
+#include <QPdfWriter>
+#include <QString>
+
+namespace velmar::presentation {
+namespace {
+
+constexpr int kDotsPerInch = 1200;
+
+}  // namespace
+
+std::string PagePdf(const PaginaDiStampa& page, const std::string& title) {
+  QBuffer buffer;
+  buffer.open(QIODevice::WriteOnly);
+  {
+    QPdfWriter writer(&buffer);
+    writer.setTitle(QString::fromStdString(title));
+    writer.setCreator(QStringLiteral("VELMARpro"));
+    writer.setResolution(kDotsPerInch);
+    writer.setPageSize(QPageSize(QPageSize::A4));
+    // The page brings its own margins.
+    writer.setPageMargins({0.0, 0.0, 0.0, 0.0});
+    QPainter painter(&writer);
+    ComponiPagina(painter, kDotsPerInch, QPageSize::size(QPageSize::A4, QPageSize::Inch), page);
+  }
+  return buffer.data().toStdString();
+}
+
+}  // namespace velmar::presentation

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <string>
+
+#include "presentation/drawing/printed_page.h"
+
+namespace velmar::presentation {
+
+/// `page` as the bytes of a PDF file of one A4 page, vectors and embedded fonts. A QGuiApplication must
+/// exist.
+/// @param title what a viewer shows as the document's title, UTF-8
+std::string PagePdf(const PaginaDiStampa& page, const std::string& title);
+
+}  // namespace velmar::presentation

@@ -1,0 +1,133 @@
+#include "shell/printing/print_preview.h"
+
+#include <QAction>
+#include <QGuiApplication>
+#include <QLabel>
+#include <QPixmap>
+#include <QScreen>
+#include <QScrollArea>
+#include <QToolBar>
+#include <QVBoxLayout>
+#include <QWheelEvent>
+#include <algorithm>
+
+#include "shell/printing/page_picture.h"
+
+namespace velmar::printing {
+namespace {
+
+constexpr MessageRow kPreviewRow{7};
+constexpr MessageRow kPrintRow{6};
+constexpr MessageRow kCloseRow{369};
+constexpr MessageRow kSavePdfRow{1480};
+constexpr MessageRow kFitRow{1481};
+constexpr MessageRow kZoomInRow{1482};
+constexpr MessageRow kZoomOutRow{1483};
+constexpr MessageRow kActualSizeRow{1484};
+constexpr MessageRow kPictureRow{1485};
+
+constexpr double kZoomStep = 1.25;
+constexpr double kSmallestZoom = 0.1;
+constexpr double kLargestZoom = 4.0;
+/// Between the page and the edge of the window, in pixels.
+constexpr int kMargin = 16;
+/// Of the screen's height; a portrait page wants a tall window.
+constexpr double kHeightShare = 0.9;
+constexpr double kPageShape = 0.8;
+
+}  // namespace
+
+PrintPreview::PrintPreview(PreviewOrder order, presentation::Words words, QWidget* parent)
+    : QDialog(parent, Qt::Window),
+      order_(std::move(order)),
+      words_(std::move(words)),
+      paper_(order_.paper()),
+      room_(new QScrollArea(this)),
+      picture_(new QLabel) {
+  setObjectName(QStringLiteral("Form12"));
+  setWindowTitle(QString::fromStdString(words_(kPreviewRow)));
+  setModal(true);
+  picture_->setObjectName(QStringLiteral("Picture1"));
+  picture_->setAccessibleName(QString::fromStdString(words_(kPictureRow)));
+  picture_->setAlignment(Qt::AlignCenter);
+  picture_->setMargin(kMargin);
+  room_->setWidget(picture_);
+  room_->setWidgetResizable(true);
+  room_->setBackgroundRole(QPalette::Mid);
+  room_->setFrameShape(QFrame::NoFrame);
+  auto* column = new QVBoxLayout(this);
+  column->setContentsMargins({});
+  column->setSpacing(0);
+  column->addWidget(MakeToolBar());
+  column->addWidget(room_);
+  room_->setFocus();
+  const int height =
+      static_cast<int>(kHeightShare * QGuiApplication::primaryScreen()->availableSize().height());
+  resize(static_cast<int>(kPageShape * height), height);
+}
+
+double PrintPreview::Zoom() const {
+  if (zoom_) return *zoom_;
+  const QSizeF room = room_->size() - QSize(2 * kMargin, 2 * kMargin);
+  return std::clamp(FittingZoom(paper_, room, logicalDpiX()), kSmallestZoom, kLargestZoom);
+}
+
+void PrintPreview::resizeEvent(QResizeEvent* event) {
+  QDialog::resizeEvent(event);
+  if (!zoom_) ShowPage();
+}
+
+void PrintPreview::showEvent(QShowEvent* event) {
+  QDialog::showEvent(event);
+  ShowPage();
+}
+
+void PrintPreview::wheelEvent(QWheelEvent* event) {
+  if (!event->modifiers().testFlag(Qt::ControlModifier)) return QDialog::wheelEvent(event);
+  ZoomTo(event->angleDelta().y() > 0 ? Zoom() * kZoomStep : Zoom() / kZoomStep);
+  event->accept();
+}
+
+QToolBar* PrintPreview::MakeToolBar() {
+  auto* bar = new QToolBar(this);
+  bar->setToolButtonStyle(Qt::ToolButtonTextOnly);
+  AddCommand(*bar, "print", kPrintRow, {QKeySequence::Print}, [this] {
+    order_.print(this);
+    // The dialog may have chosen another paper.
+    paper_ = order_.paper();
+    ShowPage();
+  });
+  AddCommand(*bar, "save_pdf", kSavePdfRow, {QKeySequence::Save}, [this] { order_.save_pdf(this); });
+  bar->addSeparator();
+  AddCommand(*bar, "zoom_out", kZoomOutRow, {QKeySequence::ZoomOut, Qt::Key_Minus},
+             [this] { ZoomTo(Zoom() / kZoomStep); });
+  AddCommand(*bar, "zoom_in", kZoomInRow, {QKeySequence::ZoomIn, Qt::CTRL | Qt::Key_Equal, Qt::Key_Plus},
+             [this] { ZoomTo(Zoom() * kZoomStep); });
+  AddCommand(*bar, "fit", kFitRow, {Qt::CTRL | Qt::Key_0}, [this] { ZoomTo(std::nullopt); });
+  AddCommand(*bar, "actual_size", kActualSizeRow, {Qt::CTRL | Qt::Key_1}, [this] { ZoomTo(1.0); });
+  bar->addSeparator();
+  AddCommand(*bar, "close", kCloseRow, {QKeySequence::Close}, [this] { reject(); });
+  return bar;
+}
+
+void PrintPreview::AddCommand(QToolBar& bar, const char* name, MessageRow row,
+                              const QList<QKeySequence>& keys, std::function<void()> act) {
+  QAction* action = bar.addAction(QString::fromStdString(words_(row)));
+  action->setObjectName(QLatin1String(name));
+  action->setShortcuts(keys);
+  action->setToolTip(action->text() + " (" + keys.front().toString(QKeySequence::NativeText) + ")");
+  connect(action, &QAction::triggered, this, std::move(act));
+}
+
+void PrintPreview::ZoomTo(std::optional<double> zoom) {
+  zoom_ = zoom;
+  if (zoom_) zoom_ = std::clamp(*zoom_, kSmallestZoom, kLargestZoom);
+  ShowPage();
+}
+
+void PrintPreview::ShowPage() {
+  const QImage picture = PictureOf(order_.page, paper_, Zoom(), logicalDpiX(), devicePixelRatioF());
+  picture_->setPixmap(QPixmap::fromImage(picture));
+}
+
+}  // namespace velmar::printing
