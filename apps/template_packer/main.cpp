@@ -1,0 +1,63 @@
+// Makes one report template out of its readable parts, at build time.
+//   velmar-pack-template OUT FOLDER...   a part of a later folder takes the place of one of the same name
+
+#include <filesystem>
+#include <fstream>
+#include <iostream>
+#include <iterator>
+#include <map>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "presentation/reports/package.h"
+
+namespace {
+
+namespace fs = std::filesystem;
+
+std::string ReadWhole(const fs::path& path) {
+  std::ifstream file(path, std::ios::binary);
+  return {std::istreambuf_iterator<char>(file), {}};
+}
+
+std::map<std::string, std::string> PartsOf(int count, char** folders) {
+  std::map<std::string, std::string> parts;
+  for (int i = 0; i < count; ++i) {
+    for (const fs::directory_entry& entry : fs::recursive_directory_iterator(folders[i])) {
+      if (!entry.is_regular_file()) continue;
+      parts[entry.path().lexically_relative(folders[i]).generic_string()] = ReadWhole(entry.path());
+    }
+  }
+  return parts;
+}
+
+}  // namespace
+
+int main(int count, char** arguments) {
+  if (count < 3) {
+    std::cerr << "usage: velmar-pack-template OUT FOLDER...\n";
+    return 2;
+  }
+  try {
+    std::map<std::string, std::string> parts = PartsOf(count - 2, arguments + 2);
+    std::vector<std::pair<std::string, std::string>> ordered;
+    // Readers look for these first.
+    for (const char* name : {"[Content_Types].xml", "_rels/.rels"}) {
+      if (const auto found = parts.find(name); found != parts.end()) {
+        ordered.emplace_back(*found);
+        parts.erase(found);
+      }
+    }
+    ordered.insert(ordered.end(), parts.begin(), parts.end());
+    const std::string bytes = velmar::presentation::MakePackage(ordered);
+    fs::create_directories(fs::path(arguments[1]).parent_path());
+    std::ofstream file(arguments[1], std::ios::binary | std::ios::trunc);
+    file.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+    file.close();
+    return file ? 0 : 1;
+  } catch (const std::exception& error) {
+    std::cerr << "velmar-pack-template: " << error.what() << '\n';
+    return 1;
+  }
+}

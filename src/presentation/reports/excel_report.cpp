@@ -1,0 +1,100 @@
+#include "presentation/reports/excel_report.h"
+
+#include "elements/catalogue.h"
+#include "foundation/decimal.h"
+#include "presentation/reports/layer_table.h"
+#include "presentation/reports/workbook.h"
+
+namespace velmar::presentation {
+namespace {
+
+constexpr CellPlace kTitle{1, 1};
+constexpr CellPlace kKind{4, 4};
+constexpr CellPlace kTheory{5, 4};
+constexpr CellPlace kElementType{6, 4};
+constexpr CellPlace kDescription{7, 4};
+constexpr CellPlace kSectionTitle{12, 8};
+constexpr CellPlace kSurfaceMass{25, 8};
+constexpr CellPlace kThickness{27, 8};
+constexpr CellPlace kBandHeading{36, 2};
+constexpr int kFirstBandRow = 37;
+constexpr int kBandColumn = 2;
+constexpr CellPlace kGenericNote{40, 3};
+constexpr int kRatingRow = 59;
+constexpr int kTermsRow = 60;
+constexpr CellPlace kWidth{54, 9};
+constexpr CellPlace kHeight{56, 9};
+constexpr CellPlace kArea{58, 9};
+constexpr const char* kOneDecimal = "0.0";
+constexpr const char* kWhole = "0";
+
+void SetNumber(Workbook& workbook, CellPlace place, std::optional<double> value, const char* format) {
+  if (!value) {
+    workbook.Sheet().Clear(place);
+    return;
+  }
+  workbook.Sheet().SetNumber(place, *value);
+  workbook.ChangeStyle(place, {.number_format = format});
+}
+
+/// A number as entered; its text when it is none.
+void SetEntered(Workbook& workbook, CellPlace place, const std::string& text) {
+  if (const std::optional<double> number = ParseDecimal(text)) {
+    workbook.Sheet().SetNumber(place, *number);
+  } else {
+    workbook.Sheet().SetText(place, text);
+  }
+}
+
+void WriteBands(Workbook& workbook, const ReportRecord& record) {
+  workbook.Sheet().SetText(kBandHeading, record.has_bands ? record.band_heading : std::string());
+  for (std::size_t band = 0; band < record.bands.size(); ++band) {
+    SetNumber(workbook, {kFirstBandRow + static_cast<int>(band), kBandColumn}, record.bands[band].level_db,
+              kOneDecimal);
+  }
+}
+
+void WriteRatings(Workbook& workbook, const ReportRecord& record) {
+  Worksheet& sheet = workbook.Sheet();
+  const elements::ResultSet& result = record.result;
+  if (record.family == elements::Family::kImpact) {
+    sheet.SetText({kRatingRow, 2}, "Ln,w");
+    SetNumber(workbook, {kRatingRow, 4}, result.lnw, kOneDecimal);
+    sheet.SetText({kTermsRow, 1}, "Ci=");
+    SetNumber(workbook, {kTermsRow, 2}, result.ci, kWhole);
+    return;
+  }
+  sheet.SetText({kRatingRow, 2}, "Rw");
+  SetNumber(workbook, {kRatingRow, 4}, result.rw, kOneDecimal);
+  if (!result.c || !result.ctr) return;
+  sheet.SetText({kTermsRow, 1}, "C=");
+  SetNumber(workbook, {kTermsRow, 2}, result.c, kWhole);
+  sheet.SetText({kTermsRow, 3}, "Ctr=");
+  SetNumber(workbook, {kTermsRow, 4}, result.ctr, kWhole);
+}
+
+}  // namespace
+
+std::string WriteExcelReport(std::string_view xlsx, const ReportRecord& record) {
+  Workbook workbook(xlsx);
+  Worksheet& sheet = workbook.Sheet();
+  sheet.SetText(kTitle, record.title);
+  sheet.SetText(kKind, record.kind_of_element);
+  sheet.SetText(kTheory, record.theory);
+  sheet.SetText(kElementType, record.element_type);
+  sheet.SetText(kDescription, record.description);
+  sheet.SetText(kSectionTitle, record.section_title);
+  WriteLayerTable(workbook, record);
+  SetNumber(workbook, kSurfaceMass, record.surface_mass_kg_m2, kOneDecimal);
+  SetNumber(workbook, kThickness, record.totals ? std::optional(record.totals->thickness_mm) : std::nullopt,
+            kOneDecimal);
+  WriteBands(workbook, record);
+  if (!record.generic_note.empty()) sheet.SetText(kGenericNote, record.generic_note);
+  WriteRatings(workbook, record);
+  SetEntered(workbook, kWidth, record.width);
+  SetEntered(workbook, kHeight, record.height);
+  SetEntered(workbook, kArea, record.area);
+  return workbook.Bytes();
+}
+
+}  // namespace velmar::presentation

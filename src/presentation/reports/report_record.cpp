@@ -1,0 +1,149 @@
+#include "presentation/reports/report_record.h"
+
+#include <utility>
+
+#include "elements/catalogue.h"
+#include "foundation/decimal.h"
+#include "presentation/reports/kind_of_element.h"
+#include "presentation/texts/calculation_labels.h"
+#include "presentation/texts/descriptions.h"
+#include "presentation/texts/facade_texts.h"
+#include "presentation/texts/layer_rows.h"
+#include "presentation/texts/result_lines.h"
+#include "presentation/texts/results_table.h"
+
+namespace velmar::presentation {
+namespace {
+
+using elements::Family;
+using elements::Setup;
+
+constexpr MessageRow kResilientRow{167};
+constexpr MessageRow kPartHeadingRow{263};
+constexpr MessageRow kResilientHeadingRow{267};
+constexpr MessageRow kAirborneInsulationRow{268};
+constexpr MessageRow kImpactInsulationRow{269};
+constexpr MessageRow kGenericNoteRow{284};
+constexpr MessageRow kSectionTitleRow{285};
+constexpr MessageRow kAirborneHeadingRow{287};
+constexpr MessageRow kImpactHeadingRow{290};
+constexpr MessageRow kBrickSeaTheoryRow{1554};
+constexpr MessageRow kAirborneStandardRow{1555};
+constexpr MessageRow kFacadeStandardRow{1556};
+constexpr MessageRow kImpactStandardRow{1557};
+constexpr MessageRow kSimplifiedNoteRow{1564};
+constexpr MessageRow kAirborneChartRow{1562};
+constexpr MessageRow kImpactChartRow{1563};
+
+constexpr const char* kItemEnd = "; ";
+constexpr const char* kCut = "...";
+
+MessageRow StandardRow(Family family) {
+  if (family == Family::kFacade) return kFacadeStandardRow;
+  return family == Family::kImpact ? kImpactStandardRow : kAirborneStandardRow;
+}
+
+bool IsLining(Family family) { return family == Family::kLining || family == Family::kCeiling; }
+
+/// The stored description; one that was cut ends behind its last whole item.
+std::string DescriptionOf(const Setup& setup, const Words& words) {
+  std::string text = ResultDescription(setup, words);
+  if (text.size() < kLongestDescription || FirstCharacters(text, kLongestDescription - 1) == text ||
+      text.ends_with(kCut)) {
+    return text;
+  }
+  const std::size_t end = text.rfind(kItemEnd);
+  return (end == std::string::npos ? text : text.substr(0, end + 2)) + kCut;
+}
+
+/// The improvement that the main window shows beside the rating.
+std::string Improvement(Family family, const elements::ResultSet& result) {
+  if (family == Family::kImpact) {
+    return result.delta_lnw ? "DLw= " + FormatLevel(result.delta_lnw) + " dB" : std::string();
+  }
+  if (!IsLining(family) && result.delta_rw && *result.delta_rw != 0.0) {
+    return "DRw= " + FormatLevel(result.delta_rw) + " dB";
+  }
+  return ImprovementLine(family, result);
+}
+
+void FillBands(const Setup& setup, Family family, ReportRecord& record) {
+  const std::optional<BandSpan> span = ShownBands(setup);
+  if (!span || !record.result.spectrum) return;
+  record.has_bands = true;
+  for (std::size_t band = span->first; band <= span->last; ++band) {
+    const double level = (*record.result.spectrum)[band];
+    if (level != 0.0) record.bands[band].level_db = level;
+    record.bands[band].reference = ReferenceLevel(family, record.result.shift, band);
+  }
+}
+
+void FillDimensions(const Setup& setup, Family family, ReportRecord& record) {
+  if (family == Family::kFacade) {
+    record.area = FormatFixed(FacadeArea(setup), 2);
+    return;
+  }
+  // Linings and ceilings are calculated for dimensions of their own, which nobody enters.
+  if (IsLining(family)) return;
+  record.width = setup.width_text;
+  record.height = setup.height_text;
+  const double area = NumberOf(setup.width_text) * NumberOf(setup.height_text);
+  if (area > 0.0) record.area = FormatFixed(area, 2);
+}
+
+void FillLabels(const Setup& setup, Family family, const Words& words, ReportRecord& record) {
+  const elements::Calculation calculation = *setup.calculation;
+  record.title = TitleOf(family, words);
+  record.insulation = words(family == Family::kImpact ? kImpactInsulationRow : kAirborneInsulationRow);
+  record.kind_of_element = words(KindOfElementRow(setup));
+  record.element_type = ElementTypeText(calculation, words);
+  record.description = DescriptionOf(setup, words);
+  record.theory = calculation == elements::Calculation::kDoubleWallSeaBrick ? words(kBrickSeaTheoryRow)
+                                                                            : TheoryText(calculation, words);
+  record.standard = words(StandardRow(family));
+  record.band_heading = words(family == Family::kImpact ? kImpactHeadingRow : kAirborneHeadingRow);
+  const bool generic = elements::RowOf(calculation).model == elements::Model::kGenericLining;
+  if (generic || (family == Family::kFacade && setup.facade.simplified))
+    record.generic_note = words(generic ? kGenericNoteRow : kSimplifiedNoteRow);
+  record.section_title = words(kSectionTitleRow);
+  record.part_heading = words(kPartHeadingRow);
+  record.resilient_name = words(kResilientRow);
+  record.resilient_heading = words(kResilientHeadingRow);
+}
+
+}  // namespace
+
+ReportRecord ReportRecordOf(const Setup& setup, const elements::ResultSet& result,
+                            const ElementTotals& totals, const Words& words, std::optional<Picture> chart) {
+  ReportRecord record{.information = setup.information, .result = result, .chart = std::move(chart)};
+  if (!setup.calculation) return record;
+  const Family family = elements::RowOf(*setup.calculation).family;
+  record.family = family;
+  FillLabels(setup, family, words, record);
+  FillBands(setup, family, record);
+  FillDimensions(setup, family, record);
+  record.result_line = ResultLine(family, result);
+  record.improvement_line = Improvement(family, result);
+  if (family == Family::kFacade) {
+    record.surface_mass_kg_m2 = result.mass_kg_m2;
+  } else {
+    record.totals = totals;
+    record.surface_mass_kg_m2 = totals.surface_mass_kg_m2;
+  }
+  record.structure = StructureRowsOf(setup, words);
+  if (IsLining(family)) {
+    record.base_element = FullName({.name = setup.base.name, .description = setup.base.description});
+  }
+  if (setup.calculation == elements::Calculation::kCeilingSea)
+    record.hanger = HangerText(setup.hanger, words);
+  return record;
+}
+
+std::string ChartDescription(const Setup& setup, const elements::ResultSet& result, const Words& words) {
+  if (!setup.calculation) return {};
+  const Family family = elements::RowOf(*setup.calculation).family;
+  return words(family == Family::kImpact ? kImpactChartRow : kAirborneChartRow) + " " +
+         ResultLine(family, result);
+}
+
+}  // namespace velmar::presentation

@@ -1,0 +1,80 @@
+#pragma once
+
+#include <array>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "acoustics/bands.h"
+#include "elements/result_set.h"
+#include "elements/setup.h"
+#include "presentation/reports/picture.h"
+#include "presentation/reports/structure_rows.h"
+#include "presentation/texts/words.h"
+
+namespace velmar::presentation {
+
+/// Thickness and surface mass of the element as the main window shows them.
+struct ElementTotals {
+  double thickness_mm = 0.0;        ///< `Text3`
+  double surface_mass_kg_m2 = 0.0;  ///< `Text4`
+};
+
+/// A band of a report. A band without a value (0 in the spectrum) is absent.
+struct ReportBand {
+  std::optional<double> level_db{};
+  std::string reference{};  ///< the shifted reference curve; empty where it is not defined
+};
+
+/// Everything that a Word or Excel report shows of one calculation.
+struct ReportRecord {
+  elements::Family family{};
+  std::string title{};
+  std::string insulation{};       ///< kind of insulation: airborne, impact
+  std::string kind_of_element{};  ///< "Parete singola"
+  std::string element_type{};     ///< as the calculation calls it: "Parete singola in laterizio"
+  std::string description{};
+  std::string theory{};
+  std::string standard{};
+
+  elements::ProjectInformation information{};
+
+  bool has_bands = false;
+  std::string band_heading{};  ///< "Ri [dB]", "Lni [dB]"
+  std::array<ReportBand, acoustics::kBandCount> bands{};
+  elements::ResultSet result{};
+  std::string result_line{};       ///< "Rw(C; Ctr)= 54,0 (-2; -6) dB"
+  std::string improvement_line{};  ///< "DRw= 12 dB"; empty where there is none
+  std::string laboratory_data{};   ///< what the result was compared with; empty for none
+  std::string in_situ_data{};
+
+  std::optional<ElementTotals> totals{};  ///< none for a facade's thickness; see surface_mass_kg_m2
+  std::optional<double> surface_mass_kg_m2{};
+  std::string width{};   ///< m, as entered; empty where the calculation has its own
+  std::string height{};  ///< m
+  std::string area{};    ///< m²; empty where there is none
+  std::vector<StructureRow> structure{};
+  std::string base_element{};  ///< the wall or floor under a lining
+  std::string hanger{};        ///< how a ceiling hangs; empty for all else
+
+  std::string generic_note{};       ///< what stands in place of the bands; empty where there are bands
+  std::string section_title{};      ///< of the layers
+  std::string part_heading{};       ///< over the parts of a facade
+  std::string resilient_name{};     ///< heading of the resilient layers
+  std::string resilient_heading{};  ///< the same in the spreadsheet
+
+  std::optional<Picture> chart{};
+};
+
+/// The record of `result`, which must belong to `setup`.
+/// @param totals as the calculation gives them for `setup`
+/// @param chart picture of the curves; none for a calculation without bands
+ReportRecord ReportRecordOf(const elements::Setup& setup, const elements::ResultSet& result,
+                            const ElementTotals& totals, const Words& words,
+                            std::optional<Picture> chart = std::nullopt);
+
+/// What a reader hears who cannot see the chart of `result`.
+std::string ChartDescription(const elements::Setup& setup, const elements::ResultSet& result,
+                             const Words& words);
+
+}  // namespace velmar::presentation

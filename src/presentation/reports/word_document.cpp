@@ -1,0 +1,164 @@
+#include "presentation/reports/word_document.h"
+
+#include <algorithm>
+#include <array>
+
+#include "presentation/reports/paragraph_text.h"
+#include "presentation/reports/relationships.h"
+#include "presentation/reports/template_failure.h"
+#include "presentation/reports/word_blocks.h"
+#include "presentation/reports/word_picture.h"
+#include "presentation/reports/word_rows.h"
+#include "presentation/reports/xml_part.h"
+
+namespace velmar::presentation {
+namespace {
+
+constexpr const char* kImageType =
+    "http://schemas.openxmlformats.org/officeDocument/2006/relationships/image";
+constexpr std::array<std::string_view, 4> kStoryKinds = {"header", "footer", "footnotes", "endnotes"};
+
+/// A value as it may stand in a document that is still being filled.
+std::string Guarded(std::string_view value) {
+  std::string text = LegalText(value);
+  std::ranges::replace(text, '[', kValueBracket);
+  return text;
+}
+
+Placeholders Guarded(const Placeholders& values) {
+  Placeholders guarded;
+  for (const auto& [name, value] : values) guarded.emplace(name, Guarded(value));
+  return guarded;
+}
+
+void RestoreBrackets(pugi::xml_node root) {
+  for (const pugi::xml_node paragraph : ParagraphsOf(root)) {
+    ParagraphText text(paragraph);
+    const std::string joined = text.Text();
+    for (std::size_t at = joined.find(kValueBracket); at != std::string::npos;
+         at = joined.find(kValueBracket, at + 1)) {
+      text.Replace(at, 1, "[");
+    }
+    text.WriteBack([](pugi::xml_node, pugi::xml_node) {});
+  }
+}
+
+std::string FreePartName(const Package& package) {
+  int number = 1;
+  const auto name = [&] { return "word/media/velmar" + std::to_string(number) + ".png"; };
+  while (package.Has(name())) ++number;
+  return name();
+}
+
+}  // namespace
+
+WordDocument::WordDocument(std::string_view docx)
+    : package_(docx), main_part_(MainPart(package_, "wordprocessingml")) {
+  std::vector<std::string> names = {main_part_};
+  for (const std::string_view kind : kStoryKinds) {
+    const std::vector<std::string> targets = TargetsOf(package_, main_part_, kind);
+    names.insert(names.end(), targets.begin(), targets.end());
+  }
+  for (const std::string& name : names) {
+    if (std::ranges::count(parts_, name, &StoryPart::name) > 0) continue;
+    parts_.push_back({.name = name, .xml = ParseXml(package_.Part(name), name)});
+    if (!std::string_view(parts_.back().xml.document_element().name()).starts_with("w:")) {
+      throw TemplateFailure(kTemplateDamagedRow, name + ": not a word-processor part");
+    }
+  }
+  if (!parts_.front().xml.document_element().child("w:body")) {
+    throw TemplateFailure(kTemplateDamagedRow, main_part_ + ": no body");
+  }
+}
+
+void WordDocument::RepeatRows(const RowPattern& pattern) {
+  RowPattern guarded = pattern;
+  for (PatternRow& row : guarded.rows) row.values = Guarded(row.values);
+  for (StoryPart& part : parts_) part.changed |= RepeatPatternRows(part.xml, guarded);
+}
+
+void WordDocument::RemoveBlock(std::string_view start, std::string_view end) {
+  for (StoryPart& part : parts_) part.changed |= RemoveBlocks(part.xml, start, end);
+}
+
+void WordDocument::RemoveMarker(std::string_view marker) {
+  for (StoryPart& part : parts_) part.changed |= RemoveMarkers(part.xml, marker);
+}
+
+void WordDocument::ReplaceIn(StoryPart& part, pugi::xml_node paragraph, const Placeholders& values,
+                             const std::function<void(pugi::xml_node, pugi::xml_node)>& make_picture) {
+  ParagraphText text(paragraph);
+  for (std::size_t from = 0;;) {
+    const auto found = FindPlaceholder(text.Text(), from);
+    if (!found) break;
+    const auto value = values.find(found->name);
+    if (value == values.end()) {
+      from = found->begin + found->length;
+      continue;
+    }
+    text.Replace(found->begin, found->length, value->second);
+    from = found->begin + value->second.size();
+  }
+  if (!text.Changed()) return;
+  part.changed = true;
+  const bool empty = text.Text().empty();
+  text.WriteBack(make_picture);
+  if (empty && IsEmptyParagraph(paragraph)) RemoveParagraph(paragraph);
+}
+
+void WordDocument::Replace(const Placeholders& values) {
+  const Placeholders guarded = Guarded(values);
+  for (StoryPart& part : parts_) {
+    for (const pugi::xml_node paragraph : ParagraphsOf(part.xml)) {
+      ReplaceIn(part, paragraph, guarded, [](pugi::xml_node, pugi::xml_node) {});
+    }
+  }
+}
+
+void WordDocument::ReplaceByPicture(std::string_view name, const Picture& picture) {
+  std::string media;
+  const Placeholders mark = {{std::string(name), std::string(1, kPictureMark)}};
+  std::uint32_t number = 1;
+  for (const StoryPart& part : parts_) number = std::max(number, FreeDrawingNumber(part.xml));
+  for (StoryPart& part : parts_) {
+    std::string relationship;
+    const auto make_picture = [&](pugi::xml_node run, pugi::xml_node before) {
+      if (media.empty()) {
+        media = FreePartName(package_);
+        package_.Put(media, picture.png);
+        AddDefaultContentType(package_, "png", "image/png");
+      }
+      if (relationship.empty()) relationship = AddRelationship(package_, part.name, kImageType, media);
+      InsertDrawing(run, before, picture, relationship, number++);
+    };
+    for (const pugi::xml_node paragraph : ParagraphsOf(part.xml))
+      ReplaceIn(part, paragraph, mark, make_picture);
+  }
+}
+
+std::set<std::string> WordDocument::Left() const {
+  std::set<std::string> left;
+  for (const StoryPart& part : parts_) {
+    for (const pugi::xml_node paragraph : ParagraphsOf(part.xml)) {
+      const std::string text = ParagraphText(paragraph).Text();
+      for (std::size_t from = 0;;) {
+        const auto found = FindPlaceholder(text, from);
+        if (!found) break;
+        left.insert("[" + found->name + "]");
+        from = found->begin + found->length;
+      }
+    }
+  }
+  return left;
+}
+
+std::string WordDocument::Bytes() {
+  for (StoryPart& part : parts_) {
+    if (!part.changed) continue;
+    RestoreBrackets(part.xml);
+    package_.Put(part.name, XmlBytes(part.xml));
+  }
+  return package_.Bytes();
+}
+
+}  // namespace velmar::presentation

@@ -1,0 +1,113 @@
+#include "presentation/reports/word_placeholders.h"
+
+#include <string>
+
+#include "foundation/decimal.h"
+#include "presentation/texts/result_lines.h"
+
+namespace velmar::presentation {
+namespace {
+
+constexpr const char* kNothing = "–";
+constexpr const char* kUnit = " [dB]";
+
+std::string OrDash(const std::string& text) { return text.empty() ? kNothing : text; }
+
+std::string Number(std::optional<double> value, int decimals) {
+  return value ? FormatFixed(*value, decimals) : std::string();
+}
+
+/// "Ri" of "Ri [dB]".
+std::string WithoutUnit(std::string heading) {
+  const std::size_t unit = heading.find(kUnit);
+  return unit == std::string::npos ? heading : heading.substr(0, unit);
+}
+
+void AddBands(const ReportRecord& record, Placeholders& values) {
+  for (std::size_t band = 0; band < record.bands.size(); ++band) {
+    const std::string number = std::to_string(band);
+    values["P1_RIS" + number] = FormatLevel(record.bands[band].level_db);
+    values["P1_RIF" + number] = record.bands[band].reference;
+  }
+}
+
+Placeholders HeadingValues(const StructureRow& row) { return {{"P2_GRUPPO", row.name}}; }
+
+Placeholders RowValues(const StructureRow& row) {
+  return {{"P2_NUMERO", row.number > 0 ? std::to_string(row.number) : std::string()},
+          {"P2_STRATO", FullName(row)},
+          {"P2_NOME", row.name},
+          {"P2_DESCRIZIONE", row.description},
+          {"P2_SPESSORE", OrDash(ThicknessText(row))},
+          {"P2_MPRIMO", OrDash(Number(row.mass_kg_m2, 1))},
+          {"P2_RW", OrDash(row.rating)},
+          {"P2_AREA", OrDash(row.area)},
+          {"P2_PERCENTUALEAREA", OrDash(row.share)},
+          {"P2_NOTA", row.note}};
+}
+
+}  // namespace
+
+std::string ThicknessText(const StructureRow& row) {
+  if (row.thickness_mm <= 0.0) return {};
+  const std::string thickness = FormatShortest(row.thickness_mm);
+  return row.multiplicity > 1 ? std::to_string(row.multiplicity) + " x " + thickness : thickness;
+}
+
+Placeholders TextPlaceholders(const ReportRecord& record) {
+  const std::string thickness = record.totals ? FormatShortest(record.totals->thickness_mm) : std::string();
+  const std::string mass = Number(record.surface_mass_kg_m2, 1);
+  Placeholders values = {
+      {"P1_TITOLO", record.title},
+      {"P1_TIPOISOLAMENTO", record.insulation},
+      {"CODICE_ALLEGATO", OrDash(record.information[elements::kAttachmentRow].value)},
+      {"P1_DESCRIZIONE_ELEMENTO", OrDash(record.description)},
+      {"P1_NOTE", OrDash(record.information[elements::kNotesRow].value)},
+      {"P1_TIPO_COMP", record.kind_of_element},
+      {"P1_TIPO_ELEMENTO", record.element_type},
+      {"P1_TIPO_TEORIA", record.theory},
+      {"P1_RESULT1", record.result_line},
+      {"P1_RESULT2", record.improvement_line},
+      {"P1_TIPORIS", WithoutUnit(record.band_heading)},
+      {"P1_NORMA", record.standard},
+      {"P1_DATILABORATORIO", record.laboratory_data},
+      {"P1_DATIOPERA", record.in_situ_data},
+      {"P1_RISULTATOGRAFICO", ""},
+      {"P1_LARGHEZZA", OrDash(record.width)},
+      {"P1_ALTEZZA", OrDash(record.height)},
+      {"P1_AREA", OrDash(record.area)},
+      {"P2_PARETEBASE", OrDash(record.base_element)},
+      {"P2_TIPOPENDINO", record.hanger},
+      {"P2_SPESSORE", OrDash(thickness)},
+      {"P2_MPRIMO", OrDash(mass)},
+      {"P2_PERCENTUALEAREA", ""},
+      {"P2_SPESSORE_TOTALE", OrDash(thickness)},
+      {"P2_MPRIMO_TOTALE", OrDash(mass)},
+  };
+  AddBands(record, values);
+  return values;
+}
+
+RowPattern StructurePattern(const ReportRecord& record) {
+  RowPattern pattern{.keys = {"P2_STRATO", "P2_NOME", "P2_DESCRIZIONE", "P2_NUMERO", "P2_SPESSORE",
+                              "P2_MPRIMO", "P2_PERCENTUALEAREA", "P2_RW", "P2_AREA", "P2_NOTA"},
+                     .heading_key = "P2_GRUPPO"};
+  for (const StructureRow& row : record.structure) {
+    const bool heading = row.kind == StructureKind::kHeading;
+    pattern.rows.push_back({.heading = heading, .values = heading ? HeadingValues(row) : RowValues(row)});
+  }
+  return pattern;
+}
+
+RowPattern InformationPattern(const ReportRecord& record) {
+  RowPattern pattern{.keys = {"P1_INFO_VALORE"}};
+  for (std::size_t i = 0; i < record.information.size(); ++i) {
+    const elements::ProjectInformationRow& row = record.information[i];
+    if (i == elements::kNotesRow || i == elements::kAttachmentRow || row.value.empty()) continue;
+    pattern.rows.push_back(
+        {.heading = false, .values = {{"P1_INFO_TITOLO", row.caption}, {"P1_INFO_VALORE", row.value}}});
+  }
+  return pattern;
+}
+
+}  // namespace velmar::presentation

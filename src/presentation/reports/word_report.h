@@ -1,0 +1,25 @@
+#pragma once
+
+#include <set>
+#include <string>
+#include <string_view>
+
+#include "elements/catalogue.h"
+#include "presentation/reports/report_record.h"
+
+namespace velmar::presentation {
+
+/// The file name of the Word template for calculations of `family`.
+std::string_view WordTemplateName(elements::Family family);
+
+/// A report made of a template.
+struct WrittenReport {
+  std::string bytes{};
+  std::set<std::string> unknown_placeholders{};  ///< left in the document as they stood
+};
+
+/// Fills the Word template `docx` with `record`. The same record and template give the same bytes.
+/// @throws TemplateFailure when the template cannot be used
+WrittenReport WriteWordReport(std::string_view docx, const ReportRecord& record);
+
+}  // namespace velmar::presentation
