@@ -1,5 +1,8 @@
 #include "presentation/reports/zip_archive.h"
 
+#include <cstdlib>
+#include <cstring>
+
 #include "presentation/reports/template_failure.h"
 
 namespace velmar::presentation {
@@ -22,7 +25,12 @@ constexpr zip_uint16_t kFixedDate = ((2024 - 1980) << 9) | (1 << 5) | 1;
 ZipArchive::ZipArchive(std::string_view bytes) {
   zip_error_t error;
   zip_error_init(&error);
-  source_.reset(zip_source_buffer_create(bytes.empty() ? nullptr : bytes.data(), bytes.size(), 0, &error));
+  // libzip gets a copy of its own: it frees the bytes when it shares them with what it writes, also if told
+  // not to.
+  void* copy = bytes.empty() ? nullptr : std::malloc(bytes.size());
+  if (copy != nullptr) std::memcpy(copy, bytes.data(), bytes.size());
+  source_.reset(zip_source_buffer_create(copy, copy == nullptr ? 0 : bytes.size(), 1, &error));
+  if (!source_) std::free(copy);
   if (!source_) FailToOpen(error);
   zip_source_keep(source_.get());
   archive_.reset(zip_open_from_source(source_.get(), bytes.empty() ? ZIP_CREATE | ZIP_TRUNCATE : 0, &error));

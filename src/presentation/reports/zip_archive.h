@@ -12,7 +12,7 @@ namespace velmar::presentation {
 /// A ZIP held in memory while libzip works on it.
 class ZipArchive {
  public:
-  /// Opens `bytes`, which must outlive the archive; an empty view begins a new one.
+  /// Opens `bytes`; an empty view begins a new one.
   /// @throws TemplateFailure when they are no ZIP
   explicit ZipArchive(std::string_view bytes);
 

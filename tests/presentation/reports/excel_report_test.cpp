@@ -1,0 +1,148 @@
+#include "presentation/reports/excel_report.h"
+
+#include <charconv>
+#include <cmath>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "presentation/reports/layer_table.h"
+#include "presentation/reports/workbook.h"
+#include "tests/presentation/reports/opened_report.h"
+
+namespace velmar::presentation {
+namespace {
+
+using testing::HasSubstr;
+using testing::IsEmpty;
+
+double NumberIn(const Package& package, const std::string& name) {
+  const auto cell = CellOf(package, name);
+  double value = NAN;
+  if (cell && cell->number) std::from_chars(cell->text.data(), cell->text.data() + cell->text.size(), value);
+  return value;
+}
+
+std::string TextIn(const Package& package, const std::string& name) {
+  const auto cell = CellOf(package, name);
+  return cell && !cell->number ? cell->text : std::string();
+}
+
+class ExcelReportTest : public testing::TestWithParam<ReportCase> {
+ protected:
+  ReportRecord record_ = RecordOf(GetParam());
+  std::string bytes_ = WriteExcelReport(ShippedTemplate(kExcelTemplateName), record_);
+  Package package_{bytes_};
+};
+
+TEST_P(ExcelReportTest, IsASoundPackage) { EXPECT_THAT(FaultsOf(package_), IsEmpty()); }
+
+TEST_P(ExcelReportTest, TellsEveryBandAsItWasCalculated) {
+  for (std::size_t band = 0; band < record_.bands.size(); ++band) {
+    const std::string name = "B" + std::to_string(37 + band);
+    if (record_.bands[band].level_db) {
+      EXPECT_EQ(NumberIn(package_, name), (*GetParam().result.spectrum)[band]) << name;
+    } else {
+      EXPECT_FALSE(CellOf(package_, name)) << name;
+    }
+  }
+  EXPECT_EQ(TextIn(package_, "B36"), record_.has_bands ? record_.band_heading : "");
+  EXPECT_EQ(TextIn(package_, "C40"), record_.generic_note);
+  EXPECT_EQ(record_.generic_note.empty(), record_.has_bands);
+}
+
+TEST_P(ExcelReportTest, TellsTheRatings) {
+  const elements::ResultSet& result = GetParam().result;
+  const bool impact = record_.family == elements::Family::kImpact;
+  EXPECT_EQ(TextIn(package_, "B59"), impact ? "Ln,w" : "Rw");
+  EXPECT_EQ(NumberIn(package_, "D59"), impact ? *result.lnw : *result.rw);
+  if (impact) {
+    EXPECT_EQ(TextIn(package_, "A60"), "Ci=");
+    EXPECT_EQ(NumberIn(package_, "B60"), *result.ci);
+  } else if (result.c) {
+    EXPECT_EQ(TextIn(package_, "A60"), "C=");
+    EXPECT_EQ(NumberIn(package_, "B60"), *result.c);
+    EXPECT_EQ(TextIn(package_, "C60"), "Ctr=");
+    EXPECT_EQ(NumberIn(package_, "D60"), *result.ctr);
+  } else {
+    EXPECT_FALSE(CellOf(package_, "A60"));
+  }
+}
+
+TEST_P(ExcelReportTest, TellsWhatItIs) {
+  EXPECT_EQ(TextIn(package_, "A1"), record_.title);
+  EXPECT_EQ(TextIn(package_, "D4"), record_.kind_of_element);
+  EXPECT_EQ(TextIn(package_, "D5"), record_.theory);
+  EXPECT_EQ(TextIn(package_, "H12"), "Stratigrafia");
+  if (record_.totals) {
+    EXPECT_EQ(NumberIn(package_, "H27"), record_.totals->thickness_mm);
+  }
+  EXPECT_EQ(NumberIn(package_, "H25"), *record_.surface_mass_kg_m2);
+}
+
+TEST_P(ExcelReportTest, ListsTheLayersAboveTheBands) {
+  double mass = 0.0;
+  double listed = 0.0;
+  std::string names;
+  for (int row = kFirstLayerRow; row <= kLastLayerRow; ++row) {
+    names += TextIn(package_, "A" + std::to_string(row)) + "\n";
+    const double number = NumberIn(package_, "G" + std::to_string(row));
+    if (!std::isnan(number)) listed += number;
+  }
+  for (const StructureRow& row : record_.structure) {
+    mass += row.mass_kg_m2.value_or(0.0);
+    const bool renamed = row.name == record_.resilient_name;
+    EXPECT_THAT(names, HasSubstr(renamed ? record_.resilient_heading : FullName(row)));
+  }
+  EXPECT_NEAR(listed, mass, 1e-9);
+  EXPECT_FALSE(CellOf(package_, "A35"));
+}
+
+TEST_P(ExcelReportTest, IsTheSameTwice) {
+  EXPECT_EQ(WriteExcelReport(ShippedTemplate(kExcelTemplateName), record_), bytes_);
+}
+
+TEST_P(ExcelReportTest, LeavesTheRestOfTheTemplate) {
+  const Package original(ShippedTemplate(kExcelTemplateName));
+  for (const std::string& name : original.Names()) {
+    if (name == "xl/worksheets/sheet1.xml" || name == "xl/styles.xml") continue;
+    EXPECT_EQ(package_.Part(name), original.Part(name)) << name;
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(Families, ExcelReportTest, testing::ValuesIn(ReportCases()),
+                         [](const auto& test) { return test.param.name; });
+
+TEST(Workbook, KeepsTextThatLooksLikeAFormulaAsText) {
+  Workbook workbook(ShippedTemplate(kExcelTemplateName));
+  workbook.Sheet().SetText({2, 2}, "=1+1 & <b>\x07");
+  const Package package(workbook.Bytes());
+  EXPECT_EQ(TextIn(package, "B2"), "=1+1 & <b>");
+  EXPECT_THAT(FaultsOf(package), IsEmpty());
+}
+
+/// A user's template: a formula stands where a value goes, the order of calculation is stored.
+TEST(Workbook, ForgetsTheOldOrderOfCalculationWhenAFormulaGoes) {
+  Package package(ShippedTemplate(kExcelTemplateName));
+  const auto replace = [&](const std::string& part, const std::string& from, const std::string& to) {
+    std::string bytes = package.Part(part);
+    ASSERT_NE(bytes.find(from), std::string::npos) << part;
+    bytes.replace(bytes.find(from), from.size(), to);
+    package.Put(part, bytes);
+  };
+  replace("xl/worksheets/sheet1.xml", R"(<c r="D4" s="3"/>)", R"(<c r="D4" s="3"><f>1+1</f><v>2</v></c>)");
+  package.Put("xl/calcChain.xml", "<calcChain/>");
+  replace("xl/_rels/workbook.xml.rels", "</Relationships>",
+          R"(<Relationship Id="rId9" Type="http://x/calcChain" Target="calcChain.xml"/></Relationships>)");
+  replace("[Content_Types].xml", "</Types>",
+          R"(<Override PartName="/xl/calcChain.xml" ContentType="c"/></Types>)");
+  const Package written(WriteExcelReport(package.Bytes(), RecordOf(ReportCases().front())));
+  EXPECT_FALSE(written.Has("xl/calcChain.xml"));
+  EXPECT_THAT(FaultsOf(written), IsEmpty());
+  const std::string& workbook = written.Part("xl/workbook.xml");
+  EXPECT_THAT(workbook, HasSubstr("</definedNames><calcPr fullCalcOnLoad=\"1\""));
+  EXPECT_THAT(written.Part("[Content_Types].xml"), testing::Not(HasSubstr("calcChain")));
+}
+
+}  // namespace
+}  // namespace velmar::presentation

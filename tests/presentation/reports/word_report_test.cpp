@@ -1,0 +1,112 @@
+#include "presentation/reports/word_report.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "foundation/decimal.h"
+#include "tests/presentation/reports/opened_report.h"
+
+namespace velmar::presentation {
+namespace {
+
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::Not;
+
+constexpr const char* kDocument = "word/document.xml";
+
+class WordReportTest : public testing::TestWithParam<ReportCase> {
+ protected:
+  ReportRecord record_ = RecordOf(GetParam());
+  WrittenReport report_ = WriteWordReport(ShippedTemplate(WordTemplateName(record_.family)), record_);
+  Package package_{report_.bytes};
+  std::string text_ = TextOf(package_, kDocument);
+};
+
+TEST_P(WordReportTest, LeavesNoPlaceholderAndNoMarker) {
+  EXPECT_THAT(report_.unknown_placeholders, IsEmpty());
+  for (const char* part : {kDocument, "word/header1.xml", "word/footer1.xml"}) {
+    const std::string& bytes = package_.Part(part);
+    for (const char* mark : {"P1_", "P2_", "CODICE_ALLEGATO"})
+      EXPECT_THAT(bytes, Not(HasSubstr(mark))) << part;
+  }
+}
+
+TEST_P(WordReportTest, IsASoundPackage) { EXPECT_THAT(FaultsOf(package_), IsEmpty()); }
+
+TEST_P(WordReportTest, TellsTheResult) {
+  EXPECT_THAT(text_, HasSubstr(record_.result_line + "\n"));
+  if (!record_.improvement_line.empty()) {
+    EXPECT_THAT(text_, HasSubstr(record_.improvement_line + "\n"));
+  }
+  EXPECT_THAT(text_, HasSubstr(record_.theory + "\n"));
+  EXPECT_THAT(text_, HasSubstr(record_.standard + "\n"));
+}
+
+TEST_P(WordReportTest, TellsEveryBandWithOneDecimal) {
+  constexpr const char* kCentres[] = {"50",   "63",   "80",   "100",  "125",  "160",  "200",
+                                      "250",  "315",  "400",  "500",  "630",  "800",  "1000",
+                                      "1250", "1600", "2000", "2500", "3150", "4000", "5000"};
+  for (std::size_t band = 0; band < record_.bands.size(); ++band) {
+    if (!record_.bands[band].level_db) continue;
+    const double level = (*GetParam().result.spectrum)[band];
+    const std::string row = std::string(kCentres[band]) + "\n" + FormatFixed(level, 1) + "\n" +
+                            record_.bands[band].reference + "\n";
+    EXPECT_THAT(text_, HasSubstr("\n" + row));
+  }
+  EXPECT_EQ(record_.has_bands, text_.find("Andamento in frequenza") != std::string::npos);
+}
+
+TEST_P(WordReportTest, TellsEveryLayer) {
+  for (const StructureRow& row : record_.structure) {
+    EXPECT_THAT(text_, HasSubstr(row.kind == StructureKind::kHeading ? row.name : FullName(row)));
+    if (row.mass_kg_m2) {
+      EXPECT_THAT(text_, HasSubstr(FormatFixed(*row.mass_kg_m2, 1) + "\n"));
+    }
+  }
+}
+
+TEST_P(WordReportTest, ShowsTheChartWithWordsForThoseWhoCannotSeeIt) {
+  EXPECT_EQ(package_.Has("word/media/velmar1.png"), record_.chart.has_value());
+  if (!record_.chart) return;
+  EXPECT_EQ(package_.Part("word/media/velmar1.png"), record_.chart->png);
+  EXPECT_THAT(package_.Part(kDocument), HasSubstr("descr=\"" + record_.chart->alternative_text));
+}
+
+TEST_P(WordReportTest, TellsTheProject) {
+  EXPECT_THAT(text_, HasSubstr("Società Cooperativa Edilizia «La Quercia»"));
+  EXPECT_THAT(text_, HasSubstr("Valori da verificare in opera.\x01Giunti perimetrali sigillati."));
+  EXPECT_THAT(TextOf(package_, "word/header1.xml"), HasSubstr("Allegato: A3"));
+}
+
+TEST_P(WordReportTest, IsTheSameTwice) {
+  EXPECT_EQ(WriteWordReport(ShippedTemplate(WordTemplateName(record_.family)), record_).bytes, report_.bytes);
+}
+
+INSTANTIATE_TEST_SUITE_P(Families, WordReportTest, testing::ValuesIn(ReportCases()),
+                         [](const auto& test) { return test.param.name; });
+
+TEST(WordReport, TellsHowACeilingHangsAndOfALiningNothing) {
+  for (const ReportCase& report_case : ReportCases()) {
+    const ReportRecord record = RecordOf(report_case);
+    const WrittenReport report = WriteWordReport(ShippedTemplate(WordTemplateName(record.family)), record);
+    const std::string text = TextOf(Package(report.bytes), kDocument);
+    const bool ceiling = report_case.name == "Ceiling";
+    EXPECT_EQ(text.find("Pendino ad attacco semplice") != std::string::npos, ceiling) << report_case.name;
+    EXPECT_EQ(text.find("Tipo di collegamento") != std::string::npos, ceiling) << report_case.name;
+  }
+}
+
+TEST(WordReport, KeepsHostileNamesAsText) {
+  ReportCase brick = ReportCases().front();
+  brick.setup.leaf1.rows[0].slot.name = "A & B <b> \"c\" [P1_NOTE] \x07 \xff è";
+  const ReportRecord record = RecordOf(brick);
+  const WrittenReport report = WriteWordReport(ShippedTemplate(WordTemplateName(record.family)), record);
+  const Package package(report.bytes);
+  EXPECT_THAT(FaultsOf(package), IsEmpty());
+  EXPECT_THAT(TextOf(package, kDocument), HasSubstr("A & B <b> \"c\" [P1_NOTE]   è\n"));
+  EXPECT_THAT(report.unknown_placeholders, IsEmpty());
+}
+
+}  // namespace
+}  // namespace velmar::presentation
