@@ -1,0 +1,66 @@
+#pragma once
+
+#include <span>
+
+#include "foundation/message.h"
+
+namespace velmar::shell {
+
+enum class CommandId {
+  kOpenProject,
+  kSaveProject,
+  kStoreResult,
+  kPrintPreview,
+  kPrint,
+  kExportWord,
+  kExportExcel,
+  kRun,
+  kShowTable,
+  kCompare,
+  kDimensions,
+  kSingleWalls,
+  kDoubleWalls,
+  kFloors,
+  kFacades,
+  kLinings,
+  kCeilings,
+  kExitAsking,
+  kProjectInformation,
+  kExit,
+  kSavedResults,
+  kMaintenance,
+  kMeasuredLnw,
+  kMeasuredRw,
+  kBaseMaterials,
+  kMaterialList,
+  kTutorial,
+  kContact,
+  kAbout,
+};
+
+/// What must be there before a command can do anything.
+enum class Needs { kNothing, kCalculation, kResult };
+
+/// One command of the program: menu entry, tool bar button and shortcut in one row. The tool bar's separators
+/// are the numbers that no command has.
+struct Command {
+  CommandId id{};
+  int button = 0;              ///< number in the tool bar, from 1; 0: none
+  const char* control = "";    ///< name of the menu entry; a button without one is called by its number
+  int caption_row = 0;         ///< of the menu entry; 0: none
+  int tip_row = 0;             ///< of the button; 0: the caption
+  const char* icon = "";       ///< name of the picture; empty: none
+  const char* shortcut = "";   ///< in Qt's portable words
+  Needs needs = Needs::kNothing;
+};
+
+/// All commands: first the tool bar's in the order of its buttons.
+std::span<const Command> Commands();
+
+/// The row of `id`.
+const Command& RowOf(CommandId id);
+
+/// Number of places in the tool bar, separators included.
+inline constexpr int kToolBarPlaces = 23;
+
+}  // namespace velmar::shell
