@@ -1,0 +1,41 @@
+#pragma once
+
+#include <functional>
+#include <map>
+
+#include "elements/catalogue.h"
+#include "foundation/message.h"
+#include "presentation/texts/words.h"
+
+class QAction;
+class QMenu;
+class QObject;
+
+namespace velmar::shell {
+
+/// The caption of a calculation's menu entry: its words and, behind a relation, "[relazione sperimentale 10]".
+MessageLine MenuCaption(elements::Calculation calculation);
+
+/// The actions of the 47 calculations, one each, shared by the calculation tree, the menus of the element
+/// buttons and the start screen. Each is called after its menu handler, with its index where that has several.
+class CalculationActions {
+ public:
+  CalculationActions(const presentation::Words& words, QObject* parent,
+                     const std::function<void(elements::Calculation)>& choose);
+
+  QAction* Of(elements::Calculation calculation) const { return actions_.at(calculation); }
+  /// Fills `menu` with the calculation tree.
+  void FillTree(QMenu& menu, const presentation::Words& words) const;
+  /// Fills `menu` with the calculations of an element button, in the order of the tree.
+  void FillKind(QMenu& menu, elements::ElementButton button) const;
+  /// Marks `calculation` as the one that is open.
+  void Mark(elements::Calculation calculation);
+
+ private:
+  std::map<elements::Calculation, QAction*> actions_;
+};
+
+/// The calculation that an element button begins with.
+elements::Calculation FirstOf(elements::ElementButton button);
+
+}  // namespace velmar::shell

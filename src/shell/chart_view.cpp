@@ -1,0 +1,121 @@
+#include "shell/chart_view.h"
+
+#include <QClipboard>
+#include <QContextMenuEvent>
+#include <QGuiApplication>
+#include <QImage>
+#include <QMenu>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QSvgGenerator>
+#include <QToolTip>
+
+#include "foundation/decimal.h"
+#include "presentation/drawing/chart_scale.h"
+#include "shell/phrases.h"
+
+namespace velmar::shell {
+namespace {
+
+constexpr MessageRow kCopyPictureRow{1320};
+constexpr MessageRow kSavePngRow{1321};
+constexpr MessageRow kSaveSvgRow{1322};
+constexpr double kPictureScale = 3.0;
+
+QString Level(const std::string& name, double level_db) {
+  return FromUtf8(name) + ": " + FromUtf8(FormatFixed(level_db, 1)) + " dB";
+}
+
+}  // namespace
+
+ChartView::ChartView(const presentation::Words& words, SaveAs save_as, QWidget* parent)
+    : QWidget(parent), words_(words), save_as_(std::move(save_as)), chart_(presentation::EmptyChart(words)) {
+  setObjectName("Picture1");
+  setMouseTracking(true);
+  setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+}
+
+void ChartView::Show(const presentation::CurveChart& chart) {
+  chart_ = chart;
+  update();
+}
+
+void ChartView::paintEvent(QPaintEvent* /*event*/) {
+  QPainter painter(this);
+  painter.setFont(font());
+  presentation::DrawCurveChart(painter, QRectF(rect()), chart_);
+}
+
+void ChartView::mouseMoveEvent(QMouseEvent* event) {
+  const auto band = presentation::BandAt(event->position(), QRectF(rect()), chart_, font());
+  const bool known = band && *band >= chart_.first_band && *band <= chart_.last_band && chart_.values.at(*band) != 0.0;
+  const std::optional<std::size_t> marked = known ? band : std::nullopt;
+  if (marked != chart_.highlighted_band) {
+    chart_.highlighted_band = marked;
+    update();
+  }
+  if (marked) {
+    QToolTip::showText(event->globalPosition().toPoint(), BandText(*marked), this);
+  } else {
+    QToolTip::hideText();
+  }
+}
+
+void ChartView::leaveEvent(QEvent* event) {
+  QWidget::leaveEvent(event);
+  chart_.highlighted_band.reset();
+  update();
+}
+
+QString ChartView::BandText(std::size_t band) const {
+  QStringList lines = {FromUtf8(FormatShortest(acoustics::kBandCentres.at(band))) + " Hz",
+                       Level(chart_.words.calculated, chart_.values.at(band))};
+  const bool rated = band >= acoustics::kFirstRatedBand && band <= acoustics::kLastRatedBand;
+  if (chart_.shift && rated)
+    lines += Level(chart_.words.reference, chart_.reference.at(band - acoustics::kFirstRatedBand) + *chart_.shift);
+  if (chart_.base && chart_.base->at(band) != 0.0) lines += Level(chart_.words.base, chart_.base->at(band));
+  return lines.join('\n');
+}
+
+QImage ChartView::Picture(double scale) const {
+  QImage picture((QSizeF(size()) * scale).toSize(), QImage::Format_ARGB32_Premultiplied);
+  picture.setDevicePixelRatio(scale);
+  picture.fill(Qt::white);
+  QPainter painter(&picture);
+  painter.setFont(font());
+  presentation::CurveChart plain = chart_;
+  plain.highlighted_band.reset();
+  presentation::DrawCurveChart(painter, QRectF(rect()), plain);
+  return picture;
+}
+
+void ChartView::Save(bool as_svg) {
+  const MessageRow title = as_svg ? kSaveSvgRow : kSavePngRow;
+  QString path = save_as_(Text(words_, title), as_svg ? "SVG (*.svg)" : "PNG (*.png)");
+  if (path.isEmpty()) return;
+  const QString ending = as_svg ? ".svg" : ".png";
+  if (!path.endsWith(ending, Qt::CaseInsensitive)) path += ending;
+  if (!as_svg) {
+    Picture(kPictureScale).save(path, "PNG");
+    return;
+  }
+  QSvgGenerator generator;
+  generator.setFileName(path);
+  generator.setSize(size());
+  generator.setViewBox(rect());
+  QPainter painter(&generator);
+  painter.setFont(font());
+  presentation::DrawCurveChart(painter, QRectF(rect()), chart_);
+}
+
+void ChartView::contextMenuEvent(QContextMenuEvent* event) {
+  auto* menu = new QMenu(this);
+  menu->setAttribute(Qt::WA_DeleteOnClose);
+  menu->addAction(Text(words_, kCopyPictureRow),
+                  [this] { QGuiApplication::clipboard()->setImage(Picture(kPictureScale)); });
+  menu->addAction(Text(words_, kSavePngRow), [this] { Save(/*as_svg=*/false); });
+  menu->addAction(Text(words_, kSaveSvgRow), [this] { Save(/*as_svg=*/true); });
+  menu->popup(event->globalPos());
+}
+
+}  // namespace velmar::shell

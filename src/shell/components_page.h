@@ -1,0 +1,42 @@
+#pragma once
+
+#include <vector>
+
+#include "shell/page.h"
+#include "shell/page_context.h"
+
+class QCheckBox;
+class QLabel;
+class QTabWidget;
+
+namespace velmar::shell {
+
+class ChoiceBox;
+class CountBox;
+class ElementForm;
+
+/// The components of a facade, one inner tab each.
+class ComponentsPage : public Page {
+ public:
+  explicit ComponentsPage(PageContext& context, QWidget* parent = nullptr);
+
+  void Show(const elements::Setup& setup) override;
+
+ private:
+  struct Component {
+    ElementForm* form = nullptr;
+    ChoiceBox* tightness = nullptr;
+    QLabel* share = nullptr;
+  };
+
+  void AddHead(class QVBoxLayout& column);
+  Component AddComponent(int index);
+
+  PageContext& context_;
+  CountBox* count_ = nullptr;
+  QCheckBox* simplified_ = nullptr;
+  QTabWidget* tabs_ = nullptr;
+  std::vector<Component> components_;
+};
+
+}  // namespace velmar::shell

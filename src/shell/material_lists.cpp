@@ -1,0 +1,89 @@
+#include "shell/material_lists.h"
+
+#include "shell/phrases.h"
+
+namespace velmar::shell {
+namespace {
+
+using elements::LayerGroup;
+using elements::MaterialFamily;
+
+constexpr MessageRow kAllRow{367};
+constexpr MessageRow kNotSpecifiedRow{325};
+constexpr std::array kFamilies = {MaterialFamily::kStructural, MaterialFamily::kFibrous,
+                                  MaterialFamily::kResilient};
+constexpr std::array kFilters = {FilterId::kLeaf1, FilterId::kLeaf2, FilterId::kResilient, FilterId::kCavity};
+
+MaterialFamily FamilyOf(FilterId filter) {
+  switch (filter) {
+    case FilterId::kLeaf1:
+    case FilterId::kLeaf2:
+      return MaterialFamily::kStructural;
+    case FilterId::kResilient:
+      return MaterialFamily::kResilient;
+    case FilterId::kCavity:
+      return MaterialFamily::kFibrous;
+  }
+  return MaterialFamily::kStructural;
+}
+
+QStringList ToList(const std::vector<std::string>& names) {
+  QStringList list;
+  list.reserve(static_cast<qsizetype>(names.size()));
+  for (const std::string& name : names) list += FromUtf8(name);
+  return list;
+}
+
+std::size_t At(MaterialFamily family) { return static_cast<std::size_t>(family); }
+std::size_t At(FilterId filter) { return static_cast<std::size_t>(filter); }
+
+}  // namespace
+
+MaterialLists::MaterialLists(const WindowServices& services)
+    : services_(services), words_{services.words(kAllRow), services.words(kNotSpecifiedRow)} {
+  chosen_.fill(FromUtf8(words_.all));
+  Reload();
+}
+
+void MaterialLists::Reload() {
+  for (const MaterialFamily family : kFamilies) {
+    auto& materials = materials_.at(At(family));
+    materials.clear();
+    if (services_.material_names) materials = services_.material_names(family);
+    all_.at(At(family)).setStringList(ToList(NamesUnder(materials, family, words_.all, words_)));
+  }
+  for (const FilterId filter : kFilters) Fill(filter);
+}
+
+void MaterialLists::Fill(FilterId filter) {
+  const MaterialFamily family = FamilyOf(filter);
+  const std::string keyword = ToUtf8(Keyword(filter));
+  filtered_.at(At(filter)).setStringList(ToList(NamesUnder(materials_.at(At(family)), family, keyword, words_)));
+}
+
+QStringListModel* MaterialLists::NamesOf(LayerGroup group) {
+  switch (group) {
+    case LayerGroup::kLeaf1:
+      return &filtered_.at(At(FilterId::kLeaf1));
+    case LayerGroup::kLeaf2:
+      return &filtered_.at(At(FilterId::kLeaf2));
+    case LayerGroup::kResilient:
+      return &filtered_.at(At(FilterId::kResilient));
+    case LayerGroup::kCavity:
+      return &filtered_.at(At(FilterId::kCavity));
+    default:
+      return &all_.at(At(RowOf(group).family));
+  }
+}
+
+QStringList MaterialLists::Keywords(FilterId filter) const {
+  const MaterialFamily family = FamilyOf(filter);
+  return ToList(KeywordsOf(materials_.at(At(family)), family, words_));
+}
+
+void MaterialLists::Choose(FilterId filter, const QString& keyword) {
+  chosen_.at(At(filter)) = keyword;
+  Fill(filter);
+}
+
+}  // namespace velmar::shell

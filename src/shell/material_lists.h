@@ -1,0 +1,46 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+#include <QStringListModel>
+#include <array>
+#include <vector>
+
+#include "calculation/material_filter.h"
+#include "elements/layer_groups.h"
+#include "shell/window_services.h"
+
+namespace velmar::shell {
+
+/// The keyword filters of the window.
+enum class FilterId { kLeaf1, kLeaf2, kResilient, kCavity };
+inline constexpr std::size_t kFilterCount = 4;
+
+/// The names that the material lists offer. All lists under one filter share one model, so that thousands of
+/// materials cost their memory once.
+class MaterialLists {
+ public:
+  explicit MaterialLists(const WindowServices& services);
+
+  /// Reads the tables again, as after an edit of the material database. The filters keep their keywords.
+  void Reload();
+
+  /// What the rows of `group` offer; owned by this object.
+  QStringListModel* NamesOf(elements::LayerGroup group);
+
+  QStringList Keywords(FilterId filter) const;
+  QString Keyword(FilterId filter) const { return chosen_.at(static_cast<std::size_t>(filter)); }
+  void Choose(FilterId filter, const QString& keyword);
+
+ private:
+  void Fill(FilterId filter);
+
+  const WindowServices& services_;
+  calculation::FilterWords words_;
+  std::array<std::vector<calculation::ListedMaterial>, 3> materials_;  ///< by MaterialFamily
+  std::array<QString, kFilterCount> chosen_;
+  std::array<QStringListModel, kFilterCount> filtered_;
+  std::array<QStringListModel, 3> all_;
+};
+
+}  // namespace velmar::shell

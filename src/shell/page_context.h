@@ -1,0 +1,25 @@
+#pragma once
+
+#include <functional>
+#include <optional>
+
+#include "calculation/open_calculation.h"
+#include "presentation/drawing/section.h"
+#include "shell/material_lists.h"
+#include "shell/window_services.h"
+
+namespace velmar::shell {
+
+/// What an input page is given. A page shows the set-up and reports edits to the open calculation; it knows
+/// neither its window nor the other pages.
+struct PageContext {
+  calculation::OpenCalculation& open;
+  const WindowServices& services;
+  MaterialLists& materials;
+  /// Told which layer row is under the mouse, nothing when none is.
+  std::function<void(const std::optional<presentation::LayerPlace>&)> on_hover{};
+
+  const presentation::Words& Words() const { return services.words; }
+};
+
+}  // namespace velmar::shell

@@ -1,0 +1,192 @@
+#include "shell/results_panel.h"
+
+#include <QCheckBox>
+#include <QFont>
+#include <QFrame>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QSplitter>
+#include <QVBoxLayout>
+
+#include "calculation/select_calculation.h"
+#include "foundation/decimal.h"
+#include "foundation/rounding.h"
+#include "presentation/drawing/curve_chart.h"
+#include "shell/chart_view.h"
+#include "shell/page_parts.h"
+#include "shell/phrases.h"
+#include "shell/section_view.h"
+
+namespace velmar::shell {
+namespace {
+
+constexpr MessageRow kNoResultRow{232};
+constexpr MessageRow kAutoscaleRow{73};
+constexpr MessageRow kSectionRow{74};
+constexpr double kRatingScale = 2.4;
+// Symbols of the ratings, the same in every language.
+constexpr const char* kRwName = "Rw = ";
+constexpr const char* kLnwName = "Ln,w =";
+constexpr const char* kImprovementName = "ΔRw =";
+constexpr const char* kImpactName = "DLw =";
+
+QString Whole(double value) { return FromUtf8(FormatShortest(RoundToEven(value))); }
+QString Decibels(const std::optional<double>& value) {
+  return value ? Whole(*value) + QStringLiteral(" dB") : QString();
+}
+QString Term(const char* name, const std::optional<double>& value) {
+  return value ? QString(name) + "= " + Whole(*value) + " dB" : QString(name) + '=';
+}
+
+QLabel* Named(const char* name, QWidget* parent) {
+  auto* label = new QLabel(parent);
+  label->setObjectName(name);
+  label->setTextInteractionFlags(Qt::TextSelectableByMouse);
+  return label;
+}
+
+}  // namespace
+
+ResultsPanel::ResultsPanel(const PageContext& context, QWidget* parent) : QWidget(parent), context_(context) {
+  setObjectName("prnFrame1");
+  auto* column = new QVBoxLayout(this);
+  column->setContentsMargins(kPageSpacing, kPageSpacing, kPageSpacing, kPageSpacing);
+  column->addWidget(MakeRatings());
+  splitter_ = new QSplitter(Qt::Vertical, this);
+  splitter_->addWidget(MakeChart());
+  splitter_->addWidget(MakeSection());
+  splitter_->setStretchFactor(0, 3);
+  splitter_->setStretchFactor(1, 2);
+  splitter_->setChildrenCollapsible(false);
+  column->addWidget(splitter_, 1);
+}
+
+QWidget* ResultsPanel::MakeRatings() {
+  auto* frame = new QWidget(this);
+  auto* line = new QHBoxLayout(frame);
+  line->setContentsMargins(kPageSpacing, 0, kPageSpacing, 0);
+  rating_name_ = Named("LabelRw", frame);
+  rating_ = Named("Label4", frame);
+  QFont large = font();
+  large.setPointSizeF(large.pointSizeF() * kRatingScale);
+  large.setBold(true);
+  rating_->setFont(large);
+  rating_name_->setFont(large);
+  // The place keeps its height when the rating goes, so that nothing moves.
+  frame->setMinimumHeight(QFontMetrics(large).height() + kPageSpacing);
+  due_ = Named("LabelEseguire", frame);
+  due_->setText(Text(context_.Words(), kNoResultRow));
+  due_->setForegroundRole(QPalette::PlaceholderText);
+  c_ = Named("Label48_0", frame);
+  ctr_ = Named("Label48_1", frame);
+  improvement_frame_ = new QWidget(frame);
+  improvement_frame_->setObjectName("FrameDrw");
+  auto* improvement_line = new QHBoxLayout(improvement_frame_);
+  improvement_line->setContentsMargins(0, 0, 0, 0);
+  QLabel* name = Named("LabelDrw_0", improvement_frame_);
+  name->setText(kImprovementName);
+  improvement_ = Named("LabelDrw_1", improvement_frame_);
+  improvement_line->addWidget(name);
+  improvement_line->addWidget(improvement_);
+  impact_frame_ = new QWidget(frame);
+  impact_frame_->setObjectName("Frame6");
+  auto* impact_line = new QHBoxLayout(impact_frame_);
+  impact_line->setContentsMargins(0, 0, 0, 0);
+  QLabel* impact_name = Named("LabelDlw", impact_frame_);
+  impact_name->setText(kImpactName);
+  impact_improvement_ = Named("Label20", impact_frame_);
+  impact_line->addWidget(impact_name);
+  impact_line->addWidget(impact_improvement_);
+
+  line->addWidget(rating_name_);
+  line->addWidget(rating_);
+  line->addWidget(due_);
+  line->addStretch(1);
+  for (QWidget* widget : {static_cast<QWidget*>(c_), static_cast<QWidget*>(ctr_), improvement_frame_, impact_frame_}) {
+    line->addSpacing(2 * kPageSpacing);
+    line->addWidget(widget);
+  }
+  return frame;
+}
+
+QWidget* ResultsPanel::MakeChart() {
+  auto* frame = new QWidget(this);
+  auto* column = new QVBoxLayout(frame);
+  column->setContentsMargins(0, 0, 0, 0);
+  column->setSpacing(4);
+  const auto choose = context_.services.boxes.choose_file_to_save;
+  chart_ = new ChartView(
+      context_.Words(),
+      [choose](const QString& title, const QString& filter) {
+        return choose ? choose({.title = title, .filter = filter}) : QString();
+      },
+      frame);
+  autoscale_ = new QCheckBox(Text(context_.Words(), kAutoscaleRow), frame);
+  autoscale_->setObjectName("Check3");
+  connect(autoscale_, &QCheckBox::clicked, this, [this] { ShowChart(); });
+  column->addWidget(chart_, 1);
+  column->addWidget(autoscale_, 0, Qt::AlignRight);
+  return frame;
+}
+
+QWidget* ResultsPanel::MakeSection() {
+  section_frame_ = new QWidget(this);
+  auto* column = new QVBoxLayout(section_frame_);
+  column->setContentsMargins(0, 0, 0, 0);
+  column->setSpacing(4);
+  auto* heading = new QLabel(Text(context_.Words(), kSectionRow), section_frame_);
+  heading->setObjectName("Label10_0");
+  heading->setForegroundRole(QPalette::PlaceholderText);
+  section_ = new SectionView(section_frame_);
+  column->addWidget(heading);
+  column->addWidget(section_, 1);
+  return section_frame_;
+}
+
+void ResultsPanel::Show() {
+  const elements::Setup& setup = context_.open.Setup();
+  if (!setup.calculation) return;
+  const auto& result = context_.open.Result();
+  ShowRatings(setup, result ? &*result : nullptr);
+  ShowChart();
+  section_frame_->setVisible(RowOf(*setup.calculation).family != elements::Family::kFacade);
+  section_->Show(presentation::SectionOf(setup));
+}
+
+void ResultsPanel::ShowRatings(const elements::Setup& setup, const elements::ResultSet* result) {
+  const elements::Calculation calculation = *setup.calculation;
+  const bool impact = RowOf(calculation).family == elements::Family::kImpact;
+  const bool rated = result != nullptr;
+  const elements::ResultSet none;
+  const elements::ResultSet& shown = rated ? *result : none;
+  rating_name_->setText(impact ? kLnwName : kRwName);
+  rating_->setText(Decibels(impact ? shown.lnw : shown.rw));
+  rating_name_->setVisible(rated);
+  rating_->setVisible(rated);
+  due_->setVisible(!rated);
+  c_->setText(impact ? Term("Ci", shown.ci) : Term("C", shown.c));
+  ctr_->setText(Term("Ctr", shown.ctr));
+  c_->setVisible(rated);
+  ctr_->setVisible(rated && !impact);
+  const bool improves = calculation::LayoutOf(calculation).improvement_shown;
+  improvement_->setText(Decibels(shown.delta_rw));
+  improvement_frame_->setVisible(improves && rated);
+  impact_improvement_->setText(Decibels(shown.delta_lnw));
+  impact_frame_->setVisible(impact && rated && shown.delta_lnw.has_value());
+}
+
+void ResultsPanel::ShowChart() {
+  const auto& result = context_.open.Result();
+  auto chart = result ? presentation::CurveChartOf(context_.open.Setup(), *result, context_.Words()) : std::nullopt;
+  autoscale_->setEnabled(result.has_value());
+  if (chart) chart->autoscale = autoscale_->isChecked();
+  chart_->Show(chart ? *chart : presentation::EmptyChart(context_.Words()));
+}
+
+void ResultsPanel::Highlight(const std::optional<presentation::LayerPlace>& place) { section_->Highlight(place); }
+
+void ResultsPanel::OnHover(std::function<void(const std::optional<presentation::LayerPlace>&)> on_hover) {
+  section_->OnHover(std::move(on_hover));
+}
+
+}  // namespace velmar::shell

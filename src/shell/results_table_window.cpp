@@ -1,0 +1,80 @@
+#include "shell/results_table_window.h"
+
+#include <QClipboard>
+#include <QGroupBox>
+#include <QGuiApplication>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QPushButton>
+#include <QTableWidget>
+#include <QVBoxLayout>
+
+#include "shell/phrases.h"
+
+namespace velmar::shell {
+namespace {
+
+constexpr MessageRow kCaptionRow{291};
+constexpr MessageRow kSpectrumRow{292};
+constexpr MessageRow kCopyRow{293};
+constexpr MessageRow kCloseRow{369};
+
+QTableWidgetItem* Cell(const std::string& text) {
+  auto* item = new QTableWidgetItem(FromUtf8(text));
+  item->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
+  item->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable);
+  return item;
+}
+
+}  // namespace
+
+ResultsTableWindow::ResultsTableWindow(const presentation::ResultsTable& table, const presentation::Words& words,
+                                       QWidget* parent)
+    : QDialog(parent), table_(table) {
+  setObjectName("Form4");
+  setWindowTitle(Text(words, kCaptionRow));
+  setAttribute(Qt::WA_DeleteOnClose);
+  auto* column = new QVBoxLayout(this);
+  auto* frame = new QGroupBox(Text(words, kSpectrumRow), this);
+  frame->setObjectName("Frame1");
+  auto* inner = new QVBoxLayout(frame);
+  auto* view = new QTableWidget(frame);
+  view->setObjectName("Tabella");
+  view->setAccessibleName(frame->title());
+  FillTable(*view);
+  inner->addWidget(view);
+  column->addWidget(frame, 1);
+
+  auto* line = new QHBoxLayout;
+  auto* copy = new QPushButton(Text(words, kCopyRow), this);
+  copy->setObjectName("Command1_1");
+  connect(copy, &QPushButton::clicked, this, [this, copy] {
+    QGuiApplication::clipboard()->setText(FromUtf8(presentation::ClipboardText(table_)));
+    copy->setEnabled(false);
+  });
+  auto* close_button = new QPushButton(Text(words, kCloseRow), this);
+  close_button->setObjectName("Command1_0");
+  close_button->setDefault(true);
+  connect(close_button, &QPushButton::clicked, this, &QDialog::close);
+  line->addWidget(copy);
+  line->addStretch(1);
+  line->addWidget(close_button);
+  column->addLayout(line);
+  resize(320, 640);
+}
+
+void ResultsTableWindow::FillTable(QTableWidget& view) const {
+  view.setColumnCount(2);
+  view.setRowCount(static_cast<int>(table_.rows.size()));
+  view.setHorizontalHeaderLabels({FromUtf8(table_.frequency_heading), FromUtf8(table_.value_heading)});
+  view.verticalHeader()->hide();
+  view.horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
+  for (int i = 0; i < view.rowCount(); ++i) {
+    const presentation::ResultsTableRow& row = table_.rows.at(static_cast<std::size_t>(i));
+    view.setItem(i, 0, Cell(row.title));
+    view.setItem(i, 1, Cell(row.value));
+    view.setRowHidden(i, !row.visible);
+  }
+}
+
+}  // namespace velmar::shell

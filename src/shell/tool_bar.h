@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QToolBar>
+
+#include "presentation/texts/words.h"
+
+class QToolButton;
+
+namespace velmar::shell {
+
+class CalculationActions;
+class CommandSet;
+
+/// The tool bar of 23 places. The buttons of the element kinds begin with a kind's first calculation and
+/// unfold all of them; the run button is the one strong button.
+class CommandToolBar : public QToolBar {
+ public:
+  CommandToolBar(const CommandSet& commands, const CalculationActions& calculations,
+                 const presentation::Words& words, QWidget* parent = nullptr);
+
+  /// The run button stands out while a calculation waits for its run.
+  void ShowRunDue(bool due);
+
+ private:
+  QToolButton* AddCommand(const CommandSet& commands, int place);
+
+  QToolButton* run_ = nullptr;
+};
+
+}  // namespace velmar::shell
