@@ -30,7 +30,7 @@ void TakeComponent(elements::Setup& setup, int index, const ChosenElement& chose
   component.band_texts = chosen.band_texts;
   component.mass_kg_m2 = chosen.mass_kg_m2;
   if (chosen.small_element) {
-    component.area_text = elements::kSmallElementArea;
+    component.area_text = std::string(elements::kSmallElementArea);
   } else if (was_small || !chosen.area_text.empty()) {
     component.area_text = chosen.area_text;
   }
@@ -38,12 +38,16 @@ void TakeComponent(elements::Setup& setup, int index, const ChosenElement& chose
 
 bool EnterElementNumber(std::string& box, const std::string& text) {
   const bool kept = text.empty() || text == "," || text == "." || ParseDecimal(text).has_value();
-  box = kept ? text : std::string();
+  if (kept) {
+    box = text;
+  } else {
+    box.clear();
+  }
   return kept;
 }
 
 bool EnterComponentArea(std::string& box, const std::string& text) {
-  if (text != elements::kSmallElementArea) return EnterElementNumber(box, text);
+  if (text != std::string_view(elements::kSmallElementArea)) return EnterElementNumber(box, text);
   box = text;
   return true;
 }

@@ -52,7 +52,8 @@ AboutBox::AboutBox(const presentation::Words& words, const QString& version, con
   if (!website.isEmpty()) {
     auto* label = new QLabel(Text(words, kWebsiteRow), this);
     label->setObjectName("LabelSito");
-    auto* link = new QLabel("<a href=\"" + website.toHtmlEscaped() + "\">" + website.toHtmlEscaped() + "</a>", this);
+    auto* link =
+        new QLabel("<a href=\"" + website.toHtmlEscaped() + "\">" + website.toHtmlEscaped() + "</a>", this);
     link->setObjectName("LbWebSite");
     link->setTextInteractionFlags(Qt::TextBrowserInteraction);
     connect(link, &QLabel::linkActivated, this, [open_website = std::move(open_website)] { open_website(); });

@@ -24,7 +24,7 @@ BandBoxes::BandBoxes(const QString& frame_name, const QString& name, QWidget* pa
   grid->setVerticalSpacing(4);
   for (std::size_t band = 0; band < acoustics::kBandCount; ++band) {
     const int index = static_cast<int>(band);
-    const QString frequency = FromUtf8(FormatShortest(acoustics::kBandCentres.at(band))) + " Hz";
+    const QString frequency = FromUtf8(FormatShortest(acoustics::BandCentre(band))) + " Hz";
     auto* box = new NumberField(name + '_' + QString::number(index), NumberKind::kReal, frame_);
     box->setAccessibleName(frequency);
     auto* label = new QLabel(frequency, frame_);

@@ -66,13 +66,15 @@ void BaseElementPage::AddPlainBase() {
   thickness_->setAccessibleName(Text(words, kBaseThicknessTipRow));
   thickness_->setPlaceholderText(FromUtf8(FormatShortest(elements::kDefaultBaseThicknessMm)));
   thickness_->OnEdit([this](const std::string& text) {
-    context_.open.Edit([&](elements::Setup& setup) { setup.base.thickness_mm = ParseDecimal(text).value_or(0.0); });
+    context_.open.Edit(
+        [&](elements::Setup& setup) { setup.base.thickness_mm = ParseDecimal(text).value_or(0.0); });
   });
   mass_ = new NumberField("TextMassaBase", NumberKind::kReal, this);
   mass_->setToolTip(Text(words, kBaseMassTipRow));
   mass_->setAccessibleName(Text(words, kBaseMassTipRow));
   mass_->OnEdit([this](const std::string& text) {
-    context_.open.Edit([&](elements::Setup& setup) { setup.base.mass_kg_m2 = ParseSingle(text).value_or(0.0F); });
+    context_.open.Edit(
+        [&](elements::Setup& setup) { setup.base.mass_kg_m2 = ParseSingle(text).value_or(0.0F); });
   });
   thickness_label_ = LabelFor(thickness_, kThicknessRow, context_, this);
   mass_label_ = LabelFor(mass_, kMassRow, context_, this);

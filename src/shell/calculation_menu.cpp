@@ -124,7 +124,8 @@ const Entry& EntryOf(Calculation calculation) {
 
 QString ControlName(const CalculationRow& row) {
   int members = 0;
-  for (const CalculationRow& other : elements::Catalogue()) members += other.menu_group == row.menu_group ? 1 : 0;
+  for (const CalculationRow& other : elements::Catalogue())
+    members += other.menu_group == row.menu_group ? 1 : 0;
   const QString group = FromUtf8(std::string(row.menu_group));
   return members == 1 ? group : ArrayName(row.menu_group, row.menu_index);
 }
@@ -138,8 +139,8 @@ MessageLine MenuCaption(Calculation calculation) {
     case Mark::kNone:
       break;
     case Mark::kRelation:
-      line.insert(line.end(), {std::string(" ["), kRelationRow,
-                               ' ' + std::to_string(RowOf(calculation).relation) + ']'});
+      line.insert(line.end(),
+                  {std::string(" ["), kRelationRow, ' ' + std::to_string(RowOf(calculation).relation) + ']'});
       break;
     case Mark::kImpedance:
       line.emplace_back(std::string(" [MIA]"));

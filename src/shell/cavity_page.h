@@ -9,6 +9,8 @@
 class QLabel;
 class QRadioButton;
 
+class QVBoxLayout;
+
 namespace velmar::shell {
 
 class ChoiceBox;
@@ -24,9 +26,9 @@ class CavityPage : public Page {
   void Show(const elements::Setup& setup) override;
 
  private:
-  void AddDepth(class QVBoxLayout& column);
-  void AddKinds(class QVBoxLayout& column);
-  void AddLayers(class QVBoxLayout& column);
+  void AddDepth(QVBoxLayout& column);
+  void AddKinds(QVBoxLayout& column);
+  void AddLayers(QVBoxLayout& column);
   void LeaveDepth();
 
   PageContext& context_;

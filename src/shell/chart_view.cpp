@@ -48,7 +48,8 @@ void ChartView::paintEvent(QPaintEvent* /*event*/) {
 
 void ChartView::mouseMoveEvent(QMouseEvent* event) {
   const auto band = presentation::BandAt(event->position(), QRectF(rect()), chart_, font());
-  const bool known = band && *band >= chart_.first_band && *band <= chart_.last_band && chart_.values.at(*band) != 0.0;
+  const bool known =
+      band && *band >= chart_.first_band && *band <= chart_.last_band && chart_.values.at(*band) != 0.0;
   const std::optional<std::size_t> marked = known ? band : std::nullopt;
   if (marked != chart_.highlighted_band) {
     chart_.highlighted_band = marked;
@@ -68,11 +69,12 @@ void ChartView::leaveEvent(QEvent* event) {
 }
 
 QString ChartView::BandText(std::size_t band) const {
-  QStringList lines = {FromUtf8(FormatShortest(acoustics::kBandCentres.at(band))) + " Hz",
+  QStringList lines = {FromUtf8(FormatShortest(acoustics::BandCentre(band))) + " Hz",
                        Level(chart_.words.calculated, chart_.values.at(band))};
   const bool rated = band >= acoustics::kFirstRatedBand && band <= acoustics::kLastRatedBand;
   if (chart_.shift && rated)
-    lines += Level(chart_.words.reference, chart_.reference.at(band - acoustics::kFirstRatedBand) + *chart_.shift);
+    lines +=
+        Level(chart_.words.reference, chart_.reference.at(band - acoustics::kFirstRatedBand) + *chart_.shift);
   if (chart_.base && chart_.base->at(band) != 0.0) lines += Level(chart_.words.base, chart_.base->at(band));
   return lines.join('\n');
 }

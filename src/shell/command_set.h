@@ -15,7 +15,8 @@ namespace velmar::shell {
 /// one place.
 class CommandSet {
  public:
-  CommandSet(const presentation::Words& words, QObject* parent, const std::function<void(CommandId)>& execute);
+  CommandSet(const presentation::Words& words, QObject* parent,
+             const std::function<void(CommandId)>& execute);
 
   QAction* Of(CommandId id) const { return actions_.at(id); }
 

@@ -9,6 +9,8 @@ class QCheckBox;
 class QLabel;
 class QTabWidget;
 
+class QVBoxLayout;
+
 namespace velmar::shell {
 
 class ChoiceBox;
@@ -29,7 +31,7 @@ class ComponentsPage : public Page {
     QLabel* share = nullptr;
   };
 
-  void AddHead(class QVBoxLayout& column);
+  void AddHead(QVBoxLayout& column);
   Component AddComponent(int index);
 
   PageContext& context_;

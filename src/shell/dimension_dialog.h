@@ -12,7 +12,8 @@ class NumberField;
 /// The dimension dialog (`Form3`). OK takes over two numbers other than 0, else it stays open.
 class DimensionDialog : public QDialog {
  public:
-  DimensionDialog(calculation::OpenCalculation& open, const presentation::Words& words, QWidget* parent = nullptr);
+  DimensionDialog(calculation::OpenCalculation& open, const presentation::Words& words,
+                  QWidget* parent = nullptr);
 
  private:
   void Confirm();

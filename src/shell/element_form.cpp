@@ -121,8 +121,9 @@ void ElementForm::AddNumbers(const ElementNames& names) {
   measured->setEnabled(static_cast<bool>(context_.services.pick_measured));
   connect(measured, &QPushButton::clicked, this, [this] {
     const auto& pick = context_.services.pick_measured;
-    const QString caption = element_ == 0 ? Text(context_.Words(), kOpaquePartRow) + ':'
-                                          : Text(context_.Words(), kComponentRow) + ' ' + QString::number(element_) + ':';
+    const QString caption =
+        element_ == 0 ? Text(context_.Words(), kOpaquePartRow) + ':'
+                      : Text(context_.Words(), kComponentRow) + ' ' + QString::number(element_) + ':';
     if (pick) pick(window(), {element_, caption});
   });
   auto* line = new QHBoxLayout;

@@ -137,9 +137,8 @@ void ElementHeader::AddConnections(QVBoxLayout& column) {
   hanger_->Offer(hangers);
   hanger_->setToolTip(Text(words, kHangerTipRow));
   hanger_->setAccessibleDescription(Text(words, kHangerRow));
-  hanger_->OnChoice([this](int index) {
-    context_.open.Edit([index](elements::Setup& setup) { setup.hanger = index; });
-  });
+  hanger_->OnChoice(
+      [this](int index) { context_.open.Edit([index](elements::Setup& setup) { setup.hanger = index; }); });
   hanger_label_ = LabelFor(hanger_, kHangerRow, context_, connections_);
   decoupled_ = new QCheckBox(Text(words, kDecoupledRow), connections_);
   decoupled_->setObjectName("CheckDesolidarizza");
@@ -171,8 +170,8 @@ void ElementHeader::Show() {
   totals_->setVisible(row.family != elements::Family::kFacade);
 
   const bool support = layout.support != SupportField::kHidden;
-  const bool counts = layout.support == SupportField::kPointConnections ||
-                      layout.support == SupportField::kLineConnections;
+  const bool counts =
+      layout.support == SupportField::kPointConnections || layout.support == SupportField::kLineConnections;
   support_->SetKind(counts ? NumberKind::kInteger : NumberKind::kReal);
   support_->Show(setup.support_distance_text);
   support_label_->setText(Text(words, counts ? kConnectionsRow : kSupportDistanceRow));

@@ -9,6 +9,8 @@ class QLabel;
 class QLineEdit;
 class QToolButton;
 
+class QVBoxLayout;
+
 namespace velmar::shell {
 
 class ChoiceBox;
@@ -24,9 +26,9 @@ class ElementHeader : public QWidget {
   void Show();
 
  private:
-  void AddTexts(class QVBoxLayout& column);
-  void AddNumbers(class QVBoxLayout& column, std::function<void()> edit_dimensions);
-  void AddConnections(class QVBoxLayout& column);
+  void AddTexts(QVBoxLayout& column);
+  void AddNumbers(QVBoxLayout& column, std::function<void()> edit_dimensions);
+  void AddConnections(QVBoxLayout& column);
 
   PageContext& context_;
   QLabel* element_type_ = nullptr;

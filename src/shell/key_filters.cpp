@@ -36,8 +36,8 @@ QChar NumericKeyFilter(QChar key, const FieldState& field, bool allow_negative, 
   if (key == u'-' && allow_negative && LeadingMinusPasses(field)) return key;
   if (field.caret == 0) return kSwallowed;
   const QChar upper = key.toUpper();
-  const bool first_exponent = Before(field) != u'-' && !CoversAll(field) &&
-                              !field.text.contains('E', Qt::CaseInsensitive);
+  const bool first_exponent =
+      Before(field) != u'-' && !CoversAll(field) && !field.text.contains('E', Qt::CaseInsensitive);
   if (upper == u'E' && first_exponent) return upper;
   if (key == u'-' && Before(field).toUpper() == u'E') return key;
   return kSwallowed;

@@ -8,7 +8,7 @@ namespace velmar::shell {
 /// A text field at the moment a key is pressed.
 struct FieldState {
   QString text{};
-  int caret = 0;            ///< where the selection begins, if there is one
+  int caret = 0;  ///< where the selection begins, if there is one
   int selection_length = 0;
 };
 

@@ -32,7 +32,8 @@ constexpr MessageRow kSheetsTipRow{1341};
 constexpr int kMostSheetsOffered = 10;
 constexpr int kGroupsOfTwo = 2;
 
-bool Knows(const elements::MaterialLookup& materials, elements::MaterialFamily family, const std::string& name) {
+bool Knows(const elements::MaterialLookup& materials, elements::MaterialFamily family,
+           const std::string& name) {
   switch (family) {
     case elements::MaterialFamily::kStructural:
       return materials.structural(name).has_value();
@@ -76,9 +77,8 @@ void LayerRow::MakeLead(QWidget* page) {
     check_ = new QCheckBox(Text(words, CheckCaption(plan_)), page);
     check_->setObjectName(ArrayName(plan_.check, plan_.index));
     connect(check_, &QCheckBox::clicked, this, [this](bool ticked) {
-      context_.open.Edit([&](elements::Setup& setup) {
-        calculation::TickDamping(setup, plan_.group, plan_.index, ticked);
-      });
+      context_.open.Edit(
+          [&](elements::Setup& setup) { calculation::TickDamping(setup, plan_.group, plan_.index, ticked); });
     });
     return;
   }

@@ -49,7 +49,8 @@ void ChoiceBox::Show(int index) {
 }
 
 void ChoiceBox::keyPressEvent(QKeyEvent* event) {
-  const bool letter = !event->text().isEmpty() && event->text().at(0).isPrint() && event->key() != Qt::Key_Space;
+  const bool letter =
+      !event->text().isEmpty() && event->text().at(0).isPrint() && event->key() != Qt::Key_Space;
   if (letter && !(event->modifiers() & (Qt::ControlModifier | Qt::AltModifier))) {
     event->accept();
     return;

@@ -20,7 +20,8 @@ constexpr int kNarrowestInLetters = 14;
 
 QMimeData* ToMime(const DraggedMaterial& material) {
   auto* mime = new QMimeData;
-  mime->setData(kMimeType, QByteArray::number(static_cast<int>(material.family)) + '\n' + material.name.toUtf8());
+  mime->setData(kMimeType,
+                QByteArray::number(static_cast<int>(material.family)) + '\n' + material.name.toUtf8());
   mime->setText(material.name);
   return mime;
 }
@@ -32,11 +33,12 @@ std::optional<DraggedMaterial> FromMime(const QMimeData& mime) {
   const int family = data.left(line).toInt(&known);
   if (line < 1 || !known || family < 0 || family > static_cast<int>(elements::MaterialFamily::kResilient))
     return std::nullopt;
-  return DraggedMaterial{static_cast<elements::MaterialFamily>(family), QString::fromUtf8(data.mid(line + 1))};
+  return DraggedMaterial{static_cast<elements::MaterialFamily>(family),
+                         QString::fromUtf8(data.mid(line + 1))};
 }
 
-MaterialBox::MaterialBox(const QString& object_name, elements::MaterialFamily family, QAbstractItemModel* names,
-                         QWidget* parent)
+MaterialBox::MaterialBox(const QString& object_name, elements::MaterialFamily family,
+                         QAbstractItemModel* names, QWidget* parent)
     : QuietBox(object_name, parent), family_(family) {
   setEditable(true);
   setInsertPolicy(QComboBox::NoInsert);
@@ -51,7 +53,8 @@ MaterialBox::MaterialBox(const QString& object_name, elements::MaterialFamily fa
   connect(lineEdit(), &QLineEdit::textEdited, this, [this] { typed_ = true; });
   connect(this, &QComboBox::textActivated, this, [this](const QString& name) { Choose(name); });
   // A change of the keyword filter resets the model, which would show its first name.
-  connect(names, &QAbstractItemModel::modelReset, this, [this] { setEditText(shown_); }, Qt::QueuedConnection);
+  connect(
+      names, &QAbstractItemModel::modelReset, this, [this] { setEditText(shown_); }, Qt::QueuedConnection);
 }
 
 void MaterialBox::Show(const std::string& name) {

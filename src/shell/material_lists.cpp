@@ -50,7 +50,8 @@ void MaterialLists::Reload() {
     auto& materials = materials_.at(At(family));
     materials.clear();
     if (services_.material_names) materials = services_.material_names(family);
-    all_.at(At(family)).setStringList(ToList(NamesUnder(materials, family, words_.all, words_)));
+    all_.at(At(family))
+        .setStringList(ToList(storage::NamesUnderFilter(family, materials, words_.all, words_)));
   }
   for (const FilterId filter : kFilters) Fill(filter);
 }
@@ -58,7 +59,8 @@ void MaterialLists::Reload() {
 void MaterialLists::Fill(FilterId filter) {
   const MaterialFamily family = FamilyOf(filter);
   const std::string keyword = ToUtf8(Keyword(filter));
-  filtered_.at(At(filter)).setStringList(ToList(NamesUnder(materials_.at(At(family)), family, keyword, words_)));
+  filtered_.at(At(filter))
+      .setStringList(ToList(storage::NamesUnderFilter(family, materials_.at(At(family)), keyword, words_)));
 }
 
 QStringListModel* MaterialLists::NamesOf(LayerGroup group) {
@@ -78,7 +80,7 @@ QStringListModel* MaterialLists::NamesOf(LayerGroup group) {
 
 QStringList MaterialLists::Keywords(FilterId filter) const {
   const MaterialFamily family = FamilyOf(filter);
-  return ToList(KeywordsOf(materials_.at(At(family)), family, words_));
+  return ToList(storage::KeywordFilter(family, materials_.at(At(family)), words_));
 }
 
 void MaterialLists::Choose(FilterId filter, const QString& keyword) {

@@ -6,9 +6,9 @@
 #include <array>
 #include <vector>
 
-#include "calculation/material_filter.h"
 #include "elements/layer_groups.h"
 #include "shell/window_services.h"
+#include "storage/materials/keywords.h"
 
 namespace velmar::shell {
 
@@ -36,8 +36,8 @@ class MaterialLists {
   void Fill(FilterId filter);
 
   const WindowServices& services_;
-  calculation::FilterWords words_;
-  std::array<std::vector<calculation::ListedMaterial>, 3> materials_;  ///< by MaterialFamily
+  storage::KeywordTexts words_;
+  std::array<std::vector<storage::ListedMaterial>, 3> materials_;  ///< by MaterialFamily
   std::array<QString, kFilterCount> chosen_;
   std::array<QStringListModel, kFilterCount> filtered_;
   std::array<QStringListModel, 3> all_;

@@ -16,7 +16,9 @@ NameBox::NameBox(const QString& object_name, std::function<std::vector<std::stri
   setMinimumContentsLength(14);
   setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
   connect(lineEdit(), &QLineEdit::textEdited, this, [this] { typed_ = true; });
-  connect(lineEdit(), &QLineEdit::returnPressed, this, [this] { if (typed_) Take(currentText()); });
+  connect(lineEdit(), &QLineEdit::returnPressed, this, [this] {
+    if (typed_) Take(currentText());
+  });
   connect(this, &QComboBox::textActivated, this, [this](const QString& name) { Take(name); });
 }
 

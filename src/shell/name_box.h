@@ -11,7 +11,8 @@ namespace velmar::shell {
 /// The name of a base element or component: taken from the stored results, or typed freely.
 class NameBox : public QuietBox {
  public:
-  NameBox(const QString& object_name, std::function<std::vector<std::string>()> names, QWidget* parent = nullptr);
+  NameBox(const QString& object_name, std::function<std::vector<std::string>()> names,
+          QWidget* parent = nullptr);
 
   void OnName(std::function<void(const std::string& name)> on_name) { on_name_ = std::move(on_name); }
   void Show(const std::string& name);

@@ -38,7 +38,8 @@ class NumberShape : public QValidator {
 };
 
 bool TakesEntries(const QWidget* widget) {
-  return qobject_cast<const QLineEdit*>(widget) != nullptr || qobject_cast<const QComboBox*>(widget) != nullptr;
+  return qobject_cast<const QLineEdit*>(widget) != nullptr ||
+         qobject_cast<const QComboBox*>(widget) != nullptr;
 }
 
 bool IsText(const QKeyEvent& event) {
@@ -97,12 +98,14 @@ bool NumberField::TypeKey(QChar key) {
   if (key == u'.') key = kDecimalSign;
   const FieldState field{text(), hasSelectedText() ? selectionStart() : cursorPosition(),
                          static_cast<int>(selectedText().size())};
-  if (kind_ == NumberKind::kArea && key == u'-' && (field.text.isEmpty() || field.selection_length == field.text.size())) {
+  if (kind_ == NumberKind::kArea && key == u'-' &&
+      (field.text.isEmpty() || field.selection_length == field.text.size())) {
     insert("-");
     return true;
   }
-  const QChar passed = kind_ == NumberKind::kInteger ? IntegerKeyFilter(key, field, false)
-                                                     : NumericKeyFilter(key, field, kind_ == NumberKind::kTerm, kDecimalSign);
+  const QChar passed = kind_ == NumberKind::kInteger
+                           ? IntegerKeyFilter(key, field, false)
+                           : NumericKeyFilter(key, field, kind_ == NumberKind::kTerm, kDecimalSign);
   if (passed.isNull()) return false;
   insert(QString(passed));
   return true;

@@ -4,7 +4,9 @@
 
 namespace velmar::shell {
 
-QString FromUtf8(const std::string& text) { return QString::fromUtf8(text.data(), static_cast<int>(text.size())); }
+QString FromUtf8(const std::string& text) {
+  return QString::fromUtf8(text.data(), static_cast<int>(text.size()));
+}
 
 std::string ToUtf8(const QString& text) { return text.toStdString(); }
 

@@ -37,16 +37,17 @@ bool ProjectFiles::LeaveUnsaved() {
 
 bool ProjectFiles::Open() {
   if (!MayGoOn()) return false;
-  const QString file = services_.boxes.choose_file_to_open({.title = Text(services_.words, kChooseProjectRow),
-                                                           .filter = kFilter,
-                                                           .start = QString::fromStdString(project_.string())});
+  const QString file =
+      services_.boxes.choose_file_to_open({.title = Text(services_.words, kChooseProjectRow),
+                                           .filter = kFilter,
+                                           .start = QString::fromStdString(project_.string())});
   return !file.isEmpty() && Load(file.toStdString());
 }
 
 bool ProjectFiles::Open(const std::filesystem::path& project) { return MayGoOn() && Load(project); }
 
-// The open set-up stays until another one is read, so that a cancelled dialog or a damaged file loses nothing;
-// its result goes.
+// The open set-up stays until another one is read, so that a cancelled dialog or a damaged file loses
+// nothing; its result goes.
 bool ProjectFiles::MayGoOn() {
   const bool saved = services_.open.IsSaved();
   if (!LeaveUnsaved()) return false;
@@ -67,9 +68,10 @@ bool ProjectFiles::Load(const std::filesystem::path& file) {
 }
 
 bool ProjectFiles::Save() {
-  const QString chosen = services_.boxes.choose_file_to_save({.title = Text(services_.words, kSaveProjectRow),
-                                                             .filter = kFilter,
-                                                             .start = QString::fromStdString(project_.string())});
+  const QString chosen =
+      services_.boxes.choose_file_to_save({.title = Text(services_.words, kSaveProjectRow),
+                                           .filter = kFilter,
+                                           .start = QString::fromStdString(project_.string())});
   if (chosen.isEmpty()) return false;
   std::filesystem::path file = chosen.toStdString();
   if (file.extension() != kEnding) file += kEnding;

@@ -23,7 +23,8 @@ constexpr int kWidth = 520;
 
 using TextOf = std::function<QString()>;
 
-TextOf AddValue(QFormLayout& form, std::size_t row, const QString& caption, const QString& value, QWidget* parent) {
+TextOf AddValue(QFormLayout& form, std::size_t row, const QString& caption, const QString& value,
+                QWidget* parent) {
   const QString name = ArrayName("Text1", static_cast<int>(row));
   if (row == elements::kNotesRow) {
     auto* notes = new QPlainTextEdit(value, parent);
@@ -54,8 +55,9 @@ ProjectInformationDialog::ProjectInformationDialog(calculation::OpenCalculation&
   std::vector<TextOf> values;
   for (std::size_t row = 0; row < information.size(); ++row) {
     const elements::ProjectInformationRow& line = information.at(row);
-    const QString caption = line.caption.empty() ? Text(words, MessageRow{kFirstLineRow + static_cast<int>(row)})
-                                                 : FromUtf8(line.caption);
+    const QString caption = line.caption.empty()
+                                ? Text(words, MessageRow{kFirstLineRow + static_cast<int>(row)})
+                                : FromUtf8(line.caption);
     values.push_back(AddValue(*form, row, caption, FromUtf8(line.value), this));
   }
   column->addLayout(form);

@@ -102,7 +102,8 @@ QWidget* ResultsPanel::MakeRatings() {
   line->addWidget(rating_);
   line->addWidget(due_);
   line->addStretch(1);
-  for (QWidget* widget : {static_cast<QWidget*>(c_), static_cast<QWidget*>(ctr_), improvement_frame_, impact_frame_}) {
+  for (QWidget* widget :
+       {static_cast<QWidget*>(c_), static_cast<QWidget*>(ctr_), improvement_frame_, impact_frame_}) {
     line->addSpacing(2 * kPageSpacing);
     line->addWidget(widget);
   }
@@ -177,13 +178,16 @@ void ResultsPanel::ShowRatings(const elements::Setup& setup, const elements::Res
 
 void ResultsPanel::ShowChart() {
   const auto& result = context_.open.Result();
-  auto chart = result ? presentation::CurveChartOf(context_.open.Setup(), *result, context_.Words()) : std::nullopt;
+  auto chart =
+      result ? presentation::CurveChartOf(context_.open.Setup(), *result, context_.Words()) : std::nullopt;
   autoscale_->setEnabled(result.has_value());
   if (chart) chart->autoscale = autoscale_->isChecked();
   chart_->Show(chart ? *chart : presentation::EmptyChart(context_.Words()));
 }
 
-void ResultsPanel::Highlight(const std::optional<presentation::LayerPlace>& place) { section_->Highlight(place); }
+void ResultsPanel::Highlight(const std::optional<presentation::LayerPlace>& place) {
+  section_->Highlight(place);
+}
 
 void ResultsPanel::OnHover(std::function<void(const std::optional<presentation::LayerPlace>&)> on_hover) {
   section_->OnHover(std::move(on_hover));

@@ -28,8 +28,8 @@ QTableWidgetItem* Cell(const std::string& text) {
 
 }  // namespace
 
-ResultsTableWindow::ResultsTableWindow(const presentation::ResultsTable& table, const presentation::Words& words,
-                                       QWidget* parent)
+ResultsTableWindow::ResultsTableWindow(const presentation::ResultsTable& table,
+                                       const presentation::Words& words, QWidget* parent)
     : QDialog(parent), table_(table) {
   setObjectName("Form4");
   setWindowTitle(Text(words, kCaptionRow));

@@ -88,7 +88,8 @@ void SeaCavityPage::AddHead(QVBoxLayout& column) {
 
 void SeaCavityPage::AddRows() {
   AddLayerHeads(*grid_, 0, context_, /*with_sheets=*/false, this);
-  const auto add = [this](LayerGroup group, std::vector<LayerRow*>& rows, const char* check, const QString& label) {
+  const auto add = [this](LayerGroup group, std::vector<LayerRow*>& rows, const char* check,
+                          const QString& label) {
     for (int i = 0; i < RowOf(group).capacity; ++i) {
       const LayerRowPlan plan{.group = group, .index = i, .check = check, .label = label};
       rows.push_back(new LayerRow(plan, context_, *grid_, 1, this));

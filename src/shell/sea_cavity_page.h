@@ -7,6 +7,8 @@
 
 class QGridLayout;
 
+class QVBoxLayout;
+
 namespace velmar::shell {
 
 class ChoiceBox;
@@ -21,7 +23,7 @@ class SeaCavityPage : public Page {
   void Show(const elements::Setup& setup) override;
 
  private:
-  void AddHead(class QVBoxLayout& column);
+  void AddHead(QVBoxLayout& column);
   void AddRows();
   void Arrange(elements::SeaCavityType type);
 

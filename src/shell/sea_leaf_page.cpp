@@ -38,8 +38,9 @@ SeaLeafPage::SeaLeafPage(Side side, PageContext& context, QWidget* parent)
   const SideControls controls = ControlsOf(side);
   constexpr int kCapacity = elements::SeaLeaf::kCapacity;
   QVBoxLayout* column = PageLayout(this);
-  count_ = AddTableHead({.count_name = controls.count, .lowest = 1, .highest = kCapacity}, context, *column, this)
-               .count;
+  count_ =
+      AddTableHead({.count_name = controls.count, .lowest = 1, .highest = kCapacity}, context, *column, this)
+          .count;
   count_->OnEdit([this, controls](const std::string& text) {
     context_.open.Edit([&](elements::Setup& setup) {
       calculation::EnterSeaCount(LeafOf(setup, side_), text);

@@ -10,7 +10,8 @@ namespace velmar::shell {
 class CountBox;
 class LayerRow;
 
-/// One side of a SEA wall, or the lining: up to three layers, each with a damping layer to its left and right.
+/// One side of a SEA wall, or the lining: up to three layers, each with a damping layer to its left and
+/// right.
 class SeaLeafPage : public Page {
  public:
   enum class Side { kFirst, kSecond };

@@ -36,9 +36,9 @@ struct Kind {
   const char* icon = "";
 };
 constexpr std::array kKinds = {
-    Kind{ElementButton::kSingleWall, 314, "wall"},  Kind{ElementButton::kDoubleWall, 315, "double-wall"},
-    Kind{ElementButton::kFloor, 316, "floor"},      Kind{ElementButton::kFacade, 317, "facade"},
-    Kind{ElementButton::kLining, 318, "lining"},    Kind{ElementButton::kCeiling, 319, "ceiling"},
+    Kind{ElementButton::kSingleWall, 314, "wall"}, Kind{ElementButton::kDoubleWall, 315, "double-wall"},
+    Kind{ElementButton::kFloor, 316, "floor"},     Kind{ElementButton::kFacade, 317, "facade"},
+    Kind{ElementButton::kLining, 318, "lining"},   Kind{ElementButton::kCeiling, 319, "ceiling"},
 };
 
 QLabel* Heading(const QString& text, QWidget* parent) {
@@ -63,8 +63,8 @@ QVBoxLayout* AddList(QHBoxLayout& lists, const QString& heading, QWidget* parent
 
 }  // namespace
 
-StartScreen::StartScreen(const presentation::Words& words, const CalculationActions& calculations, Doors doors,
-                         QWidget* parent)
+StartScreen::StartScreen(const presentation::Words& words, const CalculationActions& calculations,
+                         Doors doors, QWidget* parent)
     : QWidget(parent), words_(words), doors_(std::move(doors)) {
   setObjectName("Inizio");
   auto* centre = new QHBoxLayout(this);
@@ -117,7 +117,8 @@ void StartScreen::ShowProjects(const std::vector<std::filesystem::path>& recent,
   Fill(*examples_, examples, kNoExamplesRow);
 }
 
-void StartScreen::Fill(QVBoxLayout& list, const std::vector<std::filesystem::path>& projects, MessageRow none) {
+void StartScreen::Fill(QVBoxLayout& list, const std::vector<std::filesystem::path>& projects,
+                       MessageRow none) {
   while (QLayoutItem* item = list.takeAt(0)) {
     delete item->widget();
     delete item;

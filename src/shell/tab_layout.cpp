@@ -34,7 +34,9 @@ std::vector<ShownTab> SingleTabs(const CalculationRow& row) {
 
 std::vector<ShownTab> DoubleTabs(const CalculationRow& row) {
   if (row.family == Family::kSea)
-    return {{kSeaLeaf1, kSeaWall1, "leaf-first"}, {kSeaLeaf2, kSeaWall2, "leaf-second"}, {kSeaCavity, kSeaCavityRow, "cavity"}};
+    return {{kSeaLeaf1, kSeaWall1, "leaf-first"},
+            {kSeaLeaf2, kSeaWall2, "leaf-second"},
+            {kSeaCavity, kSeaCavityRow, "cavity"}};
   const bool glass = IsGlazing(row.calculation);
   return {{kLeaf1, kWall1, glass ? "glass-first" : "leaf-first"},
           {kLeaf2, kWall2, glass ? "glass-second" : "leaf-second"},
@@ -51,13 +53,19 @@ std::vector<ShownTab> TabsOf(elements::Calculation calculation) {
     case ElementButton::kDoubleWall:
       return DoubleTabs(row);
     case ElementButton::kFloor:
-      return {{kLeaf1, kFloorRow, "floor"}, {kLeaf2, kScreedRow, "screed"}, {kResilient, kResilientRow, "resilient"}};
+      return {{kLeaf1, kFloorRow, "floor"},
+              {kLeaf2, kScreedRow, "screed"},
+              {kResilient, kResilientRow, "resilient"}};
     case ElementButton::kFacade:
       return {{kBase, kOpaqueRow, "base"}, {kComponents, kComponentsRow, "components"}};
     case ElementButton::kLining:
-      return {{kBase, kBaseWallRow, "base"}, {kSeaLeaf2, kLiningRow, "lining"}, {kSeaCavity, kSeaCavityRow, "cavity"}};
+      return {{kBase, kBaseWallRow, "base"},
+              {kSeaLeaf2, kLiningRow, "lining"},
+              {kSeaCavity, kSeaCavityRow, "cavity"}};
     case ElementButton::kCeiling:
-      return {{kBase, kBaseFloorRow, "floor"}, {kSeaLeaf2, kLiningRow, "ceiling"}, {kSeaCavity, kSeaCavityRow, "cavity"}};
+      return {{kBase, kBaseFloorRow, "floor"},
+              {kSeaLeaf2, kLiningRow, "ceiling"},
+              {kSeaCavity, kSeaCavityRow, "cavity"}};
   }
   return {};
 }

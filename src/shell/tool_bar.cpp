@@ -82,8 +82,9 @@ void CommandToolBar::ShowRunDue(bool due) {
       due ? QStringLiteral("QToolButton { background: palette(highlight); color: palette(highlighted-text);"
                            " border: 1px solid palette(highlight); border-radius: 4px; padding: 4px 10px; }"
                            "QToolButton:pressed, QToolButton:focus { border: 1px solid palette(text); }")
-          : QStringLiteral("QToolButton { border: 1px solid palette(mid); border-radius: 4px; padding: 4px 10px; }"
-                           "QToolButton:focus { border: 1px solid palette(highlight); }"));
+          : QStringLiteral(
+                "QToolButton { border: 1px solid palette(mid); border-radius: 4px; padding: 4px 10px; }"
+                "QToolButton:focus { border: 1px solid palette(highlight); }"));
 }
 
 }  // namespace velmar::shell

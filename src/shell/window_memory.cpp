@@ -44,7 +44,8 @@ void WindowMemory::ForgetProjects() {
   if (!file_.empty()) QSettings(ToQt(file_), QSettings::IniFormat).remove(kRecentKey);
 }
 
-void WindowMemory::SaveSizes(const QMainWindow& window, const QSplitter& sides, const QSplitter& results) const {
+void WindowMemory::SaveSizes(const QMainWindow& window, const QSplitter& sides,
+                             const QSplitter& results) const {
   if (file_.empty()) return;
   QSettings settings(ToQt(file_), QSettings::IniFormat);
   settings.setValue(kGeometryKey, window.saveGeometry());

@@ -9,13 +9,13 @@
 #include <vector>
 
 #include "calculation/element_choice.h"
-#include "calculation/material_filter.h"
 #include "calculation/open_calculation.h"
 #include "elements/layer_groups.h"
 #include "elements/material_record.h"
 #include "presentation/texts/words.h"
 #include "shell/boxes.h"
 #include "shell/command_table.h"
+#include "storage/materials/keywords.h"
 
 class QWidget;
 
@@ -37,11 +37,11 @@ struct ElementPick {
 struct WindowPlaces {
   std::filesystem::path manual{};
   std::filesystem::path maintenance_program{};
-  std::filesystem::path examples{};     ///< folder of the shipped example projects
-  std::filesystem::path settings{};     ///< sizes and recent projects; empty: nothing is remembered
-  std::filesystem::path recovery{};     ///< folder of the copies of unsaved work; empty: none are made
-  QString website{};                    ///< empty: the product names none
-  QString contact{};                    ///< address behind "Contatta"; empty: none
+  std::filesystem::path examples{};  ///< folder of the shipped example projects
+  std::filesystem::path settings{};  ///< sizes and recent projects; empty: nothing is remembered
+  std::filesystem::path recovery{};  ///< folder of the copies of unsaved work; empty: none are made
+  QString website{};                 ///< empty: the product names none
+  QString contact{};                 ///< address behind "Contatta"; empty: none
 };
 
 /// Everything that the main window reaches beyond itself. A function that is empty is a window that this
@@ -51,7 +51,7 @@ struct WindowServices {
   presentation::Words words{};
   elements::MaterialLookup materials{};
   /// All materials of a family in the order of their table.
-  std::function<std::vector<calculation::ListedMaterial>(elements::MaterialFamily)> material_names{};
+  std::function<std::vector<storage::ListedMaterial>(elements::MaterialFamily)> material_names{};
 
   /// Names of the stored airborne results (`Combo14`, `Combo16`).
   std::function<std::vector<std::string>()> saved_results{};

@@ -1,0 +1,329 @@
+#include "shell/main_window.h"
+
+#include <QCloseEvent>
+#include <QMenu>
+#include <QMenuBar>
+#include <QMimeData>
+#include <QScrollArea>
+#include <QShortcut>
+#include <QSplitter>
+#include <QStackedWidget>
+#include <QTabWidget>
+#include <QVBoxLayout>
+
+#include "calculation/select_calculation.h"
+#include "shell/base_element_page.h"
+#include "shell/cavity_page.h"
+#include "shell/components_page.h"
+#include "shell/dimension_dialog.h"
+#include "shell/element_header.h"
+#include "shell/help_commands.h"
+#include "shell/icons.h"
+#include "shell/leaf_page.h"
+#include "shell/menus.h"
+#include "shell/phrases.h"
+#include "shell/project_information_dialog.h"
+#include "shell/resilient_layers_page.h"
+#include "shell/results_panel.h"
+#include "shell/results_table_window.h"
+#include "shell/run_command.h"
+#include "shell/sea_cavity_page.h"
+#include "shell/sea_leaf_page.h"
+#include "shell/start_screen.h"
+#include "shell/tool_bar.h"
+
+namespace velmar::shell {
+namespace {
+
+constexpr int kRecoveryDelayMs = 2000;
+constexpr QSize kFirstSize{1280, 720};
+constexpr MessageRow kForgetRow{1308};
+
+QScrollArea* InScrollArea(QWidget* page) {
+  auto* area = new QScrollArea;
+  area->setWidget(page);
+  area->setWidgetResizable(true);
+  area->setFrameShape(QFrame::NoFrame);
+  area->setFocusPolicy(Qt::NoFocus);
+  return area;
+}
+
+QString DroppedProject(const QMimeData& mime) {
+  if (mime.urls().size() != 1) return {};
+  const QString file = mime.urls().constFirst().toLocalFile();
+  return file.endsWith(".drav", Qt::CaseInsensitive) ? file : QString();
+}
+
+}  // namespace
+
+MainWindow::MainWindow(const WindowServices& services, QWidget* parent)
+    : QMainWindow(parent),
+      services_(services),
+      materials_(services),
+      context_{services.open, services, materials_},
+      memory_(services.places.settings),
+      recovery_(services, kRecoveryDelayMs),
+      files_(services, memory_, recovery_),
+      commands_(services.words, this, [this](CommandId id) { Execute(id); }),
+      calculations_(services.words, this,
+                    [this](elements::Calculation calculation) { Choose(calculation); }) {
+  setObjectName("Form1");
+  setWindowIcon(ProductIcon());
+  setAcceptDrops(true);
+  recent_ = FillMenuBar(*menuBar(), commands_, calculations_, services.words);
+  tool_bar_ = new CommandToolBar(commands_, calculations_, services.words, this);
+  addToolBar(tool_bar_);
+  // Shortcuts work whether or not their menu was ever open.
+  for (const Command& command : Commands()) addAction(commands_.Of(command.id));
+  MakePages();
+  MakeCentre();
+  MakeTabKeys();
+  files_.OnChange([this] {
+    setWindowTitle(files_.Caption());
+    ShowProjects();
+  });
+  services_.open.OnChange([this] { ShowAll(); });
+  setWindowTitle(files_.Caption());
+  if (!memory_.RestoreSizes(*this, *sides_, *results_->Splitter())) resize(kFirstSize);
+  ShowProjects();
+  ShowAll();
+}
+
+MainWindow::~MainWindow() { services_.open.OnChange({}); }
+
+void MainWindow::MakePages() {
+  tabs_ = new QTabWidget;
+  tabs_->setObjectName("SSTab1");
+  tabs_->setIconSize({24, 24});
+  pages_ = {new LeafPage(LeafPage::Leaf::kFirst, context_),
+            new LeafPage(LeafPage::Leaf::kSecond, context_),
+            new CavityPage(context_),
+            new ResilientLayersPage(context_),
+            new BaseElementPage(context_),
+            new ComponentsPage(context_),
+            new SeaLeafPage(SeaLeafPage::Side::kFirst, context_),
+            new SeaLeafPage(SeaLeafPage::Side::kSecond, context_),
+            new SeaCavityPage(context_)};
+  for (Page* page : pages_) tabs_->addTab(InScrollArea(page), QString());
+  connect(tabs_, &QTabWidget::tabBarClicked, this, [this](int index) {
+    if (index >= 0) pages_.at(static_cast<std::size_t>(index))->RemoveHighlights();
+  });
+}
+
+void MainWindow::MakeCentre() {
+  auto* inputs = new QWidget;
+  auto* column = new QVBoxLayout(inputs);
+  column->setContentsMargins(0, 0, 0, 0);
+  column->setSpacing(0);
+  header_ = new ElementHeader(context_, [this] { Execute(CommandId::kDimensions); });
+  column->addWidget(header_);
+  column->addWidget(tabs_, 1);
+  results_ = new ResultsPanel(context_);
+  context_.on_hover = [this](const auto& place) { results_->Highlight(place); };
+  sides_ = new QSplitter(Qt::Horizontal);
+  sides_->setChildrenCollapsible(false);
+  sides_->addWidget(inputs);
+  sides_->addWidget(results_);
+  sides_->setStretchFactor(0, 0);
+  sides_->setStretchFactor(1, 1);
+  start_ = new StartScreen(services_.words, calculations_,
+                           {.begin = [this](elements::ElementButton button) { Begin(button); },
+                            .open = [this](const std::filesystem::path& file) { OpenProject(file); }});
+  centre_ = new QStackedWidget(this);
+  centre_->addWidget(start_);
+  centre_->addWidget(sides_);
+  setCentralWidget(centre_);
+}
+
+void MainWindow::MakeTabKeys() {
+  for (int place = 0; place < kTabCount; ++place) {
+    auto* key = new QShortcut(QKeySequence(Qt::CTRL | static_cast<Qt::Key>(Qt::Key_1 + place)), this);
+    connect(key, &QShortcut::activated, this, [this, place] {
+      if (!laid_out_) return;
+      const auto shown = TabsOf(*laid_out_);
+      if (place < static_cast<int>(shown.size()))
+        tabs_->setCurrentIndex(static_cast<int>(shown.at(static_cast<std::size_t>(place)).tab));
+    });
+  }
+}
+
+void MainWindow::Execute(CommandId id) {
+  switch (id) {
+    case CommandId::kOpenProject:
+      files_.Open();
+      return;
+    case CommandId::kSaveProject:
+      files_.Save();
+      return;
+    case CommandId::kRun:
+      RunOpenCalculation(services_);
+      return;
+    case CommandId::kShowTable:
+      ShowTable();
+      return;
+    case CommandId::kDimensions:
+      DimensionDialog(services_.open, services_.words, this).exec();
+      return;
+    case CommandId::kProjectInformation:
+      ProjectInformationDialog(services_.open, services_.words, this).exec();
+      return;
+    case CommandId::kSingleWalls:
+    case CommandId::kDoubleWalls:
+    case CommandId::kFloors:
+    case CommandId::kFacades:
+    case CommandId::kLinings:
+    case CommandId::kCeilings:
+      Begin(static_cast<elements::ElementButton>(RowOf(id).button));
+      return;
+    case CommandId::kExitAsking:
+      Exit(/*asking=*/true);
+      return;
+    case CommandId::kExit:
+      Exit(/*asking=*/false);
+      return;
+    default:
+      ExecuteElsewhere(id);
+  }
+}
+
+void MainWindow::ExecuteElsewhere(CommandId id) {
+  const auto window = services_.command_windows.find(id);
+  if (window != services_.command_windows.end() && window->second) {
+    window->second(this);
+  } else {
+    ExecuteHelpCommand(id, services_, this);
+  }
+}
+
+void MainWindow::Begin(elements::ElementButton button) {
+  const auto& open = services_.open.Setup().calculation;
+  if (open && RowOf(*open).button == button) {
+    tabs_->setCurrentIndex(static_cast<int>(TabsOf(*open).front().tab));
+  } else {
+    Choose(FirstOf(button));
+  }
+}
+
+void MainWindow::Choose(elements::Calculation calculation) {
+  laid_out_.reset();
+  services_.open.Edit(
+      [calculation](elements::Setup& setup) { calculation::SelectCalculation(setup, calculation); });
+}
+
+void MainWindow::LayOutTabs() {
+  const auto& calculation = services_.open.Setup().calculation;
+  if (!calculation || laid_out_ == calculation) return;
+  laid_out_ = calculation;
+  calculations_.Mark(*calculation);
+  const auto shown = TabsOf(*calculation);
+  // The first tab is current before others are hidden: a hidden current tab would pass the focus on.
+  const int first = static_cast<int>(shown.front().tab);
+  tabs_->setTabVisible(first, true);
+  tabs_->setCurrentIndex(first);
+  for (int tab = 0; tab < kTabCount; ++tab) {
+    const auto* found = std::find_if(shown.data(), shown.data() + shown.size(),
+                                     [tab](const ShownTab& row) { return static_cast<int>(row.tab) == tab; });
+    const bool visible = found != shown.data() + shown.size();
+    tabs_->setTabVisible(tab, visible);
+    if (!visible) continue;
+    tabs_->setTabText(tab, Text(services_.words, found->caption));
+    tabs_->setTabIcon(tab, LineIcon(found->picture));
+  }
+}
+
+void MainWindow::ShowAll() {
+  const elements::Setup& setup = services_.open.Setup();
+  const bool has_result = services_.open.Result().has_value();
+  if (had_result_ && !has_result) {
+    if (table_) table_->close();
+    if (services_.result_gone) services_.result_gone();
+  }
+  had_result_ = has_result;
+  recovery_.Follow();
+  const Needs state = has_result ? Needs::kResult : setup.calculation ? Needs::kCalculation : Needs::kNothing;
+  commands_.Enable(state, table_ && table_->isVisible());
+  tool_bar_->ShowRunDue(state == Needs::kCalculation);
+  centre_->setCurrentWidget(setup.calculation ? static_cast<QWidget*>(sides_) : start_);
+  if (!setup.calculation) return;
+  LayOutTabs();
+  header_->Show();
+  for (const ShownTab& shown : TabsOf(*setup.calculation))
+    pages_.at(static_cast<std::size_t>(shown.tab))->Show(setup);
+  results_->Show();
+}
+
+void MainWindow::ShowTable() {
+  const auto& result = services_.open.Result();
+  if (!result || table_) return;
+  table_ = new ResultsTableWindow(
+      presentation::ResultsTableOf(services_.open.Setup(), *result, services_.words), services_.words, this);
+  connect(table_, &QObject::destroyed, this, [this] { ShowAll(); });
+  table_->show();
+  ShowAll();
+}
+
+void MainWindow::ShowProjects() {
+  const auto recent = memory_.RecentProjects();
+  start_->ShowProjects(recent, Examples());
+  recent_->clear();
+  recent_->setEnabled(!recent.empty());
+  for (const std::filesystem::path& project : recent)
+    recent_->addAction(QString::fromStdString(project.string()), [this, project] { OpenProject(project); });
+  recent_->addSeparator();
+  recent_->addAction(Text(services_.words, kForgetRow), [this] {
+    memory_.ForgetProjects();
+    ShowProjects();
+  });
+}
+
+std::vector<std::filesystem::path> MainWindow::Examples() const {
+  std::vector<std::filesystem::path> examples;
+  std::error_code error;
+  for (const auto& entry : std::filesystem::directory_iterator(services_.places.examples, error)) {
+    if (entry.path().extension() == ".drav") examples.push_back(entry.path());
+  }
+  std::sort(examples.begin(), examples.end());
+  return examples;
+}
+
+void MainWindow::OpenProject(const std::filesystem::path& project) {
+  laid_out_.reset();
+  files_.Open(project);
+}
+
+void MainWindow::OfferRecovery() { files_.OfferRecovery(); }
+
+void MainWindow::ReloadMaterials() {
+  materials_.Reload();
+  ShowAll();
+}
+
+// The menu entry and the closing of the window do not ask: unsaved work is offered again at the next start.
+void MainWindow::Exit(bool asking) {
+  if (asking) {
+    const bool saved = services_.open.IsSaved();
+    if (!files_.LeaveUnsaved()) return;
+    if (!saved) recovery_.Discard();
+  }
+  close();
+}
+
+void MainWindow::closeEvent(QCloseEvent* event) {
+  memory_.SaveSizes(*this, *sides_, *results_->Splitter());
+  recovery_.WriteNow();
+  if (table_) table_->close();
+  QMainWindow::closeEvent(event);
+}
+
+void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
+  if (!DroppedProject(*event->mimeData()).isEmpty()) event->acceptProposedAction();
+}
+
+void MainWindow::dropEvent(QDropEvent* event) {
+  const QString project = DroppedProject(*event->mimeData());
+  if (project.isEmpty()) return;
+  event->acceptProposedAction();
+  OpenProject(project.toStdString());
+}
+
+}  // namespace velmar::shell

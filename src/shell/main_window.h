@@ -1,0 +1,87 @@
+#pragma once
+
+#include <QMainWindow>
+#include <QPointer>
+#include <array>
+#include <memory>
+#include <optional>
+
+#include "shell/calculation_menu.h"
+#include "shell/command_set.h"
+#include "shell/page_context.h"
+#include "shell/project_files.h"
+#include "shell/recovery.h"
+#include "shell/tab_layout.h"
+#include "shell/window_memory.h"
+
+class QMenu;
+class QSplitter;
+class QStackedWidget;
+class QTabWidget;
+
+namespace velmar::shell {
+
+class CommandToolBar;
+class ElementHeader;
+class Page;
+class ResultsPanel;
+class StartScreen;
+
+/// The main window (`Form1`): composes commands, pages and results around the one open calculation, and owns
+/// no rule.
+class MainWindow : public QMainWindow {
+ public:
+  /// @param services outlives the window
+  explicit MainWindow(const WindowServices& services, QWidget* parent = nullptr);
+  ~MainWindow() override;
+
+  /// Opens the project file `project` as if it were dropped on the window.
+  void OpenProject(const std::filesystem::path& project);
+  /// Offers work that an earlier run left behind.
+  void OfferRecovery();
+  /// The material tables changed: the lists offer them anew.
+  void ReloadMaterials();
+
+ protected:
+  void closeEvent(QCloseEvent* event) override;
+  void dragEnterEvent(QDragEnterEvent* event) override;
+  void dropEvent(QDropEvent* event) override;
+
+ private:
+  void MakePages();
+  void MakeCentre();
+  void MakeTabKeys();
+  void Execute(CommandId id);
+  void ExecuteElsewhere(CommandId id);
+  void Choose(elements::Calculation calculation);
+  void Begin(elements::ElementButton button);
+  void LayOutTabs();
+  void ShowAll();
+  void ShowTable();
+  void ShowProjects();
+  void Exit(bool asking);
+  std::vector<std::filesystem::path> Examples() const;
+
+  const WindowServices& services_;
+  MaterialLists materials_;
+  PageContext context_;
+  WindowMemory memory_;
+  Recovery recovery_;
+  ProjectFiles files_;
+  CommandSet commands_;
+  CalculationActions calculations_;
+  CommandToolBar* tool_bar_ = nullptr;
+  QMenu* recent_ = nullptr;
+  QStackedWidget* centre_ = nullptr;
+  StartScreen* start_ = nullptr;
+  QSplitter* sides_ = nullptr;
+  ElementHeader* header_ = nullptr;
+  QTabWidget* tabs_ = nullptr;
+  std::array<Page*, kTabCount> pages_{};
+  ResultsPanel* results_ = nullptr;
+  QPointer<QWidget> table_;
+  std::optional<elements::Calculation> laid_out_;
+  bool had_result_ = false;
+};
+
+}  // namespace velmar::shell

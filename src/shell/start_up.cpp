@@ -1,0 +1,168 @@
+#include "shell/start_up.h"
+
+#include <QApplication>
+#include <QDesktopServices>
+#include <QMessageBox>
+#include <QProcess>
+#include <QStandardPaths>
+#include <QTimer>
+#include <QUrl>
+#include <array>
+#include <memory>
+
+#include "application/environment.h"
+#include "application/projects.h"
+#include "calculation/material_choice.h"
+#include "foundation/failure.h"
+#include "shell/loader_window.h"
+#include "shell/main_window.h"
+#include "shell/phrases.h"
+#include "storage/configuration/program_folder.h"
+#include "storage/materials/material_store.h"
+#include "storage/project/project_writer.h"
+
+namespace velmar::shell {
+namespace {
+
+using elements::MaterialFamily;
+
+constexpr const char* kManual = "VELMARpro - Manuale d'uso.pdf";
+constexpr const char* kMaintenanceProgram = "DB_sperimentale.EXE";
+constexpr int kFirstInformationRow = 124;
+constexpr std::size_t kCaptionedInformationRows = 7;
+
+struct Family {
+  MaterialFamily family{};
+  MessageRow title{};
+};
+constexpr std::array kFamilies = {Family{MaterialFamily::kStructural, {132}},
+                                  Family{MaterialFamily::kFibrous, {133}},
+                                  Family{MaterialFamily::kResilient, {134}}};
+
+WindowPlaces Places() {
+  const std::filesystem::path program = storage::ProgramFolder();
+  const auto folder = [](QStandardPaths::StandardLocation location) {
+    return std::filesystem::path(QStandardPaths::writableLocation(location).toStdString());
+  };
+  WindowPlaces places;
+  places.manual = program / kManual;
+  places.maintenance_program = program / kMaintenanceProgram;
+  if (const auto shipped = storage::ShippedDataFolder(program)) places.examples = *shipped / "Examples";
+  places.settings = folder(QStandardPaths::AppConfigLocation) / "finestra.ini";
+  places.recovery = folder(QStandardPaths::AppDataLocation) / "recupero";
+  return places;
+}
+
+template <typename Material>
+std::optional<elements::MaterialRecord<Material>> FirstRecord(const storage::MaterialStore& store) {
+  const auto row = store.First<Material>();
+  if (!row) return std::nullopt;
+  return row->record;
+}
+
+template <typename Record>
+const Record* Pointer(const std::optional<Record>& record) {
+  return record ? &*record : nullptr;
+}
+
+/// The set-up of a fresh start: captions of the project information, first selection of every layer.
+elements::Setup FreshSetup(const storage::MaterialStore& store, const presentation::Words& words) {
+  elements::Setup setup;
+  for (std::size_t row = 0; row < kCaptionedInformationRows; ++row)
+    setup.information.at(row).caption = words(MessageRow{kFirstInformationRow + static_cast<int>(row)});
+  const auto structural = FirstRecord<elements::StructuralMaterial>(store);
+  const auto fibrous = FirstRecord<elements::FibrousMaterial>(store);
+  const auto resilient = FirstRecord<elements::ResilientMaterial>(store);
+  calculation::SelectFirstMaterials(setup, Pointer(structural), Pointer(fibrous), Pointer(resilient));
+  return setup;
+}
+
+/// Everything that lives as long as the window.
+struct Desktop {
+  explicit Desktop(application::Environment opened)
+      : environment(std::move(opened)), store(environment.configuration.PercorsoDatabase()) {
+    services.words = [this](MessageRow row) { return environment.messages.Text(row); };
+    services.boxes = ScreenBoxes(services.words);
+    services.version = QApplication::applicationVersion();
+    services.places = Places();
+    services.materials = application::ForgivingLookup(storage::MaterialLookupIn(store.File()),
+                                                      [this](const Message& message) { Tell(message); });
+    services.material_names = [this](MaterialFamily family) {
+      try {
+        return store.List(family);
+      } catch (const Failure&) {
+        return std::vector<storage::ListedMaterial>();  // told by the load already
+      }
+    };
+    services.read_project = [this](const std::filesystem::path& file) {
+      storage::OpenedProject project = application::OpenProject(file, open.Setup(), services.materials);
+      unknown = project.setup.calculation ? storage::StoredCalculation() : project.stored;
+      return std::move(project.setup);
+    };
+    services.write_project = [this](const std::filesystem::path& file, const elements::Setup& setup) {
+      storage::SaveProject(file, setup, unknown);
+    };
+    services.open_address = [](const QString& address) { return QDesktopServices::openUrl(QUrl(address)); };
+    services.start_program = [](const std::filesystem::path& program) {
+      return QProcess::startDetached(QString::fromStdString(program.string()), {});
+    };
+  }
+
+  void Tell(const Message& message) const {
+    services.boxes.tell(Tone::kCritical, Text(services.words, message));
+  }
+
+  application::Environment environment;
+  calculation::OpenCalculation open;
+  storage::MaterialStore store;
+  storage::StoredCalculation unknown{};
+  WindowServices services{open};
+};
+
+/// `CaricaDatabase`. Failures are told; the window opens with what there is.
+void Load(Desktop& desktop, LoaderWindow& loader) {
+  loader.show();
+  try {
+    int done = 0;
+    for (const Family& family : kFamilies) {
+      loader.ShowProgress(family.title, desktop.store.List(family.family).size(), ++done,
+                          static_cast<int>(kFamilies.size()));
+    }
+    desktop.open.Replace(FreshSetup(desktop.store, desktop.services.words));
+  } catch (const Failure& failure) {
+    loader.hide();
+    desktop.Tell(failure.UserMessage());
+  }
+}
+
+int RunWindow(QApplication& application, Desktop& desktop) {
+  for (const Message& warning : desktop.environment.warnings) desktop.Tell(warning);
+  {
+    LoaderWindow loader(desktop.services.words, desktop.services.version);
+    Load(desktop, loader);
+  }
+  MainWindow window(desktop.services);
+  window.show();
+  // Boxes of the start stand over a window that is there.
+  QTimer::singleShot(0, &window, [&window, &application] {
+    window.OfferRecovery();
+    if (const QStringList arguments = application.arguments(); arguments.size() > 1)
+      window.OpenProject(arguments.at(1).toStdString());
+  });
+  return QApplication::exec();
+}
+
+}  // namespace
+
+int RunDesktop(QApplication& application) {
+  try {
+    Desktop desktop(application::OpenEnvironment(std::nullopt));
+    return RunWindow(application, desktop);
+  } catch (const std::exception& failure) {
+    // Without a catalogue there are no words of it: the failure's own are all there is.
+    QMessageBox::critical(nullptr, kProductName, QString::fromUtf8(failure.what()));
+    return 1;
+  }
+}
+
+}  // namespace velmar::shell
