@@ -89,7 +89,11 @@ MainWindow::MainWindow(const WindowServices& services, QWidget* parent)
   ShowAll();
 }
 
-MainWindow::~MainWindow() { services_.open.OnChange({}); }
+MainWindow::~MainWindow() {
+  services_.open.OnChange({});
+  // The table tells the window when it closes; it goes while the window can still listen.
+  delete table_;
+}
 
 void MainWindow::MakePages() {
   tabs_ = new QTabWidget;
