@@ -90,7 +90,9 @@ void ElementHeader::AddNumbers(QVBoxLayout& column, std::function<void()> edit_d
   height_ = named("Text2");
   line->addWidget(dimensions_);
   line->addWidget(width_);
-  line->addWidget(new QLabel(QStringLiteral("×"), this));
+  auto* times = new QLabel(QStringLiteral("×"), this);
+  dimension_labels_ = {width_, times, height_};
+  line->addWidget(times);
   line->addWidget(height_);
   line->addSpacing(3 * kPageSpacing);
 
@@ -167,7 +169,10 @@ void ElementHeader::Show() {
   const calculation::Totals& totals = context_.open.CurrentTotals();
   thickness_->setText(FromUtf8(FormatShortest(totals.thickness_mm)));
   mass_->setText(FromUtf8(FormatShortest(totals.surface_mass_kg_m2)));
-  totals_->setVisible(row.family != elements::Family::kFacade);
+  // A facade has an area, on its own page, and no layers.
+  const bool facade = row.family == elements::Family::kFacade;
+  totals_->setVisible(!facade);
+  for (QWidget* widget : dimension_labels_) widget->setVisible(!facade);
 
   const bool support = layout.support != SupportField::kHidden;
   const bool counts =

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QWidget>
+#include <array>
 
 #include "shell/page_context.h"
 
@@ -36,6 +37,7 @@ class ElementHeader : public QWidget {
   QToolButton* dimensions_ = nullptr;
   QLabel* width_ = nullptr;
   QLabel* height_ = nullptr;
+  std::array<QWidget*, 3> dimension_labels_{};
   QWidget* totals_ = nullptr;
   QLabel* thickness_ = nullptr;
   QLabel* mass_ = nullptr;

@@ -37,6 +37,7 @@ namespace {
 
 constexpr int kRecoveryDelayMs = 2000;
 constexpr QSize kFirstSize{1280, 720};
+constexpr int kInputsWidth = 600;
 constexpr MessageRow kForgetRow{1308};
 
 QScrollArea* InScrollArea(QWidget* page) {
@@ -84,6 +85,7 @@ MainWindow::MainWindow(const WindowServices& services, QWidget* parent)
   });
   services_.open.OnChange([this] { ShowAll(); });
   setWindowTitle(files_.Caption());
+  sides_->setSizes({kInputsWidth, kFirstSize.width() - kInputsWidth});
   if (!memory_.RestoreSizes(*this, *sides_, *results_->Splitter())) resize(kFirstSize);
   ShowProjects();
   ShowAll();
