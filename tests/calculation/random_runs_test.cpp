@@ -30,7 +30,7 @@ void ExpectSound(const RunOutcome& outcome) {
 
 TEST_P(RandomRunsTest, OfAnySetUpEndWithAResultOrAMessage) {
   std::mt19937_64 random(static_cast<std::uint64_t>(GetParam()) + 17);
-  for (int i = 0; i < 60; ++i) {
+  for (int i = 0; i < RANDOM_RUNS; ++i) {
     elements::Setup setup = tests::RandomSetup(Calculation(), tests::Wildness::kNasty, random);
     PrepareRun(setup);
     const bool answer = i % 2 == 0;
@@ -45,7 +45,7 @@ TEST_P(RandomRunsTest, OfAnySetUpEndWithAResultOrAMessage) {
 TEST_P(RandomRunsTest, OfARealConstructionComeToAResult) {
   std::mt19937_64 random(static_cast<std::uint64_t>(GetParam()) + 99);
   int done = 0;
-  constexpr int kRuns = 25;
+  constexpr int kRuns = RANDOM_RUNS / 10;
   for (int i = 0; i < kRuns; ++i) {
     elements::Setup setup = tests::RandomSetup(Calculation(), tests::Wildness::kPlausible, random);
     PrepareRun(setup);
