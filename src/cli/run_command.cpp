@@ -1,6 +1,7 @@
 #include "cli/run_command.h"
 
 #include <ostream>
+#include <utility>
 
 #include <nlohmann/json.hpp>
 
@@ -35,36 +36,41 @@ calculation::RunOutcome UnknownCalculation(const storage::StoredCalculation& sto
           .messages = {{{kUnknownCalculationRow, " \"" + stored.family + "\", \"" + stored.variant + "\""}}}};
 }
 
-ExitCode Report(const RunCommand& command, const CalculationTexts& texts,
-                const calculation::RunOutcome& outcome, const calculation::Totals& totals,
-                const Services& services, std::ostream& out, std::ostream& errors) {
-  for (const Message& message : outcome.messages) WriteMessage(message, services.words, errors);
-  if (command.json) {
-    out << OutcomeJson(texts, outcome, totals, services.words).dump() << '\n';
-  } else if (outcome.result) {
-    WriteResult(texts, *outcome.result, totals, services.words, out);
+/// What a run comes to, as it is reported.
+struct Report {
+  CalculationTexts texts{};
+  calculation::RunOutcome outcome{};
+  calculation::Totals totals{};
+};
+
+Report RunProject(const RunCommand& command, const Services& services) {
+  try {
+    const storage::OpenedProject project = application::OpenProject(command.project, {}, services.materials);
+    calculation::OpenCalculation open;
+    open.Replace(project.setup);
+    calculation::RunOutcome outcome =
+        project.setup.calculation ? open.Run([&](const Message&) { return command.go_on_outside_ranges; })
+                                  : UnknownCalculation(project.stored);
+    return {.texts = {project.stored.family, project.stored.variant, project.stored.orientation},
+            .outcome = std::move(outcome),
+            .totals = open.CurrentTotals()};
+  } catch (const Failure& failure) {
+    return {.outcome = {.status = calculation::RunStatus::kFailed, .messages = {failure.UserMessage()}}};
   }
-  return CodeOf(outcome.status);
 }
 
 }  // namespace
 
 ExitCode Execute(const RunCommand& command, const Services& services, std::ostream& out,
                  std::ostream& errors) {
-  try {
-    const storage::OpenedProject project = application::OpenProject(command.project, {}, services.materials);
-    const CalculationTexts texts{project.stored.family, project.stored.variant, project.stored.orientation};
-    calculation::OpenCalculation open;
-    open.Replace(project.setup);
-    const calculation::RunOutcome outcome =
-        project.setup.calculation ? open.Run([&](const Message&) { return command.go_on_outside_ranges; })
-                                  : UnknownCalculation(project.stored);
-    return Report(command, texts, outcome, open.CurrentTotals(), services, out, errors);
-  } catch (const Failure& failure) {
-    const calculation::RunOutcome unread{.status = calculation::RunStatus::kFailed,
-                                         .messages = {failure.UserMessage()}};
-    return Report(command, {}, unread, {}, services, out, errors);
+  const Report report = RunProject(command, services);
+  for (const Message& message : report.outcome.messages) WriteMessage(message, services.words, errors);
+  if (command.json) {
+    out << OutcomeJson(report.texts, report.outcome, report.totals, services.words).dump() << '\n';
+  } else if (report.outcome.result) {
+    WriteResult(report.texts, *report.outcome.result, report.totals, services.words, out);
   }
+  return CodeOf(report.outcome.status);
 }
 
 }  // namespace velmar::cli

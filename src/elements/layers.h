@@ -47,10 +47,11 @@ struct DampingRow {
 /// 1).
 struct SeaLeaf {
   static constexpr int kCapacity = 3;
-  int count = 1;  ///< `ComboMatSEA1`, `ComboMatSEA2`
+  static constexpr std::size_t kDampingCount = 6;  ///< two a layer
+  int count = 1;                                   ///< `ComboMatSEA1`, `ComboMatSEA2`
   std::array<LayerRow<StructuralMaterial>, kCapacity>
       rows{};                                       ///< `ComboMatNormaleSEA1`, `TextSpessoreMatSEA1`, ...
-  std::array<DampingRow, 2 * kCapacity> damping{};  ///< `ChecklMatSmorzanteSEA1`, ...
+  std::array<DampingRow, kDampingCount> damping{};  ///< `ChecklMatSmorzanteSEA1`, ...
 
   bool operator==(const SeaLeaf&) const = default;
 };
