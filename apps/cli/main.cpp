@@ -8,6 +8,7 @@
 #include "application/projects.h"
 #include "cli/command_line.h"
 #include "cli/outcome_table.h"
+#include "storage/configuration/program_folder.h"
 #include "storage/materials/material_store.h"
 
 namespace {
@@ -21,6 +22,8 @@ velmar::cli::Services OpenServices(const std::optional<std::filesystem::path>& d
   services.material_database = environment.configuration.PercorsoDatabase();
   services.result_database = environment.configuration.PercorsoDatabaseTeorico();
   services.library_folder = environment.configuration.CartellaLibreria();
+  services.access_reader = velmar::storage::AccessReaderProgram(velmar::storage::ProgramFolder())
+                               .value_or(std::filesystem::path());
   const auto tell = [words = services.words](const velmar::Message& message) {
     velmar::cli::WriteMessage(message, words, std::cerr);
   };

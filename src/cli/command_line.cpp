@@ -8,9 +8,12 @@
 #include <CLI/CLI.hpp>
 
 #include "cli/catalogue_command.h"
+#include "cli/import_command.h"
+#include "cli/library_command.h"
 #include "cli/materials_command.h"
 #include "cli/outcome_table.h"
 #include "cli/rate_command.h"
+#include "cli/results_command.h"
 #include "cli/run_command.h"
 #include "cli/save_command.h"
 #include "foundation/failure.h"
@@ -32,6 +35,9 @@ struct Parsed {
   RateCommand rate{};
   CatalogueCommand catalogue{};
   MaterialsCommand materials{};
+  ResultsCommand results{};
+  LibraryCommand library{};
+  ImportCommand import{};
 };
 
 void AddRun(CLI::App& app, Parsed& parsed, const presentation::Words& words) {
@@ -105,6 +111,51 @@ void AddMaterials(CLI::App& app, Parsed& parsed, const presentation::Words& word
   add("export", {1261}, MaterialsAction::kExport)->add_option("FILE", parsed.materials.file, words({1253}));
 }
 
+void AddResults(CLI::App& app, Parsed& parsed, const presentation::Words& words) {
+  using enum storage::ResultTable;
+  static const std::map<std::string, storage::ResultTable> kTables = {
+      {"airborne", kAirborne}, {"impact", kImpact}, {"lining", kLining}};
+  CLI::App* group = app.add_subcommand("results", words({1262}));
+  group->require_subcommand(1);
+  const auto add = [&](const char* name, MessageRow help, ResultsAction action) {
+    CLI::App* command = group->add_subcommand(name, words(help));
+    CLI::Option* table = command->add_option("--table", parsed.results.table, words({1266}))
+                             ->transform(CLI::CheckedTransformer(kTables));
+    // What is deleted is to be named without doubt.
+    if (action == ResultsAction::kDelete) table->required();
+    command->add_flag("--json", parsed.results.json, words({1209}));
+    if (action != ResultsAction::kList)
+      command->add_option("NAME", parsed.results.name, words({1279}))->required();
+    command->callback([&parsed, action] { parsed.results.action = action; });
+  };
+  add("list", {1263}, ResultsAction::kList);
+  add("show", {1264}, ResultsAction::kShow);
+  add("delete", {1265}, ResultsAction::kDelete);
+}
+
+void AddLibrary(CLI::App& app, Parsed& parsed, const presentation::Words& words) {
+  CLI::App* group = app.add_subcommand("library", words({1267}));
+  group->require_subcommand(1);
+  const auto add = [&](const char* name, MessageRow help, LibraryAction action) {
+    CLI::App* command = group->add_subcommand(name, words(help));
+    const bool show = action == LibraryAction::kShow;
+    command->add_option("KIND", parsed.library.kind, words({1270}))->required(show);
+    command->add_option("SERIES", parsed.library.series, words({1271}))->required(show);
+    if (show) command->add_option("TEST", parsed.library.test, words({1272}))->required();
+    command->add_flag("--json", parsed.library.json, words({1209}));
+    command->callback([&parsed, action] { parsed.library.action = action; });
+  };
+  add("list", {1268}, LibraryAction::kList);
+  add("show", {1269}, LibraryAction::kShow);
+}
+
+void AddImport(CLI::App& app, Parsed& parsed, const presentation::Words& words) {
+  CLI::App* command = app.add_subcommand("import", words({1273}));
+  command->add_option("FILE", parsed.import.file, words({1274}))->required();
+  command->add_flag("--yes", parsed.import.yes, words({1275}));
+  command->add_flag("--json", parsed.import.json, words({1209}));
+}
+
 ExitCode ExecuteParsed(const CLI::App& app, Parsed& parsed, const Services& services, std::ostream& out,
                        std::ostream& errors) {
   parsed.run.go_on_outside_ranges = parsed.answer == "yes";
@@ -112,6 +163,9 @@ ExitCode ExecuteParsed(const CLI::App& app, Parsed& parsed, const Services& serv
   if (app.got_subcommand("save")) return Execute(parsed.save, services, errors);
   if (app.got_subcommand("rate")) return Execute(parsed.rate, services.words, out, errors);
   if (app.got_subcommand("materials")) return Execute(parsed.materials, services, out, errors);
+  if (app.got_subcommand("results")) return Execute(parsed.results, services, out, errors);
+  if (app.got_subcommand("library")) return Execute(parsed.library, services, out, errors);
+  if (app.got_subcommand("import")) return Execute(parsed.import, services, out, errors);
   return Execute(parsed.catalogue, services.words, out);
 }
 
@@ -139,6 +193,9 @@ int ParseAndExecute(std::span<const std::string> arguments, const Services& serv
   AddRate(app, parsed, words);
   AddCatalogue(app, parsed, words);
   AddMaterials(app, parsed, words);
+  AddResults(app, parsed, words);
+  AddLibrary(app, parsed, words);
+  AddImport(app, parsed, words);
   try {
     std::vector<std::string> reversed(arguments.rbegin(), arguments.rend());
     app.parse(reversed);

@@ -14,6 +14,7 @@ struct Services {
   std::filesystem::path material_database{};
   std::filesystem::path result_database{};
   std::filesystem::path library_folder{};  ///< below which every kind of measured structure has its own
+  std::filesystem::path access_reader{};   ///< the program that reads genuine Access files; may be empty
 };
 
 }  // namespace velmar::cli
