@@ -1,0 +1,46 @@
+#include "shell/structures/comparison_window.h"
+
+namespace velmar::structures {
+namespace {
+
+constexpr MessageRow kCustomRow{379};
+constexpr MessageRow kTheoreticalRow{380};
+constexpr MessageRow kWallsRow{381};
+constexpr MessageRow kLiningsRow{383};
+constexpr MessageRow kFloorsRow{384};
+constexpr MessageRow kCoveringsRow{385};
+constexpr MessageRow kFieldWallsRow{1712};
+constexpr MessageRow kFieldFloorsRow{1713};
+
+bool IsLining(elements::Family family) {
+  return family == elements::Family::kLining || family == elements::Family::kCeiling;
+}
+
+}  // namespace
+
+std::vector<TreeNode> LaboratoryNodes(elements::Family family, const WindowTools& tools) {
+  TreeNode theoretical{tools.Text(kTheoreticalRow), {Branch::kCalculatedWalls}, {}};
+  TreeNode custom{tools.Text(kCustomRow), {}, {}};
+  if (family == elements::Family::kImpact) {
+    theoretical.branches = {Branch::kCalculatedFloors};
+    custom.children.push_back({tools.Text(kFloorsRow), {Branch::kFloors}, {}});
+    custom.children.push_back({tools.Text(kCoveringsRow), {Branch::kCoverings}, {}});
+    return {theoretical, custom};
+  }
+  custom.children.push_back({tools.Text(kWallsRow), {Branch::kWalls, Branch::kOpenings}, {}});
+  if (IsLining(family)) {
+    theoretical.branches = {Branch::kCalculatedLinings, Branch::kCalculatedWalls};
+    custom.children.push_back({tools.Text(kLiningsRow), {Branch::kLinings}, {}});
+    custom.children.push_back({tools.Text(kCoveringsRow), {Branch::kCoverings}, {}});
+  }
+  return {theoretical, custom};
+}
+
+std::vector<TreeNode> InSituNodes(elements::Family family, const WindowTools& tools) {
+  if (family == elements::Family::kImpact) {
+    return {{tools.Text(kFieldFloorsRow), {Branch::kFieldFloors}, {}}};
+  }
+  return {{tools.Text(kFieldWallsRow), {Branch::kFieldWalls}, {}}};
+}
+
+}  // namespace velmar::structures

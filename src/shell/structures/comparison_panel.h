@@ -1,0 +1,64 @@
+#pragma once
+
+#include <QGroupBox>
+#include <functional>
+#include <optional>
+
+#include "acoustics/bands.h"
+#include "shell/structures/library_tree.h"
+#include "shell/structures/structure_sources.h"
+#include "shell/structures/window_tools.h"
+
+class QCheckBox;
+class QLabel;
+class QPlainTextEdit;
+
+namespace velmar::structures {
+
+class TestChooser;
+
+/// One side of the comparison: chooses a structure and says whether its curve is laid over the chart.
+class ComparisonPanel : public QGroupBox {
+ public:
+  /// Object names and words of the side.
+  struct Look {
+    const char* frame = "";
+    const char* check = "";
+    const char* check_label = "";
+    const char* tree = "";
+    const char* keywords = "";
+    const char* list = "";
+    const char* description = "";
+    const char* database = "";
+    const char* rating = "";
+    MessageRow caption{};
+    MessageRow check_caption{};
+    std::vector<TreeNode> nodes{};
+  };
+
+  ComparisonPanel(const WindowTools& tools, LibrarySource source, const Look& look,
+                  std::function<void()> changed, QWidget* parent = nullptr);
+
+  bool IsTicked() const;
+  /// The chosen structure's bands in dB, 0 where it has none; all 0 without one.
+  const acoustics::Spectrum& Bands() const { return bands_; }
+  /// The name of the chosen structure while the side is ticked, otherwise empty.
+  std::string Name() const;
+  /// Nothing ticked, nothing chosen.
+  void Reset();
+  TestChooser* Chooser() const { return chooser_; }
+
+ private:
+  void Show(const std::optional<MeasuredTest>& test);
+
+  WindowTools tools_;
+  std::function<void()> changed_;
+  acoustics::Spectrum bands_{};
+  QCheckBox* check_ = nullptr;
+  TestChooser* chooser_ = nullptr;
+  QLabel* database_ = nullptr;
+  QLabel* rating_ = nullptr;
+  QPlainTextEdit* description_ = nullptr;
+};
+
+}  // namespace velmar::structures

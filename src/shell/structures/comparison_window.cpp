@@ -1,0 +1,114 @@
+#include "shell/structures/comparison_window.h"
+
+#include <QHBoxLayout>
+#include <QHideEvent>
+#include <QPushButton>
+#include <QSplitter>
+#include <QVBoxLayout>
+
+#include "shell/structures/comparison_panel.h"
+#include "shell/structures/structure_rows.h"
+#include "shell/structures/test_chooser.h"
+
+namespace velmar::structures {
+namespace {
+
+constexpr MessageRow kCaptionRow{405};
+constexpr MessageRow kInSituRow{71};
+constexpr MessageRow kLaboratoryRow{406};
+constexpr MessageRow kLaboratoryCheckRow{407};
+constexpr MessageRow kInSituCheckRow{408};
+constexpr const char* kMemoryName = "confronto-strutture";
+
+RememberedSizes SizesOf(QWidget* window, QSplitter* sides) {
+  return {QLatin1String(kMemoryName), window, nullptr, sides};
+}
+
+ComparisonPanel::Look LaboratoryLook() {
+  ComparisonPanel::Look look;
+  look.frame = "Frame1";
+  look.check = "Check1";
+  look.tree = "TreeView1";
+  look.keywords = "Combo1";
+  look.list = "List1";
+  look.description = "Text1";
+  look.database = "Label7";
+  look.rating = "Label2";
+  look.caption = kLaboratoryRow;
+  look.check_caption = kLaboratoryCheckRow;
+  return look;
+}
+
+ComparisonPanel::Look InSituLook() {
+  ComparisonPanel::Look look;
+  look.frame = "Frame2";
+  look.check = "Check2";
+  look.tree = "TreeView2";
+  look.keywords = "Combo2";
+  look.list = "List2";
+  look.description = "Text2";
+  look.database = "Label8";
+  look.rating = "Label5";
+  look.caption = kInSituRow;
+  look.check_caption = kInSituCheckRow;
+  return look;
+}
+
+}  // namespace
+
+void LayOver(presentation::CurveChart& chart, const Overlay& overlay) {
+  chart.laboratory = overlay.laboratory;
+  chart.in_situ = overlay.in_situ;
+}
+
+ComparisonWindow::ComparisonWindow(WindowTools tools, const LibrarySource& source, elements::Family family,
+                                   Draw draw, QWidget* parent)
+    : QDialog(parent), tools_(std::move(tools)), draw_(std::move(draw)) {
+  setObjectName(QStringLiteral("Form8"));
+  setWindowTitle(QStringLiteral("VELMARpro - ") + tools_.Text(kCaptionRow));
+  const auto redraw = [this] {
+    if (laboratory_ != nullptr && in_situ_ != nullptr) draw_(Current());
+  };
+  ComparisonPanel::Look look = LaboratoryLook();
+  look.nodes = LaboratoryNodes(family, tools_);
+  laboratory_ = new ComparisonPanel(tools_, source, look, redraw, this);
+  look = InSituLook();
+  look.nodes = InSituNodes(family, tools_);
+  in_situ_ = new ComparisonPanel(tools_, source, look, redraw, this);
+  sides_ = new QSplitter(Qt::Horizontal, this);
+  sides_->setChildrenCollapsible(false);
+  sides_->addWidget(laboratory_);
+  sides_->addWidget(in_situ_);
+  auto* close = new QPushButton(tools_.Text(kCloseRow), this);
+  close->setObjectName(QStringLiteral("Command1"));
+  close->setAutoDefault(false);
+  connect(close, &QPushButton::clicked, this, &QDialog::reject);
+  auto* buttons = new QHBoxLayout;
+  buttons->addStretch(1);
+  buttons->addWidget(close);
+  auto* column = new QVBoxLayout(this);
+  column->addWidget(sides_, 1);
+  column->addLayout(buttons);
+  resize(fontMetrics().averageCharWidth() * 170, fontMetrics().height() * 34);
+  RestoreSizes(tools_.memory, SizesOf(this, sides_));
+}
+
+ComparisonWindow::~ComparisonWindow() { SaveSizes(tools_.memory, SizesOf(this, sides_)); }
+
+void ComparisonWindow::hideEvent(QHideEvent* event) {
+  QDialog::hideEvent(event);
+  if (event->spontaneous()) return;  // minimized, not closed
+  laboratory_->Reset();
+  in_situ_->Reset();
+}
+
+Overlay ComparisonWindow::Current() const {
+  Overlay overlay;
+  if (laboratory_->IsTicked()) overlay.laboratory = laboratory_->Bands();
+  if (in_situ_->IsTicked()) overlay.in_situ = in_situ_->Bands();
+  overlay.laboratory_name = laboratory_->Name();
+  overlay.in_situ_name = in_situ_->Name();
+  return overlay;
+}
+
+}  // namespace velmar::structures

@@ -1,0 +1,70 @@
+#pragma once
+
+#include <QDialog>
+#include <functional>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "acoustics/bands.h"
+#include "elements/catalogue.h"
+#include "presentation/drawing/curve_chart.h"
+#include "shell/structures/library_tree.h"
+#include "shell/structures/structure_sources.h"
+#include "shell/structures/window_tools.h"
+
+class QSplitter;
+
+namespace velmar::structures {
+
+class ComparisonPanel;
+
+/// What is laid over the main chart. A side that is ticked has a spectrum, all 0 (no curve) while no
+/// structure is chosen, and the name of its structure.
+struct Overlay {
+  std::optional<acoustics::Spectrum> laboratory{};
+  std::optional<acoustics::Spectrum> in_situ{};
+  std::string laboratory_name{};
+  std::string in_situ_name{};
+
+  bool operator==(const Overlay&) const = default;
+};
+
+/// Lays `overlay` over `chart`.
+void LayOver(presentation::CurveChart& chart, const Overlay& overlay);
+
+/// "VELMARpro - confronto strutture" (`Form8`): measured or calculated structures beside the result. The
+/// window draws nothing: it hands what is to be laid over to the main chart.
+class ComparisonWindow : public QDialog {
+ public:
+  using Draw = std::function<void(const Overlay&)>;
+
+  /// @param family of the open calculation; decides which databases are offered
+  /// @param draw redraws the main chart; called after every change of a ticked side, never by closing
+  ComparisonWindow(WindowTools tools, const LibrarySource& source, elements::Family family, Draw draw,
+                   QWidget* parent = nullptr);
+  ~ComparisonWindow() override;
+
+  /// The result was invalidated: the window closes.
+  void ResultGone() { close(); }
+
+ protected:
+  /// However it closes: nothing stays ticked or chosen, and the chart stays as last drawn.
+  void hideEvent(QHideEvent* event) override;
+
+ private:
+  Overlay Current() const;
+
+  WindowTools tools_;
+  Draw draw_;
+  QSplitter* sides_ = nullptr;
+  ComparisonPanel* laboratory_ = nullptr;
+  ComparisonPanel* in_situ_ = nullptr;
+};
+
+/// The databases that the laboratory side offers for `family`.
+std::vector<TreeNode> LaboratoryNodes(elements::Family family, const WindowTools& tools);
+/// The databases that the in-situ side offers for `family`.
+std::vector<TreeNode> InSituNodes(elements::Family family, const WindowTools& tools);
+
+}  // namespace velmar::structures

@@ -1,0 +1,80 @@
+#include "shell/structures/extra_data_dialog.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QFormLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QVBoxLayout>
+#include <array>
+
+#include "shell/structures/copied_table.h"
+#include "shell/structures/structure_rows.h"
+
+namespace velmar::structures {
+namespace {
+
+constexpr MessageRow kCaptionRow{396};
+constexpr int kFirstFieldRow = 397;
+constexpr std::size_t kFieldCount = 8;
+constexpr MessageRow kCopyRow{376};
+constexpr const char* kNoDate = "01/01/2000";
+constexpr const char* kNoPicture = "senza";
+
+std::array<std::string, kFieldCount> FieldsOf(const MeasuredTest& test) {
+  using calculation::BoxText;
+  return {test.date.empty() ? kNoDate : test.date,
+          BoxText(test.part.area_m2),
+          BoxText(test.source_volume_m3),
+          BoxText(test.receiving_volume_m3),
+          BoxText(test.part.thickness_mm),
+          BoxText(test.part.mass_kg_m2),
+          test.site,
+          test.picture_name.empty() ? kNoPicture : test.picture_name};
+}
+
+}  // namespace
+
+ExtraDataDialog::ExtraDataDialog(const WindowTools& tools, const MeasuredTest& test, QWidget* parent)
+    : QDialog(parent) {
+  setObjectName(QStringLiteral("Form10"));
+  setWindowTitle(tools.Text(kCaptionRow) + QStringLiteral(" - VELMARpro"));
+  auto* column = new QVBoxLayout(this);
+  auto* form = new QFormLayout;
+  const std::array<std::string, kFieldCount> fields = FieldsOf(test);
+  CopiedTable table;
+  for (std::size_t i = 0; i < kFieldCount; ++i) {
+    const MessageRow caption{kFirstFieldRow + static_cast<int>(i)};
+    auto* label = new QLabel(tools.Text(caption), this);
+    label->setObjectName(QStringLiteral("Label1_%1").arg(i));
+    auto* box = new QLineEdit(ToQt(fields[i]), this);
+    box->setObjectName(QStringLiteral("Text1_%1").arg(i));
+    box->setAccessibleName(label->text());
+    box->setReadOnly(true);
+    box->setCursorPosition(0);
+    box->setMinimumWidth(fontMetrics().averageCharWidth() * 32);
+    label->setBuddy(box);
+    form->addRow(label, box);
+    table.push_back({{caption}, {fields[i]}});
+  }
+  auto* buttons = new QHBoxLayout;
+  auto* copy = new QPushButton(tools.Text(kCopyRow), this);
+  copy->setObjectName(QStringLiteral("Command1"));
+  copy->setAutoDefault(false);
+  auto* close = new QPushButton(tools.Text(kCloseRow), this);
+  close->setObjectName(QStringLiteral("Command2"));
+  close->setDefault(true);
+  buttons->addWidget(copy);
+  buttons->addStretch(1);
+  buttons->addWidget(close);
+  column->addLayout(form);
+  column->addLayout(buttons);
+  connect(copy, &QPushButton::clicked, this, [table, words = tools.words] {
+    QApplication::clipboard()->setMimeData(ClipboardOf(table, words));
+  });
+  connect(close, &QPushButton::clicked, this, &QDialog::reject);
+}
+
+}  // namespace velmar::structures

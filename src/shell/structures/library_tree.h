@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QString>
+#include <optional>
+#include <vector>
+
+#include "shell/structures/structure_sources.h"
+#include "shell/structures/window_tools.h"
+
+class QTreeWidget;
+class QTreeWidgetItem;
+
+namespace velmar::structures {
+
+/// A node of the tree: the files of its branches are its children.
+struct TreeNode {
+  QString caption{};
+  std::vector<Branch> branches{};
+  std::vector<TreeNode> children{};  ///< nodes before the files
+};
+
+/// Fills `tree` with `nodes` and the files that `source` names for them, all unfolded. A branch without files
+/// is a node without children; one that cannot be read is told of and left without.
+void FillTree(QTreeWidget& tree, const std::vector<TreeNode>& nodes, const LibrarySource& source,
+              const WindowTools& tools);
+
+/// The file that `item` stands for; nothing for a node that only holds others.
+std::optional<LibraryFile> FileOf(const QTreeWidgetItem* item);
+
+/// The nodes of the library window.
+/// @param components true for what fits a component of a facade, false for its opaque part
+std::vector<TreeNode> LibraryNodes(bool components, const WindowTools& tools);
+
+}  // namespace velmar::structures

@@ -1,0 +1,119 @@
+#include "shell/structures/measured_library_window.h"
+
+#include <QHBoxLayout>
+#include <QPushButton>
+#include <QSplitter>
+#include <QVBoxLayout>
+
+#include "shell/structures/extra_data_dialog.h"
+#include "shell/structures/structure_rows.h"
+#include "shell/structures/test_chooser.h"
+#include "shell/structures/test_details.h"
+
+namespace velmar::structures {
+namespace {
+
+constexpr MessageRow kOpaquePartRow{260};
+constexpr MessageRow kComponentRow{378};
+constexpr MessageRow kCaptionRow{386};
+constexpr MessageRow kNoTestRow{390};
+constexpr MessageRow kConfirmRow{1707};
+constexpr MessageRow kConfirmTipRow{1708};
+constexpr MessageRow kExtraDataRow{1709};
+constexpr const char* kMemoryName = "database-sperimentale";
+
+RememberedSizes SizesOf(QWidget* window, const TestChooser& chooser) {
+  return {QLatin1String(kMemoryName), window, nullptr, chooser.Splitter()};
+}
+
+}  // namespace
+
+MeasuredLibraryWindow::MeasuredLibraryWindow(WindowTools tools, LibrarySource source, MeasuredTarget target,
+                                             QWidget* parent)
+    : QDialog(parent), tools_(std::move(tools)), target_(std::move(target)) {
+  setObjectName(QStringLiteral("Form9"));
+  setWindowTitle(Caption());
+  details_ = new TestDetails(tools_, this);
+  TestChooser::Controls controls;
+  controls.nodes = LibraryNodes(target_.component > 0, tools_);
+  TestChooser::Listener listener;
+  listener.file = [this](const LibraryFile& file, const QString& description) {
+    details_->ShowDescription(description);
+    details_->ShowCaptions(file.branch == Branch::kSmallElements
+                               ? calculation::PartQuantity::kElementDifference
+                               : calculation::PartQuantity::kReductionIndex);
+  };
+  listener.test = [this](const std::optional<MeasuredTest>& test) {
+    details_->Show(test);
+    extra_->setEnabled(test.has_value());
+  };
+  chooser_ = new TestChooser(tools_, std::move(source), controls, std::move(listener), this);
+  chooser_->Splitter()->addWidget(details_);
+  chooser_->Splitter()->setStretchFactor(2, 2);
+  auto* column = new QVBoxLayout(this);
+  column->addWidget(chooser_, 1);
+  column->addWidget(MakeButtons());
+  const QFontMetrics metrics = fontMetrics();
+  const int character = metrics.averageCharWidth();
+  resize(character * 190, metrics.height() * 40);
+  chooser_->Splitter()->setSizes({character * 34, character * 46, character * 110});
+  RestoreSizes(tools_.memory, SizesOf(this, *chooser_));
+}
+
+MeasuredLibraryWindow::~MeasuredLibraryWindow() { SaveSizes(tools_.memory, SizesOf(this, *chooser_)); }
+
+QString MeasuredLibraryWindow::Caption() const {
+  const QString caption = tools_.Text(kCaptionRow);
+  if (!target_.take) return caption;
+  const QString target = target_.component == 0 ? tools_.Text(kOpaquePartRow)
+                                                : tools_.Text(kComponentRow) + QLatin1Char(' ') +
+                                                      QString::number(target_.component);
+  return target + QStringLiteral(": ") + caption;
+}
+
+QWidget* MeasuredLibraryWindow::MakeButtons() {
+  auto* bar = new QWidget(this);
+  auto* row = new QHBoxLayout(bar);
+  row->setContentsMargins(0, 0, 0, 0);
+  extra_ = new QPushButton(tools_.Text(kExtraDataRow), bar);
+  extra_->setObjectName(QStringLiteral("Command2"));
+  extra_->setAutoDefault(false);
+  extra_->setEnabled(false);
+  auto* confirm = new QPushButton(tools_.Text(kConfirmRow), bar);
+  confirm->setObjectName(QStringLiteral("Command1"));
+  confirm->setToolTip(tools_.Text(kConfirmTipRow));
+  confirm->setVisible(static_cast<bool>(target_.take));
+  confirm->setDefault(static_cast<bool>(target_.take));
+  auto* close = new QPushButton(tools_.Text(kCloseRow), bar);
+  close->setObjectName(QStringLiteral("Command3"));
+  close->setAutoDefault(false);
+  row->addWidget(extra_);
+  row->addStretch(1);
+  row->addWidget(confirm);
+  row->addWidget(close);
+  connect(extra_, &QPushButton::clicked, this, [this] { ShowExtraData(); });
+  connect(confirm, &QPushButton::clicked, this, [this] { Take(); });
+  connect(close, &QPushButton::clicked, this, &QDialog::reject);
+  return bar;
+}
+
+void MeasuredLibraryWindow::Take() {
+  if (!chooser_->Chosen()) {
+    tools_.tell(tools_.Text(kNoTestRow));
+    return;
+  }
+  target_.take(chooser_->Chosen()->part);
+  accept();
+}
+
+void MeasuredLibraryWindow::ShowExtraData() {
+  if (!chooser_->Chosen()) return;
+  auto* extra = new ExtraDataDialog(tools_, *chooser_->Chosen(), this);
+  extra->setAttribute(Qt::WA_DeleteOnClose);
+  connect(extra, &QDialog::finished, this, [this] { setEnabled(true); });
+  setEnabled(false);
+  extra->setEnabled(true);
+  extra->show();
+}
+
+}  // namespace velmar::structures

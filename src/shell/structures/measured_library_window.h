@@ -1,0 +1,44 @@
+#pragma once
+
+#include <QDialog>
+#include <functional>
+
+#include "shell/structures/structure_sources.h"
+#include "shell/structures/window_tools.h"
+
+class QPushButton;
+
+namespace velmar::structures {
+
+class ExtraDataDialog;
+class TestChooser;
+class TestDetails;
+
+/// What a measured test is chosen for (`TipoElementoSperimentale` and the target element).
+struct MeasuredTarget {
+  int component = 0;  ///< 0: the opaque part of a facade, or the base of a lining; 1 to 9: a component
+  /// Takes the chosen test; empty when the window is only looked at.
+  std::function<void(const calculation::FacadePart&)> take{};
+};
+
+/// "Database sperimentale" (`Form9`): browses the measured structures and hands one over.
+class MeasuredLibraryWindow : public QDialog {
+ public:
+  MeasuredLibraryWindow(WindowTools tools, LibrarySource source, MeasuredTarget target,
+                        QWidget* parent = nullptr);
+  ~MeasuredLibraryWindow() override;
+
+ private:
+  QWidget* MakeButtons();
+  QString Caption() const;
+  void Take();
+  void ShowExtraData();
+
+  WindowTools tools_;
+  MeasuredTarget target_;
+  TestChooser* chooser_ = nullptr;
+  TestDetails* details_ = nullptr;
+  QPushButton* extra_ = nullptr;
+};
+
+}  // namespace velmar::structures

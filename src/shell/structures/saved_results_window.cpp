@@ -1,0 +1,225 @@
+#include "shell/structures/saved_results_window.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QMimeData>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTableView>
+#include <QVBoxLayout>
+#include <algorithm>
+
+#include "shell/structures/copied_table.h"
+#include "shell/structures/structure_rows.h"
+
+namespace velmar::structures {
+namespace {
+
+constexpr MessageRow kCaptionRow{374};
+constexpr MessageRow kDeleteQuestionRow{375};
+constexpr MessageRow kCopyRow{376};
+constexpr const char* kMemoryName = "database-risultati";
+constexpr int kNameColumnCharacters = 34;
+
+RememberedSizes SizesOf(QWidget* window, QTableView* grid) {
+  return {QLatin1String(kMemoryName), window, grid->horizontalHeader(), nullptr};
+}
+
+}  // namespace
+
+SavedResultsWindow::SavedResultsWindow(WindowTools tools, ResultSource source, Listener listener,
+                                       QWidget* parent)
+    : QDialog(parent),
+      tools_(std::move(tools)),
+      source_(std::move(source)),
+      listener_(std::move(listener)),
+      model_({tools_.Text(kNameRow), tools_.Text(kDescriptionRow)}),
+      shown_(model_) {
+  setObjectName(QStringLiteral("Form7"));
+  setWindowTitle(tools_.Text(kCaptionRow));
+  auto* column = new QVBoxLayout(this);
+  column->addWidget(MakeKinds());
+  column->addWidget(MakeGrid(), 1);
+  column->addWidget(MakeDetails());
+  column->addWidget(MakeButtons());
+  const QFontMetrics metrics = fontMetrics();
+  if (!RestoreSizes(tools_.memory, SizesOf(this, grid_)))
+    resize(metrics.averageCharWidth() * 130, metrics.height() * 34);
+  Refresh();
+  search_->setFocus();
+}
+
+SavedResultsWindow::~SavedResultsWindow() { SaveSizes(tools_.memory, SizesOf(this, grid_)); }
+
+QWidget* SavedResultsWindow::MakeKinds() {
+  auto* bar = new QWidget(this);
+  auto* row = new QHBoxLayout(bar);
+  row->setContentsMargins(0, 0, 0, 0);
+  airborne_ = new QRadioButton(tools_.Text(kAirborneResultsRow), bar);
+  airborne_->setObjectName(QStringLiteral("Option1_0"));
+  impact_ = new QRadioButton(tools_.Text(kImpactResultsRow), bar);
+  impact_->setObjectName(QStringLiteral("Option1_1"));
+  airborne_->setChecked(true);
+  search_ = new QLineEdit(bar);
+  search_->setObjectName(QStringLiteral("TextCerca"));
+  search_->setPlaceholderText(tools_.Text(kSearchRow));
+  search_->setAccessibleName(tools_.Text(kSearchRow));
+  search_->setClearButtonEnabled(true);
+  row->addWidget(airborne_);
+  row->addWidget(impact_);
+  row->addStretch(1);
+  row->addWidget(search_, 2);
+  connect(airborne_, &QRadioButton::toggled, this, [this] { Refresh(); });
+  connect(search_, &QLineEdit::textChanged, this, [this](const QString& text) {
+    const std::string before = SelectedName();
+    shown_.Search(text);
+    if (SelectedName() != before || before.empty()) SelectRow(0);
+  });
+  return bar;
+}
+
+QWidget* SavedResultsWindow::MakeGrid() {
+  grid_ = new QTableView(this);
+  grid_->setObjectName(QStringLiteral("DBGrid1"));
+  grid_->setAccessibleName(tools_.Text(kCaptionRow));
+  grid_->setModel(&shown_);
+  grid_->setSelectionBehavior(QAbstractItemView::SelectRows);
+  grid_->setSelectionMode(QAbstractItemView::SingleSelection);
+  grid_->setEditTriggers(QAbstractItemView::NoEditTriggers);
+  grid_->setTabKeyNavigation(false);
+  grid_->setWordWrap(false);
+  grid_->setSortingEnabled(true);
+  grid_->horizontalHeader()->setSortIndicator(-1, Qt::AscendingOrder);
+  grid_->horizontalHeader()->setStretchLastSection(true);
+  grid_->horizontalHeader()->setHighlightSections(false);
+  grid_->setColumnWidth(0, fontMetrics().averageCharWidth() * kNameColumnCharacters);
+  grid_->verticalHeader()->hide();
+  grid_->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 8);
+  connect(grid_->selectionModel(), &QItemSelectionModel::currentRowChanged, this, [this] { ShowSelected(); });
+  connect(grid_, &QTableView::doubleClicked, this, [this] { Take(); });
+  return grid_;
+}
+
+QWidget* SavedResultsWindow::MakeDetails() {
+  auto* details = new QWidget(this);
+  auto* column = new QVBoxLayout(details);
+  column->setContentsMargins(0, 0, 0, 0);
+  name_ = new QLineEdit(details);
+  name_->setObjectName(QStringLiteral("Text2"));
+  name_->setReadOnly(true);
+  name_->setAccessibleName(tools_.Text(kNameRow));
+  description_ = new QPlainTextEdit(details);
+  description_->setObjectName(QStringLiteral("Text1"));
+  description_->setReadOnly(true);
+  description_->setTabChangesFocus(true);
+  description_->setAccessibleName(tools_.Text(kDescriptionRow));
+  description_->setFixedHeight(fontMetrics().height() * 5);
+  column->addWidget(name_);
+  column->addWidget(description_);
+  return details;
+}
+
+QWidget* SavedResultsWindow::MakeButtons() {
+  auto* bar = new QWidget(this);
+  auto* row = new QHBoxLayout(bar);
+  row->setContentsMargins(0, 0, 0, 0);
+  const auto add = [&](const char* name, MessageRow text, auto&& action) {
+    auto* button = new QPushButton(tools_.Text(text), bar);
+    button->setObjectName(QLatin1String(name));
+    button->setAutoDefault(false);
+    connect(button, &QPushButton::clicked, this, action);
+    row->addWidget(button);
+    return button;
+  };
+  delete_ = add("Elimina", kDeleteRow, [this] { Delete(); });
+  copy_ = add("Copia", kCopyRow, [this] { Copy(); });
+  row->addStretch(1);
+  take_ = add("Seleziona", kTakeRow, [this] { Take(); });
+  take_->setVisible(static_cast<bool>(listener_.take));
+  take_->setDefault(static_cast<bool>(listener_.take));
+  add("Chiudi", kCloseRow, [this] { reject(); });
+  return bar;
+}
+
+ResultKind SavedResultsWindow::Kind() const {
+  return airborne_->isChecked() ? ResultKind::kAirborne : ResultKind::kImpact;
+}
+
+std::string SavedResultsWindow::SelectedName() const {
+  const QModelIndex current = grid_->currentIndex();
+  return current.isValid() ? FromQt(current.siblingAtColumn(0).data().toString()) : std::string();
+}
+
+void SavedResultsWindow::SelectRow(int row) {
+  const int last = shown_.rowCount() - 1;
+  grid_->setCurrentIndex(shown_.index(std::min(row, last), 0));
+  ShowSelected();
+}
+
+void SavedResultsWindow::Refresh() {
+  const QString before = ToQt(SelectedName());
+  std::vector<QStringList> rows;
+  tools_.Try([&] {
+    for (const ResultEntry& entry : source_.list(Kind()))
+      rows.push_back({ToQt(entry.name), ToQt(entry.description)});
+  });
+  model_.Fill(std::move(rows));
+  const QModelIndexList again =
+      shown_.match(shown_.index(0, 0), Qt::DisplayRole, before, 1, Qt::MatchExactly | Qt::MatchCaseSensitive);
+  SelectRow(again.isEmpty() || before.isEmpty() ? 0 : again.first().row());
+}
+
+void SavedResultsWindow::ShowSelected() {
+  const QModelIndex current = grid_->currentIndex();
+  name_->setText(current.siblingAtColumn(0).data().toString());
+  name_->setCursorPosition(0);
+  description_->setPlainText(current.siblingAtColumn(1).data().toString());
+  const bool any = current.isValid();
+  copy_->setEnabled(any);
+  delete_->setEnabled(any);
+  // A level of impact sound is no reduction index: a facade would be wrong with it.
+  take_->setEnabled(any && Kind() == ResultKind::kAirborne);
+}
+
+void SavedResultsWindow::Copy() {
+  const std::string name = SelectedName();
+  if (name.empty()) return;
+  tools_.Try([&] {
+    const CopiedTable table = source_.copy(Kind(), name);
+    if (!table.empty()) QApplication::clipboard()->setMimeData(ClipboardOf(table, tools_.words));
+  });
+}
+
+void SavedResultsWindow::Delete() {
+  const std::string name = SelectedName();
+  if (name.empty()) return;
+  const QString question = tools_.Text(kDeleteQuestionRow) + QLatin1Char(' ') + ToQt(name) + QLatin1Char('?');
+  if (!tools_.ask(question)) return;
+  const int row = grid_->currentIndex().row();
+  bool removed = false;
+  if (!tools_.Try([&] { removed = source_.remove(Kind(), name); })) return;
+  Refresh();
+  SelectRow(row);
+  if (removed && listener_.removed) listener_.removed(Kind(), name);
+}
+
+void SavedResultsWindow::Take() {
+  const std::string name = SelectedName();
+  if (!listener_.take || name.empty() || Kind() != ResultKind::kAirborne) return;
+  std::optional<calculation::FacadePart> part;
+  if (!tools_.Try([&] { part = source_.find(Kind(), name); })) return;
+  if (!part) {  // deleted by another program since the list was read
+    tools_.tell(tools_.Text(kEntryGoneRow));
+    Refresh();
+    return;
+  }
+  listener_.take(*part);
+  accept();
+}
+
+}  // namespace velmar::structures

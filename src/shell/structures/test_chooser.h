@@ -1,0 +1,67 @@
+#pragma once
+
+#include <QWidget>
+#include <functional>
+#include <optional>
+
+#include "shell/structures/entry_model.h"
+#include "shell/structures/library_tree.h"
+#include "shell/structures/structure_sources.h"
+#include "shell/structures/window_tools.h"
+
+class QComboBox;
+class QLineEdit;
+class QListView;
+class QSplitter;
+class QTreeWidget;
+
+namespace velmar::structures {
+
+/// Tree of files, keyword filter, search and list of tests: what library and comparison choose a test with.
+class TestChooser : public QWidget {
+ public:
+  /// Object names of the controls, and what they show.
+  struct Controls {
+    const char* tree = "TreeView1";
+    const char* keywords = "Combo1";
+    const char* list = "List1";
+    std::vector<TreeNode> nodes{};
+  };
+  struct Listener {
+    /// Another file was opened; the description is that of its first test.
+    std::function<void(const LibraryFile&, const QString& description)> file{};
+    /// A test was chosen, or none is any more.
+    std::function<void(const std::optional<MeasuredTest>&)> test{};
+  };
+
+  TestChooser(const WindowTools& tools, LibrarySource source, const Controls& controls, Listener listener,
+              QWidget* parent = nullptr);
+
+  const std::optional<MeasuredTest>& Chosen() const { return chosen_; }
+  /// No test is chosen any more.
+  void Clear();
+  QSplitter* Splitter() const { return splitter_; }
+
+ private:
+  QWidget* MakeTree(const Controls& controls);
+  QWidget* MakeList(const Controls& controls);
+  void OpenFile(const LibraryFile& file);
+  void FillList();
+  void Choose(const QString& name);
+
+  WindowTools tools_;
+  LibrarySource source_;
+  Listener listener_;
+  EntryModel model_;
+  EntrySearch shown_;
+  std::optional<LibraryFile> file_;
+  std::vector<TestEntry> tests_;
+  std::optional<MeasuredTest> chosen_;
+  QSplitter* splitter_ = nullptr;
+  QTreeWidget* tree_ = nullptr;
+  QComboBox* keywords_ = nullptr;
+  QLineEdit* search_ = nullptr;
+  QListView* list_ = nullptr;
+};
+
+}  // namespace velmar::structures

@@ -1,0 +1,184 @@
+#include "shell/structures/test_details.h"
+
+#include <QFormLayout>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QVBoxLayout>
+
+#include "acoustics/bands.h"
+#include "foundation/decimal.h"
+#include "shell/structures/structure_rows.h"
+
+namespace velmar::structures {
+namespace {
+
+constexpr MessageRow kMassRow{1706};
+constexpr std::array<MessageRow, 5> kCertificateRows = {MessageRow{387}, MessageRow{388}, MessageRow{389},
+                                                        MessageRow{393}, MessageRow{395}};
+constexpr std::array<const char*, 5> kCertificateNames = {"TextCertificato", "TextDataProva", "TextEnteProva",
+                                                          "TextRichiedente", "TextInformazione"};
+constexpr std::size_t kBandsInARow = 7;
+constexpr double kRatingScale = 1.4;
+
+QString Decibels(const std::optional<double>& value) { return ToQt(calculation::BoxText(value)); }
+
+void ShowFromStart(QLineEdit& box, const QString& text) {
+  box.setText(text);
+  box.setCursorPosition(0);
+  box.setToolTip(text);
+}
+
+}  // namespace
+
+QString RatingLabel(const calculation::FacadePart& part) {
+  const bool small = part.quantity == calculation::PartQuantity::kElementDifference;
+  return QLatin1String(small ? "Dnew" : "Rw") + QStringLiteral("(C,Ctr)= ") + Decibels(part.rating_db) +
+         QLatin1Char('(') + Decibels(part.c_db) + QStringLiteral(", ") + Decibels(part.ctr_db) +
+         QStringLiteral(") dB");
+}
+
+TestDetails::TestDetails(const WindowTools& tools, QWidget* parent) : QWidget(parent), tools_(tools) {
+  auto* column = new QVBoxLayout(this);
+  column->setContentsMargins(0, 0, 0, 0);
+  rating_ = new QLabel(this);
+  rating_->setObjectName(QStringLiteral("Label3"));
+  QFont large = font();
+  large.setPointSizeF(large.pointSizeF() * kRatingScale);
+  rating_->setFont(large);
+  rating_->setTextInteractionFlags(Qt::TextSelectableByMouse);
+  rating_->setMinimumHeight(QFontMetrics(large).height());
+  description_ = new QPlainTextEdit(this);
+  description_->setObjectName(QStringLiteral("Text2"));
+  description_->setAccessibleName(tools_.Text(kDescriptionRow));
+  description_->setReadOnly(true);
+  description_->setTabChangesFocus(true);
+  description_->setFixedHeight(fontMetrics().height() * 4);
+  curve_ = new MeasuredCurveView(tools_, this);
+  picture_ = new PictureView(tools_, this);
+  auto* pictures = new QHBoxLayout;
+  pictures->addWidget(curve_, 3);
+  pictures->addWidget(picture_, 1);
+  column->addWidget(rating_);
+  column->addWidget(description_);
+  column->addWidget(MakeValues());
+  column->addLayout(pictures, 1);
+  column->addWidget(MakeBands());
+  column->addWidget(MakeCertificate());
+  ShowCaptions(calculation::PartQuantity::kReductionIndex);
+  Show(std::nullopt);
+}
+
+QLineEdit* TestDetails::Box(const QString& name, const QString& accessible_name) {
+  auto* box = new QLineEdit(this);
+  box->setObjectName(name);
+  box->setAccessibleName(accessible_name);
+  box->setReadOnly(true);
+  box->setFocusPolicy(Qt::ClickFocus);  // nothing to type: the keyboard goes on to the next list or button
+  return box;
+}
+
+QWidget* TestDetails::MakeValues() {
+  auto* values = new QWidget(this);
+  auto* row = new QHBoxLayout(values);
+  row->setContentsMargins(0, 0, 0, 0);
+  const std::array<QString, 5> names = {QStringLiteral("Text4"), QStringLiteral("Text5"),
+                                        QStringLiteral("Text6"), QStringLiteral("Text3"),
+                                        QStringLiteral("TextMassa")};
+  const std::array<QString, 5> captions = {QStringLiteral("Rw (dB)"), QStringLiteral("C (dB)"),
+                                           QStringLiteral("Ctr (dB)"), tools_.Text(kAreaRow),
+                                           tools_.Text(kMassRow)};
+  for (std::size_t i = 0; i < values_.size(); ++i) {
+    auto* caption = new QLabel(captions[i], values);
+    if (i == 0) {
+      rating_caption_ = caption;
+      caption->setObjectName(QStringLiteral("LabelIndice"));
+    }
+    values_[i] = Box(names[i], captions[i]);
+    values_[i]->setAlignment(Qt::AlignRight);
+    values_[i]->setMinimumWidth(fontMetrics().averageCharWidth() * 7);
+    row->addWidget(caption);
+    row->addWidget(values_[i], 1);
+  }
+  return values;
+}
+
+QWidget* TestDetails::MakeBands() {
+  auto* bands = new QWidget(this);
+  auto* grid = new QGridLayout(bands);
+  grid->setContentsMargins(0, 0, 0, 0);
+  grid->setHorizontalSpacing(8);
+  grid->setVerticalSpacing(2);
+  band_caption_ = new QLabel(bands);
+  band_caption_->setObjectName(QStringLiteral("LabelBande"));
+  grid->addWidget(band_caption_, 0, 0);
+  for (std::size_t i = 0; i < bands_.size(); ++i) {
+    const int row = static_cast<int>(i / kBandsInARow);
+    const int column = 1 + 2 * static_cast<int>(i % kBandsInARow);
+    const QString hertz = QString::number(static_cast<int>(acoustics::BandCentre(i)));
+    auto* centre = new QLabel(hertz, bands);
+    centre->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    bands_[i] = Box(QStringLiteral("Text1_%1").arg(i), hertz + QStringLiteral(" Hz"));
+    bands_[i]->setAlignment(Qt::AlignRight);
+    bands_[i]->setMinimumWidth(fontMetrics().averageCharWidth() * 6);
+    grid->addWidget(centre, row, column);
+    grid->addWidget(bands_[i], row, column + 1);
+    grid->setColumnStretch(column + 1, 1);
+  }
+  return bands;
+}
+
+QWidget* TestDetails::MakeCertificate() {
+  auto* certificate = new QWidget(this);
+  auto* grid = new QGridLayout(certificate);
+  grid->setContentsMargins(0, 0, 0, 0);
+  grid->setVerticalSpacing(4);
+  for (std::size_t i = 0; i < certificate_.size(); ++i) {
+    const QString caption = tools_.Text(kCertificateRows[i]);
+    certificate_[i] = Box(QLatin1String(kCertificateNames[i]), caption);
+    const int row = static_cast<int>(i / 2);
+    const int column = 2 * static_cast<int>(i % 2);
+    const bool last = i + 1 == certificate_.size();
+    grid->addWidget(new QLabel(caption, certificate), row, column);
+    grid->addWidget(certificate_[i], row, column + 1, 1, last ? 3 : 1);
+  }
+  grid->setColumnStretch(1, 1);
+  grid->setColumnStretch(3, 1);
+  return certificate;
+}
+
+void TestDetails::ShowDescription(const QString& description) { description_->setPlainText(description); }
+
+void TestDetails::ShowCaptions(calculation::PartQuantity quantity) {
+  const calculation::PartCaptions captions = calculation::CaptionsOf(quantity);
+  rating_caption_->setText(ToQt(captions.rating));
+  band_caption_->setText(ToQt(captions.bands));
+}
+
+void TestDetails::Show(const std::optional<MeasuredTest>& test) {
+  const MeasuredTest shown = test.value_or(MeasuredTest{});
+  const calculation::FacadePart& part = shown.part;
+  const bool small = part.quantity == calculation::PartQuantity::kElementDifference;
+  if (test) ShowCaptions(part.quantity);
+  rating_->setText(test ? RatingLabel(part) : QString());
+  description_->setPlainText(ToQt(part.description));
+  const QString area = small ? QStringLiteral("0") : Decibels(part.area_m2);
+  const QString mass = part.mass_kg_m2 ? Decibels(part.mass_kg_m2) : QStringLiteral("-");
+  const std::array<QString, 5> values = {Decibels(part.rating_db), Decibels(part.c_db), Decibels(part.ctr_db),
+                                         area, test ? mass : QString()};
+  for (std::size_t i = 0; i < values_.size(); ++i) ShowFromStart(*values_[i], values[i]);
+  for (std::size_t i = 0; i < bands_.size(); ++i) {
+    const std::optional<double>& value = part.bands_db[i];
+    const bool measured = value && *value != calculation::kNotMeasuredDb;
+    bands_[i]->setText(measured ? ToQt(FormatFixed(*value, 1)) : QString());
+  }
+  const std::array<std::string, 5> certificate = {shown.certificate, shown.date, shown.laboratory,
+                                                  shown.client, shown.notes};
+  for (std::size_t i = 0; i < certificate_.size(); ++i) ShowFromStart(*certificate_[i], ToQt(certificate[i]));
+  curve_->Show(test);
+  picture_->Show(shown.picture);
+}
+
+}  // namespace velmar::structures

@@ -1,0 +1,84 @@
+#pragma once
+
+#include <QWidget>
+#include <array>
+#include <optional>
+
+#include "presentation/drawing/curve_chart.h"
+#include "shell/structures/structure_sources.h"
+#include "shell/structures/window_tools.h"
+
+class QFormLayout;
+class QLabel;
+class QLineEdit;
+class QPlainTextEdit;
+
+namespace velmar::structures {
+
+/// The curve of a measured test (`Picture1`), its scale taken from the values.
+class MeasuredCurveView : public QWidget {
+ public:
+  explicit MeasuredCurveView(const WindowTools& tools, QWidget* parent = nullptr);
+
+  void Show(const std::optional<MeasuredTest>& test);
+  QSize sizeHint() const override;
+  QSize minimumSizeHint() const override;
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  presentation::CurveChart empty_;
+  presentation::CurveChart chart_;
+};
+
+/// The picture of a test, as large as its place allows.
+class PictureView : public QWidget {
+ public:
+  explicit PictureView(const WindowTools& tools, QWidget* parent = nullptr);
+
+  /// A file that is missing or no picture leaves a quiet word in its place.
+  void Show(const std::filesystem::path& file);
+  bool HasPicture() const { return !picture_.isNull(); }
+  QSize sizeHint() const override;
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  QString no_picture_;
+  QImage picture_;
+};
+
+/// Everything that is known of a test, to read: rating, values, curve, picture, certificate.
+class TestDetails : public QWidget {
+ public:
+  explicit TestDetails(const WindowTools& tools, QWidget* parent = nullptr);
+
+  void Show(const std::optional<MeasuredTest>& test);
+  void ShowDescription(const QString& description);
+  /// The heading of the band values before a test of `quantity` is chosen.
+  void ShowCaptions(calculation::PartQuantity quantity);
+
+ private:
+  QWidget* MakeValues();
+  QWidget* MakeBands();
+  QWidget* MakeCertificate();
+  QLineEdit* Box(const QString& name, const QString& accessible_name);
+
+  WindowTools tools_;
+  QLabel* rating_ = nullptr;               ///< `Label3`
+  QPlainTextEdit* description_ = nullptr;  ///< `Text2`
+  std::array<QLineEdit*, 5> values_{};     ///< `Text4`, `Text5`, `Text6`, `Text3`, surface mass
+  QLabel* rating_caption_ = nullptr;
+  QLabel* band_caption_ = nullptr;
+  std::array<QLineEdit*, acoustics::kBandCount> bands_{};  ///< `Text1`
+  std::array<QLineEdit*, 5> certificate_{};
+  MeasuredCurveView* curve_ = nullptr;
+  PictureView* picture_ = nullptr;
+};
+
+/// "Rw(C,Ctr)= 50(-1, -5) dB", or "Dnew(C,Ctr)= ..."; a missing value is left out.
+QString RatingLabel(const calculation::FacadePart& part);
+
+}  // namespace velmar::structures

@@ -1,0 +1,78 @@
+#pragma once
+
+#include <QDir>
+#include <QSettings>
+#include <QStringList>
+#include <QTemporaryDir>
+#include <QWidget>
+#include <map>
+#include <memory>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+#include "shell/structures/structure_sources.h"
+#include "shell/structures/window_tools.h"
+
+namespace velmar::structures {
+
+/// Says what stores say of a file that another program holds.
+Failure LockedFailure();
+
+/// Answers every box, and keeps what was said.
+class FakeBoxes {
+ public:
+  WindowTools Tools();
+
+  bool answer = true;
+  QStringList questions{};
+  QStringList told{};
+  std::unique_ptr<QSettings> memory{};
+};
+
+/// Stored results in memory.
+class FakeResults {
+ public:
+  ResultSource Source();
+
+  std::map<ResultKind, std::vector<calculation::FacadePart>> tables{};
+  bool locked = false;
+  int lists = 0;  ///< how often the list was read
+};
+
+/// A library in memory.
+class FakeLibrary {
+ public:
+  LibrarySource Source();
+
+  std::map<Branch, std::vector<std::string>> files{};
+  std::map<std::string, std::vector<MeasuredTest>> tests{};  ///< by file name
+  std::map<std::string, std::string> keywords{};             ///< by test name
+  bool locked = false;
+};
+
+/// A part with R from `lowest` dB, 1 dB more a band.
+calculation::FacadePart PartOf(const std::string& name, double lowest);
+/// The same as a measured test.
+MeasuredTest TestOf(const std::string& name, double lowest);
+
+/// Walls, windows and a small element in three files, and stored results beside them.
+FakeLibrary SmallLibrary();
+
+/// The one child of `window` called `name`.
+template <typename Widget>
+Widget& Child(QWidget& window, const char* name) {
+  auto* child = window.findChild<Widget*>(QLatin1String(name));
+  if (child == nullptr) throw std::runtime_error(std::string("no control ") + name);
+  return *child;
+}
+
+/// Saves what `window` looks like into the folder VELMAR_PICTURES, when that is set.
+void Picture(QWidget& window, const QString& name);
+
+/// Selects the file `name` in the tree called `tree`.
+void OpenLibraryFile(QWidget& window, const char* tree, const QString& name);
+/// Selects the test in row `row` of the list called `list`.
+void SelectTest(QWidget& window, const char* list, int row);
+
+}  // namespace velmar::structures
