@@ -44,6 +44,7 @@ ComparisonPanel::ComparisonPanel(const WindowTools& tools, LibrarySource source,
   description_->setAccessibleName(tools.Text(kDescriptionRow));
   description_->setReadOnly(true);
   description_->setTabChangesFocus(true);
+  description_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   description_->setFixedHeight(fontMetrics().height() * 4);
   TestChooser::Controls controls;
   controls.tree = look.tree;

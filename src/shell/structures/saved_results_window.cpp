@@ -117,6 +117,7 @@ QWidget* SavedResultsWindow::MakeDetails() {
   description_->setObjectName(QStringLiteral("Text1"));
   description_->setReadOnly(true);
   description_->setTabChangesFocus(true);
+  description_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   description_->setAccessibleName(tools_.Text(kDescriptionRow));
   description_->setFixedHeight(fontMetrics().height() * 5);
   column->addWidget(name_);

@@ -55,6 +55,7 @@ TestDetails::TestDetails(const WindowTools& tools, QWidget* parent) : QWidget(pa
   description_->setAccessibleName(tools_.Text(kDescriptionRow));
   description_->setReadOnly(true);
   description_->setTabChangesFocus(true);
+  description_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   description_->setFixedHeight(fontMetrics().height() * 4);
   curve_ = new MeasuredCurveView(tools_, this);
   picture_ = new PictureView(tools_, this);

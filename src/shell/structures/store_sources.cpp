@@ -1,0 +1,181 @@
+#include "shell/structures/store_sources.h"
+
+#include <algorithm>
+#include <array>
+#include <stdexcept>
+#include <utility>
+
+#include "storage/library/library_store.h"
+#include "storage/library/pictures.h"
+#include "storage/results/result_copy.h"
+#include "storage/results/results_store.h"
+
+namespace velmar::structures {
+namespace {
+
+constexpr std::array kLibraryKeys = {
+    std::pair{Branch::kWalls, "Rw"},         std::pair{Branch::kLinings, "DRw"},
+    std::pair{Branch::kFloors, "Lnw"},       std::pair{Branch::kCoverings, "DLw"},
+    std::pair{Branch::kOpenings, "Infissi"}, std::pair{Branch::kSmallElements, "Piccoli elementi"},
+    std::pair{Branch::kFieldWalls, "R'w"},   std::pair{Branch::kFieldFloors, "L'nw"},
+};
+
+constexpr std::array kResultTables = {
+    std::pair{Branch::kCalculatedWalls, storage::ResultTable::kAirborne},
+    std::pair{Branch::kCalculatedFloors, storage::ResultTable::kImpact},
+    std::pair{Branch::kCalculatedLinings, storage::ResultTable::kLining},
+};
+
+template <typename Table>
+auto RowFor(const Table& table, Branch branch) {
+  return std::find_if(table.begin(), table.end(), [branch](const auto& row) { return row.first == branch; });
+}
+
+/// The table of the results database behind `branch`; nothing for a folder of the library.
+std::optional<storage::ResultTable> TableOf(Branch branch) {
+  const auto* row = RowFor(kResultTables, branch);
+  return row == kResultTables.end() ? std::nullopt : std::optional(row->second);
+}
+
+storage::LibraryFolder FolderOf(Branch branch) {
+  return storage::FindLibraryFolder(RowFor(kLibraryKeys, branch)->second).value();
+}
+
+storage::ResultTable TableOf(ResultKind kind) {
+  return kind == ResultKind::kAirborne ? storage::ResultTable::kAirborne : storage::ResultTable::kImpact;
+}
+
+MeasuredTest TestOf(const storage::LibraryFolder& folder, storage::MeasuredTest test,
+                    const std::filesystem::path& pictures) {
+  const storage::MeasuredCurve curve = storage::CurveOf(folder, test);
+  MeasuredTest shown;
+  shown.part.name = curve.name;
+  shown.part.description = curve.description;
+  shown.part.rating_db = curve.rating;
+  shown.part.c_db = curve.c;
+  shown.part.ctr_db = curve.ctr;
+  shown.part.area_m2 = curve.area_m2;
+  shown.part.mass_kg_m2 = test.mass_kg_m2;
+  shown.part.bands_db = curve.bands;
+  shown.part.origin = calculation::PartOrigin::kMeasurement;
+  shown.part.quantity = storage::IsSmallElement(folder) ? calculation::PartQuantity::kElementDifference
+                                                        : calculation::PartQuantity::kReductionIndex;
+  shown.certificate = std::move(test.certificate);
+  shown.date = std::move(test.date);
+  shown.laboratory = std::move(test.laboratory);
+  shown.client = std::move(test.client);
+  shown.notes = std::move(test.notes);
+  shown.picture = storage::PictureFile(pictures, folder.folder, test.picture);
+  shown.picture_name = std::move(test.picture);
+  return shown;
+}
+
+/// The stores behind a LibrarySource.
+class Library {
+ public:
+  Library(LibraryPlaces places, std::shared_ptr<storage::AccessSession> session)
+      : places_(std::move(places)),
+        session_(std::move(session)),
+        library_(places_.library, *session_),
+        results_(places_.results) {}
+
+  std::vector<std::string> Files(Branch branch) const {
+    if (TableOf(branch)) return {places_.results.stem().string()};
+    std::vector<std::string> names;
+    for (const storage::LibraryFile& file : library_.Files(FolderOf(branch))) names.push_back(file.name);
+    return names;
+  }
+
+  std::vector<TestEntry> Tests(const LibraryFile& file) const {
+    std::vector<TestEntry> entries;
+    if (const auto table = TableOf(file.branch)) {
+      for (storage::ListedResult& result : results_.List(*table))
+        entries.push_back({std::move(result.name), std::move(result.description), {}});
+      return entries;
+    }
+    const storage::LibraryFolder folder = FolderOf(file.branch);
+    for (storage::ListedTest& test : library_.Tests(folder, PathOf(folder, file.name)))
+      entries.push_back({std::move(test.name), std::move(test.description), std::move(test.keyword)});
+    return entries;
+  }
+
+  std::optional<MeasuredTest> Test(const LibraryFile& file, const std::string& name) const {
+    if (const auto table = TableOf(file.branch)) {
+      const auto result = results_.Find(*table, name);
+      if (!result) return std::nullopt;
+      MeasuredTest shown;
+      shown.part = PartOf(*result);
+      return shown;
+    }
+    const storage::LibraryFolder folder = FolderOf(file.branch);
+    auto test = library_.Find(folder, PathOf(folder, file.name), name);
+    if (!test) return std::nullopt;
+    return TestOf(folder, std::move(*test), places_.pictures);
+  }
+
+ private:
+  std::filesystem::path PathOf(const storage::LibraryFolder& folder, const std::string& name) const {
+    for (const storage::LibraryFile& file : library_.Files(folder)) {
+      if (file.name == name) return file.path;
+    }
+    return places_.library / folder.folder / (name + ".mdb");  // gone: opening it says so
+  }
+
+  LibraryPlaces places_;
+  std::shared_ptr<storage::AccessSession> session_;
+  storage::LibraryStore library_;
+  storage::ResultsStore results_;
+};
+
+}  // namespace
+
+calculation::FacadePart PartOf(const storage::SavedResult& result) {
+  calculation::FacadePart part;
+  part.name = result.name;
+  part.description = result.description;
+  part.rating_db = result.rating;
+  part.c_db = result.adaptation;
+  part.ctr_db = result.other_adaptation;
+  part.area_m2 = result.area_m2;
+  part.mass_kg_m2 = result.mass_kg_m2;
+  part.thickness_mm = result.thickness_mm;
+  part.bands_db = result.bands;
+  return part;
+}
+
+ResultSource StoredResults(const std::filesystem::path& file) {
+  const auto store = std::make_shared<storage::ResultsStore>(file);
+  ResultSource source;
+  source.list = [store](ResultKind kind) {
+    std::vector<ResultEntry> entries;
+    for (storage::ListedResult& result : store->List(TableOf(kind)))
+      entries.push_back({std::move(result.name), std::move(result.description)});
+    return entries;
+  };
+  source.find = [store](ResultKind kind, const std::string& name) -> std::optional<calculation::FacadePart> {
+    const auto result = store->Find(TableOf(kind), name);
+    if (!result) return std::nullopt;
+    return PartOf(*result);
+  };
+  source.copy = [store](ResultKind kind, const std::string& name) {
+    const auto result = store->Find(TableOf(kind), name);
+    return result ? storage::CopyOf(TableOf(kind), *result) : CopiedTable();
+  };
+  source.remove = [store](ResultKind kind, const std::string& name) {
+    return store->Delete(TableOf(kind), name);
+  };
+  return source;
+}
+
+LibrarySource MeasuredLibrary(const LibraryPlaces& places, std::shared_ptr<storage::AccessSession> session) {
+  const auto library = std::make_shared<const Library>(places, std::move(session));
+  LibrarySource source;
+  source.files = [library](Branch branch) { return library->Files(branch); };
+  source.tests = [library](const LibraryFile& file) { return library->Tests(file); };
+  source.test = [library](const LibraryFile& file, const std::string& name) {
+    return library->Test(file, name);
+  };
+  return source;
+}
+
+}  // namespace velmar::structures
