@@ -38,6 +38,7 @@ namespace {
 constexpr int kRecoveryDelayMs = 2000;
 constexpr QSize kFirstSize{1280, 720};
 constexpr int kInputsWidth = 600;
+constexpr int kNarrowestInputs = 520;
 constexpr MessageRow kForgetRow{1308};
 
 QScrollArea* InScrollArea(QWidget* page) {
@@ -118,6 +119,7 @@ void MainWindow::MakePages() {
 
 void MainWindow::MakeCentre() {
   auto* inputs = new QWidget;
+  inputs->setMinimumWidth(kNarrowestInputs);
   auto* column = new QVBoxLayout(inputs);
   column->setContentsMargins(0, 0, 0, 0);
   column->setSpacing(0);

@@ -16,7 +16,9 @@
 #include "foundation/failure.h"
 #include "shell/loader_window.h"
 #include "shell/main_window.h"
+#include "shell/paper_commands.h"
 #include "shell/phrases.h"
+#include "shell/report_commands.h"
 #include "storage/configuration/program_folder.h"
 #include "storage/materials/material_store.h"
 #include "storage/project/project_writer.h"
@@ -106,6 +108,8 @@ struct Desktop {
     services.start_program = [](const std::filesystem::path& program) {
       return QProcess::startDetached(QString::fromStdString(program.string()), {});
     };
+    AddPaperCommands(services);
+    AddReportCommands(services, environment.configuration.CartellaTemplates());
   }
 
   void Tell(const Message& message) const {

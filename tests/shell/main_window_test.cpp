@@ -8,14 +8,15 @@
 #include <QTabWidget>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QWheelEvent>
 #include <clocale>
 #include <random>
 
 #include "calculation/run.h"
 #include "calculation/select_calculation.h"
 #include "shell/calculation_menu.h"
+#include "shell/report_commands.h"
 #include "shell/tab_layout.h"
-#include "storage/project/project_writer.h"
 #include "tests/shell/window_fixture.h"
 
 namespace velmar::shell {
@@ -330,6 +331,145 @@ class MainWindowTest : public QObject {
     QVERIFY(rows.at(0).startsWith("Frequenza [Hz]\tLi [dB]\tRif [dB]"));
     QVERIFY(rows.at(22).startsWith("Lnw [dB]\t"));
     QCOMPARE(rows.at(24).count('\t'), 1);
+  }
+
+  void enterGoesToTheNextField() {
+    WindowFixture fixture;
+    fixture.window->show();
+    QVERIFY(QTest::qWaitForWindowActive(fixture.window.get()));
+    fixture.Choose(kSingleGeneric);
+    fixture.Find<QLineEdit>("Text5_0")->setFocus();
+    QTest::keyClick(fixture.Find<QLineEdit>("Text5_0"), Qt::Key_Return);
+    QCOMPARE(QApplication::focusWidget()->objectName(), QString("Combo2_0"));
+  }
+
+  void keysReachTabsAndRun() {
+    WindowFixture fixture;
+    fixture.window->show();
+    QVERIFY(QTest::qWaitForWindowActive(fixture.window.get()));
+    fixture.Choose(kDoubleGeneric);
+    QTest::keyClick(fixture.window.get(), Qt::Key_3, Qt::ControlModifier);
+    QCOMPARE(fixture.Find<QTabWidget>("SSTab1")->currentIndex(), 2);
+    QTest::keyClick(fixture.window.get(), Qt::Key_F5);
+    QVERIFY(fixture.open.Result());
+  }
+
+  void aMaterialIsFoundByTyping() {
+    WindowFixture fixture;
+    fixture.window->show();
+    QVERIFY(QTest::qWaitForWindowActive(fixture.window.get()));
+    fixture.Choose(kSingleGeneric);
+    auto* list = fixture.Find<QComboBox>("Combo3_0");
+    const QString name = list->itemText(5);
+    list->setFocus();
+    list->lineEdit()->selectAll();
+    QTest::keyClicks(list, name);
+    QTest::keyClick(list, Qt::Key_Return);
+    QCOMPARE(fixture.open.Setup().leaf1.rows[0].slot.name, name.toStdString());
+    QCOMPARE(list->currentText(), name);
+  }
+
+  void aMaterialThatIsNotThereChangesNothing() {
+    WindowFixture fixture;
+    fixture.window->show();
+    QVERIFY(QTest::qWaitForWindowActive(fixture.window.get()));
+    fixture.Choose(kSingleGeneric);
+    fixture.Run();
+    const elements::Setup before = fixture.open.Setup();
+    auto* list = fixture.Find<QComboBox>("Combo3_0");
+    const QString name = list->currentText();
+    list->setFocus();
+    list->lineEdit()->selectAll();
+    QTest::keyClicks(list, "criptonite");
+    QTest::keyClick(list, Qt::Key_Return);
+    QVERIFY(fixture.open.Setup() == before);
+    QVERIFY(fixture.open.Result());
+    QCOMPARE(list->currentText(), name);
+  }
+
+  void theWheelMovesAListOnlyWithTheFocus() {
+    WindowFixture fixture;
+    fixture.Choose(kSingleGeneric);
+    auto* list = fixture.Find<QComboBox>("Combo2_0");
+    const elements::Setup before = fixture.open.Setup();
+    QWheelEvent event({5, 5}, list->mapToGlobal(QPointF(5, 5)), {}, {0, -120}, Qt::NoButton, Qt::NoModifier,
+                      Qt::NoScrollPhase, false);
+    QApplication::sendEvent(list, &event);
+    QVERIFY(fixture.open.Setup() == before);
+  }
+
+  void aMissingManualIsTold() {
+    WindowFixture fixture;
+    fixture.Find<QAction>("tutorial")->trigger();
+    QCOMPARE(fixture.told.size(), 1);
+    fixture.Find<QAction>("ges_database")->trigger();
+    QCOMPARE(fixture.told.size(), 2);
+  }
+
+  void theKindButtonsBeginWithTheirFirstCalculation() {
+    WindowFixture fixture;
+    for (int button = 17; button <= 22; ++button) {
+      fixture.Find<QAction>("Button_" + QString::number(button))->trigger();
+      QCOMPARE(static_cast<int>(RowOf(*fixture.open.Setup().calculation).button), button);
+      QVERIFY(fixture.Find<QAction>("Salva_Progetto")->isEnabled());
+    }
+  }
+
+  void aTightnessClassTakesTheResultAway() {
+    WindowFixture fixture;
+    fixture.file = QString(EXAMPLES) + "/facciata.drav";
+    fixture.Find<QAction>("Apri_Progetto")->trigger();
+    fixture.Run();
+    auto* list = fixture.Find<QComboBox>("ComboTenutaAria_0");
+    QCOMPARE(list->count(), 5);
+    QTest::keyClick(list, list->currentIndex() > 0 ? Qt::Key_Up : Qt::Key_Down);
+    QVERIFY(!fixture.open.Result());
+  }
+
+  void reportsAreWrittenOrTold() {
+    const QTemporaryDir folder;
+    WindowFixture fixture;
+    fixture.Choose(kSingleGeneric);
+    fixture.Run();
+    AddReportCommands(fixture.services, std::filesystem::path(SHARE) / "Templates");
+    fixture.file = folder.filePath("relazione");
+    fixture.Find<QAction>("mnuFileEsportaWord")->trigger();
+    fixture.Find<QAction>("esp_excel")->trigger();
+    QCOMPARE(fixture.told, QStringList({"Il documento è stato salvato.", "Il documento è stato salvato."}));
+    QVERIFY(QFile::exists(folder.filePath("relazione.docx")));
+    QVERIFY(QFile::exists(folder.filePath("relazione.xlsx")));
+    AddReportCommands(fixture.services, folder.path().toStdString());
+    fixture.Find<QAction>("esp_excel")->trigger();
+    QVERIFY(fixture.told.last().contains("Formato_drav.xlsx"));
+  }
+
+  void aSmallElementHasADashForItsArea() {
+    WindowFixture fixture;
+    fixture.Choose("cal_facciata");
+    fixture.Type("Text7", "10");
+    fixture.Type("Text23_0", "2.5");
+    QCOMPARE(fixture.Find<QLabel>("Label19_0")->text(), QString("25,0%"));
+    fixture.Type("Text23_0", "-");
+    QCOMPARE(fixture.Find<QLineEdit>("Text23_0")->text(), QString("-"));
+    QCOMPARE(fixture.Find<QLabel>("Label19_0")->text(), QString("0,0%"));
+  }
+
+  void theSeaCavityShowsItsContents_data() {
+    QTest::addColumn<int>("type");
+    for (int type = 0; type < elements::kSeaCavityTypeCount; ++type)
+      QTest::newRow(std::to_string(type).c_str()) << type;
+  }
+  void theSeaCavityShowsItsContents() {
+    QFETCH(const int, type);
+    WindowFixture fixture;
+    fixture.Choose("TIPO_PARETE_DOPPIA_4");
+    auto* list = fixture.Find<QComboBox>("ComboTipoIntercSEA");
+    QCOMPARE(list->count(), 7);
+    for (int i = 0; i < type; ++i) QTest::keyClick(list, Qt::Key_Down);
+    const auto shown = static_cast<elements::SeaCavityType>(type);
+    QCOMPARE(VisibleRows(fixture, "ComboMatFibraIntercSEA", 3), FibreCount(shown));
+    QCOMPARE(VisibleRows(fixture, "ComboMatMassaIntercSEA", 2), MassCount(shown));
+    QCOMPARE(VisibleRows(fixture, "ComboMatSmorzIntercSEA", 2), MassCount(shown));
   }
 
   void aRandomWalkNeverShowsAForeignResult();

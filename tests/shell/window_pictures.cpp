@@ -1,11 +1,12 @@
-// window_pictures OUT.png WIDTH HEIGHT light|dark PROJECT.drav|- [TAB]: the main window with the result of a
-// project, as a picture.
+// window_pictures OUT.png WIDTH HEIGHT light|dark PROJECT.drav|- [TAB [CAVITY]]: the main window
+// with the result of a project, as a picture; CAVITY is the type of a SEA cavity.
 #include <QApplication>
 #include <QPalette>
 #include <QPixmap>
 #include <QTabWidget>
 #include <clocale>
 
+#include "calculation/layer_edits.h"
 #include "tests/shell/window_fixture.h"
 
 namespace {
@@ -29,6 +30,12 @@ int main(int argc, char** argv) {
   velmar::shell::WindowFixture fixture;
   if (arguments.at(5) != "-") {
     fixture.window->OpenProject(arguments.at(5).toStdString());
+    if (arguments.size() > 7) {
+      fixture.open.Edit([&](velmar::elements::Setup& setup) {
+        velmar::calculation::ChooseSeaCavityType(
+            setup, static_cast<velmar::elements::SeaCavityType>(arguments.at(7).toInt()));
+      });
+    }
     fixture.Run();
   }
   if (arguments.size() > 6) fixture.Find<QTabWidget>("SSTab1")->setCurrentIndex(arguments.at(6).toInt());
