@@ -8,6 +8,8 @@
 #include "application/projects.h"
 #include "cli/command_line.h"
 #include "cli/outcome_table.h"
+#include "cli/report_format.h"
+#include "report_formats.h"
 #include "storage/configuration/program_folder.h"
 #include "storage/materials/material_store.h"
 
@@ -19,6 +21,10 @@ velmar::cli::Services OpenServices(const std::optional<std::filesystem::path>& d
   services.words = [messages = std::move(environment.messages)](velmar::MessageRow row) {
     return messages.Text(row);
   };
+  services.report_formats = {velmar::cli::CsvFormat()};
+  for (velmar::cli::ReportFormat& format : FurtherReportFormats()) {
+    services.report_formats.push_back(std::move(format));
+  }
   services.material_database = environment.configuration.PercorsoDatabase();
   services.result_database = environment.configuration.PercorsoDatabaseTeorico();
   services.library_folder = environment.configuration.CartellaLibreria();

@@ -13,6 +13,7 @@
 #include "cli/materials_command.h"
 #include "cli/outcome_table.h"
 #include "cli/rate_command.h"
+#include "cli/report_command.h"
 #include "cli/results_command.h"
 #include "cli/run_command.h"
 #include "cli/save_command.h"
@@ -38,15 +39,32 @@ struct Parsed {
   ResultsCommand results{};
   LibraryCommand library{};
   ImportCommand import{};
+  ReportCommand report{};
 };
+
+void AddAnswer(CLI::App& command, Parsed& parsed, const presentation::Words& words) {
+  command.add_option("--answer", parsed.answer, words({1210}))
+      ->check(CLI::IsMember({"yes", "no"}))
+      ->capture_default_str();
+}
 
 void AddRun(CLI::App& app, Parsed& parsed, const presentation::Words& words) {
   CLI::App* command = app.add_subcommand("run", words({1205}));
   command->add_option("PROJECT", parsed.run.project, words({1244}))->required();
   command->add_flag("--json", parsed.run.json, words({1209}));
-  command->add_option("--answer", parsed.answer, words({1210}))
-      ->check(CLI::IsMember({"yes", "no"}))
-      ->capture_default_str();
+  AddAnswer(*command, parsed, words);
+}
+
+void AddReport(CLI::App& app, Parsed& parsed, const Services& services) {
+  CLI::App* command = app.add_subcommand("report", services.words({1295}));
+  command->add_option("FILE", parsed.report.projects, services.words({1299}))->required();
+  for (const ReportFormat& format : services.report_formats) {
+    const auto take = [&parsed, extension = format.extension](const std::string& target) {
+      parsed.report.targets[extension] = target;
+    };
+    command->add_option_function<std::string>("--" + format.extension, take, services.words(format.help));
+  }
+  AddAnswer(*command, parsed, services.words);
 }
 
 void AddSave(CLI::App& app, Parsed& parsed, const presentation::Words& words) {
@@ -159,6 +177,7 @@ void AddImport(CLI::App& app, Parsed& parsed, const presentation::Words& words) 
 ExitCode ExecuteParsed(const CLI::App& app, Parsed& parsed, const Services& services, std::ostream& out,
                        std::ostream& errors) {
   parsed.run.go_on_outside_ranges = parsed.answer == "yes";
+  parsed.report.go_on_outside_ranges = parsed.run.go_on_outside_ranges;
   if (app.got_subcommand("run")) return Execute(parsed.run, services, out, errors);
   if (app.got_subcommand("save")) return Execute(parsed.save, services, errors);
   if (app.got_subcommand("rate")) return Execute(parsed.rate, services.words, out, errors);
@@ -166,6 +185,7 @@ ExitCode ExecuteParsed(const CLI::App& app, Parsed& parsed, const Services& serv
   if (app.got_subcommand("results")) return Execute(parsed.results, services, out, errors);
   if (app.got_subcommand("library")) return Execute(parsed.library, services, out, errors);
   if (app.got_subcommand("import")) return Execute(parsed.import, services, out, errors);
+  if (app.got_subcommand("report")) return Execute(parsed.report, services, errors);
   return Execute(parsed.catalogue, services.words, out);
 }
 
@@ -196,6 +216,7 @@ int ParseAndExecute(std::span<const std::string> arguments, const Services& serv
   AddResults(app, parsed, words);
   AddLibrary(app, parsed, words);
   AddImport(app, parsed, words);
+  AddReport(app, parsed, services);
   try {
     std::vector<std::string> reversed(arguments.rbegin(), arguments.rend());
     app.parse(reversed);

@@ -1,7 +1,9 @@
 #pragma once
 
 #include <filesystem>
+#include <vector>
 
+#include "cli/report_format.h"
 #include "elements/material_record.h"
 #include "presentation/texts/words.h"
 
@@ -13,8 +15,9 @@ struct Services {
   elements::MaterialLookup materials{};
   std::filesystem::path material_database{};
   std::filesystem::path result_database{};
-  std::filesystem::path library_folder{};  ///< below which every kind of measured structure has its own
-  std::filesystem::path access_reader{};   ///< the program that reads genuine Access files; may be empty
+  std::filesystem::path library_folder{};      ///< below which every kind of measured structure has its own
+  std::filesystem::path access_reader{};       ///< the program that reads genuine Access files; may be empty
+  std::vector<ReportFormat> report_formats{};  ///< each an option of `report`
 };
 
 }  // namespace velmar::cli

@@ -1,0 +1,3 @@
+#include "report_formats.h"
+
+std::vector<velmar::cli::ReportFormat> FurtherReportFormats() { return {}; }

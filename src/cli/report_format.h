@@ -1,0 +1,34 @@
+#pragma once
+
+#include <functional>
+#include <string>
+
+#include "calculation/totals.h"
+#include "elements/result_set.h"
+#include "elements/setup.h"
+#include "foundation/message.h"
+#include "presentation/texts/words.h"
+
+namespace velmar::cli {
+
+/// What a report is made of.
+struct ReportContent {
+  std::string name{};  ///< of the project, without folder and extension; UTF-8
+  elements::Setup setup{};
+  elements::ResultSet result{};
+  calculation::Totals totals{};
+  presentation::Words words{};
+};
+
+/// A kind of report.
+struct ReportFormat {
+  std::string extension{};  ///< "pdf": its option is --pdf, its files end in ".pdf"
+  MessageRow help{};        ///< describes the option
+  /// The bytes of the file. @throws Failure when this calculation gives no such report
+  std::function<std::string(const ReportContent&)> bytes{};
+};
+
+/// The table of the results, for a spreadsheet.
+ReportFormat CsvFormat();
+
+}  // namespace velmar::cli

@@ -1,0 +1,36 @@
+#include "presentation/texts/results_csv.h"
+
+#include <gtest/gtest.h>
+
+namespace velmar::presentation {
+namespace {
+
+ResultsTable SmallTable() {
+  ResultsTable table{.frequency_heading = "Frequenza [Hz]",
+                     .value_heading = "Ri [dB]",
+                     .reference_heading = "Rif [dB]",
+                     .rows = {}};
+  table.rows[2] = {.title = "80", .value = "34,6", .reference = {}, .visible = true};
+  table.rows[3] = {.title = "100", .value = "36,2", .reference = "25", .visible = true};
+  table.rows[4] = {.title = "125", .value = "38,1", .reference = "28", .visible = false};
+  table.rows[21] = {.title = "Rw [dB]", .value = "44,0", .reference = {}, .visible = true};
+  return table;
+}
+
+TEST(ResultsCsv, HoldsTheShownRowsWithDecimalCommas) {
+  EXPECT_EQ(ResultsCsv(SmallTable()),
+            "\xEF\xBB\xBF"
+            "Frequenza [Hz];Ri [dB];Rif [dB]\r\n"
+            "80;34,6;\r\n"
+            "100;36,2;25\r\n"
+            "Rw [dB];44,0;\r\n");
+}
+
+TEST(ResultsCsv, QuotesWhatWouldPartACell) {
+  ResultsTable table = SmallTable();
+  table.value_heading = "R; \"i\"";
+  EXPECT_NE(ResultsCsv(table).find("Frequenza [Hz];\"R; \"\"i\"\"\";Rif [dB]\r\n"), std::string::npos);
+}
+
+}  // namespace
+}  // namespace velmar::presentation
