@@ -8,6 +8,7 @@
 #include <CLI/CLI.hpp>
 
 #include "cli/catalogue_command.h"
+#include "cli/facade_command.h"
 #include "cli/import_command.h"
 #include "cli/library_command.h"
 #include "cli/materials_command.h"
@@ -17,6 +18,7 @@
 #include "cli/results_command.h"
 #include "cli/run_command.h"
 #include "cli/save_command.h"
+#include "cli/save_result_command.h"
 #include "foundation/failure.h"
 
 namespace velmar::cli {
@@ -40,6 +42,8 @@ struct Parsed {
   LibraryCommand library{};
   ImportCommand import{};
   ReportCommand report{};
+  SaveResultCommand save_result{};
+  FacadeCommand facade{};
 };
 
 void AddAnswer(CLI::App& command, Parsed& parsed, const presentation::Words& words) {
@@ -149,6 +153,19 @@ void AddResults(CLI::App& app, Parsed& parsed, const presentation::Words& words)
   add("list", {1263}, ResultsAction::kList);
   add("show", {1264}, ResultsAction::kShow);
   add("delete", {1265}, ResultsAction::kDelete);
+  CLI::App* save = group->add_subcommand("save", words({1280}));
+  save->add_option("PROJECT", parsed.save_result.project, words({1244}))->required();
+  save->add_option("NAME", parsed.save_result.name, words({1279}))->required();
+  AddAnswer(*save, parsed, words);
+  save->add_flag("--json", parsed.save_result.json, words({1209}));
+}
+
+void AddFacade(CLI::App& app, Parsed& parsed, const presentation::Words& words) {
+  CLI::App* command = app.add_subcommand("facade", words({1282}));
+  command->add_option("IN", parsed.facade.from, words({1245}))->required();
+  command->add_option("OUT", parsed.facade.to, words({1246}))->required();
+  command->add_option("--opaque", parsed.facade.opaque, words({1283}));
+  command->add_option("--component", parsed.facade.components, words({1284}))->expected(1)->take_all();
 }
 
 void AddLibrary(CLI::App& app, Parsed& parsed, const presentation::Words& words) {
@@ -182,6 +199,11 @@ ExitCode ExecuteParsed(const CLI::App& app, Parsed& parsed, const Services& serv
   if (app.got_subcommand("save")) return Execute(parsed.save, services, errors);
   if (app.got_subcommand("rate")) return Execute(parsed.rate, services.words, out, errors);
   if (app.got_subcommand("materials")) return Execute(parsed.materials, services, out, errors);
+  parsed.save_result.go_on_outside_ranges = parsed.answer == "yes";
+  if (app.got_subcommand("facade")) return Execute(parsed.facade, services, errors);
+  if (app.got_subcommand("results") && app.get_subcommand("results")->got_subcommand("save")) {
+    return Execute(parsed.save_result, services, out, errors);
+  }
   if (app.got_subcommand("results")) return Execute(parsed.results, services, out, errors);
   if (app.got_subcommand("library")) return Execute(parsed.library, services, out, errors);
   if (app.got_subcommand("import")) return Execute(parsed.import, services, out, errors);
@@ -217,6 +239,7 @@ int ParseAndExecute(std::span<const std::string> arguments, const Services& serv
   AddLibrary(app, parsed, words);
   AddImport(app, parsed, words);
   AddReport(app, parsed, services);
+  AddFacade(app, parsed, words);
   try {
     std::vector<std::string> reversed(arguments.rbegin(), arguments.rend());
     app.parse(reversed);

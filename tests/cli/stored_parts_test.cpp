@@ -1,0 +1,98 @@
+#include <filesystem>
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+#include <nlohmann/json.hpp>
+
+#include "cli/command_line.h"
+#include "tests/storage/support/temporary_folder.h"
+
+namespace velmar::cli {
+namespace {
+
+/// The command line on a copy of the shipped results database and the shipped library.
+class StoredPartsTest : public testing::Test {
+ protected:
+  StoredPartsTest() {
+    std::filesystem::copy_file(SHIPPED "/Databases/Database/Database_teorico.mdb", folder_ / "results.mdb");
+  }
+
+  struct Said {
+    int code = -1;
+    std::string out;
+    std::string errors;
+    nlohmann::json Json() const { return nlohmann::json::parse(out); }
+  };
+
+  Said Say(const std::vector<std::string>& arguments) {
+    const OpenServices open = [this](const auto&) {
+      Services services;
+      services.words = [](MessageRow row) { return "row " + std::to_string(row.number); };
+      services.materials.structural = [](std::string_view) { return std::nullopt; };
+      services.materials.fibrous = [](std::string_view) { return std::nullopt; };
+      services.materials.resilient = [](std::string_view) { return std::nullopt; };
+      services.result_database = folder_ / "results.mdb";
+      services.library_folder = SHIPPED "/Databases/Database";
+      return services;
+    };
+    std::ostringstream out;
+    std::ostringstream errors;
+    const int code = RunCommandLine(arguments, open, out, errors);
+    return {code, out.str(), errors.str()};
+  }
+
+  static std::string Example(const char* name) { return std::string(EXAMPLES) + "/" + name + ".drav"; }
+
+  storage::TemporaryFolder folder_;
+};
+
+TEST_F(StoredPartsTest, AResultIsStoredOnceUnderAName) {
+  const std::string project = Example("doppia-forati-lana");
+  EXPECT_EQ(Say({"results", "save", project, "Doppia forati"}).code, 0);
+  const auto stored = Say({"results", "show", "Doppia forati", "--json"}).Json();
+  const auto run = Say({"run", project, "--json"}).Json();
+  EXPECT_EQ(stored["Rw (dB)"], run["Rw"]);
+  EXPECT_EQ(stored["R - 500Hz (dB)"], run["spectrum"][10]);
+  EXPECT_EQ(stored["m' (kg/m²)"], run["surface_mass"]);
+  const Said again = Say({"results", "save", project, "DOPPIA FORATI"});
+  EXPECT_EQ(again.code, 3);
+  EXPECT_EQ(again.errors, "row 224\n");
+  EXPECT_EQ(Say({"results", "list", "--json"}).Json().size(), 1U);
+}
+
+TEST_F(StoredPartsTest, ADeclinedRunStoresNothing) {
+  EXPECT_EQ(Say({"results", "save", Example("parete-fuori-campo"), "Pieni"}).code, 3);
+  EXPECT_TRUE(Say({"results", "list", "--json"}).Json().empty());
+  EXPECT_EQ(Say({"results", "save", Example("parete-fuori-campo"), "Pieni", "--answer", "yes"}).code, 0);
+}
+
+TEST_F(StoredPartsTest, AFacadeTakesItsPartsByName) {
+  ASSERT_EQ(Say({"results", "save", Example("doppia-forati-lana"), "Muro"}).code, 0);
+  ASSERT_EQ(Say({"results", "save", Example("vetrocamera-stratificata"), "Vetro"}).code, 0);
+  const std::string out = (folder_ / "facade.drav").string();
+  ASSERT_EQ(
+      Say({"facade", Example("facciata"), out, "--opaque", "results:Muro", "--component", "1=results:vetro"})
+          .code,
+      0);
+  const std::string bytes = storage::ReadFile(out);
+  EXPECT_NE(bytes.find("Muro"), std::string::npos);
+  EXPECT_NE(bytes.find("Vetro"), std::string::npos);
+  const auto before = Say({"run", Example("facciata"), "--json"}).Json();
+  const auto after = Say({"run", out, "--json"}).Json();
+  EXPECT_EQ(after["status"], "ok");
+  EXPECT_NE(after["spectrum"], before["spectrum"]);
+}
+
+TEST_F(StoredPartsTest, AFacadeRefusesWhatIsNotThereAndSavesNothing) {
+  const std::string out = (folder_ / "facade.drav").string();
+  for (const char* where : {"1=results:Niente", "1=library:Rw/Nessuna serie/x", "10=results:Muro", "Muro"}) {
+    EXPECT_EQ(Say({"facade", Example("facciata"), out, "--component", where}).code, 3) << where;
+  }
+  EXPECT_EQ(Say({"facade", Example("vetro-6"), out, "--opaque", "results:Muro"}).errors, "row 1281\n");
+  EXPECT_FALSE(std::filesystem::exists(out));
+}
+
+}  // namespace
+}  // namespace velmar::cli
