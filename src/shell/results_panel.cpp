@@ -181,7 +181,10 @@ void ResultsPanel::ShowChart() {
   auto chart =
       result ? presentation::CurveChartOf(context_.open.Setup(), *result, context_.Words()) : std::nullopt;
   autoscale_->setEnabled(result.has_value());
-  if (chart) chart->autoscale = autoscale_->isChecked();
+  if (chart) {
+    chart->autoscale = autoscale_->isChecked();
+    if (context_.services.lay_over) context_.services.lay_over(*chart);
+  }
   chart_->Show(chart ? *chart : presentation::EmptyChart(context_.Words()));
 }
 

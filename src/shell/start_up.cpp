@@ -19,6 +19,7 @@
 #include "shell/paper_commands.h"
 #include "shell/phrases.h"
 #include "shell/report_commands.h"
+#include "shell/structure_commands.h"
 #include "storage/configuration/program_folder.h"
 #include "storage/materials/material_store.h"
 #include "storage/project/project_writer.h"
@@ -104,6 +105,13 @@ struct Desktop {
     services.write_project = [this](const std::filesystem::path& file, const elements::Setup& setup) {
       storage::SaveProject(file, setup, unknown);
     };
+    structure_commands = std::make_unique<StructureCommands>(
+        services,
+        structures::LibraryPlaces{environment.configuration.CartellaLibreria(),
+                                  environment.configuration.CartellaImmagini(),
+                                  environment.configuration.PercorsoDatabaseTeorico()},
+        std::make_shared<storage::AccessSession>(
+            storage::AccessReader{storage::AccessReaderProgram(storage::ProgramFolder()).value_or("")}));
     services.open_address = [](const QString& address) { return QDesktopServices::openUrl(QUrl(address)); };
     services.start_program = [](const std::filesystem::path& program) {
       return QProcess::startDetached(QString::fromStdString(program.string()), {});
@@ -121,6 +129,7 @@ struct Desktop {
   storage::MaterialStore store;
   storage::StoredCalculation unknown{};
   WindowServices services{open};
+  std::unique_ptr<StructureCommands> structure_commands{};
 };
 
 /// `CaricaDatabase`. Failures are told; the window opens with what there is.

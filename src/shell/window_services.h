@@ -12,6 +12,7 @@
 #include "calculation/open_calculation.h"
 #include "elements/layer_groups.h"
 #include "elements/material_record.h"
+#include "presentation/drawing/curve_chart.h"
 #include "presentation/texts/words.h"
 #include "shell/boxes.h"
 #include "shell/command_table.h"
@@ -73,6 +74,8 @@ struct WindowServices {
   std::function<void(QWidget* parent, const ElementPick&)> pick_saved_result{};
   std::function<void(QWidget* parent, const ElementPick&)> pick_measured{};
   std::map<CommandId, std::function<void(QWidget* parent)>> command_windows{};
+  /// Lays further curves over the chart of a result before it is shown.
+  std::function<void(presentation::CurveChart&)> lay_over{};
   /// Told whenever a result goes: windows that show it close.
   std::function<void()> result_gone{};
 

@@ -1,8 +1,10 @@
 #include "shell/structures/comparison_window.h"
+#include "shell/structures/structure_rows.h"
 
 namespace velmar::structures {
 namespace {
 
+constexpr MessageRow kLiningRow{176};
 constexpr MessageRow kCustomRow{379};
 constexpr MessageRow kTheoreticalRow{380};
 constexpr MessageRow kWallsRow{381};
@@ -29,7 +31,9 @@ std::vector<TreeNode> LaboratoryNodes(elements::Family family, const WindowTools
   }
   custom.children.push_back({tools.Text(kWallsRow), {Branch::kWalls, Branch::kOpenings}, {}});
   if (IsLining(family)) {
-    theoretical.branches = {Branch::kCalculatedLinings, Branch::kCalculatedWalls};
+    theoretical.branches.clear();
+    theoretical.children.push_back({tools.Text(kLiningRow), {Branch::kCalculatedLinings}, {}});
+    theoretical.children.push_back({tools.Text(kAirborneResultsRow), {Branch::kCalculatedWalls}, {}});
     custom.children.push_back({tools.Text(kLiningsRow), {Branch::kLinings}, {}});
     custom.children.push_back({tools.Text(kCoveringsRow), {Branch::kCoverings}, {}});
   }

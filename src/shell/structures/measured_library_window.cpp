@@ -56,7 +56,7 @@ MeasuredLibraryWindow::MeasuredLibraryWindow(WindowTools tools, LibrarySource so
   const QFontMetrics metrics = fontMetrics();
   const int character = metrics.averageCharWidth();
   resize(character * 190, metrics.height() * 40);
-  chooser_->Splitter()->setSizes({character * 34, character * 46, character * 110});
+  chooser_->Splitter()->setSizes({character * 44, character * 44, character * 102});
   RestoreSizes(tools_.memory, SizesOf(this, *chooser_));
 }
 

@@ -18,7 +18,7 @@ namespace {
 
 constexpr MessageRow kTreeNameRow{1714};
 constexpr MessageRow kListNameRow{1715};
-constexpr int kTreeCharacters = 34;
+constexpr int kTreeCharacters = 42;
 constexpr int kListCharacters = 44;
 
 }  // namespace
@@ -49,7 +49,10 @@ QWidget* TestChooser::MakeTree(const Controls& controls) {
   tree_->setAccessibleName(tools_.Text(kTreeNameRow));
   tree_->setHeaderHidden(true);
   tree_->setUniformRowHeights(true);
-  tree_->setTextElideMode(Qt::ElideMiddle);
+  tree_->setTextElideMode(Qt::ElideNone);  // the names differ at their ends: a long one is scrolled to
+  tree_->setIndentation(fontMetrics().averageCharWidth() * 2);
+  tree_->header()->setStretchLastSection(false);
+  tree_->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
   tree_->setMinimumWidth(fontMetrics().averageCharWidth() * kTreeCharacters / 2);
   FillTree(*tree_, controls.nodes, source_, tools_);
   connect(tree_, &QTreeWidget::currentItemChanged, this, [this](const QTreeWidgetItem* item) {

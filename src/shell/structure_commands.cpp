@@ -1,0 +1,180 @@
+#include "shell/structure_commands.h"
+
+#include <QPointer>
+#include <QSettings>
+#include <QWidget>
+#include <filesystem>
+
+#include "calculation/facade_parts.h"
+#include "elements/catalogue.h"
+#include "foundation/failure.h"
+#include "shell/phrases.h"
+#include "shell/results_panel.h"
+#include "shell/structures/comparison_window.h"
+#include "shell/structures/measured_library_window.h"
+#include "shell/structures/saved_results_window.h"
+
+namespace velmar::shell {
+namespace {
+
+using structures::ComparisonWindow;
+using structures::MeasuredLibraryWindow;
+using structures::ResultKind;
+using structures::SavedResultsWindow;
+
+calculation::ChosenElement ChosenFrom(const calculation::FacadePart& part) {
+  calculation::ChosenElement chosen;
+  chosen.name = part.name;
+  chosen.description = part.description;
+  chosen.rating_text = calculation::BoxText(part.rating_db);
+  chosen.c_text = calculation::BoxText(part.c_db);
+  chosen.ctr_text = calculation::BoxText(part.ctr_db);
+  chosen.area_text = calculation::BoxText(part.area_m2);
+  for (std::size_t i = 0; i < chosen.band_texts.size(); ++i)
+    chosen.band_texts[i] = calculation::BoxText(part.bands_db[i]);
+  chosen.mass_kg_m2 = static_cast<float>(part.mass_kg_m2.value_or(0.0));
+  chosen.thickness_mm = part.thickness_mm.value_or(0.0);
+  return chosen;
+}
+
+bool IsFacade(const elements::Setup& setup) {
+  return setup.calculation && RowOf(*setup.calculation).family == elements::Family::kFacade;
+}
+
+/// Shows `window` above the main window, which waits until it is closed.
+void ShowAndWait(QDialog* window) {
+  window->setAttribute(Qt::WA_DeleteOnClose);
+  window->setWindowModality(Qt::WindowModal);
+  window->show();
+}
+
+}  // namespace
+
+class StructureCommands::Windows {
+ public:
+  Windows(WindowServices& services, structures::LibraryPlaces places,
+          std::shared_ptr<storage::AccessSession> session)
+      : services_(services),
+        results_(structures::StoredResults(places.results)),
+        library_(structures::MeasuredLibrary(places, std::move(session))) {
+    tools_.words = services.words;
+    tools_.ask = services.boxes.ask;
+    tools_.tell = [tell = services.boxes.tell](const QString& text) { tell(Tone::kCritical, text); };
+    if (!services.places.settings.empty()) {
+      const std::filesystem::path file = services.places.settings.parent_path() / "strutture.ini";
+      memory_ = std::make_unique<QSettings>(QString::fromStdString(file.string()), QSettings::IniFormat);
+      tools_.memory = memory_.get();
+    }
+  }
+
+  std::vector<std::string> Names() const {
+    std::vector<std::string> names;
+    try {
+      for (structures::ResultEntry& entry : results_.list(ResultKind::kAirborne))
+        names.push_back(std::move(entry.name));
+    } catch (const Failure&) {
+      return {};  // the lists are filled often: only who opens the results window is told
+    }
+    return names;
+  }
+
+  std::optional<calculation::ChosenElement> Find(const std::string& name) const {
+    std::optional<calculation::FacadePart> part;
+    tools_.Try([&] { part = results_.find(ResultKind::kAirborne, name); });
+    if (!part) return std::nullopt;
+    return ChosenFrom(*part);
+  }
+
+  void ShowResults(QWidget* parent, const std::optional<ElementPick>& pick) {
+    SavedResultsWindow::Listener listener;
+    if (pick) listener.take = [this, pick](const calculation::FacadePart& part) { Take(*pick, part); };
+    ShowAndWait(new SavedResultsWindow(tools_, results_, std::move(listener), parent));
+  }
+
+  void ShowLibrary(QWidget* parent, const std::optional<ElementPick>& pick) {
+    structures::MeasuredTarget target;
+    if (pick) {
+      target.component = pick->component;
+      target.take = [this, pick](const calculation::FacadePart& part) { Take(*pick, part); };
+    }
+    ShowAndWait(new MeasuredLibraryWindow(tools_, library_, std::move(target), parent));
+  }
+
+  void ShowComparison(QWidget* parent) {
+    const auto& calculation = services_.open.Setup().calculation;
+    if (!calculation) return;
+    if (comparison_) comparison_->close();
+    overlay_ = {};
+    comparison_ = new ComparisonWindow(
+        tools_, library_, RowOf(*calculation).family,
+        [this,
+         panel = QPointer(parent->findChild<QWidget*>("prnFrame1"))](const structures::Overlay& overlay) {
+          overlay_ = overlay;
+          if (auto* results = dynamic_cast<ResultsPanel*>(panel.data())) results->Show();
+        },
+        parent);
+    comparison_->setAttribute(Qt::WA_DeleteOnClose);
+    comparison_->show();
+  }
+
+  void LayOver(presentation::CurveChart& chart) const {
+    if (comparison_ && comparison_->isVisible()) structures::LayOver(chart, overlay_);
+  }
+
+  void ResultGone() {
+    if (comparison_) comparison_->ResultGone();
+  }
+
+ private:
+  void Take(const ElementPick& pick, const calculation::FacadePart& part) {
+    services_.open.Edit([&](elements::Setup& setup) {
+      if (pick.component > 0) {
+        calculation::TakeAsComponent(setup, pick.component, part);
+      } else if (IsFacade(setup)) {
+        calculation::TakeAsOpaquePart(setup, part);
+      } else {
+        calculation::TakeAsLiningBase(setup, part);
+      }
+    });
+  }
+
+  WindowServices& services_;
+  structures::WindowTools tools_;
+  structures::ResultSource results_;
+  structures::LibrarySource library_;
+  std::unique_ptr<QSettings> memory_;
+  QPointer<ComparisonWindow> comparison_;
+  structures::Overlay overlay_;
+};
+
+StructureCommands::StructureCommands(WindowServices& services, structures::LibraryPlaces places,
+                                     std::shared_ptr<storage::AccessSession> session)
+    : windows_(std::make_unique<Windows>(services, std::move(places), std::move(session))) {
+  Windows* windows = windows_.get();
+  services.saved_results = [windows] { return windows->Names(); };
+  services.saved_result = [windows](const std::string& name) { return windows->Find(name); };
+  services.pick_saved_result = [windows](QWidget* parent, const ElementPick& pick) {
+    windows->ShowResults(parent, pick);
+  };
+  services.pick_measured = [windows](QWidget* parent, const ElementPick& pick) {
+    windows->ShowLibrary(parent, pick);
+  };
+  services.command_windows[CommandId::kSavedResults] = [windows](QWidget* parent) {
+    windows->ShowResults(parent, std::nullopt);
+  };
+  services.command_windows[CommandId::kMeasuredRw] = [windows](QWidget* parent) {
+    windows->ShowLibrary(parent, std::nullopt);
+  };
+  services.command_windows[CommandId::kCompare] = [windows](QWidget* parent) {
+    windows->ShowComparison(parent);
+  };
+  services.lay_over = [windows](presentation::CurveChart& chart) { windows->LayOver(chart); };
+  services.result_gone = [windows, before = services.result_gone] {
+    if (before) before();
+    windows->ResultGone();
+  };
+}
+
+StructureCommands::~StructureCommands() = default;
+
+}  // namespace velmar::shell
