@@ -94,6 +94,8 @@ void ElementHeader::AddNumbers(QVBoxLayout& column, std::function<void()> edit_d
   dimension_labels_ = {width_, times, height_};
   line->addWidget(times);
   line->addWidget(height_);
+  area_ = named("LabelArea");
+  line->addWidget(area_);
   line->addSpacing(3 * kPageSpacing);
 
   totals_ = new QWidget(this);
@@ -169,10 +171,13 @@ void ElementHeader::Show() {
   const calculation::Totals& totals = context_.open.CurrentTotals();
   thickness_->setText(FromUtf8(FormatShortest(totals.thickness_mm)));
   mass_->setText(FromUtf8(FormatShortest(totals.surface_mass_kg_m2)));
-  // A facade has an area, on its own page, and no layers.
+  // A facade has an area, which is entered on its own page too, and no layers.
   const bool facade = row.family == elements::Family::kFacade;
   totals_->setVisible(!facade);
   for (QWidget* widget : dimension_labels_) widget->setVisible(!facade);
+  const QString area = FromUtf8(setup.base.area_text);
+  area_->setText(area + QStringLiteral(" m²"));
+  area_->setVisible(facade && !area.isEmpty());
 
   const bool support = layout.support != SupportField::kHidden;
   const bool counts =

@@ -38,6 +38,7 @@ class ElementHeader : public QWidget {
   QLabel* width_ = nullptr;
   QLabel* height_ = nullptr;
   std::array<QWidget*, 3> dimension_labels_{};
+  QLabel* area_ = nullptr;
   QWidget* totals_ = nullptr;
   QLabel* thickness_ = nullptr;
   QLabel* mass_ = nullptr;

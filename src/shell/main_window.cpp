@@ -87,7 +87,8 @@ MainWindow::MainWindow(const WindowServices& services, QWidget* parent)
   services_.open.OnChange([this] { ShowAll(); });
   setWindowTitle(files_.Caption());
   sides_->setSizes({kInputsWidth, kFirstSize.width() - kInputsWidth});
-  if (!memory_.RestoreSizes(*this, *sides_, *results_->Splitter())) resize(kFirstSize);
+  sides_arranged_ = memory_.RestoreSizes(*this, *sides_, *results_->Splitter());
+  if (!sides_arranged_) resize(kFirstSize);
   ShowProjects();
   ShowAll();
 }
@@ -247,12 +248,15 @@ void MainWindow::ShowAll() {
     if (services_.result_gone) services_.result_gone();
   }
   had_result_ = has_result;
+  // A second run may give another result; the table shows the one that stands.
+  if (has_result && table_ && table_->isVisible()) table_->Show(TableNow());
   recovery_.Follow();
   const Needs state = has_result ? Needs::kResult : setup.calculation ? Needs::kCalculation : Needs::kNothing;
   commands_.Enable(state, table_ && table_->isVisible());
   tool_bar_->ShowRunDue(state == Needs::kCalculation);
   centre_->setCurrentWidget(setup.calculation ? static_cast<QWidget*>(sides_) : start_);
   if (!setup.calculation) return;
+  ArrangeSides();
   LayOutTabs();
   header_->Show();
   for (const ShownTab& shown : TabsOf(*setup.calculation))
@@ -260,11 +264,21 @@ void MainWindow::ShowAll() {
   results_->Show();
 }
 
+// Only once they are on the screen do the sides keep what they are given; what the inputs leave goes to the
+// results.
+void MainWindow::ArrangeSides() {
+  if (sides_arranged_ || !sides_->isVisible()) return;
+  sides_arranged_ = true;
+  sides_->setSizes({kInputsWidth, sides_->width() - kInputsWidth});
+}
+
+presentation::ResultsTable MainWindow::TableNow() const {
+  return presentation::ResultsTableOf(services_.open.Setup(), *services_.open.Result(), services_.words);
+}
+
 void MainWindow::ShowTable() {
-  const auto& result = services_.open.Result();
-  if (!result || table_) return;
-  table_ = new ResultsTableWindow(
-      presentation::ResultsTableOf(services_.open.Setup(), *result, services_.words), services_.words, this);
+  if (!services_.open.Result() || table_) return;
+  table_ = new ResultsTableWindow(TableNow(), services_.words, this);
   connect(table_, &QObject::destroyed, this, [this] { ShowAll(); });
   table_->show();
   ShowAll();

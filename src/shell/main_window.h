@@ -11,6 +11,7 @@
 #include "shell/page_context.h"
 #include "shell/project_files.h"
 #include "shell/recovery.h"
+#include "shell/results_table_window.h"
 #include "shell/tab_layout.h"
 #include "shell/window_memory.h"
 
@@ -57,7 +58,9 @@ class MainWindow : public QMainWindow {
   void Begin(elements::ElementButton button);
   void LayOutTabs();
   void ShowAll();
+  void ArrangeSides();
   void ShowTable();
+  presentation::ResultsTable TableNow() const;
   void ShowProjects();
   void Exit(bool asking);
   std::vector<std::filesystem::path> Examples() const;
@@ -79,9 +82,10 @@ class MainWindow : public QMainWindow {
   QTabWidget* tabs_ = nullptr;
   std::array<Page*, kTabCount> pages_{};
   ResultsPanel* results_ = nullptr;
-  QPointer<QWidget> table_;
+  QPointer<ResultsTableWindow> table_;
   std::optional<elements::Calculation> laid_out_;
   bool had_result_ = false;
+  bool sides_arranged_ = false;
 };
 
 }  // namespace velmar::shell

@@ -38,42 +38,49 @@ ResultsTableWindow::ResultsTableWindow(const presentation::ResultsTable& table,
   auto* frame = new QGroupBox(Text(words, kSpectrumRow), this);
   frame->setObjectName("Frame1");
   auto* inner = new QVBoxLayout(frame);
-  auto* view = new QTableWidget(frame);
-  view->setObjectName("Tabella");
-  view->setAccessibleName(frame->title());
-  FillTable(*view);
-  inner->addWidget(view);
+  view_ = new QTableWidget(frame);
+  view_->setObjectName("Tabella");
+  view_->setAccessibleName(frame->title());
+  FillTable();
+  inner->addWidget(view_);
   column->addWidget(frame, 1);
 
   auto* line = new QHBoxLayout;
-  auto* copy = new QPushButton(Text(words, kCopyRow), this);
-  copy->setObjectName("Command1_1");
-  connect(copy, &QPushButton::clicked, this, [this, copy] {
+  copy_ = new QPushButton(Text(words, kCopyRow), this);
+  copy_->setObjectName("Command1_1");
+  connect(copy_, &QPushButton::clicked, this, [this] {
     QGuiApplication::clipboard()->setText(FromUtf8(presentation::ClipboardText(table_)));
-    copy->setEnabled(false);
+    copy_->setEnabled(false);
   });
   auto* close_button = new QPushButton(Text(words, kCloseRow), this);
   close_button->setObjectName("Command1_0");
   close_button->setDefault(true);
   connect(close_button, &QPushButton::clicked, this, &QDialog::close);
-  line->addWidget(copy);
+  line->addWidget(copy_);
   line->addStretch(1);
   line->addWidget(close_button);
   column->addLayout(line);
   resize(320, 640);
 }
 
-void ResultsTableWindow::FillTable(QTableWidget& view) const {
-  view.setColumnCount(2);
-  view.setRowCount(static_cast<int>(table_.rows.size()));
-  view.setHorizontalHeaderLabels({FromUtf8(table_.frequency_heading), FromUtf8(table_.value_heading)});
-  view.verticalHeader()->hide();
-  view.horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
-  for (int i = 0; i < view.rowCount(); ++i) {
+void ResultsTableWindow::Show(const presentation::ResultsTable& table) {
+  if (table.rows == table_.rows) return;
+  table_ = table;
+  FillTable();
+  copy_->setEnabled(true);
+}
+
+void ResultsTableWindow::FillTable() {
+  view_->setColumnCount(2);
+  view_->setRowCount(static_cast<int>(table_.rows.size()));
+  view_->setHorizontalHeaderLabels({FromUtf8(table_.frequency_heading), FromUtf8(table_.value_heading)});
+  view_->verticalHeader()->hide();
+  view_->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
+  for (int i = 0; i < view_->rowCount(); ++i) {
     const presentation::ResultsTableRow& row = table_.rows.at(static_cast<std::size_t>(i));
-    view.setItem(i, 0, Cell(row.title));
-    view.setItem(i, 1, Cell(row.value));
-    view.setRowHidden(i, !row.visible);
+    view_->setItem(i, 0, Cell(row.title));
+    view_->setItem(i, 1, Cell(row.value));
+    view_->setRowHidden(i, !row.visible);
   }
 }
 

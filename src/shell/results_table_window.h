@@ -18,10 +18,15 @@ class ResultsTableWindow : public QDialog {
   ResultsTableWindow(const presentation::ResultsTable& table, const presentation::Words& words,
                      QWidget* parent = nullptr);
 
+  /// Shows `table` from now on; it can be copied anew.
+  void Show(const presentation::ResultsTable& table);
+
  private:
-  void FillTable(QTableWidget& view) const;
+  void FillTable();
 
   presentation::ResultsTable table_;
+  QTableWidget* view_ = nullptr;
+  QPushButton* copy_ = nullptr;
 };
 
 }  // namespace velmar::shell
