@@ -264,12 +264,13 @@ void MainWindow::ShowAll() {
   results_->Show();
 }
 
-// Only once they are on the screen do the sides keep what they are given; what the inputs leave goes to the
-// results.
+// Only once they have their place on the screen do the sides keep what they are given; what the inputs leave
+// goes to the results.
 void MainWindow::ArrangeSides() {
   if (sides_arranged_ || !sides_->isVisible()) return;
   sides_arranged_ = true;
-  sides_->setSizes({kInputsWidth, sides_->width() - kInputsWidth});
+  sides_->setGeometry(centre_->rect());
+  sides_->setSizes({kInputsWidth, centre_->width() - kInputsWidth});
 }
 
 presentation::ResultsTable MainWindow::TableNow() const {
