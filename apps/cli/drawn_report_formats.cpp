@@ -1,4 +1,6 @@
 #include "cli/drawn/drawn_formats.h"
 #include "report_formats.h"
 
-std::vector<velmar::cli::ReportFormat> FurtherReportFormats() { return velmar::cli::DrawnFormats(); }
+std::vector<velmar::cli::ReportFormat> FurtherReportFormats(const std::filesystem::path& templates) {
+  return velmar::cli::DrawnFormats(templates);
+}

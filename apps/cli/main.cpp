@@ -15,6 +15,14 @@
 
 namespace {
 
+/// The user's templates; the shipped ones while the data folder has none.
+std::filesystem::path TemplateFolder(const velmar::application::Environment& environment) {
+  const std::filesystem::path own = environment.configuration.CartellaTemplates();
+  std::error_code ignored;
+  if (std::filesystem::is_directory(own, ignored) || !environment.shipped) return own;
+  return *environment.shipped / "Templates";
+}
+
 velmar::cli::Services OpenServices(const std::optional<std::filesystem::path>& data_folder) {
   velmar::application::Environment environment = velmar::application::OpenEnvironmentForReading(data_folder);
   velmar::cli::Services services;
@@ -22,7 +30,7 @@ velmar::cli::Services OpenServices(const std::optional<std::filesystem::path>& d
     return messages.Text(row);
   };
   services.report_formats = {velmar::cli::CsvFormat()};
-  for (velmar::cli::ReportFormat& format : FurtherReportFormats()) {
+  for (velmar::cli::ReportFormat& format : FurtherReportFormats(TemplateFolder(environment))) {
     services.report_formats.push_back(std::move(format));
   }
   services.material_database = environment.configuration.PercorsoDatabase();

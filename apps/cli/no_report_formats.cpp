@@ -1,3 +1,5 @@
 #include "report_formats.h"
 
-std::vector<velmar::cli::ReportFormat> FurtherReportFormats() { return {}; }
+std::vector<velmar::cli::ReportFormat> FurtherReportFormats(const std::filesystem::path& /*templates*/) {
+  return {};
+}

@@ -1,8 +1,10 @@
 #pragma once
 
+#include <filesystem>
 #include <vector>
 
 #include "cli/report_format.h"
 
-/// The kinds of report that this program was built with, beyond the plain table.
-std::vector<velmar::cli::ReportFormat> FurtherReportFormats();
+/// The kinds of report that this program was built with, beyond the plain table. `templates` is the folder of
+/// the Word and Excel templates.
+std::vector<velmar::cli::ReportFormat> FurtherReportFormats(const std::filesystem::path& templates);

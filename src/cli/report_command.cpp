@@ -88,11 +88,13 @@ ExitCode ReportOne(const ReportCommand& command, const path& project, const Serv
   ProjectRun run = RunProject(project, services.materials, command.go_on_outside_ranges);
   for (const Message& message : run.outcome.messages) WriteMessage(message, services.words, errors);
   if (!run.outcome.result) return CodeOf(run.outcome.status);
-  const ReportContent content{.name = project.stem().string(),
-                              .setup = std::move(run.setup),
-                              .result = *run.outcome.result,
-                              .totals = run.totals,
-                              .words = services.words};
+  const ReportContent content{
+      .name = project.stem().string(),
+      .setup = std::move(run.setup),
+      .result = *run.outcome.result,
+      .totals = run.totals,
+      .words = services.words,
+      .tell = [&](const Message& message) { WriteMessage(message, services.words, errors); }};
   return WriteReports(command, project, content, services, errors);
 }
 

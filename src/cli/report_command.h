@@ -11,7 +11,7 @@
 
 namespace velmar::cli {
 
-/// `report FILE... --pdf OUT | --csv OUT | --svg OUT [--answer yes|no]`
+/// `report FILE... --docx OUT | --xlsx OUT | --pdf OUT | --csv OUT | --svg OUT [--answer yes|no]`
 struct ReportCommand {
   std::vector<std::filesystem::path> projects{};
   std::map<std::string, std::filesystem::path> targets{};  ///< by the format's extension; a file or a folder

@@ -18,6 +18,7 @@ struct ReportContent {
   elements::ResultSet result{};
   calculation::Totals totals{};
   presentation::Words words{};
+  std::function<void(const Message&)> tell{};  ///< what the user is to know of a report that was written
 };
 
 /// A kind of report.

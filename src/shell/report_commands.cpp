@@ -1,12 +1,7 @@
 #include "shell/report_commands.h"
 
-#include <QBuffer>
-#include <QFont>
-#include <QImage>
-#include <QPainter>
-
 #include "foundation/failure.h"
-#include "presentation/drawing/curve_chart.h"
+#include "presentation/export/report_chart.h"
 #include "presentation/reports/excel_report.h"
 #include "presentation/reports/report_record.h"
 #include "presentation/reports/word_report.h"
@@ -21,40 +16,15 @@ constexpr MessageRow kSavedRow{270};
 constexpr MessageRow kTemplateMissingRow{271};
 constexpr MessageRow kFillingFailedRow{272};
 constexpr std::size_t kTemplateLimit = std::size_t{64} * 1024 * 1024;
-// The chart is as wide as a column of text, in the resolution of print.
-constexpr QSize kChartSize{640, 400};
-constexpr double kChartScale = 3.0;
-constexpr std::int64_t kEmuPerPixel = presentation::kEmuPerInch / 96;
 
 enum class Kind { kWord, kExcel };
-
-std::optional<presentation::Picture> ChartOf(const WindowServices& services) {
-  const elements::Setup& setup = services.open.Setup();
-  const elements::ResultSet& result = *services.open.Result();
-  const auto chart = presentation::CurveChartOf(setup, result, services.words);
-  if (!chart) return std::nullopt;
-  QImage image((QSizeF(kChartSize) * kChartScale).toSize(), QImage::Format_RGB32);
-  image.setDevicePixelRatio(kChartScale);
-  image.fill(Qt::white);
-  QPainter painter(&image);
-  presentation::DrawCurveChart(painter, QRectF(QPointF(), QSizeF(kChartSize)), *chart);
-  painter.end();
-  QBuffer bytes;
-  bytes.open(QIODevice::WriteOnly);
-  image.save(&bytes, "PNG");
-  presentation::Picture picture;
-  picture.png = bytes.data().toStdString();
-  picture.width_emu = kChartSize.width() * kEmuPerPixel;
-  picture.height_emu = kChartSize.height() * kEmuPerPixel;
-  picture.alternative_text = presentation::ChartDescription(setup, result, services.words);
-  return picture;
-}
 
 std::string Fill(Kind kind, const std::string& pattern, const WindowServices& services) {
   const calculation::Totals& totals = services.open.CurrentTotals();
   const presentation::ReportRecord record = presentation::ReportRecordOf(
       services.open.Setup(), *services.open.Result(), {totals.thickness_mm, totals.surface_mass_kg_m2},
-      services.words, ChartOf(services));
+      services.words,
+      presentation::ReportChartOf(services.open.Setup(), *services.open.Result(), services.words));
   return kind == Kind::kWord ? presentation::WriteWordReport(pattern, record).bytes
                              : presentation::WriteExcelReport(pattern, record);
 }

@@ -1,13 +1,16 @@
 #pragma once
 
+#include <filesystem>
 #include <vector>
 
 #include "cli/report_format.h"
 
 namespace velmar::cli {
 
-/// The reports that are drawn: the printed page (--pdf) and the chart (--svg). The first one drawn starts an
+/// The reports that need drawing or a template: Word (--docx), Excel (--xlsx), the printed page (--pdf) and
+/// the chart
+/// (--svg). `templates` is the folder of the templates. The first one drawn starts an
 /// OffscreenDisplay, unless the process has a QGuiApplication.
-std::vector<ReportFormat> DrawnFormats();
+std::vector<ReportFormat> DrawnFormats(const std::filesystem::path& templates);
 
 }  // namespace velmar::cli

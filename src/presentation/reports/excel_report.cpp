@@ -22,8 +22,10 @@ constexpr int kBandColumn = 2;
 constexpr CellPlace kGenericNote{40, 3};
 constexpr int kRatingRow = 59;
 constexpr int kTermsRow = 60;
-constexpr CellPlace kWidth{54, 9};
-constexpr CellPlace kHeight{56, 9};
+constexpr int kWidthRow = 54;
+constexpr int kHeightRow = 56;
+constexpr int kCaptionColumn = 8;
+constexpr int kValueColumn = 9;
 constexpr CellPlace kArea{58, 9};
 constexpr const char* kOneDecimal = "0.0";
 constexpr const char* kWhole = "0";
@@ -44,6 +46,12 @@ void SetEntered(Workbook& workbook, CellPlace place, const std::string& text) {
   } else {
     workbook.Sheet().SetText(place, text);
   }
+}
+
+/// A dimension behind its caption; neither where the calculation has none.
+void SetDimension(Workbook& workbook, int row, const std::string& caption, const std::string& value) {
+  workbook.Sheet().SetText({row, kCaptionColumn}, value.empty() ? std::string() : caption);
+  SetEntered(workbook, {row, kValueColumn}, value);
 }
 
 void WriteBands(Workbook& workbook, const ReportRecord& record) {
@@ -91,8 +99,8 @@ std::string WriteExcelReport(std::string_view xlsx, const ReportRecord& record) 
   WriteBands(workbook, record);
   if (!record.generic_note.empty()) sheet.SetText(kGenericNote, record.generic_note);
   WriteRatings(workbook, record);
-  SetEntered(workbook, kWidth, record.width);
-  SetEntered(workbook, kHeight, record.height);
+  SetDimension(workbook, kWidthRow, record.width_caption, record.width);
+  SetDimension(workbook, kHeightRow, record.height_caption, record.height);
   SetEntered(workbook, kArea, record.area);
   return workbook.Bytes();
 }

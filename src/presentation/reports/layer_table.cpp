@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "elements/catalogue.h"
@@ -13,9 +14,9 @@ namespace velmar::presentation {
 namespace {
 
 constexpr int kNameColumn = 1;
-constexpr int kRatingColumn = 3;
-constexpr int kAreaColumn = 4;
-constexpr int kShareColumn = 5;
+constexpr int kRatingColumn = 4;
+constexpr int kAreaColumn = 5;
+constexpr int kShareColumn = 6;
 constexpr int kThicknessColumn = 6;
 constexpr int kMassColumn = 7;
 constexpr double kLineHeightPoints = 15.0;
@@ -93,12 +94,19 @@ void SetNumberOrText(Workbook& workbook, CellPlace place, const std::string& tex
   }
 }
 
+std::size_t CharactersIn(std::string_view text) {
+  return static_cast<std::size_t>(std::ranges::count_if(
+      text, [](char byte) { return (static_cast<unsigned char>(byte) & 0xC0U) != 0x80U; }));
+}
+
 /// How many lines `text` takes in a cell `width` characters wide.
 int LinesOf(const std::string& text, double width) {
   int lines = 0;
   for (std::size_t begin = 0; begin <= text.size();) {
     const std::size_t end = std::min(text.find('\n', begin), text.size());
-    lines += std::max(1, static_cast<int>(std::ceil(static_cast<double>(end - begin) * 1.1 / width)));
+    const auto characters =
+        static_cast<double>(CharactersIn(std::string_view(text).substr(begin, end - begin)));
+    lines += std::max(1, static_cast<int>(std::ceil(characters / width)));
     begin = end + 1;
   }
   return lines;
@@ -135,6 +143,7 @@ void WriteLayerTable(Workbook& workbook, const ReportRecord& record) {
   const int last_name_column = facade ? kRatingColumn - 1 : kThicknessColumn - 1;
   Worksheet& sheet = workbook.Sheet();
   WriteHeading(workbook, record, facade);
+  sheet.Merge(kLayerHeadingRow, kNameColumn, last_name_column);
   double name_width = 0.0;
   for (int column = kNameColumn; column <= last_name_column; ++column) name_width += sheet.WidthOf(column);
   int row = kFirstLayerRow;

@@ -27,6 +27,8 @@ constexpr MessageRow kGenericNoteRow{284};
 constexpr MessageRow kSectionTitleRow{285};
 constexpr MessageRow kAirborneHeadingRow{287};
 constexpr MessageRow kImpactHeadingRow{290};
+constexpr MessageRow kWidthCaptionRow{411};
+constexpr MessageRow kHeightCaptionRow{412};
 constexpr MessageRow kBrickSeaTheoryRow{1554};
 constexpr MessageRow kAirborneStandardRow{1555};
 constexpr MessageRow kFacadeStandardRow{1556};
@@ -106,6 +108,8 @@ void FillLabels(const Setup& setup, Family family, const Words& words, ReportRec
   if (generic || (family == Family::kFacade && setup.facade.simplified))
     record.generic_note = words(generic ? kGenericNoteRow : kSimplifiedNoteRow);
   record.section_title = words(kSectionTitleRow);
+  record.width_caption = words(kWidthCaptionRow);
+  record.height_caption = words(kHeightCaptionRow);
   record.part_heading = words(kPartHeadingRow);
   record.resilient_name = words(kResilientRow);
   record.resilient_heading = words(kResilientHeadingRow);

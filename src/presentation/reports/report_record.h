@@ -52,7 +52,9 @@ struct ReportRecord {
   std::optional<double> surface_mass_kg_m2{};
   std::string width{};   ///< m, as entered; empty where the calculation has its own
   std::string height{};  ///< m
-  std::string area{};    ///< m²; empty where there is none
+  std::string width_caption{};
+  std::string height_caption{};
+  std::string area{};  ///< m²; empty where there is none
   std::vector<StructureRow> structure{};
   std::string base_element{};  ///< the wall or floor under a lining
   std::string hanger{};        ///< how a ceiling hangs; empty for all else

@@ -117,7 +117,7 @@ void Listing::Cavity(const Setup& setup) {
   const bool fibrous = cavity.kind == elements::CavityKind::kFibrous;
   CavityRow(fibrous ? kFibrousCavityRow : kAirCavityRow, depth);
   if (fibrous && ReadsFibreThickness(*setup.calculation)) {
-    rows_.back().description = FormatShortest(NumberOf(cavity.fibre_text)) + " mm";
+    rows_.back().name += ", " + FormatShortest(NumberOf(cavity.fibre_text)) + " mm";
   }
 }
 

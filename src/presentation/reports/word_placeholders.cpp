@@ -8,10 +8,13 @@
 namespace velmar::presentation {
 namespace {
 
+// With fewer the masses of thin boards would not add up to the total.
+constexpr int kMassDecimals = 2;
 constexpr const char* kNothing = "–";
 constexpr const char* kUnit = " [dB]";
 
-std::string OrDash(const std::string& text) { return text.empty() ? kNothing : text; }
+/// A small element's area is entered as "-".
+std::string OrDash(const std::string& text) { return text.empty() || text == "-" ? kNothing : text; }
 
 std::string Number(std::optional<double> value, int decimals) {
   return value ? FormatFixed(*value, decimals) : std::string();
@@ -39,7 +42,7 @@ Placeholders RowValues(const StructureRow& row) {
           {"P2_NOME", row.name},
           {"P2_DESCRIZIONE", row.description},
           {"P2_SPESSORE", OrDash(ThicknessText(row))},
-          {"P2_MPRIMO", OrDash(Number(row.mass_kg_m2, 1))},
+          {"P2_MPRIMO", OrDash(Number(row.mass_kg_m2, kMassDecimals))},
           {"P2_RW", OrDash(row.rating)},
           {"P2_AREA", OrDash(row.area)},
           {"P2_PERCENTUALEAREA", OrDash(row.share)},
@@ -56,7 +59,7 @@ std::string ThicknessText(const StructureRow& row) {
 
 Placeholders TextPlaceholders(const ReportRecord& record) {
   const std::string thickness = record.totals ? FormatShortest(record.totals->thickness_mm) : std::string();
-  const std::string mass = Number(record.surface_mass_kg_m2, 1);
+  const std::string mass = Number(record.surface_mass_kg_m2, kMassDecimals);
   Placeholders values = {
       {"P1_TITOLO", record.title},
       {"P1_TIPOISOLAMENTO", record.insulation},

@@ -12,6 +12,8 @@
 
 #include "cli/project_run.h"
 #include "foundation/failure.h"
+#include "presentation/reports/package.h"
+#include "presentation/texts/results_table.h"
 #include "storage/materials/material_store.h"
 #include "tests/presentation/drawing/catalogue_words.h"
 
@@ -34,7 +36,7 @@ ReportContent ContentOf(const std::string& example) {
 }
 
 std::string BytesOf(const std::string& extension, const ReportContent& content) {
-  for (const ReportFormat& format : DrawnFormats()) {
+  for (const ReportFormat& format : DrawnFormats(SHIPPED "/Templates")) {
     if (format.extension == extension) return format.bytes(content);
   }
   return {};
@@ -59,6 +61,26 @@ INSTANTIATE_TEST_SUITE_P(Families, DrawnTest,
                          testing::Values("parete-forato-intonacata", "cartongesso-lastra-doppia",
                                          "facciata-nove-componenti", "calpestio-galleggiante",
                                          "controsoffitto-pendini-a-molla", "controplaccaggio-generico"));
+
+TEST_P(DrawnTest, WordAndExcelReportsAreWrittenWithoutADisplay) {
+  const ReportContent content = ContentOf(GetParam());
+  const presentation::Package word(BytesOf("docx", content));
+  EXPECT_EQ(word.Has("word/media/velmar1.png"), presentation::ShownBands(content.setup).has_value());
+  EXPECT_TRUE(presentation::Package(BytesOf("xlsx", content)).Has("xl/charts/chart1.xml"));
+}
+
+TEST_F(DrawnTest, AMissingTemplateIsNamed) {
+  const ReportContent content = ContentOf("facciata");
+  for (const ReportFormat& format : DrawnFormats("/nowhere")) {
+    if (format.extension != "docx" && format.extension != "xlsx") continue;
+    try {
+      format.bytes(content);
+      ADD_FAILURE() << format.extension;
+    } catch (const Failure& failure) {
+      EXPECT_EQ(LeadingRow(failure.UserMessage().front()).number, 271);
+    }
+  }
+}
 
 /// The texts of an SVG picture, in the order drawn.
 std::vector<std::string> TextsOf(const std::string& svg) {

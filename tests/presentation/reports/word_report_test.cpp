@@ -61,7 +61,7 @@ TEST_P(WordReportTest, TellsEveryLayer) {
   for (const StructureRow& row : record_.structure) {
     EXPECT_THAT(text_, HasSubstr(row.kind == StructureKind::kHeading ? row.name : FullName(row)));
     if (row.mass_kg_m2) {
-      EXPECT_THAT(text_, HasSubstr(FormatFixed(*row.mass_kg_m2, 1) + "\n"));
+      EXPECT_THAT(text_, HasSubstr(FormatFixed(*row.mass_kg_m2, 2) + "\n"));
     }
   }
 }

@@ -1,0 +1,56 @@
+#include "cli/drawn/office_formats.h"
+
+#include <optional>
+#include <system_error>
+#include <utility>
+
+#include "foundation/failure.h"
+#include "presentation/export/report_chart.h"
+#include "presentation/reports/excel_report.h"
+#include "presentation/reports/word_report.h"
+#include "storage/files/whole_file.h"
+
+namespace velmar::cli {
+namespace {
+
+constexpr MessageRow kTemplateMissingRow{271};
+constexpr MessageRow kUnknownPlaceholdersRow{1560};
+constexpr std::size_t kLargestTemplate = std::size_t{64} << 20U;
+
+std::string ReadTemplate(const std::filesystem::path& templates, std::string_view name) {
+  const std::filesystem::path file = templates / name;
+  std::error_code error;
+  if (!std::filesystem::is_regular_file(file, error)) {
+    throw Failure({{kTemplateMissingRow}, {file.string()}}, "no template " + file.string());
+  }
+  return storage::ReadWhole(file, kLargestTemplate);
+}
+
+presentation::ReportRecord RecordOf(const ReportContent& content,
+                                    std::optional<presentation::Picture> chart) {
+  return presentation::ReportRecordOf(content.setup, content.result,
+                                      {content.totals.thickness_mm, content.totals.surface_mass_kg_m2},
+                                      content.words, std::move(chart));
+}
+
+}  // namespace
+
+std::string WordReportBytes(const std::filesystem::path& templates, const ReportContent& content) {
+  const presentation::ReportRecord record =
+      RecordOf(content, presentation::ReportChartOf(content.setup, content.result, content.words));
+  presentation::WrittenReport report = presentation::WriteWordReport(
+      ReadTemplate(templates, presentation::WordTemplateName(record.family)), record);
+  if (!report.unknown_placeholders.empty() && content.tell) {
+    MessageLine line = {kUnknownPlaceholdersRow};
+    for (const std::string& name : report.unknown_placeholders) line.emplace_back(" " + name);
+    content.tell({line});
+  }
+  return std::move(report.bytes);
+}
+
+std::string ExcelReportBytes(const std::filesystem::path& templates, const ReportContent& content) {
+  return presentation::WriteExcelReport(ReadTemplate(templates, presentation::kExcelTemplateName),
+                                        RecordOf(content, std::nullopt));
+}
+
+}  // namespace velmar::cli

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <filesystem>
+#include <string>
+
+#include "cli/report_format.h"
+
+namespace velmar::cli {
+
+/// The Word report out of the template in `templates`. A QGuiApplication must exist.
+/// @throws Failure when the template is missing or cannot be used
+std::string WordReportBytes(const std::filesystem::path& templates, const ReportContent& content);
+
+/// The Excel report out of the template in `templates`.
+/// @throws Failure when the template is missing or cannot be used
+std::string ExcelReportBytes(const std::filesystem::path& templates, const ReportContent& content);
+
+}  // namespace velmar::cli

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <optional>
+
+#include "presentation/drawing/curve_chart.h"
+#include "presentation/reports/picture.h"
+
+namespace velmar::presentation {
+
+/// The chart of a result for paper, where nobody can change the scale: fitted when a curve would leave it.
+/// Nothing when the calculation has no curve.
+std::optional<CurveChart> WholeChartOf(const elements::Setup& setup, const elements::ResultSet& result,
+                                       const Words& words);
+
+/// The chart of a result as the picture of a Word report, 116 mm by 82 mm at 300 dots an inch: as wide as the
+/// column beside the table of bands in the templates. Nothing when the calculation has no curve. A
+/// QGuiApplication must exist.
+std::optional<Picture> ReportChartOf(const elements::Setup& setup, const elements::ResultSet& result,
+                                     const Words& words);
+
+}  // namespace velmar::presentation
