@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QFileDialog>
+#include <QInputDialog>
 #include <QMessageBox>
 #include <QPushButton>
 
@@ -65,6 +66,15 @@ Boxes ScreenBoxes(const presentation::Words& words) {
   boxes.choose_file_to_save = [](const FileQuestion& question) {
     return QFileDialog::getSaveFileName(QApplication::activeWindow(), question.title, question.start,
                                         question.filter);
+  };
+  boxes.ask_name = [words](const NameQuestion& question) {
+    QInputDialog dialog(QApplication::activeWindow());
+    dialog.setWindowTitle(question.title);
+    dialog.setLabelText(question.prompt);
+    dialog.setTextValue(question.proposed);
+    dialog.setOkButtonText(Text(words, kOkRow));
+    dialog.setCancelButtonText(Text(words, kCancelRow));
+    return dialog.exec() == QDialog::Accepted ? dialog.textValue() : QString();
   };
   return boxes;
 }

@@ -20,6 +20,13 @@ struct FileQuestion {
   QString start{};  ///< file or folder to begin at
 };
 
+/// What a name is asked for with.
+struct NameQuestion {
+  QString title{};
+  QString prompt{};
+  QString proposed{};
+};
+
 /// The modal boxes, passed in so that a test answers them without one opening.
 struct Boxes {
   std::function<bool(const QString& question)> ask;
@@ -29,6 +36,8 @@ struct Boxes {
   /// An empty answer means that the user cancelled.
   std::function<QString(const FileQuestion&)> choose_file_to_open;
   std::function<QString(const FileQuestion&)> choose_file_to_save;
+  /// An empty answer gives the matter up.
+  std::function<QString(const NameQuestion&)> ask_name{};
 };
 
 /// The boxes of the screen, in the words of the catalogue, above the active window.

@@ -8,14 +8,20 @@
 #include "calculation/facade_parts.h"
 #include "elements/catalogue.h"
 #include "foundation/failure.h"
+#include "presentation/texts/descriptions.h"
 #include "shell/phrases.h"
 #include "shell/results_panel.h"
 #include "shell/structures/comparison_window.h"
 #include "shell/structures/measured_library_window.h"
 #include "shell/structures/saved_results_window.h"
+#include "storage/results/result_to_save.h"
+#include "storage/results/results_store.h"
 
 namespace velmar::shell {
 namespace {
+
+constexpr MessageRow kSavePromptRow{221};
+constexpr MessageRow kSaveTitleRow{222};
 
 using structures::ComparisonWindow;
 using structures::MeasuredLibraryWindow;
@@ -55,6 +61,7 @@ class StructureCommands::Windows {
   Windows(WindowServices& services, structures::LibraryPlaces places,
           std::shared_ptr<storage::AccessSession> session)
       : services_(services),
+        results_file_(places.results),
         results_(structures::StoredResults(places.results)),
         library_(structures::MeasuredLibrary(places, std::move(session))) {
     tools_.words = services.words;
@@ -117,6 +124,29 @@ class StructureCommands::Windows {
     comparison_->show();
   }
 
+  /// `Salva`: stores the result that stands under a name that is asked for.
+  void Store() {
+    const auto& open = services_.open;
+    const elements::Setup& setup = open.Setup();
+    if (!setup.calculation || !open.Result()) return;
+    const QString name =
+        services_.boxes.ask_name({Text(services_.words, kSaveTitleRow), Text(services_.words, kSavePromptRow),
+                                  FromUtf8(presentation::ProposedName(setup, services_.words))});
+    if (name.trimmed().isEmpty()) return;
+    tools_.Try([&] {
+      const storage::SavedResult row =
+          storage::ResultToSave(setup, *open.Result(),
+                                {.name = ToUtf8(name.trimmed()),
+                                 .description = presentation::ResultDescription(setup, services_.words),
+                                 .thickness_mm = open.CurrentTotals().thickness_mm,
+                                 .mass_kg_m2 = open.CurrentTotals().surface_mass_kg_m2});
+      storage::ResultsStore store(results_file_);
+      if (store.Save(storage::TableFor(RowOf(*setup.calculation).family), row) ==
+          storage::SaveStatus::kNameExists)
+        tools_.tell(Text(services_.words, storage::kResultExistsRow));
+    });
+  }
+
   void LayOver(presentation::CurveChart& chart) const {
     if (comparison_ && comparison_->isVisible()) structures::LayOver(chart, overlay_);
   }
@@ -139,6 +169,7 @@ class StructureCommands::Windows {
   }
 
   WindowServices& services_;
+  std::filesystem::path results_file_;
   structures::WindowTools tools_;
   structures::ResultSource results_;
   structures::LibrarySource library_;
@@ -159,6 +190,7 @@ StructureCommands::StructureCommands(WindowServices& services, structures::Libra
   services.pick_measured = [windows](QWidget* parent, const ElementPick& pick) {
     windows->ShowLibrary(parent, pick);
   };
+  services.command_windows[CommandId::kStoreResult] = [windows](QWidget*) { windows->Store(); };
   services.command_windows[CommandId::kSavedResults] = [windows](QWidget* parent) {
     windows->ShowResults(parent, std::nullopt);
   };

@@ -135,6 +135,32 @@ class StructureCommandsTest : public QObject {
     QVERIFY(!chart.laboratory.has_value());
   }
 
+  void aResultIsStoredUnderItsNameOnce() {
+    Program program;
+    QString answer = "  Parete nuova ";
+    NameQuestion asked;
+    program.fixture.services.boxes.ask_name = [&](const NameQuestion& question) {
+      asked = question;
+      return answer;
+    };
+    program.fixture.Choose("TIPO_PARETE_SINGOLA_0");
+    program.fixture.Run();
+    auto* save = program.fixture.Find<QAction>("Salva");
+    save->trigger();
+    QCOMPARE(asked.title, QString("Salva struttura calcolata"));
+    QCOMPARE(asked.proposed, QString("Parete x"));
+    QCOMPARE(program.fixture.services.saved_results().back(), std::string("Parete nuova"));
+    QVERIFY(program.fixture.told.isEmpty());
+    answer = "PARETE NUOVA";
+    save->trigger();
+    QCOMPARE(program.fixture.told.size(), 1);
+    QVERIFY(program.fixture.told.front().contains("esiste già"));
+    answer.clear();
+    save->trigger();
+    QCOMPARE(program.fixture.services.saved_results().size(), std::size_t{3});
+    QCOMPARE(program.fixture.told.size(), 1);
+  }
+
   void theResultsWindowOpensFromItsCommand() {
     const Program program;
     program.fixture.Find<QAction>("DB_risultati")->trigger();
