@@ -3,6 +3,7 @@
 #include <array>
 #include <optional>
 #include <string>
+#include <string_view>
 
 #include "acoustics/bands.h"
 #include "elements/setup.h"
@@ -44,7 +45,9 @@ struct PartCaptions {
   const char* rating = "";  ///< UTF-8
   const char* bands = "";
 
-  bool operator==(const PartCaptions&) const = default;
+  bool operator==(const PartCaptions& other) const {
+    return std::string_view(rating) == other.rating && std::string_view(bands) == other.bands;
+  }
 };
 
 /// "Rw (dB)" and "Ri [dB]"; "Dnew (dB)" and "Dn [dB]" for a small element.
