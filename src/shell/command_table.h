@@ -39,7 +39,12 @@ enum class CommandId {
 };
 
 /// What must be there before a command can do anything.
-enum class Needs { kNothing, kCalculation, kResult };
+enum class Needs {
+  kNothing,
+  kCalculation,
+  kResult,
+  kSpectrum,  ///< a result of a calculation that has more than ratings
+};
 
 /// One command of the program: menu entry, tool bar button and shortcut in one row. The tool bar's separators
 /// are the numbers that no command has.

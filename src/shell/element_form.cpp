@@ -9,6 +9,7 @@
 #include <QToolButton>
 
 #include "calculation/element_choice.h"
+#include "shell/element_parts.h"
 #include "shell/icons.h"
 #include "shell/name_box.h"
 #include "shell/number_field.h"
@@ -180,14 +181,12 @@ void ElementForm::Enter(BoxOf&& box_of, const std::string& text) {
 
 void ElementForm::TakeName(const std::string& name) {
   const auto& read = context_.services.saved_result;
-  const std::optional<calculation::ChosenElement> chosen = read ? read(name) : std::nullopt;
+  const std::optional<calculation::FacadePart> part = read ? read(name) : std::nullopt;
   context_.open.Edit([&](elements::Setup& setup) {
-    if (!chosen) {
-      Visited(setup, element_, [&](auto& element) { element.name = name; });
-    } else if (element_ == 0) {
-      calculation::TakeBaseElement(setup, *chosen);
+    if (part) {
+      TakePart(setup, element_, *part);
     } else {
-      calculation::TakeComponent(setup, element_ - 1, *chosen);
+      Visited(setup, element_, [&](auto& element) { element.name = name; });
     }
   });
 }

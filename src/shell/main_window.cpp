@@ -4,31 +4,22 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QMimeData>
-#include <QScrollArea>
-#include <QShortcut>
 #include <QSplitter>
 #include <QStackedWidget>
-#include <QTabWidget>
 #include <QVBoxLayout>
 
 #include "calculation/select_calculation.h"
-#include "shell/base_element_page.h"
-#include "shell/cavity_page.h"
-#include "shell/components_page.h"
 #include "shell/dimension_dialog.h"
 #include "shell/element_header.h"
 #include "shell/help_commands.h"
 #include "shell/icons.h"
-#include "shell/leaf_page.h"
+#include "shell/input_tabs.h"
 #include "shell/menus.h"
 #include "shell/phrases.h"
 #include "shell/project_information_dialog.h"
-#include "shell/resilient_layers_page.h"
 #include "shell/results_panel.h"
 #include "shell/results_table_window.h"
 #include "shell/run_command.h"
-#include "shell/sea_cavity_page.h"
-#include "shell/sea_leaf_page.h"
 #include "shell/start_screen.h"
 #include "shell/tool_bar.h"
 
@@ -41,13 +32,12 @@ constexpr int kInputsWidth = 600;
 constexpr int kNarrowestInputs = 520;
 constexpr MessageRow kForgetRow{1308};
 
-QScrollArea* InScrollArea(QWidget* page) {
-  auto* area = new QScrollArea;
-  area->setWidget(page);
-  area->setWidgetResizable(true);
-  area->setFrameShape(QFrame::NoFrame);
-  area->setFocusPolicy(Qt::NoFocus);
-  return area;
+/// What stands ready for a command. The generic linings give ratings alone.
+Needs StateOf(const calculation::OpenCalculation& open) {
+  const auto& calculation = open.Setup().calculation;
+  if (!calculation) return Needs::kNothing;
+  if (!open.Result()) return Needs::kCalculation;
+  return RowOf(*calculation).model == elements::Model::kGenericLining ? Needs::kResult : Needs::kSpectrum;
 }
 
 QString DroppedProject(const QMimeData& mime) {
@@ -77,9 +67,7 @@ MainWindow::MainWindow(const WindowServices& services, QWidget* parent)
   addToolBar(tool_bar_);
   // Shortcuts work whether or not their menu was ever open.
   for (const Command& command : Commands()) addAction(commands_.Of(command.id));
-  MakePages();
   MakeCentre();
-  MakeTabKeys();
   files_.OnChange([this] {
     setWindowTitle(files_.Caption());
     ShowProjects();
@@ -99,25 +87,6 @@ MainWindow::~MainWindow() {
   delete table_;
 }
 
-void MainWindow::MakePages() {
-  tabs_ = new QTabWidget;
-  tabs_->setObjectName("SSTab1");
-  tabs_->setIconSize({24, 24});
-  pages_ = {new LeafPage(LeafPage::Leaf::kFirst, context_),
-            new LeafPage(LeafPage::Leaf::kSecond, context_),
-            new CavityPage(context_),
-            new ResilientLayersPage(context_),
-            new BaseElementPage(context_),
-            new ComponentsPage(context_),
-            new SeaLeafPage(SeaLeafPage::Side::kFirst, context_),
-            new SeaLeafPage(SeaLeafPage::Side::kSecond, context_),
-            new SeaCavityPage(context_)};
-  for (Page* page : pages_) tabs_->addTab(InScrollArea(page), QString());
-  connect(tabs_, &QTabWidget::tabBarClicked, this, [this](int index) {
-    if (index >= 0) pages_.at(static_cast<std::size_t>(index))->RemoveHighlights();
-  });
-}
-
 void MainWindow::MakeCentre() {
   auto* inputs = new QWidget;
   inputs->setMinimumWidth(kNarrowestInputs);
@@ -125,6 +94,7 @@ void MainWindow::MakeCentre() {
   column->setContentsMargins(0, 0, 0, 0);
   column->setSpacing(0);
   header_ = new ElementHeader(context_, [this] { Execute(CommandId::kDimensions); });
+  tabs_ = new InputTabs(context_);
   column->addWidget(header_);
   column->addWidget(tabs_, 1);
   results_ = new ResultsPanel(context_);
@@ -142,18 +112,6 @@ void MainWindow::MakeCentre() {
   centre_->addWidget(start_);
   centre_->addWidget(sides_);
   setCentralWidget(centre_);
-}
-
-void MainWindow::MakeTabKeys() {
-  for (int place = 0; place < kTabCount; ++place) {
-    auto* key = new QShortcut(QKeySequence(Qt::CTRL | static_cast<Qt::Key>(Qt::Key_1 + place)), this);
-    connect(key, &QShortcut::activated, this, [this, place] {
-      if (!laid_out_) return;
-      const auto shown = TabsOf(*laid_out_);
-      if (place < static_cast<int>(shown.size()))
-        tabs_->setCurrentIndex(static_cast<int>(shown.at(static_cast<std::size_t>(place)).tab));
-    });
-  }
 }
 
 void MainWindow::Execute(CommandId id) {
@@ -207,37 +165,16 @@ void MainWindow::ExecuteElsewhere(CommandId id) {
 void MainWindow::Begin(elements::ElementButton button) {
   const auto& open = services_.open.Setup().calculation;
   if (open && RowOf(*open).button == button) {
-    tabs_->setCurrentIndex(static_cast<int>(TabsOf(*open).front().tab));
+    tabs_->ShowFirst();
   } else {
     Choose(FirstOf(button));
   }
 }
 
 void MainWindow::Choose(elements::Calculation calculation) {
-  laid_out_.reset();
+  tabs_->LayOutAnew();
   services_.open.Edit(
       [calculation](elements::Setup& setup) { calculation::SelectCalculation(setup, calculation); });
-}
-
-void MainWindow::LayOutTabs() {
-  const auto& calculation = services_.open.Setup().calculation;
-  if (!calculation || laid_out_ == calculation) return;
-  laid_out_ = calculation;
-  calculations_.Mark(*calculation);
-  const auto shown = TabsOf(*calculation);
-  // The first tab is current before others are hidden: a hidden current tab would pass the focus on.
-  const int first = static_cast<int>(shown.front().tab);
-  tabs_->setTabVisible(first, true);
-  tabs_->setCurrentIndex(first);
-  for (int tab = 0; tab < kTabCount; ++tab) {
-    const auto* found = std::find_if(shown.data(), shown.data() + shown.size(),
-                                     [tab](const ShownTab& row) { return static_cast<int>(row.tab) == tab; });
-    const bool visible = found != shown.data() + shown.size();
-    tabs_->setTabVisible(tab, visible);
-    if (!visible) continue;
-    tabs_->setTabText(tab, Text(services_.words, found->caption));
-    tabs_->setTabIcon(tab, LineIcon(found->picture));
-  }
 }
 
 void MainWindow::ShowAll() {
@@ -251,16 +188,15 @@ void MainWindow::ShowAll() {
   // A second run may give another result; the table shows the one that stands.
   if (has_result && table_ && table_->isVisible()) table_->Show(TableNow());
   recovery_.Follow();
-  const Needs state = has_result ? Needs::kResult : setup.calculation ? Needs::kCalculation : Needs::kNothing;
+  const Needs state = StateOf(services_.open);
   commands_.Enable(state, table_ && table_->isVisible());
   tool_bar_->ShowRunDue(state == Needs::kCalculation);
   centre_->setCurrentWidget(setup.calculation ? static_cast<QWidget*>(sides_) : start_);
   if (!setup.calculation) return;
   ArrangeSides();
-  LayOutTabs();
+  calculations_.Mark(*setup.calculation);
   header_->Show();
-  for (const ShownTab& shown : TabsOf(*setup.calculation))
-    pages_.at(static_cast<std::size_t>(shown.tab))->Show(setup);
+  tabs_->Show(setup);
   results_->Show();
 }
 
@@ -310,7 +246,7 @@ std::vector<std::filesystem::path> MainWindow::Examples() const {
 }
 
 void MainWindow::OpenProject(const std::filesystem::path& project) {
-  laid_out_.reset();
+  tabs_->LayOutAnew();
   files_.Open(project);
 }
 

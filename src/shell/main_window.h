@@ -2,9 +2,7 @@
 
 #include <QMainWindow>
 #include <QPointer>
-#include <array>
 #include <memory>
-#include <optional>
 
 #include "shell/calculation_menu.h"
 #include "shell/command_set.h"
@@ -12,19 +10,17 @@
 #include "shell/project_files.h"
 #include "shell/recovery.h"
 #include "shell/results_table_window.h"
-#include "shell/tab_layout.h"
 #include "shell/window_memory.h"
 
 class QMenu;
 class QSplitter;
 class QStackedWidget;
-class QTabWidget;
 
 namespace velmar::shell {
 
 class CommandToolBar;
 class ElementHeader;
-class Page;
+class InputTabs;
 class ResultsPanel;
 class StartScreen;
 
@@ -49,14 +45,11 @@ class MainWindow : public QMainWindow {
   void dropEvent(QDropEvent* event) override;
 
  private:
-  void MakePages();
   void MakeCentre();
-  void MakeTabKeys();
   void Execute(CommandId id);
   void ExecuteElsewhere(CommandId id);
   void Choose(elements::Calculation calculation);
   void Begin(elements::ElementButton button);
-  void LayOutTabs();
   void ShowAll();
   void ArrangeSides();
   void ShowTable();
@@ -79,11 +72,9 @@ class MainWindow : public QMainWindow {
   StartScreen* start_ = nullptr;
   QSplitter* sides_ = nullptr;
   ElementHeader* header_ = nullptr;
-  QTabWidget* tabs_ = nullptr;
-  std::array<Page*, kTabCount> pages_{};
+  InputTabs* tabs_ = nullptr;
   ResultsPanel* results_ = nullptr;
   QPointer<ResultsTableWindow> table_;
-  std::optional<elements::Calculation> laid_out_;
   bool had_result_ = false;
   bool sides_arranged_ = false;
 };

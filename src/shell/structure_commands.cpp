@@ -9,6 +9,7 @@
 #include "elements/catalogue.h"
 #include "foundation/failure.h"
 #include "presentation/texts/descriptions.h"
+#include "shell/element_parts.h"
 #include "shell/phrases.h"
 #include "shell/results_panel.h"
 #include "shell/structures/comparison_window.h"
@@ -27,25 +28,6 @@ using structures::ComparisonWindow;
 using structures::MeasuredLibraryWindow;
 using structures::ResultKind;
 using structures::SavedResultsWindow;
-
-calculation::ChosenElement ChosenFrom(const calculation::FacadePart& part) {
-  calculation::ChosenElement chosen;
-  chosen.name = part.name;
-  chosen.description = part.description;
-  chosen.rating_text = calculation::BoxText(part.rating_db);
-  chosen.c_text = calculation::BoxText(part.c_db);
-  chosen.ctr_text = calculation::BoxText(part.ctr_db);
-  chosen.area_text = calculation::BoxText(part.area_m2);
-  for (std::size_t i = 0; i < chosen.band_texts.size(); ++i)
-    chosen.band_texts[i] = calculation::BoxText(part.bands_db[i]);
-  chosen.mass_kg_m2 = static_cast<float>(part.mass_kg_m2.value_or(0.0));
-  chosen.thickness_mm = part.thickness_mm.value_or(0.0);
-  return chosen;
-}
-
-bool IsFacade(const elements::Setup& setup) {
-  return setup.calculation && RowOf(*setup.calculation).family == elements::Family::kFacade;
-}
 
 /// Shows `window` above the main window, which waits until it is closed.
 void ShowAndWait(QDialog* window) {
@@ -85,11 +67,10 @@ class StructureCommands::Windows {
     return names;
   }
 
-  std::optional<calculation::ChosenElement> Find(const std::string& name) const {
+  std::optional<calculation::FacadePart> Find(const std::string& name) const {
     std::optional<calculation::FacadePart> part;
     tools_.Try([&] { part = results_.find(ResultKind::kAirborne, name); });
-    if (!part) return std::nullopt;
-    return ChosenFrom(*part);
+    return part;
   }
 
   void ShowResults(QWidget* parent, const std::optional<ElementPick>& pick) {
@@ -157,15 +138,7 @@ class StructureCommands::Windows {
 
  private:
   void Take(const ElementPick& pick, const calculation::FacadePart& part) {
-    services_.open.Edit([&](elements::Setup& setup) {
-      if (pick.component > 0) {
-        calculation::TakeAsComponent(setup, pick.component, part);
-      } else if (IsFacade(setup)) {
-        calculation::TakeAsOpaquePart(setup, part);
-      } else {
-        calculation::TakeAsLiningBase(setup, part);
-      }
-    });
+    services_.open.Edit([&](elements::Setup& setup) { TakePart(setup, pick.component, part); });
   }
 
   WindowServices& services_;

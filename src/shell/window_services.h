@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "calculation/element_choice.h"
+#include "calculation/facade_parts.h"
 #include "calculation/open_calculation.h"
 #include "elements/layer_groups.h"
 #include "elements/material_record.h"
@@ -56,7 +56,7 @@ struct WindowServices {
 
   /// Names of the stored airborne results (`Combo14`, `Combo16`).
   std::function<std::vector<std::string>()> saved_results{};
-  std::function<std::optional<calculation::ChosenElement>(const std::string& name)> saved_result{};
+  std::function<std::optional<calculation::FacadePart>(const std::string& name)> saved_result{};
 
   /// @throws Failure when the file cannot be read; nothing has changed then
   std::function<elements::Setup(const std::filesystem::path&)> read_project{};

@@ -109,7 +109,7 @@ class StructureCommandsTest : public QObject {
     const Program program;
     const std::vector<std::string> names = {"Parete x", "Serramento x"};
     QVERIFY(program.fixture.services.saved_results() == names);
-    QCOMPARE(program.fixture.services.saved_result("Parete x")->rating_text, std::string("48,25"));
+    QVERIFY(program.fixture.services.saved_result("Parete x")->rating_db == 48.25);
     QVERIFY(!program.fixture.services.saved_result("Altra"));
   }
 
