@@ -143,7 +143,7 @@ class StructureCommands::Windows {
 
   WindowServices& services_;
   std::filesystem::path results_file_;
-  structures::WindowTools tools_;
+  windows::WindowTools tools_;
   structures::ResultSource results_;
   structures::LibrarySource library_;
   std::unique_ptr<QSettings> memory_;

@@ -20,7 +20,7 @@ bool IsLining(elements::Family family) {
 
 }  // namespace
 
-std::vector<TreeNode> LaboratoryNodes(elements::Family family, const WindowTools& tools) {
+std::vector<TreeNode> LaboratoryNodes(elements::Family family, const windows::WindowTools& tools) {
   TreeNode theoretical{tools.Text(kTheoreticalRow), {Branch::kCalculatedWalls}, {}};
   TreeNode custom{tools.Text(kCustomRow), {}, {}};
   if (family == elements::Family::kImpact) {
@@ -40,7 +40,7 @@ std::vector<TreeNode> LaboratoryNodes(elements::Family family, const WindowTools
   return {theoretical, custom};
 }
 
-std::vector<TreeNode> InSituNodes(elements::Family family, const WindowTools& tools) {
+std::vector<TreeNode> InSituNodes(elements::Family family, const windows::WindowTools& tools) {
   if (family == elements::Family::kImpact) {
     return {{tools.Text(kFieldFloorsRow), {Branch::kFieldFloors}, {}}};
   }

@@ -28,7 +28,7 @@ QLabel* MakeLabel(const char* name, QWidget* parent) {
 
 }  // namespace
 
-ComparisonPanel::ComparisonPanel(const WindowTools& tools, LibrarySource source, const Look& look,
+ComparisonPanel::ComparisonPanel(const windows::WindowTools& tools, LibrarySource source, const Look& look,
                                  std::function<void()> changed, QWidget* parent)
     : QGroupBox(tools.Text(look.caption), parent), tools_(tools), changed_(std::move(changed)) {
   setObjectName(QLatin1String(look.frame));
@@ -52,7 +52,9 @@ ComparisonPanel::ComparisonPanel(const WindowTools& tools, LibrarySource source,
   controls.list = look.list;
   controls.nodes = look.nodes;
   TestChooser::Listener listener;
-  listener.file = [this](const LibraryFile& file, const QString&) { database_->setText(ToQt(file.name)); };
+  listener.file = [this](const LibraryFile& file, const QString&) {
+    database_->setText(windows::ToQt(file.name));
+  };
   listener.test = [this](const std::optional<MeasuredTest>& test) { Show(test); };
   chooser_ = new TestChooser(tools, std::move(source), controls, std::move(listener), this);
   auto* column = new QVBoxLayout(this);
@@ -78,11 +80,11 @@ void ComparisonPanel::Show(const std::optional<MeasuredTest>& test) {
     const std::optional<double>& value = shown.part.bands_db[i];
     bands_[i] = value == calculation::kNotMeasuredDb ? 0.0 : value.value_or(0.0);
   }
-  const QString rating = ToQt(calculation::BoxText(shown.part.rating_db));
+  const QString rating = windows::ToQt(calculation::BoxText(shown.part.rating_db));
   const QString none = test ? QStringLiteral("-") : tools_.Text(kNoStructureRow);
   rating_->setText(rating.isEmpty() ? none : rating + QStringLiteral(" dB"));
   rating_->setEnabled(test.has_value());
-  description_->setPlainText(ToQt(shown.part.description));
+  description_->setPlainText(windows::ToQt(shown.part.description));
   if (IsTicked()) changed_();
 }
 

@@ -7,7 +7,7 @@
 #include "acoustics/bands.h"
 #include "shell/structures/library_tree.h"
 #include "shell/structures/structure_sources.h"
-#include "shell/structures/window_tools.h"
+#include "shell/windows/window_tools.h"
 
 class QCheckBox;
 class QLabel;
@@ -36,7 +36,7 @@ class ComparisonPanel : public QGroupBox {
     std::vector<TreeNode> nodes{};
   };
 
-  ComparisonPanel(const WindowTools& tools, LibrarySource source, const Look& look,
+  ComparisonPanel(const windows::WindowTools& tools, LibrarySource source, const Look& look,
                   std::function<void()> changed, QWidget* parent = nullptr);
 
   bool IsTicked() const;
@@ -51,7 +51,7 @@ class ComparisonPanel : public QGroupBox {
  private:
   void Show(const std::optional<MeasuredTest>& test);
 
-  WindowTools tools_;
+  windows::WindowTools tools_;
   std::function<void()> changed_;
   acoustics::Spectrum bands_{};
   QCheckBox* check_ = nullptr;

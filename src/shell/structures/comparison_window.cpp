@@ -20,7 +20,7 @@ constexpr MessageRow kLaboratoryCheckRow{407};
 constexpr MessageRow kInSituCheckRow{408};
 constexpr const char* kMemoryName = "confronto-strutture";
 
-RememberedSizes SizesOf(QWidget* window, QSplitter* sides) {
+windows::RememberedSizes SizesOf(QWidget* window, QSplitter* sides) {
   return {QLatin1String(kMemoryName), window, nullptr, sides};
 }
 
@@ -61,8 +61,8 @@ void LayOver(presentation::CurveChart& chart, const Overlay& overlay) {
   chart.in_situ = overlay.in_situ;
 }
 
-ComparisonWindow::ComparisonWindow(WindowTools tools, const LibrarySource& source, elements::Family family,
-                                   Draw draw, QWidget* parent)
+ComparisonWindow::ComparisonWindow(windows::WindowTools tools, const LibrarySource& source,
+                                   elements::Family family, Draw draw, QWidget* parent)
     : QDialog(parent), tools_(std::move(tools)), draw_(std::move(draw)) {
   setObjectName(QStringLiteral("Form8"));
   setWindowTitle(QStringLiteral("VELMARpro - ") + tools_.Text(kCaptionRow));
@@ -90,10 +90,10 @@ ComparisonWindow::ComparisonWindow(WindowTools tools, const LibrarySource& sourc
   column->addWidget(sides_, 1);
   column->addLayout(buttons);
   resize(fontMetrics().averageCharWidth() * 170, fontMetrics().height() * 34);
-  RestoreSizes(tools_.memory, SizesOf(this, sides_));
+  windows::RestoreSizes(tools_.memory, SizesOf(this, sides_));
 }
 
-ComparisonWindow::~ComparisonWindow() { SaveSizes(tools_.memory, SizesOf(this, sides_)); }
+ComparisonWindow::~ComparisonWindow() { windows::SaveSizes(tools_.memory, SizesOf(this, sides_)); }
 
 void ComparisonWindow::hideEvent(QHideEvent* event) {
   QDialog::hideEvent(event);

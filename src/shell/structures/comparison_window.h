@@ -11,7 +11,7 @@
 #include "presentation/drawing/curve_chart.h"
 #include "shell/structures/library_tree.h"
 #include "shell/structures/structure_sources.h"
-#include "shell/structures/window_tools.h"
+#include "shell/windows/window_tools.h"
 
 class QSplitter;
 
@@ -41,8 +41,8 @@ class ComparisonWindow : public QDialog {
 
   /// @param family of the open calculation; decides which databases are offered
   /// @param draw redraws the main chart; called after every change of a ticked side, never by closing
-  ComparisonWindow(WindowTools tools, const LibrarySource& source, elements::Family family, Draw draw,
-                   QWidget* parent = nullptr);
+  ComparisonWindow(windows::WindowTools tools, const LibrarySource& source, elements::Family family,
+                   Draw draw, QWidget* parent = nullptr);
   ~ComparisonWindow() override;
 
   /// The result was invalidated: the window closes.
@@ -55,7 +55,7 @@ class ComparisonWindow : public QDialog {
  private:
   Overlay Current() const;
 
-  WindowTools tools_;
+  windows::WindowTools tools_;
   Draw draw_;
   QSplitter* sides_ = nullptr;
   ComparisonPanel* laboratory_ = nullptr;
@@ -63,8 +63,8 @@ class ComparisonWindow : public QDialog {
 };
 
 /// The databases that the laboratory side offers for `family`.
-std::vector<TreeNode> LaboratoryNodes(elements::Family family, const WindowTools& tools);
+std::vector<TreeNode> LaboratoryNodes(elements::Family family, const windows::WindowTools& tools);
 /// The databases that the in-situ side offers for `family`.
-std::vector<TreeNode> InSituNodes(elements::Family family, const WindowTools& tools);
+std::vector<TreeNode> InSituNodes(elements::Family family, const windows::WindowTools& tools);
 
 }  // namespace velmar::structures

@@ -3,14 +3,14 @@
 #include <QMimeData>
 #include <QStringList>
 
-#include "shell/structures/window_tools.h"
+#include "shell/windows/window_tools.h"
 
 namespace velmar::structures {
 namespace {
 
 /// A tabulator or a line break would end the field.
 QString OneField(const MessageLine& line, const presentation::Words& words) {
-  return ToQt(presentation::InWords(line, words)).simplified();
+  return windows::ToQt(presentation::InWords(line, words)).simplified();
 }
 
 }  // namespace

@@ -37,7 +37,7 @@ std::array<std::string, kFieldCount> FieldsOf(const MeasuredTest& test) {
 
 }  // namespace
 
-ExtraDataDialog::ExtraDataDialog(const WindowTools& tools, const MeasuredTest& test, QWidget* parent)
+ExtraDataDialog::ExtraDataDialog(const windows::WindowTools& tools, const MeasuredTest& test, QWidget* parent)
     : QDialog(parent) {
   setObjectName(QStringLiteral("Form10"));
   setWindowTitle(tools.Text(kCaptionRow) + QStringLiteral(" - VELMARpro"));
@@ -49,7 +49,7 @@ ExtraDataDialog::ExtraDataDialog(const WindowTools& tools, const MeasuredTest& t
     const MessageRow caption{kFirstFieldRow + static_cast<int>(i)};
     auto* label = new QLabel(tools.Text(caption), this);
     label->setObjectName(QStringLiteral("Label1_%1").arg(i));
-    auto* box = new QLineEdit(ToQt(fields[i]), this);
+    auto* box = new QLineEdit(windows::ToQt(fields[i]), this);
     box->setObjectName(QStringLiteral("Text1_%1").arg(i));
     box->setAccessibleName(label->text());
     box->setReadOnly(true);

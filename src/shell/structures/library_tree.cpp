@@ -17,15 +17,15 @@ constexpr MessageRow kSmallElementsRow{392};
 
 void AddFiles(QTreeWidgetItem& node, Branch branch, const LibrarySource& source) {
   for (const std::string& name : source.files(branch)) {
-    auto* file = new QTreeWidgetItem(&node, {ToQt(name)});
-    file->setToolTip(0, ToQt(name));
+    auto* file = new QTreeWidgetItem(&node, {windows::ToQt(name)});
+    file->setToolTip(0, windows::ToQt(name));
     file->setData(0, kBranchRole, static_cast<int>(branch));
-    file->setData(0, kFileRole, ToQt(name));
+    file->setData(0, kFileRole, windows::ToQt(name));
   }
 }
 
 void AddNode(QTreeWidgetItem& parent, const TreeNode& node, const LibrarySource& source,
-             const WindowTools& tools) {
+             const windows::WindowTools& tools) {
   auto* item = new QTreeWidgetItem(&parent, {node.caption});
   for (const TreeNode& child : node.children) AddNode(*item, child, source, tools);
   for (const Branch branch : node.branches) tools.Try([&] { AddFiles(*item, branch, source); });
@@ -34,7 +34,7 @@ void AddNode(QTreeWidgetItem& parent, const TreeNode& node, const LibrarySource&
 }  // namespace
 
 void FillTree(QTreeWidget& tree, const std::vector<TreeNode>& nodes, const LibrarySource& source,
-              const WindowTools& tools) {
+              const windows::WindowTools& tools) {
   tree.clear();
   for (const TreeNode& node : nodes) AddNode(*tree.invisibleRootItem(), node, source, tools);
   tree.expandAll();
@@ -43,10 +43,10 @@ void FillTree(QTreeWidget& tree, const std::vector<TreeNode>& nodes, const Libra
 std::optional<LibraryFile> FileOf(const QTreeWidgetItem* item) {
   if (item == nullptr || !item->data(0, kFileRole).isValid()) return std::nullopt;
   return LibraryFile{static_cast<Branch>(item->data(0, kBranchRole).toInt()),
-                     FromQt(item->data(0, kFileRole).toString())};
+                     windows::FromQt(item->data(0, kFileRole).toString())};
 }
 
-std::vector<TreeNode> LibraryNodes(bool components, const WindowTools& tools) {
+std::vector<TreeNode> LibraryNodes(bool components, const windows::WindowTools& tools) {
   TreeNode root{tools.Text(kCustomRow), {}, {}};
   if (components) {
     root.children.push_back({tools.Text(kOpeningsRow), {Branch::kOpenings}, {}});

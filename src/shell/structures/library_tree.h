@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "shell/structures/structure_sources.h"
-#include "shell/structures/window_tools.h"
+#include "shell/windows/window_tools.h"
 
 class QTreeWidget;
 class QTreeWidgetItem;
@@ -22,13 +22,13 @@ struct TreeNode {
 /// Fills `tree` with `nodes` and the files that `source` names for them, all unfolded. A branch without files
 /// is a node without children; one that cannot be read is told of and left without.
 void FillTree(QTreeWidget& tree, const std::vector<TreeNode>& nodes, const LibrarySource& source,
-              const WindowTools& tools);
+              const windows::WindowTools& tools);
 
 /// The file that `item` stands for; nothing for a node that only holds others.
 std::optional<LibraryFile> FileOf(const QTreeWidgetItem* item);
 
 /// The nodes of the library window.
 /// @param components true for what fits a component of a facade, false for its opaque part
-std::vector<TreeNode> LibraryNodes(bool components, const WindowTools& tools);
+std::vector<TreeNode> LibraryNodes(bool components, const windows::WindowTools& tools);
 
 }  // namespace velmar::structures

@@ -22,14 +22,14 @@ constexpr MessageRow kConfirmTipRow{1708};
 constexpr MessageRow kExtraDataRow{1709};
 constexpr const char* kMemoryName = "database-sperimentale";
 
-RememberedSizes SizesOf(QWidget* window, const TestChooser& chooser) {
+windows::RememberedSizes SizesOf(QWidget* window, const TestChooser& chooser) {
   return {QLatin1String(kMemoryName), window, nullptr, chooser.Splitter()};
 }
 
 }  // namespace
 
-MeasuredLibraryWindow::MeasuredLibraryWindow(WindowTools tools, LibrarySource source, MeasuredTarget target,
-                                             QWidget* parent)
+MeasuredLibraryWindow::MeasuredLibraryWindow(windows::WindowTools tools, LibrarySource source,
+                                             MeasuredTarget target, QWidget* parent)
     : QDialog(parent), tools_(std::move(tools)), target_(std::move(target)) {
   setObjectName(QStringLiteral("Form9"));
   setWindowTitle(Caption());
@@ -57,10 +57,12 @@ MeasuredLibraryWindow::MeasuredLibraryWindow(WindowTools tools, LibrarySource so
   const int character = metrics.averageCharWidth();
   resize(character * 190, metrics.height() * 40);
   chooser_->Splitter()->setSizes({character * 44, character * 44, character * 102});
-  RestoreSizes(tools_.memory, SizesOf(this, *chooser_));
+  windows::RestoreSizes(tools_.memory, SizesOf(this, *chooser_));
 }
 
-MeasuredLibraryWindow::~MeasuredLibraryWindow() { SaveSizes(tools_.memory, SizesOf(this, *chooser_)); }
+MeasuredLibraryWindow::~MeasuredLibraryWindow() {
+  windows::SaveSizes(tools_.memory, SizesOf(this, *chooser_));
+}
 
 QString MeasuredLibraryWindow::Caption() const {
   const QString caption = tools_.Text(kCaptionRow);

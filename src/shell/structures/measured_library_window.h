@@ -4,7 +4,7 @@
 #include <functional>
 
 #include "shell/structures/structure_sources.h"
-#include "shell/structures/window_tools.h"
+#include "shell/windows/window_tools.h"
 
 class QPushButton;
 
@@ -24,7 +24,7 @@ struct MeasuredTarget {
 /// "Database sperimentale" (`Form9`): browses the measured structures and hands one over.
 class MeasuredLibraryWindow : public QDialog {
  public:
-  MeasuredLibraryWindow(WindowTools tools, LibrarySource source, MeasuredTarget target,
+  MeasuredLibraryWindow(windows::WindowTools tools, LibrarySource source, MeasuredTarget target,
                         QWidget* parent = nullptr);
   ~MeasuredLibraryWindow() override;
 
@@ -34,7 +34,7 @@ class MeasuredLibraryWindow : public QDialog {
   void Take();
   void ShowExtraData();
 
-  WindowTools tools_;
+  windows::WindowTools tools_;
   MeasuredTarget target_;
   TestChooser* chooser_ = nullptr;
   TestDetails* details_ = nullptr;

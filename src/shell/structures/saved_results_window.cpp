@@ -26,13 +26,13 @@ constexpr MessageRow kCopyRow{376};
 constexpr const char* kMemoryName = "database-risultati";
 constexpr int kNameColumnCharacters = 34;
 
-RememberedSizes SizesOf(QWidget* window, QTableView* grid) {
+windows::RememberedSizes SizesOf(QWidget* window, QTableView* grid) {
   return {QLatin1String(kMemoryName), window, grid->horizontalHeader(), nullptr};
 }
 
 }  // namespace
 
-SavedResultsWindow::SavedResultsWindow(WindowTools tools, ResultSource source, Listener listener,
+SavedResultsWindow::SavedResultsWindow(windows::WindowTools tools, ResultSource source, Listener listener,
                                        QWidget* parent)
     : QDialog(parent),
       tools_(std::move(tools)),
@@ -48,13 +48,13 @@ SavedResultsWindow::SavedResultsWindow(WindowTools tools, ResultSource source, L
   column->addWidget(MakeDetails());
   column->addWidget(MakeButtons());
   const QFontMetrics metrics = fontMetrics();
-  if (!RestoreSizes(tools_.memory, SizesOf(this, grid_)))
+  if (!windows::RestoreSizes(tools_.memory, SizesOf(this, grid_)))
     resize(metrics.averageCharWidth() * 130, metrics.height() * 34);
   Refresh();
   search_->setFocus();
 }
 
-SavedResultsWindow::~SavedResultsWindow() { SaveSizes(tools_.memory, SizesOf(this, grid_)); }
+SavedResultsWindow::~SavedResultsWindow() { windows::SaveSizes(tools_.memory, SizesOf(this, grid_)); }
 
 QWidget* SavedResultsWindow::MakeKinds() {
   auto* bar = new QWidget(this);
@@ -153,7 +153,7 @@ ResultKind SavedResultsWindow::Kind() const {
 
 std::string SavedResultsWindow::SelectedName() const {
   const QModelIndex current = grid_->currentIndex();
-  return current.isValid() ? FromQt(current.siblingAtColumn(0).data().toString()) : std::string();
+  return current.isValid() ? windows::FromQt(current.siblingAtColumn(0).data().toString()) : std::string();
 }
 
 void SavedResultsWindow::SelectRow(int row) {
@@ -163,11 +163,11 @@ void SavedResultsWindow::SelectRow(int row) {
 }
 
 void SavedResultsWindow::Refresh() {
-  const QString before = ToQt(SelectedName());
+  const QString before = windows::ToQt(SelectedName());
   std::vector<QStringList> rows;
   tools_.Try([&] {
     for (const ResultEntry& entry : source_.list(Kind()))
-      rows.push_back({ToQt(entry.name), ToQt(entry.description)});
+      rows.push_back({windows::ToQt(entry.name), windows::ToQt(entry.description)});
   });
   model_.Fill(std::move(rows));
   const QModelIndexList again =
@@ -199,7 +199,8 @@ void SavedResultsWindow::Copy() {
 void SavedResultsWindow::Delete() {
   const std::string name = SelectedName();
   if (name.empty()) return;
-  const QString question = tools_.Text(kDeleteQuestionRow) + QLatin1Char(' ') + ToQt(name) + QLatin1Char('?');
+  const QString question =
+      tools_.Text(kDeleteQuestionRow) + QLatin1Char(' ') + windows::ToQt(name) + QLatin1Char('?');
   if (!tools_.ask(question)) return;
   const int row = grid_->currentIndex().row();
   bool removed = false;

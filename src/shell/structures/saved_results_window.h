@@ -6,7 +6,7 @@
 
 #include "shell/structures/entry_model.h"
 #include "shell/structures/structure_sources.h"
-#include "shell/structures/window_tools.h"
+#include "shell/windows/window_tools.h"
 
 class QLineEdit;
 class QPlainTextEdit;
@@ -28,7 +28,8 @@ class SavedResultsWindow : public QDialog {
     std::function<void(ResultKind, const std::string& name)> removed{};
   };
 
-  SavedResultsWindow(WindowTools tools, ResultSource source, Listener listener, QWidget* parent = nullptr);
+  SavedResultsWindow(windows::WindowTools tools, ResultSource source, Listener listener,
+                     QWidget* parent = nullptr);
   ~SavedResultsWindow() override;
 
   /// Reads the table anew; the selected entry stays selected when it is still there.
@@ -47,7 +48,7 @@ class SavedResultsWindow : public QDialog {
   void Delete();
   void Take();
 
-  WindowTools tools_;
+  windows::WindowTools tools_;
   ResultSource source_;
   Listener listener_;
   EntryModel model_;

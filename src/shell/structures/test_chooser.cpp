@@ -23,7 +23,7 @@ constexpr int kListCharacters = 44;
 
 }  // namespace
 
-TestChooser::TestChooser(const WindowTools& tools, LibrarySource source, const Controls& controls,
+TestChooser::TestChooser(const windows::WindowTools& tools, LibrarySource source, const Controls& controls,
                          Listener listener, QWidget* parent)
     : QWidget(parent),
       tools_(tools),
@@ -114,19 +114,20 @@ void TestChooser::OpenFile(const LibraryFile& file) {
     keywords_->addItem(tools_.Text(kAllRow));
     std::set<std::string> listed = {std::string()};
     for (const TestEntry& test : tests_) {
-      if (listed.insert(test.keyword).second) keywords_->addItem(ToQt(test.keyword));
+      if (listed.insert(test.keyword).second) keywords_->addItem(windows::ToQt(test.keyword));
     }
   }
   FillList();
-  if (listener_.file) listener_.file(file, tests_.empty() ? QString() : ToQt(tests_.front().description));
+  if (listener_.file)
+    listener_.file(file, tests_.empty() ? QString() : windows::ToQt(tests_.front().description));
 }
 
 void TestChooser::FillList() {
   const bool all = keywords_->currentIndex() <= 0;
-  const std::string keyword = FromQt(keywords_->currentText());
+  const std::string keyword = windows::FromQt(keywords_->currentText());
   std::vector<QStringList> rows;
   for (const TestEntry& test : tests_) {
-    if (all || test.keyword == keyword) rows.push_back({ToQt(test.name)});
+    if (all || test.keyword == keyword) rows.push_back({windows::ToQt(test.name)});
   }
   Clear();
   model_.Fill(std::move(rows));
@@ -141,7 +142,7 @@ void TestChooser::Clear() {
 
 void TestChooser::Choose(const QString& name) {
   std::optional<MeasuredTest> found;
-  if (file_ && !name.isEmpty()) tools_.Try([&] { found = source_.test(*file_, FromQt(name)); });
+  if (file_ && !name.isEmpty()) tools_.Try([&] { found = source_.test(*file_, windows::FromQt(name)); });
   if (!found && !chosen_) return;
   chosen_ = std::move(found);
   if (listener_.test) listener_.test(chosen_);

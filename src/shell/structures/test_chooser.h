@@ -7,7 +7,7 @@
 #include "shell/structures/entry_model.h"
 #include "shell/structures/library_tree.h"
 #include "shell/structures/structure_sources.h"
-#include "shell/structures/window_tools.h"
+#include "shell/windows/window_tools.h"
 
 class QComboBox;
 class QLineEdit;
@@ -34,8 +34,8 @@ class TestChooser : public QWidget {
     std::function<void(const std::optional<MeasuredTest>&)> test{};
   };
 
-  TestChooser(const WindowTools& tools, LibrarySource source, const Controls& controls, Listener listener,
-              QWidget* parent = nullptr);
+  TestChooser(const windows::WindowTools& tools, LibrarySource source, const Controls& controls,
+              Listener listener, QWidget* parent = nullptr);
 
   const std::optional<MeasuredTest>& Chosen() const { return chosen_; }
   /// No test is chosen any more.
@@ -49,7 +49,7 @@ class TestChooser : public QWidget {
   void FillList();
   void Choose(const QString& name);
 
-  WindowTools tools_;
+  windows::WindowTools tools_;
   LibrarySource source_;
   Listener listener_;
   EntryModel model_;

@@ -23,7 +23,7 @@ constexpr std::array<const char*, 5> kCertificateNames = {"TextCertificato", "Te
 constexpr std::size_t kBandsInARow = 7;
 constexpr double kRatingScale = 1.4;
 
-QString Decibels(const std::optional<double>& value) { return ToQt(calculation::BoxText(value)); }
+QString Decibels(const std::optional<double>& value) { return windows::ToQt(calculation::BoxText(value)); }
 
 void ShowFromStart(QLineEdit& box, const QString& text) {
   box.setText(text);
@@ -40,7 +40,8 @@ QString RatingLabel(const calculation::FacadePart& part) {
          QStringLiteral(") dB");
 }
 
-TestDetails::TestDetails(const WindowTools& tools, QWidget* parent) : QWidget(parent), tools_(tools) {
+TestDetails::TestDetails(const windows::WindowTools& tools, QWidget* parent)
+    : QWidget(parent), tools_(tools) {
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(0, 0, 0, 0);
   rating_ = new QLabel(this);
@@ -154,8 +155,8 @@ void TestDetails::ShowDescription(const QString& description) { description_->se
 
 void TestDetails::ShowCaptions(calculation::PartQuantity quantity) {
   const calculation::PartCaptions captions = calculation::CaptionsOf(quantity);
-  rating_caption_->setText(ToQt(captions.rating));
-  band_caption_->setText(ToQt(captions.bands));
+  rating_caption_->setText(windows::ToQt(captions.rating));
+  band_caption_->setText(windows::ToQt(captions.bands));
 }
 
 void TestDetails::Show(const std::optional<MeasuredTest>& test) {
@@ -164,7 +165,7 @@ void TestDetails::Show(const std::optional<MeasuredTest>& test) {
   const bool small = part.quantity == calculation::PartQuantity::kElementDifference;
   if (test) ShowCaptions(part.quantity);
   rating_->setText(test ? RatingLabel(part) : QString());
-  description_->setPlainText(ToQt(part.description));
+  description_->setPlainText(windows::ToQt(part.description));
   const QString area = small ? QStringLiteral("0") : Decibels(part.area_m2);
   const QString mass = part.mass_kg_m2 ? Decibels(part.mass_kg_m2) : QStringLiteral("-");
   const std::array<QString, 5> values = {Decibels(part.rating_db), Decibels(part.c_db), Decibels(part.ctr_db),
@@ -173,11 +174,12 @@ void TestDetails::Show(const std::optional<MeasuredTest>& test) {
   for (std::size_t i = 0; i < bands_.size(); ++i) {
     const std::optional<double>& value = part.bands_db[i];
     const bool measured = value && *value != calculation::kNotMeasuredDb;
-    bands_[i]->setText(measured ? ToQt(FormatFixed(*value, 1)) : QString());
+    bands_[i]->setText(measured ? windows::ToQt(FormatFixed(*value, 1)) : QString());
   }
   const std::array<std::string, 5> certificate = {shown.certificate, shown.date, shown.laboratory,
                                                   shown.client, shown.notes};
-  for (std::size_t i = 0; i < certificate_.size(); ++i) ShowFromStart(*certificate_[i], ToQt(certificate[i]));
+  for (std::size_t i = 0; i < certificate_.size(); ++i)
+    ShowFromStart(*certificate_[i], windows::ToQt(certificate[i]));
   curve_->Show(test);
   picture_->Show(shown.picture);
 }

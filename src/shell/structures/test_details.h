@@ -6,7 +6,7 @@
 
 #include "presentation/drawing/curve_chart.h"
 #include "shell/structures/structure_sources.h"
-#include "shell/structures/window_tools.h"
+#include "shell/windows/window_tools.h"
 
 class QFormLayout;
 class QLabel;
@@ -18,7 +18,7 @@ namespace velmar::structures {
 /// The curve of a measured test (`Picture1`), its scale taken from the values.
 class MeasuredCurveView : public QWidget {
  public:
-  explicit MeasuredCurveView(const WindowTools& tools, QWidget* parent = nullptr);
+  explicit MeasuredCurveView(const windows::WindowTools& tools, QWidget* parent = nullptr);
 
   void Show(const std::optional<MeasuredTest>& test);
   QSize sizeHint() const override;
@@ -35,7 +35,7 @@ class MeasuredCurveView : public QWidget {
 /// The picture of a test, as large as its place allows.
 class PictureView : public QWidget {
  public:
-  explicit PictureView(const WindowTools& tools, QWidget* parent = nullptr);
+  explicit PictureView(const windows::WindowTools& tools, QWidget* parent = nullptr);
 
   /// A file that is missing or no picture leaves a quiet word in its place.
   void Show(const std::filesystem::path& file);
@@ -53,7 +53,7 @@ class PictureView : public QWidget {
 /// Everything that is known of a test, to read: rating, values, curve, picture, certificate.
 class TestDetails : public QWidget {
  public:
-  explicit TestDetails(const WindowTools& tools, QWidget* parent = nullptr);
+  explicit TestDetails(const windows::WindowTools& tools, QWidget* parent = nullptr);
 
   void Show(const std::optional<MeasuredTest>& test);
   void ShowDescription(const QString& description);
@@ -66,7 +66,7 @@ class TestDetails : public QWidget {
   QWidget* MakeCertificate();
   QLineEdit* Box(const QString& name, const QString& accessible_name);
 
-  WindowTools tools_;
+  windows::WindowTools tools_;
   QLabel* rating_ = nullptr;               ///< `Label3`
   QPlainTextEdit* description_ = nullptr;  ///< `Text2`
   std::array<QLineEdit*, 5> values_{};     ///< `Text4`, `Text5`, `Text6`, `Text3`, surface mass

@@ -15,7 +15,7 @@ constexpr int kLargestPicturePx = 1600;
 
 }  // namespace
 
-MeasuredCurveView::MeasuredCurveView(const WindowTools& tools, QWidget* parent)
+MeasuredCurveView::MeasuredCurveView(const windows::WindowTools& tools, QWidget* parent)
     : QWidget(parent), empty_(presentation::EmptyChart(tools.words)), chart_(empty_) {
   setObjectName(QStringLiteral("Picture1"));
   setAccessibleName(tools.Text(kCurveNameRow));
@@ -45,7 +45,7 @@ void MeasuredCurveView::paintEvent(QPaintEvent* /*event*/) {
   presentation::DrawCurveChart(painter, rect(), chart_);
 }
 
-PictureView::PictureView(const WindowTools& tools, QWidget* parent)
+PictureView::PictureView(const windows::WindowTools& tools, QWidget* parent)
     : QWidget(parent), no_picture_(tools.Text(kNoPictureRow)) {
   setObjectName(QStringLiteral("Picture2"));
   setAccessibleName(tools.Text(kPictureNameRow));
@@ -57,7 +57,7 @@ void PictureView::Show(const std::filesystem::path& file) {
   picture_ = {};
   std::error_code error;
   if (!file.empty() && std::filesystem::is_regular_file(file, error)) {
-    QImageReader reader(ToQt(file.string()));
+    QImageReader reader(windows::ToQt(file.string()));
     reader.setDecideFormatFromContent(true);
     reader.setAutoTransform(true);
     const QSize size = reader.size();

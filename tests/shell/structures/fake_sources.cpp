@@ -13,8 +13,8 @@ Failure LockedFailure() {
   return Failure({{std::string("Il file è in uso da un altro programma.")}}, "locked");
 }
 
-WindowTools FakeBoxes::Tools() {
-  WindowTools tools;
+windows::WindowTools FakeBoxes::Tools() {
+  windows::WindowTools tools;
   tools.words = presentation::CatalogueWords();
   tools.ask = [this](const QString& question) {
     questions << question;

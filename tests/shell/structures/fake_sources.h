@@ -12,7 +12,7 @@
 #include <vector>
 
 #include "shell/structures/structure_sources.h"
-#include "shell/structures/window_tools.h"
+#include "shell/windows/window_tools.h"
 
 namespace velmar::structures {
 
@@ -22,7 +22,7 @@ Failure LockedFailure();
 /// Answers every box, and keeps what was said.
 class FakeBoxes {
  public:
-  WindowTools Tools();
+  windows::WindowTools Tools();
 
   bool answer = true;
   QStringList questions{};

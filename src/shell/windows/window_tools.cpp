@@ -1,4 +1,4 @@
-#include "shell/structures/window_tools.h"
+#include "shell/windows/window_tools.h"
 
 #include <QHeaderView>
 #include <QSettings>
@@ -6,7 +6,7 @@
 #include <QStringList>
 #include <QWidget>
 
-namespace velmar::structures {
+namespace velmar::windows {
 namespace {
 
 QString Key(const RememberedSizes& sizes, const char* piece) {
@@ -43,4 +43,4 @@ void SaveSizes(QSettings* memory, const RememberedSizes& sizes) {
   if (sizes.splitter != nullptr) memory->setValue(Key(sizes, "divisione"), sizes.splitter->saveState());
 }
 
-}  // namespace velmar::structures
+}  // namespace velmar::windows

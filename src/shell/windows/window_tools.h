@@ -11,7 +11,7 @@ class QSettings;
 class QSplitter;
 class QWidget;
 
-namespace velmar::structures {
+namespace velmar::windows {
 
 /// What every window here is given. The boxes are passed in, so that a test answers them without one opening.
 struct WindowTools {
@@ -54,4 +54,4 @@ struct RememberedSizes {
 bool RestoreSizes(const QSettings* memory, const RememberedSizes& sizes);
 void SaveSizes(QSettings* memory, const RememberedSizes& sizes);
 
-}  // namespace velmar::structures
+}  // namespace velmar::windows
