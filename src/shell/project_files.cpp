@@ -13,6 +13,7 @@ constexpr MessageRow kNewRow{140};
 constexpr MessageRow kUnexpectedRow{1023};
 constexpr MessageRow kRecoveryFirstRow{1306};
 constexpr MessageRow kRecoverySecondRow{1307};
+constexpr MessageRow kUnknownCalculationRow{1349};
 constexpr const char* kEnding = ".drav";
 constexpr const char* kFilter = "VELMARpro files (*.drav)";
 
@@ -64,6 +65,8 @@ bool ProjectFiles::Load(const std::filesystem::path& file) {
   }
   memory_.Remember(file);
   Rename(file);
+  if (!services_.open.Setup().calculation)
+    services_.boxes.tell(Tone::kInformation, Text(services_.words, kUnknownCalculationRow));
   return true;
 }
 

@@ -5,7 +5,6 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTest>
-#include <clocale>
 
 #include "calculation/select_calculation.h"
 #include "shell/about_box.h"
@@ -122,11 +121,5 @@ class DialogsTest : public QObject {
 
 }  // namespace velmar::shell
 
-int main(int argc, char** argv) {
-  QApplication application(argc, argv);
-  std::setlocale(LC_NUMERIC, "C");
-  velmar::shell::DialogsTest test;
-  return QTest::qExec(&test, argc, argv);
-}
-
+QTEST_MAIN(velmar::shell::DialogsTest)
 #include "dialogs_test.moc"

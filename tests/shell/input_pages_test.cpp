@@ -1,6 +1,7 @@
 #include <QAbstractItemView>
 #include <QComboBox>
 #include <QCompleter>
+#include <QLabel>
 #include <QLineEdit>
 #include <QRadioButton>
 #include <QTabWidget>
@@ -96,11 +97,35 @@ class InputPagesTest : public QObject {
     QCOMPARE(QString::fromStdString(fixture_->open.Setup().leaf1.rows.at(0).listed), name);
   }
 
+  void aMaterialThatIsNotThereLeavesTheResult() {
+    fixture_->Choose("TIPO_PARETE_SINGOLA_0");
+    fixture_->Run();
+    const elements::Setup before = fixture_->open.Setup();
+    auto* box = fixture_->Find<QComboBox>("Combo3_0");
+    TypeMaterial(box, "criptonite");
+    QVERIFY(fixture_->open.Setup() == before);
+    QVERIFY(fixture_->open.Result());
+  }
+
+  void aCavityDepthOfNoughtIsToldWhenItsFieldIsLeft() {
+    OpenCavity("TIPO_PARETE_DOPPIA_0");
+    fixture_->Type("Text9", "0");
+    QCOMPARE(fixture_->told.size(), 0);
+    Leave("Text9");
+    QCOMPARE(fixture_->told.size(), 1);
+    QCOMPARE(TextOf("Text9"), "10");
+  }
+
   void aSmallElementHasADashForItsArea() {
     fixture_->Choose("cal_facciata");
+    fixture_->Type("Text7", "10");
     fixture_->Find<QTabWidget>("SSTab1")->setCurrentIndex(5);
+    fixture_->Type("Text23_0", "2.5");
+    QCOMPARE(fixture_->Find<QLabel>("Label19_0")->text(), QString("25,0%"));
     fixture_->Type("Text23_0", "-");
     QCOMPARE(fixture_->open.Setup().facade.components.at(0).area_text, std::string("-"));
+    QCOMPARE(TextOf("Text23_0"), "-");
+    QCOMPARE(fixture_->Find<QLabel>("Label19_0")->text(), QString("0,0%"));
   }
 
   void aFacadeWithoutAreaShowsNone() {

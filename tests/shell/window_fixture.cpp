@@ -3,7 +3,7 @@
 #include <QAction>
 #include <QLineEdit>
 #include <QTest>
-#include <map>
+#include <clocale>
 
 #include "application/projects.h"
 #include "calculation/material_choice.h"
@@ -72,6 +72,8 @@ elements::Setup FirstSetup() {
 }  // namespace
 
 WindowFixture::WindowFixture() {
+  // As the program does: numbers are read and written by code that knows one locale.
+  std::setlocale(LC_NUMERIC, "C");
   services.words = Word;
   services.materials = {FindRecord<elements::StructuralMaterial>, FindRecord<elements::FibrousMaterial>,
                         FindRecord<elements::ResilientMaterial>};
@@ -99,6 +101,14 @@ WindowFixture::WindowFixture() {
 }
 
 void WindowFixture::Choose(const char* control) { Find<QAction>(control)->trigger(); }
+
+void WindowFixture::Choose(elements::Calculation calculation) {
+  const elements::CalculationRow& row = RowOf(calculation);
+  const QString group = QString::fromUtf8(row.menu_group.data(), static_cast<int>(row.menu_group.size()));
+  const QString entry = group + '_' + QString::number(row.menu_index);
+  const auto* of_several = window->findChild<QAction*>(entry);
+  Choose(qPrintable(of_several != nullptr ? entry : group));
+}
 
 void WindowFixture::Run() { Find<QAction>("esegui_calcolo")->trigger(); }
 

@@ -14,6 +14,7 @@ struct WindowFixture {
 
   /// Chooses the calculation of the menu entry `control`.
   void Choose(const char* control);
+  void Choose(elements::Calculation calculation);
   /// Presses F5 at the window.
   void Run();
   /// The control called `name`. Aborts the test program when there is none.
