@@ -9,6 +9,7 @@
 #include "cli/outcome_table.h"
 #include "foundation/failure.h"
 #include "storage/files/whole_file.h"
+#include "storage/materials/coupled_boxes.h"
 #include "storage/materials/keywords.h"
 #include "storage/materials/material_entry.h"
 #include "storage/materials/material_store.h"
@@ -98,11 +99,29 @@ ExitCode Show(const Work& work) {
   return found ? ExitCode::kDone : work.Refuse({{kUnknownMaterialRow, " " + work.command.name}});
 }
 
+/// Of thickness, density and surface mass the one that is missing follows from the others, as in the editor.
+storage::StructuralEntry Completed(storage::StructuralEntry entry) {
+  storage::MassBoxes boxes{entry.thickness, entry.density, entry.surface_mass};
+  const int missing = int{boxes.thickness_mm.empty()} + int{boxes.density_kg_m3.empty()} +
+                      int{boxes.surface_mass_kg_m2.empty()};
+  if (missing != 1) return entry;
+  boxes = storage::CoupleMass(
+      boxes, boxes.thickness_mm.empty() ? storage::MassBox::kDensity : storage::MassBox::kThickness);
+  entry.thickness = boxes.thickness_mm;
+  entry.density = boxes.density_kg_m3;
+  entry.surface_mass = boxes.surface_mass_kg_m2;
+  return entry;
+}
+template <typename Entry>
+Entry Completed(Entry entry) {
+  return entry;
+}
+
 /// The row of `cells` after the checks that the editors make. What the editors do not show is taken as given.
 template <typename Material>
 std::variant<MaterialRow<Material>, Message> Checked(const Work& work, const Cells& cells) {
   const auto given = storage::RowFromCells<Material>(cells);
-  auto checked = storage::RowOf(storage::EntryOf(given), work.Keywords());
+  auto checked = storage::RowOf(Completed(storage::EntryOf(given)), work.Keywords());
   if (auto* refusal = std::get_if<storage::EntryRefusal>(&checked)) return refusal->message;
   Cells completed = storage::CellsFromRow(std::get<MaterialRow<Material>>(checked));
   for (std::size_t i = 0; i < completed.size(); ++i) {

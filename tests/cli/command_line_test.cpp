@@ -202,31 +202,39 @@ TEST(Rate, RatesTwentyOneBandsAndNegativeLevels) {
   EXPECT_TRUE(said.Json().contains("Ci"));
 }
 
+/// Arguments that no command understands, and how the complaint begins.
 struct WrongUsage {
   const char* name;
   std::vector<std::string> arguments;
+  const char* said;
 };
 
 class WrongUsageTest : public testing::TestWithParam<WrongUsage> {};
 
-TEST_P(WrongUsageTest, EndsWithTwoAndAWord) {
+TEST_P(WrongUsageTest, EndsWithTwoAndNamesTheArgument) {
   const Said said = Say(GetParam().arguments);
   EXPECT_EQ(said.code, 2);
-  EXPECT_NE(said.errors, "");
+  EXPECT_EQ(said.errors.substr(0, said.errors.find('\n')), GetParam().said);
   EXPECT_EQ(said.out, "");
 }
 
 INSTANTIATE_TEST_SUITE_P(
     Arguments, WrongUsageTest,
-    testing::Values(WrongUsage{"None", {}}, WrongUsage{"Unknown", {"calcola"}},
-                    WrongUsage{"RunWithoutProject", {"run"}},
-                    WrongUsage{"Answer", {"run", "a.drav", "--answer", "maybe"}},
-                    WrongUsage{"RateBoth", {"rate", "--airborne", "--impact", "--", "1"}},
-                    WrongUsage{"RateNeither", {"rate", "--", "1"}},
-                    WrongUsage{"RateTooFew", {"rate", "--airborne", "--", "1", "2"}},
+    testing::Values(WrongUsage{"None", {}, "row 1238"},
+                    WrongUsage{"Unknown", {"calcola"}, "row 1202 calcola"},
+                    WrongUsage{"Several", {"run", "a.drav", "--loud", "b"}, "row 1202 --loud b"},
+                    WrongUsage{"GroupWithoutCommand", {"materials"}, "row 1238"},
+                    WrongUsage{"RunWithoutProject", {"run"}, "row 1201 PROJECT"},
+                    WrongUsage{"Answer", {"run", "a.drav", "--answer", "maybe"}, "row 1203 --answer"},
+                    WrongUsage{"AnswerWithoutWord", {"run", "a.drav", "--answer"}, "row 1203 --answer"},
+                    WrongUsage{"Family", {"materials", "list", "--family", "glass"}, "row 1203 --family"},
+                    WrongUsage{"RateBoth", {"rate", "--airborne", "--impact", "--", "1"}, "row 1213"},
+                    WrongUsage{"RateNeither", {"rate", "--", "1"}, "row 1213"},
+                    WrongUsage{"RateTooFew", {"rate", "--airborne", "--", "1", "2"}, "row 1212"},
                     WrongUsage{"RateNoNumber",
                                {"rate", "--airborne", "--", "a", "2", "3", "4", "5", "6", "7", "8", "9", "10",
-                                "11", "12", "13", "14", "15", "16"}}),
+                                "11", "12", "13", "14", "15", "16"},
+                               "row 1012 \"a\""}),
     [](const auto& test) { return test.param.name; });
 
 TEST(Catalogue, ListsFortySevenCalculations) {
@@ -236,6 +244,21 @@ TEST(Catalogue, ListsFortySevenCalculations) {
 }
 
 TEST(Help, IsNoMistake) { EXPECT_EQ(Say({"--help"}).code, 0); }
+
+/// Every heading is a row of the catalogue: none of the parser's own English is left.
+TEST(Help, SpeaksTheLanguageOfTheUser) {
+  for (const auto& arguments : std::vector<std::vector<std::string>>{{"--help"},
+                                                                     {"run", "--help"},
+                                                                     {"rate", "--help"},
+                                                                     {"materials", "--help"},
+                                                                     {"materials", "add", "--help"},
+                                                                     {"results", "save", "--help"}}) {
+    const std::string help = Say(arguments).out;
+    for (const char* english : {"Usage", "Options", "OPTIONS", "Subcommand", "SUBCOMMAND", "Positionals",
+                                "REQUIRED", "TEXT", "Print this", "ENUM"})
+      EXPECT_EQ(help.find(english), std::string::npos) << english << " in\n" << help;
+  }
+}
 
 }  // namespace
 }  // namespace velmar::cli

@@ -90,6 +90,22 @@ TEST_F(MaterialsCommandTest, AddsChangesAndDeletes) {
   EXPECT_EQ(Say({"show", "Laterizio \"di prova\""}).code, 3);
 }
 
+/// As in the editor: one of thickness, density and surface mass may be left out.
+TEST_F(MaterialsCommandTest, CompletesTheThirdOfThicknessDensityAndMass) {
+  const std::vector<std::string> rest = {"Modulo di Young E (GPa)=4", "Fattore di perdita interna=0.01"};
+  const auto added = [&](const std::string& name, const std::string& one, const std::string& other) {
+    EXPECT_EQ(Say({"add", "--family", "structural", "Materiale=" + name, one, other, rest[0], rest[1]}).code,
+              0);
+    return Say({"show", name, "--json"}).Json();
+  };
+  EXPECT_EQ(added("Senza massa", "s (mm)=120", "Densità (kg/m³)=800,5")["m' (kg/m²)"], 96.06);
+  EXPECT_EQ(added("Senza densità", "s (mm)=120", "m' (kg/m²)=96")["Densità (kg/m³)"], 800);
+  EXPECT_EQ(added("Senza spessore", "Densità (kg/m³)=800", "m' (kg/m²)=96")["s (mm)"], 120);
+  EXPECT_EQ(
+      Say({"add", "--family", "structural", "Materiale=Sola massa", "m' (kg/m²)=96", rest[0], rest[1]}).code,
+      3);
+}
+
 TEST_F(MaterialsCommandTest, RefusesANameThatDiffersInCaseAlone) {
   ASSERT_EQ(AddBrick("Caffè").code, 0);
   const Said refused = AddBrick("CAFFÈ");
