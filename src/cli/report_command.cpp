@@ -10,6 +10,7 @@
 #include "cli/outcome_table.h"
 #include "cli/project_run.h"
 #include "foundation/failure.h"
+#include "storage/files/open_elsewhere.h"
 #include "storage/files/whole_file.h"
 
 namespace velmar::cli {
@@ -17,6 +18,8 @@ namespace {
 
 using std::filesystem::path;
 
+/// "The document could not be completed. Close it if another program has it open."
+constexpr MessageRow kOpenElsewhereRow{272};
 constexpr MessageRow kNoFormatRow{1290};
 constexpr MessageRow kNeedsFolderRow{1291};
 constexpr MessageRow kSameNameRow{1292};
@@ -74,7 +77,9 @@ ExitCode WriteReports(const ReportCommand& command, const path& project, const R
     const auto asked = command.targets.find(format.extension);
     if (asked == command.targets.end()) continue;
     try {
-      storage::WriteWhole(TargetOf(project, format.extension, asked->second), format.bytes(content));
+      const path target = TargetOf(project, format.extension, asked->second);
+      if (storage::IsOpenElsewhere(target)) throw Failure(Told(kOpenElsewhereRow, target), "open elsewhere");
+      storage::WriteWhole(target, format.bytes(content));
     } catch (const Failure& failure) {
       WriteMessage(failure.UserMessage(), services.words, errors);
       code = ExitCode::kFailed;

@@ -40,6 +40,7 @@ constexpr std::array kCommands = {
     Command{kTutorial,           0,  "tutorial",                  65,  0,   "",           "F1",     N::kNothing},
     Command{kContact,            0,  "Contatta_m",                66,  0,   "",           "",       N::kNothing},
     Command{kAbout,              0,  "Versione",                  67,  0,   "",           "",       N::kNothing},
+    Command{kChoosePrinter,      0,  "Scegli_stampante",          1501, 0,  "",           "",       N::kNothing},
 };
 // clang-format on
 

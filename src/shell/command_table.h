@@ -36,6 +36,7 @@ enum class CommandId {
   kTutorial,
   kContact,
   kAbout,
+  kChoosePrinter,
 };
 
 /// What must be there before a command can do anything.

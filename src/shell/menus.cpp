@@ -42,7 +42,7 @@ QMenu* FillMenuBar(QMenuBar& bar, const CommandSet& commands, const CalculationA
   recent->setObjectName("Recenti");
   Add(*file, commands, {kSaveProject, kStoreResult});
   file->addSeparator();
-  Add(*file, commands, {kExportWord, kExportExcel, kPrint, kPrintPreview});
+  Add(*file, commands, {kExportWord, kExportExcel, kPrint, kPrintPreview, kChoosePrinter});
   file->addSeparator();
   Add(*file, commands, {kProjectInformation});
   file->addSeparator();

@@ -3,41 +3,52 @@
 #include <memory>
 
 #include "presentation/drawing/printed_page.h"
-#include "shell/phrases.h"
+#include "presentation/export/report_chart.h"
 #include "shell/printing/page_printer.h"
-#include "shell/printing/printing_dialogs.h"
+#include "shell/results_panel.h"
 
 namespace velmar::shell {
 namespace {
 
 struct Paper {
-  explicit Paper(const presentation::Words& words)
-      : boxes(printing::ScreenBoxes(words)), printer(boxes.ask_to_print) {}
+  explicit Paper(const printing::PrintingBoxes& asked) : boxes(asked), printer(asked.ask_to_print) {}
 
   printing::PrintingBoxes boxes;
   printing::PagePrinter printer;
 };
 
-printing::PrintedDocument DocumentOf(const WindowServices& services) {
+}  // namespace
+
+printing::PrintedDocument DocumentOf(const WindowServices& services, const QWidget* window) {
+  const elements::Setup& setup = services.open.Setup();
   const calculation::Totals& totals = services.open.CurrentTotals();
   const auto& result = services.open.Result();
   printing::PrintedDocument document;
-  document.page =
-      presentation::PaginaDi(services.open.Setup(), {totals.thickness_mm, totals.surface_mass_kg_m2},
-                             result ? &*result : nullptr, services.words);
+  document.page = presentation::PaginaDi(
+      setup, {totals.thickness_mm, totals.surface_mass_kg_m2}, result ? &*result : nullptr, services.words,
+      result ? presentation::WholeChartOf(setup, *result, services.words, ShownChart(window)) : std::nullopt);
   document.title = document.page.title;
   return document;
 }
 
-}  // namespace
+printing::PrintingBoxes PaperBoxes(const WindowServices& services) {
+  const auto tell = [&services](Tone tone) {
+    return [&services, tone](QWidget*, const QString& text) { services.boxes.tell(tone, text); };
+  };
+  return printing::ScreenBoxes(services.words, tell(Tone::kInformation), tell(Tone::kCritical));
+}
 
-void AddPaperCommands(WindowServices& services) {
-  const auto paper = std::make_shared<Paper>(services.words);
+void AddPaperCommands(WindowServices& services, const printing::PrintingBoxes& boxes) {
+  const auto paper = std::make_shared<Paper>(boxes);
   services.command_windows[CommandId::kPrintPreview] = [paper, &services](QWidget* parent) {
-    printing::ShowPreview(DocumentOf(services), paper->printer, paper->boxes, services.words, parent);
+    printing::ShowPreview(DocumentOf(services, parent), paper->printer, paper->boxes, services.words, parent);
   };
   services.command_windows[CommandId::kPrint] = [paper, &services](QWidget* parent) {
-    printing::PrintDocument(DocumentOf(services), paper->printer, paper->boxes, services.words, parent);
+    printing::PrintDocument(DocumentOf(services, parent), paper->printer, paper->boxes, services.words,
+                            parent);
+  };
+  services.command_windows[CommandId::kChoosePrinter] = [paper, &services](QWidget* parent) {
+    printing::ChoosePrinter(paper->printer, paper->boxes, parent);
   };
 }
 

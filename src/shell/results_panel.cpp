@@ -23,6 +23,7 @@ namespace {
 constexpr MessageRow kNoResultRow{232};
 constexpr MessageRow kAutoscaleRow{73};
 constexpr MessageRow kSectionRow{74};
+constexpr const char* kPanel = "prnFrame1";
 constexpr double kRatingScale = 2.4;
 // Symbols of the ratings, the same in every language.
 constexpr const char* kRwName = "Rw = ";
@@ -48,7 +49,7 @@ QLabel* Named(const char* name, QWidget* parent) {
 }  // namespace
 
 ResultsPanel::ResultsPanel(const PageContext& context, QWidget* parent) : QWidget(parent), context_(context) {
-  setObjectName("prnFrame1");
+  setObjectName(kPanel);
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(kPageSpacing, kPageSpacing, kPageSpacing, kPageSpacing);
   column->addWidget(MakeRatings());
@@ -178,14 +179,14 @@ void ResultsPanel::ShowRatings(const elements::Setup& setup, const elements::Res
 
 void ResultsPanel::ShowChart() {
   const auto& result = context_.open.Result();
-  auto chart =
+  shown_ =
       result ? presentation::CurveChartOf(context_.open.Setup(), *result, context_.Words()) : std::nullopt;
   autoscale_->setEnabled(result.has_value());
-  if (chart) {
-    chart->autoscale = autoscale_->isChecked();
-    if (context_.services.lay_over) context_.services.lay_over(*chart);
+  if (shown_) {
+    shown_->autoscale = autoscale_->isChecked();
+    if (context_.services.lay_over) context_.services.lay_over(*shown_);
   }
-  chart_->Show(chart ? *chart : presentation::EmptyChart(context_.Words()));
+  chart_->Show(shown_ ? *shown_ : presentation::EmptyChart(context_.Words()));
 }
 
 void ResultsPanel::Highlight(const std::optional<presentation::LayerPlace>& place) {
@@ -194,6 +195,12 @@ void ResultsPanel::Highlight(const std::optional<presentation::LayerPlace>& plac
 
 void ResultsPanel::OnHover(std::function<void(const std::optional<presentation::LayerPlace>&)> on_hover) {
   section_->OnHover(std::move(on_hover));
+}
+
+std::optional<presentation::CurveChart> ShownChart(const QWidget* window) {
+  const auto* panel =
+      window != nullptr ? dynamic_cast<const ResultsPanel*>(window->findChild<QWidget*>(kPanel)) : nullptr;
+  return panel != nullptr ? panel->Chart() : std::nullopt;
 }
 
 }  // namespace velmar::shell

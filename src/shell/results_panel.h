@@ -1,7 +1,9 @@
 #pragma once
 
 #include <QWidget>
+#include <optional>
 
+#include "presentation/drawing/curve_chart.h"
 #include "shell/boxes.h"
 #include "shell/page_context.h"
 
@@ -25,6 +27,9 @@ class ResultsPanel : public QWidget {
   void Highlight(const std::optional<presentation::LayerPlace>& place);
   void OnHover(std::function<void(const std::optional<presentation::LayerPlace>&)> on_hover);
 
+  /// The chart as it is shown, with its scale and overlays; nothing without a result or a curve.
+  const std::optional<presentation::CurveChart>& Chart() const { return shown_; }
+
   QSplitter* Splitter() const { return splitter_; }
 
  private:
@@ -46,9 +51,13 @@ class ResultsPanel : public QWidget {
   QLabel* impact_improvement_ = nullptr;
   QCheckBox* autoscale_ = nullptr;
   ChartView* chart_ = nullptr;
+  std::optional<presentation::CurveChart> shown_{};
   QWidget* section_frame_ = nullptr;
   SectionView* section_ = nullptr;
   QSplitter* splitter_ = nullptr;
 };
+
+/// The chart that the results panel of `window` shows; nothing when there is none.
+std::optional<presentation::CurveChart> ShownChart(const QWidget* window);
 
 }  // namespace velmar::shell

@@ -116,7 +116,7 @@ struct Desktop {
     services.start_program = [](const std::filesystem::path& program) {
       return QProcess::startDetached(QString::fromStdString(program.string()), {});
     };
-    AddPaperCommands(services);
+    AddPaperCommands(services, PaperBoxes(services));
     AddReportCommands(services, environment.configuration.CartellaTemplates());
   }
 

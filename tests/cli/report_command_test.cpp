@@ -124,6 +124,14 @@ TEST_F(Report, AReadOnlyTargetIsToldAndStays) {
   EXPECT_EQ(FileCount(), 1U);
 }
 
+TEST_F(Report, ATargetThatIsOpenElsewhereIsToldAndStays) {
+  std::ofstream(In("old.csv")) << "old";
+  std::ofstream(In(".~lock.old.csv#")) << "me";
+  EXPECT_EQ(Say({"report", Example("facciata"), "--csv", In("old.csv")}), 1);
+  EXPECT_EQ(BytesOf(In("old.csv")), "old");
+  EXPECT_THAT(said_, HasSubstr("row 272"));
+}
+
 TEST_F(Report, AMissingFolderIsTold) {
   EXPECT_EQ(Say({"report", Example("facciata"), "--csv", In("none/a.csv")}), 1);
   EXPECT_THAT(said_, HasSubstr("none/a.csv"));

@@ -1,9 +1,6 @@
 #include <QAction>
-#include <QFile>
-#include <QTemporaryDir>
 #include <QTest>
 
-#include "shell/report_commands.h"
 #include "tests/shell/window_fixture.h"
 
 namespace velmar::shell {
@@ -44,23 +41,6 @@ class CommandsTest : public QObject {
       QCOMPARE(static_cast<int>(RowOf(*fixture.open.Setup().calculation).button), button);
       QVERIFY(fixture.Find<QAction>("Salva_Progetto")->isEnabled());
     }
-  }
-
-  void reportsAreWrittenOrTold() {
-    const QTemporaryDir folder;
-    WindowFixture fixture;
-    fixture.Choose(kSingleGeneric);
-    fixture.Run();
-    AddReportCommands(fixture.services, std::filesystem::path(SHARE) / "Templates");
-    fixture.file = folder.filePath("relazione");
-    fixture.Find<QAction>("mnuFileEsportaWord")->trigger();
-    fixture.Find<QAction>("esp_excel")->trigger();
-    QCOMPARE(fixture.told, QStringList({"Il documento è stato salvato.", "Il documento è stato salvato."}));
-    QVERIFY(QFile::exists(folder.filePath("relazione.docx")));
-    QVERIFY(QFile::exists(folder.filePath("relazione.xlsx")));
-    AddReportCommands(fixture.services, folder.path().toStdString());
-    fixture.Find<QAction>("esp_excel")->trigger();
-    QVERIFY(fixture.told.last().contains("Formato_drav.xlsx"));
   }
 };
 

@@ -26,12 +26,7 @@ std::optional<presentation::CurveChart> WholeChart(const ReportContent& content)
   return presentation::WholeChartOf(content.setup, content.result, content.words);
 }
 
-std::string Pdf(const ReportContent& content) {
-  const presentation::PageTotals totals{content.totals.thickness_mm, content.totals.surface_mass_kg_m2};
-  const presentation::PaginaDiStampa page =
-      presentation::PaginaDi(content.setup, totals, &content.result, content.words, WholeChart(content));
-  return presentation::PagePdf(page, content.name);
-}
+std::string Pdf(const ReportContent& content) { return presentation::PagePdf(PageOf(content), content.name); }
 
 std::string Svg(const ReportContent& content) {
   const std::optional<presentation::CurveChart> chart = WholeChart(content);
@@ -40,6 +35,12 @@ std::string Svg(const ReportContent& content) {
 }
 
 }  // namespace
+
+presentation::PaginaDiStampa PageOf(const ReportContent& content) {
+  return presentation::PaginaDi(content.setup,
+                                {content.totals.thickness_mm, content.totals.surface_mass_kg_m2},
+                                &content.result, content.words, WholeChart(content));
+}
 
 std::vector<ReportFormat> DrawnFormats(const std::filesystem::path& templates) {
   const auto display = std::make_shared<OffscreenDisplay>();

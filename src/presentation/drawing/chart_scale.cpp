@@ -12,6 +12,16 @@ constexpr std::size_t kStartBand = 10;  // 500 Hz
 constexpr std::size_t kRaisingReference = 0;
 constexpr std::size_t kLoweringReference = 14;
 
+/// What a chart of 10 to 80 dB has room for.
+constexpr double kLowestShown = 0.0;
+constexpr double kHighestShown = 90.0;
+
+bool Leaves(const acoustics::Spectrum& values, const CurveChart& chart) {
+  return std::any_of(values.begin() + static_cast<std::ptrdiff_t>(chart.first_band),
+                     values.begin() + static_cast<std::ptrdiff_t>(chart.last_band) + 1,
+                     [](double level) { return level < kLowestShown || level > kHighestShown; });
+}
+
 void Widen(ChartRange& range, double value) {
   if (value > range.maximum) range.maximum = value;
   if (value != 0.0 && value < range.minimum) range.minimum = value;
@@ -37,6 +47,12 @@ ChartRange RangeOf(const CurveChart& chart) {
   }
   if (range.maximum == range.minimum) range.maximum += 1.0;
   return range;
+}
+
+void ShowWhole(CurveChart& chart) {
+  for (const auto* curve : {&chart.base, &chart.laboratory, &chart.in_situ})
+    chart.autoscale = chart.autoscale || (*curve && Leaves(**curve, chart));
+  chart.autoscale = chart.autoscale || Leaves(chart.values, chart);
 }
 
 std::array<int, kAxisLabelCount> AxisLabels(const ChartRange& range) {

@@ -37,7 +37,9 @@ struct CurveChart {
   std::optional<acoustics::Spectrum> base;        ///< the element under a lining
   std::optional<acoustics::Spectrum> laboratory;  ///< compared with, measured in the laboratory
   std::optional<acoustics::Spectrum> in_situ;     ///< compared with, measured in a building
-  bool autoscale = false;                         ///< false: 10 to 80 dB
+  std::string laboratory_name{};                  ///< of the structure compared with; empty: none is chosen
+  std::string in_situ_name{};
+  bool autoscale = false;  ///< false: 10 to 80 dB
   std::size_t first_band = 0;
   std::size_t last_band = acoustics::kBandCount - 1;
   std::optional<std::size_t> highlighted_band;  ///< marked by a line, as under the mouse
@@ -47,6 +49,10 @@ struct CurveChart {
 /// The chart of a result; nothing when it has no curve (generic linings, a facade by single numbers).
 std::optional<CurveChart> CurveChartOf(const elements::Setup& setup, const elements::ResultSet& result,
                                        const Words& words);
+
+/// Prepares `chart` for paper, where nobody can change the scale: fits the scale to the curves when one would
+/// leave it.
+void ShowWhole(CurveChart& chart);
 
 /// A chart without curves for the time before a run: grid and axes alone.
 CurveChart EmptyChart(const Words& words);

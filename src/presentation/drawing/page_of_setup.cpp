@@ -18,6 +18,7 @@ using elements::CalculationRow;
 using elements::Family;
 using elements::Setup;
 
+constexpr MessageRow kInSituRow{71};
 constexpr MessageRow kConnectionRow{76};
 constexpr MessageRow kElementTypeRow{79};
 constexpr MessageRow kTheoryRow{80};
@@ -33,6 +34,7 @@ constexpr MessageRow kElementHeadRow{263};
 constexpr MessageRow kShareHeadRow{264};
 constexpr MessageRow kNotesHeadRow{265};
 constexpr MessageRow kStructureRow{285};
+constexpr MessageRow kLaboratoryRow{406};
 constexpr MessageRow kWidthRow{411};
 constexpr MessageRow kHeightRow{412};
 constexpr MessageRow kDecoupledRow{414};
@@ -81,6 +83,13 @@ std::vector<PageField> FieldsOf(const Setup& setup, const CalculationRow& row, c
     fields.push_back({{}, words(kDecoupledRow)});
   }
   return fields;
+}
+
+/// What the curves beside the calculated one are.
+void AddComparisons(const CurveChart& chart, const Words& words, std::vector<PageField>& fields) {
+  if (chart.laboratory && !chart.laboratory_name.empty())
+    fields.push_back({words(kLaboratoryRow), chart.laboratory_name});
+  if (chart.in_situ && !chart.in_situ_name.empty()) fields.push_back({words(kInSituRow), chart.in_situ_name});
 }
 
 PageTable BandsOf(const Setup& setup, Family family, const elements::ResultSet& result, const Words& words) {
@@ -155,6 +164,7 @@ PaginaDiStampa PaginaDi(const Setup& setup, const PageTotals& totals, const elem
   page.fields = FieldsOf(setup, row, totals, words);
   if (result != nullptr) {
     page.chart = chart ? std::move(chart) : CurveChartOf(setup, *result, words);
+    if (page.chart) AddComparisons(*page.chart, words, page.fields);
     page.bands = BandsOf(setup, row.family, *result, words);
     for (std::string line : {ResultLine(row.family, *result), ImprovementLine(row.family, *result)}) {
       if (!line.empty()) page.results.push_back(std::move(line));

@@ -18,6 +18,7 @@ namespace {
 using elements::Family;
 using elements::Setup;
 
+constexpr MessageRow kInSituRow{71};
 constexpr MessageRow kResilientRow{167};
 constexpr MessageRow kPartHeadingRow{263};
 constexpr MessageRow kResilientHeadingRow{267};
@@ -27,6 +28,7 @@ constexpr MessageRow kGenericNoteRow{284};
 constexpr MessageRow kSectionTitleRow{285};
 constexpr MessageRow kAirborneHeadingRow{287};
 constexpr MessageRow kImpactHeadingRow{290};
+constexpr MessageRow kLaboratoryRow{406};
 constexpr MessageRow kWidthCaptionRow{411};
 constexpr MessageRow kHeightCaptionRow{412};
 constexpr MessageRow kBrickSeaTheoryRow{1554};
@@ -93,6 +95,10 @@ void FillDimensions(const Setup& setup, Family family, ReportRecord& record) {
   if (area > 0.0) record.area = FormatFixed(area, 2);
 }
 
+std::string Compared(const std::string& caption, const std::string& name) {
+  return name.empty() ? name : caption + ": " + name;
+}
+
 void FillLabels(const Setup& setup, Family family, const Words& words, ReportRecord& record) {
   const elements::Calculation calculation = *setup.calculation;
   record.title = TitleOf(family, words);
@@ -118,7 +124,8 @@ void FillLabels(const Setup& setup, Family family, const Words& words, ReportRec
 }  // namespace
 
 ReportRecord ReportRecordOf(const Setup& setup, const elements::ResultSet& result,
-                            const ElementTotals& totals, const Words& words, std::optional<Picture> chart) {
+                            const ElementTotals& totals, const Words& words, std::optional<Picture> chart,
+                            const ComparedStructures& compared) {
   ReportRecord record{.information = setup.information, .result = result, .chart = std::move(chart)};
   if (!setup.calculation) return record;
   const Family family = elements::RowOf(*setup.calculation).family;
@@ -128,6 +135,8 @@ ReportRecord ReportRecordOf(const Setup& setup, const elements::ResultSet& resul
   FillDimensions(setup, family, record);
   record.result_line = ResultLine(family, result);
   record.improvement_line = Improvement(family, result);
+  record.laboratory_data = Compared(words(kLaboratoryRow), compared.laboratory);
+  record.in_situ_data = Compared(words(kInSituRow), compared.in_situ);
   if (family == Family::kFacade) {
     record.surface_mass_kg_m2 = result.mass_kg_m2;
   } else {

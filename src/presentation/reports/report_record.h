@@ -45,7 +45,7 @@ struct ReportRecord {
   elements::ResultSet result{};
   std::string result_line{};       ///< "Rw(C; Ctr)= 54,0 (-2; -6) dB"
   std::string improvement_line{};  ///< "DRw= 12 dB"; empty where there is none
-  std::string laboratory_data{};   ///< what the result was compared with; empty for none
+  std::string laboratory_data{};  ///< what the result was compared with: "Dati di laboratorio: ..."; or empty
   std::string in_situ_data{};
 
   std::optional<ElementTotals> totals{};  ///< none for a facade's thickness; see surface_mass_kg_m2
@@ -68,12 +68,19 @@ struct ReportRecord {
   std::optional<Picture> chart{};
 };
 
+/// The names of the structures whose measured curves are laid over the chart; empty for none.
+struct ComparedStructures {
+  std::string laboratory{};
+  std::string in_situ{};
+};
+
 /// The record of `result`, which must belong to `setup`.
 /// @param totals as the calculation gives them for `setup`
 /// @param chart picture of the curves; none for a calculation without bands
 ReportRecord ReportRecordOf(const elements::Setup& setup, const elements::ResultSet& result,
                             const ElementTotals& totals, const Words& words,
-                            std::optional<Picture> chart = std::nullopt);
+                            std::optional<Picture> chart = std::nullopt,
+                            const ComparedStructures& compared = {});
 
 /// What a reader hears who cannot see the chart of `result`.
 std::string ChartDescription(const elements::Setup& setup, const elements::ResultSet& result,

@@ -19,6 +19,7 @@ namespace {
 constexpr MessageRow kPreviewRow{7};
 constexpr MessageRow kPrintRow{6};
 constexpr MessageRow kCloseRow{369};
+constexpr MessageRow kChoosePrinterRow{1502};
 constexpr MessageRow kSavePdfRow{1480};
 constexpr MessageRow kFitRow{1481};
 constexpr MessageRow kZoomInRow{1482};
@@ -93,11 +94,13 @@ QToolBar* PrintPreview::MakeToolBar() {
   bar->setToolButtonStyle(Qt::ToolButtonTextOnly);
   AddCommand(*bar, "print", kPrintRow, {QKeySequence::Print}, [this] {
     order_.print(this);
-    // The dialog may have chosen another paper.
-    paper_ = order_.paper();
-    ShowPage();
+    FollowPaper();
   });
   AddCommand(*bar, "save_pdf", kSavePdfRow, {QKeySequence::Save}, [this] { order_.save_pdf(this); });
+  AddCommand(*bar, "choose_printer", kChoosePrinterRow, {Qt::CTRL | Qt::SHIFT | Qt::Key_P}, [this] {
+    order_.choose_printer(this);
+    FollowPaper();
+  });
   bar->addSeparator();
   AddCommand(*bar, "zoom_out", kZoomOutRow, {QKeySequence::ZoomOut, Qt::Key_Minus},
              [this] { ZoomTo(Zoom() / kZoomStep); });
@@ -122,6 +125,12 @@ void PrintPreview::AddCommand(QToolBar& bar, const char* name, MessageRow row,
 void PrintPreview::ZoomTo(std::optional<double> zoom) {
   zoom_ = zoom;
   if (zoom_) zoom_ = std::clamp(*zoom_, kSmallestZoom, kLargestZoom);
+  ShowPage();
+}
+
+/// A dialog may have chosen another paper.
+void PrintPreview::FollowPaper() {
+  paper_ = order_.paper();
   ShowPage();
 }
 

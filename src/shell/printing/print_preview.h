@@ -22,10 +22,12 @@ struct PreviewOrder {
   std::function<presentation::PrinterPaper()> paper{};  ///< asked anew after printing
   std::function<void(QWidget* parent)> print{};
   std::function<void(QWidget* parent)> save_pdf{};
+  std::function<void(QWidget* parent)> choose_printer{};
 };
 
 /// `Form12`: the page as one picture, fitted to the window until the user zooms. Ctrl+P prints, Ctrl+S writes
-/// a PDF file, Ctrl+plus and Ctrl+minus zoom, Ctrl+0 fits, Ctrl+1 shows the size on paper, Esc closes.
+/// a PDF file, Ctrl+Shift+P chooses the printer, Ctrl+plus and Ctrl+minus zoom, Ctrl+0 fits, Ctrl+1 shows the
+/// size on paper, Esc closes.
 class PrintPreview : public QDialog {
  public:
   PrintPreview(PreviewOrder order, presentation::Words words, QWidget* parent = nullptr);
@@ -43,6 +45,7 @@ class PrintPreview : public QDialog {
   void AddCommand(QToolBar& bar, const char* name, MessageRow row, const QList<QKeySequence>& keys,
                   std::function<void()> act);
   void ZoomTo(std::optional<double> zoom);
+  void FollowPaper();
   void ShowPage();
 
   PreviewOrder order_;

@@ -1,7 +1,6 @@
 #include "shell/printing/printing_dialogs.h"
 
 #include <QFileDialog>
-#include <QMessageBox>
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QPrinterInfo>
@@ -13,7 +12,6 @@
 namespace velmar::printing {
 namespace {
 
-constexpr const char* kProductName = "VELMARpro";
 constexpr MessageRow kPrintRow{6};
 /// "The document has been saved."
 constexpr MessageRow kSavedRow{270};
@@ -47,17 +45,24 @@ std::optional<std::filesystem::path> ChooseWithFileDialog(QWidget* parent, const
 
 }  // namespace
 
-PrintingBoxes ScreenBoxes(const presentation::Words& words) {
+PrintingBoxes ScreenBoxes(const presentation::Words& words, const TellUser& tell_done,
+                          const TellUser& tell_failure) {
   return {.ask_to_print =
               [words](QWidget* parent, QPrinter& printer) {
                 return AskWithSystemDialog(parent, printer, Text(words, kPrintRow));
               },
           .choose_pdf = [words](QWidget* parent,
                                 const QString& start) { return ChooseWithFileDialog(parent, start, words); },
-          .tell_done = [](QWidget* parent,
-                          const QString& text) { QMessageBox::information(parent, kProductName, text); },
-          .tell_failure = [](QWidget* parent,
-                             const QString& text) { QMessageBox::critical(parent, kProductName, text); }};
+          .choose_printer =
+              [words](QWidget* parent, const PrinterChoice& choice) {
+                PrinterChooser(choice, words, parent).exec();
+              },
+          .tell_done = tell_done,
+          .tell_failure = tell_failure};
+}
+
+void ChoosePrinter(PagePrinter& printer, const PrintingBoxes& boxes, QWidget* parent) {
+  boxes.choose_printer(parent, InstalledPrinters(printer, boxes, parent));
 }
 
 void PrintDocument(const PrintedDocument& document, PagePrinter& printer, const PrintingBoxes& boxes,
@@ -85,7 +90,8 @@ void ShowPreview(const PrintedDocument& document, PagePrinter& printer, const Pr
       {.page = document.page,
        .paper = [&printer] { return printer.Paper(); },
        .print = [&](QWidget* above) { PrintDocument(document, printer, boxes, words, above); },
-       .save_pdf = [&](QWidget* above) { SaveDocument(document, boxes, words, above); }},
+       .save_pdf = [&](QWidget* above) { SaveDocument(document, boxes, words, above); },
+       .choose_printer = [&](QWidget* above) { ChoosePrinter(printer, boxes, above); }},
       words, parent);
   preview.exec();
 }

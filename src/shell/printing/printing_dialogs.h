@@ -16,17 +16,23 @@ class QWidget;
 
 namespace velmar::printing {
 
+/// Shows `text` until the user has read it.
+using TellUser = std::function<void(QWidget* parent, const QString& text)>;
+
 /// The modal boxes, passed in so that a test answers them without one opening.
 struct PrintingBoxes {
   AskToPrint ask_to_print{};
   /// The file of a PDF page; nothing when the user cancels. @param start file or folder to begin at
   std::function<std::optional<std::filesystem::path>(QWidget* parent, const QString& start)> choose_pdf{};
-  std::function<void(QWidget* parent, const QString& text)> tell_done{};
-  std::function<void(QWidget* parent, const QString& text)> tell_failure{};
+  /// Lets the user choose one of the installed printers.
+  std::function<void(QWidget* parent, const PrinterChoice& choice)> choose_printer{};
+  TellUser tell_done{};
+  TellUser tell_failure{};
 };
 
-/// The boxes of the screen: the system's print dialog and file dialog, and message boxes.
-PrintingBoxes ScreenBoxes(const presentation::Words& words);
+/// The boxes of the screen: the system's print dialog and file dialog and the printer chooser.
+PrintingBoxes ScreenBoxes(const presentation::Words& words, const TellUser& tell_done,
+                          const TellUser& tell_failure);
 
 /// The page to work on, and the names it goes by.
 struct PrintedDocument {
@@ -47,6 +53,9 @@ void SaveDocument(const PrintedDocument& document, const PrintingBoxes& boxes,
 /// @param printer,boxes outlive the call
 void ShowPreview(const PrintedDocument& document, PagePrinter& printer, const PrintingBoxes& boxes,
                  const presentation::Words& words, QWidget* parent);
+
+/// Lets the user choose the printer of later pages. One that is not there any more is told.
+void ChoosePrinter(PagePrinter& printer, const PrintingBoxes& boxes, QWidget* parent);
 
 /// The printers of this machine, choosing one for `printer`, which must outlive the choice. The system's own
 /// default stays: it belongs to all programs.

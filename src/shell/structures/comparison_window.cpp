@@ -59,6 +59,8 @@ ComparisonPanel::Look InSituLook() {
 void LayOver(presentation::CurveChart& chart, const Overlay& overlay) {
   chart.laboratory = overlay.laboratory;
   chart.in_situ = overlay.in_situ;
+  chart.laboratory_name = overlay.laboratory_name;
+  chart.in_situ_name = overlay.in_situ_name;
 }
 
 ComparisonWindow::ComparisonWindow(windows::WindowTools tools, const LibrarySource& source,

@@ -37,6 +37,7 @@ class RecordingDevice::Engine : public QPaintEngine {
   }
 
   std::vector<RecordedText> texts{};
+  std::vector<QRectF> shapes{};
   QRectF extent{};
   int pictures = 0;
 
@@ -49,7 +50,9 @@ class RecordingDevice::Engine : public QPaintEngine {
   void Add(const QRectF& box) {
     QRectF visible = box.normalized().adjusted(0.0, 0.0, 1e-6, 1e-6);
     if (painter()->hasClipping()) visible &= painter()->clipBoundingRect();
-    if (!visible.isEmpty()) extent |= painter()->combinedTransform().mapRect(visible);
+    if (visible.isEmpty()) return;
+    shapes.push_back(painter()->combinedTransform().mapRect(visible));
+    extent |= shapes.back();
   }
 };
 
@@ -58,6 +61,7 @@ RecordingDevice::~RecordingDevice() = default;
 
 QPaintEngine* RecordingDevice::paintEngine() const { return engine_.get(); }
 const std::vector<RecordedText>& RecordingDevice::Texts() const { return engine_->texts; }
+const std::vector<QRectF>& RecordingDevice::Shapes() const { return engine_->shapes; }
 QRectF RecordingDevice::Extent() const { return engine_->extent; }
 int RecordingDevice::Pictures() const { return engine_->pictures; }
 

@@ -26,6 +26,8 @@ class RecordingDevice : public QPaintDevice {
   QPaintEngine* paintEngine() const override;
 
   const std::vector<RecordedText>& Texts() const;
+  /// What each line, area and text covers, in the order drawn.
+  const std::vector<QRectF>& Shapes() const;
   /// What all lines, areas and texts cover.
   QRectF Extent() const;
   int Pictures() const;

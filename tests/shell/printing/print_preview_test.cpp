@@ -14,6 +14,7 @@ namespace {
 struct Asked {
   int prints = 0;
   int pdfs = 0;
+  int choices = 0;
   presentation::PrinterPaper paper{.paper_twips = {11906, 16838}, .printable_twips = {11306, 16238}};
 };
 
@@ -23,7 +24,8 @@ class ThePreview : public testing::Test {
       : preview_({.page = SamplePage(),
                   .paper = [this] { return asked_.paper; },
                   .print = [this](QWidget*) { ++asked_.prints; },
-                  .save_pdf = [this](QWidget*) { ++asked_.pdfs; }},
+                  .save_pdf = [this](QWidget*) { ++asked_.pdfs; },
+                  .choose_printer = [this](QWidget*) { ++asked_.choices; }},
                  presentation::CatalogueWords()) {
     preview_.resize(700, 900);
     preview_.show();
@@ -84,13 +86,16 @@ TEST_F(ThePreview, ZoomsByKeyAndStaysWithinLimits) {
   EXPECT_NEAR(preview_.Zoom(), fitted, 1e-9);
 }
 
-TEST_F(ThePreview, PrintsAndSavesByKeyAndButton) {
+TEST_F(ThePreview, PrintsSavesAndChoosesThePrinterByKeyAndButton) {
   QTest::keyClick(&preview_, Qt::Key_P, Qt::ControlModifier);
   Trigger("print");
   QTest::keyClick(&preview_, Qt::Key_S, Qt::ControlModifier);
   Trigger("save_pdf");
   EXPECT_EQ(asked_.prints, 2);
+  QTest::keyClick(&preview_, Qt::Key_P, Qt::ControlModifier | Qt::ShiftModifier);
+  Trigger("choose_printer");
   EXPECT_EQ(asked_.pdfs, 2);
+  EXPECT_EQ(asked_.choices, 2);
   EXPECT_TRUE(preview_.isVisible());
 }
 
