@@ -16,13 +16,13 @@ enum class Bounded { kMass, kThickness };
 
 /// Ln,w = constant - slope lg M, for floors whose mass or thickness lies from lowest to highest.
 struct RelationRow {
-  ImpactFloorVariant variant;
-  double constant;
-  double slope;
-  Bounded bounded;
-  double lowest;
-  double highest;
-  MessageRow question;
+  ImpactFloorVariant variant{};
+  double constant = 0.0;
+  double slope = 0.0;
+  Bounded bounded{};
+  double lowest = 0.0;
+  double highest = 0.0;
+  MessageRow question{};
 };
 
 constexpr std::array<RelationRow, 4> kRelations = {{
