@@ -22,6 +22,8 @@ constexpr MessageRow kDensityRow{350};
 constexpr MessageRow kSurfaceMassRow{351};
 constexpr MessageRow kYoungsModulusRow{352};
 constexpr MessageRow kLossFactorRow{353};
+constexpr MessageRow kResilientValuesRow{360};
+constexpr MessageRow kAbsorptionBoxesRow{361};
 constexpr MessageRow kFlowResistanceRow{1141};
 constexpr MessageRow kStiffnessRow{1142};
 constexpr MessageRow kAbsorptionRow{1143};
@@ -46,16 +48,19 @@ EntryRefusal NameMissing() { return {{{kMaterialWithoutNameRow}}, "Text1"}; }
 struct NeededBox {
   const std::string& text;
   MessageRow name;
+  const char* box;
 };
 
-/// The refusal that names every empty box, or nothing.
+/// The refusal that names every empty box and leads to the first, or nothing.
 std::optional<EntryRefusal> Missing(std::initializer_list<NeededBox> boxes) {
-  Message message{{kMissingRow, ":"}};
+  EntryRefusal refusal{{{kMissingRow, ":"}}, ""};
   for (const NeededBox& box : boxes) {
-    if (box.text.empty()) message.push_back({"- ", box.name});
+    if (!box.text.empty()) continue;
+    refusal.message.push_back({"- ", box.name});
+    if (refusal.box.empty()) refusal.box = box.box;
   }
-  if (message.size() == 1) return std::nullopt;
-  return EntryRefusal{std::move(message), ""};
+  if (refusal.box.empty()) return std::nullopt;
+  return refusal;
 }
 
 template <typename Material>
@@ -95,7 +100,7 @@ std::optional<EntryRefusal> TakeAbsorption(const FibrousEntry& entry, FibrousMat
     const std::optional<float> value = ParseSingle(text);
     if (!value || *value < 0.0F || *value > kHighest) {
       const std::string centre = FormatShortest(elements::kAbsorptionBandCentres.at(band));
-      return EntryRefusal{{{kMaterialNotSavedRow}, {kAbsorptionRow, " " + centre + " Hz: " + text}},
+      return EntryRefusal{{{kAbsorptionBoxesRow}, {kAbsorptionRow, " " + centre + " Hz: " + text}},
                           "TextAlfa_" + std::to_string(band)};
     }
     material.absorption.at(band) = *value;
@@ -114,11 +119,11 @@ std::variant<StructuralRow, EntryRefusal> RowOf(StructuralEntry entry, const Key
   using M = StructuralMaterial;
   Clean(entry, texts);
   if (entry.name.empty()) return NameMissing();
-  if (auto refusal = Missing({{entry.thickness, kThicknessRow},
-                              {entry.density, kDensityRow},
-                              {entry.surface_mass, kSurfaceMassRow},
-                              {entry.youngs_modulus, kYoungsModulusRow},
-                              {entry.loss_factor, kLossFactorRow}})) {
+  if (auto refusal = Missing({{entry.thickness, kThicknessRow, "Text3"},
+                              {entry.density, kDensityRow, "Text4"},
+                              {entry.surface_mass, kSurfaceMassRow, "Text5"},
+                              {entry.youngs_modulus, kYoungsModulusRow, "Text6"},
+                              {entry.loss_factor, kLossFactorRow, "Text8"}})) {
     return *std::move(refusal);
   }
   StructuralRow row = NamedRow<M>(entry);
@@ -142,11 +147,11 @@ std::variant<FibrousRow, EntryRefusal> RowOf(FibrousEntry entry, const KeywordTe
   Clean(entry, texts);
   if (entry.name.empty()) return NameMissing();
   const std::string none = "-";  // stands for a box that this kind does not need
-  if (auto refusal = Missing({{entry.thickness, kThicknessRow},
-                              {entry.density, kDensityRow},
-                              {entry.porous ? none : entry.youngs_modulus, kYoungsModulusRow},
-                              {entry.porous ? none : entry.loss_factor, kLossFactorRow},
-                              {entry.porous ? entry.flow_resistance : none, kFlowResistanceRow}})) {
+  if (auto refusal = Missing({{entry.thickness, kThicknessRow, "Text10"},
+                              {entry.density, kDensityRow, "Text9"},
+                              {entry.porous ? none : entry.youngs_modulus, kYoungsModulusRow, "Text11"},
+                              {entry.porous ? none : entry.loss_factor, kLossFactorRow, "Text12"},
+                              {entry.porous ? entry.flow_resistance : none, kFlowResistanceRow, "Text14"}})) {
     return *std::move(refusal);
   }
   FibrousRow row = NamedRow<M>(entry);
@@ -187,17 +192,22 @@ std::variant<ResilientRow, EntryRefusal> RowOf(ResilientEntry entry, const Keywo
     if (boxes.impact_improvement_db.empty()) boxes.impact_improvement_db = coupled.impact_improvement_db;
     if (boxes.resonance_frequency_hz.empty()) boxes.resonance_frequency_hz = coupled.resonance_frequency_hz;
   }
-  if (auto refusal =
-          Missing({{entry.thickness, kThicknessRow}, {boxes.dynamic_stiffness_mn_m3, kStiffnessRow}})) {
+  if (boxes == ResilientBoxes{}) return EntryRefusal{{{kResilientValuesRow}}, "Text3"};
+  ResilientRow row = NamedRow<M>(entry);
+  const auto take = [&](std::initializer_list<NumberBox<M>> numbers) {
+    return TakeNumbers<M>(numbers, row.record.values);
+  };
+  const NumberBox<M> improvement{boxes.impact_improvement_db, &M::impact_improvement_db, "Text4"};
+  const NumberBox<M> resonance{boxes.resonance_frequency_hz, &M::resonance_frequency_hz, "Text5"};
+  if (auto refusal = take({improvement, resonance})) return *std::move(refusal);
+  // A negative improvement or resonance gives no stiffness.
+  if (auto refusal = Missing({{boxes.dynamic_stiffness_mn_m3, kStiffnessRow, "Text3"},
+                              {entry.thickness, kThicknessRow, "Text6"}})) {
     return *std::move(refusal);
   }
-  ResilientRow row = NamedRow<M>(entry);
-  if (auto refusal = TakeNumbers<M>({{boxes.dynamic_stiffness_mn_m3, &M::dynamic_stiffness_mn_m3, "Text3"},
-                                     {boxes.impact_improvement_db, &M::impact_improvement_db, "Text4"},
-                                     {boxes.resonance_frequency_hz, &M::resonance_frequency_hz, "Text5"},
-                                     {entry.thickness, &M::thickness_mm, "Text6"},
-                                     {entry.density, &M::density_kg_m3, "Text7"}},
-                                    row.record.values)) {
+  if (auto refusal = take({{boxes.dynamic_stiffness_mn_m3, &M::dynamic_stiffness_mn_m3, "Text3"},
+                           {entry.thickness, &M::thickness_mm, "Text6"},
+                           {entry.density, &M::density_kg_m3, "Text7"}})) {
     return *std::move(refusal);
   }
   if (boxes.impact_improvement_db.empty()) row.record.nulls.push_back(&M::impact_improvement_db);

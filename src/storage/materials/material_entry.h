@@ -23,6 +23,8 @@ struct StructuralEntry {
   std::string loss_factor{};         ///< `Text8`
   std::string poissons_ratio{};      ///< `Text9`; empty is 0
   std::string keyword{};             ///< `Text10`; empty is row 325
+
+  bool operator==(const StructuralEntry&) const = default;
 };
 
 /// What the editor of fibrous materials (`Form6`) holds, as typed.
@@ -38,6 +40,8 @@ struct FibrousEntry {
   std::string poissons_ratio{};             ///< `Text13`; not of a porous one; empty is 0
   std::string flow_resistance = "4000";     ///< `Text14`, Pa s/m; of a porous one
   std::array<std::string, elements::kAbsorptionBandCount> absorption{};  ///< `TextAlfa`; of a porous one
+
+  bool operator==(const FibrousEntry&) const = default;
 };
 
 /// What the editor of resilient materials (`Form6`) holds, as typed.
@@ -50,6 +54,8 @@ struct ResilientEntry {
   std::string resonance{};                  ///< `Text5`, f0, Hz
   std::string thickness{};                  ///< `Text6`, mm
   std::string density{};                    ///< `Text7`, kg/m³; empty is 0
+
+  bool operator==(const ResilientEntry&) const = default;
 };
 
 /// Why an entry is not stored.
@@ -66,8 +72,7 @@ inline constexpr MessageRow kMaterialNotSavedRow{355};
 ///
 /// An entry is refused when its name is empty, when a value it needs is missing (all missing ones are named),
 /// when a value is no number, and when an absorption coefficient is not from 0 to 1.5: measured ones may
-/// exceed
-/// 1. A resilient material needs one of s', Delta Ln,w and f0; s' follows from the others.
+/// exceed 1. A resilient material needs one of s', Delta Ln,w and f0; s' follows from the others.
 std::variant<StructuralRow, EntryRefusal> RowOf(StructuralEntry entry, const KeywordTexts& texts);
 std::variant<FibrousRow, EntryRefusal> RowOf(FibrousEntry entry, const KeywordTexts& texts);
 std::variant<ResilientRow, EntryRefusal> RowOf(ResilientEntry entry, const KeywordTexts& texts);

@@ -74,6 +74,7 @@ TEST(StructuralEntry, EveryMissingValueIsNamed) {
                                                {"- ", MessageRow{351}},
                                                {"- ", MessageRow{352}},
                                                {"- ", MessageRow{353}}}));
+  EXPECT_EQ(RefusalOf(entry).box, "Text3");
 }
 
 TEST(StructuralEntry, TheFirstBoxThatHoldsNoNumberTakesTheFocus) {
@@ -132,6 +133,7 @@ TEST(FibrousEntry, AnImpossibleAbsorptionIsRefusedWithItsBand) {
     FibrousEntry entry = Wool();
     entry.absorption[3] = text;
     EXPECT_EQ(RefusalOf(entry).box, "TextAlfa_3") << text;
+    EXPECT_EQ(RefusalOf(entry).message[0], (MessageLine{MessageRow{361}}));
     EXPECT_EQ(RefusalOf(entry).message[1], (MessageLine{MessageRow{1143}, std::string(" 200 Hz: ") + text}));
   }
 }
@@ -167,7 +169,40 @@ TEST(ResilientEntry, WhatWasTypedIsNotReplaced) {
 TEST(ResilientEntry, WithNoneOfThemItIsRefused) {
   ResilientEntry entry = Rubber();
   entry.stiffness = "";
+  EXPECT_EQ(RefusalOf(entry).message, (Message{{MessageRow{360}}}));
+  EXPECT_EQ(RefusalOf(entry).box, "Text3");
+}
+
+TEST(ResilientEntry, ANegativeValueGivesNoStiffnessAndIsNotStoredWithout) {
+  ResilientEntry entry = Rubber();
+  entry.stiffness = "";
+  entry.improvement = "-3";
   EXPECT_EQ(RefusalOf(entry).message, (Message{{MessageRow{348}, ":"}, {"- ", MessageRow{1142}}}));
+  entry.improvement = "";
+  entry.resonance = "-80";
+  EXPECT_EQ(RefusalOf(entry).box, "Text3");
+}
+
+TEST(ResilientEntry, TheBoxThatHoldsNoNumberTakesTheFocus) {
+  const std::pair<std::string ResilientEntry::*, const char*> boxes[] = {
+      {&ResilientEntry::stiffness, "Text3"},
+      {&ResilientEntry::improvement, "Text4"},
+      {&ResilientEntry::resonance, "Text5"},
+      {&ResilientEntry::thickness, "Text6"},
+      {&ResilientEntry::density, "Text7"}};
+  for (const auto& [field, box] : boxes) {
+    ResilientEntry entry = Rubber();
+    if (field == &ResilientEntry::improvement) entry.stiffness = "";
+    entry.*field = "12x";
+    EXPECT_EQ(RefusalOf(entry).box, box);
+  }
+}
+
+TEST(ResilientEntry, AMissingThicknessIsNamed) {
+  ResilientEntry entry = Rubber();
+  entry.thickness = "";
+  EXPECT_EQ(RefusalOf(entry).message, (Message{{MessageRow{348}, ":"}, {"- ", MessageRow{349}}}));
+  EXPECT_EQ(RefusalOf(entry).box, "Text6");
 }
 
 }  // namespace
