@@ -7,8 +7,8 @@
 #include <QValidator>
 
 #include "foundation/decimal.h"
-#include "shell/key_filters.h"
 #include "shell/phrases.h"
+#include "shell/windows/key_filters.h"
 
 namespace velmar::shell {
 namespace {
@@ -96,16 +96,16 @@ void NumberField::Show(const std::string& text) {
 
 bool NumberField::TypeKey(QChar key) {
   if (key == u'.') key = kDecimalSign;
-  const FieldState field{text(), hasSelectedText() ? selectionStart() : cursorPosition(),
-                         static_cast<int>(selectedText().size())};
+  const windows::FieldState field{text(), hasSelectedText() ? selectionStart() : cursorPosition(),
+                                  static_cast<int>(selectedText().size())};
   if (kind_ == NumberKind::kArea && key == u'-' &&
       (field.text.isEmpty() || field.selection_length == field.text.size())) {
     insert("-");
     return true;
   }
   const QChar passed = kind_ == NumberKind::kInteger
-                           ? IntegerKeyFilter(key, field, false)
-                           : NumericKeyFilter(key, field, kind_ == NumberKind::kTerm, kDecimalSign);
+                           ? windows::IntegerKeyFilter(key, field, false)
+                           : windows::NumericKeyFilter(key, field, kind_ == NumberKind::kTerm, kDecimalSign);
   if (passed.isNull()) return false;
   insert(QString(passed));
   return true;

@@ -1,6 +1,6 @@
-#include "shell/key_filters.h"
+#include "shell/windows/key_filters.h"
 
-namespace velmar::shell {
+namespace velmar::windows {
 namespace {
 
 constexpr QChar kBackspace{8};
@@ -49,4 +49,4 @@ QChar IntegerKeyFilter(QChar key, const FieldState& field, bool allow_negative) 
   return kSwallowed;
 }
 
-}  // namespace velmar::shell
+}  // namespace velmar::windows

@@ -3,7 +3,7 @@
 #include <QChar>
 #include <QString>
 
-namespace velmar::shell {
+namespace velmar::windows {
 
 /// A text field at the moment a key is pressed.
 struct FieldState {
@@ -20,4 +20,4 @@ QChar NumericKeyFilter(QChar key, const FieldState& field, bool allow_negative, 
 /// `IntegerKeyFilter`: digits, backspace, and a leading "-" where negatives are allowed.
 QChar IntegerKeyFilter(QChar key, const FieldState& field, bool allow_negative);
 
-}  // namespace velmar::shell
+}  // namespace velmar::windows
