@@ -1,0 +1,88 @@
+#include "shell/material_editors/edited_material.h"
+
+#include <algorithm>
+#include <iterator>
+#include <type_traits>
+#include <variant>
+
+#include "storage/database/database_failure.h"
+#include "storage/materials/save_entry.h"
+
+namespace velmar::material_editors {
+namespace {
+
+using storage::DatabaseFailure;
+using storage::EntryRefusal;
+
+constexpr MessageRow kSaveAsNewRow{1652};
+constexpr MessageRow kReplaceRow{1653};
+
+template <typename Material>
+constexpr elements::MaterialFamily FamilyOf() {
+  if constexpr (std::is_same_v<Material, elements::StructuralMaterial>)
+    return elements::MaterialFamily::kStructural;
+  if constexpr (std::is_same_v<Material, elements::FibrousMaterial>)
+    return elements::MaterialFamily::kFibrous;
+  return elements::MaterialFamily::kResilient;
+}
+
+SaveOutcome Refused(EntryRefusal refusal) { return {.refusal = std::move(refusal)}; }
+
+SaveOutcome NotReadable(const DatabaseFailure& failure) {
+  Message message{{storage::kMaterialNotSavedRow}};
+  std::ranges::copy(failure.UserMessage(), std::back_inserter(message));
+  return Refused({std::move(message), ""});
+}
+
+Message GoneQuestion(const std::string& name) {
+  return {{storage::kMaterialGoneRow, " " + name}, {kSaveAsNewRow}};
+}
+
+}  // namespace
+
+template <typename Material>
+SaveOutcome EditedMaterial<Material>::Save(const Entry& entry, bool touched, const AskUser& ask) {
+  auto checked = storage::RowOf(entry, texts_);
+  if (auto* refusal = std::get_if<EntryRefusal>(&checked)) return Refused(std::move(*refusal));
+  const Row& row = std::get<Row>(checked);
+
+  const std::string opened_name = opened_ ? opened_->record.values.name : std::string();
+  std::string stored_name = opened_name;
+  if (opened_) {
+    std::optional<Row> stored;
+    try {
+      stored = store_->Find<Material>(opened_name);
+    } catch (const DatabaseFailure& failure) {
+      return NotReadable(failure);
+    }
+    if (!stored) {
+      if (!ask(GoneQuestion(opened_name))) return {};
+      stored_name.clear();
+    } else if (storage::CellsFromRow(*stored) != storage::CellsFromRow(*opened_)) {
+      if (!ask({{kReplaceRow}})) return {};
+      stored_name = stored->record.values.name;
+    } else if (!touched) {
+      return {.done = true};
+    }
+  }
+  if (auto refusal = storage::SaveEntry(*store_, entry, stored_name, texts_)) return Refused(*refusal);
+  return {.done = true,
+          .change = windows::MaterialChange{FamilyOf<Material>(), opened_name, row.record.values.name,
+                                            row.keyword}};
+}
+
+template class EditedMaterial<elements::StructuralMaterial>;
+template class EditedMaterial<elements::FibrousMaterial>;
+template class EditedMaterial<elements::ResilientMaterial>;
+
+std::vector<std::string> SuggestedKeywords(const storage::MaterialStore& store,
+                                           elements::MaterialFamily family,
+                                           const storage::KeywordTexts& texts) {
+  std::vector<std::string> keywords = storage::KeywordFilter(family, store.List(family), texts);
+  keywords.erase(keywords.begin());  // "all" is no keyword
+  if (std::ranges::find(keywords, texts.not_specified) == keywords.end())
+    keywords.push_back(texts.not_specified);
+  return keywords;
+}
+
+}  // namespace velmar::material_editors

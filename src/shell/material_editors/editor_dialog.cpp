@@ -1,0 +1,116 @@
+#include "shell/material_editors/editor_dialog.h"
+
+#include <QFormLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QStringList>
+
+#include "presentation/texts/words.h"
+#include "shell/material_editors/mnemonics.h"
+#include "shell/material_editors/number_box.h"
+
+namespace velmar::material_editors {
+namespace {
+
+constexpr MessageRow kSaveRow{357};
+constexpr MessageRow kCancelRow{365};
+constexpr MessageRow kUnsavedRow{1651};
+
+/// "Nome:" without its colon.
+QString SpokenName(QString caption) {
+  if (caption.endsWith(':')) caption.chop(1);
+  return caption;
+}
+
+}  // namespace
+
+EditorDialog::EditorDialog(windows::WindowTools tools, const QString& object_name, QString memory_name,
+                           QWidget* parent)
+    : QDialog(parent), tools_(std::move(tools)), memory_name_(std::move(memory_name)) {
+  setObjectName(object_name);
+}
+
+EditorDialog::~EditorDialog() { windows::SaveSizes(tools_.memory, {memory_name_, this, nullptr, nullptr}); }
+
+void EditorDialog::AddField(QFormLayout& form, MessageRow caption, QWidget* box, MessageRow tip) {
+  auto* label = new QLabel(tools_.Text(caption), this);
+  label->setBuddy(box);
+  box->setAccessibleName(SpokenName(label->text()));
+  if (tip.number != 0) {
+    const QString words = tools_.Text(tip);
+    label->setToolTip(words);
+    box->setToolTip(words);
+    box->setAccessibleDescription(words);
+  }
+  form.addRow(label, box);
+}
+
+QLineEdit* EditorDialog::TextBox(const char* object_name) {
+  auto* box = new QLineEdit(this);
+  box->setObjectName(QLatin1String(object_name));
+  box->setMinimumWidth(fontMetrics().averageCharWidth() * 52);
+  return box;
+}
+
+void EditorDialog::AddRemark(QFormLayout& form, MessageRow text) {
+  auto* remark = new QLabel(tools_.Text(text), this);
+  remark->setWordWrap(true);
+  remark->setForegroundRole(QPalette::PlaceholderText);
+  form.addRow(remark);
+}
+
+QHBoxLayout* EditorDialog::MakeButtons() {
+  auto* row = new QHBoxLayout;
+  auto* save = new QPushButton(tools_.Text(kSaveRow), this);
+  save->setObjectName(QStringLiteral("Command1"));
+  save->setDefault(true);
+  auto* cancel = new QPushButton(tools_.Text(kCancelRow), this);
+  cancel->setObjectName(QStringLiteral("Command2"));
+  cancel->setAutoDefault(false);
+  row->addStretch(1);
+  row->addWidget(save);
+  row->addWidget(cancel);
+  connect(save, &QPushButton::clicked, this, [this] { Save(); });
+  connect(cancel, &QPushButton::clicked, this, [this] { reject(); });
+  return row;
+}
+
+void EditorDialog::Finish(QLineEdit* first) {
+  AssignMnemonics(*this);
+  if (!windows::RestoreSizes(tools_.memory, {memory_name_, this, nullptr, nullptr})) resize(sizeHint());
+  first->setFocus();
+  first->selectAll();
+}
+
+QString EditorDialog::InWords(const Message& message) const {
+  QStringList lines;
+  for (const MessageLine& line : message) lines << windows::ToQt(presentation::InWords(line, tools_.words));
+  return lines.join('\n');
+}
+
+void EditorDialog::Save() {
+  // Enter saves from within a box, whose number still has to reach the boxes that follow from it.
+  if (auto* box = dynamic_cast<NumberBox*>(focusWidget())) box->Leave();
+  const SaveOutcome outcome =
+      Store([this](const Message& question) { return tools_.ask(InWords(question)); });
+  if (outcome.refusal) {
+    tools_.tell(InWords(outcome.refusal->message));
+    if (auto* box = findChild<QWidget*>(windows::ToQt(outcome.refusal->box))) {
+      box->setFocus();
+      if (auto* line = qobject_cast<QLineEdit*>(box)) line->selectAll();
+    }
+    return;
+  }
+  if (!outcome.done) return;
+  change_ = outcome.change;
+  accept();
+}
+
+void EditorDialog::reject() {
+  if (Changed() && !tools_.ask(tools_.Text(kUnsavedRow))) return;
+  QDialog::reject();
+}
+
+}  // namespace velmar::material_editors

@@ -1,0 +1,59 @@
+#pragma once
+
+#include <QDialog>
+#include <optional>
+#include <vector>
+
+#include "shell/material_editors/edited_material.h"
+#include "shell/windows/window_tools.h"
+
+class QFormLayout;
+class QHBoxLayout;
+class QLineEdit;
+
+namespace velmar::material_editors {
+
+/// What the editors of materials have in common: "Salva" stores and closes, or tells why not and leads to the
+/// box in question with everything typed left as it is; closing asks before it throws entries away.
+class EditorDialog : public QDialog {
+ public:
+  ~EditorDialog() override;
+
+  /// What was stored; nothing when the editor was closed without.
+  const std::optional<windows::MaterialChange>& Change() const { return change_; }
+
+  void reject() override;
+
+ protected:
+  /// @param memory_name under which the window's size is remembered
+  EditorDialog(windows::WindowTools tools, const QString& object_name, QString memory_name, QWidget* parent);
+
+  /// Whether the boxes differ from what they showed first.
+  virtual bool Changed() const = 0;
+  /// Stores what the boxes hold.
+  virtual SaveOutcome Store(const AskUser& ask) = 0;
+
+  const windows::WindowTools& Tools() const { return tools_; }
+
+  /// A row of `form`: the words of `caption` before `box`, which also get its accessible name from them.
+  /// @param tip row that explains the value in one sentence, 0 for none
+  void AddField(QFormLayout& form, MessageRow caption, QWidget* box, MessageRow tip = {});
+  /// A box for a text.
+  QLineEdit* TextBox(const char* object_name);
+  /// "Salva" and "Annulla".
+  QHBoxLayout* MakeButtons();
+  /// A quiet remark of its own row in `form`.
+  void AddRemark(QFormLayout& form, MessageRow text);
+  /// To be called when all controls stand: letters for Alt, the remembered size, the focus on `first`.
+  void Finish(QLineEdit* first);
+
+ private:
+  void Save();
+  QString InWords(const Message& message) const;
+
+  windows::WindowTools tools_;
+  QString memory_name_;
+  std::optional<windows::MaterialChange> change_;
+};
+
+}  // namespace velmar::material_editors

@@ -1,0 +1,98 @@
+#include "shell/material_editors/number_box.h"
+
+#include <QFocusEvent>
+#include <QKeyEvent>
+#include <array>
+#include <charconv>
+
+#include "foundation/decimal.h"
+#include "shell/windows/key_filters.h"
+#include "shell/windows/window_tools.h"
+
+namespace velmar::material_editors {
+namespace {
+
+constexpr QChar kDecimalSign{u','};
+constexpr std::size_t kLongestShown = 9;
+constexpr int kShownDigits = 7;
+constexpr int kWidthInDigits = 11;
+
+std::string Rounded(const std::string& number) {
+  const std::optional<double> value = ParseDecimal(number);
+  if (!value || number.size() <= kLongestShown) return number;
+  std::array<char, 32> text{};
+  const auto written =
+      std::to_chars(text.data(), text.data() + text.size(), *value, std::chars_format::general, kShownDigits);
+  return FormatShortest(ParseDecimal({text.data(), written.ptr}).value_or(*value));
+}
+
+bool IsText(const QKeyEvent& event) {
+  const bool command = event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
+  return !command && event.text().size() == 1 && event.text().at(0).isPrint();
+}
+
+/// Whether focus moved to another control, not to another window or a menu of this one.
+bool MovesOn(const QFocusEvent& event) {
+  return event.reason() != Qt::PopupFocusReason && event.reason() != Qt::ActiveWindowFocusReason;
+}
+
+}  // namespace
+
+NumberBox::NumberBox(const QString& object_name, QWidget* parent) : QLineEdit(parent) {
+  setObjectName(object_name);
+  setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+  setFixedWidth(fontMetrics().horizontalAdvance('0') * kWidthInDigits + fontMetrics().height());
+  connect(this, &QLineEdit::textEdited, this, [this] {
+    exact_.clear();
+    edited_ = true;
+  });
+}
+
+void NumberBox::Show(const std::string& text) {
+  exact_.clear();
+  setText(windows::ToQt(text));
+}
+
+void NumberBox::ShowStored(const std::string& number) {
+  const std::string shown = Rounded(number);
+  Show(shown);
+  if (shown != number) exact_ = number;
+}
+
+std::string NumberBox::Number() const { return exact_.empty() ? windows::FromQt(text().trimmed()) : exact_; }
+
+void NumberBox::Fill(const std::string& result, bool replace) {
+  const std::string now = Number();
+  if (result != now && (replace || now.empty())) Show(result);
+}
+
+void NumberBox::Leave() {
+  const bool edited = edited_;
+  edited_ = false;
+  if (on_leave_) on_leave_(edited);
+}
+
+void NumberBox::keyPressEvent(QKeyEvent* event) {
+  if (!IsText(*event)) {
+    QLineEdit::keyPressEvent(event);
+    return;
+  }
+  const QChar typed = event->text().at(0) == u'.' ? kDecimalSign : event->text().at(0);
+  const windows::FieldState field{text(), hasSelectedText() ? selectionStart() : cursorPosition(),
+                                  static_cast<int>(selectedText().size())};
+  const QChar passed = windows::NumericKeyFilter(typed, field, true, kDecimalSign);
+  if (!passed.isNull()) insert(QString(passed));
+  event->accept();
+}
+
+void NumberBox::focusInEvent(QFocusEvent* event) {
+  QLineEdit::focusInEvent(event);
+  if (event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason) selectAll();
+}
+
+void NumberBox::focusOutEvent(QFocusEvent* event) {
+  QLineEdit::focusOutEvent(event);
+  if (MovesOn(*event)) Leave();
+}
+
+}  // namespace velmar::material_editors
