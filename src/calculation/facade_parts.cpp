@@ -30,11 +30,6 @@ void TakeValues(Element& element, const FacadePart& part) {
 
 }  // namespace
 
-PartCaptions CaptionsOf(PartQuantity quantity) {
-  return quantity == PartQuantity::kElementDifference ? PartCaptions{"Dnew (dB)", "Dn [dB]"}
-                                                      : PartCaptions{"Rw (dB)", "Ri [dB]"};
-}
-
 std::string BoxText(const std::optional<double>& value) {
   return value ? FormatShortest(*value) : std::string();
 }

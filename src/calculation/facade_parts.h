@@ -3,7 +3,6 @@
 #include <array>
 #include <optional>
 #include <string>
-#include <string_view>
 
 #include "acoustics/bands.h"
 #include "elements/setup.h"
@@ -39,19 +38,6 @@ struct FacadePart {
   PartOrigin origin = PartOrigin::kStoredResult;
   PartQuantity quantity = PartQuantity::kReductionIndex;
 };
-
-/// What stands beside the values of a part.
-struct PartCaptions {
-  const char* rating = "";  ///< UTF-8
-  const char* bands = "";
-
-  bool operator==(const PartCaptions& other) const {
-    return std::string_view(rating) == other.rating && std::string_view(bands) == other.bands;
-  }
-};
-
-/// "Rw (dB)" and "Ri [dB]"; "Dnew (dB)" and "Dn [dB]" for a small element.
-PartCaptions CaptionsOf(PartQuantity quantity);
 
 /// `value` as a box holds it: the shortest text that gives it back, with a decimal comma; empty for nothing.
 std::string BoxText(const std::optional<double>& value);

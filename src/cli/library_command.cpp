@@ -1,5 +1,6 @@
 #include "cli/library_command.h"
 
+#include <array>
 #include <optional>
 #include <ostream>
 
@@ -35,6 +36,10 @@ nlohmann::json JsonOf(const storage::LibraryFolder& folder, const storage::Measu
           {"bands", std::move(bands)},
           {"area", JsonOf(test.area_m2)},
           {"surface_mass", JsonOf(test.mass_kg_m2)},
+          {"thickness", JsonOf(test.field.thickness_mm)},
+          {"source_volume", JsonOf(test.field.source_volume_m3)},
+          {"receiving_volume", JsonOf(test.field.receiving_volume_m3)},
+          {"site", test.field.site},
           {"certificate", test.certificate},
           {"date", test.date},
           {"laboratory", test.laboratory},
@@ -56,8 +61,15 @@ void WriteTest(std::ostream& out, const storage::LibraryFolder& folder, const st
   WriteLine(out, "Descrizione", test.description);
   WriteLine(out, "Parola chiave", test.keyword);
   WriteLine(out, folder.rating, test.rating);
+  const std::array<std::string, 2> adaptation = storage::AdaptationColumns(folder);
+  WriteLine(out, adaptation[0], test.adaptation);
+  WriteLine(out, adaptation[1], test.other_adaptation);
   WriteLine(out, "Area (m²)", test.area_m2);
   WriteLine(out, "m' (kg/m²)", test.mass_kg_m2);
+  WriteLine(out, "Ve (m³)", test.field.source_volume_m3);
+  WriteLine(out, "Vr (m³)", test.field.receiving_volume_m3);
+  WriteLine(out, "s (mm)", test.field.thickness_mm);
+  WriteLine(out, "Cantiere", test.field.site);
   const std::vector<std::string> columns = storage::BandColumns(folder.band_prefix);
   for (std::size_t band = 0; band < columns.size(); ++band)
     WriteLine(out, columns[band], test.bands.at(band));
@@ -66,6 +78,7 @@ void WriteTest(std::ostream& out, const storage::LibraryFolder& folder, const st
   WriteLine(out, "Ente di prova", test.laboratory);
   WriteLine(out, "Società richiedente", test.client);
   WriteLine(out, "Informazione addizionale", test.notes);
+  WriteLine(out, "Immagine", test.picture);
 }
 
 std::optional<storage::LibraryFile> FindSeries(const storage::LibraryStore& store,

@@ -16,7 +16,7 @@ enum class CommandId {
   kExportExcel,
   kRun,
   kShowTable,
-  kCompare,
+  kCompare,  ///< the main window waits until the comparison is closed
   kDimensions,
   kSingleWalls,
   kDoubleWalls,
@@ -33,6 +33,7 @@ enum class CommandId {
   kMeasuredRw,
   kBaseMaterials,
   kMaterialList,
+  kCompareBeside,  ///< the comparison stays open beside the main window
   kTutorial,
   kContact,
   kAbout,

@@ -63,7 +63,7 @@ QMenu* FillMenuBar(QMenuBar& bar, const CommandSet& commands, const CalculationA
   tree->setObjectName("tipo_di_calcolo");
   calculations.FillTree(*tree, words);
   calculation->addSeparator();
-  Add(*calculation, commands, {kRun, kCompare, kShowTable});
+  Add(*calculation, commands, {kRun, kCompareBeside, kShowTable});
 
   QMenu* help = AddMenu(bar, words, kHelpRow, "help");
   Add(*help, commands, {kTutorial, kContact});

@@ -1,6 +1,5 @@
 #include "shell/structure_commands.h"
 
-#include <QPointer>
 #include <QSettings>
 #include <QWidget>
 #include <filesystem>
@@ -9,10 +8,9 @@
 #include "elements/catalogue.h"
 #include "foundation/failure.h"
 #include "presentation/texts/descriptions.h"
+#include "shell/comparison_command.h"
 #include "shell/element_parts.h"
 #include "shell/phrases.h"
-#include "shell/results_panel.h"
-#include "shell/structures/comparison_window.h"
 #include "shell/structures/measured_library_window.h"
 #include "shell/structures/saved_results_window.h"
 #include "storage/results/result_to_save.h"
@@ -24,7 +22,7 @@ namespace {
 constexpr MessageRow kSavePromptRow{221};
 constexpr MessageRow kSaveTitleRow{222};
 
-using structures::ComparisonWindow;
+using structures::LibraryPurpose;
 using structures::MeasuredLibraryWindow;
 using structures::ResultKind;
 using structures::SavedResultsWindow;
@@ -54,6 +52,7 @@ class StructureCommands::Windows {
       memory_ = std::make_unique<QSettings>(QString::fromStdString(file.string()), QSettings::IniFormat);
       tools_.memory = memory_.get();
     }
+    comparison_ = std::make_unique<ComparisonCommand>(services_, tools_, library_);
   }
 
   std::vector<std::string> Names() const {
@@ -79,30 +78,16 @@ class StructureCommands::Windows {
     ShowAndWait(new SavedResultsWindow(tools_, results_, std::move(listener), parent));
   }
 
-  void ShowLibrary(QWidget* parent, const std::optional<ElementPick>& pick) {
-    structures::MeasuredTarget target;
-    if (pick) {
-      target.component = pick->component;
-      target.take = [this, pick](const calculation::FacadePart& part) { Take(*pick, part); };
-    }
-    ShowAndWait(new MeasuredLibraryWindow(tools_, library_, std::move(target), parent));
+  /// Opens the library for an element of the calculation.
+  void PickMeasured(QWidget* parent, const ElementPick& pick) {
+    ShowLibrary(parent,
+                {.purpose = pick.component == 0 ? LibraryPurpose::kOpaquePart : LibraryPurpose::kComponents,
+                 .component = pick.component,
+                 .take = [this, pick](const calculation::FacadePart& part) { Take(pick, part); }});
   }
 
-  void ShowComparison(QWidget* parent) {
-    const auto& calculation = services_.open.Setup().calculation;
-    if (!calculation) return;
-    if (comparison_) comparison_->close();
-    overlay_ = {};
-    comparison_ = new ComparisonWindow(
-        tools_, library_, RowOf(*calculation).family,
-        [this,
-         panel = QPointer(parent->findChild<QWidget*>("prnFrame1"))](const structures::Overlay& overlay) {
-          overlay_ = overlay;
-          if (auto* results = dynamic_cast<ResultsPanel*>(panel.data())) results->Show();
-        },
-        parent);
-    comparison_->setAttribute(Qt::WA_DeleteOnClose);
-    comparison_->show();
+  void ShowLibrary(QWidget* parent, structures::MeasuredTarget target) {
+    ShowAndWait(new MeasuredLibraryWindow(tools_, library_, std::move(target), parent));
   }
 
   /// `Salva`: stores the result that stands under a name that is asked for.
@@ -128,13 +113,7 @@ class StructureCommands::Windows {
     });
   }
 
-  void LayOver(presentation::CurveChart& chart) const {
-    if (comparison_ && comparison_->isVisible()) structures::LayOver(chart, overlay_);
-  }
-
-  void ResultGone() {
-    if (comparison_) comparison_->ResultGone();
-  }
+  ComparisonCommand& Comparison() { return *comparison_; }
 
  private:
   void Take(const ElementPick& pick, const calculation::FacadePart& part) {
@@ -147,8 +126,7 @@ class StructureCommands::Windows {
   structures::ResultSource results_;
   structures::LibrarySource library_;
   std::unique_ptr<QSettings> memory_;
-  QPointer<ComparisonWindow> comparison_;
-  structures::Overlay overlay_;
+  std::unique_ptr<ComparisonCommand> comparison_;
 };
 
 StructureCommands::StructureCommands(WindowServices& services, structures::LibraryPlaces places,
@@ -161,22 +139,28 @@ StructureCommands::StructureCommands(WindowServices& services, structures::Libra
     windows->ShowResults(parent, pick);
   };
   services.pick_measured = [windows](QWidget* parent, const ElementPick& pick) {
-    windows->ShowLibrary(parent, pick);
+    windows->PickMeasured(parent, pick);
   };
   services.command_windows[CommandId::kStoreResult] = [windows](QWidget*) { windows->Store(); };
   services.command_windows[CommandId::kSavedResults] = [windows](QWidget* parent) {
     windows->ShowResults(parent, std::nullopt);
   };
   services.command_windows[CommandId::kMeasuredRw] = [windows](QWidget* parent) {
-    windows->ShowLibrary(parent, std::nullopt);
+    windows->ShowLibrary(parent, {.purpose = LibraryPurpose::kAirborneData});
+  };
+  services.command_windows[CommandId::kMeasuredLnw] = [windows](QWidget* parent) {
+    windows->ShowLibrary(parent, {.purpose = LibraryPurpose::kImpactData});
   };
   services.command_windows[CommandId::kCompare] = [windows](QWidget* parent) {
-    windows->ShowComparison(parent);
+    windows->Comparison().Show(parent, Qt::WindowModal);
   };
-  services.lay_over = [windows](presentation::CurveChart& chart) { windows->LayOver(chart); };
+  services.command_windows[CommandId::kCompareBeside] = [windows](QWidget* parent) {
+    windows->Comparison().Show(parent, Qt::NonModal);
+  };
+  services.lay_over = [windows](presentation::CurveChart& chart) { windows->Comparison().LayOver(chart); };
   services.result_gone = [windows, before = services.result_gone] {
     if (before) before();
-    windows->ResultGone();
+    windows->Comparison().ResultGone();
   };
 }
 

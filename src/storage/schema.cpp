@@ -220,7 +220,7 @@ std::vector<LibraryFolder> LibraryFolders() {
   folders.reserve(kLibrary.size());
   for (const LibraryRow& row : kLibrary) {
     folders.push_back({std::string(row.key), std::string(row.folder), LibraryTable(row),
-                       std::string(row.ratings[0]), std::string(row.band_prefix)});
+                       std::string(row.ratings[0]), std::string(row.band_prefix), row.field});
   }
   return folders;
 }

@@ -55,6 +55,7 @@ struct LibraryFolder {
   TableSchema table;
   std::string rating;       ///< the column of the single number, "Rw (dB)"
   std::string band_prefix;  ///< of the band columns, "R" of "R - 50Hz (dB)"
+  bool field = false;       ///< measured in buildings
 };
 
 /// Every folder of the library, in the order in which windows list them.

@@ -109,7 +109,6 @@ TEST(FacadePartsTest, ASmallElementHasNoAreaWhateverItsRecordSays) {
   elements::Setup setup = EmptyFacade();
   TakeAsComponent(setup, 9, SmallElement());
   EXPECT_EQ(setup.facade.components[8].area_text, elements::kSmallElementArea);
-  EXPECT_EQ(CaptionsOf(SmallElement().quantity), (PartCaptions{"Dnew (dB)", "Dn [dB]"}));
 }
 
 TEST(FacadePartsTest, AWindowAfterASmallElementLosesTheMarkOfTheSmallElement) {

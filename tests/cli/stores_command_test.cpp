@@ -5,7 +5,9 @@
 #include <nlohmann/json.hpp>
 
 #include "cli/command_line.h"
+#include "storage/library/library_store.h"
 #include "storage/results/results_store.h"
+#include "tests/storage/support/databases.h"
 #include "tests/storage/support/temporary_folder.h"
 
 namespace velmar::cli {
@@ -35,7 +37,7 @@ class StoresCommandTest : public testing::Test {
       Services services;
       services.words = [](MessageRow row) { return "row " + std::to_string(row.number); };
       services.result_database = results_;
-      services.library_folder = SHIPPED "/Databases/Database";
+      services.library_folder = library_;
       return services;
     };
     std::ostringstream out;
@@ -45,6 +47,7 @@ class StoresCommandTest : public testing::Test {
   }
 
   storage::TemporaryFolder folder_;
+  std::filesystem::path library_ = SHIPPED "/Databases/Database";
   std::filesystem::path results_ = folder_ / "Database_teorico.mdb";
 };
 
@@ -93,6 +96,28 @@ TEST_F(StoresCommandTest, EveryTestOfTheShippedLibraryIsShown) {
   EXPECT_GT(tests, 0U);
   EXPECT_EQ(Say({"library", "list", "Rx"}).code, 3);
   EXPECT_EQ(Say({"library", "list", "Rw", "none"}).code, 3);
+}
+
+TEST_F(StoresCommandTest, ATestInABuildingIsShownWithItsFieldData) {
+  library_ = folder_ / "Database";
+  std::filesystem::create_directories(library_);
+  const storage::LibraryFolder walls = *storage::FindLibraryFolder("R'w");
+  storage::MakeTables(library_ / "Database_sperimentale.mdb", {walls.table});
+  storage::Execute(library_ / "Database_sperimentale.mdb",
+                   {"INSERT INTO Rw_in_opera (Nome, [Rw (dB)], [C (dB)], [Ve (m³)], [Vr (m³)], [s (mm)], "
+                    "Cantiere, Immagine) VALUES ('Divisorio', 51, -1.5, 31.5, 28, 300, 'Cantiere \"Po\"', "
+                    "'senza')"});
+  const Said shown = Say({"library", "show", "R'w", "Database_sperimentale", "divisorio"});
+  EXPECT_EQ(shown.out,
+            "Nome: Divisorio\nRw (dB): 51\nC (dB): -1,5\nVe (m³): 31,5\nVr (m³): 28\ns (mm): 300\n"
+            "Cantiere: Cantiere \"Po\"\nImmagine: senza\n");
+  const nlohmann::json json =
+      Say({"library", "show", "R'w", "Database_sperimentale", "Divisorio", "--json"}).Json();
+  EXPECT_EQ(json["source_volume"], 31.5);
+  EXPECT_EQ(json["receiving_volume"], 28);
+  EXPECT_EQ(json["thickness"], 300);
+  EXPECT_EQ(json["site"], "Cantiere \"Po\"");
+  EXPECT_TRUE(json["area"].is_null());
 }
 
 TEST_F(StoresCommandTest, ImportRefusesWhatIsNoAccessFile) {

@@ -7,6 +7,7 @@
 #include <QPushButton>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QToolButton>
 #include <QTreeWidget>
 #include <filesystem>
 
@@ -133,6 +134,60 @@ class StructureCommandsTest : public QObject {
     chart = {};
     program.fixture.services.lay_over(chart);
     QVERIFY(!chart.laboratory.has_value());
+  }
+
+  void theComparisonIsModalFromTheToolBarAlone() {
+    Program program;
+    program.fixture.Choose("TIPO_PARETE_SINGOLA_0");
+    QVERIFY(!program.fixture.Find<QAction>("confronta_risultati")->isEnabled());
+    QVERIFY(!program.fixture.Find<QToolButton>("Toolbar1_13")->isEnabled());
+    program.fixture.Run();
+    program.fixture.Find<QAction>("confronta_risultati")->trigger();
+    auto* beside = program.fixture.Find<QDialog>("Form8");
+    QCOMPARE(beside->windowModality(), Qt::NonModal);
+    beside->close();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    program.fixture.Find<QToolButton>("Toolbar1_13")->click();
+    QCOMPARE(program.fixture.Find<QDialog>("Form8")->windowModality(), Qt::WindowModal);
+  }
+
+  void aClosedComparisonStaysInTheDrawingUntilTheNextOne() {
+    Program program;
+    program.fixture.Choose("TIPO_PARETE_SINGOLA_0");
+    program.fixture.Run();
+    program.fixture.Find<QToolButton>("Toolbar1_13")->click();
+    auto* comparison = program.fixture.Find<QDialog>("Form8");
+    Program::OpenStored(*comparison, "TreeView1", "List1", 0);
+    comparison->findChild<QCheckBox*>("Check1")->click();
+    comparison->close();
+    presentation::CurveChart chart;
+    chart.values = *program.fixture.open.Result()->spectrum;
+    program.fixture.services.lay_over(chart);
+    QVERIFY(chart.laboratory.has_value());
+    // The same window again: nothing is ticked, the drawing stands.
+    program.fixture.Find<QToolButton>("Toolbar1_13")->click();
+    QVERIFY(!program.fixture.Find<QCheckBox>("Check1")->isChecked());
+    program.fixture.services.lay_over(chart);
+    QVERIFY(chart.laboratory.has_value());
+    chart.autoscale = true;
+    program.fixture.services.lay_over(chart);
+    QVERIFY(!chart.laboratory.has_value());
+  }
+
+  void theMenuOpensTheLibraryAtImpactOrAirborneData() {
+    const Program program;
+    const std::pair<const char*, const char*> entries[] = {{"Dati_Lnw", "Solai - terzi d'ottava"},
+                                                           {"Dati_Rw", "Vetrate - indici dichiarati"}};
+    for (const auto& [entry, file] : entries) {
+      program.fixture.Find<QAction>(entry)->trigger();
+      auto* library = program.fixture.Find<QDialog>("Form9");
+      const auto* tree = library->findChild<QTreeWidget*>("TreeView1");
+      QCOMPARE(tree->findItems(file, Qt::MatchExactly | Qt::MatchRecursive).size(), 1);
+      QVERIFY(!library->findChild<QPushButton*>("Command1")->isVisible());
+      QTest::keyClick(library, Qt::Key_Escape);
+      QVERIFY(!library->isVisible());
+      QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
   }
 
   void aResultIsStoredUnderItsNameOnce() {

@@ -2,7 +2,10 @@
 
 #include <QCheckBox>
 #include <QHBoxLayout>
+#include <QIcon>
 #include <QLabel>
+#include <QPainter>
+#include <QPixmap>
 #include <QPlainTextEdit>
 #include <QSignalBlocker>
 #include <QSplitter>
@@ -26,6 +29,24 @@ QLabel* MakeLabel(const char* name, QWidget* parent) {
   return label;
 }
 
+/// A piece of the curve, as the legend of the chart shows it.
+QIcon SampleOf(const QColor& colour, const QSize& size) {
+  constexpr qreal kSharpness = 3.0;
+  constexpr qreal kDotDiameter = 6.0;
+  QPixmap sample(size * kSharpness);
+  sample.setDevicePixelRatio(kSharpness);
+  sample.fill(Qt::transparent);
+  QPainter painter(&sample);
+  painter.setRenderHint(QPainter::Antialiasing);
+  const QPointF centre(size.width() / 2.0, size.height() / 2.0);
+  painter.setPen(QPen(colour, 2.0));
+  painter.drawLine(QPointF(0.0, centre.y()), QPointF(size.width(), centre.y()));
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(colour);
+  painter.drawEllipse(centre, kDotDiameter / 2.0, kDotDiameter / 2.0);
+  return QIcon(sample);
+}
+
 }  // namespace
 
 ComparisonPanel::ComparisonPanel(const windows::WindowTools& tools, LibrarySource source, const Look& look,
@@ -34,6 +55,9 @@ ComparisonPanel::ComparisonPanel(const windows::WindowTools& tools, LibrarySourc
   setObjectName(QLatin1String(look.frame));
   check_ = new QCheckBox(tools.Text(look.check_caption), this);
   check_->setObjectName(QLatin1String(look.check));
+  const QSize sample(fontMetrics().height() * 3 / 2, fontMetrics().height());
+  check_->setIconSize(sample);
+  check_->setIcon(SampleOf(look.colour, sample));
   database_ = MakeLabel(look.database, this);
   rating_ = MakeLabel(look.rating, this);
   QFont large = font();
@@ -87,6 +111,8 @@ void ComparisonPanel::Show(const std::optional<MeasuredTest>& test) {
   description_->setPlainText(windows::ToQt(shown.part.description));
   if (IsTicked()) changed_();
 }
+
+void ComparisonPanel::Refresh() { chooser_->Refresh(); }
 
 void ComparisonPanel::Reset() {
   {

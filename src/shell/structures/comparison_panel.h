@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QColor>
 #include <QGroupBox>
 #include <functional>
 #include <optional>
@@ -24,7 +25,6 @@ class ComparisonPanel : public QGroupBox {
   struct Look {
     const char* frame = "";
     const char* check = "";
-    const char* check_label = "";
     const char* tree = "";
     const char* keywords = "";
     const char* list = "";
@@ -33,6 +33,7 @@ class ComparisonPanel : public QGroupBox {
     const char* rating = "";
     MessageRow caption{};
     MessageRow check_caption{};
+    QColor colour{};  ///< of the curve
     std::vector<TreeNode> nodes{};
   };
 
@@ -46,6 +47,8 @@ class ComparisonPanel : public QGroupBox {
   std::string Name() const;
   /// Nothing ticked, nothing chosen.
   void Reset();
+  /// Reads the databases anew; what is chosen stays chosen while it is still there.
+  void Refresh();
   TestChooser* Chooser() const { return chooser_; }
 
  private:

@@ -3,12 +3,16 @@
 #include <QHBoxLayout>
 #include <QHideEvent>
 #include <QPushButton>
+#include <QShortcut>
 #include <QSplitter>
 #include <QVBoxLayout>
 
+#include "presentation/drawing/colours.h"
 #include "shell/structures/comparison_panel.h"
+#include "shell/structures/mnemonics.h"
 #include "shell/structures/structure_rows.h"
 #include "shell/structures/test_chooser.h"
+#include "shell/structures/tree_nodes.h"
 
 namespace velmar::structures {
 namespace {
@@ -36,6 +40,7 @@ ComparisonPanel::Look LaboratoryLook() {
   look.rating = "Label2";
   look.caption = kLaboratoryRow;
   look.check_caption = kLaboratoryCheckRow;
+  look.colour = presentation::kLaboratoryColour;
   return look;
 }
 
@@ -51,6 +56,7 @@ ComparisonPanel::Look InSituLook() {
   look.rating = "Label5";
   look.caption = kInSituRow;
   look.check_caption = kInSituCheckRow;
+  look.colour = presentation::kInSituColour;
   return look;
 }
 
@@ -93,6 +99,11 @@ ComparisonWindow::ComparisonWindow(windows::WindowTools tools, const LibrarySour
   column->addLayout(buttons);
   resize(fontMetrics().averageCharWidth() * 170, fontMetrics().height() * 34);
   windows::RestoreSizes(tools_.memory, SizesOf(this, sides_));
+  SetMnemonics(*this);
+  connect(new QShortcut(QKeySequence::Refresh, this), &QShortcut::activated, this, [this] {
+    laboratory_->Refresh();
+    in_situ_->Refresh();
+  });
 }
 
 ComparisonWindow::~ComparisonWindow() { windows::SaveSizes(tools_.memory, SizesOf(this, sides_)); }

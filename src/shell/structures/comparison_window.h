@@ -4,12 +4,10 @@
 #include <functional>
 #include <optional>
 #include <string>
-#include <vector>
 
 #include "acoustics/bands.h"
 #include "elements/catalogue.h"
 #include "presentation/drawing/curve_chart.h"
-#include "shell/structures/library_tree.h"
 #include "shell/structures/structure_sources.h"
 #include "shell/windows/window_tools.h"
 
@@ -61,10 +59,5 @@ class ComparisonWindow : public QDialog {
   ComparisonPanel* laboratory_ = nullptr;
   ComparisonPanel* in_situ_ = nullptr;
 };
-
-/// The databases that the laboratory side offers for `family`.
-std::vector<TreeNode> LaboratoryNodes(elements::Family family, const windows::WindowTools& tools);
-/// The databases that the in-situ side offers for `family`.
-std::vector<TreeNode> InSituNodes(elements::Family family, const windows::WindowTools& tools);
 
 }  // namespace velmar::structures

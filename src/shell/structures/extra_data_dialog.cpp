@@ -11,6 +11,7 @@
 #include <array>
 
 #include "shell/structures/copied_table.h"
+#include "shell/structures/mnemonics.h"
 #include "shell/structures/structure_rows.h"
 
 namespace velmar::structures {
@@ -71,6 +72,7 @@ ExtraDataDialog::ExtraDataDialog(const windows::WindowTools& tools, const Measur
   buttons->addWidget(close);
   column->addLayout(form);
   column->addLayout(buttons);
+  SetMnemonics(*this);
   connect(copy, &QPushButton::clicked, this, [table, words = tools.words] {
     QApplication::clipboard()->setMimeData(ClipboardOf(table, words));
   });

@@ -7,20 +7,15 @@ namespace {
 
 constexpr int kBranchRole = Qt::UserRole;
 constexpr int kFileRole = Qt::UserRole + 1;
-
-constexpr MessageRow kCalculatedDataRow{286};
-constexpr MessageRow kCustomRow{379};
-constexpr MessageRow kStandardWallsRow{381};
-constexpr MessageRow kOpeningsRow{382};
-constexpr MessageRow kFieldDataRow{391};
-constexpr MessageRow kSmallElementsRow{392};
+constexpr int kPathRole = Qt::UserRole + 2;
 
 void AddFiles(QTreeWidgetItem& node, Branch branch, const LibrarySource& source) {
-  for (const std::string& name : source.files(branch)) {
-    auto* file = new QTreeWidgetItem(&node, {windows::ToQt(name)});
-    file->setToolTip(0, windows::ToQt(name));
-    file->setData(0, kBranchRole, static_cast<int>(branch));
-    file->setData(0, kFileRole, windows::ToQt(name));
+  for (const LibraryFile& file : source.files(branch)) {
+    auto* item = new QTreeWidgetItem(&node, {windows::ToQt(file.name)});
+    item->setToolTip(0, windows::ToQt(file.path.empty() ? file.name : file.path.string()));
+    item->setData(0, kBranchRole, static_cast<int>(file.branch));
+    item->setData(0, kFileRole, windows::ToQt(file.name));
+    item->setData(0, kPathRole, windows::ToQt(file.path.string()));
   }
 }
 
@@ -43,20 +38,8 @@ void FillTree(QTreeWidget& tree, const std::vector<TreeNode>& nodes, const Libra
 std::optional<LibraryFile> FileOf(const QTreeWidgetItem* item) {
   if (item == nullptr || !item->data(0, kFileRole).isValid()) return std::nullopt;
   return LibraryFile{static_cast<Branch>(item->data(0, kBranchRole).toInt()),
-                     windows::FromQt(item->data(0, kFileRole).toString())};
-}
-
-std::vector<TreeNode> LibraryNodes(bool components, const windows::WindowTools& tools) {
-  TreeNode root{tools.Text(kCustomRow), {}, {}};
-  if (components) {
-    root.children.push_back({tools.Text(kOpeningsRow), {Branch::kOpenings}, {}});
-    root.children.push_back({tools.Text(kSmallElementsRow), {Branch::kSmallElements}, {}});
-  } else {
-    root.children.push_back({tools.Text(kStandardWallsRow), {Branch::kWalls}, {}});
-  }
-  root.children.push_back({tools.Text(kCalculatedDataRow), {Branch::kCalculatedWalls}, {}});
-  root.children.push_back({tools.Text(kFieldDataRow), {Branch::kFieldWalls}, {}});
-  return {root};
+                     windows::FromQt(item->data(0, kFileRole).toString()),
+                     windows::FromQt(item->data(0, kPathRole).toString())};
 }
 
 }  // namespace velmar::structures

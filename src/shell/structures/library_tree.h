@@ -27,8 +27,4 @@ void FillTree(QTreeWidget& tree, const std::vector<TreeNode>& nodes, const Libra
 /// The file that `item` stands for; nothing for a node that only holds others.
 std::optional<LibraryFile> FileOf(const QTreeWidgetItem* item);
 
-/// The nodes of the library window.
-/// @param components true for what fits a component of a facade, false for its opaque part
-std::vector<TreeNode> LibraryNodes(bool components, const windows::WindowTools& tools);
-
 }  // namespace velmar::structures

@@ -2,10 +2,12 @@
 
 #include <QHBoxLayout>
 #include <QPushButton>
+#include <QShortcut>
 #include <QSplitter>
 #include <QVBoxLayout>
 
 #include "shell/structures/extra_data_dialog.h"
+#include "shell/structures/mnemonics.h"
 #include "shell/structures/structure_rows.h"
 #include "shell/structures/test_chooser.h"
 #include "shell/structures/test_details.h"
@@ -13,6 +15,8 @@
 namespace velmar::structures {
 namespace {
 
+constexpr MessageRow kImpactDataRow{14};
+constexpr MessageRow kAirborneDataRow{15};
 constexpr MessageRow kOpaquePartRow{260};
 constexpr MessageRow kComponentRow{378};
 constexpr MessageRow kCaptionRow{386};
@@ -35,13 +39,11 @@ MeasuredLibraryWindow::MeasuredLibraryWindow(windows::WindowTools tools, Library
   setWindowTitle(Caption());
   details_ = new TestDetails(tools_, this);
   TestChooser::Controls controls;
-  controls.nodes = LibraryNodes(target_.component > 0, tools_);
+  controls.nodes = LibraryNodes(target_.purpose, tools_);
   TestChooser::Listener listener;
   listener.file = [this](const LibraryFile& file, const QString& description) {
+    details_->ShowSymbols(SymbolsOf(file.branch));
     details_->ShowDescription(description);
-    details_->ShowCaptions(file.branch == Branch::kSmallElements
-                               ? calculation::PartQuantity::kElementDifference
-                               : calculation::PartQuantity::kReductionIndex);
   };
   listener.test = [this](const std::optional<MeasuredTest>& test) {
     details_->Show(test);
@@ -58,6 +60,8 @@ MeasuredLibraryWindow::MeasuredLibraryWindow(windows::WindowTools tools, Library
   resize(character * 190, metrics.height() * 40);
   chooser_->Splitter()->setSizes({character * 44, character * 44, character * 102});
   windows::RestoreSizes(tools_.memory, SizesOf(this, *chooser_));
+  SetMnemonics(*this);
+  connect(new QShortcut(QKeySequence::Refresh, this), &QShortcut::activated, chooser_, &TestChooser::Refresh);
 }
 
 MeasuredLibraryWindow::~MeasuredLibraryWindow() {
@@ -66,11 +70,17 @@ MeasuredLibraryWindow::~MeasuredLibraryWindow() {
 
 QString MeasuredLibraryWindow::Caption() const {
   const QString caption = tools_.Text(kCaptionRow);
-  if (!target_.take) return caption;
-  const QString target = target_.component == 0 ? tools_.Text(kOpaquePartRow)
-                                                : tools_.Text(kComponentRow) + QLatin1Char(' ') +
-                                                      QString::number(target_.component);
-  return target + QStringLiteral(": ") + caption;
+  switch (target_.purpose) {
+    case LibraryPurpose::kOpaquePart:
+      return tools_.Text(kOpaquePartRow) + QStringLiteral(": ") + caption;
+    case LibraryPurpose::kComponents:
+      return tools_.Text(kComponentRow) + QStringLiteral(" %1: ").arg(target_.component) + caption;
+    case LibraryPurpose::kAirborneData:
+      return caption + QStringLiteral(" - ") + tools_.Text(kAirborneDataRow);
+    case LibraryPurpose::kImpactData:
+      return caption + QStringLiteral(" - ") + tools_.Text(kImpactDataRow);
+  }
+  return caption;
 }
 
 QWidget* MeasuredLibraryWindow::MakeButtons() {

@@ -4,19 +4,20 @@
 #include <functional>
 
 #include "shell/structures/structure_sources.h"
+#include "shell/structures/tree_nodes.h"
 #include "shell/windows/window_tools.h"
 
 class QPushButton;
 
 namespace velmar::structures {
 
-class ExtraDataDialog;
 class TestChooser;
 class TestDetails;
 
-/// What a measured test is chosen for (`TipoElementoSperimentale` and the target element).
+/// What the window is opened for.
 struct MeasuredTarget {
-  int component = 0;  ///< 0: the opaque part of a facade, or the base of a lining; 1 to 9: a component
+  LibraryPurpose purpose = LibraryPurpose::kOpaquePart;
+  int component = 0;  ///< 1 to 9, when it is for a component
   /// Takes the chosen test; empty when the window is only looked at.
   std::function<void(const calculation::FacadePart&)> take{};
 };

@@ -4,17 +4,18 @@
 #include <QClipboard>
 #include <QHBoxLayout>
 #include <QHeaderView>
-#include <QKeyEvent>
 #include <QLineEdit>
 #include <QMimeData>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QShortcut>
 #include <QTableView>
 #include <QVBoxLayout>
 #include <algorithm>
 
 #include "shell/structures/copied_table.h"
+#include "shell/structures/mnemonics.h"
 #include "shell/structures/structure_rows.h"
 
 namespace velmar::structures {
@@ -50,6 +51,8 @@ SavedResultsWindow::SavedResultsWindow(windows::WindowTools tools, ResultSource 
   const QFontMetrics metrics = fontMetrics();
   if (!windows::RestoreSizes(tools_.memory, SizesOf(this, grid_)))
     resize(metrics.averageCharWidth() * 130, metrics.height() * 34);
+  AddKeys();
+  SetMnemonics(*this);
   Refresh();
   search_->setFocus();
 }
@@ -145,6 +148,17 @@ QWidget* SavedResultsWindow::MakeButtons() {
   take_->setDefault(static_cast<bool>(listener_.take));
   add("Chiudi", kCloseRow, [this] { reject(); });
   return bar;
+}
+
+void SavedResultsWindow::AddKeys() {
+  connect(new QShortcut(QKeySequence::Refresh, this), &QShortcut::activated, this, [this] { Refresh(); });
+  // Only in the grid: in a field these keys edit or copy its text.
+  auto* remove = new QShortcut(QKeySequence::Delete, grid_);
+  remove->setContext(Qt::WidgetShortcut);
+  connect(remove, &QShortcut::activated, this, [this] { Delete(); });
+  auto* copy = new QShortcut(QKeySequence::Copy, grid_);
+  copy->setContext(Qt::WidgetShortcut);
+  connect(copy, &QShortcut::activated, this, [this] { Copy(); });
 }
 
 ResultKind SavedResultsWindow::Kind() const {

@@ -40,6 +40,7 @@ class SavedResultsWindow : public QDialog {
   QWidget* MakeGrid();
   QWidget* MakeDetails();
   QWidget* MakeButtons();
+  void AddKeys();
   ResultKind Kind() const;
   std::string SelectedName() const;
   void SelectRow(int row);

@@ -60,6 +60,10 @@ MeasuredTest TestOf(const storage::LibraryFolder& folder, storage::MeasuredTest 
   shown.part.origin = calculation::PartOrigin::kMeasurement;
   shown.part.quantity = storage::IsSmallElement(folder) ? calculation::PartQuantity::kElementDifference
                                                         : calculation::PartQuantity::kReductionIndex;
+  shown.part.thickness_mm = test.field.thickness_mm;
+  shown.source_volume_m3 = test.field.source_volume_m3;
+  shown.receiving_volume_m3 = test.field.receiving_volume_m3;
+  shown.site = std::move(test.field.site);
   shown.certificate = std::move(test.certificate);
   shown.date = std::move(test.date);
   shown.laboratory = std::move(test.laboratory);
@@ -79,11 +83,12 @@ class Library {
         library_(places_.library, *session_),
         results_(places_.results) {}
 
-  std::vector<std::string> Files(Branch branch) const {
-    if (TableOf(branch)) return {places_.results.stem().string()};
-    std::vector<std::string> names;
-    for (const storage::LibraryFile& file : library_.Files(FolderOf(branch))) names.push_back(file.name);
-    return names;
+  std::vector<LibraryFile> Files(Branch branch) const {
+    if (TableOf(branch)) return {{branch, places_.results.stem().string(), places_.results}};
+    std::vector<LibraryFile> files;
+    for (storage::LibraryFile& file : library_.Files(FolderOf(branch)))
+      files.push_back({branch, std::move(file.name), std::move(file.path)});
+    return files;
   }
 
   std::vector<TestEntry> Tests(const LibraryFile& file) const {
@@ -93,8 +98,7 @@ class Library {
         entries.push_back({std::move(result.name), std::move(result.description), {}});
       return entries;
     }
-    const storage::LibraryFolder folder = FolderOf(file.branch);
-    for (storage::ListedTest& test : library_.Tests(folder, PathOf(folder, file.name)))
+    for (storage::ListedTest& test : library_.Tests(FolderOf(file.branch), file.path))
       entries.push_back({std::move(test.name), std::move(test.description), std::move(test.keyword)});
     return entries;
   }
@@ -108,19 +112,12 @@ class Library {
       return shown;
     }
     const storage::LibraryFolder folder = FolderOf(file.branch);
-    auto test = library_.Find(folder, PathOf(folder, file.name), name);
+    auto test = library_.Find(folder, file.path, name);
     if (!test) return std::nullopt;
     return TestOf(folder, std::move(*test), places_.pictures);
   }
 
  private:
-  std::filesystem::path PathOf(const storage::LibraryFolder& folder, const std::string& name) const {
-    for (const storage::LibraryFile& file : library_.Files(folder)) {
-      if (file.name == name) return file.path;
-    }
-    return places_.library / folder.folder / (name + ".mdb");  // gone: opening it says so
-  }
-
   LibraryPlaces places_;
   std::shared_ptr<storage::AccessSession> session_;
   storage::LibraryStore library_;

@@ -8,6 +8,7 @@
 
 #include "calculation/facade_parts.h"
 #include "foundation/message.h"
+#include "shell/structures/branches.h"
 
 namespace velmar::structures {
 
@@ -33,25 +34,11 @@ struct ResultSource {
   std::function<bool(ResultKind, const std::string& name)> remove;
 };
 
-/// A kind of structures: a folder of the library, or a table of the calculated results.
-enum class Branch {
-  kWalls,
-  kLinings,
-  kFloors,
-  kCoverings,
-  kOpenings,
-  kSmallElements,
-  kFieldWalls,
-  kFieldFloors,
-  kCalculatedWalls,
-  kCalculatedFloors,
-  kCalculatedLinings,
-};
-
 /// A file of a branch: a series of tests.
 struct LibraryFile {
   Branch branch{};
   std::string name{};  ///< without its ending
+  std::filesystem::path path{};
 
   bool operator==(const LibraryFile&) const = default;
 };
@@ -80,7 +67,7 @@ struct MeasuredTest {
 
 /// The library of measured structures, with the calculated ones beside them. Each function may throw Failure.
 struct LibrarySource {
-  std::function<std::vector<std::string>(Branch)> files;
+  std::function<std::vector<LibraryFile>(Branch)> files;
   std::function<std::vector<TestEntry>(const LibraryFile&)> tests;
   std::function<std::optional<MeasuredTest>(const LibraryFile&, const std::string& name)> test;
 };

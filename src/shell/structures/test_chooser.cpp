@@ -8,8 +8,11 @@
 #include <QListView>
 #include <QSplitter>
 #include <QTreeWidget>
+#include <QTreeWidgetItemIterator>
 #include <QVBoxLayout>
+#include <algorithm>
 #include <set>
+#include <utility>
 
 #include "shell/structures/structure_rows.h"
 
@@ -30,7 +33,8 @@ TestChooser::TestChooser(const windows::WindowTools& tools, LibrarySource source
       source_(std::move(source)),
       listener_(std::move(listener)),
       model_({tools.Text(kNameRow)}),
-      shown_(model_) {
+      shown_(model_),
+      nodes_(controls.nodes) {
   auto* row = new QHBoxLayout(this);
   row->setContentsMargins(0, 0, 0, 0);
   splitter_ = new QSplitter(Qt::Horizontal, this);
@@ -54,7 +58,7 @@ QWidget* TestChooser::MakeTree(const Controls& controls) {
   tree_->header()->setStretchLastSection(false);
   tree_->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
   tree_->setMinimumWidth(fontMetrics().averageCharWidth() * kTreeCharacters / 2);
-  FillTree(*tree_, controls.nodes, source_, tools_);
+  FillTree();
   connect(tree_, &QTreeWidget::currentItemChanged, this, [this](const QTreeWidgetItem* item) {
     if (const std::optional<LibraryFile> file = FileOf(item)) OpenFile(*file);
   });
@@ -101,6 +105,33 @@ QWidget* TestChooser::MakeList(const Controls& controls) {
     Choose(selected.isEmpty() ? QString() : selected.first().data().toString());
   });
   return side;
+}
+
+void TestChooser::FillTree() { structures::FillTree(*tree_, nodes_, source_, tools_); }
+
+void TestChooser::Refresh() {
+  const std::optional<LibraryFile> before = std::exchange(file_, std::nullopt);
+  const QString keyword = keywords_->currentIndex() > 0 ? keywords_->currentText() : QString();
+  const QString name = chosen_ ? windows::ToQt(chosen_->part.name) : QString();
+  {
+    const QSignalBlocker quiet(tree_);
+    FillTree();
+    for (QTreeWidgetItemIterator item(tree_); before && *item != nullptr; ++item) {
+      if (FileOf(*item) != before) continue;
+      tree_->setCurrentItem(*item);
+      file_ = before;
+    }
+  }
+  if (!file_) {  // the file is gone, or none was open
+    tests_.clear();
+    FillList();
+    return;
+  }
+  OpenFile(*before);
+  keywords_->setCurrentIndex(std::max(keywords_->findText(keyword), 0));
+  const QModelIndexList again =
+      shown_.match(shown_.index(0, 0), Qt::DisplayRole, name, 1, Qt::MatchExactly | Qt::MatchCaseSensitive);
+  if (!name.isEmpty() && !again.isEmpty()) list_->setCurrentIndex(again.first());
 }
 
 void TestChooser::OpenFile(const LibraryFile& file) {

@@ -40,11 +40,14 @@ class TestChooser : public QWidget {
   const std::optional<MeasuredTest>& Chosen() const { return chosen_; }
   /// No test is chosen any more.
   void Clear();
+  /// Reads files and tests anew; what is chosen stays chosen while it is still there.
+  void Refresh();
   QSplitter* Splitter() const { return splitter_; }
 
  private:
   QWidget* MakeTree(const Controls& controls);
   QWidget* MakeList(const Controls& controls);
+  void FillTree();
   void OpenFile(const LibraryFile& file);
   void FillList();
   void Choose(const QString& name);
@@ -54,6 +57,7 @@ class TestChooser : public QWidget {
   Listener listener_;
   EntryModel model_;
   EntrySearch shown_;
+  std::vector<TreeNode> nodes_;
   std::optional<LibraryFile> file_;
   std::vector<TestEntry> tests_;
   std::optional<MeasuredTest> chosen_;

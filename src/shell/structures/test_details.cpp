@@ -1,6 +1,5 @@
 #include "shell/structures/test_details.h"
 
-#include <QFormLayout>
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -25,6 +24,12 @@ constexpr double kRatingScale = 1.4;
 
 QString Decibels(const std::optional<double>& value) { return windows::ToQt(calculation::BoxText(value)); }
 
+QString Symbol(std::string_view symbol) {
+  return QString::fromUtf8(symbol.data(), static_cast<qsizetype>(symbol.size()));
+}
+
+QString InDecibels(std::string_view symbol) { return Symbol(symbol) + QStringLiteral(" (dB)"); }
+
 void ShowFromStart(QLineEdit& box, const QString& text) {
   box.setText(text);
   box.setCursorPosition(0);
@@ -33,11 +38,15 @@ void ShowFromStart(QLineEdit& box, const QString& text) {
 
 }  // namespace
 
-QString RatingLabel(const calculation::FacadePart& part) {
-  const bool small = part.quantity == calculation::PartQuantity::kElementDifference;
-  return QLatin1String(small ? "Dnew" : "Rw") + QStringLiteral("(C,Ctr)= ") + Decibels(part.rating_db) +
-         QLatin1Char('(') + Decibels(part.c_db) + QStringLiteral(", ") + Decibels(part.ctr_db) +
-         QStringLiteral(") dB");
+QString RatingLabel(const BranchSymbols& symbols, const calculation::FacadePart& part) {
+  QString names = Symbol(symbols.term);
+  QString values = Decibels(part.c_db);
+  if (!symbols.other_term.empty()) {
+    names += QLatin1Char(',') + Symbol(symbols.other_term);
+    values += QStringLiteral(", ") + Decibels(part.ctr_db);
+  }
+  return QStringLiteral("%1(%2)= %3(%4) dB")
+      .arg(Symbol(symbols.rating), names, Decibels(part.rating_db), values);
 }
 
 TestDetails::TestDetails(const windows::WindowTools& tools, QWidget* parent)
@@ -69,7 +78,7 @@ TestDetails::TestDetails(const windows::WindowTools& tools, QWidget* parent)
   column->addLayout(pictures, 1);
   column->addWidget(MakeBands());
   column->addWidget(MakeCertificate());
-  ShowCaptions(calculation::PartQuantity::kReductionIndex);
+  ShowSymbols(SymbolsOf(Branch::kWalls));
   Show(std::nullopt);
 }
 
@@ -89,19 +98,14 @@ QWidget* TestDetails::MakeValues() {
   const std::array<QString, 5> names = {QStringLiteral("Text4"), QStringLiteral("Text5"),
                                         QStringLiteral("Text6"), QStringLiteral("Text3"),
                                         QStringLiteral("TextMassa")};
-  const std::array<QString, 5> captions = {QStringLiteral("Rw (dB)"), QStringLiteral("C (dB)"),
-                                           QStringLiteral("Ctr (dB)"), tools_.Text(kAreaRow),
+  const std::array<QString, 5> captions = {QString(), QString(), QString(), tools_.Text(kAreaRow),
                                            tools_.Text(kMassRow)};
   for (std::size_t i = 0; i < values_.size(); ++i) {
-    auto* caption = new QLabel(captions[i], values);
-    if (i == 0) {
-      rating_caption_ = caption;
-      caption->setObjectName(QStringLiteral("LabelIndice"));
-    }
+    captions_[i] = new QLabel(captions[i], values);
     values_[i] = Box(names[i], captions[i]);
     values_[i]->setAlignment(Qt::AlignRight);
     values_[i]->setMinimumWidth(fontMetrics().averageCharWidth() * 7);
-    row->addWidget(caption);
+    row->addWidget(captions_[i]);
     row->addWidget(values_[i], 1);
   }
   return values;
@@ -153,18 +157,23 @@ QWidget* TestDetails::MakeCertificate() {
 
 void TestDetails::ShowDescription(const QString& description) { description_->setPlainText(description); }
 
-void TestDetails::ShowCaptions(calculation::PartQuantity quantity) {
-  const calculation::PartCaptions captions = calculation::CaptionsOf(quantity);
-  rating_caption_->setText(windows::ToQt(captions.rating));
-  band_caption_->setText(windows::ToQt(captions.bands));
+void TestDetails::ShowSymbols(const BranchSymbols& symbols) {
+  symbols_ = symbols;
+  const std::array<std::string_view, 3> names = {symbols.rating, symbols.term, symbols.other_term};
+  for (std::size_t i = 0; i < names.size(); ++i) {
+    captions_[i]->setText(InDecibels(names[i]));
+    values_[i]->setAccessibleName(captions_[i]->text());
+    captions_[i]->setVisible(!names[i].empty());
+    values_[i]->setVisible(!names[i].empty());
+  }
+  band_caption_->setText(Symbol(symbols.bands));
 }
 
 void TestDetails::Show(const std::optional<MeasuredTest>& test) {
   const MeasuredTest shown = test.value_or(MeasuredTest{});
   const calculation::FacadePart& part = shown.part;
   const bool small = part.quantity == calculation::PartQuantity::kElementDifference;
-  if (test) ShowCaptions(part.quantity);
-  rating_->setText(test ? RatingLabel(part) : QString());
+  rating_->setText(test ? RatingLabel(symbols_, part) : QString());
   description_->setPlainText(windows::ToQt(part.description));
   const QString area = small ? QStringLiteral("0") : Decibels(part.area_m2);
   const QString mass = part.mass_kg_m2 ? Decibels(part.mass_kg_m2) : QStringLiteral("-");
@@ -180,7 +189,7 @@ void TestDetails::Show(const std::optional<MeasuredTest>& test) {
                                                   shown.client, shown.notes};
   for (std::size_t i = 0; i < certificate_.size(); ++i)
     ShowFromStart(*certificate_[i], windows::ToQt(certificate[i]));
-  curve_->Show(test);
+  curve_->Show(test, symbols_);
   picture_->Show(shown.picture);
 }
 

@@ -8,7 +8,6 @@
 #include "shell/structures/structure_sources.h"
 #include "shell/windows/window_tools.h"
 
-class QFormLayout;
 class QLabel;
 class QLineEdit;
 class QPlainTextEdit;
@@ -20,7 +19,8 @@ class MeasuredCurveView : public QWidget {
  public:
   explicit MeasuredCurveView(const windows::WindowTools& tools, QWidget* parent = nullptr);
 
-  void Show(const std::optional<MeasuredTest>& test);
+  /// @param symbols of the test's branch
+  void Show(const std::optional<MeasuredTest>& test, const BranchSymbols& symbols);
   QSize sizeHint() const override;
   QSize minimumSizeHint() const override;
 
@@ -57,8 +57,8 @@ class TestDetails : public QWidget {
 
   void Show(const std::optional<MeasuredTest>& test);
   void ShowDescription(const QString& description);
-  /// The heading of the band values before a test of `quantity` is chosen.
-  void ShowCaptions(calculation::PartQuantity quantity);
+  /// What the numbers of the tests that follow are called.
+  void ShowSymbols(const BranchSymbols& symbols);
 
  private:
   QWidget* MakeValues();
@@ -67,10 +67,11 @@ class TestDetails : public QWidget {
   QLineEdit* Box(const QString& name, const QString& accessible_name);
 
   windows::WindowTools tools_;
+  BranchSymbols symbols_{};
   QLabel* rating_ = nullptr;               ///< `Label3`
   QPlainTextEdit* description_ = nullptr;  ///< `Text2`
   std::array<QLineEdit*, 5> values_{};     ///< `Text4`, `Text5`, `Text6`, `Text3`, surface mass
-  QLabel* rating_caption_ = nullptr;
+  std::array<QLabel*, 5> captions_{};
   QLabel* band_caption_ = nullptr;
   std::array<QLineEdit*, acoustics::kBandCount> bands_{};  ///< `Text1`
   std::array<QLineEdit*, 5> certificate_{};
@@ -78,7 +79,7 @@ class TestDetails : public QWidget {
   PictureView* picture_ = nullptr;
 };
 
-/// "Rw(C,Ctr)= 50(-1, -5) dB", or "Dnew(C,Ctr)= ..."; a missing value is left out.
-QString RatingLabel(const calculation::FacadePart& part);
+/// "Rw(C,Ctr)= 50(-1, -5) dB", "Dnew(C,Ctr)= ...", "DLw(Ci)= 19(-11) dB"; a missing value is left out.
+QString RatingLabel(const BranchSymbols& symbols, const calculation::FacadePart& part);
 
 }  // namespace velmar::structures

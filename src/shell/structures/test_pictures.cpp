@@ -22,7 +22,7 @@ MeasuredCurveView::MeasuredCurveView(const windows::WindowTools& tools, QWidget*
   setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
 }
 
-void MeasuredCurveView::Show(const std::optional<MeasuredTest>& test) {
+void MeasuredCurveView::Show(const std::optional<MeasuredTest>& test, const BranchSymbols& symbols) {
   chart_ = empty_;
   if (test) {
     for (std::size_t i = 0; i < chart_.values.size(); ++i) {
@@ -30,7 +30,7 @@ void MeasuredCurveView::Show(const std::optional<MeasuredTest>& test) {
       chart_.values[i] = value == calculation::kNotMeasuredDb ? 0.0 : value.value_or(0.0);
     }
     chart_.autoscale = true;
-    chart_.words.level_axis = calculation::CaptionsOf(test->part.quantity).bands;
+    chart_.words.level_axis = symbols.bands;
   }
   update();
 }

@@ -15,6 +15,24 @@ namespace {
 
 namespace fs = std::filesystem;
 
+/// The file of the library's root with a table for each kind measured in buildings.
+constexpr std::string_view kFieldFile = "Database_sperimentale";
+
+/// The files of `folder` ending in ".mdb", by name without regard to case.
+std::vector<LibraryFile> FilesIn(const fs::path& folder) {
+  std::vector<LibraryFile> files;
+  std::error_code error;
+  for (fs::directory_iterator entry(folder, error); !error && entry != fs::directory_iterator();
+       entry.increment(error)) {
+    std::error_code no_file;
+    if (!SameName(entry->path().extension().string(), ".mdb") || !entry->is_regular_file(no_file)) continue;
+    files.push_back({entry->path().stem().string(), entry->path()});
+  }
+  std::ranges::sort(files, {},
+                    [](const LibraryFile& file) { return std::pair(FoldCase(file.name), file.name); });
+  return files;
+}
+
 std::string TextOf(const Cell& cell) {
   const auto* text = std::get_if<std::string>(&cell);
   return text == nullptr ? std::string() : *text;
@@ -48,16 +66,11 @@ std::vector<std::string> TestsUnderFilter(const std::vector<ListedTest>& tests, 
 }
 
 std::vector<LibraryFile> LibraryStore::Files(const LibraryFolder& folder) const {
-  std::vector<LibraryFile> files;
-  std::error_code error;
-  for (fs::directory_iterator entry(root_ / folder.folder, error);
-       !error && entry != fs::directory_iterator(); entry.increment(error)) {
-    std::error_code no_file;
-    if (!SameName(entry->path().extension().string(), ".mdb") || !entry->is_regular_file(no_file)) continue;
-    files.push_back({entry->path().stem().string(), entry->path()});
+  std::vector<LibraryFile> files = FilesIn(root_ / folder.folder);
+  if (!folder.field) return files;
+  for (LibraryFile& file : FilesIn(root_)) {
+    if (SameName(file.name, kFieldFile)) files.insert(files.begin(), std::move(file));
   }
-  std::ranges::sort(files, {},
-                    [](const LibraryFile& file) { return std::pair(FoldCase(file.name), file.name); });
   return files;
 }
 

@@ -42,7 +42,8 @@ class LibraryStore {
       : root_(std::move(root)), session_(&session) {}
 
   /// The files ending in ".mdb" (case ignored) of `folder`, by name without regard to case; none for a folder
-  /// that is empty or missing.
+  /// that is empty or missing. Before those of a kind measured in buildings stands "Database_sperimentale" of
+  /// the library's root, which holds all such kinds, where there is one.
   std::vector<LibraryFile> Files(const LibraryFolder& folder) const;
 
   /// All tests of a file in the order stored.

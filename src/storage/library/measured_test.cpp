@@ -3,22 +3,8 @@
 #include <string_view>
 #include <variant>
 
-#include "foundation/decimal.h"
-
 namespace velmar::storage {
 namespace {
-
-/// The columns of the two adaptation terms: those between the rating and the bands. Some tables have one.
-std::array<std::string, 2> AdaptationColumns(const LibraryFolder& folder) {
-  std::array<std::string, 2> names;
-  const std::optional<std::size_t> rating = folder.table.Find(folder.rating);
-  const std::optional<std::size_t> first_band = folder.table.Find(BandColumns(folder.band_prefix).front());
-  if (!rating || !first_band) return names;
-  for (std::size_t i = 0; i < names.size() && *rating + 1 + i < *first_band; ++i) {
-    names.at(i) = folder.table.columns[*rating + 1 + i].name;
-  }
-  return names;
-}
 
 /// Reads cells by the name of their column.
 class Reader {
@@ -41,13 +27,36 @@ class Reader {
   const std::vector<Cell>& cells_;
 };
 
-std::string Shortest(const std::optional<double>& value) {
-  return value ? FormatShortest(*value) : std::string();
+bool AreDigits(std::string_view text) {
+  return !text.empty() && text.find_first_not_of("0123456789") == std::string_view::npos;
+}
+
+/// "12/05/1998" of "1998-05-12" or "1998-05-12T00:00:00", as a date column of an Access file reads; any other
+/// text as it stands.
+std::string AsWrittenInItaly(const std::string& date) {
+  constexpr std::size_t kDay = 10;
+  const std::string_view text = date;
+  const bool iso = text.size() >= kDay && text[4] == '-' && text[7] == '-' && AreDigits(text.substr(0, 4)) &&
+                   AreDigits(text.substr(5, 2)) && AreDigits(text.substr(8, 2)) &&
+                   (text.size() == kDay || text[kDay] == 'T' || text[kDay] == ' ');
+  if (!iso) return date;
+  return date.substr(8, 2) + '/' + date.substr(5, 2) + '/' + date.substr(0, 4);
 }
 
 }  // namespace
 
 bool IsSmallElement(const LibraryFolder& folder) { return folder.table.name == "Dnew_laboratorio"; }
+
+std::array<std::string, 2> AdaptationColumns(const LibraryFolder& folder) {
+  std::array<std::string, 2> names;
+  const std::optional<std::size_t> rating = folder.table.Find(folder.rating);
+  const std::optional<std::size_t> first_band = folder.table.Find(BandColumns(folder.band_prefix).front());
+  if (!rating || !first_band) return names;
+  for (std::size_t i = 0; i < names.size() && *rating + 1 + i < *first_band; ++i) {
+    names.at(i) = folder.table.columns[*rating + 1 + i].name;
+  }
+  return names;
+}
 
 MeasuredTest TestFromCells(const LibraryFolder& folder, const std::vector<Cell>& cells) {
   const Reader reader(folder.table, cells);
@@ -63,8 +72,10 @@ MeasuredTest TestFromCells(const LibraryFolder& folder, const std::vector<Cell>&
   for (std::size_t i = 0; i < bands.size(); ++i) test.bands.at(i) = reader.Number(bands[i]);
   test.area_m2 = reader.Number("Area (m²)");
   test.mass_kg_m2 = reader.Number("m' (kg/m²)");
+  test.field = {reader.Number("s (mm)"), reader.Number("Ve (m³)"), reader.Number("Vr (m³)"),
+                reader.Text("Cantiere")};
   test.certificate = reader.Text("Certificato");
-  test.date = reader.Text("Data Prova");
+  test.date = AsWrittenInItaly(reader.Text("Data Prova"));
   test.laboratory = reader.Text("Ente di prova");
   test.client = reader.Text("Società richiedente");
   test.notes = reader.Text("Informazione addizionale");
@@ -81,11 +92,6 @@ MeasuredCurve CurveOf(const LibraryFolder& folder, const MeasuredTest& test) {
           test.other_adaptation,
           IsSmallElement(folder) ? std::optional<double>(0.0) : test.area_m2,
           test.mass_kg_m2.value_or(0.0)};
-}
-
-std::string RatingLabel(const LibraryFolder& folder, const MeasuredTest& test) {
-  return std::string(IsSmallElement(folder) ? "Dnew" : "Rw") + "(C,Ctr)= " + Shortest(test.rating) + "(" +
-         Shortest(test.adaptation) + ", " + Shortest(test.other_adaptation) + ") dB";
 }
 
 }  // namespace velmar::storage

@@ -2,6 +2,7 @@
 
 #include <QListView>
 #include <QPixmap>
+#include <QTest>
 #include <QTreeWidget>
 #include <algorithm>
 
@@ -62,7 +63,11 @@ ResultSource FakeResults::Source() {
 
 LibrarySource FakeLibrary::Source() {
   LibrarySource source;
-  source.files = [this](Branch branch) { return files[branch]; };
+  source.files = [this](Branch branch) {
+    std::vector<LibraryFile> listed;
+    for (const std::string& name : files[branch]) listed.push_back({branch, name, {}});
+    return listed;
+  };
   source.tests = [this](const LibraryFile& file) {
     if (locked) throw LockedFailure();
     std::vector<TestEntry> entries;
@@ -121,6 +126,12 @@ FakeLibrary SmallLibrary() {
 void Picture(QWidget& window, const QString& name) {
   if (!qEnvironmentVariableIsSet("VELMAR_PICTURES")) return;
   window.grab().save(QDir(qEnvironmentVariable("VELMAR_PICTURES")).filePath(name + QStringLiteral(".png")));
+}
+
+void Activate(QWidget& window) {
+  window.show();
+  window.activateWindow();
+  if (!QTest::qWaitForWindowActive(&window)) throw std::runtime_error("the window does not become active");
 }
 
 void OpenLibraryFile(QWidget& window, const char* tree, const QString& name) {

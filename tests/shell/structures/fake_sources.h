@@ -70,6 +70,9 @@ Widget& Child(QWidget& window, const char* name) {
 /// Saves what `window` looks like into the folder VELMAR_PICTURES, when that is set.
 void Picture(QWidget& window, const QString& name);
 
+/// Shows `window` as the active one: only there do shortcuts work.
+void Activate(QWidget& window);
+
 /// Selects the file `name` in the tree called `tree`.
 void OpenLibraryFile(QWidget& window, const char* tree, const QString& name);
 /// Selects the test in row `row` of the list called `list`.

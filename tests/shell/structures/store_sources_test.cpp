@@ -88,9 +88,9 @@ TEST_F(StoreSourcesTest, EveryShippedTestCanBeRead) {
   for (const Branch branch :
        {Branch::kWalls, Branch::kLinings, Branch::kFloors, Branch::kCoverings, Branch::kOpenings,
         Branch::kSmallElements, Branch::kFieldWalls, Branch::kFieldFloors}) {
-    for (const std::string& name : library.files(branch)) {
-      for (const TestEntry& entry : library.tests({branch, name})) {
-        const auto test = library.test({branch, name}, entry.name);
+    for (const LibraryFile& file : library.files(branch)) {
+      for (const TestEntry& entry : library.tests(file)) {
+        const auto test = library.test(file, entry.name);
         ASSERT_TRUE(test.has_value()) << entry.name;
         EXPECT_EQ(test->part.origin, calculation::PartOrigin::kMeasurement);
         ++read;

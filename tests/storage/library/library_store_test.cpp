@@ -62,6 +62,45 @@ TEST_F(LibraryStoreTest, ToleratesMissingColumns) {
   EXPECT_EQ(store_.Find(rw_, FileOf("a.mdb"), "x")->rating, 51.0);
 }
 
+TEST_F(LibraryStoreTest, TheFileOfFieldDataStandsBeforeTheFieldFolders) {
+  const LibraryFolder walls = *FindLibraryFolder("R'w");
+  const LibraryFolder floors = *FindLibraryFolder("L'nw");
+  const fs::path both = root_ / "database_SPERIMENTALE.mdb";
+  fs::create_directories(root_ / walls.folder);
+  MakeTables(both, {walls.table, floors.table});
+  MakeTables(root_ / walls.folder / "Cantieri.mdb", {walls.table});
+  Execute(both,
+          {"INSERT INTO Rw_in_opera (Nome, [Ve (m³)], [Vr (m³)], [s (mm)], Cantiere, [Area (m²)]) "
+           "VALUES ('Divisorio', 31.5, 28, 300, 'Via dell''Università 5', 12.25)",
+           "INSERT INTO Lnw_in_opera (Nome, [Lnw (dB)], [Ln - 100Hz (dB)]) VALUES ('Solaio', 58, 61.5)"});
+  std::string names;
+  for (const LibraryFile& file : store_.Files(walls)) names += file.name + "|";
+  EXPECT_EQ(names, "database_SPERIMENTALE|Cantieri|");
+  ASSERT_EQ(store_.Files(floors).size(), 1U);
+  EXPECT_EQ(store_.Files(floors)[0].path, both);
+  EXPECT_TRUE(store_.Files(rw_).empty());
+  const auto wall = store_.Find(walls, both, "divisorio");
+  ASSERT_TRUE(wall);
+  EXPECT_EQ(wall->field.site, "Via dell'Università 5");
+  EXPECT_EQ(wall->field.source_volume_m3, 31.5);
+  EXPECT_EQ(wall->field.receiving_volume_m3, 28.0);
+  EXPECT_EQ(wall->field.thickness_mm, 300.0);
+  EXPECT_EQ(wall->area_m2, 12.25);
+  EXPECT_EQ(store_.Find(floors, both, "Solaio")->bands[3], 61.5);
+}
+
+TEST_F(LibraryStoreTest, FieldDataToleratesMissingColumnsAndNulls) {
+  const LibraryFolder walls = *FindLibraryFolder("R'w");
+  fs::create_directories(root_);
+  const fs::path file = root_ / "Database_sperimentale.mdb";
+  Execute(file, {"CREATE TABLE Rw_in_opera (Nome TEXT, Cantiere TEXT, [Ve (m³)] REAL)",
+                 "INSERT INTO Rw_in_opera VALUES ('x', NULL, NULL), ('y', 'Corso Ercole', 40)"});
+  EXPECT_EQ(store_.Find(walls, file, "x")->field.site, "");
+  EXPECT_EQ(store_.Find(walls, file, "x")->field.source_volume_m3, std::nullopt);
+  EXPECT_EQ(store_.Find(walls, file, "y")->field.source_volume_m3, 40.0);
+  EXPECT_EQ(store_.Find(walls, file, "y")->field.receiving_volume_m3, std::nullopt);
+}
+
 TEST_F(LibraryStoreTest, TellsWhatItCannotRead) {
   WriteFile(FileOf("text.mdb"), "no database");
   EXPECT_THROW(store_.Tests(rw_, FileOf("text.mdb")), DatabaseFailure);
@@ -92,6 +131,15 @@ TEST_F(GenuineLibraryTest, ReadsAnAccessFileAsItIs) {
   }
   EXPECT_GT(found, 0);
   EXPECT_EQ(ReadFile(file), bytes);
+}
+
+TEST_F(GenuineLibraryTest, ADateColumnReadsAsItIsWrittenInItaly) {
+  const fs::path file = Take("jet4-schema-generated.mdb", "a.mdb");
+  AccessSession session(reader_);
+  const LibraryStore store(folder_.Path(), session);
+  const LibraryFolder rw = *FindLibraryFolder("Rw");
+  EXPECT_EQ(store.Find(rw, file, "Prova 02")->date, "03/03/1992");
+  EXPECT_EQ(store.Find(rw, file, "Prova 01")->date, "");
 }
 
 }  // namespace

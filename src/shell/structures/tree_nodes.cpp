@@ -1,24 +1,69 @@
-#include "shell/structures/comparison_window.h"
+#include "shell/structures/tree_nodes.h"
+
 #include "shell/structures/structure_rows.h"
 
 namespace velmar::structures {
 namespace {
 
 constexpr MessageRow kLiningRow{176};
+constexpr MessageRow kCalculatedDataRow{286};
 constexpr MessageRow kCustomRow{379};
 constexpr MessageRow kTheoreticalRow{380};
 constexpr MessageRow kWallsRow{381};
+constexpr MessageRow kOpeningsRow{382};
 constexpr MessageRow kLiningsRow{383};
 constexpr MessageRow kFloorsRow{384};
 constexpr MessageRow kCoveringsRow{385};
+constexpr MessageRow kFieldDataRow{391};
+constexpr MessageRow kSmallElementsRow{392};
 constexpr MessageRow kFieldWallsRow{1712};
 constexpr MessageRow kFieldFloorsRow{1713};
+
+struct NodeRow {
+  MessageRow caption{};
+  Branch branch{};
+};
+
+/// The branches of the library window, in the order in which its tree shows them.
+std::vector<NodeRow> RowsFor(LibraryPurpose purpose) {
+  switch (purpose) {
+    case LibraryPurpose::kOpaquePart:
+      return {{kWallsRow, Branch::kWalls},
+              {kCalculatedDataRow, Branch::kCalculatedWalls},
+              {kFieldDataRow, Branch::kFieldWalls}};
+    case LibraryPurpose::kComponents:
+      return {{kOpeningsRow, Branch::kOpenings},
+              {kSmallElementsRow, Branch::kSmallElements},
+              {kCalculatedDataRow, Branch::kCalculatedWalls},
+              {kFieldDataRow, Branch::kFieldWalls}};
+    case LibraryPurpose::kAirborneData:
+      return {{kWallsRow, Branch::kWalls},
+              {kLiningsRow, Branch::kLinings},
+              {kOpeningsRow, Branch::kOpenings},
+              {kSmallElementsRow, Branch::kSmallElements},
+              {kCalculatedDataRow, Branch::kCalculatedWalls},
+              {kFieldDataRow, Branch::kFieldWalls}};
+    case LibraryPurpose::kImpactData:
+      return {{kFloorsRow, Branch::kFloors},
+              {kCoveringsRow, Branch::kCoverings},
+              {kCalculatedDataRow, Branch::kCalculatedFloors},
+              {kFieldDataRow, Branch::kFieldFloors}};
+  }
+  return {};
+}
 
 bool IsLining(elements::Family family) {
   return family == elements::Family::kLining || family == elements::Family::kCeiling;
 }
 
 }  // namespace
+
+std::vector<TreeNode> LibraryNodes(LibraryPurpose purpose, const windows::WindowTools& tools) {
+  TreeNode root{tools.Text(kCustomRow), {}, {}};
+  for (const NodeRow& row : RowsFor(purpose))
+    root.children.push_back({tools.Text(row.caption), {row.branch}, {}});
+  return {root};
+}
 
 std::vector<TreeNode> LaboratoryNodes(elements::Family family, const windows::WindowTools& tools) {
   TreeNode theoretical{tools.Text(kTheoreticalRow), {Branch::kCalculatedWalls}, {}};
