@@ -7,6 +7,7 @@
 #include "application/environment.h"
 #include "application/projects.h"
 #include "cli/command_line.h"
+#include "cli/failure_report.h"
 #include "cli/outcome_table.h"
 #include "cli/report_format.h"
 #include "report_formats.h"
@@ -38,12 +39,15 @@ velmar::cli::Services OpenServices(const std::optional<std::filesystem::path>& d
   services.library_folder = environment.configuration.CartellaLibreria();
   services.access_reader = velmar::storage::AccessReaderProgram(velmar::storage::ProgramFolder())
                                .value_or(std::filesystem::path());
-  const auto tell = [words = services.words](const velmar::Message& message) {
-    velmar::cli::WriteMessage(message, words, std::cerr);
+  const auto tell = [words = services.words](const velmar::Failure& failure) {
+    velmar::cli::TellFailure(failure, words, std::cerr);
   };
   services.materials = velmar::application::ForgivingLookup(
       velmar::storage::MaterialLookupIn(environment.configuration.PercorsoDatabase()), tell);
-  for (const velmar::Message& warning : environment.warnings) tell(warning);
+  for (const velmar::Message& warning : environment.warnings)
+    velmar::cli::WriteMessage(warning, services.words, std::cerr);
+  velmar::cli::WriteMessage(velmar::cli::ConversionAdvice(environment.configuration.PercorsoInterfMess()),
+                            services.words, std::cerr);
   return services;
 }
 

@@ -4,6 +4,9 @@
 #include "storage/configuration/documents_folder.h"
 #include "storage/configuration/first_start.h"
 #include "storage/configuration/program_folder.h"
+#include "storage/database/database_failure.h"
+#include "storage/database/file_kind.h"
+#include "storage/database/permissions.h"
 #include "storage/messages/message_table_reader.h"
 
 namespace velmar::application {
@@ -11,49 +14,98 @@ namespace {
 
 namespace fs = std::filesystem;
 
-storage::Configuration Configure(const std::optional<fs::path>& data_folder) {
+constexpr MessageRow kShippedTextsRow{1149};
+constexpr MessageRow kReadOnlyRow{1159};
+
+Environment Configured(const std::optional<fs::path>& data_folder) {
   const storage::Configuration configured = storage::ReadConfiguration(
       storage::ProgramFolder() / storage::kConfigurationFile, storage::CartellaDocumenti());
-  return data_folder ? storage::Configuration(configured.LeggiLingua(), data_folder->string()) : configured;
+  return {.configuration = data_folder
+                               ? storage::Configuration(configured.LeggiLingua(), data_folder->string())
+                               : configured,
+          .shipped = storage::ShippedDataFolder(storage::ProgramFolder())};
 }
 
-void ReadMessages(Environment& environment) {
-  fs::path shipped_catalogue;
-  if (environment.shipped) {
-    shipped_catalogue =
-        storage::Configuration(environment.configuration.LeggiLingua(), environment.shipped->string())
-            .PercorsoInterfMess();
+void PrepareFolder(Environment& environment) {
+  if (!environment.shipped) return;
+  try {
+    storage::PrepareDataFolder(environment.configuration.LeggiCartellaDati(), *environment.shipped);
+  } catch (const Failure& failure) {
+    environment.warnings.push_back(failure.UserMessage());
+    environment.configuration =
+        storage::Configuration(environment.configuration.LeggiLingua(), environment.shipped->string());
   }
-  environment.messages =
-      storage::ReadMessageTable(environment.configuration.PercorsoInterfMess(),
-                                environment.configuration.LeggiLingua(), shipped_catalogue);
+}
+
+fs::path ShippedCatalogue(const Environment& environment) {
+  return environment.shipped ? *environment.shipped / storage::kMessageDatabase : fs::path();
+}
+
+storage::MessageTable OwnMessages(const Environment& environment) {
+  return storage::ReadMessageTable(environment.configuration.PercorsoInterfMess(),
+                                   environment.configuration.LeggiLingua(), ShippedCatalogue(environment));
+}
+
+/// In the configured language or, when that is one of the user's own, in Italian.
+storage::MessageTable ShippedMessages(const Environment& environment) {
+  const fs::path catalogue = ShippedCatalogue(environment);
+  try {
+    return storage::ReadMessageTable(catalogue, environment.configuration.LeggiLingua());
+  } catch (const storage::CatalogueFailure&) {
+    return storage::ReadMessageTable(catalogue, storage::kDefaultLanguage);
+  }
+}
+
+StorePlaces PlacesOf(const Environment& environment) {
+  return {.data_folder = environment.configuration.LeggiCartellaDati(),
+          .shipped = environment.shipped,
+          .reader = {storage::AccessReaderProgram(storage::ProgramFolder()).value_or("")}};
 }
 
 }  // namespace
 
-Environment OpenEnvironment(const std::optional<fs::path>& data_folder) {
-  Environment environment{.configuration = Configure(data_folder),
-                          .shipped = storage::ShippedDataFolder(storage::ProgramFolder())};
-  if (environment.shipped) {
-    storage::PrepareDataFolder(environment.configuration.LeggiCartellaDati(), *environment.shipped);
+Environment FindEnvironment(const std::optional<fs::path>& data_folder) {
+  Environment environment = Configured(data_folder);
+  PrepareFolder(environment);
+  try {
+    environment.messages = ShippedMessages(environment);
+  } catch (const storage::CatalogueFailure&) {
+    environment.shipped.reset();  // an installation that is not whole
   }
-  ReadMessages(environment);
   return environment;
 }
 
+void OpenCatalogue(Environment& environment, const StartTalk& talk) {
+  if (PrepareStore(Store::kMessages, PlacesOf(environment), talk) || !environment.shipped)
+    environment.messages = OwnMessages(environment);
+}
+
+OpenedStores OpenStores(const Environment& environment, const StartTalk& talk) {
+  const StorePlaces places = PlacesOf(environment);
+  const OpenedStores opened{PrepareStore(Store::kMaterials, places, talk),
+                            PrepareStore(Store::kResults, places, talk)};
+  Message read_only{{kReadOnlyRow}};
+  const auto look = [&](bool usable, const fs::path& file) {
+    if (usable && !storage::MayBeChanged(file)) read_only.push_back({file.string()});
+  };
+  look(opened.materials, environment.configuration.PercorsoDatabase());
+  look(opened.results, environment.configuration.PercorsoDatabaseTeorico());
+  if (read_only.size() > 1) talk.tell(read_only);
+  return opened;
+}
+
 Environment OpenEnvironmentForReading(const std::optional<fs::path>& data_folder) {
-  Environment environment{.configuration = Configure(data_folder),
-                          .shipped = storage::ShippedDataFolder(storage::ProgramFolder())};
-  if (environment.shipped) {
-    try {
-      storage::PrepareDataFolder(environment.configuration.LeggiCartellaDati(), *environment.shipped);
-    } catch (const Failure& failure) {
-      environment.warnings.push_back(failure.UserMessage());
-      environment.configuration =
-          storage::Configuration(environment.configuration.LeggiLingua(), environment.shipped->string());
-    }
+  Environment environment = Configured(data_folder);
+  PrepareFolder(environment);
+  const fs::path catalogue = environment.configuration.PercorsoInterfMess();
+  if (environment.shipped && storage::KindOf(catalogue) == storage::FileKind::kAccess) {
+    const storage::DatabaseFailure failure(storage::DatabaseProblem::kAccessFormat, catalogue, "");
+    environment.warnings.push_back(failure.UserMessage());
+    environment.warnings.back().push_back({kShippedTextsRow});
+    environment.messages = ShippedMessages(environment);
+  } else {
+    environment.messages = OwnMessages(environment);
   }
-  ReadMessages(environment);
   return environment;
 }
 

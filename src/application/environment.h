@@ -4,7 +4,7 @@
 #include <optional>
 #include <vector>
 
-#include "elements/material_record.h"
+#include "application/store_check.h"
 #include "foundation/message.h"
 #include "storage/configuration/configuration.h"
 #include "storage/messages/message_table.h"
@@ -20,16 +20,31 @@ struct Environment {
   std::vector<Message> warnings{};
 };
 
-/// Reads "Velmar.ini" beside the program, makes the data folder on the first start out of the shipped default
-/// data, and reads the message catalogue.
+/// Reads "Velmar.ini" beside the program and makes the data folder on the first start out of the shipped
+/// default data. Where that cannot be done the shipped data serve in its place, with a warning. The messages
+/// are those of the shipped catalogue as long as the data folder's own is not opened; without a shipped one
+/// there are none.
 /// @param data_folder takes the place of the configured one
-/// @throws Failure with words of its own when the catalogue cannot be read, or there is neither a data folder
-/// nor
-///         shipped data
-Environment OpenEnvironment(const std::optional<std::filesystem::path>& data_folder);
+/// @throws Failure with words of its own when there is neither a data folder nor shipped data
+Environment FindEnvironment(const std::optional<std::filesystem::path>& data_folder);
 
-/// The same for a program that only reads: where the data folder cannot be made, the shipped data serve in
-/// its place, with a warning.
+/// Brings the message catalogue of the data folder into order and takes the messages from it; where that
+/// cannot be done those of the shipped one stay.
+/// @throws Failure with words of its own when no catalogue can be read, or it lacks the language
+void OpenCatalogue(Environment& environment, const StartTalk& talk);
+
+/// Which databases can be used after a start.
+struct OpenedStores {
+  bool materials = false;
+  bool results = false;
+};
+
+/// Brings the material and the results database into order, and tells which of them can be read only.
+OpenedStores OpenStores(const Environment& environment, const StartTalk& talk);
+
+/// The environment of a program that mends nothing: its catalogue is read as it stands. Where that is a
+/// genuine Access file the shipped one serves in its place, with a warning.
+/// @throws Failure with words of its own when the catalogue cannot be read, or it lacks the language
 Environment OpenEnvironmentForReading(const std::optional<std::filesystem::path>& data_folder);
 
 }  // namespace velmar::application

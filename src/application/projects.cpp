@@ -11,12 +11,12 @@ namespace velmar::application {
 namespace {
 
 template <typename Find>
-Find Forgiving(Find find, std::shared_ptr<bool> told, std::function<void(const Message&)> tell) {
+Find Forgiving(Find find, std::shared_ptr<bool> told, std::function<void(const Failure&)> tell) {
   return [=](std::string_view name) -> typename Find::result_type {
     try {
       return find(name);
     } catch (const Failure& failure) {
-      if (!std::exchange(*told, true)) tell(failure.UserMessage());
+      if (!std::exchange(*told, true)) tell(failure);
       return std::nullopt;
     }
   };
@@ -32,7 +32,7 @@ storage::OpenedProject OpenProject(const std::filesystem::path& path, const elem
 }
 
 elements::MaterialLookup ForgivingLookup(elements::MaterialLookup materials,
-                                         std::function<void(const Message&)> tell) {
+                                         std::function<void(const Failure&)> tell) {
   const auto told = std::make_shared<bool>(false);
   return {.structural = Forgiving(std::move(materials.structural), told, tell),
           .fibrous = Forgiving(std::move(materials.fibrous), told, tell),

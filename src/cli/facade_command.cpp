@@ -6,9 +6,9 @@
 
 #include "application/projects.h"
 #include "calculation/facade_parts.h"
+#include "cli/failure_report.h"
 #include "cli/outcome_table.h"
 #include "foundation/decimal.h"
-#include "foundation/failure.h"
 #include "storage/access/access_session.h"
 #include "storage/library/library_store.h"
 #include "storage/project/project_writer.h"
@@ -120,8 +120,7 @@ ExitCode Execute(const FacadeCommand& command, const Services& services, std::os
     storage::SaveProject(command.to, setup);
     return ExitCode::kDone;
   } catch (const Failure& failure) {
-    WriteMessage(failure.UserMessage(), services.words, errors);
-    return ExitCode::kFailed;
+    return TellFailure(failure, services.words, errors);
   }
 }
 

@@ -4,8 +4,8 @@
 
 #include <nlohmann/json.hpp>
 
+#include "cli/failure_report.h"
 #include "cli/outcome_table.h"
-#include "foundation/failure.h"
 #include "storage/access/conversion.h"
 #include "storage/database/file_kind.h"
 
@@ -50,8 +50,7 @@ ExitCode Execute(const ImportCommand& command, const Services& services, std::os
     }
     return ExitCode::kDone;
   } catch (const Failure& failure) {
-    WriteMessage(failure.UserMessage(), services.words, errors);
-    return ExitCode::kFailed;
+    return TellFailure(failure, services.words, errors);
   }
 }
 

@@ -6,9 +6,9 @@
 
 #include <nlohmann/json.hpp>
 
+#include "cli/failure_report.h"
 #include "cli/outcome_table.h"
 #include "foundation/decimal.h"
-#include "foundation/failure.h"
 #include "storage/database/fold_case.h"
 #include "storage/library/library_store.h"
 
@@ -154,8 +154,7 @@ ExitCode Execute(const LibraryCommand& command, const Services& services, std::o
     WriteMessage(*unknown, services.words, errors);
     return ExitCode::kNoResult;
   } catch (const Failure& failure) {
-    WriteMessage(failure.UserMessage(), services.words, errors);
-    return ExitCode::kFailed;
+    return TellFailure(failure, services.words, errors);
   }
 }
 

@@ -5,9 +5,9 @@
 
 #include <nlohmann/json.hpp>
 
+#include "cli/failure_report.h"
 #include "cli/material_table.h"
 #include "cli/outcome_table.h"
-#include "foundation/failure.h"
 #include "storage/files/whole_file.h"
 #include "storage/materials/coupled_boxes.h"
 #include "storage/materials/keywords.h"
@@ -245,8 +245,7 @@ ExitCode Execute(const MaterialsCommand& command, const Services& services, std:
   try {
     return Dispatch({command, services, out, errors});
   } catch (const Failure& failure) {
-    WriteMessage(failure.UserMessage(), services.words, errors);
-    return ExitCode::kFailed;
+    return TellFailure(failure, services.words, errors);
   }
 }
 

@@ -7,6 +7,7 @@
 #include <sstream>
 #include <system_error>
 
+#include "cli/failure_report.h"
 #include "cli/outcome_table.h"
 #include "cli/project_run.h"
 #include "foundation/failure.h"
@@ -81,8 +82,7 @@ ExitCode WriteReports(const ReportCommand& command, const path& project, const R
       if (storage::IsOpenElsewhere(target)) throw Failure(Told(kOpenElsewhereRow, target), "open elsewhere");
       storage::WriteWhole(target, format.bytes(content));
     } catch (const Failure& failure) {
-      WriteMessage(failure.UserMessage(), services.words, errors);
-      code = ExitCode::kFailed;
+      code = TellFailure(failure, services.words, errors);
     }
   }
   return code;

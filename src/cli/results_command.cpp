@@ -4,9 +4,9 @@
 
 #include <nlohmann/json.hpp>
 
+#include "cli/failure_report.h"
 #include "cli/material_table.h"
 #include "cli/outcome_table.h"
-#include "foundation/failure.h"
 #include "storage/results/results_store.h"
 
 namespace velmar::cli {
@@ -88,8 +88,7 @@ ExitCode Execute(const ResultsCommand& command, const Services& services, std::o
     WriteMessage({{kUnknownStructureRow, " " + command.name}}, services.words, errors);
     return ExitCode::kNoResult;
   } catch (const Failure& failure) {
-    WriteMessage(failure.UserMessage(), services.words, errors);
-    return ExitCode::kFailed;
+    return TellFailure(failure, services.words, errors);
   }
 }
 

@@ -3,8 +3,7 @@
 #include <ostream>
 
 #include "application/projects.h"
-#include "cli/outcome_table.h"
-#include "foundation/failure.h"
+#include "cli/failure_report.h"
 #include "storage/project/project_writer.h"
 
 namespace velmar::cli {
@@ -15,8 +14,7 @@ ExitCode Execute(const SaveCommand& command, const Services& services, std::ostr
     storage::SaveProject(command.to, project.setup, project.stored);
     return ExitCode::kDone;
   } catch (const Failure& failure) {
-    WriteMessage(failure.UserMessage(), services.words, errors);
-    return ExitCode::kFailed;
+    return TellFailure(failure, services.words, errors);
   }
 }
 

@@ -6,8 +6,8 @@
 
 #include "application/projects.h"
 #include "calculation/open_calculation.h"
+#include "cli/failure_report.h"
 #include "cli/outcome_table.h"
-#include "foundation/failure.h"
 #include "presentation/texts/descriptions.h"
 #include "storage/results/result_to_save.h"
 #include "storage/results/results_store.h"
@@ -57,8 +57,7 @@ ExitCode Execute(const SaveResultCommand& command, const Services& services, std
     }
     return Store(command, services, open, out, errors);
   } catch (const Failure& failure) {
-    WriteMessage(failure.UserMessage(), services.words, errors);
-    return ExitCode::kFailed;
+    return TellFailure(failure, services.words, errors);
   }
 }
 

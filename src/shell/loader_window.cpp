@@ -63,4 +63,11 @@ void LoaderWindow::ShowProgress(MessageRow title_row, std::size_t count, int don
   QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
 }
 
+void LoaderWindow::ShowWork(const QString& what) {
+  show();
+  bar_->setRange(0, 0);
+  label_->setText(what);
+  adjustSize();
+}
+
 }  // namespace velmar::shell

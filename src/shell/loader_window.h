@@ -19,6 +19,9 @@ class LoaderWindow : public QDialog {
   /// @param title_row of the family
   void ShowProgress(MessageRow title_row, std::size_t count, int done, int all);
 
+  /// Something of unknown length is going on. @param what it is
+  void ShowWork(const QString& what);
+
  private:
   presentation::Words words_;
   QLabel* label_ = nullptr;

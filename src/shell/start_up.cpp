@@ -2,7 +2,6 @@
 
 #include <QApplication>
 #include <QDesktopServices>
-#include <QMessageBox>
 #include <QProcess>
 #include <QStandardPaths>
 #include <QTimer>
@@ -19,6 +18,7 @@
 #include "shell/paper_commands.h"
 #include "shell/phrases.h"
 #include "shell/report_commands.h"
+#include "shell/store_opening.h"
 #include "shell/structure_commands.h"
 #include "storage/configuration/program_folder.h"
 #include "storage/materials/material_store.h"
@@ -68,11 +68,16 @@ const Record* Pointer(const std::optional<Record>& record) {
   return record ? &*record : nullptr;
 }
 
-/// The set-up of a fresh start: captions of the project information, first selection of every layer.
-elements::Setup FreshSetup(const storage::MaterialStore& store, const presentation::Words& words) {
+/// The set-up of a fresh start, without materials: captions of the project information.
+elements::Setup CaptionedSetup(const presentation::Words& words) {
   elements::Setup setup;
   for (std::size_t row = 0; row < kCaptionedInformationRows; ++row)
     setup.information.at(row).caption = words(MessageRow{kFirstInformationRow + static_cast<int>(row)});
+  return setup;
+}
+
+/// `setup` with the first selection of every layer.
+elements::Setup WithFirstMaterials(elements::Setup setup, const storage::MaterialStore& store) {
   const auto structural = FirstRecord<elements::StructuralMaterial>(store);
   const auto fibrous = FirstRecord<elements::FibrousMaterial>(store);
   const auto resilient = FirstRecord<elements::ResilientMaterial>(store);
@@ -88,8 +93,9 @@ struct Desktop {
     services.boxes = ScreenBoxes(services.words);
     services.version = QApplication::applicationVersion();
     services.places = Places();
-    services.materials = application::ForgivingLookup(storage::MaterialLookupIn(store.File()),
-                                                      [this](const Message& message) { Tell(message); });
+    services.materials =
+        application::ForgivingLookup(storage::MaterialLookupIn(store.File()),
+                                     [this](const Failure& failure) { Tell(failure.UserMessage()); });
     services.material_names = [this](MaterialFamily family) {
       try {
         return store.List(family);
@@ -134,14 +140,16 @@ struct Desktop {
 
 /// `CaricaDatabase`. Failures are told; the window opens with what there is.
 void Load(Desktop& desktop, LoaderWindow& loader) {
+  desktop.open.Replace(CaptionedSetup(desktop.services.words));
   loader.show();
+  if (!OpenStoresOnScreen(desktop.environment, desktop.services.boxes, loader).materials) return;
   try {
     int done = 0;
     for (const Family& family : kFamilies) {
       loader.ShowProgress(family.title, desktop.store.List(family.family).size(), ++done,
                           static_cast<int>(kFamilies.size()));
     }
-    desktop.open.Replace(FreshSetup(desktop.store, desktop.services.words));
+    desktop.open.Replace(WithFirstMaterials(desktop.open.Setup(), desktop.store));
   } catch (const Failure& failure) {
     loader.hide();
     desktop.Tell(failure.UserMessage());
@@ -169,11 +177,10 @@ int RunWindow(QApplication& application, Desktop& desktop) {
 
 int RunDesktop(QApplication& application) {
   try {
-    Desktop desktop(application::OpenEnvironment(std::nullopt));
+    Desktop desktop(OpenEnvironmentOnScreen(QApplication::applicationVersion()));
     return RunWindow(application, desktop);
   } catch (const std::exception& failure) {
-    // Without a catalogue there are no words of it: the failure's own are all there is.
-    QMessageBox::critical(nullptr, kProductName, QString::fromUtf8(failure.what()));
+    TellWithoutCatalogue(failure);
     return 1;
   }
 }

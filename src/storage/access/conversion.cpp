@@ -1,17 +1,17 @@
 #include "storage/access/conversion.h"
 
 #include <cerrno>
-#include <random>
 #include <system_error>
 
 #include <SQLiteCpp/Database.h>
 #include <SQLiteCpp/Statement.h>
-#include <fcntl.h>
 #include <unistd.h>
 
 #include "storage/database/connection.h"
 #include "storage/database/database_failure.h"
 #include "storage/database/file_kind.h"
+#include "storage/database/set_aside.h"
+#include "storage/files/unfinished.h"
 #include "storage/schema.h"
 
 namespace velmar::storage {
@@ -24,30 +24,6 @@ constexpr MessageRow kRowsRow{1111};
 constexpr MessageRow kFailedRow{1112};
 constexpr MessageRow kOriginalRow{1146};
 
-/// A file that disappears unless it took another name.
-class Unfinished {
- public:
-  explicit Unfinished(const fs::path& file)
-      : path_(file.parent_path() / (".velmar-" + std::to_string(std::random_device()()) + ".tmp")) {}
-  Unfinished(const Unfinished&) = delete;
-  Unfinished& operator=(const Unfinished&) = delete;
-  ~Unfinished() {
-    std::error_code error;
-    fs::remove(path_, error);
-  }
-  const fs::path& Path() const { return path_; }
-
- private:
-  fs::path path_;
-};
-
-void Sync(const fs::path& path) {
-  const int descriptor = ::open(path.c_str(), O_RDONLY | O_CLOEXEC);
-  if (descriptor < 0) return;
-  ::fsync(descriptor);
-  ::close(descriptor);
-}
-
 /// A second name for `file` that is not taken: a link, or a copy where the file system knows no links.
 fs::path KeepUnderOtherName(const fs::path& file) {
   for (int number = 1;; ++number) {
@@ -57,7 +33,7 @@ fs::path KeepUnderOtherName(const fs::path& file) {
     if (::link(file.c_str(), name.c_str()) == 0) return name;
     if (errno == EEXIST) continue;
     if (fs::exists(name) || !fs::copy_file(file, name)) continue;
-    Sync(name);
+    SyncToDisk(name);
     return name;
   }
 }
@@ -111,10 +87,11 @@ std::optional<Conversion> ConvertAccessFile(const AccessReader& reader, const fs
     const Unfinished unfinished(path);
     CopyAccessFile(reader, path, unfinished.Path());
     Conversion conversion{{}, TablesOf(unfinished.Path())};
-    Sync(unfinished.Path());
+    SyncToDisk(unfinished.Path());
     conversion.original = KeepUnderOtherName(path);
+    SetAsideCompanions(path);
     fs::rename(unfinished.Path(), path);
-    Sync(path.parent_path());
+    SyncToDisk(path.parent_path());
     return conversion;
   } catch (const fs::filesystem_error& error) {
     throw Failed(file, error.what());

@@ -7,6 +7,10 @@ namespace velmar::storage {
 
 /// The name of the configuration file, which lies in the folder of the program.
 inline constexpr const char* kConfigurationFile = "Velmar.ini";
+/// Where the databases stand, below the data folder.
+inline constexpr const char* kMessageDatabase = "Databases/InterfMess.mdb";
+inline constexpr const char* kMaterialDatabase = "Databases/Database/Database.mdb";
+inline constexpr const char* kResultDatabase = "Databases/Database/Database_teorico.mdb";
 inline constexpr const char* kDefaultLanguage = "Italiano";
 
 /// What "Velmar.ini" says, and the place of every folder and file that follows from it. A value; nothing here
@@ -26,13 +30,11 @@ class Configuration {
   /// All databases and their pictures.
   std::filesystem::path CartellaDatabases() const { return Below("Databases"); }
   /// The message database.
-  std::filesystem::path PercorsoInterfMess() const { return Below("Databases/InterfMess.mdb"); }
+  std::filesystem::path PercorsoInterfMess() const { return Below(kMessageDatabase); }
   /// The material database.
-  std::filesystem::path PercorsoDatabase() const { return Below("Databases/Database/Database.mdb"); }
+  std::filesystem::path PercorsoDatabase() const { return Below(kMaterialDatabase); }
   /// The results database.
-  std::filesystem::path PercorsoDatabaseTeorico() const {
-    return Below("Databases/Database/Database_teorico.mdb");
-  }
+  std::filesystem::path PercorsoDatabaseTeorico() const { return Below(kResultDatabase); }
   /// The folder below which every kind of measured structure has its own.
   std::filesystem::path CartellaLibreria() const { return Below("Databases/Database"); }
   /// The pictures of the library and of cavities.

@@ -1,14 +1,10 @@
 #include "storage/configuration/first_start.h"
 
-#include <random>
 #include <string>
-#include <system_error>
-
-#include <fcntl.h>
-#include <unistd.h>
 
 #include "foundation/failure.h"
 #include "storage/database/rename.h"
+#include "storage/files/unfinished.h"
 
 namespace velmar::storage {
 namespace {
@@ -25,13 +21,6 @@ Failure NotMade(const fs::path& folder, const std::string& reason) {
           "cannot create " + folder.string() + ": " + reason};
 }
 
-void Sync(const fs::path& path) {
-  const int descriptor = ::open(path.c_str(), O_RDONLY | O_CLOEXEC);
-  if (descriptor < 0) return;
-  ::fsync(descriptor);
-  ::close(descriptor);
-}
-
 /// Makes what was copied writable (an installed program's files are not) and sends it to the disk.
 void Settle(const fs::path& path) {
   const bool folder = fs::is_directory(path);
@@ -40,26 +29,8 @@ void Settle(const fs::path& path) {
   if (folder) {
     for (const fs::directory_entry& entry : fs::directory_iterator(path)) Settle(entry.path());
   }
-  Sync(path);
+  SyncToDisk(path);
 }
-
-/// A name beside `path` for what is not finished yet; it disappears unless it was renamed.
-class Unfinished {
- public:
-  explicit Unfinished(const fs::path& path)
-      : path_(path.parent_path() / (".velmar-" + std::to_string(::getpid()) + "-" +
-                                    std::to_string(std::random_device()()) + ".tmp")) {}
-  Unfinished(const Unfinished&) = delete;
-  Unfinished& operator=(const Unfinished&) = delete;
-  ~Unfinished() {
-    std::error_code error;
-    fs::remove_all(path_, error);
-  }
-  const fs::path& Path() const { return path_; }
-
- private:
-  fs::path path_;
-};
 
 /// @return false when something took the name meanwhile
 bool CopyTo(const fs::path& source, const fs::path& target) {
@@ -68,7 +39,7 @@ bool CopyTo(const fs::path& source, const fs::path& target) {
   fs::copy(source, unfinished.Path(), fs::copy_options::recursive);
   Settle(unfinished.Path());
   if (!RenameToFreeName(unfinished.Path(), target)) return false;
-  Sync(target.parent_path());
+  SyncToDisk(target.parent_path());
   return true;
 }
 

@@ -38,6 +38,7 @@ DatabaseProblem ProblemOf(int code, Purpose purpose) {
     case SQLITE_FULL:
       return DatabaseProblem::kDiskFull;
     case SQLITE_IOERR:
+    case SQLITE_NOMEM:  // says nothing about the file
       return change ? DatabaseProblem::kNotChanged : DatabaseProblem::kUnreadable;
     default:
       return change ? DatabaseProblem::kNotChanged : DatabaseProblem::kDamaged;

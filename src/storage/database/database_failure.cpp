@@ -56,6 +56,8 @@ Message MessageOf(DatabaseProblem problem, const std::filesystem::path& file, co
 
 DatabaseFailure::DatabaseFailure(DatabaseProblem problem, const std::filesystem::path& file,
                                  const std::string& missing)
-    : Failure(MessageOf(problem, file, missing), file.string() + ": " + missing), problem_(problem) {}
+    : Failure(MessageOf(problem, file, missing), file.string() + ": " + missing),
+      problem_(problem),
+      file_(file) {}
 
 }  // namespace velmar::storage

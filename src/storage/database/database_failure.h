@@ -28,9 +28,11 @@ class DatabaseFailure : public Failure {
   DatabaseFailure(DatabaseProblem problem, const std::filesystem::path& file, const std::string& missing);
 
   DatabaseProblem Problem() const noexcept { return problem_; }
+  const std::filesystem::path& File() const noexcept { return file_; }
 
  private:
   DatabaseProblem problem_;
+  std::filesystem::path file_;
 };
 
 }  // namespace velmar::storage

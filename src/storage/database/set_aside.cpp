@@ -1,5 +1,8 @@
 #include "storage/database/set_aside.h"
 
+#include <string>
+#include <system_error>
+
 #include <SQLiteCpp/Database.h>
 #include <SQLiteCpp/Exception.h>
 #include <SQLiteCpp/Statement.h>
@@ -13,10 +16,36 @@ namespace velmar::storage {
 
 namespace fs = std::filesystem;
 
+namespace {
+
+constexpr const char* kDamagedEnding = ".danneggiato";
+
+bool IsThere(const fs::path& file) {
+  std::error_code error;
+  return fs::exists(fs::symlink_status(file, error));
+}
+
+/// The journals of `file` become those of `name`, or, where such stand there already, get a number behind.
+void MoveCompanions(const fs::path& file, const fs::path& name) {
+  for (const char* ending : {"-journal", "-wal", "-shm"}) {
+    fs::path companion = file;
+    companion += ending;
+    if (!IsThere(companion)) continue;
+    fs::path free_name = name;
+    free_name += ending;
+    for (int number = 2; !RenameToFreeName(companion, free_name); ++number) {
+      free_name = name;
+      free_name += ending + std::to_string(number);
+    }
+  }
+}
+
+}  // namespace
+
 DatabaseCondition ConditionOf(const fs::path& file) {
   switch (KindOf(file)) {
     case FileKind::kMissing:
-      return DatabaseCondition::kMissing;
+      return IsThere(file) ? DatabaseCondition::kUnreadable : DatabaseCondition::kMissing;
     case FileKind::kAccess:
       return DatabaseCondition::kAccess;
     case FileKind::kOther:
@@ -31,22 +60,32 @@ DatabaseCondition ConditionOf(const fs::path& file) {
       return good ? DatabaseCondition::kGood : DatabaseCondition::kDamaged;
     });
   } catch (const DatabaseFailure& failure) {
-    return failure.Problem() == DatabaseProblem::kDamaged ? DatabaseCondition::kDamaged
-                                                          : DatabaseCondition::kLocked;
+    switch (failure.Problem()) {
+      case DatabaseProblem::kDamaged:
+        return DatabaseCondition::kDamaged;
+      case DatabaseProblem::kLocked:
+        return DatabaseCondition::kLocked;
+      default:
+        return DatabaseCondition::kUnreadable;
+    }
   }
 }
 
 fs::path SetAside(const fs::path& file) {
   try {
-    fs::path name = RenameWithEnding(file, ".danneggiato");
-    fs::path journal = file;
-    journal += "-journal";
-    if (fs::exists(journal)) {
-      fs::path journal_name = name;
-      journal_name += "-journal";
-      RenameToFreeName(journal, journal_name);
-    }
+    fs::path name = RenameWithEnding(file, kDamagedEnding);
+    MoveCompanions(file, name);
     return name;
+  } catch (const fs::filesystem_error& error) {
+    throw DatabaseFailure(DatabaseProblem::kReadOnly, file, error.what());
+  }
+}
+
+void SetAsideCompanions(const fs::path& file) {
+  try {
+    fs::path name = file;
+    name += kDamagedEnding;
+    MoveCompanions(file, name);
   } catch (const fs::filesystem_error& error) {
     throw DatabaseFailure(DatabaseProblem::kReadOnly, file, error.what());
   }
