@@ -1,14 +1,22 @@
 #include "shell/material_editors/edit_material.h"
 
+#include <filesystem>
+#include <type_traits>
 #include <vector>
 
 #include "elements/materials.h"
 #include "presentation/texts/words.h"
 #include "shell/material_editors/edited_material.h"
+#include "shell/material_editors/fibrous_editor.h"
+#include "shell/material_editors/resilient_editor.h"
 #include "shell/material_editors/structural_editor.h"
+#include "storage/library/pictures.h"
 
 namespace velmar::material_editors {
 namespace {
+
+constexpr const char* kFibrousPictures = "intercapedine";
+constexpr const char* kResilientPictures = "Strati aggiuntivi orizzontali (DLw)";
 
 /// All that opening an editor takes.
 struct Opening {
@@ -19,6 +27,14 @@ struct Opening {
   elements::MaterialFamily family{};
   const std::string& name;
 };
+
+/// The file of `picture`, in the folder of pictures that stands beside the folder of the material database.
+std::filesystem::path PictureOf(const Opening& opening, const std::string& picture) {
+  const std::filesystem::path databases = opening.store.File().parent_path().parent_path();
+  const bool fibrous = opening.family == elements::MaterialFamily::kFibrous;
+  return storage::PictureFile(databases / "immagine", fibrous ? kFibrousPictures : kResilientPictures,
+                              picture);
+}
 
 template <typename Editor, typename Material>
 std::optional<windows::MaterialChange> Open(const Opening& opening) {
@@ -34,10 +50,18 @@ std::optional<windows::MaterialChange> Open(const Opening& opening) {
     opening.tools.tell(windows::ToQt(presentation::InWords(gone, opening.tools.words)));
     return std::nullopt;
   }
-  Editor editor(opening.tools, EditedMaterial<Material>(opening.store, opening.texts, std::move(row)),
-                keywords, opening.parent);
-  editor.exec();
-  return editor.Change();
+  const std::string picture = row ? row->picture : storage::kNoPicture;
+  EditedMaterial<Material> material(opening.store, opening.texts, std::move(row));
+  const auto run = [](EditorDialog&& editor) {
+    editor.exec();
+    return editor.Change();
+  };
+  if constexpr (std::is_same_v<Material, elements::StructuralMaterial>) {
+    return run(Editor(opening.tools, std::move(material), keywords, opening.parent));
+  } else {
+    return run(
+        Editor(opening.tools, std::move(material), keywords, PictureOf(opening, picture), opening.parent));
+  }
 }
 
 }  // namespace
@@ -52,8 +76,9 @@ std::optional<windows::MaterialChange> EditMaterial(QWidget* parent, const windo
     case elements::MaterialFamily::kStructural:
       return Open<StructuralEditor, elements::StructuralMaterial>(opening);
     case elements::MaterialFamily::kFibrous:
+      return Open<FibrousEditor, elements::FibrousMaterial>(opening);
     case elements::MaterialFamily::kResilient:
-      break;
+      return Open<ResilientEditor, elements::ResilientMaterial>(opening);
   }
   return std::nullopt;
 }

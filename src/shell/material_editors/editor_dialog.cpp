@@ -1,8 +1,6 @@
 #include "shell/material_editors/editor_dialog.h"
 
-#include <QFormLayout>
 #include <QHBoxLayout>
-#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QStringList>
@@ -18,12 +16,6 @@ constexpr MessageRow kSaveRow{357};
 constexpr MessageRow kCancelRow{365};
 constexpr MessageRow kUnsavedRow{1651};
 
-/// "Nome:" without its colon.
-QString SpokenName(QString caption) {
-  if (caption.endsWith(':')) caption.chop(1);
-  return caption;
-}
-
 }  // namespace
 
 EditorDialog::EditorDialog(windows::WindowTools tools, const QString& object_name, QString memory_name,
@@ -33,33 +25,6 @@ EditorDialog::EditorDialog(windows::WindowTools tools, const QString& object_nam
 }
 
 EditorDialog::~EditorDialog() { windows::SaveSizes(tools_.memory, {memory_name_, this, nullptr, nullptr}); }
-
-void EditorDialog::AddField(QFormLayout& form, MessageRow caption, QWidget* box, MessageRow tip) {
-  auto* label = new QLabel(tools_.Text(caption), this);
-  label->setBuddy(box);
-  box->setAccessibleName(SpokenName(label->text()));
-  if (tip.number != 0) {
-    const QString words = tools_.Text(tip);
-    label->setToolTip(words);
-    box->setToolTip(words);
-    box->setAccessibleDescription(words);
-  }
-  form.addRow(label, box);
-}
-
-QLineEdit* EditorDialog::TextBox(const char* object_name) {
-  auto* box = new QLineEdit(this);
-  box->setObjectName(QLatin1String(object_name));
-  box->setMinimumWidth(fontMetrics().averageCharWidth() * 52);
-  return box;
-}
-
-void EditorDialog::AddRemark(QFormLayout& form, MessageRow text) {
-  auto* remark = new QLabel(tools_.Text(text), this);
-  remark->setWordWrap(true);
-  remark->setForegroundRole(QPalette::PlaceholderText);
-  form.addRow(remark);
-}
 
 QHBoxLayout* EditorDialog::MakeButtons() {
   auto* row = new QHBoxLayout;

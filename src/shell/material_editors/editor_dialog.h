@@ -7,7 +7,6 @@
 #include "shell/material_editors/edited_material.h"
 #include "shell/windows/window_tools.h"
 
-class QFormLayout;
 class QHBoxLayout;
 class QLineEdit;
 
@@ -35,15 +34,8 @@ class EditorDialog : public QDialog {
 
   const windows::WindowTools& Tools() const { return tools_; }
 
-  /// A row of `form`: the words of `caption` before `box`, which also get its accessible name from them.
-  /// @param tip row that explains the value in one sentence, 0 for none
-  void AddField(QFormLayout& form, MessageRow caption, QWidget* box, MessageRow tip = {});
-  /// A box for a text.
-  QLineEdit* TextBox(const char* object_name);
   /// "Salva" and "Annulla".
   QHBoxLayout* MakeButtons();
-  /// A quiet remark of its own row in `form`.
-  void AddRemark(QFormLayout& form, MessageRow text);
   /// To be called when all controls stand: letters for Alt, the remembered size, the focus on `first`.
   void Finish(QLineEdit* first);
 

@@ -2,6 +2,7 @@
 
 #include <QFocusEvent>
 #include <QKeyEvent>
+#include <algorithm>
 #include <array>
 #include <charconv>
 
@@ -54,9 +55,10 @@ void NumberBox::Show(const std::string& text) {
 }
 
 void NumberBox::ShowStored(const std::string& number) {
-  const std::string shown = Rounded(number);
+  std::string shown = Rounded(number);
+  std::ranges::replace(shown, '.', ',');
   Show(shown);
-  if (shown != number) exact_ = number;
+  if (shown.size() != number.size()) exact_ = number;
 }
 
 std::string NumberBox::Number() const { return exact_.empty() ? windows::FromQt(text().trimmed()) : exact_; }

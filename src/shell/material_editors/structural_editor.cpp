@@ -1,9 +1,10 @@
 #include "shell/material_editors/structural_editor.h"
 
-#include <QFormLayout>
 #include <QLineEdit>
 #include <QVBoxLayout>
 
+#include "shell/material_editors/editor_rows.h"
+#include "shell/material_editors/field_grid.h"
 #include "shell/material_editors/keyword_box.h"
 #include "shell/material_editors/number_box.h"
 
@@ -15,25 +16,13 @@ using storage::MassBoxes;
 using storage::StructuralEntry;
 
 constexpr MessageRow kCaptionRow{323};
-constexpr MessageRow kNameRow{326};
-constexpr MessageRow kDescriptionRow{327};
-constexpr MessageRow kThicknessRow{328};
-constexpr MessageRow kDensityRow{329};
-constexpr MessageRow kYoungsModulusRow{330};
 constexpr MessageRow kSurfaceMassRow{332};
 constexpr MessageRow kCriticalFrequencyRow{333};
-constexpr MessageRow kLossFactorRow{334};
-constexpr MessageRow kPoissonsRatioRow{335};
-constexpr MessageRow kKeywordRow{336};
 constexpr MessageRow kTwoOfThreeRow{1650};
 constexpr MessageRow kSurfaceMassTipRow{1660};
-constexpr MessageRow kYoungsModulusTipRow{1661};
 constexpr MessageRow kCriticalFrequencyTipRow{1662};
-constexpr MessageRow kLossFactorTipRow{1663};
-constexpr MessageRow kPoissonsRatioTipRow{1664};
-constexpr MessageRow kKeywordTipRow{1665};
 
-constexpr int kGroupGapPx = 8;
+constexpr int kButtonGapPx = 8;
 
 }  // namespace
 
@@ -45,30 +34,24 @@ StructuralEditor::StructuralEditor(windows::WindowTools tools,
       material_(std::move(material)) {
   setWindowTitle(Tools().Text(kCaptionRow));
   auto* column = new QVBoxLayout(this);
-  auto* form = new QFormLayout;
-  const auto add_gap = [form] { form->addItem(new QSpacerItem(0, kGroupGapPx)); };
-  const auto add_number = [&](const char* object_name, MessageRow caption, MessageRow tip = {}) {
-    auto* box = new NumberBox(QLatin1String(object_name), this);
-    AddField(*form, caption, box, tip);
-    return box;
-  };
-  AddField(*form, kNameRow, name_ = TextBox("Text1"));
-  AddField(*form, kDescriptionRow, description_ = TextBox("Text2"));
-  add_gap();
-  thickness_ = add_number("Text3", kThicknessRow);
-  density_ = add_number("Text4", kDensityRow);
-  surface_mass_ = add_number("Text5", kSurfaceMassRow, kSurfaceMassTipRow);
-  AddRemark(*form, kTwoOfThreeRow);
-  add_gap();
-  youngs_modulus_ = add_number("Text6", kYoungsModulusRow, kYoungsModulusTipRow);
-  critical_frequency_ = add_number("Text7", kCriticalFrequencyRow, kCriticalFrequencyTipRow);
-  loss_factor_ = add_number("Text8", kLossFactorRow, kLossFactorTipRow);
-  poissons_ratio_ = add_number("Text9", kPoissonsRatioRow, kPoissonsRatioTipRow);
-  add_gap();
-  AddField(*form, kKeywordRow, keyword_ = new KeywordBox(QStringLiteral("Text10"), keywords, this),
-           kKeywordTipRow);
-  column->addLayout(form);
-  column->addSpacing(kGroupGapPx);
+  FieldGrid fields(Tools(), this);
+  name_ = fields.AddText("Text1", kNameRow);
+  description_ = fields.AddText("Text2", kDescriptionRow);
+  fields.AddGap();
+  thickness_ = fields.AddNumber("Text3", kThicknessRow);
+  density_ = fields.AddNumber("Text4", kDensityRow);
+  surface_mass_ = fields.AddNumber("Text5", kSurfaceMassRow, kSurfaceMassTipRow);
+  fields.AddRemark(kTwoOfThreeRow);
+  fields.AddGap();
+  youngs_modulus_ = fields.AddNumber("Text6", kYoungsModulusRow, kYoungsModulusTipRow);
+  critical_frequency_ = fields.AddNumber("Text7", kCriticalFrequencyRow, kCriticalFrequencyTipRow);
+  loss_factor_ = fields.AddNumber("Text8", kLossFactorRow, kLossFactorTipRow);
+  poissons_ratio_ = fields.AddNumber("Text9", kPoissonsRatioRow, kPoissonsRatioTipRow);
+  fields.AddGap();
+  fields.Add(kKeywordRow, keyword_ = new KeywordBox(QStringLiteral("Text10"), keywords, this),
+             kKeywordTipRow);
+  column->addLayout(fields.Layout());
+  column->addSpacing(kButtonGapPx);
   column->addStretch(1);
   column->addLayout(MakeButtons());
 

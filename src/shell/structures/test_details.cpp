@@ -68,7 +68,7 @@ TestDetails::TestDetails(const windows::WindowTools& tools, QWidget* parent)
   description_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   description_->setFixedHeight(fontMetrics().height() * 4);
   curve_ = new MeasuredCurveView(tools_, this);
-  picture_ = new PictureView(tools_, this);
+  picture_ = new windows::PictureView(tools_, this);
   auto* pictures = new QHBoxLayout;
   pictures->addWidget(curve_, 3);
   pictures->addWidget(picture_, 1);

@@ -6,6 +6,7 @@
 
 #include "presentation/drawing/curve_chart.h"
 #include "shell/structures/structure_sources.h"
+#include "shell/windows/picture_view.h"
 #include "shell/windows/window_tools.h"
 
 class QLabel;
@@ -30,24 +31,6 @@ class MeasuredCurveView : public QWidget {
  private:
   presentation::CurveChart empty_;
   presentation::CurveChart chart_;
-};
-
-/// The picture of a test, as large as its place allows.
-class PictureView : public QWidget {
- public:
-  explicit PictureView(const windows::WindowTools& tools, QWidget* parent = nullptr);
-
-  /// A file that is missing or no picture leaves a quiet word in its place.
-  void Show(const std::filesystem::path& file);
-  bool HasPicture() const { return !picture_.isNull(); }
-  QSize sizeHint() const override;
-
- protected:
-  void paintEvent(QPaintEvent* event) override;
-
- private:
-  QString no_picture_;
-  QImage picture_;
 };
 
 /// Everything that is known of a test, to read: rating, values, curve, picture, certificate.
@@ -76,7 +59,7 @@ class TestDetails : public QWidget {
   std::array<QLineEdit*, acoustics::kBandCount> bands_{};  ///< `Text1`
   std::array<QLineEdit*, 5> certificate_{};
   MeasuredCurveView* curve_ = nullptr;
-  PictureView* picture_ = nullptr;
+  windows::PictureView* picture_ = nullptr;
 };
 
 /// "Rw(C,Ctr)= 50(-1, -5) dB", "Dnew(C,Ctr)= ...", "DLw(Ci)= 19(-11) dB"; a missing value is left out.

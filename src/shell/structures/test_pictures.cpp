@@ -1,6 +1,4 @@
-#include <QImageReader>
 #include <QPainter>
-#include <filesystem>
 
 #include "presentation/drawing/text.h"
 #include "shell/structures/test_details.h"
@@ -8,10 +6,7 @@
 namespace velmar::structures {
 namespace {
 
-constexpr MessageRow kPictureNameRow{1716};
 constexpr MessageRow kCurveNameRow{1717};
-constexpr MessageRow kNoPictureRow{1718};
-constexpr int kLargestPicturePx = 1600;
 
 }  // namespace
 
@@ -43,44 +38,6 @@ void MeasuredCurveView::paintEvent(QPaintEvent* /*event*/) {
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setFont(font());
   presentation::DrawCurveChart(painter, rect(), chart_);
-}
-
-PictureView::PictureView(const windows::WindowTools& tools, QWidget* parent)
-    : QWidget(parent), no_picture_(tools.Text(kNoPictureRow)) {
-  setObjectName(QStringLiteral("Picture2"));
-  setAccessibleName(tools.Text(kPictureNameRow));
-  setMinimumSize(120, 90);
-  setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Expanding);
-}
-
-void PictureView::Show(const std::filesystem::path& file) {
-  picture_ = {};
-  std::error_code error;
-  if (!file.empty() && std::filesystem::is_regular_file(file, error)) {
-    QImageReader reader(windows::ToQt(file.string()));
-    reader.setDecideFormatFromContent(true);
-    reader.setAutoTransform(true);
-    const QSize size = reader.size();
-    if (size.width() > kLargestPicturePx || size.height() > kLargestPicturePx)
-      reader.setScaledSize(size.scaled(kLargestPicturePx, kLargestPicturePx, Qt::KeepAspectRatio));
-    picture_ = reader.read();
-  }
-  update();
-}
-
-QSize PictureView::sizeHint() const { return {200, 260}; }
-
-void PictureView::paintEvent(QPaintEvent* /*event*/) {
-  QPainter painter(this);
-  if (picture_.isNull()) {
-    painter.setPen(palette().color(QPalette::Disabled, QPalette::WindowText));
-    painter.drawText(rect(), Qt::AlignCenter | Qt::TextWordWrap, no_picture_);
-    return;
-  }
-  painter.setRenderHint(QPainter::SmoothPixmapTransform);
-  QRect place(QPoint(), picture_.size().scaled(size(), Qt::KeepAspectRatio));
-  place.moveCenter(rect().center());
-  painter.drawImage(place, picture_);
 }
 
 }  // namespace velmar::structures

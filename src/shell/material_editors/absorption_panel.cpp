@@ -1,0 +1,147 @@
+#include "shell/material_editors/absorption_panel.h"
+
+#include <QEvent>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPainter>
+#include <QPushButton>
+#include <QVBoxLayout>
+#include <variant>
+
+#include "foundation/decimal.h"
+#include "presentation/texts/words.h"
+#include "shell/material_editors/absorption_box.h"
+#include "storage/materials/pasted_absorption.h"
+
+namespace velmar::material_editors {
+namespace {
+
+constexpr MessageRow kFrequencyRow{72};
+constexpr MessageRow kFrameRow{342};
+constexpr MessageRow kClearRow{358};
+constexpr MessageRow kClearQuestionRow{368};
+constexpr MessageRow kCurveNameRow{1657};
+constexpr MessageRow kPasteRow{1659};
+constexpr MessageRow kBoxTipRow{1670};
+
+constexpr std::size_t kBandsAColumn = 5;
+constexpr double kHighest = 1.5;
+
+/// The last box says 6000, though its band is the one of 6300 Hz: so it has always been labelled.
+QString BandLabel(std::size_t band) {
+  constexpr int kLastLabel = 6000;
+  const bool last = band + 1 == elements::kAbsorptionBandCount;
+  return QString::number(last ? kLastLabel : static_cast<int>(elements::kAbsorptionBandCentres.at(band)));
+}
+
+}  // namespace
+
+AbsorptionView::AbsorptionView(const windows::WindowTools& tools, QWidget* parent) : QWidget(parent) {
+  setObjectName(QStringLiteral("Picture2"));
+  setAccessibleName(tools.Text(kCurveNameRow));
+  setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+}
+
+void AbsorptionView::Show(const presentation::AbsorptionChart& chart) {
+  chart_ = chart;
+  update();
+}
+
+QSize AbsorptionView::sizeHint() const { return {380, 190}; }
+QSize AbsorptionView::minimumSizeHint() const { return {280, 140}; }
+
+void AbsorptionView::paintEvent(QPaintEvent* /*event*/) {
+  QPainter painter(this);
+  painter.setFont(font());
+  presentation::DrawAbsorptionChart(painter, rect(), chart_);
+}
+
+AbsorptionPanel::AbsorptionPanel(const windows::WindowTools& tools, QWidget* parent)
+    : QGroupBox(tools.Text(kFrameRow), parent), tools_(tools) {
+  auto* column = new QVBoxLayout(this);
+  column->addWidget(MakeBoxes());
+  auto* row = new QHBoxLayout;
+  auto* remark = new QLabel(tools_.Text(kPasteRow), this);
+  remark->setWordWrap(true);
+  remark->setForegroundRole(QPalette::PlaceholderText);
+  auto* clear = new QPushButton(tools_.Text(kClearRow), this);
+  clear->setObjectName(QStringLiteral("CommandAlfa"));
+  clear->setAutoDefault(false);
+  row->addWidget(remark, 1);
+  row->addWidget(clear);
+  column->addLayout(row);
+  curve_ = new AbsorptionView(tools_, this);
+  column->addWidget(curve_, 1);
+  connect(clear, &QPushButton::clicked, this, [this] { AskAndClear(); });
+  DrawCurve();
+}
+
+QWidget* AbsorptionPanel::MakeBoxes() {
+  auto* place = new QWidget(this);
+  auto* grid = new QGridLayout(place);
+  grid->setContentsMargins(0, 0, 0, 0);
+  grid->setVerticalSpacing(4);
+  const QString tip = tools_.Text(kBoxTipRow);
+  for (std::size_t band = 0; band < boxes_.size(); ++band) {
+    auto* box = new AbsorptionBox(band, place);
+    box->setAccessibleName(title() + ' ' + BandLabel(band) + " Hz");
+    box->setToolTip(tip);
+    auto* label = new QLabel(BandLabel(band) + " Hz", place);
+    label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    const int column = 2 * static_cast<int>(band / kBandsAColumn);
+    const int row = static_cast<int>(band % kBandsAColumn);
+    grid->addWidget(label, row, column);
+    grid->addWidget(box, row, column + 1);
+    if (band > 0) boxes_.at(band - 1)->SetNext(box);
+    boxes_.at(band) = box;
+    connect(box, &QLineEdit::textChanged, this, [this] { DrawCurve(); });
+    box->OnColumn([this, band](const QString& cells) { TakeColumn(cells, band); });
+  }
+  return place;
+}
+
+void AbsorptionPanel::Show(const Texts& coefficients) {
+  for (std::size_t band = 0; band < boxes_.size(); ++band) boxes_.at(band)->ShowStored(coefficients.at(band));
+}
+
+AbsorptionPanel::Texts AbsorptionPanel::Entered() const {
+  Texts texts;
+  for (std::size_t band = 0; band < boxes_.size(); ++band) texts.at(band) = boxes_.at(band)->Number();
+  return texts;
+}
+
+void AbsorptionPanel::changeEvent(QEvent* event) {
+  QGroupBox::changeEvent(event);
+  if (event->type() == QEvent::EnabledChange && curve_ != nullptr) DrawCurve();
+}
+
+void AbsorptionPanel::DrawCurve() {
+  if (curve_ == nullptr) return;
+  presentation::AbsorptionChart chart;
+  chart.frequency_axis = tools_.words(kFrequencyRow);
+  for (std::size_t band = 0; isEnabled() && band < boxes_.size(); ++band) {
+    const std::optional<double> value = ParseDecimal(boxes_.at(band)->Number());
+    if (value && *value >= 0.0 && *value <= kHighest) chart.values.at(band) = value;
+  }
+  curve_->Show(chart);
+}
+
+void AbsorptionPanel::AskAndClear() {
+  if (!tools_.ask(tools_.Text(kClearQuestionRow))) return;
+  Show({});
+  boxes_.front()->setFocus();
+}
+
+void AbsorptionPanel::TakeColumn(const QString& cells, std::size_t band) {
+  const auto read = storage::ReadPastedAbsorption(windows::FromQt(cells), band);
+  if (const auto* refusal = std::get_if<Message>(&read)) {
+    tools_.tell(windows::ToQt(presentation::InWords(refusal->front(), tools_.words)));
+    return;
+  }
+  const auto& pasted = std::get<storage::PastedAbsorption>(read);
+  for (std::size_t i = 0; i < pasted.texts.size(); ++i)
+    boxes_.at(pasted.first_band + i)->Show(pasted.texts.at(i));
+}
+
+}  // namespace velmar::material_editors

@@ -1,0 +1,60 @@
+#pragma once
+
+#include <QGroupBox>
+#include <QWidget>
+#include <array>
+#include <string>
+
+#include "elements/materials.h"
+#include "presentation/drawing/absorption_chart.h"
+#include "shell/windows/window_tools.h"
+
+class QPushButton;
+
+namespace velmar::material_editors {
+
+class AbsorptionBox;
+
+/// The curve of an absorption coefficient.
+class AbsorptionView : public QWidget {
+ public:
+  explicit AbsorptionView(const windows::WindowTools& tools, QWidget* parent = nullptr);
+
+  void Show(const presentation::AbsorptionChart& chart);
+  const presentation::AbsorptionChart& Shown() const { return chart_; }
+  QSize sizeHint() const override;
+  QSize minimumSizeHint() const override;
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  presentation::AbsorptionChart chart_;
+};
+
+/// The 19 absorption coefficients of a material (`TextAlfa`), what clears them (`CommandAlfa`), and their
+/// curve, which follows every key. A disabled panel shows no curve: its values do not count.
+class AbsorptionPanel : public QGroupBox {
+ public:
+  using Texts = std::array<std::string, elements::kAbsorptionBandCount>;
+
+  explicit AbsorptionPanel(const windows::WindowTools& tools, QWidget* parent = nullptr);
+
+  void Show(const Texts& coefficients);
+  Texts Entered() const;
+
+ protected:
+  void changeEvent(QEvent* event) override;
+
+ private:
+  QWidget* MakeBoxes();
+  void DrawCurve();
+  void AskAndClear();
+  void TakeColumn(const QString& cells, std::size_t band);
+
+  windows::WindowTools tools_;
+  std::array<AbsorptionBox*, elements::kAbsorptionBandCount> boxes_{};
+  AbsorptionView* curve_ = nullptr;
+};
+
+}  // namespace velmar::material_editors

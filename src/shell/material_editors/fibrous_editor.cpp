@@ -1,0 +1,128 @@
+#include "shell/material_editors/fibrous_editor.h"
+
+#include <QHBoxLayout>
+#include <QLineEdit>
+#include <QRadioButton>
+#include <QVBoxLayout>
+
+#include "shell/material_editors/absorption_panel.h"
+#include "shell/material_editors/editor_rows.h"
+#include "shell/material_editors/field_grid.h"
+#include "shell/material_editors/keyword_box.h"
+#include "shell/material_editors/number_box.h"
+#include "shell/windows/picture_view.h"
+
+namespace velmar::material_editors {
+namespace {
+
+using storage::FibrousEntry;
+
+constexpr MessageRow kCaptionRow{133};
+constexpr MessageRow kFlowResistanceRow{331};
+constexpr MessageRow kPorousRow{340};
+constexpr MessageRow kSolidRow{341};
+constexpr MessageRow kFlowResistanceTipRow{1669};
+
+constexpr int kColumnGapPx = 16;
+constexpr int kButtonGapPx = 8;
+
+}  // namespace
+
+FibrousEditor::FibrousEditor(windows::WindowTools tools, EditedMaterial<elements::FibrousMaterial> material,
+                             const std::vector<std::string>& keywords, const std::filesystem::path& picture,
+                             QWidget* parent)
+    : EditorDialog(std::move(tools), QStringLiteral("Form6"), QStringLiteral("materiale-fibroso"), parent),
+      material_(std::move(material)) {
+  setWindowTitle(Tools().Text(kCaptionRow));
+  MakeControls(keywords, picture);
+  connect(porous_, &QRadioButton::toggled, this, [this] { EnableWhatCounts(); });
+  Show(material_.Opened() ? storage::EntryOf(*material_.Opened()) : FibrousEntry{});
+  EnableWhatCounts();
+  shown_first_ = Entry();
+  Finish(name_);
+}
+
+void FibrousEditor::MakeControls(const std::vector<std::string>& keywords,
+                                 const std::filesystem::path& picture) {
+  const auto option = [this](const char* object_name, MessageRow words) {
+    auto* button = new QRadioButton(Tools().Text(words), this);
+    button->setObjectName(QLatin1String(object_name));
+    return button;
+  };
+  FieldGrid fields(Tools(), this);
+  name_ = fields.AddText("Text1", kNameRow);
+  description_ = fields.AddText("Text2", kDescriptionRow);
+  fields.AddGap();
+  thickness_ = fields.AddNumber("Text10", kThicknessRow);
+  density_ = fields.AddNumber("Text9", kDensityRow);
+  fields.AddGap();
+  fields.AddWhole(porous_ = option("Option1_0", kPorousRow));
+  flow_resistance_ = fields.AddNumber("Text14", kFlowResistanceRow, kFlowResistanceTipRow);
+  fields.AddGap();
+  fields.AddWhole(solid_ = option("Option1_1", kSolidRow));
+  const int first_row_beside = fields.NextRow();
+  youngs_modulus_ = fields.AddNumber("Text11", kYoungsModulusRow, kYoungsModulusTipRow);
+  loss_factor_ = fields.AddNumber("Text12", kLossFactorRow, kLossFactorTipRow);
+  poissons_ratio_ = fields.AddNumber("Text13", kPoissonsRatioRow, kPoissonsRatioTipRow);
+  auto* view = new windows::PictureView(Tools(), this);
+  view->setObjectName(QStringLiteral("Picture1"));
+  view->setAccessibleName(Tools().Text(kPictureRow));
+  view->Show(picture);
+  fields.AddBeside(view, first_row_beside);
+  fields.AddGap();
+  fields.Add(kKeywordRow, keyword_ = new KeywordBox(QStringLiteral("Text8"), keywords, this), kKeywordTipRow);
+
+  auto* left = new QVBoxLayout;
+  left->addLayout(fields.Layout());
+  left->addStretch(1);
+  auto* faces = new QHBoxLayout;
+  faces->setSpacing(kColumnGapPx);
+  faces->addLayout(left);
+  faces->addWidget(absorption_ = new AbsorptionPanel(Tools(), this), 1);
+  auto* column = new QVBoxLayout(this);
+  column->addLayout(faces, 1);
+  column->addSpacing(kButtonGapPx);
+  column->addLayout(MakeButtons());
+}
+
+void FibrousEditor::Show(const FibrousEntry& entry) {
+  name_->setText(windows::ToQt(entry.name));
+  description_->setText(windows::ToQt(entry.description));
+  description_->setCursorPosition(0);
+  keyword_->setEditText(windows::ToQt(entry.keyword));
+  thickness_->ShowStored(entry.thickness);
+  density_->ShowStored(entry.density);
+  (entry.porous ? porous_ : solid_)->setChecked(true);
+  youngs_modulus_->ShowStored(entry.youngs_modulus);
+  loss_factor_->ShowStored(entry.loss_factor);
+  poissons_ratio_->ShowStored(entry.poissons_ratio);
+  flow_resistance_->ShowStored(entry.flow_resistance);
+  absorption_->Show(entry.absorption);
+}
+
+FibrousEntry FibrousEditor::Entry() const {
+  return {.name = windows::FromQt(name_->text()),
+          .description = windows::FromQt(description_->text()),
+          .keyword = windows::FromQt(keyword_->currentText()),
+          .thickness = thickness_->Number(),
+          .density = density_->Number(),
+          .porous = porous_->isChecked(),
+          .youngs_modulus = youngs_modulus_->Number(),
+          .loss_factor = loss_factor_->Number(),
+          .poissons_ratio = poissons_ratio_->Number(),
+          .flow_resistance = flow_resistance_->Number(),
+          .absorption = absorption_->Entered()};
+}
+
+void FibrousEditor::EnableWhatCounts() {
+  const bool porous = porous_->isChecked();
+  flow_resistance_->setEnabled(porous);
+  absorption_->setEnabled(porous);
+  for (NumberBox* box : {youngs_modulus_, loss_factor_, poissons_ratio_}) box->setEnabled(!porous);
+}
+
+bool FibrousEditor::Changed() const { return Entry() != shown_first_; }
+
+SaveOutcome FibrousEditor::Store(const AskUser& ask) { return material_.Save(Entry(), Changed(), ask); }
+
+}  // namespace velmar::material_editors

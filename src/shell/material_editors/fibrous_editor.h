@@ -1,0 +1,55 @@
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <vector>
+
+#include "elements/materials.h"
+#include "shell/material_editors/editor_dialog.h"
+
+class QLineEdit;
+class QRadioButton;
+
+namespace velmar::material_editors {
+
+class AbsorptionPanel;
+class KeywordBox;
+class NumberBox;
+
+/// "Materiali fibrosi": `Form6` with the boxes of a row of the fibrous materials. The option decides which of
+/// them count.
+class FibrousEditor : public EditorDialog {
+ public:
+  /// @param keywords what the keyword box suggests
+  /// @param picture file that the row's picture is in
+  FibrousEditor(windows::WindowTools tools, EditedMaterial<elements::FibrousMaterial> material,
+                const std::vector<std::string>& keywords, const std::filesystem::path& picture,
+                QWidget* parent = nullptr);
+
+ protected:
+  bool Changed() const override;
+  SaveOutcome Store(const AskUser& ask) override;
+
+ private:
+  void MakeControls(const std::vector<std::string>& keywords, const std::filesystem::path& picture);
+  void Show(const storage::FibrousEntry& entry);
+  storage::FibrousEntry Entry() const;
+  void EnableWhatCounts();
+
+  EditedMaterial<elements::FibrousMaterial> material_;
+  storage::FibrousEntry shown_first_;
+  QLineEdit* name_ = nullptr;             ///< `Text1`
+  QLineEdit* description_ = nullptr;      ///< `Text2`
+  NumberBox* thickness_ = nullptr;        ///< `Text10`
+  NumberBox* density_ = nullptr;          ///< `Text9`
+  QRadioButton* porous_ = nullptr;        ///< `Option1`(0)
+  NumberBox* flow_resistance_ = nullptr;  ///< `Text14`
+  QRadioButton* solid_ = nullptr;         ///< `Option1`(1)
+  NumberBox* youngs_modulus_ = nullptr;   ///< `Text11`
+  NumberBox* loss_factor_ = nullptr;      ///< `Text12`
+  NumberBox* poissons_ratio_ = nullptr;   ///< `Text13`
+  KeywordBox* keyword_ = nullptr;         ///< `Text8`
+  AbsorptionPanel* absorption_ = nullptr;
+};
+
+}  // namespace velmar::material_editors

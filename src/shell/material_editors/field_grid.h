@@ -1,0 +1,48 @@
+#pragma once
+
+#include "foundation/message.h"
+#include "shell/windows/window_tools.h"
+
+class QGridLayout;
+class QLineEdit;
+class QWidget;
+
+namespace velmar::material_editors {
+
+class NumberBox;
+
+/// The boxes of an editor below each other, their words before them. Beside the number boxes there is room
+/// for a picture.
+class FieldGrid {
+ public:
+  /// @param window owns the controls
+  FieldGrid(const windows::WindowTools& tools, QWidget* window);
+
+  QGridLayout* Layout() const { return grid_; }
+  /// The row that comes next.
+  int NextRow() const { return next_row_; }
+
+  /// `box` over the whole width, behind the words of `caption`, which also give its accessible name.
+  /// @param tip row that explains the value in one sentence, 0 for none
+  void Add(MessageRow caption, QWidget* box, MessageRow tip = {});
+  QLineEdit* AddText(const char* object_name, MessageRow caption);
+  NumberBox* AddNumber(const char* object_name, MessageRow caption, MessageRow tip = {});
+  /// A control that brings its own words.
+  void AddWhole(QWidget* control);
+  /// A quiet remark.
+  void AddRemark(MessageRow text);
+  /// Room between two groups of boxes.
+  void AddGap();
+  /// Puts `picture` beside the number boxes from row `first_row` to the last one so far.
+  void AddBeside(QWidget* picture, int first_row);
+
+ private:
+  void Name(MessageRow caption, QWidget* box, MessageRow tip);
+
+  const windows::WindowTools& tools_;
+  QWidget* window_;
+  QGridLayout* grid_;
+  int next_row_ = 0;
+};
+
+}  // namespace velmar::material_editors

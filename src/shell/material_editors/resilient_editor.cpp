@@ -1,0 +1,112 @@
+#include "shell/material_editors/resilient_editor.h"
+
+#include <QLineEdit>
+#include <QVBoxLayout>
+
+#include "shell/material_editors/editor_rows.h"
+#include "shell/material_editors/field_grid.h"
+#include "shell/material_editors/keyword_box.h"
+#include "shell/material_editors/number_box.h"
+#include "shell/windows/picture_view.h"
+
+namespace velmar::material_editors {
+namespace {
+
+using storage::ResilientBox;
+using storage::ResilientBoxes;
+using storage::ResilientEntry;
+
+constexpr MessageRow kCaptionRow{324};
+constexpr MessageRow kStiffnessRow{337};
+constexpr MessageRow kImprovementRow{338};
+constexpr MessageRow kResonanceRow{339};
+constexpr MessageRow kOneOfThreeRow{343};
+constexpr MessageRow kStiffnessTipRow{1666};
+constexpr MessageRow kImprovementTipRow{1667};
+constexpr MessageRow kResonanceTipRow{1668};
+
+constexpr int kButtonGapPx = 8;
+
+}  // namespace
+
+ResilientEditor::ResilientEditor(windows::WindowTools tools,
+                                 EditedMaterial<elements::ResilientMaterial> material,
+                                 const std::vector<std::string>& keywords,
+                                 const std::filesystem::path& picture, QWidget* parent)
+    : EditorDialog(std::move(tools), QStringLiteral("Form6"), QStringLiteral("materiale-resiliente"), parent),
+      material_(std::move(material)) {
+  setWindowTitle(Tools().Text(kCaptionRow));
+  MakeControls(keywords, picture);
+  stiffness_->OnLeave([this](bool edited) { Couple(ResilientBox::kStiffness, edited); });
+  improvement_->OnLeave([this](bool edited) { Couple(ResilientBox::kImprovement, edited); });
+  resonance_->OnLeave([this](bool edited) { Couple(ResilientBox::kResonance, edited); });
+  Show(material_.Opened() ? storage::EntryOf(*material_.Opened()) : ResilientEntry{});
+  shown_first_ = Entry();
+  Finish(name_);
+}
+
+void ResilientEditor::MakeControls(const std::vector<std::string>& keywords,
+                                   const std::filesystem::path& picture) {
+  FieldGrid fields(Tools(), this);
+  name_ = fields.AddText("Text1", kNameRow);
+  description_ = fields.AddText("Text2", kDescriptionRow);
+  fields.AddGap();
+  const int first_row_beside = fields.NextRow();
+  stiffness_ = fields.AddNumber("Text3", kStiffnessRow, kStiffnessTipRow);
+  improvement_ = fields.AddNumber("Text4", kImprovementRow, kImprovementTipRow);
+  resonance_ = fields.AddNumber("Text5", kResonanceRow, kResonanceTipRow);
+  auto* view = new windows::PictureView(Tools(), this);
+  view->setObjectName(QStringLiteral("Picture1"));
+  view->setAccessibleName(Tools().Text(kPictureRow));
+  view->Show(picture);
+  fields.AddBeside(view, first_row_beside);
+  fields.AddRemark(kOneOfThreeRow);
+  fields.AddGap();
+  thickness_ = fields.AddNumber("Text6", kThicknessRow);
+  density_ = fields.AddNumber("Text7", kDensityRow);
+  fields.AddGap();
+  fields.Add(kKeywordRow, keyword_ = new KeywordBox(QStringLiteral("Text8"), keywords, this), kKeywordTipRow);
+  auto* column = new QVBoxLayout(this);
+  column->addLayout(fields.Layout());
+  column->addSpacing(kButtonGapPx);
+  column->addStretch(1);
+  column->addLayout(MakeButtons());
+}
+
+void ResilientEditor::Show(const ResilientEntry& entry) {
+  name_->setText(windows::ToQt(entry.name));
+  description_->setText(windows::ToQt(entry.description));
+  description_->setCursorPosition(0);
+  keyword_->setEditText(windows::ToQt(entry.keyword));
+  stiffness_->ShowStored(entry.stiffness);
+  improvement_->ShowStored(entry.improvement);
+  resonance_->ShowStored(entry.resonance);
+  thickness_->ShowStored(entry.thickness);
+  density_->ShowStored(entry.density);
+}
+
+ResilientEntry ResilientEditor::Entry() const {
+  return {.name = windows::FromQt(name_->text()),
+          .description = windows::FromQt(description_->text()),
+          .keyword = windows::FromQt(keyword_->currentText()),
+          .stiffness = stiffness_->Number(),
+          .improvement = improvement_->Number(),
+          .resonance = resonance_->Number(),
+          .thickness = thickness_->Number(),
+          .density = density_->Number()};
+}
+
+// A box that was only passed through fills an empty one, but rounds no number that is there.
+void ResilientEditor::Couple(ResilientBox left, bool edited) {
+  const ResilientBoxes coupled =
+      storage::CoupleResilient({stiffness_->Number(), improvement_->Number(), resonance_->Number()}, left);
+  stiffness_->Fill(coupled.dynamic_stiffness_mn_m3, edited);
+  improvement_->Fill(coupled.impact_improvement_db, edited);
+  resonance_->Fill(coupled.resonance_frequency_hz, edited);
+}
+
+bool ResilientEditor::Changed() const { return Entry() != shown_first_; }
+
+SaveOutcome ResilientEditor::Store(const AskUser& ask) { return material_.Save(Entry(), Changed(), ask); }
+
+}  // namespace velmar::material_editors
