@@ -10,7 +10,6 @@
 #include "shell/material_editors/field_grid.h"
 #include "shell/material_editors/keyword_box.h"
 #include "shell/material_editors/number_box.h"
-#include "shell/windows/picture_view.h"
 
 namespace velmar::material_editors {
 namespace {
@@ -64,11 +63,7 @@ void FibrousEditor::MakeControls(const std::vector<std::string>& keywords,
   youngs_modulus_ = fields.AddNumber("Text11", kYoungsModulusRow, kYoungsModulusTipRow);
   loss_factor_ = fields.AddNumber("Text12", kLossFactorRow, kLossFactorTipRow);
   poissons_ratio_ = fields.AddNumber("Text13", kPoissonsRatioRow, kPoissonsRatioTipRow);
-  auto* view = new windows::PictureView(Tools(), this);
-  view->setObjectName(QStringLiteral("Picture1"));
-  view->setAccessibleName(Tools().Text(kPictureRow));
-  view->Show(picture);
-  fields.AddBeside(view, first_row_beside);
+  fields.AddPicture(picture, first_row_beside);
   fields.AddGap();
   fields.Add(kKeywordRow, keyword_ = new KeywordBox(QStringLiteral("Text8"), keywords, this), kKeywordTipRow);
 

@@ -4,13 +4,15 @@
 #include <QLabel>
 #include <QLineEdit>
 
+#include "shell/material_editors/editor_rows.h"
 #include "shell/material_editors/number_box.h"
+#include "shell/windows/picture_view.h"
 
 namespace velmar::material_editors {
 namespace {
 
 constexpr int kGapPx = 10;
-constexpr int kTextWidthInCharacters = 52;
+constexpr int kTextWidthInCharacters = 60;
 constexpr int kColumns = 3;
 
 /// "Nome:" without its colon.
@@ -70,8 +72,15 @@ void FieldGrid::AddRemark(MessageRow text) {
 
 void FieldGrid::AddGap() { grid_->setRowMinimumHeight(next_row_++, kGapPx); }
 
-void FieldGrid::AddBeside(QWidget* picture, int first_row) {
-  grid_->addWidget(picture, first_row, kColumns - 1, next_row_ - first_row, 1);
+void FieldGrid::AddPicture(const std::filesystem::path& file, int first_row) {
+  auto* view = new windows::PictureView(tools_, window_);
+  view->setObjectName(QStringLiteral("Picture1"));
+  view->setAccessibleName(tools_.Text(kPictureRow));
+  // The boxes beside it decide how high it is.
+  view->setMinimumHeight(0);
+  view->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
+  view->Show(file);
+  grid_->addWidget(view, first_row, kColumns - 1, next_row_ - first_row, 1);
 }
 
 }  // namespace velmar::material_editors

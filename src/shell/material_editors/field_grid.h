@@ -1,5 +1,7 @@
 #pragma once
 
+#include <filesystem>
+
 #include "foundation/message.h"
 #include "shell/windows/window_tools.h"
 
@@ -33,8 +35,8 @@ class FieldGrid {
   void AddRemark(MessageRow text);
   /// Room between two groups of boxes.
   void AddGap();
-  /// Puts `picture` beside the number boxes from row `first_row` to the last one so far.
-  void AddBeside(QWidget* picture, int first_row);
+  /// The picture in `file` (`Picture1`) beside the number boxes from row `first_row` to the last one so far.
+  void AddPicture(const std::filesystem::path& file, int first_row);
 
  private:
   void Name(MessageRow caption, QWidget* box, MessageRow tip);

@@ -7,7 +7,6 @@
 #include "shell/material_editors/field_grid.h"
 #include "shell/material_editors/keyword_box.h"
 #include "shell/material_editors/number_box.h"
-#include "shell/windows/picture_view.h"
 
 namespace velmar::material_editors {
 namespace {
@@ -55,11 +54,7 @@ void ResilientEditor::MakeControls(const std::vector<std::string>& keywords,
   stiffness_ = fields.AddNumber("Text3", kStiffnessRow, kStiffnessTipRow);
   improvement_ = fields.AddNumber("Text4", kImprovementRow, kImprovementTipRow);
   resonance_ = fields.AddNumber("Text5", kResonanceRow, kResonanceTipRow);
-  auto* view = new windows::PictureView(Tools(), this);
-  view->setObjectName(QStringLiteral("Picture1"));
-  view->setAccessibleName(Tools().Text(kPictureRow));
-  view->Show(picture);
-  fields.AddBeside(view, first_row_beside);
+  fields.AddPicture(picture, first_row_beside);
   fields.AddRemark(kOneOfThreeRow);
   fields.AddGap();
   thickness_ = fields.AddNumber("Text6", kThicknessRow);
