@@ -44,13 +44,17 @@ Layout LayoutOf(const QRectF& area, const AbsorptionChart& chart, const QFont& f
   return layout;
 }
 
+/// The steps of the scale up to `top`.
+int Steps(double top) { return static_cast<int>(std::lround(top / kStep)); }
+
 void DrawGrid(QPainter& painter, const Layout& layout) {
   painter.setRenderHint(QPainter::Antialiasing, false);
   for (std::size_t band = 0; band <= kLastBand; ++band) {
     painter.setPen(QPen(kVerticalGridColour, kLineWidth));
     painter.drawLine(layout.At(band, 0.0), layout.At(band, layout.top));
   }
-  for (double value = kStep; value <= layout.top; value += kStep) {
+  for (int step = 1; step <= Steps(layout.top); ++step) {
+    const double value = step * kStep;
     painter.setPen(QPen(kHorizontalGridColour, kLineWidth));
     painter.drawLine(layout.At(0, value), layout.At(kLastBand, value));
   }
@@ -62,7 +66,8 @@ void DrawGrid(QPainter& painter, const Layout& layout) {
 void DrawLabels(QPainter& painter, const QRectF& area, const Layout& layout, const AbsorptionChart& chart) {
   const double em = layout.em;
   painter.setPen(kInkColour);
-  for (double value = 0.0; value <= layout.top; value += kStep) {
+  for (int step = 0; step <= Steps(layout.top); ++step) {
+    const double value = step * kStep;
     const QPointF foot = layout.At(0, value);
     const QRectF box(area.left(), foot.y() - em, foot.x() - kGap - area.left(), 2.0 * em);
     DrawTextIn(painter, box, Qt::AlignRight | Qt::AlignVCenter, QString::number(value).replace('.', ','));

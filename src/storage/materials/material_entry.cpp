@@ -47,8 +47,8 @@ EntryRefusal NameMissing() { return {{{kMaterialWithoutNameRow}}, "Text1"}; }
 
 struct NeededBox {
   const std::string& text;
-  MessageRow name;
-  const char* box;
+  MessageRow name{};
+  const char* box = "";
 };
 
 /// The refusal that names every empty box and leads to the first, or nothing.
@@ -99,8 +99,9 @@ std::optional<EntryRefusal> TakeAbsorption(const FibrousEntry& entry, FibrousMat
     if (text.empty()) continue;
     const std::optional<float> value = ParseSingle(text);
     if (!value || *value < 0.0F || *value > kHighest) {
-      const std::string centre = FormatShortest(elements::kAbsorptionBandCentres.at(band));
-      return EntryRefusal{{{kAbsorptionBoxesRow}, {kAbsorptionRow, " " + centre + " Hz: " + text}},
+      std::string where = " " + FormatShortest(elements::kAbsorptionBandCentres.at(band));
+      where.append(" Hz: ").append(text);
+      return EntryRefusal{{{kAbsorptionBoxesRow}, {kAbsorptionRow, std::move(where)}},
                           "TextAlfa_" + std::to_string(band)};
     }
     material.absorption.at(band) = *value;
