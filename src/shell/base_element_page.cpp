@@ -1,8 +1,6 @@
 #include "shell/base_element_page.h"
 
 #include <QCheckBox>
-#include <QGridLayout>
-#include <QHBoxLayout>
 #include <QLabel>
 #include <QVBoxLayout>
 
@@ -78,15 +76,8 @@ void BaseElementPage::AddPlainBase() {
   });
   thickness_label_ = LabelFor(thickness_, kThicknessRow, context_, this);
   mass_label_ = LabelFor(mass_, kMassRow, context_, this);
-  auto* line = new QHBoxLayout;
-  line->addWidget(thickness_);
-  line->addSpacing(kPageSpacing);
-  line->addWidget(mass_label_);
-  line->addWidget(mass_);
-  line->addStretch(1);
-  const int row = form_->NextLine();
-  form_->Grid().addWidget(thickness_label_, row, 0);
-  form_->Grid().addLayout(line, row, 1);
+  mass_label_->setContentsMargins(kPageSpacing, 0, 0, 0);
+  form_->AddLine(thickness_label_, {thickness_, mass_label_, mass_});
 }
 
 void BaseElementPage::Show(const elements::Setup& setup) {

@@ -10,6 +10,8 @@
 #include "calculation/cavity_rules.h"
 #include "calculation/count_rules.h"
 #include "calculation/select_calculation.h"
+#include "foundation/decimal.h"
+#include "shell/corrections.h"
 #include "shell/layer_row.h"
 #include "shell/list_boxes.h"
 #include "shell/number_field.h"
@@ -55,9 +57,12 @@ void CavityPage::AddDepth(QVBoxLayout& column) {
 void CavityPage::LeaveDepth() {
   if (!context_.open.IsTouched()) return;
   elements::Setup left = context_.open.Setup();
+  const std::optional<double> entered = ParseDecimal(left.cavity.depth_text);
   const std::optional<Message> told = calculation::LeaveCavityDepth(left);
-  if (left != context_.open.Setup())
-    context_.open.Edit([&](elements::Setup& setup) { setup = std::move(left); });
+  if (left != context_.open.Setup()) context_.open.Edit([&](elements::Setup& setup) { setup = left; });
+  const auto raised_to = ParseDecimal(left.cavity.depth_text);
+  if (!told && entered && raised_to > entered)
+    NoteCorrection(depth_, Correction::kRaised, 0, context_.Words());
   if (told) context_.services.boxes.tell(Tone::kCritical, Text(context_.Words(), *told));
 }
 

@@ -102,15 +102,13 @@ ComponentsPage::Component ComponentsPage::AddComponent(int index) {
     });
   });
   label->setBuddy(component.tightness);
-  component.share = new QLabel(frame);
+  lines->addWidget(label);
+  lines->addWidget(component.tightness, 0, Qt::AlignLeft);
+  component.share = new QLabel(page);
   component.share->setObjectName(ArrayName("Label19", index));
   component.share->setToolTip(Text(words, kShareTipRow));
-  auto* line = new QHBoxLayout;
-  line->addWidget(component.tightness);
-  line->addStretch(1);
-  line->addWidget(component.share);
-  lines->addWidget(label);
-  lines->addLayout(line);
+  component.share->setForegroundRole(QPalette::PlaceholderText);
+  component.form->AddBehindArea(component.share);
 
   column->addWidget(component.form);
   column->addWidget(frame);

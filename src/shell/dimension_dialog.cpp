@@ -7,6 +7,7 @@
 
 #include "calculation/dimensions.h"
 #include "shell/boxes.h"
+#include "shell/field_note.h"
 #include "shell/number_field.h"
 #include "shell/phrases.h"
 
@@ -18,6 +19,7 @@ constexpr MessageRow kSeaFrameRow{410};
 constexpr MessageRow kWidthRow{411};
 constexpr MessageRow kHeightRow{412};
 constexpr MessageRow kOkRow{366};
+constexpr MessageRow kNoDimensionRow{1357};
 
 bool IsSea(const elements::Setup& setup) {
   return setup.calculation && RowOf(*setup.calculation).family == elements::Family::kSea;
@@ -27,7 +29,7 @@ bool IsSea(const elements::Setup& setup) {
 
 DimensionDialog::DimensionDialog(calculation::OpenCalculation& open, const presentation::Words& words,
                                  QWidget* parent)
-    : QDialog(parent), open_(open) {
+    : QDialog(parent), open_(open), words_(words) {
   setObjectName("Form3");
   setWindowTitle(kProductName);
   auto* column = new QVBoxLayout(this);
@@ -57,12 +59,10 @@ DimensionDialog::DimensionDialog(calculation::OpenCalculation& open, const prese
 void DimensionDialog::Confirm() {
   const std::string width = ToUtf8(width_->text());
   const std::string height = ToUtf8(height_->text());
-  if (!calculation::IsDimension(width)) {
-    width_->setFocus();
-    return;
-  }
-  if (!calculation::IsDimension(height)) {
-    height_->setFocus();
+  for (NumberField* field : {width_, height_}) {
+    if (calculation::IsDimension(ToUtf8(field->text()))) continue;
+    field->setFocus();
+    FieldNote::Put(field, Text(words_, kNoDimensionRow), NoteLife::kUntilEntered);
     return;
   }
   open_.Edit([&](elements::Setup& setup) { calculation::EnterDimensions(setup, width, height); });

@@ -19,6 +19,7 @@ class DimensionDialog : public QDialog {
   void Confirm();
 
   calculation::OpenCalculation& open_;
+  presentation::Words words_;
   NumberField* width_ = nullptr;
   NumberField* height_ = nullptr;
 };

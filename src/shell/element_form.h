@@ -2,20 +2,19 @@
 
 #include <QWidget>
 #include <memory>
+#include <vector>
 
 #include "shell/band_boxes.h"
 #include "shell/page_context.h"
 
 class QGridLayout;
+class QHBoxLayout;
 class QLabel;
 class QLineEdit;
-class QToolButton;
-class QPushButton;
 
 namespace velmar::shell {
 
-class ChoiceBox;
-class NameBox;
+class ElementName;
 class NumberField;
 
 /// The control names of a form.
@@ -35,7 +34,7 @@ struct ElementNames {
 };
 
 /// The fields that the base element and the components of a facade share: name, description, area, rating,
-/// adaptation terms, band values.
+/// adaptation terms, band values. Labels and fields stand in columns.
 class ElementForm : public QWidget {
  public:
   /// @param element 0: the base element; 1 to 9: a component
@@ -47,16 +46,17 @@ class ElementForm : public QWidget {
   void ShowArea(bool shown);
   /// The rating is open for entry even where the bands count.
   void KeepRatingOpen(bool open) { rating_always_open_ = open; }
-  /// Where more fields can be added below: two columns, label and field.
-  QGridLayout& Grid() const { return *grid_; }
-  int NextLine() { return line_++; }
+  /// Stands behind the area.
+  void AddBehindArea(QWidget* widget);
+  /// A further line of fields under the ratings, above the band values.
+  void AddLine(QLabel* label, const std::vector<QWidget*>& fields);
 
  private:
   void AddName(const ElementNames& names);
-  void AddNumbers(const ElementNames& names);
-  void AddTerms(const ElementNames& names);
+  void AddDescription(const ElementNames& names);
+  void AddArea(const ElementNames& names);
+  void AddRatings(const ElementNames& names);
   void AddBands(const ElementNames& names);
-  void TakeName(const std::string& name);
   template <typename BoxOf>
   void Enter(BoxOf&& box_of, const std::string& text);
 
@@ -64,11 +64,12 @@ class ElementForm : public QWidget {
   PageContext& context_;
   QGridLayout* grid_ = nullptr;
   int line_ = 0;
-  NameBox* name_ = nullptr;
+  ElementName* name_ = nullptr;
   QLabel* name_label_ = nullptr;
   QLineEdit* description_ = nullptr;
   QLabel* area_label_ = nullptr;
   NumberField* area_ = nullptr;
+  QHBoxLayout* area_line_ = nullptr;
   QLabel* rating_label_ = nullptr;
   NumberField* rating_ = nullptr;
   QWidget* terms_ = nullptr;

@@ -5,6 +5,13 @@
 
 namespace velmar::shell {
 
+/// Gives `visit` an element of `setup`: 0 the base element, 1 to 9 a component; both have the same fields.
+template <typename AnySetup, typename Visit>
+auto Visited(AnySetup& setup, int element, Visit&& visit) {
+  if (element == 0) return visit(setup.base);
+  return visit(setup.facade.components.at(static_cast<std::size_t>(element - 1)));
+}
+
 /// `part` becomes an element of `setup`: 0 the base element of its calculation, 1 to 9 a component.
 inline void TakePart(elements::Setup& setup, int element, const calculation::FacadePart& part) {
   const bool facade = setup.calculation && RowOf(*setup.calculation).family == elements::Family::kFacade;

@@ -69,6 +69,16 @@ LayerRow::LayerRow(const LayerRowPlan& plan, PageContext& context, QGridLayout& 
   MakeFields(page);
   MoveTo(grid, line);
   ForEachWidget([this](QWidget* widget) { widget->installEventFilter(this); });
+  context_.on_section_hover.emplace_back([this](const std::optional<presentation::LayerPlace>& place) {
+    Light(place == presentation::LayerPlace{plan_.group, plan_.index});
+  });
+}
+
+void LayerRow::Light(bool lit) {
+  QWidget* lead = number_ != nullptr ? static_cast<QWidget*>(number_) : check_;
+  lead->setAutoFillBackground(lit);
+  lead->setBackgroundRole(lit ? QPalette::Highlight : QPalette::NoRole);
+  lead->setForegroundRole(lit ? QPalette::HighlightedText : QPalette::NoRole);
 }
 
 void LayerRow::MakeLead(QWidget* page) {

@@ -53,6 +53,7 @@ class LayerRow : public QObject {
   void MakeFields(QWidget* page);
   void PutMaterial(const std::string& name);
   void Drag();
+  void Light(bool lit);
   template <typename Visit>
   void ForEachWidget(Visit&& visit) const;
 

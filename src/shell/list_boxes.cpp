@@ -59,7 +59,7 @@ void ChoiceBox::keyPressEvent(QKeyEvent* event) {
 }
 
 CountBox::CountBox(const QString& object_name, int lowest, int highest, QWidget* parent)
-    : QuietBox(object_name, parent) {
+    : QuietBox(object_name, parent), highest_(highest) {
   setEditable(true);
   setInsertPolicy(QComboBox::NoInsert);
   setCompleter(nullptr);
@@ -72,6 +72,7 @@ CountBox::CountBox(const QString& object_name, int lowest, int highest, QWidget*
     shown_ = text;
     if (on_edit_) on_edit_(ToUtf8(text));
     FollowText();
+    if (text.toInt() > highest_ && on_correction_) on_correction_(Correction::kAboveHighest, highest_);
   });
   connect(this, &QComboBox::textActivated, this, [this](const QString& text) {
     if (text == shown_) return;

@@ -5,6 +5,8 @@
 #include <functional>
 #include <string>
 
+#include "shell/corrections.h"
+
 namespace velmar::shell {
 
 /// A list that the wheel moves only while it has the focus.
@@ -41,13 +43,16 @@ class CountBox : public QuietBox {
   CountBox(const QString& object_name, int lowest, int highest, QWidget* parent = nullptr);
 
   void OnEdit(std::function<void(const std::string& text)> on_edit) { on_edit_ = std::move(on_edit); }
+  void ReportCorrections(OnCorrection on_correction) { on_correction_ = std::move(on_correction); }
   void Show(const std::string& text);
 
  private:
   void FollowText();
 
+  int highest_;
   QString shown_;
   std::function<void(const std::string&)> on_edit_;
+  OnCorrection on_correction_;
 };
 
 }  // namespace velmar::shell

@@ -9,6 +9,7 @@
 #include <QVBoxLayout>
 
 #include "calculation/select_calculation.h"
+#include "shell/corrections.h"
 #include "shell/dimension_dialog.h"
 #include "shell/element_header.h"
 #include "shell/help_commands.h"
@@ -68,6 +69,7 @@ MainWindow::MainWindow(const WindowServices& services, QWidget* parent)
   // Shortcuts work whether or not their menu was ever open.
   for (const Command& command : Commands()) addAction(commands_.Of(command.id));
   MakeCentre();
+  NoteCorrections(*this, services.words);
   files_.OnChange([this] {
     setWindowTitle(files_.Caption());
     ShowProjects();
@@ -99,6 +101,9 @@ void MainWindow::MakeCentre() {
   column->addWidget(tabs_, 1);
   results_ = new ResultsPanel(context_);
   context_.on_hover = [this](const auto& place) { results_->Highlight(place); };
+  results_->OnHover([this](const auto& place) {
+    for (const auto& listener : context_.on_section_hover) listener(place);
+  });
   sides_ = new QSplitter(Qt::Horizontal);
   sides_->setChildrenCollapsible(false);
   sides_->addWidget(inputs);
@@ -123,7 +128,7 @@ void MainWindow::Execute(CommandId id) {
       files_.Save();
       return;
     case CommandId::kRun:
-      RunOpenCalculation(services_);
+      RunOpenCalculation(services_, *this);
       return;
     case CommandId::kShowTable:
       ShowTable();

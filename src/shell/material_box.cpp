@@ -77,6 +77,7 @@ void MaterialBox::Choose(const QString& name) {
   typed_ = false;
   if (on_choice_) on_choice_(ToUtf8(name));
   ShowAgain();
+  if (shown_ != name && on_correction_) on_correction_(Correction::kUnknownMaterial, 0);
 }
 
 void MaterialBox::TakeTyped() {

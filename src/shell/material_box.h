@@ -28,6 +28,7 @@ class MaterialBox : public QuietBox {
               QWidget* parent = nullptr);
 
   void OnChoice(std::function<void(const std::string& name)> on_choice) { on_choice_ = std::move(on_choice); }
+  void ReportCorrections(OnCorrection on_correction) { on_correction_ = std::move(on_correction); }
   void Show(const std::string& name);
 
  protected:
@@ -49,6 +50,7 @@ class MaterialBox : public QuietBox {
   QString shown_;
   bool typed_ = false;
   std::function<void(const std::string&)> on_choice_;
+  OnCorrection on_correction_;
 };
 
 }  // namespace velmar::shell

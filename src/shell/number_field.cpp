@@ -70,13 +70,18 @@ NumberField::NumberField(const QString& object_name, NumberKind kind, QWidget* p
   const QMargins margins = textMargins();
   const int digits = fontMetrics().horizontalAdvance('0') * kWidthInDigits;
   setFixedWidth(digits + margins.left() + margins.right() + fontMetrics().height());
-  connect(this, &QLineEdit::textEdited, this, [this](const QString& text) {
-    const std::string typed = ToUtf8(text);
-    unfinished_ = !text.isEmpty() && text != "-" && !ParseDecimal(typed);
-    if (!unfinished_) shown_ = text;
-    if (on_edit_) on_edit_(typed);
-  });
+  connect(this, &QLineEdit::textEdited, this, [this](const QString& text) { TakeEdit(text); });
   connect(this, &QLineEdit::returnPressed, this, [this] { FocusNextField(this); });
+}
+
+void NumberField::TakeEdit(const QString& text) {
+  const std::string typed = ToUtf8(text);
+  const std::optional<double> number = ParseDecimal(typed);
+  unfinished_ = !text.isEmpty() && text != "-" && !number;
+  if (!unfinished_) shown_ = text;
+  if (on_edit_) on_edit_(typed);
+  const bool replaced = number && !(*number > 0.0) && this->text() != text;
+  if (replaced && on_correction_) on_correction_(Correction::kNotPositive, 0);
 }
 
 void NumberField::SetKind(NumberKind kind) {
@@ -88,7 +93,7 @@ void NumberField::SetKind(NumberKind kind) {
 
 void NumberField::Show(const std::string& text) {
   const QString wanted = FromUtf8(text);
-  if (unfinished_ && wanted == shown_) return;
+  if (unfinished_ && (wanted == shown_ || wanted == this->text())) return;
   unfinished_ = false;
   shown_ = wanted;
   if (wanted != this->text()) setText(wanted);
@@ -120,14 +125,19 @@ void NumberField::keyPressEvent(QKeyEvent* event) {
   event->accept();
 }
 
+void NumberField::Settle() {
+  if (!unfinished_) return;
+  unfinished_ = false;
+  setText(shown_);
+  if (on_edit_) on_edit_(ToUtf8(shown_));
+  if (on_correction_) on_correction_(Correction::kUnfinished, 0);
+}
+
 void NumberField::focusOutEvent(QFocusEvent* event) {
   QLineEdit::focusOutEvent(event);
   if (event->reason() == Qt::PopupFocusReason) return;
   if (on_leave_) on_leave_();
-  if (unfinished_) {
-    unfinished_ = false;
-    setText(shown_);
-  }
+  Settle();
 }
 
 }  // namespace velmar::shell

@@ -4,6 +4,8 @@
 #include <functional>
 #include <string>
 
+#include "shell/corrections.h"
+
 namespace velmar::shell {
 
 /// What a number field takes.
@@ -26,8 +28,14 @@ class NumberField : public QLineEdit {
   /// `on_leave` is called when the field loses the focus, before it shows the set-up's text again.
   void OnLeave(std::function<void()> on_leave) { on_leave_ = std::move(on_leave); }
 
+  /// `on_correction` is told of what the field or the set-up made of an entry.
+  void ReportCorrections(OnCorrection on_correction) { on_correction_ = std::move(on_correction); }
+
   /// Shows `text` of the set-up.
   void Show(const std::string& text);
+
+  /// Half a number ("1E") gives way to the number before it, as when the field is left.
+  void Settle();
 
   /// From now on keys and texts are checked as `kind`.
   void SetKind(NumberKind kind);
@@ -38,12 +46,14 @@ class NumberField : public QLineEdit {
 
  private:
   bool TypeKey(QChar key);
+  void TakeEdit(const QString& text);
 
   NumberKind kind_;
   QString shown_;
   bool unfinished_ = false;
   std::function<void(const std::string&)> on_edit_;
   std::function<void()> on_leave_;
+  OnCorrection on_correction_;
 };
 
 /// Gives the focus to the next field that takes an entry, as Enter does; buttons are passed over.

@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <optional>
+#include <vector>
 
 #include "calculation/open_calculation.h"
 #include "presentation/drawing/section.h"
@@ -18,6 +19,9 @@ struct PageContext {
   MaterialLists& materials;
   /// Told which layer row is under the mouse, nothing when none is.
   std::function<void(const std::optional<presentation::LayerPlace>&)> on_hover{};
+
+  /// Told which layer is under the mouse in the section drawing; layer rows listen.
+  std::vector<std::function<void(const std::optional<presentation::LayerPlace>&)>> on_section_hover{};
 
   const presentation::Words& Words() const { return services.words; }
 };

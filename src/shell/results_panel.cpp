@@ -7,6 +7,7 @@
 #include <QLabel>
 #include <QSplitter>
 #include <QVBoxLayout>
+#include <tuple>
 
 #include "calculation/select_calculation.h"
 #include "foundation/decimal.h"
@@ -24,7 +25,10 @@ constexpr MessageRow kNoResultRow{232};
 constexpr MessageRow kAutoscaleRow{73};
 constexpr MessageRow kSectionRow{74};
 constexpr const char* kPanel = "prnFrame1";
+constexpr MessageRow kRatingsOnlyRow{1022};
+constexpr MessageRow kLiningTermsTipRow{1351};
 constexpr double kRatingScale = 2.4;
+constexpr double kTermScale = 1.25;
 // Symbols of the ratings, the same in every language.
 constexpr const char* kRwName = "Rw = ";
 constexpr const char* kLnwName = "Ln,w =";
@@ -44,6 +48,27 @@ QLabel* Named(const char* name, QWidget* parent) {
   label->setObjectName(name);
   label->setTextInteractionFlags(Qt::TextSelectableByMouse);
   return label;
+}
+
+QFont Enlarged(QFont font, double scale) {
+  font.setPointSizeF(font.pointSizeF() * scale);
+  font.setBold(true);
+  return font;
+}
+
+/// A name and the number behind it, which come and go together.
+std::pair<QWidget*, QLabel*> MakePair(const char* frame_name, const std::pair<const char*, const char*>& name,
+                                      const char* value_name, QWidget* parent) {
+  auto* frame = new QWidget(parent);
+  frame->setObjectName(frame_name);
+  auto* line = new QHBoxLayout(frame);
+  line->setContentsMargins(0, 0, 0, 0);
+  QLabel* label = Named(name.first, frame);
+  label->setText(name.second);
+  QLabel* value = Named(value_name, frame);
+  line->addWidget(label);
+  line->addWidget(value);
+  return {frame, value};
 }
 
 }  // namespace
@@ -66,11 +91,10 @@ QWidget* ResultsPanel::MakeRatings() {
   auto* frame = new QWidget(this);
   auto* line = new QHBoxLayout(frame);
   line->setContentsMargins(kPageSpacing, 0, kPageSpacing, 0);
+  line->setSpacing(0);
+  const QFont large = Enlarged(font(), kRatingScale);
   rating_name_ = Named("LabelRw", frame);
   rating_ = Named("Label4", frame);
-  QFont large = font();
-  large.setPointSizeF(large.pointSizeF() * kRatingScale);
-  large.setBold(true);
   rating_->setFont(large);
   rating_name_->setFont(large);
   // The place keeps its height when the rating goes, so that nothing moves.
@@ -78,36 +102,20 @@ QWidget* ResultsPanel::MakeRatings() {
   due_ = Named("LabelEseguire", frame);
   due_->setText(Text(context_.Words(), kNoResultRow));
   due_->setForegroundRole(QPalette::PlaceholderText);
+  for (QLabel* label : {rating_name_, rating_, due_}) line->addWidget(label);
   c_ = Named("Label48_0", frame);
   ctr_ = Named("Label48_1", frame);
-  improvement_frame_ = new QWidget(frame);
-  improvement_frame_->setObjectName("FrameDrw");
-  auto* improvement_line = new QHBoxLayout(improvement_frame_);
-  improvement_line->setContentsMargins(0, 0, 0, 0);
-  QLabel* name = Named("LabelDrw_0", improvement_frame_);
-  name->setText(kImprovementName);
-  improvement_ = Named("LabelDrw_1", improvement_frame_);
-  improvement_line->addWidget(name);
-  improvement_line->addWidget(improvement_);
-  impact_frame_ = new QWidget(frame);
-  impact_frame_->setObjectName("Frame6");
-  auto* impact_line = new QHBoxLayout(impact_frame_);
-  impact_line->setContentsMargins(0, 0, 0, 0);
-  QLabel* impact_name = Named("LabelDlw", impact_frame_);
-  impact_name->setText(kImpactName);
-  impact_improvement_ = Named("Label20", impact_frame_);
-  impact_line->addWidget(impact_name);
-  impact_line->addWidget(impact_improvement_);
-
-  line->addWidget(rating_name_);
-  line->addWidget(rating_);
-  line->addWidget(due_);
-  line->addStretch(1);
+  std::tie(improvement_frame_, improvement_) =
+      MakePair("FrameDrw", {"LabelDrw_0", kImprovementName}, "LabelDrw_1", frame);
+  std::tie(impact_frame_, impact_improvement_) =
+      MakePair("Frame6", {"LabelDlw", kImpactName}, "Label20", frame);
   for (QWidget* widget :
        {static_cast<QWidget*>(c_), static_cast<QWidget*>(ctr_), improvement_frame_, impact_frame_}) {
-    line->addSpacing(2 * kPageSpacing);
+    widget->setFont(Enlarged(font(), kTermScale));
+    line->addSpacing(3 * kPageSpacing);
     line->addWidget(widget);
   }
+  line->addStretch(1);
   return frame;
 }
 
@@ -162,14 +170,21 @@ void ResultsPanel::ShowRatings(const elements::Setup& setup, const elements::Res
   const elements::ResultSet none;
   const elements::ResultSet& shown = rated ? *result : none;
   rating_name_->setText(impact ? kLnwName : kRwName);
+  // "Rw = " ends in the blank that "Ln,w =" has not.
+  const int blank = impact ? rating_->fontMetrics().horizontalAdvance(' ') : 0;
+  rating_->setContentsMargins(blank, 0, 0, 0);
   rating_->setText(Decibels(impact ? shown.lnw : shown.rw));
   rating_name_->setVisible(rated);
   rating_->setVisible(rated);
   due_->setVisible(!rated);
   c_->setText(impact ? Term("Ci", shown.ci) : Term("C", shown.c));
   ctr_->setText(Term("Ctr", shown.ctr));
-  c_->setVisible(rated);
-  ctr_->setVisible(rated && !impact);
+  c_->setVisible(impact ? shown.ci.has_value() : shown.c.has_value());
+  ctr_->setVisible(shown.ctr.has_value() && !impact);
+  const elements::Family family = RowOf(calculation).family;
+  const bool lining = family == elements::Family::kLining || family == elements::Family::kCeiling;
+  for (QLabel* term : {c_, ctr_})
+    term->setToolTip(lining ? Text(context_.Words(), kLiningTermsTipRow) : QString());
   const bool improves = calculation::LayoutOf(calculation).improvement_shown;
   improvement_->setText(Decibels(shown.delta_rw));
   improvement_frame_->setVisible(improves && rated);
@@ -186,7 +201,9 @@ void ResultsPanel::ShowChart() {
     shown_->autoscale = autoscale_->isChecked();
     if (context_.services.lay_over) context_.services.lay_over(*shown_);
   }
-  chart_->Show(shown_ ? *shown_ : presentation::EmptyChart(context_.Words()));
+  // A result without a curve says so in its place.
+  const std::string note = result && !shown_ ? context_.Words()(kRatingsOnlyRow) : std::string();
+  chart_->Show(shown_ ? *shown_ : presentation::EmptyChartOf(context_.open.Setup(), note, context_.Words()));
 }
 
 void ResultsPanel::Highlight(const std::optional<presentation::LayerPlace>& place) {

@@ -1,10 +1,14 @@
 #include "shell/run_command.h"
 
+#include <QApplication>
 #include <QCursor>
 #include <QGuiApplication>
 #include <algorithm>
 
+#include "shell/number_field.h"
 #include "shell/phrases.h"
+#include "shell/refused_field.h"
+#include "shell/reveal.h"
 
 namespace velmar::shell {
 namespace {
@@ -27,9 +31,18 @@ class ArrowPointer {
   ArrowPointer& operator=(const ArrowPointer&) = delete;
 };
 
+/// In a list of checks a line begins with a dash.
+QString WordsOf(const WindowServices& services, const MessageLine& reason) {
+  QString words = Text(services.words, reason);
+  if (words.startsWith("- ")) words.remove(0, 2);
+  if (!words.isEmpty()) words.replace(0, 1, words.at(0).toUpper());
+  return words;
+}
+
 }  // namespace
 
-bool RunOpenCalculation(const WindowServices& services) {
+void RunOpenCalculation(const WindowServices& services, const QWidget& window) {
+  if (auto* field = dynamic_cast<NumberField*>(QApplication::focusWidget())) field->Settle();
   std::vector<Message> asked;
   calculation::RunOutcome outcome;
   try {
@@ -42,14 +55,17 @@ bool RunOpenCalculation(const WindowServices& services) {
   } catch (const std::exception& failure) {
     services.open.DropResult();
     services.boxes.tell(Tone::kCritical, Text(services.words, kUnexpectedRow) + '\n' + failure.what());
-    return false;
+    return;
   }
   // The outcome lists the questions too; they were answered already.
   for (const Message& message : outcome.messages) {
     if (std::find(asked.begin(), asked.end(), message) == asked.end())
       services.boxes.tell(Tone::kCritical, Text(services.words, message));
   }
-  return outcome.status == calculation::RunStatus::kDone;
+  if (outcome.status != calculation::RunStatus::kRefused && outcome.status != calculation::RunStatus::kFailed)
+    return;
+  if (const auto field = FieldToCorrect(services.open.Setup(), outcome.messages))
+    PointAt(window, field->control, WordsOf(services, field->reason));
 }
 
 }  // namespace velmar::shell

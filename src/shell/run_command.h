@@ -2,11 +2,13 @@
 
 #include "shell/window_services.h"
 
+class QWidget;
+
 namespace velmar::shell {
 
 /// "Esegui il calcolo": runs the open calculation under the busy pointer. Questions about a relation's range
 /// are asked, refusals and failures told; nothing that happens in a run ends the program.
-/// @return whether there is a result
-bool RunOpenCalculation(const WindowServices& services);
+/// After a refusal the field of `window` that is to be corrected has the focus, with the reason beside it.
+void RunOpenCalculation(const WindowServices& services, const QWidget& window);
 
 }  // namespace velmar::shell

@@ -8,6 +8,7 @@
 #include "calculation/cavity_rules.h"
 #include "calculation/layer_edits.h"
 #include "calculation/select_calculation.h"
+#include "shell/corrections.h"
 #include "shell/layer_row.h"
 #include "shell/list_boxes.h"
 #include "shell/number_field.h"
@@ -77,8 +78,9 @@ void SeaCavityPage::AddHead(QVBoxLayout& column) {
     if (!context_.open.IsTouched()) return;
     elements::Setup left = context_.open.Setup();
     calculation::LeaveSeaCavityDepth(left);
-    if (left != context_.open.Setup())
-      context_.open.Edit([&](elements::Setup& setup) { setup = std::move(left); });
+    if (left == context_.open.Setup()) return;
+    context_.open.Edit([&](elements::Setup& setup) { setup = std::move(left); });
+    NoteCorrection(depth_, Correction::kRaised, 0, context_.Words());
   });
   fields->addWidget(LabelFor(type_, kLayersRow, context_, this), 0, 0);
   fields->addWidget(type_, 0, 1);

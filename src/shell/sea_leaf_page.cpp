@@ -1,6 +1,7 @@
 #include "shell/sea_leaf_page.h"
 
 #include <QGridLayout>
+#include <QLabel>
 #include <QVBoxLayout>
 
 #include "calculation/count_rules.h"
@@ -8,11 +9,14 @@
 #include "shell/layer_row.h"
 #include "shell/list_boxes.h"
 #include "shell/page_parts.h"
+#include "shell/phrases.h"
 
 namespace velmar::shell {
 namespace {
 
 using elements::LayerGroup;
+
+constexpr MessageRow kDampingRow{122};
 
 struct SideControls {
   LayerGroup layers{};
@@ -50,6 +54,12 @@ SeaLeafPage::SeaLeafPage(Side side, PageContext& context, QWidget* parent)
 
   auto* grid = new QGridLayout;
   AddLayerHeads(*grid, 0, context, /*with_sheets=*/false, this);
+  QString damping = Text(context.Words(), kDampingRow);
+  if (damping.endsWith(':')) damping.chop(1);
+  auto* head = new QLabel(damping, this);
+  head->setAlignment(Qt::AlignLeft | Qt::AlignBottom);
+  head->setForegroundRole(QPalette::PlaceholderText);
+  grid->addWidget(head, 0, LayerRow::kLeadColumn);
   int line = 1;
   for (int i = 0; i < kCapacity; ++i) {
     // In the order in which the strips stand in the section: left, layer, right.

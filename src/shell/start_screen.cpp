@@ -4,15 +4,13 @@
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QMenu>
-#include <QPushButton>
-#include <QToolButton>
 #include <QVBoxLayout>
 #include <array>
 
 #include "shell/calculation_menu.h"
-#include "shell/icons.h"
+#include "shell/kind_card.h"
 #include "shell/phrases.h"
+#include "shell/project_list.h"
 
 namespace velmar::shell {
 namespace {
@@ -24,11 +22,13 @@ constexpr MessageRow kRecentRow{1301};
 constexpr MessageRow kExamplesRow{1302};
 constexpr MessageRow kNoRecentRow{1303};
 constexpr MessageRow kNoExamplesRow{1305};
-constexpr int kMostShown = 6;
-constexpr int kCardIcon = 48;
-constexpr QSize kCard{176, 112};
-constexpr int kKindsALine = 3;
-constexpr double kHeadingScale = 1.4;
+constexpr MessageRow kListRow{1358};
+constexpr int kMargin = 32;
+constexpr int kGap = 16;
+constexpr int kWidest = 1040;
+constexpr int kContentStretch = 100;
+constexpr int kTallestList = 520;
+constexpr double kHeadingScale = 1.25;
 
 struct Kind {
   ElementButton button{};
@@ -49,98 +49,64 @@ QLabel* Heading(const QString& text, QWidget* parent) {
   return label;
 }
 
-QVBoxLayout* AddList(QHBoxLayout& lists, const QString& heading, QWidget* parent) {
-  auto* column = new QVBoxLayout;
-  column->setSpacing(4);
-  column->addWidget(Heading(heading, parent));
-  auto* list = new QVBoxLayout;
-  list->setSpacing(0);
-  column->addLayout(list);
-  column->addStretch(1);
-  lists.addLayout(column, 1);
-  return list;
-}
-
 }  // namespace
 
 StartScreen::StartScreen(const presentation::Words& words, const CalculationActions& calculations,
                          Doors doors, QWidget* parent)
     : QWidget(parent), words_(words), doors_(std::move(doors)) {
   setObjectName("Inizio");
-  auto* centre = new QHBoxLayout(this);
-  centre->addStretch(1);
-  auto* column = new QVBoxLayout;
-  column->setSpacing(16);
-  centre->addLayout(column);
-  centre->addStretch(1);
-  column->addStretch(1);
+  auto* grid = new QGridLayout(this);
+  grid->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+  auto* content = new QWidget(this);
+  content->setMaximumWidth(kWidest);
+  auto* column = new QVBoxLayout(content);
+  column->setContentsMargins(0, 0, 0, 0);
+  column->setSpacing(kGap);
   column->addWidget(Heading(Text(words_, kChooseRow), this));
   AddKinds(*column, calculations);
-  column->addSpacing(16);
-  auto* lists = new QHBoxLayout;
-  lists->setSpacing(32);
-  recent_ = AddList(*lists, Text(words_, kRecentRow), this);
-  examples_ = AddList(*lists, Text(words_, kExamplesRow), this);
-  column->addLayout(lists);
-  column->addStretch(2);
+  column->addSpacing(2 * kGap);
+  auto* lists = new QGridLayout;
+  lists->setHorizontalSpacing(2 * kGap);
+  lists->setVerticalSpacing(kGap / 2);
+  recent_ = AddList(*lists, 0, kRecentRow);
+  examples_ = AddList(*lists, 1, kExamplesRow);
+  column->addLayout(lists, 1);
+  // Large screens leave room around, small ones give it to the lists.
+  grid->setColumnStretch(0, 1);
+  grid->addWidget(content, 0, 1);
+  grid->setColumnStretch(1, kContentStretch);
+  grid->setColumnStretch(2, 1);
+}
+
+ProjectList* StartScreen::AddList(QGridLayout& lists, int place, MessageRow heading) {
+  auto* list = new ProjectList(doors_.open, this);
+  list->setMaximumHeight(kTallestList);
+  QLabel* label = Heading(Text(words_, heading), this);
+  label->setBuddy(list);
+  list->setAccessibleName(label->text());
+  lists.addWidget(label, 0, place);
+  lists.addWidget(list, 1, place, Qt::Alignment());
+  return list;
 }
 
 void StartScreen::AddKinds(QVBoxLayout& column, const CalculationActions& calculations) {
-  auto* grid = new QGridLayout;
-  grid->setSpacing(8);
-  int place = 0;
+  auto* line = new QHBoxLayout;
+  line->setSpacing(kGap);
   for (const Kind& kind : kKinds) {
-    auto* card = new QToolButton(this);
+    auto* card = new KindCard(Text(words_, MessageRow{kind.row}), kind.icon, Text(words_, kListRow), this);
     card->setObjectName("Inizio_" + QString::number(static_cast<int>(kind.button)));
-    card->setText(Text(words_, MessageRow{kind.row}));
-    card->setAccessibleName(card->text());
-    card->setIcon(LineIcon(kind.icon));
-    card->setIconSize({kCardIcon, kCardIcon});
-    card->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
-    card->setFixedSize(kCard);
-    card->setFocusPolicy(Qt::StrongFocus);
-    auto* menu = new QMenu(card);
-    calculations.FillKind(*menu, kind.button);
-    card->setMenu(menu);
-    card->setPopupMode(QToolButton::MenuButtonPopup);
+    calculations.FillKind(*card->Calculations(), kind.button);
     const ElementButton button = kind.button;
-    connect(card, &QToolButton::clicked, this, [this, button] { doors_.begin(button); });
-    grid->addWidget(card, place / kKindsALine, place % kKindsALine);
-    ++place;
+    connect(card, &KindCard::clicked, this, [this, button] { doors_.begin(button); });
+    line->addWidget(card);
   }
-  column.addLayout(grid);
+  column.addLayout(line);
 }
 
 void StartScreen::ShowProjects(const std::vector<std::filesystem::path>& recent,
                                const std::vector<std::filesystem::path>& examples) {
-  Fill(*recent_, recent, kNoRecentRow);
-  Fill(*examples_, examples, kNoExamplesRow);
-}
-
-void StartScreen::Fill(QVBoxLayout& list, const std::vector<std::filesystem::path>& projects,
-                       MessageRow none) {
-  while (QLayoutItem* item = list.takeAt(0)) {
-    delete item->widget();
-    delete item;
-  }
-  if (projects.empty()) {
-    auto* label = new QLabel(Text(words_, none), this);
-    label->setForegroundRole(QPalette::PlaceholderText);
-    list.addWidget(label);
-    return;
-  }
-  int shown = 0;
-  for (const std::filesystem::path& project : projects) {
-    if (++shown > kMostShown) break;
-    const QString path = QString::fromStdString(project.string());
-    auto* button = new QPushButton(QString::fromStdString(project.stem().string()), this);
-    button->setFlat(true);
-    button->setToolTip(path);
-    button->setAccessibleName(path);
-    button->setStyleSheet("QPushButton { text-align: left; padding: 4px; }");
-    connect(button, &QPushButton::clicked, this, [this, project] { doors_.open(project); });
-    list.addWidget(button);
-  }
+  recent_->Show(recent, Text(words_, kNoRecentRow), /*with_folders=*/true);
+  examples_->Show(examples, Text(words_, kNoExamplesRow), /*with_folders=*/false);
 }
 
 }  // namespace velmar::shell

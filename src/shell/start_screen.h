@@ -8,11 +8,13 @@
 #include "elements/catalogue.h"
 #include "presentation/texts/words.h"
 
+class QGridLayout;
 class QVBoxLayout;
 
 namespace velmar::shell {
 
 class CalculationActions;
+class ProjectList;
 
 /// What fills the window before a calculation is chosen: the six element kinds, recent projects, examples.
 class StartScreen : public QWidget {
@@ -30,12 +32,12 @@ class StartScreen : public QWidget {
 
  private:
   void AddKinds(QVBoxLayout& column, const CalculationActions& calculations);
-  void Fill(QVBoxLayout& list, const std::vector<std::filesystem::path>& projects, MessageRow none);
+  ProjectList* AddList(QGridLayout& lists, int place, MessageRow heading);
 
   presentation::Words words_;
   Doors doors_;
-  QVBoxLayout* recent_ = nullptr;
-  QVBoxLayout* examples_ = nullptr;
+  ProjectList* recent_ = nullptr;
+  ProjectList* examples_ = nullptr;
 };
 
 }  // namespace velmar::shell

@@ -57,9 +57,8 @@ class Watch {
  private:
   QString FaultOf(const elements::ResultSet& result, bool ran) {
     const elements::Setup& setup = fixture_.open.Setup();
-    if (!ran && result == verified_) {
-      return WithoutWhatMayChange(setup) == of_setup_ ? QString() : "the result is that of another set-up";
-    }
+    if (result == verified_ && WithoutWhatMayChange(setup) == of_setup_) return {};
+    if (!ran) return "the result is that of another set-up";
     const auto again =
         calculation::RunCalculation(setup, loss_factor_before_, [](const Message&) { return true; });
     if (again.result != result) return "the calculation of this set-up gives another result";

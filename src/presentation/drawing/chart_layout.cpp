@@ -8,6 +8,8 @@
 namespace velmar::presentation {
 namespace {
 
+constexpr double kLegendLine = 1.5;  ///< in heights of the text
+
 std::vector<LegendEntry> EntriesOf(const CurveChart& chart) {
   std::vector<LegendEntry> entries;
   const auto add = [&entries](bool shown, const std::string& text, const QColor& colour, bool dotted) {
@@ -27,7 +29,7 @@ double PlaceLegend(std::vector<LegendEntry>& entries, const QFont& font, double 
   if (entries.empty()) return 0.0;
   const double sample = 2.2 * text_px;
   const double gap = 1.2 * text_px;
-  const double line_height = 1.5 * text_px;
+  const double line_height = kLegendLine * text_px;
   double y = 0.0;
   std::size_t begin = 0;
   while (begin < entries.size()) {
@@ -68,7 +70,9 @@ ChartLayout LayoutOf(const QRectF& area, const CurveChart& chart, const QFont& f
   }
 
   layout.legend = EntriesOf(chart);
-  const double legend_height = PlaceLegend(layout.legend, layout.font, em, area.width() - 1.6 * em);
+  double legend_height = PlaceLegend(layout.legend, layout.font, em, area.width() - 1.6 * em);
+  // A chart that waits for its curve keeps the room of their names.
+  if (layout.legend.empty() && !chart.words.calculated.empty()) legend_height = kLegendLine * em;
   double bottom = area.bottom() - 0.4 * em - legend_height;
   for (LegendEntry& entry : layout.legend) entry.box.translate(area.left() + 0.8 * em, bottom);
 

@@ -32,6 +32,15 @@ CurveChart EmptyChart(const Words& words) {
   return chart;
 }
 
+CurveChart EmptyChartOf(const elements::Setup& setup, const std::string& note, const Words& words) {
+  CurveChart chart = EmptyChart(words);
+  chart.words.note = note;
+  if (!setup.calculation) return chart;
+  chart.words.level_axis = ValueHeading(elements::RowOf(*setup.calculation).family, words);
+  chart.words.calculated = words(kCalculatedCurveRow);
+  return chart;
+}
+
 std::optional<CurveChart> CurveChartOf(const elements::Setup& setup, const elements::ResultSet& result,
                                        const Words& words) {
   if (!setup.calculation || !result.spectrum || !result.shift) return std::nullopt;

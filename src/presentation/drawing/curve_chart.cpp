@@ -159,6 +159,8 @@ void DrawCurveChart(QPainter& painter, const QRectF& area, const CurveChart& cha
   painter.setRenderHint(QPainter::Antialiasing);
   DrawLabels(painter, layout, chart, range);
   DrawLegend(painter, layout);
+  painter.setPen(kInkColour);
+  DrawTextIn(painter, layout.plot, Qt::AlignCenter, FromWords(chart.words.note));
   painter.restore();
 }
 

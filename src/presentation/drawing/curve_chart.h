@@ -27,6 +27,7 @@ struct ChartWords {
   std::string laboratory{};
   std::string in_situ{};
   std::string base{};
+  std::string note{};  ///< in the middle of the plot, as where there is no curve
 };
 
 /// A result as curves over the bands. A value of exactly 0 is a band without a value. Levels in dB.
@@ -56,6 +57,10 @@ void ShowWhole(CurveChart& chart);
 
 /// A chart without curves for the time before a run: grid and axes alone.
 CurveChart EmptyChart(const Words& words);
+
+/// The same for the calculation of `setup`, with the axes and the room for the legend that a result of it has,
+/// so that nothing moves when the curve comes. @param note what stands in the middle, as why there is no curve
+CurveChart EmptyChartOf(const elements::Setup& setup, const std::string& note, const Words& words);
 
 /// Draws `chart` into `area`, on white, in units of which one is a screen pixel; screen, printer, preview and
 /// report picture all call this. The painter's font gives the family and the size of the labels.

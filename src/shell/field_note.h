@@ -1,0 +1,42 @@
+#pragma once
+
+#include <QPointer>
+#include <QTimer>
+#include <QWidget>
+
+namespace velmar::shell {
+
+/// How long a note stands.
+enum class NoteLife {
+  kWhileRead,     ///< a correction that is done already: it goes by itself
+  kUntilEntered,  ///< something is still to be corrected: it goes with the next key in the field
+};
+
+/// A short message beside a field: a frame around the field and the words under it, above the page, so that
+/// nothing moves. The words become the field's accessible description as long as they stand.
+class FieldNote : public QWidget {
+ public:
+  /// Puts `text` beside `field`, in place of any other note of its window.
+  static void Put(QWidget* field, const QString& text, NoteLife life);
+  /// The words beside `field`, empty when none stand there.
+  static QString TextAt(const QWidget* field);
+
+  ~FieldNote() override;
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  FieldNote(QWidget* field, QWidget* page, QString text);
+  void Place();
+
+  QPointer<QWidget> field_;
+  QString text_;
+  QString described_before_;
+  QRect field_frame_;
+  QRect words_frame_;
+  QTimer end_;
+};
+
+}  // namespace velmar::shell

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QApplication>
+#include <QPalette>
+
+#include "tests/shell/window_fixture.h"
+
+namespace velmar::shell {
+
+/// The look of pictures: the same style everywhere, light or dark.
+inline void SetLooks(bool dark) {
+  QApplication::setStyle("Fusion");
+  if (!dark) return;
+  QPalette palette(QColor(0x2b, 0x2d, 0x31), QColor(0x24, 0x26, 0x2a));
+  palette.setColor(QPalette::Highlight, QColor(0x3d, 0x8b, 0xd6));
+  palette.setColor(QPalette::HighlightedText, Qt::white);
+  QApplication::setPalette(palette);
+}
+
+}  // namespace velmar::shell
