@@ -5,6 +5,7 @@
 #include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QHeaderView>
+#include <QKeySequence>
 #include <QPushButton>
 #include <QTableWidget>
 #include <QVBoxLayout>
@@ -48,6 +49,7 @@ ResultsTableWindow::ResultsTableWindow(const presentation::ResultsTable& table,
   auto* line = new QHBoxLayout;
   copy_ = new QPushButton(Text(words, kCopyRow), this);
   copy_->setObjectName("Command1_1");
+  copy_->setShortcut(QKeySequence::Copy);
   connect(copy_, &QPushButton::clicked, this, [this] {
     QGuiApplication::clipboard()->setText(FromUtf8(presentation::ClipboardText(table_)));
     copy_->setEnabled(false);

@@ -1,30 +1,57 @@
 #!/usr/bin/env bash
-# real_program_test.sh PROGRAM PROJECT: starts the real program on a screen of its own with a project, runs it
-# by key and opens the results table, which only exists when there is a result.
+# real_program_test.sh WINDOW COMMAND PROJECT: starts the real program WINDOW on a screen of its own with a
+# project, runs it by key, opens the results table by key, copies by key what the table shows, and compares the
+# rating and the 21 levels with what the program COMMAND calculates from the same file.
 set -euo pipefail
 
 if [[ -z "${ON_OWN_SCREEN:-}" ]]; then
   exec env ON_OWN_SCREEN=1 xvfb-run -a -s "-screen 0 1366x768x24" "$0" "$@"
 fi
-program=$1 project=$2
+program=$1 command=$2 project=$3
 home=$(mktemp -d)
 trap 'kill "$pid" 2>/dev/null || true; rm -rf "$home"' EXIT
 env HOME="$home" XDG_CONFIG_HOME="$home" XDG_DATA_HOME="$home" XDG_RUNTIME_DIR="$home" QT_QPA_PLATFORM=xcb \
   "$program" "$project" &
 pid=$!
 
-await() {  # name of a window
-  for _ in $(seq 100); do
-    window=$(xdotool search --onlyvisible --name "$1" 2>/dev/null | head -1) && [[ -n $window ]] && return 0
-    kill -0 "$pid" || { echo "the program ended" >&2; return 1; }
+readonly patience_s=120 key_every=20  # tenths of a second between two tries of the same keys
+
+# Waits until the command "$@" succeeds; what is to be tried again meanwhile stands in `try`.
+await() {
+  local end=$((SECONDS + patience_s)) round=0
+  until "$@"; do
+    kill -0 "$pid" 2>/dev/null || { echo "the program ended" >&2; return 1; }
+    ((SECONDS < end)) || { echo "in vain: $*" >&2; return 1; }
+    ((round++ % key_every)) || $try
     sleep 0.1
   done
-  echo "no window called $1" >&2
-  return 1
 }
+nothing() { :; }
 
-await "VELMARpro - Calcolo previsionale elementi - $(basename "$project" .drav)"
-xdotool windowfocus --sync "$window"
-xdotool key F5
-xdotool key F6
-await "Risultati calcolo"
+window_called() { window=$(xdotool search --onlyvisible --name "^$1\$" 2>/dev/null | head -1) && [[ -n $window ]]; }
+table_copied() {
+  copied=$(timeout 5 xclip -selection clipboard -o 2>/dev/null) && grep -q '^Ctr \[dB\]' <<<"$copied"
+}
+run_and_show() { xdotool windowfocus "$main" key F5 key F6 || true; }
+copy() { xdotool windowfocus "$table" key ctrl+c || true; }
+
+try=nothing
+await window_called "VELMARpro - Calcolo previsionale elementi - $(basename "$project" .drav)"
+main=$window
+try=run_and_show
+await window_called "Risultati calcolo"
+table=$window
+try=copy
+await table_copied
+
+# What the table shows: whole ratings, levels with one decimal.
+shown=$(cut -f2 <<<"$copied" | sed -n '2,23p')
+json=$("$command" run "$project" --json --data "$home/VELMARpro")
+expected=$({ grep -oP '"spectrum":\[\K[^]]*' <<<"$json" | tr ',' '\n'; grep -oP '"Rw":\K[-0-9.]+' <<<"$json"; } |
+  LC_ALL=C awk '{ printf "%.1f\n", $1 }' | tr . ,)
+if [[ $shown != "$expected" ]]; then
+  echo "on the screen:" $shown >&2
+  echo "calculated:   " $expected >&2
+  exit 1
+fi
+echo "Rw on the screen: $(tail -1 <<<"$shown") dB"

@@ -1,0 +1,257 @@
+#include "manual_builder/manual_pages.h"
+
+#include <QAbstractTextDocumentLayout>
+#include <QFileInfo>
+#include <QFont>
+#include <QPagedPaintDevice>
+#include <QPainter>
+#include <QTextBlock>
+#include <QTextFrame>
+#include <QTextList>
+#include <QTextTable>
+#include <QUrl>
+#include <array>
+#include <cmath>
+#include <vector>
+
+namespace velmar::manual {
+namespace {
+
+// The document counts in points: sizes of letters are given as its units.
+constexpr QSizeF kPage{595.0, 842.0};
+constexpr double kSideMargin = 62.0;
+constexpr double kTopMargin = 56.0;
+constexpr double kFootHeight = 56.0;
+constexpr QSizeF kText{kPage.width() - 2 * kSideMargin, kPage.height() - kTopMargin - kFootHeight};
+constexpr int kTextPoints = 10;
+constexpr int kFootPoints = 8;
+constexpr int kCodePoints = 8;
+constexpr double kLineHeightPercent = 128.0;
+constexpr double kPictureWidth = 0.8;  ///< of the text's width
+/// A heading or table that starts lower on its page than this goes to the next one.
+constexpr double kLowestHeading = 0.86;
+constexpr double kLowestTable = 0.8;
+
+const QColor kInk(0x16, 0x25, 0x4B);
+const QColor kQuiet(0x6B, 0x72, 0x80);
+const QColor kRule(0xC8, 0xCC, 0xD4);
+const QColor kHeadGround(0xEE, 0xF1, 0xF6);
+const QColor kCodeGround(0xF4, 0xF5, 0xF7);
+
+/// Size and space above of a heading, by its level.
+struct HeadingLook {
+  int points = 0;
+  double above = 0.0;
+  double below = 0.0;
+};
+constexpr std::array kHeadings = {HeadingLook{22, 0.0, 12.0}, HeadingLook{14, 20.0, 6.0},
+                                  HeadingLook{11, 14.0, 4.0}};
+
+const HeadingLook& LookOf(int level) {
+  const auto place = static_cast<std::size_t>(level - 1);
+  return place < kHeadings.size() ? kHeadings.at(place) : kHeadings.back();
+}
+
+template <typename Visit>
+void ForEachFragment(const QTextBlock& block, Visit&& visit) {
+  for (auto it = block.begin(); !it.atEnd(); ++it) visit(it.fragment());
+}
+
+bool IsCode(const QTextBlock& block) {
+  return block.blockFormat().hasProperty(QTextFormat::BlockCodeFence) ||
+         block.blockFormat().nonBreakableLines();
+}
+
+void DressCode(QTextBlock block) {
+  QTextCursor cursor(block);
+  QTextBlockFormat look;
+  look.setNonBreakableLines(false);
+  look.setBackground(kCodeGround);
+  look.setLeftMargin(6.0);
+  look.setLineHeight(kLineHeightPercent, QTextBlockFormat::ProportionalHeight);
+  cursor.mergeBlockFormat(look);
+  cursor.movePosition(QTextCursor::EndOfBlock, QTextCursor::KeepAnchor);
+  QTextCharFormat letters;
+  letters.setFontFamilies({"Liberation Mono"});
+  letters.setProperty(QTextFormat::FontPixelSize, kCodePoints);
+  cursor.mergeCharFormat(letters);
+}
+
+void DressHeading(QTextBlock block) {
+  const HeadingLook& look = LookOf(block.blockFormat().headingLevel());
+  QTextCursor cursor(block);
+  QTextBlockFormat space;
+  space.setTopMargin(look.above);
+  space.setBottomMargin(look.below);
+  cursor.mergeBlockFormat(space);
+  std::vector<QTextFragment> fragments;
+  ForEachFragment(block, [&fragments](const QTextFragment& fragment) { fragments.push_back(fragment); });
+  for (const QTextFragment& fragment : fragments) {
+    QTextCharFormat letters = fragment.charFormat();
+    // Relative to the text, which would win over a size.
+    letters.clearProperty(QTextFormat::FontSizeAdjustment);
+    letters.setProperty(QTextFormat::FontPixelSize, look.points);
+    letters.setFontWeight(QFont::Bold);
+    letters.setForeground(kInk);
+    cursor.setPosition(fragment.position());
+    cursor.setPosition(fragment.position() + fragment.length(), QTextCursor::KeepAnchor);
+    cursor.setCharFormat(letters);
+  }
+}
+
+void DressText(QTextBlock block) {
+  QTextCursor cursor(block);
+  QTextBlockFormat look;
+  look.setLineHeight(kLineHeightPercent, QTextBlockFormat::ProportionalHeight);
+  look.setTopMargin(0.0);
+  look.setBottomMargin(block.textList() != nullptr ? 3.0 : 7.0);
+  cursor.mergeBlockFormat(look);
+}
+
+}  // namespace
+
+ManualPages::ManualPages(const QString& markdown, const QString& folder, QString product)
+    : product_(std::move(product)) {
+  QFont letters("Liberation Sans");
+  letters.setPixelSize(kTextPoints);
+  letters.setHintingPreference(QFont::PreferNoHinting);
+  document_.setDefaultFont(letters);
+  document_.setBaseUrl(QUrl::fromLocalFile(folder + '/'));
+  document_.setDocumentMargin(0.0);
+  document_.setMarkdown(markdown, QTextDocument::MarkdownDialectGitHub);
+  DressBlocks();
+  DressPictures(folder);
+  DressTables();
+  document_.setPageSize(kText);
+  KeepTogether();
+}
+
+void ManualPages::DressBlocks() {
+  for (QTextBlock block = document_.begin(); block.isValid(); block = block.next()) {
+    if (block.blockFormat().headingLevel() > 0) {
+      DressHeading(block);
+    } else if (IsCode(block)) {
+      DressCode(block);
+    } else {
+      DressText(block);
+    }
+  }
+}
+
+void ManualPages::DressPictures(const QString& folder) {
+  for (QTextBlock block = document_.begin(); block.isValid(); block = block.next()) {
+    ForEachFragment(block, [this, &block, &folder](const QTextFragment& fragment) {
+      if (!fragment.charFormat().isImageFormat()) return;
+      QTextImageFormat picture = fragment.charFormat().toImageFormat();
+      const QString words = picture.property(QTextFormat::ImageAltText).toString();
+      if (!QFileInfo::exists(folder + '/' + picture.name())) missing_pictures_ += picture.name();
+      picture.setWidth(kText.width() * kPictureWidth);
+      QTextCursor cursor(&document_);
+      cursor.setPosition(fragment.position());
+      cursor.setPosition(fragment.position() + fragment.length(), QTextCursor::KeepAnchor);
+      cursor.setCharFormat(picture);
+      QTextBlockFormat centred;
+      centred.setAlignment(Qt::AlignHCenter);
+      centred.setTopMargin(8.0);
+      centred.setBottomMargin(10.0);
+      // A line height in parts of the line would stretch the picture's own.
+      centred.setLineHeight(0.0, QTextBlockFormat::SingleHeight);
+      cursor.mergeBlockFormat(centred);
+      cursor.setPosition(block.position() + block.length() - 1);
+      QTextCharFormat caption;
+      caption.setProperty(QTextFormat::FontPixelSize, kFootPoints + 1);
+      caption.setForeground(kQuiet);
+      if (!words.isEmpty()) cursor.insertText(QString(QChar::LineSeparator) + words, caption);
+    });
+  }
+}
+
+void ManualPages::DressTables() {
+  for (QTextFrame* frame : document_.rootFrame()->childFrames()) {
+    auto* table = qobject_cast<QTextTable*>(frame);
+    if (table == nullptr) continue;
+    QTextTableFormat look = table->format();
+    look.setWidth(QTextLength(QTextLength::PercentageLength, 100.0));
+    look.setBorder(1.0);
+    look.setBorderStyle(QTextFrameFormat::BorderStyle_Solid);
+    look.setBorderBrush(kRule);
+    look.setBorderCollapse(true);
+    look.setCellPadding(4.0);
+    look.setCellSpacing(0.0);
+    look.setTopMargin(4.0);
+    look.setBottomMargin(10.0);
+    look.setHeaderRowCount(1);
+    table->setFormat(look);
+    for (int row = 0; row < table->rows(); ++row) {
+      for (int column = 0; column < table->columns(); ++column) {
+        QTextTableCell cell = table->cellAt(row, column);
+        QTextCursor cursor = cell.firstCursorPosition();
+        QTextBlockFormat tight;
+        tight.setBottomMargin(0.0);
+        tight.setAlignment(Qt::AlignLeft);
+        cursor.mergeBlockFormat(tight);
+        if (row > 0) continue;
+        QTextTableCellFormat ground = cell.format().toTableCellFormat();
+        ground.setBackground(kHeadGround);
+        cell.setFormat(ground);
+      }
+    }
+  }
+}
+
+void ManualPages::KeepTogether() {
+  const auto height_on_page = [this](const QRectF& place) {
+    return std::fmod(place.top(), kText.height()) / kText.height();
+  };
+  const QAbstractTextDocumentLayout& layout = *document_.documentLayout();
+  for (QTextBlock block = document_.begin(); block.isValid(); block = block.next()) {
+    const bool heading = block.blockFormat().headingLevel() > 0;
+    if (!heading || height_on_page(layout.blockBoundingRect(block)) < kLowestHeading) continue;
+    QTextBlockFormat look;
+    look.setPageBreakPolicy(QTextFormat::PageBreak_AlwaysBefore);
+    QTextCursor(block).mergeBlockFormat(look);
+  }
+  for (QTextFrame* frame : document_.rootFrame()->childFrames()) {
+    if (height_on_page(layout.frameBoundingRect(frame)) < kLowestTable) continue;
+    QTextFrameFormat look = frame->frameFormat();
+    look.setPageBreakPolicy(QTextFormat::PageBreak_AlwaysBefore);
+    frame->setFrameFormat(look);
+  }
+}
+
+bool ManualPages::PaintOn(QPagedPaintDevice& device) const {
+  QPainter painter;
+  if (!painter.begin(&device)) return false;
+  painter.scale(device.width() / kPage.width(), device.height() / kPage.height());
+  for (int page = 0; page < Count(); ++page) {
+    if (page > 0 && !device.newPage()) return false;
+    PaintPage(painter, page);
+  }
+  return painter.end();
+}
+
+void ManualPages::PaintPage(QPainter& painter, int page) const {
+  painter.save();
+  painter.translate(kSideMargin, kTopMargin - page * kText.height());
+  const QRectF seen(0.0, page * kText.height(), kText.width(), kText.height());
+  // One unit less: a picture that begins on the next page would show its edge.
+  painter.setClipRect(seen.adjusted(0.0, 0.0, 0.0, -1.0));
+  QAbstractTextDocumentLayout::PaintContext context;
+  context.clip = seen;
+  context.palette.setColor(QPalette::Text, Qt::black);
+  document_.documentLayout()->draw(&painter, context);
+  painter.restore();
+
+  QFont letters = document_.defaultFont();
+  letters.setPixelSize(kFootPoints);
+  painter.setFont(letters);
+  painter.setPen(QPen(kRule, 0.5));
+  const double line = kPage.height() - kFootHeight + 14.0;
+  painter.drawLine(QPointF(kSideMargin, line), QPointF(kPage.width() - kSideMargin, line));
+  painter.setPen(kQuiet);
+  const QRectF foot(kSideMargin, line + 5.0, kText.width(), 14.0);
+  painter.drawText(foot, Qt::AlignLeft | Qt::AlignVCenter, product_);
+  painter.drawText(foot, Qt::AlignRight | Qt::AlignVCenter, QString("%1 / %2").arg(page + 1).arg(Count()));
+}
+
+}  // namespace velmar::manual
