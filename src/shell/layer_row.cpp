@@ -200,17 +200,23 @@ void LayerRow::Drag() {
   drag->exec(Qt::CopyAction);
 }
 
-void AddLayerHeads(QGridLayout& grid, int line, const PageContext& context, bool with_sheets, QWidget* page) {
+std::vector<QWidget*> AddLayerHeads(QGridLayout& grid, int line, const PageContext& context, bool with_sheets,
+                                    QWidget* page) {
   const auto& words = context.Words();
   QString material = Text(words, kMaterialRow);
   if (material.endsWith(':')) material.chop(1);
-  grid.addWidget(Head(material, Qt::AlignLeft, page), line, LayerRow::kMaterialColumn);
-  grid.addWidget(Head(Text(words, kThicknessRow), Qt::AlignRight, page), line, LayerRow::kThicknessColumn);
-  if (with_sheets)
-    grid.addWidget(Head(Text(words, kSheetsRow), Qt::AlignRight, page), line, LayerRow::kSheetsColumn);
+  std::vector<QWidget*> heads;
+  const auto add = [&](const QString& text, Qt::Alignment alignment, int column) {
+    heads.push_back(Head(text, alignment, page));
+    grid.addWidget(heads.back(), line, column);
+  };
+  add(material, Qt::AlignLeft, LayerRow::kMaterialColumn);
+  add(Text(words, kThicknessRow), Qt::AlignRight, LayerRow::kThicknessColumn);
+  if (with_sheets) add(Text(words, kSheetsRow), Qt::AlignRight, LayerRow::kSheetsColumn);
   grid.setColumnStretch(LayerRow::kMaterialColumn, 1);
   grid.setHorizontalSpacing(8);
   grid.setVerticalSpacing(6);
+  return heads;
 }
 
 }  // namespace velmar::shell

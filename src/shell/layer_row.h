@@ -2,6 +2,7 @@
 
 #include <QObject>
 #include <functional>
+#include <vector>
 
 #include "elements/layer_groups.h"
 #include "shell/page_context.h"
@@ -68,7 +69,9 @@ class LayerRow : public QObject {
 };
 
 /// The heads over the columns of layer rows: material, thickness, and sheets where the rows have them.
-void AddLayerHeads(QGridLayout& grid, int line, const PageContext& context, bool with_sheets, QWidget* page);
+/// @return the heads, to be hidden where there is no row
+std::vector<QWidget*> AddLayerHeads(QGridLayout& grid, int line, const PageContext& context, bool with_sheets,
+                                    QWidget* page);
 
 /// The control name of element `index` of a control array.
 QString ArrayName(std::string_view name, int index);

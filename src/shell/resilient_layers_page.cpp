@@ -31,7 +31,7 @@ ResilientLayersPage::ResilientLayersPage(PageContext& context, QWidget* parent)
   });
 
   auto* grid = new QGridLayout;
-  AddLayerHeads(*grid, 0, context, /*with_sheets=*/true, this);
+  heads_ = AddLayerHeads(*grid, 0, context, /*with_sheets=*/true, this);
   for (int i = 0; i < kCapacity; ++i) {
     const LayerRowPlan plan{.group = elements::LayerGroup::kResilient, .index = i, .count_box = "Combo13"};
     rows_.push_back(new LayerRow(plan, context, *grid, i + 1, this));
@@ -43,6 +43,7 @@ ResilientLayersPage::ResilientLayersPage(PageContext& context, QWidget* parent)
 void ResilientLayersPage::Show(const elements::Setup& setup) {
   count_->Show(std::to_string(setup.resilient.count));
   ShowFilter(*filter_, FilterId::kResilient, context_);
+  for (QWidget* head : heads_) head->setVisible(setup.resilient.count > 0);
   for (int i = 0; i < static_cast<int>(rows_.size()); ++i)
     rows_.at(static_cast<std::size_t>(i))->Show(setup, i < setup.resilient.count);
 }

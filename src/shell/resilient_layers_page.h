@@ -23,6 +23,7 @@ class ResilientLayersPage : public Page {
   CountBox* count_ = nullptr;
   ChoiceBox* filter_ = nullptr;
   std::vector<LayerRow*> rows_;
+  std::vector<QWidget*> heads_;
 };
 
 }  // namespace velmar::shell

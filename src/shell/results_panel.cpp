@@ -112,7 +112,8 @@ QWidget* ResultsPanel::MakeRatings() {
   for (QWidget* widget :
        {static_cast<QWidget*>(c_), static_cast<QWidget*>(ctr_), improvement_frame_, impact_frame_}) {
     widget->setFont(Enlarged(font(), kTermScale));
-    line->addSpacing(3 * kPageSpacing);
+    // Within the widget, so that one that is hidden leaves no gap.
+    widget->setContentsMargins(3 * kPageSpacing, 0, 0, 0);
     line->addWidget(widget);
   }
   line->addStretch(1);

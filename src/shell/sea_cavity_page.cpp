@@ -89,7 +89,7 @@ void SeaCavityPage::AddHead(QVBoxLayout& column) {
 }
 
 void SeaCavityPage::AddRows() {
-  AddLayerHeads(*grid_, 0, context_, /*with_sheets=*/false, this);
+  heads_ = AddLayerHeads(*grid_, 0, context_, /*with_sheets=*/false, this);
   const auto add = [this](LayerGroup group, std::vector<LayerRow*>& rows, const char* check,
                           const QString& label) {
     for (int i = 0; i < RowOf(group).capacity; ++i) {
@@ -124,6 +124,7 @@ void SeaCavityPage::Show(const elements::Setup& setup) {
   type_->Show(static_cast<int>(cavity.type));
   depth_->Show(cavity.depth_text);
   Arrange(cavity.type);
+  for (QWidget* head : heads_) head->setVisible(cavity.type != SeaCavityType::kEmpty);
   const auto show = [&setup](std::vector<LayerRow*>& rows, int count) {
     for (int i = 0; i < static_cast<int>(rows.size()); ++i)
       rows.at(static_cast<std::size_t>(i))->Show(setup, i < count);

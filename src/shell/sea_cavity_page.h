@@ -34,6 +34,7 @@ class SeaCavityPage : public Page {
   std::vector<LayerRow*> fibres_;
   std::vector<LayerRow*> masses_;
   std::vector<LayerRow*> damping_;
+  std::vector<QWidget*> heads_;
 };
 
 /// The words of the cavity types in their order, the first `count` of them: "Intercapedine vuota", "Fibroso",

@@ -25,9 +25,8 @@ constexpr MessageRow kNoExamplesRow{1305};
 constexpr MessageRow kListRow{1358};
 constexpr int kMargin = 32;
 constexpr int kGap = 16;
-constexpr int kWidest = 1040;
+constexpr QSize kLargest{1040, 860};
 constexpr int kContentStretch = 100;
-constexpr int kTallestList = 520;
 constexpr double kHeadingScale = 1.25;
 
 struct Kind {
@@ -58,7 +57,7 @@ StartScreen::StartScreen(const presentation::Words& words, const CalculationActi
   auto* grid = new QGridLayout(this);
   grid->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
   auto* content = new QWidget(this);
-  content->setMaximumWidth(kWidest);
+  content->setMaximumSize(kLargest);
   auto* column = new QVBoxLayout(content);
   column->setContentsMargins(0, 0, 0, 0);
   column->setSpacing(kGap);
@@ -73,19 +72,22 @@ StartScreen::StartScreen(const presentation::Words& words, const CalculationActi
   column->addLayout(lists, 1);
   // Large screens leave room around, small ones give it to the lists.
   grid->setColumnStretch(0, 1);
-  grid->addWidget(content, 0, 1);
+  grid->setRowStretch(0, 1);
+  grid->addWidget(content, 1, 1);
+  grid->setRowStretch(1, kContentStretch);
+  grid->setRowStretch(2, 2);
   grid->setColumnStretch(1, kContentStretch);
   grid->setColumnStretch(2, 1);
 }
 
 ProjectList* StartScreen::AddList(QGridLayout& lists, int place, MessageRow heading) {
   auto* list = new ProjectList(doors_.open, this);
-  list->setMaximumHeight(kTallestList);
   QLabel* label = Heading(Text(words_, heading), this);
   label->setBuddy(list);
   list->setAccessibleName(label->text());
   lists.addWidget(label, 0, place);
-  lists.addWidget(list, 1, place, Qt::Alignment());
+  lists.addWidget(list, 1, place);
+  lists.setRowStretch(1, 1);
   return list;
 }
 

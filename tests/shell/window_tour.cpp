@@ -96,6 +96,8 @@ class Tour {
     Show(DimensionDialog(fixture_.open, words), "dimensioni");
     Show(ProjectInformationDialog(fixture_.open, words), "informazioni");
     Show(AboutBox(words, fixture_.services.version, "https://example.org", {}), "informazioni-su");
+    fixture_.Choose("TIPO_PARETE_SINGOLA_0");
+    fixture_.Run();
     fixture_.Choose("tab_risultati");
     if (auto* table = fixture_.window->findChild<QDialog*>("Form4")) Take(*table, "tabella");
   }
