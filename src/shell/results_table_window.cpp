@@ -10,6 +10,7 @@
 #include <QTableWidget>
 #include <QVBoxLayout>
 
+#include "acoustics/bands.h"
 #include "shell/phrases.h"
 
 namespace velmar::shell {
@@ -19,9 +20,13 @@ constexpr MessageRow kCaptionRow{291};
 constexpr MessageRow kSpectrumRow{292};
 constexpr MessageRow kCopyRow{293};
 constexpr MessageRow kCloseRow{369};
+constexpr int kRowPadding = 4;
 
-QTableWidgetItem* Cell(const std::string& text) {
+QTableWidgetItem* Cell(const std::string& text, bool strong) {
   auto* item = new QTableWidgetItem(FromUtf8(text));
+  QFont letters = item->font();
+  letters.setBold(strong);
+  item->setFont(letters);
   item->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
   item->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable);
   return item;
@@ -62,7 +67,7 @@ ResultsTableWindow::ResultsTableWindow(const presentation::ResultsTable& table,
   line->addStretch(1);
   line->addWidget(close_button);
   column->addLayout(line);
-  resize(320, 640);
+  resize(320, 560);
 }
 
 void ResultsTableWindow::Show(const presentation::ResultsTable& table) {
@@ -77,11 +82,16 @@ void ResultsTableWindow::FillTable() {
   view_->setRowCount(static_cast<int>(table_.rows.size()));
   view_->setHorizontalHeaderLabels({FromUtf8(table_.frequency_heading), FromUtf8(table_.value_heading)});
   view_->verticalHeader()->hide();
+  view_->verticalHeader()->setMinimumSectionSize(0);
+  view_->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + kRowPadding);
+  view_->setAlternatingRowColors(true);
+  view_->setShowGrid(false);
   view_->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
   for (int i = 0; i < view_->rowCount(); ++i) {
     const presentation::ResultsTableRow& row = table_.rows.at(static_cast<std::size_t>(i));
-    view_->setItem(i, 0, Cell(row.title));
-    view_->setItem(i, 1, Cell(row.value));
+    const bool rating = i >= static_cast<int>(acoustics::kBandCount);
+    view_->setItem(i, 0, Cell(row.title, rating));
+    view_->setItem(i, 1, Cell(row.value, rating));
     view_->setRowHidden(i, !row.visible);
   }
 }

@@ -13,6 +13,7 @@
 #include "application/projects.h"
 #include "calculation/material_choice.h"
 #include "foundation/failure.h"
+#include "shell/dark_outlines.h"
 #include "shell/loader_window.h"
 #include "shell/main_window.h"
 #include "shell/paper_commands.h"
@@ -176,6 +177,7 @@ int RunWindow(QApplication& application, Desktop& desktop) {
 }  // namespace
 
 int RunDesktop(QApplication& application) {
+  AddDarkOutlines(application);
   try {
     Desktop desktop(OpenEnvironmentOnScreen(QApplication::applicationVersion()));
     return RunWindow(application, desktop);

@@ -1,5 +1,6 @@
 #include <QAction>
 #include <QTest>
+#include <QUrl>
 
 #include "tests/shell/window_fixture.h"
 
@@ -32,6 +33,27 @@ class CommandsTest : public QObject {
     QCOMPARE(fixture.told.size(), 1);
     fixture.Find<QAction>("ges_database")->trigger();
     QCOMPARE(fixture.told.size(), 2);
+  }
+
+  void theManualIsHandedToTheSystem() {
+    const QTemporaryDir folder;
+    WindowFixture fixture;
+    const QString manual = folder.filePath("VELMARpro - Manuale d'uso.pdf");
+    QFile file(manual);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    fixture.services.places.manual = manual.toStdString();
+    QString opened;
+    bool opens = true;
+    fixture.services.open_address = [&](const QString& address) {
+      opened = address;
+      return opens;
+    };
+    fixture.Find<QAction>("tutorial")->trigger();
+    QCOMPARE(QUrl(opened).toLocalFile(), manual);
+    QVERIFY(fixture.told.isEmpty());
+    opens = false;
+    fixture.Find<QAction>("tutorial")->trigger();
+    QVERIFY(fixture.told.join(' ').contains(manual));
   }
 
   void theKindButtonsBeginWithTheirFirstCalculation() {

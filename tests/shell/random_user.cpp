@@ -6,7 +6,6 @@
 #include <QComboBox>
 #include <QDialog>
 #include <QDir>
-#include <QDropEvent>
 #include <QLineEdit>
 #include <QMimeData>
 #include <QTabBar>
@@ -261,8 +260,7 @@ void RandomUser::DropMaterial() {
   if (box == nullptr || box->count() == 0) return;
   const auto family = static_cast<elements::MaterialFamily>(Pick(3));
   const std::unique_ptr<QMimeData> mime(ToMime({family, box->itemText(Pick(box->count()))}));
-  QDropEvent drop({5, 5}, Qt::CopyAction, mime.get(), Qt::LeftButton, Qt::NoModifier);
-  if (box->acceptDrops()) QApplication::sendEvent(box, &drop);
+  WindowFixture::Drop(box, *mime);
 }
 
 }  // namespace velmar::shell

@@ -19,6 +19,17 @@ constexpr const char* kResultCommands[] = {"Salva", "mnuFileEsportaWord", "esp_e
 constexpr const char* kSingleGeneric = "TIPO_PARETE_SINGOLA_0";
 constexpr const char* kDoubleGeneric = "TIPO_PARETE_DOPPIA_0";
 
+/// Pixels of the chart in the colour of the calculated curve.
+int CurvePixels(const WindowFixture& fixture) {
+  constexpr QRgb kCurve = qRgb(0xA9, 0x03, 0x84);
+  const QImage picture = fixture.Find<QWidget>("Picture1")->grab().toImage();
+  int pixels = 0;
+  for (int y = 0; y < picture.height(); ++y) {
+    for (int x = 0; x < picture.width(); ++x) pixels += picture.pixel(x, y) == kCurve ? 1 : 0;
+  }
+  return pixels;
+}
+
 }  // namespace
 
 /// When a result goes, and what shows it.
@@ -32,6 +43,7 @@ class ResultLifeTest : public QObject {
     fixture.Run();
     for (const char* name : kResultCommands) QVERIFY(fixture.Find<QAction>(name)->isEnabled());
     QVERIFY(!fixture.Find<QLabel>("Label4")->text().isEmpty());
+    QVERIFY(CurvePixels(fixture) > 100);
     fixture.Find<QAction>("tab_risultati")->trigger();
     QVERIFY(!fixture.Find<QAction>("tab_risultati")->isEnabled());
     fixture.Type("Text5_0", "8");
@@ -39,6 +51,7 @@ class ResultLifeTest : public QObject {
     for (const char* name : kResultCommands) QVERIFY(!fixture.Find<QAction>(name)->isEnabled());
     QTRY_VERIFY(fixture.window->findChild<QWidget*>("Form4") == nullptr);
     QVERIFY(!fixture.Find<QWidget>("Check3")->isEnabled());
+    QCOMPARE(CurvePixels(fixture), 0);
   }
 
   void aDeclinedRangeLeavesNoResult() {
@@ -79,6 +92,7 @@ class ResultLifeTest : public QObject {
     fixture.Type("Text13_5", "1E");
     QVERIFY(!fixture.open.Result());
     QCOMPARE(fixture.Find<QLineEdit>("Text13_5")->text(), QString());
+    QVERIFY2(fixture.told.isEmpty(), "a level that is no number is cleared without a box");
   }
 
   void aTightnessClassTakesTheResultAway() {
@@ -106,6 +120,8 @@ class ResultLifeTest : public QObject {
     QVERIFY(rows.at(0).startsWith("Frequenza [Hz]\tLi [dB]\tRif [dB]"));
     QVERIFY(rows.at(22).startsWith("Lnw [dB]\t"));
     QCOMPARE(rows.at(24).count('\t'), 1);
+    fixture.Find<QWidget>("Form4")->findChild<QAbstractButton*>("Command1_0")->click();
+    QTRY_VERIFY(fixture.Find<QAction>("tab_risultati")->isEnabled());
   }
 };
 

@@ -1,6 +1,8 @@
 #include "tests/shell/window_fixture.h"
 
 #include <QAction>
+#include <QApplication>
+#include <QDropEvent>
 #include <QLineEdit>
 #include <QTest>
 #include <clocale>
@@ -111,6 +113,15 @@ void WindowFixture::Choose(elements::Calculation calculation) {
 }
 
 void WindowFixture::Run() { Find<QAction>("esegui_calcolo")->trigger(); }
+
+void WindowFixture::Drop(QWidget* target, const QMimeData& dragged) {
+  const QPoint place(5, 5);
+  QDragEnterEvent enter(place, Qt::CopyAction, &dragged, Qt::LeftButton, Qt::NoModifier);
+  QApplication::sendEvent(target, &enter);
+  if (!enter.isAccepted()) return;
+  QDropEvent drop(place, Qt::CopyAction, &dragged, Qt::LeftButton, Qt::NoModifier);
+  QApplication::sendEvent(target, &drop);
+}
 
 void WindowFixture::Type(const QString& name, const QString& keys) const {
   auto* field = Find<QLineEdit>(name);

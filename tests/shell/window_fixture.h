@@ -6,6 +6,8 @@
 
 #include "shell/main_window.h"
 
+class QMimeData;
+
 namespace velmar::shell {
 
 /// A main window with the shipped materials and words, and boxes that answer without opening.
@@ -24,6 +26,8 @@ struct WindowFixture {
     if (widget == nullptr) qFatal("no control called %s", qPrintable(name));
     return widget;
   }
+  /// Drops what is dragged on `target`, as a hand does.
+  static void Drop(QWidget* target, const QMimeData& dragged);
   /// Replaces the text of the field `name` as a hand does: select all, then keys.
   void Type(const QString& name, const QString& keys) const;
 
