@@ -94,7 +94,8 @@ class Composer {
   /// Chart and result at the left, the bands at the right.
   void DrawResult() {
     const double line = 1.35 * LineHeight(PageFont(kResultPoints, true));
-    const double results = line * static_cast<double>(page_.results.size());
+    const double note = page_.results_note.empty() ? 0.0 : 1.2 * LineHeight(PageFont(kTextPoints));
+    const double results = line * static_cast<double>(page_.results.size()) + note;
     if (!page_.chart && page_.bands.heads.empty()) {
       DrawResultLines(room_, line);
       Take(results + (page_.results.empty() ? 0.0 : kGap));
@@ -129,13 +130,16 @@ class Composer {
                   FromWords(result), Qt::AlignLeft | Qt::AlignVCenter);
       area.setTop(area.top() + line);
     }
+    if (page_.results_note.empty()) return;
+    DrawWrapped(painter_, {area.topLeft(), QSizeF(area.width(), LineHeight(PageFont(kTextPoints)))},
+                PageFont(kTextPoints), FromWords(page_.results_note), Qt::AlignLeft | Qt::AlignVCenter);
   }
 
   void DrawElement() {
     if (!page_.elements.heads.empty()) {
       const bool facade = page_.structure.empty();
       const std::vector<double> weights =
-          facade ? std::vector{3.4, 0.8, 0.9, 0.8, 1.7} : std::vector<double>{};
+          facade ? std::vector{3.0, 0.8, 0.9, 0.8, 2.1} : std::vector<double>{};
       const double height = DrawTable(painter_, room_, page_.elements,
                                       {.points = kTextPoints + 1.0,
                                        .weights = weights,

@@ -40,6 +40,8 @@ constexpr MessageRow kHeightRow{412};
 constexpr MessageRow kDecoupledRow{414};
 /// "rif [dB]", the reference column of the printed page.
 constexpr MessageRow kReferenceColumnRow{1500};
+/// The adaptation terms of a lining stand against the rating of its base.
+constexpr MessageRow kLiningTermsRow{1505};
 
 bool IsLining(Family family) { return family == Family::kLining || family == Family::kCeiling; }
 
@@ -164,6 +166,7 @@ PaginaDiStampa PaginaDi(const Setup& setup, const PageTotals& totals, const elem
   page.fields = FieldsOf(setup, row, totals, words);
   if (result != nullptr) {
     page.chart = chart ? std::move(chart) : CurveChartOf(setup, *result, words);
+    if (IsLining(row.family) && result->c) page.results_note = words(kLiningTermsRow);
     if (page.chart) AddComparisons(*page.chart, words, page.fields);
     page.bands = BandsOf(setup, row.family, *result, words);
     for (std::string line : {ResultLine(row.family, *result), ImprovementLine(row.family, *result)}) {

@@ -27,7 +27,8 @@ std::string ChartSvg(const CurveChart& chart, const std::string& title) {
   generator.setResolution(static_cast<int>(kPixelsPerInch));
   generator.setSize(kPixels.toSize());
   generator.setViewBox(QRectF(QPointF(), kPixels));
-  generator.setTitle(QString::fromStdString(title));
+  // The generator writes the title as it stands.
+  generator.setTitle(QString::fromStdString(title).toHtmlEscaped());
   QPainter painter(&generator);
   QFont font = PageFont(kTextPoints);
   font.setPixelSize(static_cast<int>(kLabelPixels));

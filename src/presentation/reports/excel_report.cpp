@@ -2,6 +2,7 @@
 
 #include "elements/catalogue.h"
 #include "foundation/decimal.h"
+#include "presentation/reports/cell_text.h"
 #include "presentation/reports/layer_table.h"
 #include "presentation/reports/workbook.h"
 
@@ -13,6 +14,8 @@ constexpr CellPlace kKind{4, 4};
 constexpr CellPlace kTheory{5, 4};
 constexpr CellPlace kElementType{6, 4};
 constexpr CellPlace kDescription{7, 4};
+/// The template joins the cells of the description up to here.
+constexpr int kLastDescriptionColumn = 10;
 constexpr CellPlace kSectionTitle{12, 8};
 constexpr CellPlace kSurfaceMass{25, 8};
 constexpr CellPlace kThickness{27, 8};
@@ -29,6 +32,7 @@ constexpr int kValueColumn = 9;
 constexpr CellPlace kArea{58, 9};
 constexpr const char* kOneDecimal = "0.0";
 constexpr const char* kWhole = "0";
+constexpr const char* kNothing = "–";
 
 void SetNumber(Workbook& workbook, CellPlace place, std::optional<double> value, const char* format) {
   if (!value) {
@@ -91,17 +95,21 @@ std::string WriteExcelReport(std::string_view xlsx, const ReportRecord& record) 
   sheet.SetText(kTheory, record.theory);
   sheet.SetText(kElementType, record.element_type);
   sheet.SetText(kDescription, record.description);
+  FitHeight(sheet, kDescription.row, record.description, kDescription.column, kLastDescriptionColumn);
   sheet.SetText(kSectionTitle, record.section_title);
   WriteLayerTable(workbook, record);
   SetNumber(workbook, kSurfaceMass, record.surface_mass_kg_m2, kOneDecimal);
-  SetNumber(workbook, kThickness, record.totals ? std::optional(record.totals->thickness_mm) : std::nullopt,
-            kOneDecimal);
+  if (record.totals) {
+    SetNumber(workbook, kThickness, record.totals->thickness_mm, kOneDecimal);
+  } else {
+    sheet.SetText(kThickness, kNothing);
+  }
   WriteBands(workbook, record);
   if (!record.generic_note.empty()) sheet.SetText(kGenericNote, record.generic_note);
   WriteRatings(workbook, record);
   SetDimension(workbook, kWidthRow, record.width_caption, record.width);
   SetDimension(workbook, kHeightRow, record.height_caption, record.height);
-  SetEntered(workbook, kArea, record.area);
+  SetEntered(workbook, kArea, record.area.empty() ? kNothing : record.area);
   return workbook.Bytes();
 }
 

@@ -1,13 +1,11 @@
 #include "presentation/reports/layer_table.h"
 
-#include <algorithm>
-#include <cmath>
 #include <string>
-#include <string_view>
 #include <vector>
 
 #include "elements/catalogue.h"
 #include "foundation/decimal.h"
+#include "presentation/reports/cell_text.h"
 #include "presentation/reports/word_placeholders.h"
 
 namespace velmar::presentation {
@@ -19,7 +17,6 @@ constexpr int kAreaColumn = 5;
 constexpr int kShareColumn = 6;
 constexpr int kThicknessColumn = 6;
 constexpr int kMassColumn = 7;
-constexpr double kLineHeightPoints = 15.0;
 constexpr const char* kOneDecimal = "0.0";
 constexpr const char* kAsNeeded = "General";
 
@@ -94,24 +91,6 @@ void SetNumberOrText(Workbook& workbook, CellPlace place, const std::string& tex
   }
 }
 
-std::size_t CharactersIn(std::string_view text) {
-  return static_cast<std::size_t>(std::ranges::count_if(
-      text, [](char byte) { return (static_cast<unsigned char>(byte) & 0xC0U) != 0x80U; }));
-}
-
-/// How many lines `text` takes in a cell `width` characters wide.
-int LinesOf(const std::string& text, double width) {
-  int lines = 0;
-  for (std::size_t begin = 0; begin <= text.size();) {
-    const std::size_t end = std::min(text.find('\n', begin), text.size());
-    const auto characters =
-        static_cast<double>(CharactersIn(std::string_view(text).substr(begin, end - begin)));
-    lines += std::max(1, static_cast<int>(std::ceil(characters / width)));
-    begin = end + 1;
-  }
-  return lines;
-}
-
 void Draw(Workbook& workbook, int row, int last_name_column) {
   for (int column = kNameColumn; column <= kMassColumn; ++column) {
     workbook.ChangeStyle({row, column}, {.left = column == kNameColumn,
@@ -144,8 +123,6 @@ void WriteLayerTable(Workbook& workbook, const ReportRecord& record) {
   Worksheet& sheet = workbook.Sheet();
   WriteHeading(workbook, record, facade);
   sheet.Merge(kLayerHeadingRow, kNameColumn, last_name_column);
-  double name_width = 0.0;
-  for (int column = kNameColumn; column <= last_name_column; ++column) name_width += sheet.WidthOf(column);
   int row = kFirstLayerRow;
   for (const TableRow& cells : TableRowsOf(record)) {
     sheet.SetText({row, kNameColumn}, cells.name);
@@ -159,8 +136,7 @@ void WriteLayerTable(Workbook& workbook, const ReportRecord& record) {
     }
     Draw(workbook, row, last_name_column);
     sheet.Merge(row, kNameColumn, last_name_column);
-    const int lines = LinesOf(cells.name, name_width);
-    if (lines > 1) sheet.SetHeight(row, kLineHeightPoints * lines);
+    FitHeight(sheet, row, cells.name, kNameColumn, last_name_column);
     ++row;
   }
 }

@@ -39,26 +39,12 @@ constexpr MessageRow kSimplifiedNoteRow{1564};
 constexpr MessageRow kAirborneChartRow{1562};
 constexpr MessageRow kImpactChartRow{1563};
 
-constexpr const char* kItemEnd = "; ";
-constexpr const char* kCut = "...";
-
 MessageRow StandardRow(Family family) {
   if (family == Family::kFacade) return kFacadeStandardRow;
   return family == Family::kImpact ? kImpactStandardRow : kAirborneStandardRow;
 }
 
 bool IsLining(Family family) { return family == Family::kLining || family == Family::kCeiling; }
-
-/// The stored description; one that was cut ends behind its last whole item.
-std::string DescriptionOf(const Setup& setup, const Words& words) {
-  std::string text = ResultDescription(setup, words);
-  if (text.size() < kLongestDescription || FirstCharacters(text, kLongestDescription - 1) == text ||
-      text.ends_with(kCut)) {
-    return text;
-  }
-  const std::size_t end = text.rfind(kItemEnd);
-  return (end == std::string::npos ? text : text.substr(0, end + 2)) + kCut;
-}
 
 /// The improvement that the main window shows beside the rating.
 std::string Improvement(Family family, const elements::ResultSet& result) {
@@ -105,7 +91,7 @@ void FillLabels(const Setup& setup, Family family, const Words& words, ReportRec
   record.insulation = words(family == Family::kImpact ? kImpactInsulationRow : kAirborneInsulationRow);
   record.kind_of_element = words(KindOfElementRow(setup));
   record.element_type = ElementTypeText(calculation, words);
-  record.description = DescriptionOf(setup, words);
+  record.description = ElementDescription(setup, words);
   record.theory = calculation == elements::Calculation::kDoubleWallSeaBrick ? words(kBrickSeaTheoryRow)
                                                                             : TheoryText(calculation, words);
   record.standard = words(StandardRow(family));

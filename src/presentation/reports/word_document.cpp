@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "presentation/reports/filled_text.h"
 #include "presentation/reports/paragraph_text.h"
 #include "presentation/reports/relationships.h"
 #include "presentation/reports/template_failure.h"
@@ -88,17 +89,7 @@ void WordDocument::RemoveMarker(std::string_view marker) {
 void WordDocument::ReplaceIn(StoryPart& part, pugi::xml_node paragraph, const Placeholders& values,
                              const std::function<void(pugi::xml_node, pugi::xml_node)>& make_picture) {
   ParagraphText text(paragraph);
-  for (std::size_t from = 0;;) {
-    const auto found = FindPlaceholder(text.Text(), from);
-    if (!found) break;
-    const auto value = values.find(found->name);
-    if (value == values.end()) {
-      from = found->begin + found->length;
-      continue;
-    }
-    text.Replace(found->begin, found->length, value->second);
-    from = found->begin + value->second.size();
-  }
+  FillPlaceholders(text, values);
   if (!text.Changed()) return;
   part.changed = true;
   const bool empty = text.Text().empty();

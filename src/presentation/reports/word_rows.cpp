@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "presentation/reports/filled_text.h"
 #include "presentation/reports/paragraph_text.h"
 
 namespace velmar::presentation {
@@ -36,17 +37,7 @@ bool HoldsOneOf(const std::string& text, const std::vector<std::string_view>& ke
 void FillRow(pugi::xml_node row, const Placeholders& values) {
   for (const pugi::xml_node paragraph : ParagraphsOf(row)) {
     ParagraphText text(paragraph);
-    for (std::size_t from = 0;;) {
-      const auto found = FindPlaceholder(text.Text(), from);
-      if (!found) break;
-      const auto value = values.find(found->name);
-      if (value == values.end()) {
-        from = found->begin + found->length;
-        continue;
-      }
-      text.Replace(found->begin, found->length, value->second);
-      from = found->begin + value->second.size();
-    }
+    FillPlaceholders(text, values);
     if (text.Changed()) text.WriteBack([](pugi::xml_node, pugi::xml_node) {});
   }
 }

@@ -130,6 +130,10 @@ int Worksheet::StyleOf(CellPlace place) const { return FindCell(place).attribute
 
 void Worksheet::SetStyle(CellPlace place, int style) { Set(Cell(place), "s", std::to_string(style)); }
 
+double Worksheet::HeightOf(int row) const {
+  return data_.find_child_by_attribute("row", "r", std::to_string(row).c_str()).attribute("ht").as_double();
+}
+
 void Worksheet::SetHeight(int row, double height_points) {
   std::array<char, 32> digits{};
   const auto written = std::to_chars(digits.data(), digits.data() + digits.size(), height_points);

@@ -36,6 +36,9 @@ class Worksheet {
   void Merge(int row, int first, int last);
   void SetHeight(int row, double height_points);
 
+  /// Height of a row in points as the sheet states it; 0 where it leaves that to the program that shows it.
+  double HeightOf(int row) const;
+
   /// Width of a column in characters.
   double WidthOf(int column) const;
 

@@ -169,10 +169,15 @@ int MapCheckSmorzanteSea(int check) {
   return check >= 0 && check < static_cast<int>(kSlots.size()) ? kSlots[static_cast<std::size_t>(check)] : 0;
 }
 
+std::string ElementDescription(const Setup& setup, const Words& words) {
+  if (!setup.calculation) return {};
+  return WholeDescription(setup, elements::RowOf(*setup.calculation).family, words);
+}
+
 std::string ResultDescription(const Setup& setup, const Words& words) {
   if (!setup.calculation) return {};
   const Family family = elements::RowOf(*setup.calculation).family;
-  std::string text = WholeDescription(setup, family, words);
+  const std::string text = ElementDescription(setup, words);
   std::string cut = FirstCharacters(text, kLongestDescription);
   if (family == Family::kFacade && cut.size() < text.size()) {
     cut = FirstCharacters(text, kLongestDescription - std::string(kCut).size()) + kCut;

@@ -27,6 +27,9 @@ int MapCheckSmorzanteSea(int check);
 
 inline constexpr std::size_t kLongestDescription = 250;
 
+/// The description of the element, whole. Empty before a choice.
+std::string ElementDescription(const elements::Setup& setup, const Words& words);
+
 /// The description under which a result is stored, at most 250 characters; that of a facade ends in "..."
 /// where it is cut. Empty before a choice.
 std::string ResultDescription(const elements::Setup& setup, const Words& words);

@@ -93,6 +93,8 @@ TEST(PaginaDi, OfALiningPrintsTheRatedBandsAndItsHeads) {
   EXPECT_EQ(page.bands.rows.front().front(), "100");
   EXPECT_THAT(page.elements.heads, ElementsAre("m'", "Rw (dB)", "m' add", "DRw (dB)"));
   EXPECT_THAT(page.elements.rows.at(0), ElementsAre("310,0", "52", "26,7", "9"));
+  EXPECT_TRUE(Printed(page)->Says("C e Ctr sono riferiti all'indice di valutazione dell'elemento base."));
+  EXPECT_EQ(PageOf(samples::PlasteredBrickWall()).results_note, "");
 }
 
 TEST(PaginaDi, OfAGenericLiningHasNeitherChartNorBands) {
@@ -104,6 +106,7 @@ TEST(PaginaDi, OfAGenericLiningHasNeitherChartNorBands) {
     EXPECT_FALSE(page.chart);
     EXPECT_TRUE(page.bands.heads.empty());
     EXPECT_THAT(page.results, ElementsAre("Rw= 60,0 dB", "DRw= 8 dB"));
+    EXPECT_EQ(page.results_note, "") << "there are no adaptation terms";
   }
 }
 

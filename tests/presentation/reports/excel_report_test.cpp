@@ -78,6 +78,9 @@ TEST_P(ExcelReportTest, TellsWhatItIs) {
     EXPECT_EQ(NumberIn(package_, "H27"), record_.totals->thickness_mm);
   }
   EXPECT_EQ(NumberIn(package_, "H25"), *record_.surface_mass_kg_m2);
+  EXPECT_EQ(TextIn(package_, "H27"), record_.totals ? "" : "–");
+  EXPECT_EQ(record_.area.empty(), TextIn(package_, "I58") == "–");
+  EXPECT_EQ(TextIn(package_, "D7"), record_.description);
 }
 
 TEST_P(ExcelReportTest, ListsTheLayersAboveTheBands) {

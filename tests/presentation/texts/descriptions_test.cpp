@@ -66,6 +66,15 @@ TEST(ResultDescription, OfADoubleWallNamesTheCavity) {
   EXPECT_EQ(ResultDescription(setup, Say), begin + " -- <219>: EPS (30 mm) x 2" + end);
 }
 
+TEST(ElementDescription, IsNotCut) {
+  const elements::Setup facade = samples::FacadeOfNine();
+  const std::string whole = ElementDescription(facade, Say);
+  EXPECT_GT(whole.size(), kLongestDescription);
+  EXPECT_TRUE(whole.ends_with("; Bocchetta di ventilazione")) << whole;
+  EXPECT_TRUE(ResultDescription(facade, Say).ends_with("..."));
+  EXPECT_EQ(ElementDescription({}, Say), "");
+}
+
 TEST(ResultDescription, OfASeaWallNamesBothSidesAndTheCavity) {
   elements::Setup setup = samples::FullSeaWall();
   setup.sea_leaf1.count = 1;

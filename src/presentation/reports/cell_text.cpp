@@ -1,0 +1,40 @@
+#include "presentation/reports/cell_text.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstddef>
+#include <string_view>
+
+namespace velmar::presentation {
+namespace {
+
+constexpr double kLineHeightPoints = 15.0;
+
+std::size_t CharactersIn(std::string_view text) {
+  return static_cast<std::size_t>(std::ranges::count_if(
+      text, [](char byte) { return (static_cast<unsigned char>(byte) & 0xC0U) != 0x80U; }));
+}
+
+}  // namespace
+
+int LinesOf(const std::string& text, double width) {
+  int lines = 0;
+  for (std::size_t begin = 0; begin <= text.size();) {
+    const std::size_t end = std::min(text.find('\n', begin), text.size());
+    const auto characters =
+        static_cast<double>(CharactersIn(std::string_view(text).substr(begin, end - begin)));
+    lines += std::max(1, static_cast<int>(std::ceil(characters / width)));
+    begin = end + 1;
+  }
+  return lines;
+}
+
+void FitHeight(Worksheet& sheet, int row, const std::string& text, int first, int last) {
+  double width = 0.0;
+  for (int column = first; column <= last; ++column) width += sheet.WidthOf(column);
+  const int lines = LinesOf(text, width);
+  if (lines > 1 && kLineHeightPoints * lines > sheet.HeightOf(row))
+    sheet.SetHeight(row, kLineHeightPoints * lines);
+}
+
+}  // namespace velmar::presentation
