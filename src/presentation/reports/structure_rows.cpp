@@ -4,8 +4,8 @@
 
 #include "elements/catalogue.h"
 #include "foundation/decimal.h"
+#include "presentation/reports/facade_rows.h"
 #include "presentation/texts/calculation_labels.h"
-#include "presentation/texts/facade_texts.h"
 #include "presentation/texts/layer_rows.h"
 #include "presentation/texts/sea_cavity_parts.h"
 
@@ -27,11 +27,9 @@ constexpr MessageRow kCavityRow{219};
 constexpr MessageRow kFibrousCavityRow{225};
 constexpr MessageRow kFloorRow{226};
 constexpr MessageRow kBaseFloorRow{228};
-constexpr MessageRow kOpaquePartRow{260};
 constexpr MessageRow kAirCavityRow{266};
 constexpr MessageRow kPane1Row{1558};
 constexpr MessageRow kPane2Row{1559};
-constexpr MessageRow kSmallElementRow{1561};
 
 /// Depths that differ by less are equal: nobody enters a cavity to the tenth of a millimetre.
 constexpr double kNoDepthMm = 0.05;
@@ -91,7 +89,6 @@ class Listing {
   void Cavity(const Setup& setup);
   void SeaCavity(const elements::SeaCavity& cavity);
   void Base(const elements::BaseElement& base, double thickness_mm, MessageRow kind);
-  void FacadeParts(const Setup& setup);
 
   std::vector<StructureRow> Rows() && { return std::move(rows_); }
 
@@ -157,42 +154,6 @@ void Listing::Base(const elements::BaseElement& base, double thickness_mm, Messa
                    .rating = base.rating_text});
 }
 
-/// The number without the sign that ShareText() ends in.
-std::string ShareOf(const Setup& setup, double area_m2) {
-  std::string share = ShareText(setup, area_m2);
-  if (share.ends_with('%')) share.pop_back();
-  return share;
-}
-
-void Listing::FacadeParts(const Setup& setup) {
-  const elements::BaseElement& base = setup.base;
-  const double opaque = OpaqueArea(setup);
-  rows_.push_back({.kind = StructureKind::kPart,
-                   .number = ++count_,
-                   .name = base.name.empty() ? words_(kOpaquePartRow) : base.name,
-                   .description = base.description,
-                   .mass_kg_m2 = static_cast<double>(base.mass_kg_m2),
-                   .rating = base.rating_text,
-                   .area = FormatFixed(opaque, 2),
-                   .share = ShareOf(setup, opaque),
-                   .note = words_(kOpaquePartRow)});
-  for (int i = 0; i < setup.facade.Count(); ++i) {
-    const elements::FacadeComponent& part = setup.facade.components[static_cast<std::size_t>(i)];
-    const double area = ComponentArea(part);
-    const bool small = area == 0.0;
-    StructureRow row{.kind = StructureKind::kPart,
-                     .number = ++count_,
-                     .name = part.name,
-                     .description = part.description,
-                     .rating = part.rating_text,
-                     .area = small ? std::string("-") : FormatFixed(area, 2),
-                     .share = small ? std::string("-") : ShareOf(setup, area),
-                     .note = small ? words_(kSmallElementRow) : TightnessText(part.tightness_class, words_)};
-    if (!small) row.mass_kg_m2 = static_cast<double>(part.mass_kg_m2);
-    rows_.push_back(std::move(row));
-  }
-}
-
 void ListDouble(const Setup& setup, Family family, const Words& words, Listing& listing) {
   const bool glazing = elements::IsGlazing(*setup.calculation);
   listing.Heading(words(glazing ? kPane1Row : kLeaf1Row));
@@ -253,8 +214,7 @@ std::vector<StructureRow> StructureRowsOf(const Setup& setup, const Words& words
                    row.orientation == Orientation::kCeiling ? kBaseFloorRow : kBaseWallRow);
       break;
     case Orientation::kComposite:
-      listing.FacadeParts(setup);
-      break;
+      return FacadeRowsOf(setup, words);
   }
   return std::move(listing).Rows();
 }

@@ -7,6 +7,7 @@
 #include <QScreen>
 #include <QScrollArea>
 #include <QToolBar>
+#include <QToolButton>
 #include <QVBoxLayout>
 #include <QWheelEvent>
 #include <algorithm>
@@ -26,6 +27,10 @@ constexpr MessageRow kZoomInRow{1482};
 constexpr MessageRow kZoomOutRow{1483};
 constexpr MessageRow kActualSizeRow{1484};
 constexpr MessageRow kPictureRow{1485};
+
+// What the buttons of the zoom show; their names say it in words.
+constexpr const char* kMinus = "\u2212";
+constexpr const char* kPlus = "+";
 
 constexpr double kZoomStep = 1.25;
 constexpr double kSmallestZoom = 0.1;
@@ -59,12 +64,15 @@ PrintPreview::PrintPreview(PreviewOrder order, presentation::Words words, QWidge
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins({});
   column->setSpacing(0);
-  column->addWidget(MakeToolBar());
+  QToolBar* bar = MakeToolBar();
+  column->addWidget(bar);
   column->addWidget(room_);
   room_->setFocus();
-  const int height =
-      static_cast<int>(kHeightShare * QGuiApplication::primaryScreen()->availableSize().height());
-  resize(static_cast<int>(kPageShape * height), height);
+  const QSize screen = QGuiApplication::primaryScreen()->availableSize();
+  const int height = static_cast<int>(kHeightShare * screen.height());
+  // No command hides behind the end of the tool bar unless the screen is narrower.
+  const int width = std::max(static_cast<int>(kPageShape * height), bar->sizeHint().width());
+  resize(std::min(width, screen.width()), height);
 }
 
 double PrintPreview::Zoom() const {
@@ -102,24 +110,34 @@ QToolBar* PrintPreview::MakeToolBar() {
     FollowPaper();
   });
   bar->addSeparator();
-  AddCommand(*bar, "zoom_out", kZoomOutRow, {QKeySequence::ZoomOut, Qt::Key_Minus},
-             [this] { ZoomTo(Zoom() / kZoomStep); });
+  AddCommand(*bar, "zoom_out", kZoomOutRow, {QKeySequence::ZoomOut, Qt::Key_Minus}, [this] {
+    ZoomTo(Zoom() / kZoomStep);
+  })->setIconText(kMinus);
   AddCommand(*bar, "zoom_in", kZoomInRow, {QKeySequence::ZoomIn, Qt::CTRL | Qt::Key_Equal, Qt::Key_Plus},
-             [this] { ZoomTo(Zoom() * kZoomStep); });
+             [this] { ZoomTo(Zoom() * kZoomStep); })
+      ->setIconText(kPlus);
   AddCommand(*bar, "fit", kFitRow, {Qt::CTRL | Qt::Key_0}, [this] { ZoomTo(std::nullopt); });
   AddCommand(*bar, "actual_size", kActualSizeRow, {Qt::CTRL | Qt::Key_1}, [this] { ZoomTo(1.0); });
   bar->addSeparator();
   AddCommand(*bar, "close", kCloseRow, {QKeySequence::Close}, [this] { reject(); });
+  // A tool bar leaves its buttons out of the tab order.
+  for (QAction* action : bar->actions()) {
+    auto* button = qobject_cast<QToolButton*>(bar->widgetForAction(action));
+    if (button == nullptr) continue;
+    button->setFocusPolicy(Qt::TabFocus);
+    button->setAccessibleName(action->text());
+  }
   return bar;
 }
 
-void PrintPreview::AddCommand(QToolBar& bar, const char* name, MessageRow row,
-                              const QList<QKeySequence>& keys, std::function<void()> act) {
+QAction* PrintPreview::AddCommand(QToolBar& bar, const char* name, MessageRow row,
+                                  const QList<QKeySequence>& keys, std::function<void()> act) {
   QAction* action = bar.addAction(QString::fromStdString(words_(row)));
   action->setObjectName(QLatin1String(name));
   action->setShortcuts(keys);
   action->setToolTip(action->text() + " (" + keys.front().toString(QKeySequence::NativeText) + ")");
   connect(action, &QAction::triggered, this, std::move(act));
+  return action;
 }
 
 void PrintPreview::ZoomTo(std::optional<double> zoom) {

@@ -10,6 +10,7 @@
 #include "presentation/drawing/printed_page.h"
 #include "presentation/texts/words.h"
 
+class QAction;
 class QLabel;
 class QScrollArea;
 class QToolBar;
@@ -42,8 +43,8 @@ class PrintPreview : public QDialog {
 
  private:
   QToolBar* MakeToolBar();
-  void AddCommand(QToolBar& bar, const char* name, MessageRow row, const QList<QKeySequence>& keys,
-                  std::function<void()> act);
+  QAction* AddCommand(QToolBar& bar, const char* name, MessageRow row, const QList<QKeySequence>& keys,
+                      std::function<void()> act);
   void ZoomTo(std::optional<double> zoom);
   void FollowPaper();
   void ShowPage();

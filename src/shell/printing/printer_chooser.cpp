@@ -28,6 +28,7 @@ PrinterChooser::PrinterChooser(PrinterChoice choice, presentation::Words words, 
   list_->addItems(choice_.printers);
   const qsizetype current = choice_.printers.indexOf(choice_.current);
   list_->setCurrentRow(static_cast<int>(current < 0 ? 0 : current));
+  list_->setVisible(!choice_.printers.isEmpty());
   auto* empty = new QLabel(Text(words_, kNoPrinterRow), this);
   empty->setObjectName(QStringLiteral("no_printer"));
   empty->setWordWrap(true);

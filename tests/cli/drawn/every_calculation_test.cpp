@@ -57,11 +57,6 @@ ReportContent ContentOf(const std::filesystem::path& example, const ProjectRun& 
           .tell = [](const Message&) { ADD_FAILURE() << "a placeholder is not known"; }};
 }
 
-Package Written(const char* extension, const ReportContent& content) {
-  static const std::vector<ReportFormat> kFormats = DrawnFormats(SHIPPED "/Templates");
-  return Package(std::ranges::find(kFormats, extension, &ReportFormat::extension)->bytes(content));
-}
-
 /// The level that a band has in a report; nothing where the calculation gives none.
 std::optional<double> LevelOf(const ReportContent& content, std::size_t band) {
   const auto span = presentation::ShownBands(content.setup);
@@ -95,6 +90,11 @@ std::optional<double> NumberIn(const Package& excel, const std::string& name) {
 /// Every example of a family.
 class EveryCalculation : public testing::TestWithParam<Family> {
  protected:
+  /// The report of `content`, opened again.
+  Package Written(const char* extension, const ReportContent& content) const {
+    return Package(std::ranges::find(formats_, extension, &ReportFormat::extension)->bytes(content));
+  }
+
   template <typename Check>
   static void ForEach(Check check) {
     int checked = 0;
@@ -107,11 +107,15 @@ class EveryCalculation : public testing::TestWithParam<Family> {
     }
     EXPECT_GT(checked, 0);
   }
+
+ private:
+  // They go with the test: what draws must not outlive the program's main function.
+  std::vector<ReportFormat> formats_ = DrawnFormats(SHIPPED "/Templates");
 };
 
 TEST_P(EveryCalculation, WordReportHoldsNoPlaceholderAndIsSound) {
   static const std::regex kLeft(R"(P[12]_[A-Z]|CODICE_)");
-  ForEach([](const ReportContent& content) {
+  ForEach([this](const ReportContent& content) {
     const Package word = Written("docx", content);
     EXPECT_THAT(FaultsOf(word), IsEmpty());
     for (const std::string& part : word.Names()) {
@@ -123,7 +127,7 @@ TEST_P(EveryCalculation, WordReportHoldsNoPlaceholderAndIsSound) {
 
 TEST_P(EveryCalculation, WordReportTellsEveryNumberOfTheResult) {
   static const std::regex kOneDecimal(R"(-?\d+,\d)");
-  ForEach([](const ReportContent& content) {
+  ForEach([this](const ReportContent& content) {
     const std::string text = TextOf(Written("docx", content), kDocument);
     std::map<std::string, std::string> shown = BandRows(text);
     for (std::size_t band = 0; band < acoustics::kBandCount; ++band) {
@@ -150,7 +154,7 @@ TEST_P(EveryCalculation, WordReportTellsEveryNumberOfTheResult) {
 }
 
 TEST_P(EveryCalculation, ExcelReportIsSoundAndTellsEveryNumberUnrounded) {
-  ForEach([](const ReportContent& content) {
+  ForEach([this](const ReportContent& content) {
     const Package excel = Written("xlsx", content);
     EXPECT_THAT(FaultsOf(excel), IsEmpty());
     for (std::size_t band = 0; band < acoustics::kBandCount; ++band)

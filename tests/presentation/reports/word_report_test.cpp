@@ -1,9 +1,14 @@
 #include "presentation/reports/word_report.h"
 
+#include <fstream>
+#include <iterator>
+#include <set>
+
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "foundation/decimal.h"
+#include "presentation/reports/word_placeholders.h"
 #include "tests/presentation/reports/opened_report.h"
 
 namespace velmar::presentation {
@@ -94,6 +99,26 @@ TEST(WordReport, TellsHowACeilingHangsAndOfALiningNothing) {
     const bool ceiling = report_case.name == "Ceiling";
     EXPECT_EQ(text.find("Pendino ad attacco semplice") != std::string::npos, ceiling) << report_case.name;
     EXPECT_EQ(text.find("Tipo di collegamento") != std::string::npos, ceiling) << report_case.name;
+  }
+}
+
+TEST(WordReport, KnowsNoPlaceholderThatTheManualDoesNotTell) {
+  std::ifstream file(VELMAR_MANUAL);
+  const std::string manual{std::istreambuf_iterator<char>(file), {}};
+  std::set<std::string> known;
+  for (const ReportCase& report_case : ReportCases()) {
+    const ReportRecord record = RecordOf(report_case);
+    for (const auto& [name, value] : TextPlaceholders(record)) known.insert(name);
+    for (const RowPattern& pattern : {StructurePattern(record), InformationPattern(record)}) {
+      for (const PatternRow& row : pattern.rows) {
+        for (const auto& [name, value] : row.values) known.insert(name);
+      }
+    }
+  }
+  for (const std::string& name : known) {
+    const bool numbered = name.starts_with("P1_RIS") || name.starts_with("P1_RIF");
+    const bool band = numbered && name.find_first_of("0123456789", 6) == 6;
+    EXPECT_THAT(manual, HasSubstr("`[" + (band ? name.substr(0, 6) + "20" : name) + "]`"));
   }
 }
 

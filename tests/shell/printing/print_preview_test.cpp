@@ -1,8 +1,11 @@
 #include "shell/printing/print_preview.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QLabel>
+#include <QToolButton>
 #include <QtTest/QTest>
+#include <set>
 
 #include <gtest/gtest.h>
 
@@ -97,6 +100,18 @@ TEST_F(ThePreview, PrintsSavesAndChoosesThePrinterByKeyAndButton) {
   EXPECT_EQ(asked_.pdfs, 2);
   EXPECT_EQ(asked_.choices, 2);
   EXPECT_TRUE(preview_.isVisible());
+}
+
+TEST_F(ThePreview, EveryButtonIsReachedByTabAndNamed) {
+  std::set<QString> reached;
+  for (int i = 0; i < 20; ++i) {
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    if (const auto* button = qobject_cast<QToolButton*>(QApplication::focusWidget()))
+      reached.insert(button->accessibleName());
+  }
+  EXPECT_EQ(reached,
+            (std::set<QString>{"Stampa", "Salva come PDF", "Seleziona stampante", "Riduci", "Ingrandisci",
+                               "Adatta alla finestra", "Dimensioni reali", "Chiudi"}));
 }
 
 TEST_F(ThePreview, FollowsThePaperChosenWhenPrinting) {

@@ -1,4 +1,6 @@
+// printing_samples FOLDER [dark]: the windows of printing as pictures, and a page as PDF.
 #include <QApplication>
+#include <QPalette>
 #include <filesystem>
 #include <iostream>
 
@@ -22,10 +24,12 @@ void SaveAll(const std::filesystem::path& folder) {
   const auto paper = [] {
     return presentation::PrinterPaper{.paper_twips = {11906, 16838}, .printable_twips = {11306, 16238}};
   };
-  PrintPreview preview({.page = SamplePage(), .paper = paper, .print = {}, .save_pdf = {}}, words);
-  preview.resize(760, 900);
+  PrintPreview preview(
+      {.page = SamplePage(), .paper = paper, .print = {}, .save_pdf = {}, .choose_printer = {}}, words);
+  preview.resize(std::max(760, preview.width()), 900);
   SaveWindow(preview, folder / "preview.png");
-  PrintPreview small({.page = SamplePage(), .paper = paper, .print = {}, .save_pdf = {}}, words);
+  PrintPreview small(
+      {.page = SamplePage(), .paper = paper, .print = {}, .save_pdf = {}, .choose_printer = {}}, words);
   small.resize(500, 420);
   SaveWindow(small, folder / "preview_small.png");
   PrinterChooser chooser(
@@ -41,11 +45,17 @@ void SaveAll(const std::filesystem::path& folder) {
 }  // namespace velmar::printing
 
 int main(int argc, char** argv) {
-  if (argc != 2) {
-    std::cerr << "printing_samples FOLDER\n";
+  if (argc < 2) {
+    std::cerr << "printing_samples FOLDER [dark]\n";
     return 2;
   }
   qputenv("QT_QPA_PLATFORM", "offscreen");
   const QApplication application(argc, argv);
+  QApplication::setStyle("Fusion");
+  if (argc > 2) {
+    QPalette dark(QColor(0x2b, 0x2d, 0x31), QColor(0x24, 0x26, 0x2a));
+    dark.setColor(QPalette::Highlight, QColor(0x3d, 0x8b, 0xd6));
+    QApplication::setPalette(dark);
+  }
   velmar::printing::SaveAll(argv[1]);
 }
