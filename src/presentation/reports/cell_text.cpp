@@ -8,7 +8,8 @@
 namespace velmar::presentation {
 namespace {
 
-constexpr double kLineHeightPoints = 15.0;
+constexpr double kFirstLinePoints = 15.0;
+constexpr double kFurtherLinePoints = 12.5;
 
 std::size_t CharactersIn(std::string_view text) {
   return static_cast<std::size_t>(std::ranges::count_if(
@@ -33,8 +34,8 @@ void FitHeight(Worksheet& sheet, int row, const std::string& text, int first, in
   double width = 0.0;
   for (int column = first; column <= last; ++column) width += sheet.WidthOf(column);
   const int lines = LinesOf(text, width);
-  if (lines > 1 && kLineHeightPoints * lines > sheet.HeightOf(row))
-    sheet.SetHeight(row, kLineHeightPoints * lines);
+  const double height = kFirstLinePoints + kFurtherLinePoints * (lines - 1);
+  if (lines > 1 && height > sheet.HeightOf(row)) sheet.SetHeight(row, height);
 }
 
 }  // namespace velmar::presentation

@@ -1,6 +1,9 @@
 #include "presentation/texts/descriptions.h"
 
+#include <algorithm>
 #include <array>
+#include <utility>
+#include <vector>
 
 #include "elements/catalogue.h"
 #include "foundation/decimal.h"
@@ -117,6 +120,25 @@ std::string FacadePart(const Setup& setup, const Words& words) {
   return words(kFacadeRow) + ": " + parts;
 }
 
+/// As FacadePart(), with equal components told once: "Finestra x 8".
+std::string CountedParts(const Setup& setup, const Words& words) {
+  std::vector<std::pair<std::string, int>> parts;
+  for (int i = 0; i < setup.facade.Count(); ++i) {
+    const std::string& name = setup.facade.components[static_cast<std::size_t>(i)].name;
+    if (name.empty()) continue;
+    const auto known = std::ranges::find(parts, name, &std::pair<std::string, int>::first);
+    if (known == parts.end()) {
+      parts.emplace_back(name, 1);
+    } else {
+      ++known->second;
+    }
+  }
+  std::string text = setup.base.name;
+  for (const auto& [name, count] : parts)
+    Append(text, count > 1 ? name + " x " + std::to_string(count) : name);
+  return words(kFacadeRow) + ": " + text;
+}
+
 std::string LiningPart(const Setup& setup, bool ceiling, const Words& words) {
   return words(ceiling ? kBaseFloorRow : kBaseWallRow) + ": " + setup.base.name + kNextPart +
          words(ceiling ? kCeilingRow : kLiningRow) + ": " + CompilaDescrizionePareteSEA2(setup) +
@@ -171,13 +193,14 @@ int MapCheckSmorzanteSea(int check) {
 
 std::string ElementDescription(const Setup& setup, const Words& words) {
   if (!setup.calculation) return {};
-  return WholeDescription(setup, elements::RowOf(*setup.calculation).family, words);
+  const Family family = elements::RowOf(*setup.calculation).family;
+  return family == Family::kFacade ? CountedParts(setup, words) : WholeDescription(setup, family, words);
 }
 
 std::string ResultDescription(const Setup& setup, const Words& words) {
   if (!setup.calculation) return {};
   const Family family = elements::RowOf(*setup.calculation).family;
-  const std::string text = ElementDescription(setup, words);
+  const std::string text = WholeDescription(setup, family, words);
   std::string cut = FirstCharacters(text, kLongestDescription);
   if (family == Family::kFacade && cut.size() < text.size()) {
     cut = FirstCharacters(text, kLongestDescription - std::string(kCut).size()) + kCut;

@@ -27,7 +27,7 @@ int MapCheckSmorzanteSea(int check);
 
 inline constexpr std::size_t kLongestDescription = 250;
 
-/// The description of the element, whole. Empty before a choice.
+/// The description of the element, whole; equal parts of a facade are counted. Empty before a choice.
 std::string ElementDescription(const elements::Setup& setup, const Words& words);
 
 /// The description under which a result is stored, at most 250 characters; that of a facade ends in "..."

@@ -67,8 +67,11 @@ TEST(ResultDescription, OfADoubleWallNamesTheCavity) {
 }
 
 TEST(ElementDescription, IsNotCut) {
-  const elements::Setup facade = samples::FacadeOfNine();
+  elements::Setup facade = samples::FacadeOfNine();
+  facade.facade.components[1].name = facade.facade.components[0].name;
+  facade.facade.components[4].name = facade.facade.components[0].name;
   const std::string whole = ElementDescription(facade, Say);
+  EXPECT_NE(whole.find(facade.facade.components[0].name + " x 3; "), std::string::npos) << whole;
   EXPECT_GT(whole.size(), kLongestDescription);
   EXPECT_TRUE(whole.ends_with("; Bocchetta di ventilazione")) << whole;
   EXPECT_TRUE(ResultDescription(facade, Say).ends_with("..."));

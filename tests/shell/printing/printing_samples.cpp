@@ -39,6 +39,14 @@ void SaveAll(const std::filesystem::path& folder) {
   PrinterChooser none({}, words);
   SaveWindow(none, folder / "chooser_empty.png");
   SavePdf(SamplePage(), "Parete", folder / "page.pdf");
+  presentation::PaginaDiStampa compared = SamplePage();
+  compared.chart->laboratory.emplace();
+  compared.chart->in_situ.emplace();
+  for (std::size_t band = 0; band < acoustics::kBandCount; ++band) {
+    (*compared.chart->laboratory)[band] = 30.0 + 2.0 * static_cast<double>(band);
+    (*compared.chart->in_situ)[band] = 28.0 + 1.6 * static_cast<double>(band);
+  }
+  SavePdf(compared, "Parete", folder / "page_compared.pdf");
 }
 
 }  // namespace
