@@ -3,41 +3,17 @@
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
-#include <sstream>
 #include <vector>
 
 #include <gtest/gtest.h>
-#include <nlohmann/json.hpp>
 #include <unistd.h>
+
+#include "tests/cli/spoken_command.h"
 
 namespace velmar::cli {
 namespace {
 
-struct Said {
-  int code = -1;
-  std::string out;
-  std::string errors;
-
-  nlohmann::json Json() const { return nlohmann::json::parse(out); }
-};
-
-/// The command line with rows shown by their numbers, and no material known.
-Said Say(const std::vector<std::string>& arguments) {
-  const OpenServices open = [](const auto&) {
-    Services services;
-    services.words = [](MessageRow row) { return "row " + std::to_string(row.number); };
-    services.materials.structural = [](std::string_view) { return std::nullopt; };
-    services.materials.fibrous = [](std::string_view) { return std::nullopt; };
-    services.materials.resilient = [](std::string_view) { return std::nullopt; };
-    return services;
-  };
-  std::ostringstream out;
-  std::ostringstream errors;
-  const int code = RunCommandLine(arguments, open, out, errors);
-  return {code, out.str(), errors.str()};
-}
-
-std::string Example(const char* name) { return std::string(EXAMPLES) + "/" + name + ".drav"; }
+Said Say(const std::vector<std::string>& arguments) { return Speak(arguments); }
 
 class TemporaryFile {
  public:

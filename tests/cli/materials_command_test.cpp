@@ -2,12 +2,10 @@
 
 #include <filesystem>
 #include <fstream>
-#include <sstream>
 
 #include <gtest/gtest.h>
-#include <nlohmann/json.hpp>
 
-#include "cli/command_line.h"
+#include "tests/cli/spoken_command.h"
 #include "tests/storage/support/temporary_folder.h"
 
 namespace velmar::cli {
@@ -24,25 +22,11 @@ class MaterialsCommandTest : public testing::Test {
     std::filesystem::copy_file(SHIPPED "/Databases/Database/Database.mdb", folder_ / "Database.mdb");
   }
 
-  struct Said {
-    int code = -1;
-    std::string out;
-    std::string errors;
-    nlohmann::json Json() const { return nlohmann::json::parse(out); }
-  };
-
   Said Say(std::vector<std::string> arguments) {
     arguments.insert(arguments.begin(), "materials");
-    const OpenServices open = [this](const auto&) {
-      Services services;
-      services.words = [](MessageRow row) { return "row " + std::to_string(row.number); };
-      services.material_database = folder_ / "Database.mdb";
-      return services;
-    };
-    std::ostringstream out;
-    std::ostringstream errors;
-    const int code = RunCommandLine(arguments, open, out, errors);
-    return {code, out.str(), errors.str()};
+    Services services = BareServices();
+    services.material_database = folder_ / "Database.mdb";
+    return Speak(arguments, services);
   }
 
   Said AddBrick(const std::string& name) {

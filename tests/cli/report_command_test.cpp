@@ -8,8 +8,8 @@
 #include <gtest/gtest.h>
 #include <unistd.h>
 
-#include "cli/command_line.h"
 #include "foundation/failure.h"
+#include "tests/cli/spoken_command.h"
 
 namespace velmar::cli {
 namespace {
@@ -30,37 +30,27 @@ class Report : public testing::Test {
     std::filesystem::remove_all(folder_, error);
   }
 
-  static std::string Example(const std::string& name) { return std::string(EXAMPLES) + "/" + name + ".drav"; }
   std::string In(const std::string& name) const { return (folder_ / name).string(); }
 
   std::string Copy(const std::string& example, const std::string& name) const {
     std::filesystem::create_directories(path(In(name)).parent_path());
-    std::filesystem::copy_file(Example(example), In(name));
+    std::filesystem::copy_file(Example(example.c_str()), In(name));
     return In(name);
   }
 
   /// The command line with the table and a format "txt" that writes the project's name and Rw.
   int Say(const std::vector<std::string>& arguments) {
-    const OpenServices open = [](const auto&) {
-      Services services;
-      services.words = [](MessageRow row) { return "row " + std::to_string(row.number); };
-      services.materials.structural = [](std::string_view) { return std::nullopt; };
-      services.materials.fibrous = [](std::string_view) { return std::nullopt; };
-      services.materials.resilient = [](std::string_view) { return std::nullopt; };
-      services.report_formats = {CsvFormat(),
-                                 {.extension = "txt", .help = {}, .bytes = [](const ReportContent& content) {
-                                    if (!content.result.spectrum)
-                                      throw Failure({{MessageRow{1022}}}, "no spectrum");
-                                    return content.name + " " +
-                                           std::to_string(static_cast<int>(content.result.rw.value_or(0.0)));
-                                  }}};
-      return services;
-    };
-    std::ostringstream out;
-    std::ostringstream errors;
-    const int code = RunCommandLine(arguments, open, out, errors);
-    said_ = out.str() + errors.str();
-    return code;
+    Services services = BareServices();
+    services.report_formats = {CsvFormat(),
+                               {.extension = "txt", .help = {}, .bytes = [](const ReportContent& content) {
+                                  if (!content.result.spectrum)
+                                    throw Failure({{MessageRow{1022}}}, "no spectrum");
+                                  return content.name + " " +
+                                         std::to_string(static_cast<int>(content.result.rw.value_or(0.0)));
+                                }}};
+    const Said said = Speak(arguments, services);
+    said_ = said.out + said.errors;
+    return said.code;
   }
 
   std::size_t FileCount() const {

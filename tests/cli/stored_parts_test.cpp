@@ -1,12 +1,10 @@
 #include <filesystem>
-#include <sstream>
 #include <string>
 #include <vector>
 
 #include <gtest/gtest.h>
-#include <nlohmann/json.hpp>
 
-#include "cli/command_line.h"
+#include "tests/cli/spoken_command.h"
 #include "tests/storage/support/temporary_folder.h"
 
 namespace velmar::cli {
@@ -19,31 +17,12 @@ class StoredPartsTest : public testing::Test {
     std::filesystem::copy_file(SHIPPED "/Databases/Database/Database_teorico.mdb", folder_ / "results.mdb");
   }
 
-  struct Said {
-    int code = -1;
-    std::string out;
-    std::string errors;
-    nlohmann::json Json() const { return nlohmann::json::parse(out); }
-  };
-
   Said Say(const std::vector<std::string>& arguments) {
-    const OpenServices open = [this](const auto&) {
-      Services services;
-      services.words = [](MessageRow row) { return "row " + std::to_string(row.number); };
-      services.materials.structural = [](std::string_view) { return std::nullopt; };
-      services.materials.fibrous = [](std::string_view) { return std::nullopt; };
-      services.materials.resilient = [](std::string_view) { return std::nullopt; };
-      services.result_database = folder_ / "results.mdb";
-      services.library_folder = SHIPPED "/Databases/Database";
-      return services;
-    };
-    std::ostringstream out;
-    std::ostringstream errors;
-    const int code = RunCommandLine(arguments, open, out, errors);
-    return {code, out.str(), errors.str()};
+    Services services = BareServices();
+    services.result_database = folder_ / "results.mdb";
+    services.library_folder = SHIPPED "/Databases/Database";
+    return Speak(arguments, services);
   }
-
-  static std::string Example(const char* name) { return std::string(EXAMPLES) + "/" + name + ".drav"; }
 
   storage::TemporaryFolder folder_;
 };

@@ -1,12 +1,10 @@
 #include <filesystem>
-#include <sstream>
 
 #include <gtest/gtest.h>
-#include <nlohmann/json.hpp>
 
-#include "cli/command_line.h"
 #include "storage/library/library_store.h"
 #include "storage/results/results_store.h"
+#include "tests/cli/spoken_command.h"
 #include "tests/storage/support/databases.h"
 #include "tests/storage/support/temporary_folder.h"
 
@@ -25,25 +23,11 @@ class StoresCommandTest : public testing::Test {
     storage::ResultsStore(results_).Save(storage::ResultTable::kAirborne, wall);
   }
 
-  struct Said {
-    int code = -1;
-    std::string out;
-    std::string errors;
-    nlohmann::json Json() const { return nlohmann::json::parse(out); }
-  };
-
   Said Say(const std::vector<std::string>& arguments) {
-    const OpenServices open = [this](const auto&) {
-      Services services;
-      services.words = [](MessageRow row) { return "row " + std::to_string(row.number); };
-      services.result_database = results_;
-      services.library_folder = library_;
-      return services;
-    };
-    std::ostringstream out;
-    std::ostringstream errors;
-    const int code = RunCommandLine(arguments, open, out, errors);
-    return {code, out.str(), errors.str()};
+    Services services = BareServices();
+    services.result_database = results_;
+    services.library_folder = library_;
+    return Speak(arguments, services);
   }
 
   storage::TemporaryFolder folder_;
