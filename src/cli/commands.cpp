@@ -160,6 +160,7 @@ void AddCommands(CLI::App& app, Parsed& parsed, const Services& services) {
   app.require_subcommand(1);
   app.fallthrough();
   app.add_option("--data", parsed.data_folder, words({1211}));
+  app.footer(words({1217}) + '\n' + words({1218}));
   AddRun(app, parsed, words);
   AddSave(app, parsed, words);
   AddRate(app, parsed, words);
