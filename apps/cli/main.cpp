@@ -18,7 +18,7 @@ namespace {
 
 /// The user's templates; the shipped ones while the data folder has none.
 std::filesystem::path TemplateFolder(const velmar::application::Environment& environment) {
-  const std::filesystem::path own = environment.configuration.CartellaTemplates();
+  std::filesystem::path own = environment.configuration.CartellaTemplates();
   std::error_code ignored;
   if (std::filesystem::is_directory(own, ignored) || !environment.shipped) return own;
   return *environment.shipped / "Templates";

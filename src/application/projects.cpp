@@ -11,7 +11,8 @@ namespace velmar::application {
 namespace {
 
 template <typename Find>
-Find Forgiving(Find find, std::shared_ptr<bool> told, std::function<void(const Failure&)> tell) {
+Find Forgiving(Find find, const std::shared_ptr<bool>& told,
+               const std::function<void(const Failure&)>& tell) {
   return [=](std::string_view name) -> typename Find::result_type {
     try {
       return find(name);
@@ -32,11 +33,13 @@ storage::OpenedProject OpenProject(const std::filesystem::path& path, const elem
 }
 
 elements::MaterialLookup ForgivingLookup(elements::MaterialLookup materials,
-                                         std::function<void(const Failure&)> tell) {
+                                         const std::function<void(const Failure&)>& tell) {
   const auto told = std::make_shared<bool>(false);
-  return {.structural = Forgiving(std::move(materials.structural), told, tell),
-          .fibrous = Forgiving(std::move(materials.fibrous), told, tell),
-          .resilient = Forgiving(std::move(materials.resilient), told, tell)};
+  elements::MaterialLookup forgiving;
+  forgiving.structural = Forgiving(std::move(materials.structural), told, tell);
+  forgiving.fibrous = Forgiving(std::move(materials.fibrous), told, tell);
+  forgiving.resilient = Forgiving(std::move(materials.resilient), told, tell);
+  return forgiving;
 }
 
 }  // namespace velmar::application

@@ -21,6 +21,6 @@ storage::OpenedProject OpenProject(const std::filesystem::path& path, const elem
 /// `materials` for a program that can do without: a table that cannot be read holds nothing, and `tell` is
 /// called the first time.
 elements::MaterialLookup ForgivingLookup(elements::MaterialLookup materials,
-                                         std::function<void(const Failure&)> tell);
+                                         const std::function<void(const Failure&)>& tell);
 
 }  // namespace velmar::application

@@ -55,6 +55,7 @@ DataFolderState PrepareDataFolder(const fs::path& data_folder, const fs::path& s
   const fs::path folder = Plain(data_folder);
   try {
     if (fs::exists(fs::symlink_status(folder))) return DataFolderState::kThere;
+    RemoveAbandoned(folder.parent_path());
     return CopyTo(shipped, folder) ? DataFolderState::kCreated : DataFolderState::kThere;
   } catch (const fs::filesystem_error& error) {
     throw NotMade(folder, error.what());

@@ -42,6 +42,14 @@ TEST_F(FirstStartTest, NeverTouchesAFolderThatIsThere) {
   EXPECT_TRUE(fs::is_empty(data_));
 }
 
+TEST_F(FirstStartTest, RemovesWhatAnEarlierOneLeftUnfinished) {
+  const fs::path abandoned = data_.parent_path() / ".velmar-1-2.tmp";
+  WriteFile(abandoned / "Databases/InterfMess.mdb", "half");
+  fs::last_write_time(abandoned, fs::file_time_type::clock::now() - std::chrono::hours(2));
+  PrepareDataFolder(data_, shipped_);
+  EXPECT_FALSE(fs::exists(abandoned));
+}
+
 TEST_F(FirstStartTest, TakesATrailingSeparator) {
   EXPECT_EQ(PrepareDataFolder(data_.string() + "/", shipped_), DataFolderState::kCreated);
   EXPECT_TRUE(fs::exists(data_ / "Databases"));
