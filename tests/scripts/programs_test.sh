@@ -33,10 +33,11 @@ allowed=$(
     }'
 )
 
-words() { # without comments, texts and variables
+words() { # without comments, texts, variables and the scripts' own functions
   sed -E -e 's/(^|[[:space:]])#.*//' -e 's/"([^"$]|\$[^(])*"//g' -e 's/\bfor [a-z_]+ in\b//' \
     -e 's/\$\{?[A-Za-z_]+//g' -e 's/\b[A-Za-z_]+=//g' "${scripts[@]}" |
-    grep -oE '[A-Za-z][A-Za-z0-9_.+-]+' | sort -u
+    grep -oE '[A-Za-z][A-Za-z0-9_.+-]+' | sort -u |
+    grep -vxFf <(sed -nE 's/^([a-z_]+)\(\).*/\1/p' "${scripts[@]}")
 }
 
 declare -A word_of # each path under which a package may know the program
