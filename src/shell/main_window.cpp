@@ -262,6 +262,16 @@ void MainWindow::ReloadMaterials() {
   ShowAll();
 }
 
+void MainWindow::FollowMaterial(const windows::MaterialChange& change) {
+  materials_.Follow(change);
+  ShowAll();
+}
+
+void MainWindow::ForgetMaterial(elements::MaterialFamily family, const std::string& name) {
+  materials_.Forget(family, name);
+  ShowAll();
+}
+
 // The menu entry and the closing of the window do not ask: unsaved work is offered again at the next start.
 void MainWindow::Exit(bool asking) {
   if (asking) {

@@ -38,6 +38,10 @@ class MainWindow : public QMainWindow {
   void OfferRecovery();
   /// The material tables changed: the lists offer them anew.
   void ReloadMaterials();
+  /// An editor stored a material: the lists follow it.
+  void FollowMaterial(const windows::MaterialChange& change);
+  /// A material was deleted: the lists offer it no longer; a layer that holds it keeps it.
+  void ForgetMaterial(elements::MaterialFamily family, const std::string& name);
 
  protected:
   void closeEvent(QCloseEvent* event) override;

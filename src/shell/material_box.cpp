@@ -1,9 +1,11 @@
 #include "shell/material_box.h"
 
 #include <QAbstractItemView>
+#include <QClipboard>
 #include <QCompleter>
 #include <QDragEnterEvent>
 #include <QDropEvent>
+#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QMimeData>
@@ -13,29 +15,9 @@
 namespace velmar::shell {
 namespace {
 
-constexpr const char* kMimeType = "application/x-velmar-material";
 constexpr int kNarrowestInLetters = 14;
 
 }  // namespace
-
-QMimeData* ToMime(const DraggedMaterial& material) {
-  auto* mime = new QMimeData;
-  mime->setData(kMimeType,
-                QByteArray::number(static_cast<int>(material.family)) + '\n' + material.name.toUtf8());
-  mime->setText(material.name);
-  return mime;
-}
-
-std::optional<DraggedMaterial> FromMime(const QMimeData& mime) {
-  const QByteArray data = mime.data(kMimeType);
-  const qsizetype line = data.indexOf('\n');
-  bool known = false;
-  const int family = data.left(line).toInt(&known);
-  if (line < 1 || !known || family < 0 || family > static_cast<int>(elements::MaterialFamily::kResilient))
-    return std::nullopt;
-  return DraggedMaterial{static_cast<elements::MaterialFamily>(family),
-                         QString::fromUtf8(data.mid(line + 1))};
-}
 
 MaterialBox::MaterialBox(const QString& object_name, elements::MaterialFamily family,
                          QAbstractItemModel* names, QWidget* parent)
@@ -113,6 +95,10 @@ void MaterialBox::focusOutEvent(QFocusEvent* event) {
 
 void MaterialBox::keyPressEvent(QKeyEvent* event) {
   if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) TakeTyped();
+  // A copied name takes the place of the one that is shown, wherever the cursor stands in it.
+  if (event->matches(QKeySequence::Paste) &&
+      findText(QGuiApplication::clipboard()->text().trimmed(), Qt::MatchFixedString) >= 0)
+    lineEdit()->selectAll();
   QuietBox::keyPressEvent(event);
 }
 
@@ -127,7 +113,7 @@ void MaterialBox::keyReleaseEvent(QKeyEvent* event) {
 }
 
 bool MaterialBox::Takes(const QMimeData& mime) const {
-  const auto material = FromMime(mime);
+  const auto material = windows::FromMime(mime);
   return material && material->family == family_;
 }
 
@@ -140,9 +126,14 @@ void MaterialBox::dragMoveEvent(QDragMoveEvent* event) {
 }
 
 void MaterialBox::dropEvent(QDropEvent* event) {
-  if (!Takes(*event->mimeData())) return;
-  event->acceptProposedAction();
-  Choose(FromMime(*event->mimeData())->name);
+  const auto material = windows::FromMime(*event->mimeData());
+  if (material && Put(*material)) event->acceptProposedAction();
+}
+
+bool MaterialBox::Put(const windows::DraggedMaterial& material) {
+  if (material.family != family_ || !isEnabled()) return false;
+  Choose(material.name);
+  return true;
 }
 
 }  // namespace velmar::shell

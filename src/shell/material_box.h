@@ -2,23 +2,18 @@
 
 #include <QAbstractItemModel>
 #include <functional>
-#include <optional>
 
 #include "elements/layer_groups.h"
 #include "shell/list_boxes.h"
+#include "shell/windows/dragged_material.h"
 
 class QMimeData;
 
 namespace velmar::shell {
 
-/// A dragged material: its family and its name. The tree of materials and the handles of the layer rows give
-/// it, the material lists of the same family take it.
-struct DraggedMaterial {
-  elements::MaterialFamily family{};
-  QString name{};
-};
-QMimeData* ToMime(const DraggedMaterial& material);
-std::optional<DraggedMaterial> FromMime(const QMimeData& mime);
+using windows::DraggedMaterial;
+using windows::FromMime;
+using windows::ToMime;
 
 /// The material list of a layer row. A name is chosen from the list, found by typing any part of it, dropped,
 /// or pasted; a name that no material has changes nothing.
@@ -30,6 +25,8 @@ class MaterialBox : public QuietBox {
   void OnChoice(std::function<void(const std::string& name)> on_choice) { on_choice_ = std::move(on_choice); }
   void ReportCorrections(OnCorrection on_correction) { on_correction_ = std::move(on_correction); }
   void Show(const std::string& name);
+  /// Chooses `material` as if it were dropped here. @return false when it is of another family
+  bool Put(const windows::DraggedMaterial& material);
 
  protected:
   void focusInEvent(QFocusEvent* event) override;

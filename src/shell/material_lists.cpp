@@ -1,5 +1,7 @@
 #include "shell/material_lists.h"
 
+#include <algorithm>
+
 #include "shell/phrases.h"
 
 namespace velmar::shell {
@@ -37,6 +39,20 @@ QStringList ToList(const std::vector<std::string>& names) {
 std::size_t At(MaterialFamily family) { return static_cast<std::size_t>(family); }
 std::size_t At(FilterId filter) { return static_cast<std::size_t>(filter); }
 
+/// A new name goes behind the others when it joins them; a changed one does where the old name stood.
+void Follow(QStringListModel& offered, const windows::MaterialChange& change, bool joins) {
+  QStringList names = offered.stringList();
+  const bool had_it = !change.old_name.empty() && names.removeOne(FromUtf8(change.old_name));
+  if (change.old_name.empty() ? !joins : !had_it) return;
+  names += FromUtf8(change.name);
+  offered.setStringList(names);
+}
+
+void Forget(QStringListModel& offered, const QString& name) {
+  QStringList names = offered.stringList();
+  if (names.removeOne(name)) offered.setStringList(names);
+}
+
 }  // namespace
 
 MaterialLists::MaterialLists(const WindowServices& services)
@@ -53,7 +69,39 @@ void MaterialLists::Reload() {
     all_.at(At(family))
         .setStringList(ToList(storage::NamesUnderFilter(family, materials, words_.all, words_)));
   }
+  cavity_damping_.setStringList(all_.at(At(MaterialFamily::kStructural)).stringList());
   for (const FilterId filter : kFilters) Fill(filter);
+}
+
+std::vector<storage::ListedMaterial>& MaterialLists::Of(MaterialFamily family) {
+  return materials_.at(At(family));
+}
+
+void MaterialLists::Follow(const windows::MaterialChange& change) {
+  auto& materials = Of(change.family);
+  const auto row = std::ranges::find(materials, change.old_name, &storage::ListedMaterial::name);
+  if (change.old_name.empty()) {
+    materials.push_back({change.name, change.keyword});
+  } else if (row != materials.end()) {
+    *row = {change.name, change.keyword};
+  }
+  if (change.old_name == change.name) return;
+  shell::Follow(all_.at(At(change.family)), change, /*joins=*/true);
+  for (const FilterId filter : kFilters) {
+    if (FamilyOf(filter) != change.family) continue;
+    const bool joins = storage::JoinsLists(change.family, change.keyword, ToUtf8(Keyword(filter)), words_);
+    shell::Follow(filtered_.at(At(filter)), change, joins);
+  }
+}
+
+void MaterialLists::Forget(MaterialFamily family, const std::string& name) {
+  std::erase_if(Of(family), [&](const storage::ListedMaterial& material) { return material.name == name; });
+  const QString gone = FromUtf8(name);
+  shell::Forget(all_.at(At(family)), gone);
+  for (const FilterId filter : kFilters) {
+    if (FamilyOf(filter) == family) shell::Forget(filtered_.at(At(filter)), gone);
+  }
+  if (family == MaterialFamily::kStructural) shell::Forget(cavity_damping_, gone);
 }
 
 void MaterialLists::Fill(FilterId filter) {
@@ -73,6 +121,8 @@ QStringListModel* MaterialLists::NamesOf(LayerGroup group) {
       return &filtered_.at(At(FilterId::kResilient));
     case LayerGroup::kCavity:
       return &filtered_.at(At(FilterId::kCavity));
+    case LayerGroup::kSeaCavityDamping:
+      return &cavity_damping_;
     default:
       return &all_.at(At(RowOf(group).family));
   }

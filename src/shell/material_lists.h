@@ -8,6 +8,7 @@
 
 #include "elements/layer_groups.h"
 #include "shell/window_services.h"
+#include "shell/windows/material_change.h"
 #include "storage/materials/keywords.h"
 
 namespace velmar::shell {
@@ -25,6 +26,14 @@ class MaterialLists {
   /// Reads the tables again, as after an edit of the material database. The filters keep their keywords.
   void Reload();
 
+  /// A material was stored by an editor. Lists that let it pass take it behind the others; a new name takes
+  /// the place of the old one in the same way. Two habits are kept: the lists of damping layers in the cavity
+  /// show a new or renamed material after the next Reload() only, and a material without a keyword joins the
+  /// lists under "porte" when their filter is chosen again.
+  void Follow(const windows::MaterialChange& change);
+  /// A material was deleted: no list offers it any longer.
+  void Forget(elements::MaterialFamily family, const std::string& name);
+
   /// What the rows of `group` offer; owned by this object.
   QStringListModel* NamesOf(elements::LayerGroup group);
 
@@ -34,6 +43,7 @@ class MaterialLists {
 
  private:
   void Fill(FilterId filter);
+  std::vector<storage::ListedMaterial>& Of(elements::MaterialFamily family);
 
   const WindowServices& services_;
   storage::KeywordTexts words_;
@@ -41,6 +51,7 @@ class MaterialLists {
   std::array<QString, kFilterCount> chosen_;
   std::array<QStringListModel, kFilterCount> filtered_;
   std::array<QStringListModel, 3> all_;
+  QStringListModel cavity_damping_;
 };
 
 }  // namespace velmar::shell

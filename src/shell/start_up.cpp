@@ -16,6 +16,7 @@
 #include "shell/dark_outlines.h"
 #include "shell/loader_window.h"
 #include "shell/main_window.h"
+#include "shell/material_commands.h"
 #include "shell/paper_commands.h"
 #include "shell/phrases.h"
 #include "shell/report_commands.h"
@@ -119,6 +120,8 @@ struct Desktop {
                                   environment.configuration.PercorsoDatabaseTeorico()},
         std::make_shared<storage::AccessSession>(
             storage::AccessReader{storage::AccessReaderProgram(storage::ProgramFolder()).value_or("")}));
+    material_commands =
+        std::make_unique<MaterialCommands>(services, store.File(), EditorOf(store, services.words));
     services.open_address = [](const QString& address) { return QDesktopServices::openUrl(QUrl(address)); };
     services.start_program = [](const std::filesystem::path& program) {
       return QProcess::startDetached(QString::fromStdString(program.string()), {});
@@ -137,6 +140,7 @@ struct Desktop {
   storage::StoredCalculation unknown{};
   WindowServices services{open};
   std::unique_ptr<StructureCommands> structure_commands{};
+  std::unique_ptr<MaterialCommands> material_commands{};
 };
 
 /// `CaricaDatabase`. Failures are told; the window opens with what there is.

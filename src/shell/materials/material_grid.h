@@ -1,0 +1,55 @@
+#pragma once
+
+#include <QTableView>
+#include <functional>
+#include <string>
+
+#include "shell/materials/material_model.h"
+
+namespace velmar::materials {
+
+/// The grid of one family (`DataGrid1`): columns as wide as their contents, the name takes what is left.
+class MaterialGrid : public QTableView {
+ public:
+  /// What the hand does with the selected row.
+  struct Hands {
+    std::function<void()> choose{};  ///< Enter or a double click
+    std::function<void()> remove{};  ///< Del
+    /// Letters, which a search takes.
+    std::function<void(QKeyEvent*)> type{};
+  };
+
+  MaterialGrid(MaterialModel& model, MaterialSearch& shown, Hands hands, QWidget* parent);
+
+  /// The table has other columns now. `widths` is what Widths() gave once; empty or of another program: the
+  /// columns are as wide as their contents, and the rows stand as in the table.
+  void BeginTable(const QByteArray& widths, bool all_columns);
+  QByteArray Widths() const;
+  /// Shows the columns that a choice is made by, or all of the table.
+  void ShowColumns(bool all);
+
+  /// Empty when no row is selected.
+  std::string SelectedName() const;
+  int SelectedRow() const { return currentIndex().row(); }
+  /// Selects the row called `name`. @return false when no row that is shown has that name
+  bool SelectName(const std::string& name);
+  /// Selects row `row`, or the last one.
+  void SelectRow(int row);
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+
+ private:
+  int ContentWidth(int column) const;
+  void SizeToContents(bool main);
+  void FitName();
+
+  MaterialModel& model_;
+  MaterialSearch& shown_;
+  Hands hands_;
+  int viewport_width_ = 0;
+  bool fit_due_ = false;
+};
+
+}  // namespace velmar::materials

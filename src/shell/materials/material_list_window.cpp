@@ -1,0 +1,284 @@
+#include "shell/materials/material_list_window.h"
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QSettings>
+#include <QVBoxLayout>
+
+#include "shell/materials/material_texts.h"
+
+namespace velmar::materials {
+namespace {
+
+using elements::MaterialFamily;
+
+constexpr MessageRow kCavityRow{219};
+constexpr MessageRow kDeleteQuestionRow{321};
+constexpr MessageRow kNameRow{326};
+constexpr MessageRow kNewRow{344};
+constexpr MessageRow kEditRow{345};
+constexpr MessageRow kDeleteRow{346};
+constexpr MessageRow kTakeRow{356};
+constexpr MessageRow kCloseRow{369};
+constexpr MessageRow kAllColumnsRow{1611};
+constexpr MessageRow kRefreshRow{1612};
+constexpr MessageRow kRefreshTipRow{1613};
+constexpr const char* kMemoryName = "lista-materiali";
+constexpr const char* kAllColumnsKey = "lista-materiali/tutte-le-colonne";
+
+/// `Option1` in the order of its buttons.
+struct FamilyOption {
+  MaterialFamily family{};
+  MessageRow caption{};
+};
+constexpr std::array kOptions = {
+    FamilyOption{MaterialFamily::kStructural, TitleOf(MaterialFamily::kStructural)},
+    FamilyOption{MaterialFamily::kResilient, TitleOf(MaterialFamily::kResilient)},
+    FamilyOption{MaterialFamily::kFibrous, kCavityRow}};
+
+QString ColumnsKey(MaterialFamily family) {
+  return QStringLiteral("lista-materiali/colonne-%1").arg(static_cast<int>(family));
+}
+
+/// The keys that move through the grid while the search has the focus.
+bool Moves(int key) {
+  return key == Qt::Key_Down || key == Qt::Key_Up || key == Qt::Key_PageDown || key == Qt::Key_PageUp;
+}
+
+}  // namespace
+
+MaterialListWindow::MaterialListWindow(windows::WindowTools tools, MaterialSource source,
+                                       std::optional<MaterialPick> pick, Listener listener, QWidget* parent)
+    : QDialog(parent),
+      tools_(std::move(tools)),
+      source_(std::move(source)),
+      pick_(std::move(pick)),
+      listener_(std::move(listener)),
+      model_(tools_),
+      shown_(model_) {
+  setObjectName(QStringLiteral("Form2"));
+  auto* column = new QVBoxLayout(this);
+  column->addWidget(MakeHead());
+  MakeGrid();
+  column->addWidget(grid_, 1);
+  column->addWidget(MakeSelected());
+  column->addWidget(MakeButtons());
+  const QFontMetrics metrics = fontMetrics();
+  if (!windows::RestoreSizes(tools_.memory, {QLatin1String(kMemoryName), this, nullptr, nullptr}))
+    resize(metrics.averageCharWidth() * 185, metrics.height() * 32);
+  ChooseFamily(pick_ ? pick_->family : MaterialFamily::kStructural);
+  if (pick_) grid_->SelectName(pick_->shown);
+  search_->setFocus();
+}
+
+MaterialListWindow::~MaterialListWindow() {
+  RememberColumns();
+  windows::SaveSizes(tools_.memory, {QLatin1String(kMemoryName), this, nullptr, nullptr});
+}
+
+QWidget* MaterialListWindow::MakeHead() {
+  auto* head = new QWidget(this);
+  auto* row = new QHBoxLayout(head);
+  row->setContentsMargins(0, 0, 0, 0);
+  for (std::size_t i = 0; i < kOptions.size(); ++i) {
+    const MaterialFamily family = kOptions.at(i).family;
+    auto* option = new QRadioButton(tools_.Text(kOptions.at(i).caption), head);
+    option->setObjectName(QStringLiteral("Option1_%1").arg(i));
+    option->setToolTip(tools_.Text(TitleOf(family)));
+    option->setChecked(i == 0);
+    option->setVisible(!pick_);
+    connect(option, &QRadioButton::clicked, this, [this, family] { ChooseFamily(family); });
+    row->addWidget(option);
+    families_.at(i) = option;
+  }
+  if (!pick_) row->addStretch(1);
+  search_ = new QLineEdit(head);
+  search_->setObjectName(QStringLiteral("TextCerca"));
+  search_->setPlaceholderText(tools_.Text(kSearchRow));
+  search_->setAccessibleName(tools_.Text(kSearchRow));
+  search_->setClearButtonEnabled(true);
+  search_->installEventFilter(this);
+  connect(search_, &QLineEdit::textChanged, this, [this](const QString& text) { SearchFor(text); });
+  row->addWidget(search_, 2);
+  return head;
+}
+
+void MaterialListWindow::MakeGrid() {
+  MaterialGrid::Hands hands;
+  hands.choose = [this] {
+    if (pick_) {
+      Take();
+    } else {
+      Edit(grid_->SelectedName());
+    }
+  };
+  hands.remove = [this] { Delete(); };
+  hands.type = [this](QKeyEvent* event) {
+    search_->setFocus();
+    QApplication::sendEvent(search_, event);
+  };
+  grid_ = new MaterialGrid(model_, shown_, std::move(hands), this);
+  connect(grid_->selectionModel(), &QItemSelectionModel::currentRowChanged, this, [this] { ShowSelected(); });
+}
+
+QWidget* MaterialListWindow::MakeSelected() {
+  auto* bar = new QWidget(this);
+  auto* row = new QHBoxLayout(bar);
+  row->setContentsMargins(0, 0, 0, 0);
+  auto* caption = new QLabel(tools_.Text(kNameRow), bar);
+  name_ = new QLineEdit(bar);
+  name_->setObjectName(QStringLiteral("Text1"));
+  name_->setReadOnly(true);
+  name_->setAccessibleName(tools_.Text(kNameRow));
+  all_columns_ = new QCheckBox(tools_.Text(kAllColumnsRow), bar);
+  all_columns_->setObjectName(QStringLiteral("CheckColonne"));
+  if (tools_.memory != nullptr)
+    all_columns_->setChecked(tools_.memory->value(QLatin1String(kAllColumnsKey)).toBool());
+  connect(all_columns_, &QCheckBox::toggled, this, [this](bool all) { grid_->ShowColumns(all); });
+  row->addWidget(caption);
+  row->addWidget(name_, 1);
+  row->addWidget(all_columns_);
+  return bar;
+}
+
+QWidget* MaterialListWindow::MakeButtons() {
+  auto* bar = new QWidget(this);
+  auto* row = new QHBoxLayout(bar);
+  row->setContentsMargins(0, 0, 0, 0);
+  const auto add = [&](const char* name, MessageRow text, auto&& action) {
+    auto* button = new QPushButton(tools_.Text(text), bar);
+    button->setObjectName(QLatin1String(name));
+    button->setAutoDefault(false);
+    connect(button, &QPushButton::clicked, this, action);
+    row->addWidget(button);
+    return button;
+  };
+  new_ = add("Command3", kNewRow, [this] { Edit({}); });
+  new_->setEnabled(static_cast<bool>(source_.edit));
+  edit_ = add("CommandModifica", kEditRow, [this] { Edit(grid_->SelectedName()); });
+  delete_ = add("Command4", kDeleteRow, [this] { Delete(); });
+  row->addStretch(1);
+  add("Aggiorna", kRefreshRow, [this] { RefreshAsAsked(); })->setToolTip(tools_.Text(kRefreshTipRow));
+  take_ = add("CmdSeleziona", kTakeRow, [this] { Take(); });
+  take_->setVisible(pick_.has_value());
+  take_->setDefault(pick_.has_value());
+  add("Chiudi", kCloseRow, [this] { reject(); });
+  return bar;
+}
+
+void MaterialListWindow::ChooseFamily(MaterialFamily family) {
+  RememberColumns();
+  family_ = family;
+  const QString title = tools_.Text(TitleOf(family));
+  setWindowTitle(tools_.Text(kListCaptionRow) + QStringLiteral(" - ") + title);
+  grid_->setAccessibleName(title);
+  model_.Fill(family, {});
+  Refresh();
+  const QByteArray widths =
+      tools_.memory != nullptr ? tools_.memory->value(ColumnsKey(family)).toByteArray() : QByteArray();
+  grid_->BeginTable(widths, all_columns_->isChecked());
+}
+
+void MaterialListWindow::RememberColumns() const {
+  if (tools_.memory == nullptr || model_.columnCount() == 0) return;
+  tools_.memory->setValue(ColumnsKey(family_), grid_->Widths());
+  tools_.memory->setValue(QLatin1String(kAllColumnsKey), all_columns_->isChecked());
+}
+
+bool MaterialListWindow::Refresh() {
+  const std::string before = grid_->SelectedName();
+  const bool read = tools_.Try([&] { model_.Fill(family_, source_.rows(family_)); });
+  if (read && !grid_->SelectName(before)) grid_->SelectRow(0);
+  ShowSelected();
+  return read;
+}
+
+void MaterialListWindow::SearchFor(const QString& text) {
+  const std::string before = grid_->SelectedName();
+  shown_.Search(text);
+  if (before.empty() || grid_->SelectedName() != before) grid_->SelectRow(0);
+  grid_->scrollTo(grid_->currentIndex());
+  ShowSelected();
+}
+
+void MaterialListWindow::ShowSelected() {
+  const std::string name = grid_->SelectedName();
+  name_->setText(windows::ToQt(name));
+  name_->setCursorPosition(0);
+  edit_->setEnabled(!name.empty() && source_.edit);
+  delete_->setEnabled(!name.empty());
+  take_->setEnabled(!name.empty());
+}
+
+bool MaterialListWindow::eventFilter(QObject* watched, QEvent* event) {
+  if (watched == search_ && event->type() == QEvent::KeyPress &&
+      Moves(static_cast<QKeyEvent*>(event)->key())) {
+    QApplication::sendEvent(grid_, event);
+    return true;
+  }
+  return QDialog::eventFilter(watched, event);
+}
+
+void MaterialListWindow::keyPressEvent(QKeyEvent* event) {
+  if (event->key() == Qt::Key_F5) {
+    RefreshAsAsked();
+  } else if (event->matches(QKeySequence::Find)) {
+    search_->setFocus();
+    search_->selectAll();
+  } else {
+    QDialog::keyPressEvent(event);
+  }
+}
+
+void MaterialListWindow::RefreshAsAsked() {
+  if (Refresh() && listener_.refreshed) listener_.refreshed();
+}
+
+void MaterialListWindow::Take() {
+  const std::string name = grid_->SelectedName();
+  if (!pick_ || name.empty()) return;
+  bool there = false;
+  if (!tools_.Try([&] { there = source_.find(family_, name).has_value(); })) return;
+  if (!there) {  // deleted by another program since the list was read
+    tools_.tell(tools_.Text(kMaterialGoneRow));
+    Refresh();
+    return;
+  }
+  pick_->take(name);
+  accept();
+}
+
+void MaterialListWindow::Edit(const std::string& name) {
+  if (!source_.edit) return;
+  std::optional<windows::MaterialChange> change;
+  tools_.Try([&] { change = source_.edit(this, family_, name); });
+  if (!change) return;
+  // What was searched for may not occur in the row that was just stored.
+  Refresh();
+  if (!grid_->SelectName(change->name)) {
+    search_->clear();
+    grid_->SelectName(change->name);
+  }
+  if (listener_.changed) listener_.changed(*change);
+}
+
+void MaterialListWindow::Delete() {
+  const std::string name = grid_->SelectedName();
+  if (name.empty()) return;
+  const QString question =
+      tools_.Text(kDeleteQuestionRow) + QStringLiteral(" \"%1\"?").arg(windows::ToQt(name));
+  if (!tools_.ask(question)) return;
+  const int row = grid_->SelectedRow();
+  if (!tools_.Try([&] { source_.remove(family_, name); })) return;
+  Refresh();
+  grid_->SelectRow(row);
+  if (listener_.removed) listener_.removed(family_, name);
+}
+
+}  // namespace velmar::materials

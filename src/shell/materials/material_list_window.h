@@ -1,0 +1,83 @@
+#pragma once
+
+#include <QDialog>
+#include <array>
+#include <functional>
+#include <optional>
+
+#include "shell/materials/material_grid.h"
+#include "shell/materials/material_model.h"
+#include "shell/materials/material_source.h"
+#include "shell/windows/window_tools.h"
+
+class QCheckBox;
+class QLineEdit;
+class QPushButton;
+class QRadioButton;
+
+namespace velmar::materials {
+
+/// A layer row that a material is picked for (`DestinazioneMateriale`, `IndiceStrato`).
+struct MaterialPick {
+  elements::MaterialFamily family{};
+  std::string shown{};                                ///< what the row has now; the list begins at it
+  std::function<void(const std::string& name)> take;  ///< puts the material into the row
+};
+
+/// The list of materials (`Form2`): a grid of one family, searched, sorted and edited. Opened for a layer row
+/// it hands a material over; opened from the menu it lets the family be chosen.
+class MaterialListWindow : public QDialog {
+ public:
+  /// What the window tells of itself, so that lists and tree are kept in step.
+  struct Listener {
+    std::function<void(const windows::MaterialChange&)> changed{};
+    std::function<void(elements::MaterialFamily, const std::string& name)> removed{};
+    /// The table was read again when the user asked for it: others may have changed it.
+    std::function<void()> refreshed{};
+  };
+
+  MaterialListWindow(windows::WindowTools tools, MaterialSource source, std::optional<MaterialPick> pick,
+                     Listener listener, QWidget* parent = nullptr);
+  ~MaterialListWindow() override;
+
+  /// Reads the table anew; the selected material stays selected when it is still there. A table that cannot
+  /// be read is told of, and what was shown stays. @return whether it was read
+  bool Refresh();
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+
+ private:
+  QWidget* MakeHead();
+  void MakeGrid();
+  QWidget* MakeSelected();
+  QWidget* MakeButtons();
+  void ChooseFamily(elements::MaterialFamily family);
+  void RememberColumns() const;
+  void RefreshAsAsked();
+  void SearchFor(const QString& text);
+  void ShowSelected();
+  void Take();
+  void Edit(const std::string& name);
+  void Delete();
+
+  windows::WindowTools tools_;
+  MaterialSource source_;
+  std::optional<MaterialPick> pick_;
+  Listener listener_;
+  elements::MaterialFamily family_{};
+  MaterialModel model_;
+  MaterialSearch shown_;
+  std::array<QRadioButton*, 3> families_{};
+  QLineEdit* search_ = nullptr;
+  MaterialGrid* grid_ = nullptr;
+  QCheckBox* all_columns_ = nullptr;
+  QLineEdit* name_ = nullptr;
+  QPushButton* new_ = nullptr;
+  QPushButton* edit_ = nullptr;
+  QPushButton* delete_ = nullptr;
+  QPushButton* take_ = nullptr;
+};
+
+}  // namespace velmar::materials

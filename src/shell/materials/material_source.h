@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QWidget>
+#include <functional>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "elements/layer_groups.h"
+#include "shell/windows/material_change.h"
+#include "storage/cell.h"
+#include "storage/materials/keywords.h"
+
+namespace velmar::materials {
+
+/// A row of a material table, in the order of storage::TableOf(family).
+using MaterialCells = std::vector<storage::Cell>;
+
+/// The material database as windows see it. Each function but `edit` may throw Failure; nothing has changed
+/// then.
+struct MaterialSource {
+  /// All rows in the order of their table.
+  std::function<std::vector<MaterialCells>(elements::MaterialFamily)> rows;
+  /// Names and keywords of all rows.
+  std::function<std::vector<storage::ListedMaterial>(elements::MaterialFamily)> names;
+  /// The row called `name`; nothing when there is none.
+  std::function<std::optional<MaterialCells>(elements::MaterialFamily, const std::string& name)> find;
+  /// @return false when there was no row of that name
+  std::function<bool(elements::MaterialFamily, const std::string& name)> remove;
+  /// Opens the editor for the row called `name`, for a new one when that is empty. Gives what it stored;
+  /// nothing when the user gave up. Empty: there is no editor.
+  std::function<std::optional<windows::MaterialChange>(QWidget* parent, elements::MaterialFamily,
+                                                       const std::string& name)>
+      edit{};
+};
+
+}  // namespace velmar::materials

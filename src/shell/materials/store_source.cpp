@@ -1,0 +1,61 @@
+#include "shell/materials/store_source.h"
+
+#include <memory>
+
+#include "storage/materials/material_store.h"
+
+namespace velmar::materials {
+namespace {
+
+using elements::MaterialFamily;
+using storage::MaterialStore;
+
+template <typename Material>
+std::vector<MaterialCells> Rows(const MaterialStore& store) {
+  std::vector<MaterialCells> rows;
+  for (const auto& row : store.Rows<Material>()) rows.push_back(storage::CellsFromRow(row));
+  return rows;
+}
+
+template <typename Material>
+std::optional<MaterialCells> Find(const MaterialStore& store, const std::string& name) {
+  const auto row = store.Find<Material>(name);
+  if (!row) return std::nullopt;
+  return storage::CellsFromRow(*row);
+}
+
+}  // namespace
+
+MaterialSource StoredMaterials(const std::filesystem::path& file) {
+  const auto store = std::make_shared<MaterialStore>(file);
+  MaterialSource source;
+  source.rows = [store](MaterialFamily family) -> std::vector<MaterialCells> {
+    switch (family) {
+      case MaterialFamily::kStructural:
+        return Rows<elements::StructuralMaterial>(*store);
+      case MaterialFamily::kFibrous:
+        return Rows<elements::FibrousMaterial>(*store);
+      case MaterialFamily::kResilient:
+        return Rows<elements::ResilientMaterial>(*store);
+    }
+    return {};
+  };
+  source.names = [store](MaterialFamily family) { return store->List(family); };
+  source.find = [store](MaterialFamily family, const std::string& name) -> std::optional<MaterialCells> {
+    switch (family) {
+      case MaterialFamily::kStructural:
+        return Find<elements::StructuralMaterial>(*store, name);
+      case MaterialFamily::kFibrous:
+        return Find<elements::FibrousMaterial>(*store, name);
+      case MaterialFamily::kResilient:
+        return Find<elements::ResilientMaterial>(*store, name);
+    }
+    return std::nullopt;
+  };
+  source.remove = [store](MaterialFamily family, const std::string& name) {
+    return store->Delete(family, name);
+  };
+  return source;
+}
+
+}  // namespace velmar::materials

@@ -1,0 +1,12 @@
+#pragma once
+
+#include <filesystem>
+
+#include "shell/materials/material_source.h"
+
+namespace velmar::materials {
+
+/// The material database `file`; without an editor.
+MaterialSource StoredMaterials(const std::filesystem::path& file);
+
+}  // namespace velmar::materials
