@@ -44,7 +44,7 @@ fs::path AccessSession::CopyOf(const fs::path& file) {
     }
     folder_ = name;
   }
-  const fs::path copy = folder_ / (std::to_string(copies_.size()) + ".sqlite");
+  fs::path copy = folder_ / (std::to_string(copies_.size()) + ".sqlite");
   std::error_code error;
   fs::remove(copy, error);
   copies_[key] = std::nullopt;

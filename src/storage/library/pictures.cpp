@@ -26,7 +26,7 @@ std::optional<fs::path> EntryOf(const fs::path& folder, const fs::path& name) {
 }  // namespace
 
 fs::path PictureFile(const fs::path& pictures, const std::string& folder, const std::string& picture) {
-  const fs::path none = pictures / "senza.jpg";
+  fs::path none = pictures / "senza.jpg";
   std::string name = picture;
   std::ranges::replace(name, '\\', '/');
   if (name.empty() || SameName(name, "senza") || fs::path(name).is_absolute()) return none;

@@ -1,12 +1,16 @@
 #include "shell/material_editors/edit_material.h"
 
 #include <QApplication>
+#include <QElapsedTimer>
+#include <QImage>
 #include <QLineEdit>
 #include <QTest>
 #include <QTimer>
+#include <cstdio>
 #include <filesystem>
 #include <functional>
 
+#include "shell/windows/picture_view.h"
 #include "tests/shell/material_editors/editor_fixture.h"
 
 namespace velmar::material_editors {
@@ -53,6 +57,67 @@ TEST_F(EditMaterialTest, GivesWhatWasStored) {
 TEST_F(EditMaterialTest, GivesNothingWhenTheUserGivesUp) {
   EXPECT_FALSE(Edit(MaterialFamily::kStructural, "", [](QWidget& window) { Press(window, "Command2"); }));
   EXPECT_TRUE(opened_);
+}
+
+TEST_F(EditMaterialTest, TheDestinationDecidesTheFace) {
+  const std::pair<MaterialFamily, const char*> faces[] = {
+      {MaterialFamily::kStructural, "Materiale parete"},
+      {MaterialFamily::kFibrous, "Materiali fibrosi"},
+      {MaterialFamily::kResilient, "materiale resiliente"}};
+  for (const auto& [family, caption] : faces) {
+    Edit(family, "", [&](QWidget& window) {
+      EXPECT_EQ(window.windowTitle(), caption);
+      EXPECT_EQ(window.objectName(), family == MaterialFamily::kStructural ? "Form5" : "Form6");
+    });
+    EXPECT_TRUE(opened_);
+  }
+}
+
+TEST_F(EditMaterialTest, ThePictureIsTakenFromTheFolderOfItsFamily) {
+  const std::filesystem::path pictures = folder_ / "Databases/immagine";
+  std::filesystem::create_directories(pictures / "intercapedine");
+  std::filesystem::create_directories(pictures / "Strati aggiuntivi orizzontali (DLw)");
+  const QImage picture(8, 8, QImage::Format_RGB32);
+  picture.save(QString::fromStdString((pictures / "intercapedine/lana.png").string()));
+  picture.save(QString::fromStdString((pictures / "Strati aggiuntivi orizzontali (DLw)/gomma.png").string()));
+  storage::FibrousRow wool;
+  wool.record.values.name = "Lana";
+  wool.picture = "lana.png";
+  store_.Add<elements::FibrousMaterial>({wool});
+  storage::ResilientRow rubber;
+  rubber.record.values.name = "Gomma";
+  rubber.picture = "gomma.png";
+  store_.Add<elements::ResilientMaterial>({rubber});
+  const auto has_picture = [](QWidget& window) {
+    const auto* view = dynamic_cast<windows::PictureView*>(&Child<QWidget>(window, "Picture1"));
+    return view != nullptr && view->HasPicture();
+  };
+  Edit(MaterialFamily::kFibrous, "Lana", [&](QWidget& window) { EXPECT_TRUE(has_picture(window)); });
+  EXPECT_TRUE(opened_);
+  Edit(MaterialFamily::kResilient, "Gomma", [&](QWidget& window) { EXPECT_TRUE(has_picture(window)); });
+  EXPECT_TRUE(opened_);
+  Edit(MaterialFamily::kFibrous, "", [&](QWidget& window) { EXPECT_FALSE(has_picture(window)); });
+  EXPECT_TRUE(told_.isEmpty());
+}
+
+TEST_F(EditMaterialTest, TenThousandMaterialsOpenAnEditorAtOnce) {
+  std::vector<storage::StructuralRow> rows(10000);
+  for (std::size_t i = 0; i < rows.size(); ++i) {
+    rows[i].record.values.name = "Materiale " + std::to_string(i);
+    rows[i].keyword = "gruppo " + std::to_string(i % 200);
+  }
+  store_.Add<StructuralMaterial>(rows);
+  QElapsedTimer timer;
+  timer.start();
+  qint64 opening_ms = 0;
+  Edit(MaterialFamily::kStructural, "Materiale 9999", [&](QWidget& window) {
+    window.grab();
+    opening_ms = timer.elapsed();
+  });
+  ASSERT_TRUE(opened_);
+  RecordProperty("opening_ms", static_cast<int>(opening_ms));
+  std::printf("10000 materials: opening %lld ms\n", static_cast<long long>(opening_ms));
+  EXPECT_LT(opening_ms, 500);
 }
 
 TEST_F(EditMaterialTest, AMaterialThatIsGoneIsToldBeforeAWindowOpens) {

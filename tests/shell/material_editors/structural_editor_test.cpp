@@ -486,6 +486,16 @@ TEST_F(StructuralEditorTest, EveryControlIsNamedAndEveryLetterLeadsToOnePlace) {
   EXPECT_EQ(std::set<QChar>(letters.begin(), letters.end()).size(), letters.size());
 }
 
+TEST_F(StructuralEditorTest, AltAndALetterReachABoxAndSave) {
+  Open();
+  FillIn();
+  QTest::keyClick(window_->focusWidget(), Qt::Key_D, Qt::AltModifier);
+  EXPECT_EQ(Focused(), "Text2");
+  QTest::keyClick(window_->focusWidget(), Qt::Key_S, Qt::AltModifier);
+  EXPECT_TRUE(QTest::qWaitFor([this] { return !window_->isVisible(); }));
+  EXPECT_TRUE(Stored("Gesso"));
+}
+
 TEST_F(StructuralEditorTest, TheSizeIsRemembered) {
   memory_ = std::make_unique<QSettings>(QString::fromStdString((folder_ / "finestre.ini").string()),
                                         QSettings::IniFormat);
