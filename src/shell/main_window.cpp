@@ -72,6 +72,7 @@ MainWindow::MainWindow(const WindowServices& services, QWidget* parent)
   NoteCorrections(*this, services.words);
   files_.OnChange([this] {
     setWindowTitle(files_.Caption());
+    setWindowFilePath(QString::fromStdString(files_.File().string()));
     ShowProjects();
   });
   services_.open.OnChange([this] { ShowAll(); });

@@ -4,6 +4,7 @@
 
 #include "presentation/drawing/printed_page.h"
 #include "presentation/export/report_chart.h"
+#include "shell/beside_project.h"
 #include "shell/printing/page_printer.h"
 #include "shell/results_panel.h"
 
@@ -28,6 +29,7 @@ printing::PrintedDocument DocumentOf(const WindowServices& services, const QWidg
       setup, {totals.thickness_mm, totals.surface_mass_kg_m2}, result ? &*result : nullptr, services.words,
       result ? presentation::WholeChartOf(setup, *result, services.words, ShownChart(window)) : std::nullopt);
   document.title = document.page.title;
+  document.pdf_start = BesideProject(window, QStringLiteral(".pdf"));
   return document;
 }
 

@@ -28,6 +28,8 @@ class ProjectFiles {
 
   /// "VELMARpro - Calcolo previsionale elementi - Nuovo".
   QString Caption() const;
+  /// The open project's file; empty for none.
+  const std::filesystem::path& File() const { return project_; }
 
   /// `on_change` is called when the project's name changes.
   void OnChange(std::function<void()> on_change) { on_change_ = std::move(on_change); }

@@ -7,6 +7,7 @@
 #include "presentation/reports/excel_report.h"
 #include "presentation/reports/report_record.h"
 #include "presentation/reports/word_report.h"
+#include "shell/beside_project.h"
 #include "shell/phrases.h"
 #include "shell/results_panel.h"
 #include "storage/files/open_elsewhere.h"
@@ -54,11 +55,14 @@ std::optional<std::filesystem::path> Template(Kind kind, const std::filesystem::
 }
 
 /// The file to write; nothing when the user cancels.
-std::optional<std::filesystem::path> Target(Kind kind, const WindowServices& services) {
+std::optional<std::filesystem::path> Target(Kind kind, const WindowServices& services,
+                                            const QWidget* window) {
   const std::string ending = kind == Kind::kWord ? ".docx" : ".xlsx";
   const QString files = kind == Kind::kWord ? Text(services.words, kWordFilesRow) : QStringLiteral("Excel");
-  const QString chosen = services.boxes.choose_file_to_save(
-      {.title = Text(services.words, kSaveAsRow), .filter = files + " (*" + FromUtf8(ending) + ')'});
+  const QString chosen =
+      services.boxes.choose_file_to_save({.title = Text(services.words, kSaveAsRow),
+                                          .filter = files + " (*" + FromUtf8(ending) + ')',
+                                          .start = BesideProject(window, FromUtf8(ending))});
   if (chosen.isEmpty()) return std::nullopt;
   if (chosen.endsWith(FromUtf8(ending), Qt::CaseInsensitive)) return ToUtf8(chosen);
   // The dialog has asked about the name without its ending only.
@@ -93,7 +97,7 @@ void Export(Kind kind, const std::filesystem::path& templates, const WindowServi
   if (!services.open.Setup().calculation || !services.open.Result()) return;
   const std::optional<std::filesystem::path> pattern = Template(kind, templates, services);
   if (!pattern) return;
-  const std::optional<std::filesystem::path> file = Target(kind, services);
+  const std::optional<std::filesystem::path> file = Target(kind, services, window);
   if (!file) return;
   try {
     services.boxes.tell(Tone::kInformation,

@@ -120,6 +120,13 @@ class PaperCommandsTest : public QObject {
     QVERIFY(DrawnOf(program.Page()) == page);
   }
 
+  void thePdfIsOfferedBesideTheProject() {
+    const Program program;
+    QCOMPARE(DocumentOf(program.fixture.services, program.fixture.window.get()).pdf_start,
+             QString(EXAMPLES) + "/parete-forato-intonacata.pdf");
+    QVERIFY(DocumentOf(program.fixture.services, nullptr).pdf_start.isEmpty());
+  }
+
   void thePageKeepsTheScaleOfTheScreen() {
     const Program program;
     const QStringList fixed = DrawnOf(program.Page()).texts;

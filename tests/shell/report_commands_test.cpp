@@ -172,6 +172,19 @@ class ReportCommandsTest : public QObject {
     }
   }
 
+  void theNameOfTheProjectIsOffered() {
+    Program program;
+    QStringList offered;
+    program.fixture.services.boxes.choose_file_to_save = [&](const FileQuestion& question) {
+      offered << question.start + ' ' + question.filter;
+      return QString();
+    };
+    for (const Report& report : {kWord, kExcel}) program.fixture.Find<QAction>(report.action)->trigger();
+    QCOMPARE(offered,
+             QStringList({QString(EXAMPLES) + "/parete-forato-intonacata.docx Documento Word (*.docx)",
+                          QString(EXAMPLES) + "/parete-forato-intonacata.xlsx Excel (*.xlsx)"}));
+  }
+
   void aCancelledDialogWritesNothing() {
     Program program;
     program.fixture.file.clear();

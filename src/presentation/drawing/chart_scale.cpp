@@ -52,7 +52,10 @@ ChartRange RangeOf(const CurveChart& chart) {
 void ShowWhole(CurveChart& chart) {
   for (const auto* curve : {&chart.base, &chart.laboratory, &chart.in_situ})
     chart.autoscale = chart.autoscale || (*curve && Leaves(**curve, chart));
-  chart.autoscale = chart.autoscale || Leaves(chart.values, chart);
+  // Only upwards: a fitted scale follows a low reference curve no better.
+  const bool high_reference =
+      chart.shift && *std::ranges::max_element(chart.reference) + *chart.shift > kHighestShown;
+  chart.autoscale = chart.autoscale || high_reference || Leaves(chart.values, chart);
 }
 
 std::array<int, kAxisLabelCount> AxisLabels(const ChartRange& range) {

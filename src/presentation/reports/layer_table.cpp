@@ -49,7 +49,7 @@ TableRow TableRowOf(const StructureRow& row, const ReportRecord& record) {
 
 /// Joins what is beyond the last row, so that no layer goes missing: names in one cell, numbers added up.
 void JoinOverflow(std::vector<TableRow>& rows) {
-  constexpr auto kMost = static_cast<std::size_t>(kLastLayerRow - kFirstLayerRow + 1);
+  constexpr std::size_t kMost = kLastLayerRow - kFirstLayerRow + 1;
   while (rows.size() > kMost) {
     TableRow last = rows.back();
     rows.pop_back();

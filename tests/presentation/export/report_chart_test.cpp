@@ -67,6 +67,15 @@ TEST(WholeChartOf, ALiningIsJudgedByTheBandsThatItShows) {
   EXPECT_FALSE(WholeChartOf(setup, result, CatalogueWords())->autoscale);
 }
 
+TEST(WholeChartOf, AReferenceCurveThatWouldLeaveTheScaleCountsToo) {
+  elements::ResultSet result = ResultOf(85.0);
+  const elements::Setup floor = samples::FloatingFloor();
+  result.shift = 90.0;  // its highest value, at 100 Hz
+  EXPECT_FALSE(WholeChartOf(floor, result, CatalogueWords())->autoscale);
+  result.shift = 90.1;
+  EXPECT_TRUE(WholeChartOf(floor, result, CatalogueWords())->autoscale);
+}
+
 TEST(WholeChartOf, IsNothingWithoutACurve) {
   EXPECT_FALSE(
       WholeChartOf(samples::Lining(Calculation::kLiningGeneric), samples::Result(), CatalogueWords()));
