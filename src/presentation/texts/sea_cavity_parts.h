@@ -15,8 +15,8 @@ inline std::span<const SeaCavityPart> PartsOf(elements::SeaCavityType type) {
   static constexpr std::array kFromFibre = {kFibre, kMass, kFibre, kMass, kFibre};
   static constexpr std::array kBetweenMasses = {kMass, kFibre, kMass};
   if (type == elements::SeaCavityType::kMassFibreMass) return kBetweenMasses;
-  return std::span(kFromFibre)
-      .first(static_cast<std::size_t>(elements::FibreCount(type) + elements::MassCount(type)));
+  const int count = elements::FibreCount(type) + elements::MassCount(type);
+  return std::span(kFromFibre).first(static_cast<std::size_t>(count));
 }
 
 }  // namespace velmar::presentation
