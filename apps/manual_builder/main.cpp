@@ -39,6 +39,7 @@ int main(int count, char** arguments) {
   const velmar::manual::ManualPages pages(QString::fromUtf8(text.readAll()), QFileInfo(text).absolutePath(),
                                           kTitle);
   for (const QString& picture : pages.MissingPictures()) qWarning("no picture %s", qPrintable(picture));
-  if (!pages.MissingPictures().isEmpty()) return 1;
+  if (!pages.HoldsWholeText()) qWarning("the text runs over its last page");
+  if (!pages.MissingPictures().isEmpty() || !pages.HoldsWholeText()) return 1;
   return WritePdf(pages, QGuiApplication::arguments().at(2)) ? 0 : 1;
 }

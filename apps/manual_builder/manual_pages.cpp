@@ -62,7 +62,7 @@ bool IsCode(const QTextBlock& block) {
          block.blockFormat().nonBreakableLines();
 }
 
-void DressCode(QTextBlock block) {
+void DressCode(const QTextBlock& block) {
   QTextCursor cursor(block);
   QTextBlockFormat look;
   look.setNonBreakableLines(false);
@@ -77,7 +77,7 @@ void DressCode(QTextBlock block) {
   cursor.mergeCharFormat(letters);
 }
 
-void DressHeading(QTextBlock block) {
+void DressHeading(const QTextBlock& block) {
   const HeadingLook& look = LookOf(block.blockFormat().headingLevel());
   QTextCursor cursor(block);
   QTextBlockFormat space;
@@ -99,7 +99,13 @@ void DressHeading(QTextBlock block) {
   }
 }
 
-void DressText(QTextBlock block) {
+void BreakBefore(const QTextBlock& block) {
+  QTextBlockFormat look;
+  look.setPageBreakPolicy(QTextFormat::PageBreak_AlwaysBefore);
+  QTextCursor(block).mergeBlockFormat(look);
+}
+
+void DressText(const QTextBlock& block) {
   QTextCursor cursor(block);
   QTextBlockFormat look;
   look.setLineHeight(kLineHeightPercent, QTextBlockFormat::ProportionalHeight);
@@ -124,6 +130,7 @@ ManualPages::ManualPages(const QString& markdown, const QString& folder, QString
   DressTables();
   document_.setPageSize(kText);
   KeepTogether();
+  document_.markContentsDirty(0, document_.characterCount());
 }
 
 void ManualPages::DressBlocks() {
@@ -206,17 +213,25 @@ void ManualPages::KeepTogether() {
   const QAbstractTextDocumentLayout& layout = *document_.documentLayout();
   for (QTextBlock block = document_.begin(); block.isValid(); block = block.next()) {
     const bool heading = block.blockFormat().headingLevel() > 0;
-    if (!heading || height_on_page(layout.blockBoundingRect(block)) < kLowestHeading) continue;
-    QTextBlockFormat look;
-    look.setPageBreakPolicy(QTextFormat::PageBreak_AlwaysBefore);
-    QTextCursor(block).mergeBlockFormat(look);
+    if (heading && height_on_page(layout.blockBoundingRect(block)) >= kLowestHeading) BreakBefore(block);
   }
   for (QTextFrame* frame : document_.rootFrame()->childFrames()) {
     if (height_on_page(layout.frameBoundingRect(frame)) < kLowestTable) continue;
+    // A heading goes with its table.
+    const QTextBlock before = document_.findBlock(frame->firstPosition()).previous();
+    if (before.isValid() && before.blockFormat().headingLevel() > 0) {
+      BreakBefore(before);
+      continue;
+    }
     QTextFrameFormat look = frame->frameFormat();
     look.setPageBreakPolicy(QTextFormat::PageBreak_AlwaysBefore);
     frame->setFrameFormat(look);
   }
+}
+
+bool ManualPages::HoldsWholeText() const {
+  const QRectF last = document_.documentLayout()->blockBoundingRect(document_.lastBlock());
+  return last.height() > 0.0 && last.bottom() <= Count() * kText.height();
 }
 
 bool ManualPages::PaintOn(QPagedPaintDevice& device) const {

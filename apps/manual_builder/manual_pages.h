@@ -23,6 +23,9 @@ class ManualPages {
   /// The pictures that the text names and the folder does not hold.
   const QStringList& MissingPictures() const { return missing_pictures_; }
 
+  /// Whether the last line of the text stands on a page.
+  bool HoldsWholeText() const;
+
   /// Paints every page on `device`, which is an A4 page without margins.
   /// @return whether all could be painted
   bool PaintOn(QPagedPaintDevice& device) const;

@@ -3,10 +3,12 @@
 #include <QAction>
 #include <QActionGroup>
 #include <QMenu>
+#include <algorithm>
 #include <array>
 #include <string>
 #include <string_view>
 
+#include "shell/calculation_captions.h"
 #include "shell/layer_row.h"
 #include "shell/phrases.h"
 
@@ -15,70 +17,6 @@ namespace {
 
 using elements::Calculation;
 using elements::CalculationRow;
-using enum elements::Calculation;
-
-constexpr MessageRow kRelationRow{142};
-
-/// What stands behind the words of a menu entry.
-enum class Mark { kNone, kRelation, kImpedance, kRow, kCommaAndRow };
-
-struct Entry {
-  Calculation calculation{};
-  int row = 0;
-  Mark mark = Mark::kNone;
-  int mark_row = 0;
-};
-
-// In the order of the tree.
-constexpr std::array<Entry, elements::kCalculationCount> kEntries = {{
-    {kSingleWallGeneric, 23},
-    {kSingleWallBrick, 25, Mark::kRelation},
-    {kSingleWallBrickFerrara, 24, Mark::kRelation},
-    {kSingleWallSea, 103},
-    {kSingleWallPlasterboard, 26, Mark::kRelation},
-    {kSingleWallConcrete, 102},
-    {kSingleWallHBlocks, 27, Mark::kRelation},
-    {kSingleWallExpandedClayBlocks, 28, Mark::kRelation},
-    {kSingleWallConcreteBlocks, 29, Mark::kRelation},
-    {kSingleWallGypsumBlocks, 30, Mark::kRelation},
-    {kSingleWallAeratedConcrete, 31, Mark::kRelation},
-    {kFloorHollowBrickConcrete, 32, Mark::kRelation},
-    {kSinglePaneGeneric, 48},
-    {kSinglePaneMonolithic, 49, Mark::kRelation},
-    {kSinglePaneLaminated, 50, Mark::kRelation},
-    {kInsulatingGlassGeneric, 51},
-    {kInsulatingGlass, 53, Mark::kRelation},
-    {kInsulatingGlassOneLaminated, 118, Mark::kRelation},
-    {kInsulatingGlassTwoLaminated, 54, Mark::kRelation},
-    {kDoubleWallGeneric, 34, Mark::kImpedance},
-    {kDoubleWallBrick, 105, Mark::kRelation},
-    {kDoubleWallBrickTorvalle, 104, Mark::kRelation},
-    {kDoubleWallSeaBrick, 103},
-    {kDoubleWallConcrete, 102},
-    {kDoubleWallSeaPlasterboardPoint, 107},
-    {kDoubleWallSeaPlasterboardLine, 108},
-    {kDoubleWallPlasterboardCommonStuds, 36, Mark::kRelation},
-    {kDoubleWallPlasterboardSeparateStuds, 37, Mark::kRelation},
-    {kDoubleWallPlasterboardSingleBoardSimpleFrame, 39, Mark::kRelation},
-    {kDoubleWallPlasterboardMultipleBoardSimpleFrame, 40, Mark::kRelation},
-    {kDoubleWallPlasterboardMultipleBoardDoubleFrame, 41, Mark::kRelation},
-    {kLightWallLineLine, 43},
-    {kLightWallLinePoint, 44},
-    {kLightWallPointPoint, 45},
-    {kLightWallIsolated, 46},
-    {kFloorWithFloatingScreed, 32, Mark::kCommaAndRow, 188},
-    {kCompositeElement, 55},
-    {kLiningGeneric, 111, Mark::kRelation},
-    {kLiningCalibel, 112},
-    {kLiningFrame, 113},
-    {kCeilingGeneric, 115, Mark::kRelation},
-    {kCeilingSea, 116},
-    {kImpactFloatingFloor, 58, Mark::kRow, 144},
-    {kImpactReinforcedConcrete, 59, Mark::kRow, 145},
-    {kImpactLightweightConcrete, 60, Mark::kRow, 146},
-    {kImpactHollowBrickConcrete, 109, Mark::kRow, 147},
-    {kImpactHollowBrickConcreteGavelo, 413, Mark::kRow, 143},
-}};
 
 /// A line of the tree: a heading (row) or the entries of a menu handler, `depth` steps in.
 struct TreeLine {
@@ -115,13 +53,6 @@ constexpr std::array<TreeLine, 25> kTree = {{
     {1, "cal_solaio_new", 0},
 }};
 
-const Entry& EntryOf(Calculation calculation) {
-  for (const Entry& entry : kEntries) {
-    if (entry.calculation == calculation) return entry;
-  }
-  return kEntries.front();
-}
-
 QString ControlName(const CalculationRow& row) {
   int members = 0;
   for (const CalculationRow& other : elements::Catalogue())
@@ -131,29 +62,6 @@ QString ControlName(const CalculationRow& row) {
 }
 
 }  // namespace
-
-MessageLine MenuCaption(Calculation calculation) {
-  const Entry& entry = EntryOf(calculation);
-  MessageLine line = {MessageRow{entry.row}};
-  switch (entry.mark) {
-    case Mark::kNone:
-      break;
-    case Mark::kRelation:
-      line.insert(line.end(),
-                  {std::string(" ["), kRelationRow, ' ' + std::to_string(RowOf(calculation).relation) + ']'});
-      break;
-    case Mark::kImpedance:
-      line.emplace_back(std::string(" [MIA]"));
-      break;
-    case Mark::kRow:
-      line.insert(line.end(), {std::string(" "), MessageRow{entry.mark_row}});
-      break;
-    case Mark::kCommaAndRow:
-      line.insert(line.end(), {std::string(", "), MessageRow{entry.mark_row}});
-      break;
-  }
-  return line;
-}
 
 CalculationActions::CalculationActions(const presentation::Words& words, QObject* parent,
                                        const std::function<void(Calculation)>& choose) {
@@ -181,12 +89,12 @@ void CalculationActions::FillTree(QMenu& menu, const presentation::Words& words)
       continue;
     }
     int last_index = -1;
-    for (const Entry& entry : kEntries) {
-      const CalculationRow& row = RowOf(entry.calculation);
+    for (const Calculation calculation : InMenuOrder()) {
+      const CalculationRow& row = RowOf(calculation);
       if (row.menu_group != line.control) continue;
       // An index that no entry has is a separator.
       if (row.menu_index > last_index + 1) parent->addSeparator();
-      parent->addAction(Of(entry.calculation));
+      parent->addAction(Of(calculation));
       last_index = row.menu_index;
     }
   }
@@ -194,22 +102,21 @@ void CalculationActions::FillTree(QMenu& menu, const presentation::Words& words)
 
 void CalculationActions::FillKind(QMenu& menu, elements::ElementButton button) const {
   std::string_view group;
-  for (const Entry& entry : kEntries) {
-    const CalculationRow& row = RowOf(entry.calculation);
+  for (const Calculation calculation : InMenuOrder()) {
+    const CalculationRow& row = RowOf(calculation);
     if (row.button != button) continue;
     if (!group.empty() && row.menu_group != group) menu.addSeparator();
     group = row.menu_group;
-    menu.addAction(Of(entry.calculation));
+    menu.addAction(Of(calculation));
   }
 }
 
 void CalculationActions::Mark(Calculation calculation) { Of(calculation)->setChecked(true); }
 
 elements::Calculation FirstOf(elements::ElementButton button) {
-  for (const Entry& entry : kEntries) {
-    if (RowOf(entry.calculation).button == button) return entry.calculation;
-  }
-  return kSingleWallGeneric;
+  const auto order = InMenuOrder();
+  const auto first = std::ranges::find(order, button, [](Calculation one) { return RowOf(one).button; });
+  return first == order.end() ? order.front() : *first;
 }
 
 }  // namespace velmar::shell

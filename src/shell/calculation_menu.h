@@ -13,10 +13,6 @@ class QObject;
 
 namespace velmar::shell {
 
-/// The caption of a calculation's menu entry: its words and, behind a relation, "[relazione sperimentale
-/// 10]".
-MessageLine MenuCaption(elements::Calculation calculation);
-
 /// The actions of the 47 calculations, one each, shared by the calculation tree, the menus of the element
 /// buttons and the start screen. Each is called after its menu handler, with its index where that has
 /// several.

@@ -19,7 +19,6 @@
 #include "shell/phrases.h"
 #include "shell/project_information_dialog.h"
 #include "shell/results_panel.h"
-#include "shell/results_table_window.h"
 #include "shell/run_command.h"
 #include "shell/start_screen.h"
 #include "shell/tool_bar.h"
@@ -57,6 +56,7 @@ MainWindow::MainWindow(const WindowServices& services, QWidget* parent)
       memory_(services.places.settings),
       recovery_(services, kRecoveryDelayMs),
       files_(services, memory_, recovery_),
+      table_(services, [this] { ShowAll(); }),
       commands_(services.words, this, [this](CommandId id) { Execute(id); }),
       calculations_(services.words, this,
                     [this](elements::Calculation calculation) { Choose(calculation); }) {
@@ -84,11 +84,7 @@ MainWindow::MainWindow(const WindowServices& services, QWidget* parent)
   ShowAll();
 }
 
-MainWindow::~MainWindow() {
-  services_.open.OnChange({});
-  // The table tells the window when it closes; it goes while the window can still listen.
-  delete table_;
-}
+MainWindow::~MainWindow() { services_.open.OnChange({}); }
 
 void MainWindow::MakeCentre() {
   auto* inputs = new QWidget;
@@ -132,7 +128,7 @@ void MainWindow::Execute(CommandId id) {
       RunOpenCalculation(services_, *this);
       return;
     case CommandId::kShowTable:
-      ShowTable();
+      table_.Show(this);
       return;
     case CommandId::kDimensions:
       DimensionDialog(services_.open, services_.words, this).exec();
@@ -186,16 +182,12 @@ void MainWindow::Choose(elements::Calculation calculation) {
 void MainWindow::ShowAll() {
   const elements::Setup& setup = services_.open.Setup();
   const bool has_result = services_.open.Result().has_value();
-  if (had_result_ && !has_result) {
-    if (table_) table_->close();
-    if (services_.result_gone) services_.result_gone();
-  }
+  table_.Follow();
+  if (had_result_ && !has_result && services_.result_gone) services_.result_gone();
   had_result_ = has_result;
-  // A second run may give another result; the table shows the one that stands.
-  if (has_result && table_ && table_->isVisible()) table_->Show(TableNow());
   recovery_.Follow();
   const Needs state = StateOf(services_.open);
-  commands_.Enable(state, table_ && table_->isVisible());
+  commands_.Enable(state, table_.IsOpen());
   tool_bar_->ShowRunDue(state == Needs::kCalculation);
   centre_->setCurrentWidget(setup.calculation ? static_cast<QWidget*>(sides_) : start_);
   if (!setup.calculation) return;
@@ -215,21 +207,9 @@ void MainWindow::ArrangeSides() {
   sides_->setSizes({kInputsWidth, centre_->width() - kInputsWidth});
 }
 
-presentation::ResultsTable MainWindow::TableNow() const {
-  return presentation::ResultsTableOf(services_.open.Setup(), *services_.open.Result(), services_.words);
-}
-
-void MainWindow::ShowTable() {
-  if (!services_.open.Result() || table_) return;
-  table_ = new ResultsTableWindow(TableNow(), services_.words, this);
-  connect(table_, &QObject::destroyed, this, [this] { ShowAll(); });
-  table_->show();
-  ShowAll();
-}
-
 void MainWindow::ShowProjects() {
   const auto recent = memory_.RecentProjects();
-  start_->ShowProjects(recent, Examples());
+  start_->ShowProjects(recent, ProjectsIn(services_.places.examples));
   recent_->clear();
   recent_->setEnabled(!recent.empty());
   for (const std::filesystem::path& project : recent)
@@ -239,16 +219,6 @@ void MainWindow::ShowProjects() {
     memory_.ForgetProjects();
     ShowProjects();
   });
-}
-
-std::vector<std::filesystem::path> MainWindow::Examples() const {
-  std::vector<std::filesystem::path> examples;
-  std::error_code error;
-  for (const auto& entry : std::filesystem::directory_iterator(services_.places.examples, error)) {
-    if (entry.path().extension() == ".drav") examples.push_back(entry.path());
-  }
-  std::sort(examples.begin(), examples.end());
-  return examples;
 }
 
 void MainWindow::OpenProject(const std::filesystem::path& project) {
@@ -286,7 +256,7 @@ void MainWindow::Exit(bool asking) {
 void MainWindow::closeEvent(QCloseEvent* event) {
   memory_.SaveSizes(*this, *sides_, *results_->Splitter());
   recovery_.WriteNow();
-  if (table_) table_->close();
+  table_.Close();
   QMainWindow::closeEvent(event);
 }
 

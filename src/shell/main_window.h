@@ -1,15 +1,14 @@
 #pragma once
 
 #include <QMainWindow>
-#include <QPointer>
 #include <memory>
 
 #include "shell/calculation_menu.h"
 #include "shell/command_set.h"
+#include "shell/open_table.h"
 #include "shell/page_context.h"
 #include "shell/project_files.h"
 #include "shell/recovery.h"
-#include "shell/results_table_window.h"
 #include "shell/window_memory.h"
 
 class QMenu;
@@ -56,11 +55,8 @@ class MainWindow : public QMainWindow {
   void Begin(elements::ElementButton button);
   void ShowAll();
   void ArrangeSides();
-  void ShowTable();
-  presentation::ResultsTable TableNow() const;
   void ShowProjects();
   void Exit(bool asking);
-  std::vector<std::filesystem::path> Examples() const;
 
   const WindowServices& services_;
   MaterialLists materials_;
@@ -68,6 +64,7 @@ class MainWindow : public QMainWindow {
   WindowMemory memory_;
   Recovery recovery_;
   ProjectFiles files_;
+  OpenTable table_;
   CommandSet commands_;
   CalculationActions calculations_;
   CommandToolBar* tool_bar_ = nullptr;
@@ -78,7 +75,6 @@ class MainWindow : public QMainWindow {
   ElementHeader* header_ = nullptr;
   InputTabs* tabs_ = nullptr;
   ResultsPanel* results_ = nullptr;
-  QPointer<ResultsTableWindow> table_;
   bool had_result_ = false;
   bool sides_arranged_ = false;
 };

@@ -1,5 +1,7 @@
 #include "shell/project_files.h"
 
+#include <algorithm>
+
 #include "foundation/failure.h"
 #include "shell/phrases.h"
 
@@ -18,6 +20,16 @@ constexpr const char* kEnding = ".drav";
 constexpr const char* kFilter = "VELMARpro files (*.drav)";
 
 }  // namespace
+
+std::vector<std::filesystem::path> ProjectsIn(const std::filesystem::path& folder) {
+  std::vector<std::filesystem::path> projects;
+  std::error_code error;
+  for (const auto& entry : std::filesystem::directory_iterator(folder, error)) {
+    if (entry.path().extension() == kEnding) projects.push_back(entry.path());
+  }
+  std::sort(projects.begin(), projects.end());
+  return projects;
+}
 
 ProjectFiles::ProjectFiles(const WindowServices& services, WindowMemory& memory, Recovery& recovery)
     : services_(services), memory_(memory), recovery_(recovery) {}

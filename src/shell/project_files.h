@@ -2,6 +2,7 @@
 
 #include <filesystem>
 #include <functional>
+#include <vector>
 
 #include "shell/recovery.h"
 #include "shell/window_memory.h"
@@ -46,5 +47,8 @@ class ProjectFiles {
   std::filesystem::path project_;
   std::function<void()> on_change_;
 };
+
+/// The project files in `folder` by name; none when it cannot be read.
+std::vector<std::filesystem::path> ProjectsIn(const std::filesystem::path& folder);
 
 }  // namespace velmar::shell

@@ -65,8 +65,11 @@ ProjectList::ProjectList(std::function<void(const std::filesystem::path&)> open,
   setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
   setMouseTracking(true);
-  connect(this, &QListWidget::itemClicked, this, [this](QListWidgetItem* item) { Open(*item); });
-  connect(this, &QListWidget::itemActivated, this, [this](QListWidgetItem* item) { Open(*item); });
+  // Opening fills this list anew, so it waits until the click is over.
+  connect(
+      this, &QListWidget::itemClicked, this, [this] { OpenCurrent(); }, Qt::QueuedConnection);
+  connect(
+      this, &QListWidget::itemActivated, this, [this] { OpenCurrent(); }, Qt::QueuedConnection);
 }
 
 void ProjectList::Show(const std::vector<std::filesystem::path>& projects, const QString& none,
@@ -84,17 +87,11 @@ void ProjectList::Show(const std::vector<std::filesystem::path>& projects, const
   item->setFlags(Qt::NoItemFlags);
 }
 
-void ProjectList::Open(const QListWidgetItem& item) {
-  const QString path = item.data(kPathRole).toString();
-  if (path.isEmpty()) return;
-  // Opening fills this list anew, so it waits until the click is over. A click that also activates opens
-  // once: by then the start screen is gone.
-  QMetaObject::invokeMethod(
-      this,
-      [this, path] {
-        if (isVisible()) open_(path.toStdString());
-      },
-      Qt::QueuedConnection);
+void ProjectList::OpenCurrent() {
+  // A click that also activates opens once: by then the start screen is gone.
+  if (currentItem() == nullptr || !isVisible()) return;
+  const QString path = currentItem()->data(kPathRole).toString();
+  if (!path.isEmpty()) open_(path.toStdString());
 }
 
 }  // namespace velmar::shell

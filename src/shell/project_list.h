@@ -17,7 +17,7 @@ class ProjectList : public QListWidget {
   void Show(const std::vector<std::filesystem::path>& projects, const QString& none, bool with_folders);
 
  private:
-  void Open(const QListWidgetItem& item);
+  void OpenCurrent();
 
   std::function<void(const std::filesystem::path&)> open_;
 };

@@ -68,7 +68,9 @@ StartScreen::StartScreen(const presentation::Words& words, const CalculationActi
   lists->setHorizontalSpacing(2 * kGap);
   lists->setVerticalSpacing(kGap / 2);
   recent_ = AddList(*lists, 0, kRecentRow);
+  recent_->setObjectName("Recenti");
   examples_ = AddList(*lists, 1, kExamplesRow);
+  examples_->setObjectName("Esempi");
   column->addLayout(lists, 1);
   // Large screens leave room around, small ones give it to the lists.
   grid->setColumnStretch(0, 1);

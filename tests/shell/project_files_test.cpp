@@ -1,6 +1,7 @@
 #include <QAction>
 #include <QFileInfo>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -90,6 +91,20 @@ class ProjectFilesTest : public QObject {
     QCOMPARE(next.asked.size(), 1);
     QCOMPARE(next.Find<QLineEdit>("Text5_0")->text(), QString("77"));
     QVERIFY(!next.open.IsSaved());
+  }
+
+  void aClickOnTheStartScreenOpensAnExample() {
+    WindowFixture fixture;
+    fixture.services.places.examples = EXAMPLES;
+    fixture.window.reset();
+    fixture.window = std::make_unique<MainWindow>(fixture.services);
+    fixture.window->show();
+    auto* list = fixture.Find<QListWidget>("Esempi");
+    QCOMPARE(list->count(), static_cast<int>(ProjectsIn(EXAMPLES).size()));
+    QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualItemRect(list->item(2)).center());
+    QTRY_VERIFY(fixture.open.Setup().calculation.has_value());
+    QVERIFY(fixture.window->windowTitle().endsWith(" - calpestio-galleggiante"));
+    QVERIFY(!list->isVisible());
   }
 
   void aProjectOfAnUnknownCalculationIsTold() {

@@ -13,6 +13,9 @@ int main(int argc, char** argv) {
   if (arguments.size() < 6) return 2;
   velmar::shell::SetLooks(arguments.at(4) == "dark");
   velmar::shell::WindowFixture fixture;
+  fixture.services.places.examples = EXAMPLES;
+  fixture.window.reset();
+  fixture.window = std::make_unique<velmar::shell::MainWindow>(fixture.services);
   if (arguments.at(5) != "-") {
     fixture.window->OpenProject(arguments.at(5).toStdString());
     if (arguments.size() > 7) {
