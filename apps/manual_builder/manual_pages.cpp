@@ -227,6 +227,9 @@ void ManualPages::KeepTogether() {
     look.setPageBreakPolicy(QTextFormat::PageBreak_AlwaysBefore);
     frame->setFrameFormat(look);
   }
+  // Breaks set afterwards leave blocks without a place: everything is laid out anew.
+  document_.setPageSize(QSizeF());
+  document_.setPageSize(kText);
 }
 
 bool ManualPages::HoldsWholeText() const {
