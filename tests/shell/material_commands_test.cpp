@@ -128,6 +128,11 @@ class MaterialCommandsTest : public QObject {
     QTest::keyClick(view, Qt::Key_Return);
     QVERIFY2(program.fixture.open.Setup() == before, "the focus stands in no material list");
     program.List(LayerGroup::kLeaf1, 1)->setFocus();
+    MaterialsProgram::Search(*tree, "lana di roccia 100");
+    QCOMPARE(view->currentIndex().parent().row(), 1);
+    QTest::keyClick(view, Qt::Key_Return);
+    QVERIFY2(program.fixture.open.Setup() == before, "a wool is no wall");
+    MaterialsProgram::Search(*tree, "cartongesso");
     QTest::keyClick(view, Qt::Key_Return);
     QCOMPARE(program.Layer(LayerGroup::kLeaf1, 1).listed, name);
     QCOMPARE(program.Layer(LayerGroup::kLeaf1, 0).listed, before.leaf1.rows[0].listed);
