@@ -1,11 +1,8 @@
 #include "shell/material_editors/absorption_box.h"
 
-#include <QAction>
 #include <QClipboard>
-#include <QContextMenuEvent>
 #include <QGuiApplication>
 #include <QKeyEvent>
-#include <QMenu>
 
 #include "shell/windows/window_tools.h"
 #include "storage/materials/pasted_absorption.h"
@@ -17,6 +14,17 @@ constexpr int kWidthInDigits = 5;
 
 bool IsColumn(const QString& text) { return storage::IsColumn(windows::FromQt(text)); }
 
+/// The cells that were pasted into a box that held `before` and now holds `text`. What was dropped counts
+/// whole, whatever the clipboard holds.
+QString Arrived(const QString& text, const QString& before) {
+  for (const QClipboard::Mode mode : {QClipboard::Clipboard, QClipboard::Selection}) {
+    const QString cells = QGuiApplication::clipboard()->text(mode);
+    const bool rest_was_there = text.size() - cells.size() <= before.size();
+    if (IsColumn(cells) && rest_was_there && text.contains(cells)) return cells;
+  }
+  return text;
+}
+
 }  // namespace
 
 AbsorptionBox::AbsorptionBox(std::size_t band, QWidget* parent)
@@ -25,42 +33,20 @@ AbsorptionBox::AbsorptionBox(std::size_t band, QWidget* parent)
   connect(this, &QLineEdit::textChanged, this, [this](const QString& text) {
     if (!IsColumn(text)) before_ = text;
   });
-  // What was dropped, or pasted with the mouse.
   connect(this, &QLineEdit::textEdited, this, [this](const QString& text) {
     if (!IsColumn(text)) return;
     setText(before_);
-    if (on_column_) on_column_(text);
+    if (on_column_) on_column_(Arrived(text, before_));
   });
-}
-
-void AbsorptionBox::Paste() {
-  const QString cells = QGuiApplication::clipboard()->text();
-  if (IsColumn(cells) && on_column_) {
-    on_column_(cells);
-  } else {
-    paste();
-  }
 }
 
 void AbsorptionBox::keyPressEvent(QKeyEvent* event) {
   const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-  if (event->matches(QKeySequence::Paste)) {
-    Paste();
-  } else if (enter && next_ != nullptr) {
+  if (enter && next_ != nullptr) {
     next_->setFocus(Qt::TabFocusReason);
   } else {
     NumberBox::keyPressEvent(event);
   }
-}
-
-void AbsorptionBox::contextMenuEvent(QContextMenuEvent* event) {
-  QMenu* menu = createStandardContextMenu();
-  menu->setAttribute(Qt::WA_DeleteOnClose);
-  if (auto* action = menu->findChild<QAction*>(QStringLiteral("edit-paste"))) {
-    action->disconnect(SIGNAL(triggered(bool)));
-    connect(action, &QAction::triggered, this, [this] { Paste(); });
-  }
-  menu->popup(event->globalPos());
 }
 
 }  // namespace velmar::material_editors

@@ -17,11 +17,8 @@ class AbsorptionBox : public NumberBox {
 
  protected:
   void keyPressEvent(QKeyEvent* event) override;
-  void contextMenuEvent(QContextMenuEvent* event) override;
 
  private:
-  void Paste();
-
   QString before_;
   QWidget* next_ = nullptr;
   std::function<void(const QString&)> on_column_;

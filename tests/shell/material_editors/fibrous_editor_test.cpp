@@ -1,10 +1,13 @@
 #include "shell/material_editors/fibrous_editor.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QClipboard>
 #include <QComboBox>
+#include <QContextMenuEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMenu>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTest>
@@ -319,6 +322,22 @@ TEST_F(FibrousEditorTest, ADroppedColumnIsTakenAsWell) {
   Alfa(0).insert("0,1\n0,2\n0,3");
   EXPECT_EQ(Alfa(0).text(), "0,1");
   EXPECT_EQ(Alfa(2).text(), "0,3");
+}
+
+TEST_F(FibrousEditorTest, TheMenuOfABoxPastesAColumnAsWell) {
+  store_.Add<FibrousMaterial>({Wool()});
+  Open("Lana");
+  QApplication::clipboard()->setText(Column(19, "\n"));
+  Alfa(2).setFocus();
+  QContextMenuEvent event(QContextMenuEvent::Mouse, QPoint(2, 2), Alfa(2).mapToGlobal(QPoint(2, 2)));
+  QApplication::sendEvent(&Alfa(2), &event);
+  auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+  ASSERT_NE(menu, nullptr);
+  for (QAction* action : menu->actions())
+    if (action->text().contains("Paste")) action->trigger();
+  menu->close();
+  EXPECT_EQ(Alfa(0).text(), "0,10");
+  EXPECT_EQ(Alfa(18).text(), "0,28");
 }
 
 TEST_F(FibrousEditorTest, ASingleNumberIsPastedAsUsual) {
