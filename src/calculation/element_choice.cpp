@@ -7,7 +7,8 @@
 namespace velmar::calculation {
 
 bool EnterElementNumber(std::string& box, const std::string& text) {
-  const bool kept = text.empty() || text == "," || text == "." || ParseDecimal(text).has_value();
+  const bool begun = text == "," || text == "." || text == "-";
+  const bool kept = text.empty() || begun || ParseDecimal(text).has_value();
   if (kept) {
     box = text;
   } else {

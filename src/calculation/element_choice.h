@@ -7,8 +7,8 @@
 
 namespace velmar::calculation {
 
-/// `text` was typed into a box of ratings, terms or band values. Numbers, an empty box, "," and "." are kept
-/// as typed; anything else empties the box.
+/// `text` was typed into a box of ratings, terms or band values. Numbers, an empty box, and the
+/// beginnings ",", "." and "-" (of a negative term) are kept as typed; anything else empties the box.
 /// @return whether a result that stands may stay: it goes when the box was emptied
 bool EnterElementNumber(std::string& box, const std::string& text);
 

@@ -75,7 +75,12 @@ QString ChartView::BandText(std::size_t band) const {
   if (chart_.shift && rated)
     lines +=
         Level(chart_.words.reference, chart_.reference.at(band - acoustics::kFirstRatedBand) + *chart_.shift);
-  if (chart_.base && chart_.base->at(band) != 0.0) lines += Level(chart_.words.base, chart_.base->at(band));
+  const auto add = [&](const std::optional<acoustics::Spectrum>& curve, const std::string& name) {
+    if (curve && curve->at(band) != 0.0) lines += Level(name, curve->at(band));
+  };
+  add(chart_.base, chart_.words.base);
+  add(chart_.laboratory, chart_.words.laboratory);
+  add(chart_.in_situ, chart_.words.in_situ);
   return lines.join('\n');
 }
 

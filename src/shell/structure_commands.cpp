@@ -38,7 +38,7 @@ void ShowAndWait(QDialog* window) {
 
 class StructureCommands::Windows {
  public:
-  Windows(WindowServices& services, structures::LibraryPlaces places,
+  Windows(WindowServices& services, const structures::LibraryPlaces& places,
           std::shared_ptr<storage::AccessSession> session)
       : services_(services),
         results_file_(places.results),
@@ -129,9 +129,9 @@ class StructureCommands::Windows {
   std::unique_ptr<ComparisonCommand> comparison_;
 };
 
-StructureCommands::StructureCommands(WindowServices& services, structures::LibraryPlaces places,
+StructureCommands::StructureCommands(WindowServices& services, const structures::LibraryPlaces& places,
                                      std::shared_ptr<storage::AccessSession> session)
-    : windows_(std::make_unique<Windows>(services, std::move(places), std::move(session))) {
+    : windows_(std::make_unique<Windows>(services, places, std::move(session))) {
   Windows* windows = windows_.get();
   services.saved_results = [windows] { return windows->Names(); };
   services.saved_result = [windows](const std::string& name) { return windows->Find(name); };

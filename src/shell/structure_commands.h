@@ -13,7 +13,7 @@ class StructureCommands {
  public:
   /// Puts the windows into `services`, whose words, boxes and places are set already.
   /// @param services both are to live as long as the main window
-  StructureCommands(WindowServices& services, structures::LibraryPlaces places,
+  StructureCommands(WindowServices& services, const structures::LibraryPlaces& places,
                     std::shared_ptr<storage::AccessSession> session);
   ~StructureCommands();
   StructureCommands(const StructureCommands&) = delete;

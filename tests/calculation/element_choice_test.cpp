@@ -6,7 +6,7 @@ namespace velmar::calculation {
 namespace {
 
 TEST(ElementNumbers, AreKeptAsTyped) {
-  for (const char* text : {"45", "45,5", "45.5", "-3", "1E1", "", ",", "."}) {
+  for (const char* text : {"45", "45,5", "45.5", "-3", "1E1", "", ",", ".", "-"}) {
     std::string box = "30";
     EXPECT_TRUE(EnterElementNumber(box, text)) << text;
     EXPECT_EQ(box, text);
@@ -14,7 +14,7 @@ TEST(ElementNumbers, AreKeptAsTyped) {
 }
 
 TEST(ElementNumbers, EmptyTheBoxWhenTheyAreNone) {
-  for (const char* text : {"1E", "-", "abc", "4,5,6", "1 2", "nan", "inf"}) {
+  for (const char* text : {"1E", "--", "abc", "4,5,6", "1 2", "nan", "inf"}) {
     std::string box = "30";
     EXPECT_FALSE(EnterElementNumber(box, text)) << text;
     EXPECT_EQ(box, "");

@@ -1,63 +1,29 @@
-#include "shell/structure_commands.h"
-
 #include <QAction>
 #include <QCheckBox>
 #include <QDialog>
-#include <QListView>
+#include <QLineEdit>
 #include <QPushButton>
-#include <QTemporaryDir>
 #include <QTest>
 #include <QToolButton>
 #include <QTreeWidget>
 #include <filesystem>
+#include <fstream>
 
 #include "calculation/run.h"
 #include "calculation/select_calculation.h"
-#include "storage/results/results_store.h"
-#include "tests/shell/window_fixture.h"
+#include "shell/results_panel.h"
+#include "tests/shell/stores_program.h"
 
 namespace velmar::shell {
 namespace {
 
 constexpr const char* kResultsName = "Database_teorico";
 
-/// A main window with the shipped library and a results database of its own.
-struct Program {
+/// With a stored wall and a stored window.
+struct Program : StoresProgram {
   Program() {
-    const std::filesystem::path databases = std::filesystem::path(SHARE) / "Databases";
-    structures::LibraryPlaces places;
-    places.library = databases / "Database";
-    places.pictures = databases / "immagine";
-    places.results = folder.filePath("Database_teorico.mdb").toStdString();
-    std::filesystem::copy_file(places.library / "Database_teorico.mdb", places.results);
-    std::filesystem::permissions(places.results, std::filesystem::perms::owner_all);
-    Store(places.results, "Parete x", 33.25, 20);
-    Store(places.results, "Serramento x", 22.5, 1.5);
-    commands = std::make_unique<StructureCommands>(
-        fixture.services, places, std::make_shared<storage::AccessSession>(storage::AccessReader{}));
-    fixture.window.reset();
-    fixture.window = std::make_unique<MainWindow>(fixture.services);
-    fixture.window->show();
-  }
-
-  static void Store(const std::filesystem::path& file, const std::string& name, double lowest, double area) {
-    storage::SavedResult result;
-    result.name = name;
-    result.rating = lowest + 15;
-    result.adaptation = -1;
-    result.other_adaptation = -5;
-    result.area_m2 = area;
-    result.mass_kg_m2 = 120;
-    for (std::size_t i = 0; i < result.bands.size(); ++i) result.bands[i] = lowest + static_cast<double>(i);
-    storage::ResultsStore(file).Save(storage::ResultTable::kAirborne, result);
-  }
-
-  /// Opens the file of stored results in a tree, and the entry in `row` of the list beside it.
-  static void OpenStored(const QDialog& window, const char* tree, const char* list, int row) {
-    auto* widget = window.findChild<QTreeWidget*>(tree);
-    widget->setCurrentItem(widget->findItems(kResultsName, Qt::MatchExactly | Qt::MatchRecursive).first());
-    auto* view = window.findChild<QListView*>(list);
-    view->setCurrentIndex(view->model()->index(row, 0));
+    Store("Parete x", 33.25, 20);
+    Store("Serramento x", 22.5, 1.5);
   }
 
   void ChooseFacade() {
@@ -67,10 +33,6 @@ struct Program {
       setup.facade.count_text = "1";
     });
   }
-
-  QTemporaryDir folder;
-  WindowFixture fixture;
-  std::unique_ptr<StructureCommands> commands;
 };
 
 }  // namespace
@@ -89,7 +51,7 @@ class StructureCommandsTest : public QObject {
     QCOMPARE(program.fixture.open.Setup().base.area_text, std::string("30"));
     program.fixture.services.pick_measured(program.fixture.window.get(), {1, {}});
     auto* library = program.fixture.Find<QDialog>("Form9");
-    Program::OpenStored(*library, "TreeView1", "List1", 1);
+    StoresProgram::OpenEntry(*library, "TreeView1", kResultsName, "List1", "Serramento x");
     QTest::mouseClick(library->findChild<QPushButton*>("Command1"), Qt::LeftButton);
     QCOMPARE(program.fixture.open.Setup().facade.components[0].name, std::string("Serramento x"));
 
@@ -121,7 +83,7 @@ class StructureCommandsTest : public QObject {
     QVERIFY(program.fixture.open.Result().has_value());
     program.fixture.Find<QAction>("confronta_risultati")->trigger();
     auto* comparison = program.fixture.Find<QDialog>("Form8");
-    Program::OpenStored(*comparison, "TreeView1", "List1", 0);
+    StoresProgram::OpenEntry(*comparison, "TreeView1", kResultsName, "List1", "Parete x");
     presentation::CurveChart chart;
     program.fixture.services.lay_over(chart);
     QVERIFY(!chart.laboratory.has_value());
@@ -157,7 +119,7 @@ class StructureCommandsTest : public QObject {
     program.fixture.Run();
     program.fixture.Find<QToolButton>("Toolbar1_13")->click();
     auto* comparison = program.fixture.Find<QDialog>("Form8");
-    Program::OpenStored(*comparison, "TreeView1", "List1", 0);
+    StoresProgram::OpenEntry(*comparison, "TreeView1", kResultsName, "List1", "Parete x");
     comparison->findChild<QCheckBox*>("Check1")->click();
     comparison->close();
     presentation::CurveChart chart;
@@ -214,6 +176,107 @@ class StructureCommandsTest : public QObject {
     save->trigger();
     QCOMPARE(program.fixture.services.saved_results().size(), std::size_t{3});
     QCOMPARE(program.fixture.told.size(), 1);
+  }
+
+  void aResultThatCannotBeStoredIsToldAndStays_data() {
+    QTest::addColumn<QString>("spoilt");
+    QTest::newRow("missing") << "missing";
+    QTest::newRow("read-only") << "read-only";
+    QTest::newRow("damaged") << "damaged";
+  }
+
+  void aResultThatCannotBeStoredIsToldAndStays() {
+    QFETCH(const QString, spoilt);
+    Program program;
+    program.fixture.Choose("TIPO_PARETE_SINGOLA_0");
+    program.fixture.Run();
+    const auto result = program.fixture.open.Result();
+    program.name = "Parete nuova";
+    const std::filesystem::path file = program.places.results;
+    const std::filesystem::path aside = file.string() + ".via";
+    std::filesystem::copy_file(file, aside);
+    if (spoilt == "read-only") {
+      std::filesystem::permissions(file, std::filesystem::perms::owner_read);
+    } else {
+      std::filesystem::remove(file);
+      if (spoilt == "damaged") std::ofstream(file) << "this is no database";
+    }
+    auto* save = program.fixture.Find<QAction>("Salva");
+    save->trigger();
+    QCOMPARE(program.fixture.told.size(), 1);
+    QVERIFY(program.fixture.told.front().contains("Database_teorico.mdb"));
+    QVERIFY(program.fixture.open.Result() == result);
+    std::filesystem::remove(file);
+    std::filesystem::rename(aside, file);
+    save->trigger();
+    QCOMPARE(program.fixture.services.saved_results().back(), std::string("Parete nuova"));
+    QCOMPARE(program.fixture.told.size(), 1);
+  }
+
+  void namesOfResultsAreTheSameWhateverTheirCase_data() {
+    QTest::addColumn<QString>("first");
+    QTest::addColumn<QString>("again");
+    QTest::newRow("letters") << "Parete esterna"
+                             << "PARETE ESTERNA";
+    QTest::newRow("accents") << "Però è così"
+                             << "PERÒ È COSÌ";
+    QTest::newRow("quotes") << "Parete d'ambito \"A\""
+                            << "parete D'AMBITO \"a\"";
+    QTest::newRow("blanks around") << "Parete"
+                                   << "  parete ";
+  }
+
+  void namesOfResultsAreTheSameWhateverTheirCase() {
+    QFETCH(const QString, first);
+    QFETCH(const QString, again);
+    Program program;
+    program.fixture.Choose("TIPO_PARETE_SINGOLA_0");
+    program.fixture.Run();
+    auto* save = program.fixture.Find<QAction>("Salva");
+    program.name = first;
+    save->trigger();
+    QCOMPARE(program.fixture.services.saved_results().size(), std::size_t{3});
+    program.name = again;
+    save->trigger();
+    QCOMPARE(program.fixture.told.size(), 1);
+    program.name = "   ";
+    save->trigger();
+    QCOMPARE(program.fixture.told.size(), 1);
+    QCOMPARE(program.fixture.services.saved_results().size(), std::size_t{3});
+    QCOMPARE(program.fixture.services.saved_results().back(), first.toStdString());
+  }
+
+  void aStoredFloorIsNoPartOfAFacade() {
+    Program program;
+    program.fixture.window->OpenProject(EXAMPLES "/calpestio-galleggiante.drav");
+    program.fixture.Run();
+    program.name = "Solaio";
+    program.fixture.Find<QAction>("Salva")->trigger();
+    QVERIFY(program.fixture.told.isEmpty());
+    QCOMPARE(program.fixture.services.saved_results().size(), std::size_t{2});
+    program.fixture.Find<QAction>("DB_risultati")->trigger();
+    auto* window = program.fixture.Find<QDialog>("Form7");
+    window->findChild<QAbstractButton*>("Option1_1")->click();
+    QCOMPARE(window->findChild<QLineEdit*>("Text2")->text(), QString("Solaio"));
+  }
+
+  void theComparisonOfALiningKeepsTheCurveOfItsBase() {
+    Program program;
+    program.fixture.window->OpenProject(EXAMPLES "/controplaccaggio-calibel.drav");
+    program.fixture.Run();
+    program.name = "Contropareti \"x\"";
+    program.fixture.Find<QAction>("Salva")->trigger();
+    program.fixture.Find<QAction>("confronta_risultati")->trigger();
+    auto* comparison = program.fixture.Find<QDialog>("Form8");
+    StoresProgram::OpenEntry(*comparison, "TreeView1", kResultsName, "List1", program.name);
+    comparison->findChild<QCheckBox*>("Check1")->click();
+    const auto chart = ShownChart(program.fixture.window.get());
+    QVERIFY(chart.has_value());
+    QCOMPARE(chart->first_band, std::size_t{3});
+    QCOMPARE(chart->last_band, std::size_t{18});
+    QVERIFY(chart->base.has_value());
+    QVERIFY(chart->laboratory == program.fixture.open.Result()->spectrum);
+    QCOMPARE(chart->laboratory_name, program.name.toStdString());
   }
 
   void theResultsWindowOpensFromItsCommand() {

@@ -27,11 +27,26 @@ void Widen(ChartRange& range, double value) {
   if (value != 0.0 && value < range.minimum) range.minimum = value;
 }
 
+/// From the lowest to the highest value; 10 to 80 dB without any.
+ChartRange RangeOfValues(const acoustics::Spectrum& values) {
+  ChartRange range;
+  bool any = false;
+  for (const double value : values) {
+    if (value == 0.0) continue;
+    if (!any) range = {value, value};
+    any = true;
+    Widen(range, value);
+  }
+  return range;
+}
+
 }  // namespace
 
 ChartRange RangeOf(const CurveChart& chart) {
   ChartRange range;
-  if (chart.autoscale) {
+  if (chart.fits_values) {
+    range = RangeOfValues(chart.values);
+  } else if (chart.autoscale) {
     range = {chart.values[kStartBand], chart.values[kStartBand]};
     for (std::size_t band = chart.first_band + 1; band <= chart.last_band; ++band) {
       Widen(range, chart.values[band]);

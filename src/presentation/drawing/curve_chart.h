@@ -40,7 +40,8 @@ struct CurveChart {
   std::optional<acoustics::Spectrum> in_situ;     ///< compared with, measured in a building
   std::string laboratory_name{};                  ///< of the structure compared with; empty: none is chosen
   std::string in_situ_name{};
-  bool autoscale = false;  ///< false: 10 to 80 dB
+  bool autoscale = false;    ///< false: 10 to 80 dB
+  bool fits_values = false;  ///< the scale is that of the values alone, from the lowest to the highest
   std::size_t first_band = 0;
   std::size_t last_band = acoustics::kBandCount - 1;
   std::optional<std::size_t> highlighted_band;  ///< marked by a line, as under the mouse

@@ -3,9 +3,9 @@
 namespace velmar::structures {
 namespace {
 
-constexpr BranchSymbols kReduction{"Rw", "C", "Ctr", "Ri [dB]"};
-constexpr BranchSymbols kImprovement{"DRw", "C", "Ctr", "Ri [dB]"};
-constexpr BranchSymbols kDifference{"Dnew", "C", "Ctr", "Dn [dB]"};
+constexpr BranchSymbols kReduction{"Rw", "C", "Ctr", "Ri [dB]", true};
+constexpr BranchSymbols kImprovement{"DRw", "C", "Ctr", "Ri [dB]", true};
+constexpr BranchSymbols kDifference{"Dnew", "C", "Ctr", "Dn [dB]", true};
 constexpr BranchSymbols kImpactLevel{"Lnw", "Ci", "Ci 50-5000", "Lni [dB]"};
 constexpr BranchSymbols kImpactReduction{"DLw", "Ci", "", "DLni [dB]"};
 

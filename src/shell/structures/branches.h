@@ -25,6 +25,7 @@ struct BranchSymbols {
   std::string_view term = "";        ///< "C"
   std::string_view other_term = "";  ///< "Ctr"; empty where there is one term
   std::string_view bands = "";       ///< "Ri [dB]"
+  bool rated_with_both = false;      ///< the rating is written with both terms
 };
 
 /// The symbols of `branch`: those of its table.

@@ -63,13 +63,6 @@ ComparisonPanel::ComparisonPanel(const windows::WindowTools& tools, LibrarySourc
   QFont large = font();
   large.setPointSizeF(large.pointSizeF() * kRatingScale);
   rating_->setFont(large);
-  description_ = new QPlainTextEdit(this);
-  description_->setObjectName(QLatin1String(look.description));
-  description_->setAccessibleName(tools.Text(kDescriptionRow));
-  description_->setReadOnly(true);
-  description_->setTabChangesFocus(true);
-  description_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-  description_->setFixedHeight(fontMetrics().height() * 4);
   TestChooser::Controls controls;
   controls.tree = look.tree;
   controls.keywords = look.keywords;
@@ -81,13 +74,19 @@ ComparisonPanel::ComparisonPanel(const windows::WindowTools& tools, LibrarySourc
   };
   listener.test = [this](const std::optional<MeasuredTest>& test) { Show(test); };
   chooser_ = new TestChooser(tools, std::move(source), controls, std::move(listener), this);
+  description_ = new QPlainTextEdit(this);
+  description_->setObjectName(QLatin1String(look.description));
+  description_->setAccessibleName(tools.Text(kDescriptionRow));
+  description_->setReadOnly(true);
+  description_->setTabChangesFocus(true);
+  description_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  description_->setFixedHeight(fontMetrics().height() * 4);
   auto* column = new QVBoxLayout(this);
   column->addWidget(check_);
   column->addWidget(database_);
   column->addWidget(chooser_, 1);
   column->addWidget(rating_);
   column->addWidget(description_);
-  setTabOrder(check_, chooser_);
   connect(check_, &QCheckBox::toggled, this, [this] { changed_(); });
   Reset();
 }

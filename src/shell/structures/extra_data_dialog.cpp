@@ -24,16 +24,17 @@ constexpr MessageRow kCopyRow{376};
 constexpr const char* kNoDate = "01/01/2000";
 constexpr const char* kNoPicture = "senza";
 
-std::array<std::string, kFieldCount> FieldsOf(const MeasuredTest& test) {
-  using calculation::BoxText;
-  return {test.date.empty() ? kNoDate : test.date,
-          BoxText(test.part.area_m2),
-          BoxText(test.source_volume_m3),
-          BoxText(test.receiving_volume_m3),
-          BoxText(test.part.thickness_mm),
-          BoxText(test.part.mass_kg_m2),
-          test.site,
-          test.picture_name.empty() ? kNoPicture : test.picture_name};
+std::array<storage::CopiedField, kFieldCount> FieldsOf(const MeasuredTest& test) {
+  using storage::NumberField;
+  using storage::TextField;
+  return {TextField({test.date.empty() ? kNoDate : test.date}),
+          NumberField(test.part.area_m2),
+          NumberField(test.source_volume_m3),
+          NumberField(test.receiving_volume_m3),
+          NumberField(test.part.thickness_mm),
+          NumberField(test.part.mass_kg_m2),
+          TextField({test.site}),
+          TextField({test.picture_name.empty() ? kNoPicture : test.picture_name})};
 }
 
 }  // namespace
@@ -44,13 +45,13 @@ ExtraDataDialog::ExtraDataDialog(const windows::WindowTools& tools, const Measur
   setWindowTitle(tools.Text(kCaptionRow) + QStringLiteral(" - VELMARpro"));
   auto* column = new QVBoxLayout(this);
   auto* form = new QFormLayout;
-  const std::array<std::string, kFieldCount> fields = FieldsOf(test);
+  const std::array<storage::CopiedField, kFieldCount> fields = FieldsOf(test);
   CopiedTable table;
   for (std::size_t i = 0; i < kFieldCount; ++i) {
     const MessageRow caption{kFirstFieldRow + static_cast<int>(i)};
     auto* label = new QLabel(tools.Text(caption), this);
     label->setObjectName(QStringLiteral("Label1_%1").arg(i));
-    auto* box = new QLineEdit(windows::ToQt(fields[i]), this);
+    auto* box = new QLineEdit(windows::ToQt(presentation::InWords(fields[i].text, tools.words)), this);
     box->setObjectName(QStringLiteral("Text1_%1").arg(i));
     box->setAccessibleName(label->text());
     box->setReadOnly(true);
@@ -58,7 +59,7 @@ ExtraDataDialog::ExtraDataDialog(const windows::WindowTools& tools, const Measur
     box->setMinimumWidth(fontMetrics().averageCharWidth() * 32);
     label->setBuddy(box);
     form->addRow(label, box);
-    table.push_back({{caption}, {fields[i]}});
+    table.push_back({storage::TextField({caption}), fields[i]});
   }
   auto* buttons = new QHBoxLayout;
   auto* copy = new QPushButton(tools.Text(kCopyRow), this);

@@ -21,7 +21,8 @@ void AddFiles(QTreeWidgetItem& node, Branch branch, const LibrarySource& source)
 
 void AddNode(QTreeWidgetItem& parent, const TreeNode& node, const LibrarySource& source,
              const windows::WindowTools& tools) {
-  auto* item = new QTreeWidgetItem(&parent, {node.caption});
+  auto* item = new QTreeWidgetItem({node.caption});
+  parent.addChild(item);
   for (const TreeNode& child : node.children) AddNode(*item, child, source, tools);
   for (const Branch branch : node.branches) tools.Try([&] { AddFiles(*item, branch, source); });
 }

@@ -37,7 +37,6 @@ MeasuredLibraryWindow::MeasuredLibraryWindow(windows::WindowTools tools, Library
     : QDialog(parent), tools_(std::move(tools)), target_(std::move(target)) {
   setObjectName(QStringLiteral("Form9"));
   setWindowTitle(Caption());
-  details_ = new TestDetails(tools_, this);
   TestChooser::Controls controls;
   controls.nodes = LibraryNodes(target_.purpose, tools_);
   TestChooser::Listener listener;
@@ -50,6 +49,7 @@ MeasuredLibraryWindow::MeasuredLibraryWindow(windows::WindowTools tools, Library
     extra_->setEnabled(test.has_value());
   };
   chooser_ = new TestChooser(tools_, std::move(source), controls, std::move(listener), this);
+  details_ = new TestDetails(tools_, this);  // behind the chooser, as Tab goes
   chooser_->Splitter()->addWidget(details_);
   chooser_->Splitter()->setStretchFactor(2, 2);
   auto* column = new QVBoxLayout(this);
@@ -69,7 +69,7 @@ MeasuredLibraryWindow::~MeasuredLibraryWindow() {
 }
 
 QString MeasuredLibraryWindow::Caption() const {
-  const QString caption = tools_.Text(kCaptionRow);
+  QString caption = tools_.Text(kCaptionRow);
   switch (target_.purpose) {
     case LibraryPurpose::kOpaquePart:
       return tools_.Text(kOpaquePartRow) + QStringLiteral(": ") + caption;

@@ -7,8 +7,8 @@
 #include <vector>
 
 #include "calculation/facade_parts.h"
-#include "foundation/message.h"
 #include "shell/structures/branches.h"
+#include "storage/results/result_copy.h"
 
 namespace velmar::structures {
 
@@ -21,8 +21,7 @@ struct ResultEntry {
   std::string description{};
 };
 
-/// A table of texts, row by row and field by field.
-using CopiedTable = std::vector<std::vector<MessageLine>>;
+using storage::CopiedTable;
 
 /// The stored results. Each function may throw Failure; nothing has changed then.
 struct ResultSource {

@@ -2,11 +2,11 @@
 
 #include <QComboBox>
 #include <QHBoxLayout>
-#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListView>
 #include <QSplitter>
+#include <QStyledItemDelegate>
 #include <QTreeWidget>
 #include <QTreeWidgetItemIterator>
 #include <QVBoxLayout>
@@ -21,6 +21,16 @@ namespace {
 
 constexpr MessageRow kTreeNameRow{1714};
 constexpr MessageRow kListNameRow{1715};
+/// Takes the width that the list has: what does not fit is left out in the middle of a name, where names
+/// differ least.
+class FittingNames : public QStyledItemDelegate {
+ public:
+  using QStyledItemDelegate::QStyledItemDelegate;
+  QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+    return {1, QStyledItemDelegate::sizeHint(option, index).height()};
+  }
+};
+
 constexpr int kTreeCharacters = 42;
 constexpr int kListCharacters = 44;
 
@@ -53,10 +63,8 @@ QWidget* TestChooser::MakeTree(const Controls& controls) {
   tree_->setAccessibleName(tools_.Text(kTreeNameRow));
   tree_->setHeaderHidden(true);
   tree_->setUniformRowHeights(true);
-  tree_->setTextElideMode(Qt::ElideNone);  // the names differ at their ends: a long one is scrolled to
+  tree_->setTextElideMode(Qt::ElideMiddle);
   tree_->setIndentation(fontMetrics().averageCharWidth() * 2);
-  tree_->header()->setStretchLastSection(false);
-  tree_->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
   tree_->setMinimumWidth(fontMetrics().averageCharWidth() * kTreeCharacters / 2);
   FillTree();
   connect(tree_, &QTreeWidget::currentItemChanged, this, [this](const QTreeWidgetItem* item) {
@@ -88,6 +96,8 @@ QWidget* TestChooser::MakeList(const Controls& controls) {
   list_->setObjectName(QLatin1String(controls.list));
   list_->setAccessibleName(tools_.Text(kListNameRow));
   list_->setUniformItemSizes(true);
+  list_->setTextElideMode(Qt::ElideMiddle);
+  list_->setItemDelegate(new FittingNames(list_));
   list_->setEditTriggers(QAbstractItemView::NoEditTriggers);
   list_->setModel(&shown_);
   column->addLayout(filter);

@@ -41,7 +41,7 @@ void ShowFromStart(QLineEdit& box, const QString& text) {
 QString RatingLabel(const BranchSymbols& symbols, const calculation::FacadePart& part) {
   QString names = Symbol(symbols.term);
   QString values = Decibels(part.c_db);
-  if (!symbols.other_term.empty()) {
+  if (symbols.rated_with_both) {
     names += QLatin1Char(',') + Symbol(symbols.other_term);
     values += QStringLiteral(", ") + Decibels(part.ctr_db);
   }
@@ -138,20 +138,30 @@ QWidget* TestDetails::MakeBands() {
 
 QWidget* TestDetails::MakeCertificate() {
   auto* certificate = new QWidget(this);
-  auto* grid = new QGridLayout(certificate);
-  grid->setContentsMargins(0, 0, 0, 0);
+  auto* column = new QVBoxLayout(certificate);
+  column->setContentsMargins(0, 0, 0, 0);
+  column->setSpacing(4);
+  auto* grid = new QGridLayout;
   grid->setVerticalSpacing(4);
+  auto* notes = new QHBoxLayout;
   for (std::size_t i = 0; i < certificate_.size(); ++i) {
     const QString caption = tools_.Text(kCertificateRows[i]);
     certificate_[i] = Box(QLatin1String(kCertificateNames[i]), caption);
-    const int row = static_cast<int>(i / 2);
-    const int column = 2 * static_cast<int>(i % 2);
-    const bool last = i + 1 == certificate_.size();
-    grid->addWidget(new QLabel(caption, certificate), row, column);
-    grid->addWidget(certificate_[i], row, column + 1, 1, last ? 3 : 1);
+    auto* label = new QLabel(caption, certificate);
+    if (i + 1 == certificate_.size()) {  // apart, so that its long caption takes no room from the others
+      notes->addWidget(label);
+      notes->addWidget(certificate_[i], 1);
+      continue;
+    }
+    const int line = static_cast<int>(i / 2);
+    const int place = 2 * static_cast<int>(i % 2);
+    grid->addWidget(label, line, place);
+    grid->addWidget(certificate_[i], line, place + 1);
   }
-  grid->setColumnStretch(1, 1);
-  grid->setColumnStretch(3, 1);
+  grid->setColumnStretch(1, 3);
+  grid->setColumnStretch(3, 2);
+  column->addLayout(grid);
+  column->addLayout(notes);
   return certificate;
 }
 

@@ -31,6 +31,8 @@ class MeasuredCurveView : public QWidget {
  private:
   presentation::CurveChart empty_;
   presentation::CurveChart chart_;
+  QString no_bands_;
+  bool bare_ = false;  ///< a test without band values is shown
 };
 
 /// Everything that is known of a test, to read: rating, values, curve, picture, certificate.
@@ -62,7 +64,7 @@ class TestDetails : public QWidget {
   windows::PictureView* picture_ = nullptr;
 };
 
-/// "Rw(C,Ctr)= 50(-1, -5) dB", "Dnew(C,Ctr)= ...", "DLw(Ci)= 19(-11) dB"; a missing value is left out.
+/// "Rw(C,Ctr)= 50(-1, -5) dB", "Dnew(C,Ctr)= ...", "Lnw(Ci)= 59(1) dB"; a missing value is left out.
 QString RatingLabel(const BranchSymbols& symbols, const calculation::FacadePart& part);
 
 }  // namespace velmar::structures

@@ -1,17 +1,21 @@
 #include <QPainter>
 
-#include "presentation/drawing/text.h"
+#include "presentation/drawing/colours.h"
 #include "shell/structures/test_details.h"
 
 namespace velmar::structures {
 namespace {
 
 constexpr MessageRow kCurveNameRow{1717};
+constexpr MessageRow kNoBandsRow{1719};
 
 }  // namespace
 
 MeasuredCurveView::MeasuredCurveView(const windows::WindowTools& tools, QWidget* parent)
-    : QWidget(parent), empty_(presentation::EmptyChart(tools.words)), chart_(empty_) {
+    : QWidget(parent),
+      empty_(presentation::EmptyChart(tools.words)),
+      chart_(empty_),
+      no_bands_(tools.Text(kNoBandsRow)) {
   setObjectName(QStringLiteral("Picture1"));
   setAccessibleName(tools.Text(kCurveNameRow));
   setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
@@ -19,12 +23,14 @@ MeasuredCurveView::MeasuredCurveView(const windows::WindowTools& tools, QWidget*
 
 void MeasuredCurveView::Show(const std::optional<MeasuredTest>& test, const BranchSymbols& symbols) {
   chart_ = empty_;
+  bare_ = false;
   if (test) {
     for (std::size_t i = 0; i < chart_.values.size(); ++i) {
       const std::optional<double>& value = test->part.bands_db[i];
       chart_.values[i] = value == calculation::kNotMeasuredDb ? 0.0 : value.value_or(0.0);
     }
-    chart_.autoscale = true;
+    bare_ = chart_.values == acoustics::Spectrum{};
+    chart_.fits_values = true;
     chart_.words.level_axis = symbols.bands;
   }
   update();
@@ -38,6 +44,10 @@ void MeasuredCurveView::paintEvent(QPaintEvent* /*event*/) {
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setFont(font());
   presentation::DrawCurveChart(painter, rect(), chart_);
+  if (!bare_) return;
+  painter.setPen(presentation::kQuietInkColour);
+  painter.drawText(presentation::PlotArea(rect(), chart_, font()), Qt::AlignCenter | Qt::TextWordWrap,
+                   no_bands_);
 }
 
 }  // namespace velmar::structures

@@ -1,6 +1,9 @@
 #include "storage/results/result_copy.h"
 
+#include <utility>
+
 #include "foundation/decimal.h"
+#include "foundation/rounding.h"
 
 namespace velmar::storage {
 namespace {
@@ -10,29 +13,35 @@ constexpr MessageRow kDescriptionRow{94};
 constexpr MessageRow kRatingRow{372};
 constexpr MessageRow kAreaRow{373};
 
-std::string Shortest(const std::optional<double>& value) {
-  return value ? FormatShortest(*value) : std::string();
+CopiedField BandField(const std::optional<double>& value) {
+  if (!value) return {};
+  return {{FormatFixed(*value, 1)}, RoundToEven(*value, 1)};
 }
 
 }  // namespace
 
+CopiedField TextField(MessageLine text) { return {std::move(text), std::nullopt}; }
+
+CopiedField NumberField(const std::optional<double>& value) {
+  return value ? CopiedField{{FormatShortest(*value)}, value} : CopiedField{};
+}
+
 CopiedTable CopyOf(ResultTable table, const SavedResult& result) {
   const bool impact = table == ResultTable::kImpact;
-  std::vector<MessageLine> centres;
-  std::vector<MessageLine> values;
+  std::vector<CopiedField> centres;
+  std::vector<CopiedField> values;
   for (std::size_t band = 0; band < result.bands.size(); ++band) {
-    centres.push_back({FormatShortest(acoustics::BandCentre(band))});
-    const std::optional<double>& value = result.bands.at(band);
-    values.push_back({value ? FormatFixed(*value, 1) : std::string()});
+    centres.push_back(NumberField(acoustics::BandCentre(band)));
+    values.push_back(BandField(result.bands.at(band)));
   }
-  return {{{kNameRow}, {result.name}},
-          {{kDescriptionRow}, {result.description}},
-          {{kRatingRow, " [dB]"}, {Shortest(result.rating)}},
-          {{kAreaRow, " [m²]"}, {Shortest(result.area_m2)}},
+  return {{TextField({kNameRow}), TextField({result.name})},
+          {TextField({kDescriptionRow}), TextField({result.description})},
+          {TextField({kRatingRow, " [dB]"}), NumberField(result.rating)},
+          {TextField({kAreaRow, " [m²]"}), NumberField(result.area_m2)},
           centres,
           values,
-          {{impact ? "Ci [dB]" : "C [dB]"}, {impact ? "C50_5000 [dB]" : "Ctr [dB]"}},
-          {{Shortest(result.adaptation)}, {Shortest(result.other_adaptation)}}};
+          {TextField({impact ? "Ci [dB]" : "C [dB]"}), TextField({impact ? "C50_5000 [dB]" : "Ctr [dB]"})},
+          {NumberField(result.adaptation), NumberField(result.other_adaptation)}};
 }
 
 }  // namespace velmar::storage

@@ -40,6 +40,22 @@ TEST(ChartRange, FitsTheDataAndNeverLooksAtTheFirstBand) {
   EXPECT_DOUBLE_EQ(RangeOf(chart).maximum, 66.0);
 }
 
+TEST(ChartRange, OfAMeasuredCurveFitsAllItsValuesWhateverBandIsMissing) {
+  CurveChart chart = FlatChart();
+  chart.fits_values = true;
+  chart.values[0] = 21.5;
+  chart.values[10] = 0.0;
+  chart.values[20] = 66.0;
+  EXPECT_DOUBLE_EQ(RangeOf(chart).minimum, 21.5);
+  EXPECT_DOUBLE_EQ(RangeOf(chart).maximum, 66.0);
+  chart.values.fill(0.0);
+  EXPECT_DOUBLE_EQ(RangeOf(chart).minimum, 10.0);
+  EXPECT_DOUBLE_EQ(RangeOf(chart).maximum, 80.0);
+  chart.values[4] = 38.0;
+  EXPECT_DOUBLE_EQ(RangeOf(chart).minimum, 38.0);
+  EXPECT_DOUBLE_EQ(RangeOf(chart).maximum, 39.0);
+}
+
 TEST(ChartRange, OfALiningLooksBetweenItsBandsAtBothCurves) {
   CurveChart chart = FlatChart();
   chart.first_band = 3;

@@ -215,6 +215,38 @@ TEST_F(ComparisonWindowTest, AFileThatCannotBeReadIsTold) {
   EXPECT_TRUE(window_->isVisible());
 }
 
+TEST_F(ComparisonWindowTest, TabGoesAsOneReads) {
+  Activate(Open());
+  EXPECT_EQ(TabStops(*window_),
+            (QStringList{"Check1", "TreeView1", "Combo1", "List1_cerca", "List1", "Text1", "Check2",
+                         "TreeView2", "Combo2", "List2_cerca", "List2", "Text2", "Command1"}));
+}
+
+TEST_F(ComparisonWindowTest, EveryControlHasAName) {
+  Activate(Open());
+  for (const char* name : {"TreeView1", "Combo1", "List1_cerca", "List1", "Text1", "TreeView2", "List2"})
+    EXPECT_FALSE(Child<QWidget>(*window_, name).accessibleName().isEmpty()) << name;
+}
+
+TEST_F(ComparisonWindowTest, RefreshingKeepsTheCurve) {
+  Activate(Open());
+  Choose("TreeView1", "Murature", "List1", 1);
+  Check("Check1").click();
+  library_.tests["Murature"].push_back(TestOf("Nuovo 30", 40));
+  QTest::keyClick(window_.get(), Qt::Key_F5);
+  EXPECT_EQ(Child<QListView>(*window_, "List1").model()->rowCount(), 4);
+  EXPECT_EQ(drawn_.back().laboratory_name, "Pieno 25");
+  EXPECT_EQ((*drawn_.back().laboratory)[0], 38.0);
+}
+
+TEST_F(ComparisonWindowTest, SizesAreRemembered) {
+  const QTemporaryDir folder;
+  boxes_.memory = std::make_unique<QSettings>(folder.filePath("finestre.ini"), QSettings::IniFormat);
+  Open().resize(1111, 611);
+  window_.reset();
+  EXPECT_EQ(Open().size(), QSize(1111, 611));
+}
+
 TEST_F(ComparisonWindowTest, TheKeywordFiltersTheList) {
   Open();
   OpenLibraryFile(*window_, "TreeView1", "Murature");

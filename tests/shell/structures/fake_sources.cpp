@@ -47,10 +47,12 @@ ResultSource FakeResults::Source() {
   source.copy = [this, place](ResultKind kind, const std::string& name) {
     const auto found = place(kind, name);
     if (found == tables[kind].end()) return CopiedTable();
-    return CopiedTable{{{MessageRow{371}}, {found->name}},
-                       {{MessageRow{372}, std::string(" [dB]")}, {calculation::BoxText(found->rating_db)}},
-                       {{std::string("50")}, {std::string("63")}},
-                       {{std::string("30,5")}, {}}};
+    using storage::NumberField;
+    using storage::TextField;
+    return CopiedTable{{TextField({MessageRow{371}}), TextField({found->name})},
+                       {TextField({MessageRow{372}, std::string(" [dB]")}), NumberField(found->rating_db)},
+                       {NumberField(50), NumberField(63)},
+                       {NumberField(30.5), NumberField(std::nullopt)}};
   };
   source.remove = [this, place](ResultKind kind, const std::string& name) {
     const auto found = place(kind, name);
@@ -132,6 +134,17 @@ void Activate(QWidget& window) {
   window.show();
   window.activateWindow();
   if (!QTest::qWaitForWindowActive(&window)) throw std::runtime_error("the window does not become active");
+}
+
+QStringList TabStops(QWidget& window) {
+  QStringList stops;
+  QWidget* control = window.focusWidget();
+  while (control != nullptr && !stops.contains(control->objectName())) {
+    stops << control->objectName();
+    QTest::keyClick(control, Qt::Key_Tab);
+    control = window.focusWidget();
+  }
+  return stops;
 }
 
 void OpenLibraryFile(QWidget& window, const char* tree, const QString& name) {

@@ -73,6 +73,9 @@ void Picture(QWidget& window, const QString& name);
 /// Shows `window` as the active one: only there do shortcuts work.
 void Activate(QWidget& window);
 
+/// The names of the controls that Tab reaches in `window`, in its order, from the one that has the focus.
+QStringList TabStops(QWidget& window);
+
 /// Selects the file `name` in the tree called `tree`.
 void OpenLibraryFile(QWidget& window, const char* tree, const QString& name);
 /// Selects the test in row `row` of the list called `list`.

@@ -115,12 +115,12 @@ INSTANTIATE_TEST_SUITE_P(
                                "Rw(C,Ctr)= 45(-1, -5) dB", "Ri [dB]", true},
                     SymbolCase{"SmallElements", Branch::kSmallElements, LibraryPurpose::kAirborneData,
                                "Dnew(C,Ctr)= 45(-1, -5) dB", "Dn [dB]", true},
-                    SymbolCase{"Floors", Branch::kFloors, LibraryPurpose::kImpactData,
-                               "Lnw(Ci,Ci 50-5000)= 45(-1, -5) dB", "Lni [dB]", true},
+                    SymbolCase{"Floors", Branch::kFloors, LibraryPurpose::kImpactData, "Lnw(Ci)= 45(-1) dB",
+                               "Lni [dB]", true},
                     SymbolCase{"Coverings", Branch::kCoverings, LibraryPurpose::kImpactData,
                                "DLw(Ci)= 45(-1) dB", "DLni [dB]", false},
                     SymbolCase{"FieldFloors", Branch::kFieldFloors, LibraryPurpose::kImpactData,
-                               "Lnw(Ci,Ci 50-5000)= 45(-1, -5) dB", "Lni [dB]", true}),
+                               "Lnw(Ci)= 45(-1) dB", "Lni [dB]", true}),
     [](const auto& test) { return std::string(test.param.name); });
 
 TEST_F(MeasuredLibraryWindowTest, RefreshingSeesWhatOthersChangedAndKeepsTheChoice) {
@@ -139,6 +139,12 @@ TEST_F(MeasuredLibraryWindowTest, RefreshingSeesWhatOthersChangedAndKeepsTheChoi
   QTest::keyClick(window_.get(), Qt::Key_F5);
   EXPECT_EQ(Child<QListView>(*window_, "List1").model()->rowCount(), 0);
   EXPECT_TRUE(boxes_.told.isEmpty());
+}
+
+TEST_F(MeasuredLibraryWindowTest, TabGoesAsOneReads) {
+  Activate(OpenAt(1, "Vetrate", 0));
+  EXPECT_EQ(TabStops(*window_), (QStringList{"TreeView1", "Combo1", "List1_cerca", "List1", "Text2",
+                                             "Command2", "Command1", "Command3"}));
 }
 
 TEST_F(MeasuredLibraryWindowTest, EveryButtonHasALetterOfItsOwn) {

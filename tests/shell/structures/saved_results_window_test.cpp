@@ -129,7 +129,17 @@ TEST_F(SavedResultsWindowTest, TheCopyPastesAsATable) {
   Press("Copia");
   const QMimeData* data = QApplication::clipboard()->mimeData();
   EXPECT_EQ(data->text(), "Nome\tParete x\nIndice di valutazione [dB]\t45\n50\t63\n30,5\t\n");
-  EXPECT_TRUE(data->html().contains("<td>Indice di valutazione [dB]</td><td>45</td>"));
+  EXPECT_TRUE(data->html().contains(">Indice di valutazione [dB]</td><td sdval=\"45\""));
+}
+
+TEST_F(SavedResultsWindowTest, ASpreadsheetFindsNumbersAsNumbersAndTextsAsTexts) {
+  results_.tables[ResultKind::kAirborne] = {PartOf("=1+1", 30)};
+  Open();
+  Press("Copia");
+  const QString html = QApplication::clipboard()->mimeData()->html();
+  EXPECT_TRUE(html.contains(R"(<td sdval="30.5" sdnum="1033;" x:num="30.5">30,5</td>)"))
+      << html.toStdString();
+  EXPECT_TRUE(html.contains(R"(<td sdnum="1033;0;@" x:str style='mso-number-format:"\@"'>=1+1</td>)"));
 }
 
 TEST_F(SavedResultsWindowTest, ANameWithATabOrMarkupStaysOneField) {
@@ -138,7 +148,7 @@ TEST_F(SavedResultsWindowTest, ANameWithATabOrMarkupStaysOneField) {
   Press("Copia");
   const QMimeData* data = QApplication::clipboard()->mimeData();
   EXPECT_TRUE(data->text().startsWith("Nome\ta b <i>&\n"));
-  EXPECT_TRUE(data->html().contains("<td>a b &lt;i&gt;&amp;</td>"));
+  EXPECT_TRUE(data->html().contains(">a b &lt;i&gt;&amp;</td>"));
 }
 
 TEST_F(SavedResultsWindowTest, TheKeysOfTheGridDeleteCopyAndRefresh) {
@@ -153,6 +163,12 @@ TEST_F(SavedResultsWindowTest, TheKeysOfTheGridDeleteCopyAndRefresh) {
   QTest::keyClick(window_.get(), Qt::Key_F5);
   EXPECT_EQ(Grid().model()->rowCount(), 3);
   EXPECT_EQ(Child<QLineEdit>(*window_, "Text2").text(), "parete x bis");
+}
+
+TEST_F(SavedResultsWindowTest, TabGoesAsOneReads) {
+  Activate(Open(true));
+  EXPECT_EQ(TabStops(*window_), (QStringList{"TextCerca", "DBGrid1", "Text2", "Text1", "Elimina", "Copia",
+                                             "Seleziona", "Chiudi", "Option1_0"}));
 }
 
 TEST_F(SavedResultsWindowTest, DeleteInTheSearchFieldEditsTheSearch) {

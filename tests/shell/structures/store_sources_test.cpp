@@ -4,14 +4,12 @@
 #include <QCheckBox>
 #include <QClipboard>
 #include <QElapsedTimer>
-#include <QFile>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListView>
 #include <QMimeData>
 #include <QPushButton>
 #include <QTest>
-#include <filesystem>
 #include <memory>
 
 #include <gmock/gmock.h>
@@ -20,49 +18,14 @@
 #include "shell/structures/comparison_window.h"
 #include "shell/structures/measured_library_window.h"
 #include "shell/structures/saved_results_window.h"
-#include "storage/results/results_store.h"
-#include "tests/shell/structures/fake_sources.h"
+#include "tests/shell/structures/stores_fixture.h"
 
 namespace velmar::structures {
 namespace {
 
 constexpr const char* kThirdOctaveWalls = "Pareti in lastre su orditura - terzi d'ottava";
 
-/// The shipped library, beside a results database of the test's own.
-class StoreSourcesTest : public testing::Test {
- protected:
-  StoreSourcesTest() {
-    const std::filesystem::path databases = std::filesystem::path(SHARE) / "Databases";
-    places_.library = databases / "Database";
-    places_.pictures = databases / "immagine";
-    places_.results = folder_.filePath("Database_teorico.mdb").toStdString();
-    std::filesystem::copy_file(places_.library / "Database_teorico.mdb", places_.results);
-    std::filesystem::permissions(places_.results, std::filesystem::perms::owner_all);
-  }
-
-  LibrarySource Library() const {
-    return MeasuredLibrary(places_, std::make_shared<storage::AccessSession>(storage::AccessReader{}));
-  }
-
-  storage::SavedResult Store(storage::ResultTable table, const std::string& name) {
-    storage::SavedResult result;
-    result.name = name;
-    result.description = name + ", 200 mm";
-    result.rating = 54;
-    result.adaptation = -1;
-    result.other_adaptation = -5;
-    result.area_m2 = 10.8;
-    result.thickness_mm = 230;
-    result.mass_kg_m2 = 310.5;
-    for (std::size_t i = 0; i < result.bands.size(); ++i) result.bands[i] = 33.25 + static_cast<double>(i);
-    EXPECT_EQ(storage::ResultsStore(places_.results).Save(table, result), storage::SaveStatus::kSaved);
-    return result;
-  }
-
-  QTemporaryDir folder_;
-  LibraryPlaces places_;
-  FakeBoxes boxes_;
-};
+class StoreSourcesTest : public StoresTest {};
 
 TEST_F(StoreSourcesTest, TheLibraryWindowShowsAShippedTest) {
   MeasuredTarget target;
@@ -120,30 +83,6 @@ TEST_F(StoreSourcesTest, AStoredResultIsListedCopiedTakenAndDeleted) {
   window.show();
   QTest::mouseClick(&Child<QPushButton>(window, "Elimina"), Qt::LeftButton);
   EXPECT_TRUE(storage::ResultsStore(places_.results).List(storage::ResultTable::kAirborne).empty());
-}
-
-TEST_F(StoreSourcesTest, AMissingResultsDatabaseIsTold) {
-  std::filesystem::remove(places_.results);
-  SavedResultsWindow window(boxes_.Tools(), StoredResults(places_.results), {});
-  ASSERT_EQ(boxes_.told.size(), 1);
-  EXPECT_FALSE(boxes_.told[0].isEmpty());
-}
-
-TEST_F(StoreSourcesTest, ADamagedLibraryFileIsToldAndTheOthersStayUsable) {
-  std::filesystem::copy(places_.library, folder_.filePath("Database").toStdString(),
-                        std::filesystem::copy_options::recursive);
-  places_.library = folder_.filePath("Database").toStdString();
-  const std::filesystem::path walls = places_.library / "Partizioni verticali (Rw)";
-  std::filesystem::permissions(walls, std::filesystem::perms::owner_all);
-  QFile damaged(QString::fromStdString((walls / "Guasto.mdb").string()));
-  ASSERT_TRUE(damaged.open(QIODevice::WriteOnly));
-  damaged.write("this is no database");
-  damaged.close();
-  MeasuredLibraryWindow window(boxes_.Tools(), Library(), {});
-  OpenLibraryFile(window, "TreeView1", "Guasto");
-  EXPECT_EQ(boxes_.told.size(), 1);
-  OpenLibraryFile(window, "TreeView1", kThirdOctaveWalls);
-  EXPECT_GT(Child<QListView>(window, "List1").model()->rowCount(), 0);
 }
 
 TEST_F(StoreSourcesTest, CalculatedResultsStandBesideTheMeasuredOnes) {

@@ -15,17 +15,19 @@ TEST(CopyOf, HasTheFieldsInTheirOrder) {
   result.adaptation = -1;
   const CopiedTable table = CopyOf(ResultTable::kAirborne, result);
   ASSERT_EQ(table.size(), 8U);
-  EXPECT_EQ(table[0], (std::vector<MessageLine>{{MessageRow{371}}, {"Parete"}}));
-  EXPECT_EQ(table[2], (std::vector<MessageLine>{{MessageRow{372}, " [dB]"}, {"43"}}));
-  EXPECT_EQ(table[3], (std::vector<MessageLine>{{MessageRow{373}, " [m²]"}, {"10,5"}}));
-  EXPECT_EQ(table[4].front(), (MessageLine{"50"}));
-  EXPECT_EQ(table[4].back(), (MessageLine{"5000"}));
-  EXPECT_EQ(table[5].front(), (MessageLine{"30,2"}));
-  EXPECT_EQ(table[5][1], (MessageLine{""}));
-  EXPECT_EQ(table[6], (std::vector<MessageLine>{{"C [dB]"}, {"Ctr [dB]"}}));
-  EXPECT_EQ(table[7], (std::vector<MessageLine>{{"-1"}, {""}}));
+  using Row = std::vector<CopiedField>;
+  EXPECT_EQ(table[0], (Row{TextField({MessageRow{371}}), TextField({"Parete"})}));
+  EXPECT_EQ(table[2], (Row{TextField({MessageRow{372}, " [dB]"}), NumberField(43)}));
+  EXPECT_EQ(table[3], (Row{TextField({MessageRow{373}, " [m²]"}), NumberField(10.5)}));
+  EXPECT_EQ(table[3][1].text, MessageLine{"10,5"});
+  EXPECT_EQ(table[4].front(), NumberField(50));
+  EXPECT_EQ(table[4].back(), NumberField(5000));
+  EXPECT_EQ(table[5].front(), (CopiedField{{"30,2"}, 30.2})) << "the number is what the text says";
+  EXPECT_EQ(table[5][1], CopiedField{});
+  EXPECT_EQ(table[6], (Row{TextField({"C [dB]"}), TextField({"Ctr [dB]"})}));
+  EXPECT_EQ(table[7], (Row{NumberField(-1), CopiedField{}}));
   EXPECT_EQ(CopyOf(ResultTable::kImpact, result)[6],
-            (std::vector<MessageLine>{{"Ci [dB]"}, {"C50_5000 [dB]"}}));
+            (Row{TextField({"Ci [dB]"}), TextField({"C50_5000 [dB]"})}));
 }
 
 }  // namespace
