@@ -1,5 +1,6 @@
 #include "shell/chart_view.h"
 
+#include <QBuffer>
 #include <QClipboard>
 #include <QContextMenuEvent>
 #include <QGuiApplication>
@@ -7,12 +8,14 @@
 #include <QMenu>
 #include <QMouseEvent>
 #include <QPainter>
-#include <QSvgGenerator>
 #include <QToolTip>
 
 #include "foundation/decimal.h"
+#include "foundation/failure.h"
 #include "presentation/drawing/chart_scale.h"
+#include "presentation/export/chart_svg.h"
 #include "shell/phrases.h"
+#include "storage/files/whole_file.h"
 
 namespace velmar::shell {
 namespace {
@@ -22,14 +25,25 @@ constexpr MessageRow kSavePngRow{1321};
 constexpr MessageRow kSaveSvgRow{1322};
 constexpr double kPictureScale = 3.0;
 
+std::string Png(const QImage& picture) {
+  QBuffer buffer;
+  buffer.open(QIODevice::WriteOnly);
+  picture.save(&buffer, "PNG");
+  return buffer.data().toStdString();
+}
+
 QString Level(const std::string& name, double level_db) {
   return FromUtf8(name) + ": " + FromUtf8(FormatFixed(level_db, 1)) + " dB";
 }
 
 }  // namespace
 
-ChartView::ChartView(const presentation::Words& words, SaveAs save_as, QWidget* parent)
-    : QWidget(parent), words_(words), save_as_(std::move(save_as)), chart_(presentation::EmptyChart(words)) {
+ChartView::ChartView(const presentation::Words& words, SaveAs save_as, TellFailure tell, QWidget* parent)
+    : QWidget(parent),
+      words_(words),
+      save_as_(std::move(save_as)),
+      tell_(std::move(tell)),
+      chart_(presentation::EmptyChart(words)) {
   setObjectName("Picture1");
   setMouseTracking(true);
   setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
@@ -84,15 +98,20 @@ QString ChartView::BandText(std::size_t band) const {
   return lines.join('\n');
 }
 
+/// The chart as it is without a mouse.
+presentation::CurveChart ChartView::Plain() const {
+  presentation::CurveChart plain = chart_;
+  plain.highlighted_band.reset();
+  return plain;
+}
+
 QImage ChartView::Picture(double scale) const {
   QImage picture((QSizeF(size()) * scale).toSize(), QImage::Format_ARGB32_Premultiplied);
   picture.setDevicePixelRatio(scale);
   picture.fill(Qt::white);
   QPainter painter(&picture);
   painter.setFont(font());
-  presentation::CurveChart plain = chart_;
-  plain.highlighted_band.reset();
-  presentation::DrawCurveChart(painter, QRectF(rect()), plain);
+  presentation::DrawCurveChart(painter, QRectF(rect()), Plain());
   return picture;
 }
 
@@ -102,17 +121,12 @@ void ChartView::Save(bool as_svg) {
   if (path.isEmpty()) return;
   const QString ending = as_svg ? ".svg" : ".png";
   if (!path.endsWith(ending, Qt::CaseInsensitive)) path += ending;
-  if (!as_svg) {
-    Picture(kPictureScale).save(path, "PNG");
-    return;
+  try {
+    storage::WriteWhole(ToUtf8(path), as_svg ? presentation::ChartSvg(Plain(), chart_.words.calculated)
+                                             : Png(Picture(kPictureScale)));
+  } catch (const Failure& failure) {
+    tell_(Text(words_, failure.UserMessage()));
   }
-  QSvgGenerator generator;
-  generator.setFileName(path);
-  generator.setSize(size());
-  generator.setViewBox(rect());
-  QPainter painter(&generator);
-  painter.setFont(font());
-  presentation::DrawCurveChart(painter, QRectF(rect()), chart_);
 }
 
 void ChartView::contextMenuEvent(QContextMenuEvent* event) {

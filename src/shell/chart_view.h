@@ -11,8 +11,10 @@ namespace velmar::shell {
 class ChartView : public QWidget {
  public:
   using SaveAs = std::function<QString(const QString& title, const QString& filter)>;
+  using TellFailure = std::function<void(const QString& text)>;
 
-  ChartView(const presentation::Words& words, SaveAs save_as, QWidget* parent = nullptr);
+  /// @param save_as asks for a file; an empty answer cancels
+  ChartView(const presentation::Words& words, SaveAs save_as, TellFailure tell, QWidget* parent = nullptr);
 
   void Show(const presentation::CurveChart& chart);
 
@@ -27,11 +29,13 @@ class ChartView : public QWidget {
 
  private:
   QString BandText(std::size_t band) const;
+  presentation::CurveChart Plain() const;
   QImage Picture(double scale) const;
   void Save(bool as_svg);
 
   presentation::Words words_;
   SaveAs save_as_;
+  TellFailure tell_;
   presentation::CurveChart chart_;
 };
 

@@ -131,7 +131,7 @@ QWidget* ResultsPanel::MakeChart() {
       [choose](const QString& title, const QString& filter) {
         return choose ? choose({.title = title, .filter = filter}) : QString();
       },
-      frame);
+      [tell = context_.services.boxes.tell](const QString& text) { tell(Tone::kCritical, text); }, frame);
   autoscale_ = new QCheckBox(Text(context_.Words(), kAutoscaleRow), frame);
   autoscale_->setObjectName("Check3");
   connect(autoscale_, &QCheckBox::clicked, this, [this] { ShowChart(); });

@@ -3,6 +3,8 @@
 #include <QAction>
 #include <QApplication>
 #include <QCheckBox>
+#include <QContextMenuEvent>
+#include <QMenu>
 #include <QPainter>
 #include <QPrinter>
 #include <QTemporaryDir>
@@ -158,6 +160,47 @@ class PaperCommandsTest : public QObject {
     QVERIFY(!program.Page().chart->autoscale);
     program.Compare(95.0, "Parete alta");
     QVERIFY(program.Page().chart->autoscale);
+  }
+
+  void thePageKeepsWhatTheScreenWasLastDrawnWith() {
+    Program program;
+    program.Compare(45.0, "Parete P7");
+    program.fixture.services.lay_over = {};
+    QVERIFY(DrawnOf(program.Page()).texts.contains("Dati di lab."));
+    program.TickAutoscale();
+    QVERIFY(!DrawnOf(program.Page()).texts.contains("Dati di lab."));
+  }
+
+  void theChartIsSavedAsAPictureWholeOrNotAtAll_data() {
+    QTest::addColumn<int>("entry");
+    QTest::addColumn<QString>("ending");
+    QTest::addColumn<QByteArray>("begin");
+    QTest::newRow("PNG") << 1 << ".png" << QByteArray("\x89PNG");
+    QTest::newRow("SVG") << 2 << ".svg" << QByteArray("<?xml");
+  }
+  void theChartIsSavedAsAPictureWholeOrNotAtAll() {
+    QFETCH(const int, entry);
+    QFETCH(const QString, ending);
+    QFETCH(const QByteArray, begin);
+    Program program;
+    const QTemporaryDir folder;
+    program.fixture.file = folder.filePath("grafico");
+    const auto save = [&] {
+      auto* chart = program.fixture.Find<QWidget>("Picture1");
+      QContextMenuEvent event(QContextMenuEvent::Mouse, {20, 20}, {20, 20});
+      QApplication::sendEvent(chart, &event);
+      auto* menu = chart->findChildren<QMenu*>().last();
+      menu->actions().at(entry)->trigger();
+      delete menu;
+    };
+    save();
+    QFile file(program.fixture.file + ending);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QVERIFY(file.readAll().startsWith(begin));
+    QVERIFY(program.fixture.told.isEmpty());
+    program.fixture.file = "/no/such/folder/grafico";
+    save();
+    QCOMPARE(program.fixture.told.size(), 1);
   }
 
   void withoutAResultThePageShowsTheSetUp() {
