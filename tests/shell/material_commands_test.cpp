@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QDropEvent>
+#include <QLabel>
 #include <QMimeData>
 #include <QTableView>
 #include <QToolButton>
@@ -132,8 +133,11 @@ class MaterialCommandsTest : public QObject {
     QCOMPARE(view->currentIndex().parent().row(), 1);
     QTest::keyClick(view, Qt::Key_Return);
     QVERIFY2(program.fixture.open.Setup() == before, "a wool is no wall");
+    const auto* hint = tree->findChild<QLabel*>("LabelGuida");
+    QVERIFY(hint->text().startsWith("Nessun elenco per questo materiale"));
     MaterialsProgram::Search(*tree, "cartongesso");
     QTest::keyClick(view, Qt::Key_Return);
+    QVERIFY(!hint->text().startsWith("Nessun elenco"));
     QCOMPARE(program.Layer(LayerGroup::kLeaf1, 1).listed, name);
     QCOMPARE(program.Layer(LayerGroup::kLeaf1, 0).listed, before.leaf1.rows[0].listed);
   }
