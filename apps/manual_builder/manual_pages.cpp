@@ -252,8 +252,8 @@ void ManualPages::PaintPage(QPainter& painter, int page) const {
   painter.save();
   painter.translate(kSideMargin, kTopMargin - page * kText.height());
   const QRectF seen(0.0, page * kText.height(), kText.width(), kText.height());
-  // One unit less: a picture that begins on the next page would show its edge.
-  painter.setClipRect(seen.adjusted(0.0, 0.0, 0.0, -1.0));
+  // Two units less: a picture that begins on the next page would show its edge.
+  painter.setClipRect(seen.adjusted(0.0, 0.0, 0.0, -2.0));
   QAbstractTextDocumentLayout::PaintContext context;
   context.clip = seen;
   context.palette.setColor(QPalette::Text, Qt::black);

@@ -1,5 +1,9 @@
 #include <QAction>
+#include <QFile>
+#include <QMap>
+#include <QTemporaryDir>
 #include <QTest>
+#include <QToolButton>
 #include <QUrl>
 
 #include "tests/shell/window_fixture.h"
@@ -9,7 +13,6 @@ namespace {
 
 constexpr const char* kResultCommands[] = {"Salva", "mnuFileEsportaWord", "esp_excel", "tab_risultati",
                                            "confronta_risultati"};
-constexpr const char* kSingleGeneric = "TIPO_PARETE_SINGOLA_0";
 
 }  // namespace
 
@@ -62,6 +65,66 @@ class CommandsTest : public QObject {
       fixture.Find<QAction>("Button_" + QString::number(button))->trigger();
       QCOMPARE(static_cast<int>(RowOf(*fixture.open.Setup().calculation).button), button);
       QVERIFY(fixture.Find<QAction>("Salva_Progetto")->isEnabled());
+    }
+  }
+
+  void theToolBarSaysWhatItsButtonsDo() {
+    const WindowFixture fixture;
+    const QMap<int, QString> tips = {{1, "Apri progetto"},
+                                     {2, "Salva progetto"},
+                                     {3, "Salva struttura calcolata nel database"},
+                                     {5, "Anteprima di stampa"},
+                                     {6, "Stampa"},
+                                     {8, "Esporta risultati in formato Microsoft Word"},
+                                     {9, "Esporta risultati in formato Microsoft Excel"},
+                                     {11, "Esegui il calcolo"},
+                                     {12, "Visualizza tabella dei risultati"},
+                                     {13, "Confronto risultati con database strutture"},
+                                     {15, "Dimensioni parete"},
+                                     {17, "Parete singola"},
+                                     {18, "Parete doppia"},
+                                     {19, "Solaio"},
+                                     {20, "Facciata"},
+                                     {21, "Controplaccaggio"},
+                                     {22, "Controsoffitto"},
+                                     {23, "Esci"}};
+    for (int place = 1; place <= 23; ++place) {
+      const auto* button = fixture.window->findChild<QToolButton*>("Toolbar1_" + QString::number(place));
+      QCOMPARE(button != nullptr, tips.contains(place));
+      if (button == nullptr) continue;
+      QVERIFY2(button->toolTip().startsWith(tips[place]), qPrintable(button->toolTip()));
+      QVERIFY(!button->accessibleName().isEmpty());
+      QVERIFY(!button->icon().isNull());
+    }
+  }
+
+  void everyMenuEntryIsThere() {
+    const WindowFixture fixture;
+    for (const char* name : {"Apri_Progetto",
+                             "Salva_Progetto",
+                             "Salva",
+                             "mnuFileEsportaWord",
+                             "esp_excel",
+                             "stampa",
+                             "Anteprima_stampa",
+                             "info_progetto",
+                             "esci",
+                             "DB_risultati",
+                             "ges_database",
+                             "Dati_Lnw",
+                             "Dati_Rw",
+                             "DB_base",
+                             "mnuDatabaseVediMateriali",
+                             "dim_pareti",
+                             "esegui_calcolo",
+                             "confronta_risultati",
+                             "tab_risultati",
+                             "tutorial",
+                             "Contatta_m",
+                             "Versione"}) {
+      const auto* action = fixture.Find<QAction>(name);
+      QVERIFY2(!action->text().isEmpty(), name);
+      QVERIFY2(!action->associatedObjects().isEmpty(), name);
     }
   }
 };

@@ -5,7 +5,8 @@
 set -euo pipefail
 
 if [[ -z "${ON_OWN_SCREEN:-}" ]]; then
-  exec env ON_OWN_SCREEN=1 xvfb-run -a -s "-screen 0 1366x768x24" "$0" "$@"
+  # Without -noreset the screen starts anew, and refuses the program, when a search ends before it connects.
+  exec env ON_OWN_SCREEN=1 xvfb-run -a -s "-screen 0 1366x768x24 -noreset" "$0" "$@"
 fi
 program=$1 command=$2 project=$3
 home=$(mktemp -d)
