@@ -130,6 +130,7 @@ ManualPages::ManualPages(const QString& markdown, const QString& folder, QString
   DressTables();
   document_.setPageSize(kText);
   KeepTogether();
+  // Breaks set afterwards leave blocks without a place: everything is laid out anew.
   document_.markContentsDirty(0, document_.characterCount());
 }
 
@@ -227,9 +228,6 @@ void ManualPages::KeepTogether() {
     look.setPageBreakPolicy(QTextFormat::PageBreak_AlwaysBefore);
     frame->setFrameFormat(look);
   }
-  // Breaks set afterwards leave blocks without a place: everything is laid out anew.
-  document_.setPageSize(QSizeF());
-  document_.setPageSize(kText);
 }
 
 bool ManualPages::HoldsWholeText() const {
