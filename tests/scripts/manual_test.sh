@@ -10,8 +10,11 @@ export LC_ALL=C.UTF-8
 set_text=$(pdftotext -layout "$pdf" -)
 headings=$(sed -nE 's/^#+ //p' "$text" | sed -E 's/`//g')
 [[ $(wc -l <<<"$headings") -ge 8 ]] || { echo "no headings in $text"; exit 1; }
-found=$(grep -xFf <(printf '%s\n' "$headings") <(sed -E 's/^[[:space:]]+|[[:space:]]+$//g' <<<"$set_text"))
-diff <(printf '%s\n' "$headings") <(printf '%s\n' "$found") || { echo "headings missing or out of order"; exit 1; }
+awk 'NR == FNR { wanted[++count] = $0; next }
+     { gsub(/^[ \t\f]+|[ \t]+$/, "") }
+     next_one < count && $0 == wanted[next_one + 1] { ++next_one }
+     END { if (next_one < count) { print "heading missing or out of order: " wanted[next_one + 1]; exit 1 } }' \
+  <(printf '%s\n' "$headings") <(printf '%s\n' "$set_text")
 
 missing=$(comm -23 <(sed -E 's/\]\([^)]*\)//g' "$text" | words) <(words <<<"$set_text"))
 [[ -z $missing ]] || { echo "words missing:"; echo "$missing"; exit 1; }
