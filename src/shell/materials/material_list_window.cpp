@@ -12,6 +12,7 @@
 #include <QVBoxLayout>
 
 #include "shell/materials/material_texts.h"
+#include "shell/windows/button_row.h"
 
 namespace velmar::materials {
 namespace {
@@ -148,22 +149,15 @@ QWidget* MaterialListWindow::MakeSelected() {
 }
 
 QWidget* MaterialListWindow::MakeButtons() {
-  auto* bar = new QWidget(this);
-  auto* row = new QHBoxLayout(bar);
-  row->setContentsMargins(0, 0, 0, 0);
-  const auto add = [&](const char* name, MessageRow text, auto&& action) {
-    auto* button = new QPushButton(tools_.Text(text), bar);
-    button->setObjectName(QLatin1String(name));
-    button->setAutoDefault(false);
-    connect(button, &QPushButton::clicked, this, action);
-    row->addWidget(button);
-    return button;
+  auto* bar = new windows::ButtonRow(this);
+  const auto add = [&](const char* name, MessageRow text, std::function<void()> action) {
+    return bar->Add(name, tools_.Text(text), std::move(action));
   };
   new_ = add("Command3", kNewRow, [this] { Edit({}); });
   new_->setEnabled(static_cast<bool>(source_.edit));
   edit_ = add("CommandModifica", kEditRow, [this] { Edit(grid_->SelectedName()); });
   delete_ = add("Command4", kDeleteRow, [this] { Delete(); });
-  row->addStretch(1);
+  bar->AddStretch();
   add("Aggiorna", kRefreshRow, [this] { RefreshAsAsked(); })->setToolTip(tools_.Text(kRefreshTipRow));
   take_ = add("CmdSeleziona", kTakeRow, [this] { Take(); });
   take_->setVisible(pick_.has_value());

@@ -11,6 +11,7 @@
 #include "shell/structures/structure_rows.h"
 #include "shell/structures/test_chooser.h"
 #include "shell/structures/test_details.h"
+#include "shell/windows/button_row.h"
 
 namespace velmar::structures {
 namespace {
@@ -84,28 +85,15 @@ QString MeasuredLibraryWindow::Caption() const {
 }
 
 QWidget* MeasuredLibraryWindow::MakeButtons() {
-  auto* bar = new QWidget(this);
-  auto* row = new QHBoxLayout(bar);
-  row->setContentsMargins(0, 0, 0, 0);
-  extra_ = new QPushButton(tools_.Text(kExtraDataRow), bar);
-  extra_->setObjectName(QStringLiteral("Command2"));
-  extra_->setAutoDefault(false);
+  auto* bar = new windows::ButtonRow(this);
+  extra_ = bar->Add("Command2", tools_.Text(kExtraDataRow), [this] { ShowExtraData(); });
   extra_->setEnabled(false);
-  auto* confirm = new QPushButton(tools_.Text(kConfirmRow), bar);
-  confirm->setObjectName(QStringLiteral("Command1"));
+  bar->AddStretch();
+  QPushButton* confirm = bar->Add("Command1", tools_.Text(kConfirmRow), [this] { Take(); });
   confirm->setToolTip(tools_.Text(kConfirmTipRow));
   confirm->setVisible(static_cast<bool>(target_.take));
   confirm->setDefault(static_cast<bool>(target_.take));
-  auto* close = new QPushButton(tools_.Text(kCloseRow), bar);
-  close->setObjectName(QStringLiteral("Command3"));
-  close->setAutoDefault(false);
-  row->addWidget(extra_);
-  row->addStretch(1);
-  row->addWidget(confirm);
-  row->addWidget(close);
-  connect(extra_, &QPushButton::clicked, this, [this] { ShowExtraData(); });
-  connect(confirm, &QPushButton::clicked, this, [this] { Take(); });
-  connect(close, &QPushButton::clicked, this, &QDialog::reject);
+  bar->Add("Command3", tools_.Text(kCloseRow), [this] { reject(); });
   return bar;
 }
 

@@ -17,6 +17,7 @@
 #include "shell/structures/copied_table.h"
 #include "shell/structures/mnemonics.h"
 #include "shell/structures/structure_rows.h"
+#include "shell/windows/button_row.h"
 
 namespace velmar::structures {
 namespace {
@@ -129,20 +130,13 @@ QWidget* SavedResultsWindow::MakeDetails() {
 }
 
 QWidget* SavedResultsWindow::MakeButtons() {
-  auto* bar = new QWidget(this);
-  auto* row = new QHBoxLayout(bar);
-  row->setContentsMargins(0, 0, 0, 0);
-  const auto add = [&](const char* name, MessageRow text, auto&& action) {
-    auto* button = new QPushButton(tools_.Text(text), bar);
-    button->setObjectName(QLatin1String(name));
-    button->setAutoDefault(false);
-    connect(button, &QPushButton::clicked, this, action);
-    row->addWidget(button);
-    return button;
+  auto* bar = new windows::ButtonRow(this);
+  const auto add = [&](const char* name, MessageRow text, std::function<void()> action) {
+    return bar->Add(name, tools_.Text(text), std::move(action));
   };
   delete_ = add("Elimina", kDeleteRow, [this] { Delete(); });
   copy_ = add("Copia", kCopyRow, [this] { Copy(); });
-  row->addStretch(1);
+  bar->AddStretch();
   take_ = add("Seleziona", kTakeRow, [this] { Take(); });
   take_->setVisible(static_cast<bool>(listener_.take));
   take_->setDefault(static_cast<bool>(listener_.take));
