@@ -16,6 +16,7 @@ void OpenTable::Show(QWidget* parent) {
   if (!services_.open.Result() || window_) return;
   window_ = new ResultsTableWindow(TableNow(), services_.words, parent);
   QObject::connect(window_, &QObject::destroyed, parent, [this] {
+    window_.clear();  // what tells it is no table any more
     if (on_change_) on_change_();
   });
   window_->show();
