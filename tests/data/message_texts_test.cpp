@@ -83,8 +83,8 @@ constexpr int kStoredKeywordRow = 325;
 /// Words that betray the other language; a text is searched between blanks, in lower case.
 constexpr std::string_view kEnglishWords[] = {" the ", " and ", " of ",  " with ", " is ",    " not ",
                                               " be ",  " to ",  " for ", " from ", " cannot "};
-constexpr std::string_view kItalianWords[] = {" il ",  " di ",    " del ", " della ", " non ",
-                                              " con ", " delle ", " che ", " nel ",   " una ", " è "};
+constexpr std::string_view kItalianWords[] = {" il ",    " di ",  " del ", " della ", " non ", " con ",
+                                              " delle ", " che ", " nel ", " una ",   " è "};
 
 std::string Padded(const std::string& text) {
   std::string padded = " " + text + " ";

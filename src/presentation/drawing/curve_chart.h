@@ -59,8 +59,9 @@ void ShowWhole(CurveChart& chart);
 /// A chart without curves for the time before a run: grid and axes alone.
 CurveChart EmptyChart(const Words& words);
 
-/// The same for the calculation of `setup`, with the axes and the room for the legend that a result of it has,
-/// so that nothing moves when the curve comes. @param note what stands in the middle, as why there is no curve
+/// The same for the calculation of `setup`, with the axes and the room for the legend that a result of it
+/// has, so that nothing moves when the curve comes. @param note what stands in the middle, as why there is no
+/// curve
 CurveChart EmptyChartOf(const elements::Setup& setup, const std::string& note, const Words& words);
 
 /// Draws `chart` into `area`, on white, in units of which one is a screen pixel; screen, printer, preview and

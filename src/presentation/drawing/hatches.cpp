@@ -15,9 +15,9 @@ enum class Pattern { kNone, kRising, kFalling, kCrossed, kDots, kAggregate, kFib
 
 struct Look {
   QColor tint;
-  Pattern pattern;
+  Pattern pattern{};
   QColor line;
-  double spacing;  // painter's units
+  double spacing = 0.0;  // painter's units
 };
 
 /// In the order of MaterialKind. Tints are quiet and differ in hue, hatches in form, so that a section reads

@@ -15,8 +15,8 @@ constexpr int kMostColumns = 3;
 
 /// A size of text, its line spacing in line heights, and how many lines a name may take.
 struct Setting {
-  double points;
-  double spacing;
+  double points = 0.0;
+  double spacing = 0.0;
   double name_lines = 2.0;
 };
 // A cut name comes before a layer left out.

@@ -98,7 +98,7 @@ std::string AddRelationship(Package& package, const std::string& part, const std
     return root.find_child_by_attribute("Relationship", "Id", id.c_str());
   };
   while (taken("rId" + std::to_string(number))) ++number;
-  const std::string id = "rId" + std::to_string(number);
+  std::string id = "rId" + std::to_string(number);
   pugi::xml_node node = root.append_child("Relationship");
   node.append_attribute("Id") = id.c_str();
   node.append_attribute("Type") = type.c_str();

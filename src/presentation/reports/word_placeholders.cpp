@@ -21,7 +21,7 @@ std::string Number(std::optional<double> value, int decimals) {
 }
 
 /// "Ri" of "Ri [dB]".
-std::string WithoutUnit(std::string heading) {
+std::string WithoutUnit(const std::string& heading) {
   const std::size_t unit = heading.find(kUnit);
   return unit == std::string::npos ? heading : heading.substr(0, unit);
 }

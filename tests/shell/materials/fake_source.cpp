@@ -25,18 +25,6 @@ bool Erase(std::vector<Row>& rows, const std::string& name) {
 
 }  // namespace
 
-windows::WindowTools FakeBoxes::Tools() {
-  windows::WindowTools tools;
-  tools.words = presentation::CatalogueWords();
-  tools.ask = [this](const QString& question) {
-    questions << question;
-    return answer;
-  };
-  tools.tell = [this](const QString& text) { told << text; };
-  tools.memory = memory.get();
-  return tools;
-}
-
 storage::StructuralRow Wall(const std::string& name, double density, const std::string& keyword) {
   storage::StructuralRow row;
   row.record.values.name = name;

@@ -12,19 +12,11 @@
 #include "shell/materials/material_source.h"
 #include "shell/windows/window_tools.h"
 #include "storage/materials/material_row.h"
+#include "tests/shell/windows/fake_boxes.h"
 
 namespace velmar::materials {
 
-/// Answers every box, and keeps what was said.
-class FakeBoxes {
- public:
-  windows::WindowTools Tools();
-
-  bool answer = true;
-  QStringList questions{};
-  QStringList told{};
-  std::unique_ptr<QSettings> memory{};
-};
+using windows::FakeBoxes;
 
 /// Material tables in memory.
 class FakeMaterials {

@@ -14,18 +14,6 @@ Failure LockedFailure() {
   return Failure({{std::string("Il file è in uso da un altro programma.")}}, "locked");
 }
 
-windows::WindowTools FakeBoxes::Tools() {
-  windows::WindowTools tools;
-  tools.words = presentation::CatalogueWords();
-  tools.ask = [this](const QString& question) {
-    questions << question;
-    return answer;
-  };
-  tools.tell = [this](const QString& text) { told << text; };
-  tools.memory = memory.get();
-  return tools;
-}
-
 ResultSource FakeResults::Source() {
   ResultSource source;
   source.list = [this](ResultKind kind) {

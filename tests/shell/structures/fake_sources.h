@@ -13,22 +13,14 @@
 
 #include "shell/structures/structure_sources.h"
 #include "shell/windows/window_tools.h"
+#include "tests/shell/windows/fake_boxes.h"
 
 namespace velmar::structures {
 
 /// Says what stores say of a file that another program holds.
 Failure LockedFailure();
 
-/// Answers every box, and keeps what was said.
-class FakeBoxes {
- public:
-  windows::WindowTools Tools();
-
-  bool answer = true;
-  QStringList questions{};
-  QStringList told{};
-  std::unique_ptr<QSettings> memory{};
-};
+using windows::FakeBoxes;
 
 /// Stored results in memory.
 class FakeResults {
