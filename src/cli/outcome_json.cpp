@@ -59,18 +59,20 @@ nlohmann::json MessageJson(const Message& message, const presentation::Words& wo
   return lines;
 }
 
-nlohmann::json ResultJson(const ResultSet& result) {
+nlohmann::json ResultJson(const ResultSet& result, std::span<const elements::SingleNumber> numbers) {
   nlohmann::json json = nlohmann::json::object();
   if (result.spectrum) json["spectrum"] = *result.spectrum;
   for (const Quantity& quantity : kQuantities) {
     if (const auto& value = result.*quantity.value) json[quantity.key] = *value;
   }
+  for (const elements::SingleNumber& number : numbers) json["ratings"][number.key] = number.value;
   return json;
 }
 
 nlohmann::json OutcomeJson(const CalculationTexts& texts, const calculation::RunOutcome& outcome,
-                           const calculation::Totals& totals, const presentation::Words& words) {
-  nlohmann::json json = outcome.result ? ResultJson(*outcome.result) : nlohmann::json::object();
+                           std::span<const elements::SingleNumber> numbers, const calculation::Totals& totals,
+                           const presentation::Words& words) {
+  nlohmann::json json = outcome.result ? ResultJson(*outcome.result, numbers) : nlohmann::json::object();
   json["family"] = texts.family;
   json["variant"] = texts.variant;
   json["orientation"] = texts.orientation;

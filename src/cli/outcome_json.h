@@ -1,5 +1,6 @@
 #pragma once
 
+#include <span>
 #include <string>
 
 #include <nlohmann/json_fwd.hpp>
@@ -7,6 +8,7 @@
 #include "calculation/run.h"
 #include "calculation/totals.h"
 #include "elements/result_set.h"
+#include "elements/single_numbers.h"
 #include "presentation/texts/words.h"
 
 namespace velmar::cli {
@@ -19,13 +21,16 @@ struct CalculationTexts {
 };
 
 /// A run as one JSON object: the calculation, "status", "messages", the quantities that the calculation
-/// writes (a quantity it does not write has no key), "thickness" in mm and "surface_mass" in kg/m². Numbers
-/// read back exactly.
+/// writes (a quantity it does not write has no key), "ratings", "thickness" in mm and "surface_mass" in
+/// kg/m². Numbers read back exactly.
+/// @param numbers every rating of the result's spectrum
 nlohmann::json OutcomeJson(const CalculationTexts& texts, const calculation::RunOutcome& outcome,
-                           const calculation::Totals& totals, const presentation::Words& words);
+                           std::span<const elements::SingleNumber> numbers, const calculation::Totals& totals,
+                           const presentation::Words& words);
 
-/// Only what the result holds, under the same keys.
-nlohmann::json ResultJson(const elements::ResultSet& result);
+/// Only what the result holds, under the same keys; "ratings" holds `numbers` under their names and is
+/// absent when there are none.
+nlohmann::json ResultJson(const elements::ResultSet& result, std::span<const elements::SingleNumber> numbers);
 
 /// The lines of a box as an array of {"row", "text"}. Words of our own, and literals, have row 0; the line
 /// that asks whether to go on is left out, so a question counts once.

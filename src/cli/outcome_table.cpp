@@ -13,7 +13,7 @@ namespace {
 
 using elements::ResultSet;
 
-constexpr int kNameWidth = 12;
+constexpr int kNameWidth = 13;
 constexpr int kNumberWidth = 9;
 constexpr MessageRow kFrequencyRow{72};
 constexpr MessageRow kAirborneColumnRow{287};
@@ -47,14 +47,19 @@ void WriteNumber(const std::string& name, double value, int decimals, const char
 
 }  // namespace
 
-void WriteRatings(const ResultSet& result, std::ostream& out) {
+void WriteRatings(const ResultSet& result, std::span<const elements::SingleNumber> numbers,
+                  std::ostream& out) {
   for (const Rating& rating : kRatings) {
     if (const auto& value = result.*rating.value)
       WriteNumber(rating.name, *value, rating.decimals, "dB", out);
   }
+  for (const elements::SingleNumber& number : numbers) {
+    if (number.further) WriteNumber(number.symbol, number.value, number.decimals, number.unit, out);
+  }
 }
 
-void WriteResult(const CalculationTexts& texts, const ResultSet& result, const calculation::Totals& totals,
+void WriteResult(const CalculationTexts& texts, const ResultSet& result,
+                 std::span<const elements::SingleNumber> numbers, const calculation::Totals& totals,
                  const presentation::Words& words, std::ostream& out) {
   out << texts.variant << " (" << texts.orientation << ")\n";
   WriteNumber(words(kThicknessRow), totals.thickness_mm, 1, "", out);
@@ -69,7 +74,7 @@ void WriteResult(const CalculationTexts& texts, const ResultSet& result, const c
     }
     out << '\n';
   }
-  WriteRatings(result, out);
+  WriteRatings(result, numbers, out);
 }
 
 void WriteMessage(const Message& message, const presentation::Words& words, std::ostream& out) {

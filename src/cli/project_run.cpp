@@ -29,6 +29,9 @@ ProjectRun RunProject(const std::filesystem::path& path, const elements::Materia
     run.outcome = project.setup.calculation ? open.Run([&](const Message&) { return go_on_outside_ranges; })
                                             : UnknownCalculation(project.stored);
     run.setup = open.Setup();
+    if (run.outcome.result && run.setup.calculation) {
+      run.numbers = elements::SingleNumbersOf(*run.outcome.result, *run.setup.calculation);
+    }
     run.totals = open.CurrentTotals();
   } catch (const Failure& failure) {
     run = {};

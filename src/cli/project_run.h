@@ -1,6 +1,7 @@
 #pragma once
 
 #include <filesystem>
+#include <vector>
 
 #include "calculation/run.h"
 #include "calculation/totals.h"
@@ -8,6 +9,7 @@
 #include "cli/outcome_json.h"
 #include "elements/material_record.h"
 #include "elements/setup.h"
+#include "elements/single_numbers.h"
 
 namespace velmar::cli {
 
@@ -16,6 +18,7 @@ struct ProjectRun {
   CalculationTexts texts{};
   elements::Setup setup{};
   calculation::RunOutcome outcome{};  ///< "failed", with the message, when the file cannot be read
+  std::vector<elements::SingleNumber> numbers{};  ///< every rating of the result's spectrum
   calculation::Totals totals{};
 };
 

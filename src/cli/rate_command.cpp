@@ -2,10 +2,13 @@
 
 #include <optional>
 #include <ostream>
+#include <vector>
 
 #include <nlohmann/json.hpp>
 
+#include "acoustics/airborne_numbers.h"
 #include "acoustics/airborne_rating.h"
+#include "acoustics/impact_numbers.h"
 #include "acoustics/impact_rating.h"
 #include "cli/outcome_json.h"
 #include "cli/outcome_table.h"
@@ -18,11 +21,22 @@ namespace {
 constexpr MessageRow kNoNumberRow{1012};
 constexpr MessageRow kWrongCountRow{1212};
 
+/// What is known of a spectrum that was given.
+struct GivenSpectrum {
+  acoustics::Spectrum levels{};          ///< 0 where no value was given
+  acoustics::BandLevels known_levels{};  ///< the values given alone
+};
+
 /// The band of the first value given; nothing when the number of values fits no spectrum.
 std::optional<std::size_t> FirstBand(std::size_t count) {
   if (count == acoustics::kRatedBandCount) return acoustics::kFirstRatedBand;
   if (count == acoustics::kBandCount) return 0;
   return std::nullopt;
+}
+
+std::vector<elements::SingleNumber> Numbers(const acoustics::BandLevels& levels, bool impact) {
+  return impact ? elements::SingleNumbersOf(acoustics::FindImpactNumbers(levels))
+                : elements::SingleNumbersOf(acoustics::FindAirborneNumbers(levels));
 }
 
 elements::ResultSet Rate(const acoustics::Spectrum& spectrum, bool impact) {
@@ -50,21 +64,23 @@ ExitCode Execute(const RateCommand& command, const presentation::Words& words, s
     errors << words(kWrongCountRow) << '\n';
     return ExitCode::kWrongUsage;
   }
-  acoustics::Spectrum spectrum{};
+  GivenSpectrum spectrum;
   for (std::size_t i = 0; i < command.values.size(); ++i) {
     const std::optional<double> value = ParseDecimal(command.values[i]);
     if (!value) {
       errors << words(kNoNumberRow) << " \"" << command.values[i] << "\"\n";
       return ExitCode::kWrongUsage;
     }
-    spectrum[*first_band + i] = *value;
+    spectrum.levels.at(*first_band + i) = *value;
+    spectrum.known_levels.at(*first_band + i) = *value;
   }
   try {
-    const elements::ResultSet result = Rate(spectrum, command.impact);
+    const elements::ResultSet result = Rate(spectrum.levels, command.impact);
+    const std::vector<elements::SingleNumber> numbers = Numbers(spectrum.known_levels, command.impact);
     if (command.json) {
-      out << ResultJson(result).dump() << '\n';
+      out << ResultJson(result, numbers).dump() << '\n';
     } else {
-      WriteRatings(result, out);
+      WriteRatings(result, numbers, out);
     }
     return ExitCode::kDone;
   } catch (const ArithmeticFailure& failure) {

@@ -12,16 +12,17 @@ struct Row {
   std::optional<double> Numbers::*value;
   int decimals = 0;
   const char* unit = "dB";
+  bool further = true;
 };
 
 using acoustics::AirborneNumbers;
 using acoustics::ImpactNumbers;
 
 constexpr Row<AirborneNumbers> kAirborneRows[] = {
-    {"Rw", "Rw", &AirborneNumbers::rw},
-    {"Rw,0.1", "Rw (0,1 dB)", &AirborneNumbers::rw_tenths, 1},
-    {"C", "C", &AirborneNumbers::c},
-    {"Ctr", "Ctr", &AirborneNumbers::ctr},
+    {"Rw", "Rw", &AirborneNumbers::rw, 0, "dB", false},
+    {"Rw,0.1", "Rw (0,1)", &AirborneNumbers::rw_tenths, 1},
+    {"C", "C", &AirborneNumbers::c, 0, "dB", false},
+    {"Ctr", "Ctr", &AirborneNumbers::ctr, 0, "dB", false},
     {"C50-3150", "C50-3150", &AirborneNumbers::c_50_3150},
     {"C50-5000", "C50-5000", &AirborneNumbers::c_50_5000},
     {"C100-5000", "C100-5000", &AirborneNumbers::c_100_5000},
@@ -34,7 +35,7 @@ constexpr Row<AirborneNumbers> kAirborneRows[] = {
 
 // The calculations show a term named Ci that ends at 3150 Hz; the range tells them apart.
 constexpr Row<ImpactNumbers> kImpactRows[] = {
-    {"Ln,w", "Ln,w", &ImpactNumbers::lnw},
+    {"Ln,w", "Ln,w", &ImpactNumbers::lnw, 0, "dB", false},
     {"CI", "CI (100-2500)", &ImpactNumbers::ci},
     {"CI,50-2500", "CI,50-2500", &ImpactNumbers::ci_50_2500},
     {"IIC", "IIC", &ImpactNumbers::iic, 0, ""},
@@ -45,7 +46,7 @@ std::vector<SingleNumber> ListOf(const Numbers& numbers, const Row<Numbers> (&ro
   std::vector<SingleNumber> list;
   for (const Row<Numbers>& row : rows) {
     if (const std::optional<double>& value = numbers.*row.value) {
-      list.push_back({row.key, row.symbol, *value, row.decimals, row.unit});
+      list.push_back({row.key, row.symbol, *value, row.decimals, row.unit, row.further});
     }
   }
   return list;

@@ -16,6 +16,7 @@ struct SingleNumber {
   double value = 0.0;
   int decimals = 0;
   const char* unit = "";  ///< "dB", or nothing for the classes of ASTM
+  bool further = true;    ///< not one of Rw, C, Ctr and Ln,w, which every result shows
 };
 
 /// The numbers that are there, in the order of the standards.

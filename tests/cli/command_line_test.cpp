@@ -51,6 +51,8 @@ TEST(Run, GivesOneObjectThatReadsBackExactly) {
   EXPECT_EQ(json["Rw"].get<double>(), json["X"].get<double>() - 4);
   EXPECT_FALSE(json.contains("Lnw"));
   EXPECT_TRUE(json["messages"].empty());
+  for (const char* key : {"Rw", "C", "Ctr"}) EXPECT_EQ(json["ratings"][key], json[key]) << key;
+  EXPECT_EQ(json["ratings"].size(), 12U);
   EXPECT_EQ(nlohmann::json::parse(json.dump()), json);
 }
 
@@ -83,6 +85,8 @@ TEST(Run, WritesLevelsAndImprovementOfAFloor) {
     EXPECT_TRUE(json.contains(key)) << key;
   }
   for (const char* key : {"Rw", "C", "Ctr"}) EXPECT_FALSE(json.contains(key)) << key;
+  EXPECT_EQ(json["ratings"]["Ln,w"], json["Lnw"]);
+  EXPECT_EQ(json["ratings"].size(), 4U);
 }
 
 TEST(Run, ListsEachLineOfABox) {
@@ -166,7 +170,33 @@ TEST(Rate, RatesSixteenBands) {
   arguments.insert(arguments.end(), kStandardExample.begin(), kStandardExample.end());
   const Said said = Say(arguments);
   EXPECT_EQ(said.code, 0);
-  EXPECT_EQ(said.Json(), (nlohmann::json{{"Rw", 30}, {"C", -2}, {"Ctr", -3}, {"X", 34}}));
+  EXPECT_EQ(said.Json(), (nlohmann::json{{"Rw", 30},
+                                         {"C", -2},
+                                         {"Ctr", -3},
+                                         {"X", 34},
+                                         {"ratings", {{"Rw", 30}, {"Rw,0.1", 30}, {"C", -2}, {"Ctr", -3}}}}));
+}
+
+// The worked example of ISO 717-1 over the enlarged range, annex C.
+TEST(Rate, GivesEveryNumberOfTwentyOneBands) {
+  std::vector<std::string> bands = {"18.7", "19.2", "20.0"};
+  bands.insert(bands.end(), kStandardExample.begin(), kStandardExample.end());
+  bands.insert(bands.end(), {"26.8", "29.2"});
+  std::vector<std::string> arguments = {"rate", "--airborne", "--json", "--"};
+  arguments.insert(arguments.end(), bands.begin(), bands.end());
+  const nlohmann::json ratings = Say(arguments).Json()["ratings"];
+  EXPECT_EQ(ratings["C50-5000"], -2);
+  EXPECT_EQ(ratings["Ctr,50-5000"], -4);
+  for (const char* key : {"C50-3150", "C100-5000", "Ctr,50-3150", "Ctr,100-5000", "STC", "OITC"}) {
+    EXPECT_TRUE(ratings.contains(key)) << key;
+  }
+
+  arguments.erase(arguments.begin() + 2);
+  const std::string table = Say(arguments).out;
+  EXPECT_NE(table.find("           Rw       30 dB\n"), std::string::npos) << table;
+  EXPECT_NE(table.find("     Rw (0,1)     30,0 dB\n"), std::string::npos) << table;
+  EXPECT_NE(table.find("     C50-5000       -2 dB\n"), std::string::npos) << table;
+  EXPECT_NE(table.find("          STC       29 \n"), std::string::npos) << table;
 }
 
 TEST(Rate, RatesTwentyOneBandsAndNegativeLevels) {
@@ -176,6 +206,9 @@ TEST(Rate, RatesTwentyOneBandsAndNegativeLevels) {
   EXPECT_EQ(said.code, 0);
   EXPECT_TRUE(said.Json().contains("Lnw"));
   EXPECT_TRUE(said.Json().contains("Ci"));
+  for (const char* key : {"Ln,w", "CI", "CI,50-2500", "IIC"}) {
+    EXPECT_TRUE(said.Json()["ratings"].contains(key)) << key;
+  }
 }
 
 /// Arguments that no command understands, and how the complaint begins.

@@ -1,5 +1,7 @@
 #include "presentation/texts/results_csv.h"
 
+#include "foundation/decimal.h"
+
 namespace velmar::presentation {
 namespace {
 
@@ -22,11 +24,15 @@ std::string Row(const std::string& first, const std::string& second, const std::
 
 }  // namespace
 
-std::string ResultsCsv(const ResultsTable& table) {
+std::string ResultsCsv(const ResultsTable& table, std::span<const elements::SingleNumber> numbers) {
   std::string text = kByteOrderMark;
   text += Row(table.frequency_heading, table.value_heading, table.reference_heading);
   for (const ResultsTableRow& row : table.rows) {
     if (row.visible) text += Row(row.title, row.value, row.reference);
+  }
+  for (const elements::SingleNumber& number : numbers) {
+    const std::string unit = *number.unit == '\0' ? "" : std::string(" [") + number.unit + ']';
+    if (number.further) text += Row(number.symbol + unit, FormatFixed(number.value, number.decimals), "");
   }
   return text;
 }

@@ -1,5 +1,6 @@
 #include "storage/results/result_to_save.h"
 
+#include "acoustics/impact_numbers.h"
 #include "foundation/decimal.h"
 
 namespace velmar::storage {
@@ -32,6 +33,9 @@ void TakeRatings(const elements::ResultSet& result, ResultTable table, SavedResu
     case ResultTable::kImpact:
       row.rating = result.lnw;
       row.adaptation = result.ci;
+      if (result.spectrum) {
+        row.other_adaptation = acoustics::FindImpactNumbers(acoustics::LevelsOf(*result.spectrum)).ci_50_2500;
+      }
       return;
     case ResultTable::kLining:
       row.rating = result.delta_rw;

@@ -32,7 +32,7 @@ struct SavedResult {
   std::optional<double> mass_kg_m2{};
   StoredBands bands{};
   std::optional<double> adaptation{};        ///< C, or Ci
-  std::optional<double> other_adaptation{};  ///< Ctr, or Ci 50-5000
+  std::optional<double> other_adaptation{};  ///< Ctr, or CI,50-2500 in the column that is named 50-5000
   std::string picture = "senza";
   std::optional<double> critical_frequency_hz{};
   std::optional<double> loss_factor{};

@@ -1,5 +1,7 @@
 #include "presentation/texts/results_csv.h"
 
+#include <vector>
+
 #include <gtest/gtest.h>
 
 namespace velmar::presentation {
@@ -24,6 +26,15 @@ TEST(ResultsCsv, HoldsTheShownRowsWithDecimalCommas) {
             "80;34,6;\r\n"
             "100;36,2;25\r\n"
             "Rw [dB];44,0;\r\n");
+}
+
+TEST(ResultsCsv, AddsTheNumbersThatTheTableHasNot) {
+  const std::vector<elements::SingleNumber> numbers = {
+      {.key = "Rw", .symbol = "Rw", .value = 44, .unit = "dB", .further = false},
+      {.key = "Rw,0.1", .symbol = "Rw (0,1)", .value = 44.3, .decimals = 1, .unit = "dB"},
+      {.key = "STC", .symbol = "STC", .value = 45}};
+  EXPECT_EQ(ResultsCsv(SmallTable(), numbers),
+            ResultsCsv(SmallTable()) + "Rw (0,1) [dB];44,3;\r\nSTC;45;\r\n");
 }
 
 TEST(ResultsCsv, QuotesWhatWouldPartACell) {

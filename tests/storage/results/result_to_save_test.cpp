@@ -71,6 +71,18 @@ TEST(ResultToSave, OfAFloorHasItsImpactRating) {
   EXPECT_EQ(row.bands[0], 0.0) << "only a facade means nothing by 0";
 }
 
+// The reference floor of ISO 717-2, 78(-11) dB, with 80 dB at 63 Hz: 18 bands sum to 84,3 dB.
+TEST(ResultToSave, OfAFloorHasTheTermDownTo50Hz) {
+  elements::ResultSet result;
+  result.spectrum = {60, 80,   60, 67, 67.5, 68, 68.5, 69, 69.5, 70, 70.5,
+                     71, 71.5, 72, 72, 72,   72, 72,   72, 72,   72};
+  result.lnw = 78;
+  result.ci = -10;
+  const SavedResult row = ResultToSave(SetupOf(Calculation::kImpactReinforcedConcrete), result, kHeading);
+  EXPECT_EQ(row.adaptation, -10.0);
+  EXPECT_EQ(row.other_adaptation, -9.0);
+}
+
 TEST(TableFor, SortsTheFamilies) {
   using elements::Family;
   for (const Family family : {Family::kSingle, Family::kSeaSingle, Family::kDouble, Family::kSharp,
