@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "acoustics/airborne_numbers.h"
 #include "acoustics/airborne_rating.h"
 #include "calculation/entered_numbers.h"
 #include "calculation/run.h"
@@ -151,7 +152,10 @@ std::optional<Prediction> RateAsMeasured(const MeasuredConstruction& constructio
     return prediction;
   };
   if (construction.rw) return rated("Rw", Rw(result), *construction.rw);
-  if (construction.stc) return rated("STC", Rw(result), *construction.stc);
+  if (construction.stc) {
+    const auto numbers = acoustics::FindAirborneNumbers(acoustics::LevelsOf(result));
+    if (numbers.stc) return rated("STC", *numbers.stc, *construction.stc);
+  }
   if (construction.rw_plus_c) {
     const double rw = Rw(result);
     return rated("Rw+C", rw + acoustics::FindAdaptationTerms(result, rw).c, *construction.rw_plus_c);
