@@ -4,7 +4,7 @@
 #include <SQLiteCpp/Statement.h>
 
 #include "access_reader/exit_code.h"
-#include "storage/schema.h"
+#include "storage/tables/schema.h"
 
 namespace velmar::access_reader {
 namespace {

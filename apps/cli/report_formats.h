@@ -3,7 +3,7 @@
 #include <filesystem>
 #include <vector>
 
-#include "cli/report_format.h"
+#include "cli/output/report_format.h"
 
 /// The kinds of report that this program was built with, beyond the plain table. `templates` is the folder of
 /// the Word and Excel templates.

@@ -7,8 +7,8 @@
 #include <SQLiteCpp/Database.h>
 #include <SQLiteCpp/Transaction.h>
 
-#include "storage/cell.h"
-#include "storage/schema.h"
+#include "storage/tables/cell.h"
+#include "storage/tables/schema.h"
 
 namespace velmar::data_builder {
 

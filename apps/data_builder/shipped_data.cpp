@@ -10,7 +10,7 @@
 #include "data_builder/database_file.h"
 #include "data_builder/message_tables.h"
 #include "data_builder/table_text.h"
-#include "storage/schema.h"
+#include "storage/tables/schema.h"
 
 namespace velmar::data_builder {
 namespace {

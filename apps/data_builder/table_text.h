@@ -3,9 +3,9 @@
 #include <filesystem>
 #include <vector>
 
-#include "storage/cell.h"
-#include "storage/csv.h"
-#include "storage/schema.h"
+#include "storage/tables/cell.h"
+#include "storage/tables/csv.h"
+#include "storage/tables/schema.h"
 
 namespace velmar::data_builder {
 

@@ -2,7 +2,7 @@
 #include <QApplication>
 #include <clocale>
 
-#include "shell/start_up.h"
+#include "shell/start/start_up.h"
 
 int main(int argc, char** argv) {
   QApplication application(argc, argv);

@@ -12,7 +12,7 @@
 #include <SQLiteCpp/Statement.h>
 #include <gtest/gtest.h>
 
-#include "storage/schema.h"
+#include "storage/tables/schema.h"
 #include "tests/access_reader/fixtures.h"
 #include "tests/access_reader/reader_process.h"
 

@@ -10,7 +10,7 @@
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
 
-#include "storage/schema.h"
+#include "storage/tables/schema.h"
 #include "tests/access_reader/fixtures.h"
 #include "tests/access_reader/reader_process.h"
 

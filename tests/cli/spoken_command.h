@@ -8,7 +8,7 @@
 
 #include <nlohmann/json.hpp>
 
-#include "cli/command_line.h"
+#include "cli/parsing/command_line.h"
 
 namespace velmar::cli {
 

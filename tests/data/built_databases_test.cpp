@@ -16,7 +16,7 @@
 
 #include "data_builder/shipped_data.h"
 #include "data_builder/table_text.h"
-#include "storage/schema.h"
+#include "storage/tables/schema.h"
 
 namespace velmar {
 namespace {

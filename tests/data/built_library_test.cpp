@@ -13,7 +13,7 @@
 #include "acoustics/airborne_rating.h"
 #include "acoustics/bands.h"
 #include "data_builder/table_text.h"
-#include "storage/schema.h"
+#include "storage/tables/schema.h"
 
 namespace velmar {
 namespace {

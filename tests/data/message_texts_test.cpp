@@ -10,7 +10,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "storage/csv.h"
+#include "storage/tables/csv.h"
 #include "tests/data/quoted_texts.h"
 
 namespace velmar {

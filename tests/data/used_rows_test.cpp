@@ -8,7 +8,7 @@
 
 #include <gtest/gtest.h>
 
-#include "storage/csv.h"
+#include "storage/tables/csv.h"
 
 namespace velmar {
 namespace {

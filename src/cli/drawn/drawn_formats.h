@@ -3,7 +3,7 @@
 #include <filesystem>
 #include <vector>
 
-#include "cli/report_format.h"
+#include "cli/output/report_format.h"
 #include "presentation/drawing/printed_page.h"
 
 namespace velmar::cli {

@@ -3,7 +3,7 @@
 #include <filesystem>
 #include <string>
 
-#include "cli/report_format.h"
+#include "cli/output/report_format.h"
 
 namespace velmar::cli {
 

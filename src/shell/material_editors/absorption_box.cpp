@@ -4,15 +4,15 @@
 #include <QGuiApplication>
 #include <QKeyEvent>
 
-#include "shell/windows/window_tools.h"
-#include "storage/materials/pasted_absorption.h"
+#include "materials/pasted_absorption.h"
+#include "shell/fields/window_tools.h"
 
 namespace velmar::material_editors {
 namespace {
 
 constexpr int kWidthInDigits = 5;
 
-bool IsColumn(const QString& text) { return storage::IsColumn(windows::FromQt(text)); }
+bool IsColumn(const QString& text) { return materials::IsColumn(shell::FromQt(text)); }
 
 /// The cells that were pasted into a box that held `before` and now holds `text`. What was dropped counts
 /// whole, whatever the clipboard holds.

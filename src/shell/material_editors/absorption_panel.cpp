@@ -10,9 +10,9 @@
 #include <variant>
 
 #include "foundation/decimal.h"
+#include "materials/pasted_absorption.h"
 #include "presentation/texts/words.h"
 #include "shell/material_editors/absorption_box.h"
-#include "storage/materials/pasted_absorption.h"
 
 namespace velmar::material_editors {
 namespace {
@@ -37,7 +37,7 @@ QString BandLabel(std::size_t band) {
 
 }  // namespace
 
-AbsorptionView::AbsorptionView(const windows::WindowTools& tools, QWidget* parent) : QWidget(parent) {
+AbsorptionView::AbsorptionView(const shell::WindowTools& tools, QWidget* parent) : QWidget(parent) {
   setObjectName(QStringLiteral("Picture2"));
   setAccessibleName(tools.Text(kCurveNameRow));
   setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
@@ -57,7 +57,7 @@ void AbsorptionView::paintEvent(QPaintEvent* /*event*/) {
   presentation::DrawAbsorptionChart(painter, rect(), chart_);
 }
 
-AbsorptionPanel::AbsorptionPanel(const windows::WindowTools& tools, QWidget* parent)
+AbsorptionPanel::AbsorptionPanel(const shell::WindowTools& tools, QWidget* parent)
     : QGroupBox(tools.Text(kFrameRow), parent), tools_(tools) {
   auto* column = new QVBoxLayout(this);
   column->addWidget(MakeBoxes());
@@ -134,12 +134,12 @@ void AbsorptionPanel::AskAndClear() {
 }
 
 void AbsorptionPanel::TakeColumn(const QString& cells, std::size_t band) {
-  const auto read = storage::ReadPastedAbsorption(windows::FromQt(cells), band);
+  const auto read = materials::ReadPastedAbsorption(shell::FromQt(cells), band);
   if (const auto* refusal = std::get_if<Message>(&read)) {
-    tools_.tell(windows::ToQt(presentation::InWords(refusal->front(), tools_.words)));
+    tools_.tell(shell::ToQt(presentation::InWords(refusal->front(), tools_.words)));
     return;
   }
-  const auto& pasted = std::get<storage::PastedAbsorption>(read);
+  const auto& pasted = std::get<materials::PastedAbsorption>(read);
   for (std::size_t i = 0; i < pasted.texts.size(); ++i)
     boxes_.at(pasted.first_band + i)->Show(pasted.texts.at(i));
 }

@@ -7,7 +7,7 @@
 
 #include "elements/materials.h"
 #include "presentation/drawing/absorption_chart.h"
-#include "shell/windows/window_tools.h"
+#include "shell/fields/window_tools.h"
 
 class QPushButton;
 
@@ -18,7 +18,7 @@ class AbsorptionBox;
 /// The curve of an absorption coefficient.
 class AbsorptionView : public QWidget {
  public:
-  explicit AbsorptionView(const windows::WindowTools& tools, QWidget* parent = nullptr);
+  explicit AbsorptionView(const shell::WindowTools& tools, QWidget* parent = nullptr);
 
   void Show(const presentation::AbsorptionChart& chart);
   const presentation::AbsorptionChart& Shown() const { return chart_; }
@@ -38,7 +38,7 @@ class AbsorptionPanel : public QGroupBox {
  public:
   using Texts = std::array<std::string, elements::kAbsorptionBandCount>;
 
-  explicit AbsorptionPanel(const windows::WindowTools& tools, QWidget* parent = nullptr);
+  explicit AbsorptionPanel(const shell::WindowTools& tools, QWidget* parent = nullptr);
 
   void Show(const Texts& coefficients);
   Texts Entered() const;
@@ -52,7 +52,7 @@ class AbsorptionPanel : public QGroupBox {
   void AskAndClear();
   void TakeColumn(const QString& cells, std::size_t band);
 
-  windows::WindowTools tools_;
+  shell::WindowTools tools_;
   std::array<AbsorptionBox*, elements::kAbsorptionBandCount> boxes_{};
   AbsorptionView* curve_ = nullptr;
 };

@@ -21,9 +21,9 @@ constexpr const char* kResilientPictures = "Strati aggiuntivi orizzontali (DLw)"
 /// All that opening an editor takes.
 struct Opening {
   QWidget* parent = nullptr;
-  const windows::WindowTools& tools;
+  const shell::WindowTools& tools;
   storage::MaterialStore& store;
-  const storage::KeywordTexts& texts;
+  const materials::KeywordTexts& texts;
   elements::MaterialFamily family{};
   const std::string& name;
 };
@@ -37,7 +37,7 @@ std::filesystem::path PictureOf(const Opening& opening, const std::string& pictu
 }
 
 template <typename Editor, typename Material>
-std::optional<windows::MaterialChange> Open(const Opening& opening) {
+std::optional<shell::MaterialChange> Open(const Opening& opening) {
   std::vector<std::string> keywords;
   std::optional<storage::MaterialRow<Material>> row;
   const bool read = opening.tools.Try([&] {
@@ -47,7 +47,7 @@ std::optional<windows::MaterialChange> Open(const Opening& opening) {
   if (!read) return std::nullopt;
   if (!opening.name.empty() && !row) {
     const MessageLine gone{storage::kMaterialGoneRow, " " + opening.name};
-    opening.tools.tell(windows::ToQt(presentation::InWords(gone, opening.tools.words)));
+    opening.tools.tell(shell::ToQt(presentation::InWords(gone, opening.tools.words)));
     return std::nullopt;
   }
   const std::string picture = row ? row->picture : storage::kNoPicture;
@@ -66,11 +66,10 @@ std::optional<windows::MaterialChange> Open(const Opening& opening) {
 
 }  // namespace
 
-std::optional<windows::MaterialChange> EditMaterial(QWidget* parent, const windows::WindowTools& tools,
-                                                    storage::MaterialStore& store,
-                                                    const storage::KeywordTexts& texts,
-                                                    elements::MaterialFamily family,
-                                                    const std::string& name) {
+std::optional<shell::MaterialChange> EditMaterial(QWidget* parent, const shell::WindowTools& tools,
+                                                  storage::MaterialStore& store,
+                                                  const materials::KeywordTexts& texts,
+                                                  elements::MaterialFamily family, const std::string& name) {
   const Opening opening{parent, tools, store, texts, family, name};
   switch (family) {
     case elements::MaterialFamily::kStructural:

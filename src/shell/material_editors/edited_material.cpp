@@ -5,14 +5,14 @@
 #include <type_traits>
 #include <variant>
 
+#include "materials/save_entry.h"
 #include "storage/database/database_failure.h"
-#include "storage/materials/save_entry.h"
 
 namespace velmar::material_editors {
 namespace {
 
+using materials::EntryRefusal;
 using storage::DatabaseFailure;
-using storage::EntryRefusal;
 
 constexpr MessageRow kSaveAsNewRow{1652};
 constexpr MessageRow kReplaceRow{1653};
@@ -29,7 +29,7 @@ constexpr elements::MaterialFamily FamilyOf() {
 SaveOutcome Refused(EntryRefusal refusal) { return {.refusal = std::move(refusal)}; }
 
 SaveOutcome NotReadable(const DatabaseFailure& failure) {
-  Message message{{storage::kMaterialNotSavedRow}};
+  Message message{{materials::kMaterialNotSavedRow}};
   std::ranges::copy(failure.UserMessage(), std::back_inserter(message));
   return Refused({std::move(message), ""});
 }
@@ -42,7 +42,7 @@ Message GoneQuestion(const std::string& name) {
 
 template <typename Material>
 SaveOutcome EditedMaterial<Material>::Save(const Entry& entry, bool touched, const AskUser& ask) {
-  auto checked = storage::RowOf(entry, texts_);
+  auto checked = materials::RowOf(entry, texts_);
   if (auto* refusal = std::get_if<EntryRefusal>(&checked)) return Refused(std::move(*refusal));
   const Row& row = std::get<Row>(checked);
 
@@ -65,10 +65,10 @@ SaveOutcome EditedMaterial<Material>::Save(const Entry& entry, bool touched, con
       return {.done = true};
     }
   }
-  if (auto refusal = storage::SaveEntry(*store_, entry, stored_name, texts_)) return Refused(*refusal);
+  if (auto refusal = materials::SaveEntry(*store_, entry, stored_name, texts_)) return Refused(*refusal);
   return {.done = true,
-          .change = windows::MaterialChange{FamilyOf<Material>(), opened_name, row.record.values.name,
-                                            row.keyword}};
+          .change =
+              shell::MaterialChange{FamilyOf<Material>(), opened_name, row.record.values.name, row.keyword}};
 }
 
 template class EditedMaterial<elements::StructuralMaterial>;
@@ -77,8 +77,8 @@ template class EditedMaterial<elements::ResilientMaterial>;
 
 std::vector<std::string> SuggestedKeywords(const storage::MaterialStore& store,
                                            elements::MaterialFamily family,
-                                           const storage::KeywordTexts& texts) {
-  std::vector<std::string> keywords = storage::KeywordFilter(family, store.List(family), texts);
+                                           const materials::KeywordTexts& texts) {
+  std::vector<std::string> keywords = materials::KeywordFilter(family, store.List(family), texts);
   keywords.erase(keywords.begin());  // "all" is no keyword
   if (std::ranges::find(keywords, texts.not_specified) == keywords.end())
     keywords.push_back(texts.not_specified);

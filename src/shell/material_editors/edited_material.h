@@ -8,17 +8,17 @@
 
 #include "elements/layer_groups.h"
 #include "foundation/message.h"
-#include "shell/windows/material_change.h"
-#include "storage/materials/material_entry.h"
+#include "materials/material_entry.h"
+#include "shell/fields/material_change.h"
 #include "storage/materials/material_store.h"
 
 namespace velmar::material_editors {
 
 /// What became of an attempt to store a material.
 struct SaveOutcome {
-  bool done = false;                                ///< the editor may close
-  std::optional<windows::MaterialChange> change{};  ///< nothing when there was nothing to write
-  std::optional<storage::EntryRefusal> refusal{};   ///< to be told
+  bool done = false;                                 ///< the editor may close
+  std::optional<shell::MaterialChange> change{};     ///< nothing when there was nothing to write
+  std::optional<materials::EntryRefusal> refusal{};  ///< to be told
 };
 
 /// Asks the user the lines of one box.
@@ -30,10 +30,10 @@ template <typename Material>
 class EditedMaterial {
  public:
   using Row = storage::MaterialRow<Material>;
-  using Entry = decltype(storage::EntryOf(std::declval<const Row&>()));
+  using Entry = decltype(materials::EntryOf(std::declval<const Row&>()));
 
   /// @param opened the row to be changed, nothing for a new material
-  EditedMaterial(storage::MaterialStore& store, storage::KeywordTexts texts, std::optional<Row> opened)
+  EditedMaterial(storage::MaterialStore& store, materials::KeywordTexts texts, std::optional<Row> opened)
       : store_(&store), texts_(std::move(texts)), opened_(std::move(opened)) {}
 
   const std::optional<Row>& Opened() const { return opened_; }
@@ -46,7 +46,7 @@ class EditedMaterial {
 
  private:
   storage::MaterialStore* store_;
-  storage::KeywordTexts texts_;
+  materials::KeywordTexts texts_;
   std::optional<Row> opened_;
 };
 
@@ -54,6 +54,6 @@ class EditedMaterial {
 /// @throws DatabaseFailure when the file cannot be read
 std::vector<std::string> SuggestedKeywords(const storage::MaterialStore& store,
                                            elements::MaterialFamily family,
-                                           const storage::KeywordTexts& texts);
+                                           const materials::KeywordTexts& texts);
 
 }  // namespace velmar::material_editors

@@ -18,13 +18,13 @@ constexpr MessageRow kUnsavedRow{1651};
 
 }  // namespace
 
-EditorDialog::EditorDialog(windows::WindowTools tools, const QString& object_name, QString memory_name,
+EditorDialog::EditorDialog(shell::WindowTools tools, const QString& object_name, QString memory_name,
                            QWidget* parent)
     : QDialog(parent), tools_(std::move(tools)), memory_name_(std::move(memory_name)) {
   setObjectName(object_name);
 }
 
-EditorDialog::~EditorDialog() { windows::SaveSizes(tools_.memory, {memory_name_, this, nullptr, nullptr}); }
+EditorDialog::~EditorDialog() { shell::SaveSizes(tools_.memory, {memory_name_, this, nullptr, nullptr}); }
 
 QHBoxLayout* EditorDialog::MakeButtons() {
   auto* row = new QHBoxLayout;
@@ -44,14 +44,14 @@ QHBoxLayout* EditorDialog::MakeButtons() {
 
 void EditorDialog::Finish(QLineEdit* first) {
   AssignMnemonics(*this);
-  if (!windows::RestoreSizes(tools_.memory, {memory_name_, this, nullptr, nullptr})) resize(sizeHint());
+  if (!shell::RestoreSizes(tools_.memory, {memory_name_, this, nullptr, nullptr})) resize(sizeHint());
   first->setFocus();
   first->selectAll();
 }
 
 QString EditorDialog::InWords(const Message& message) const {
   QStringList lines;
-  for (const MessageLine& line : message) lines << windows::ToQt(presentation::InWords(line, tools_.words));
+  for (const MessageLine& line : message) lines << shell::ToQt(presentation::InWords(line, tools_.words));
   return lines.join('\n');
 }
 
@@ -62,7 +62,7 @@ void EditorDialog::Save() {
       Store([this](const Message& question) { return tools_.ask(InWords(question)); });
   if (outcome.refusal) {
     tools_.tell(InWords(outcome.refusal->message));
-    if (auto* box = findChild<QWidget*>(windows::ToQt(outcome.refusal->box))) {
+    if (auto* box = findChild<QWidget*>(shell::ToQt(outcome.refusal->box))) {
       box->setFocus();
       if (auto* line = qobject_cast<QLineEdit*>(box)) line->selectAll();
     }

@@ -4,8 +4,8 @@
 #include <optional>
 #include <vector>
 
+#include "shell/fields/window_tools.h"
 #include "shell/material_editors/edited_material.h"
-#include "shell/windows/window_tools.h"
 
 class QHBoxLayout;
 class QLineEdit;
@@ -19,20 +19,20 @@ class EditorDialog : public QDialog {
   ~EditorDialog() override;
 
   /// What was stored; nothing when the editor was closed without.
-  const std::optional<windows::MaterialChange>& Change() const { return change_; }
+  const std::optional<shell::MaterialChange>& Change() const { return change_; }
 
   void reject() override;
 
  protected:
   /// @param memory_name under which the window's size is remembered
-  EditorDialog(windows::WindowTools tools, const QString& object_name, QString memory_name, QWidget* parent);
+  EditorDialog(shell::WindowTools tools, const QString& object_name, QString memory_name, QWidget* parent);
 
   /// Whether the boxes differ from what they showed first.
   virtual bool Changed() const = 0;
   /// Stores what the boxes hold.
   virtual SaveOutcome Store(const AskUser& ask) = 0;
 
-  const windows::WindowTools& Tools() const { return tools_; }
+  const shell::WindowTools& Tools() const { return tools_; }
 
   /// "Salva" and "Annulla".
   QHBoxLayout* MakeButtons();
@@ -43,9 +43,9 @@ class EditorDialog : public QDialog {
   void Save();
   QString InWords(const Message& message) const;
 
-  windows::WindowTools tools_;
+  shell::WindowTools tools_;
   QString memory_name_;
-  std::optional<windows::MaterialChange> change_;
+  std::optional<shell::MaterialChange> change_;
 };
 
 }  // namespace velmar::material_editors

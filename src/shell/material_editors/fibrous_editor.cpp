@@ -14,7 +14,7 @@
 namespace velmar::material_editors {
 namespace {
 
-using storage::FibrousEntry;
+using materials::FibrousEntry;
 
 constexpr MessageRow kCaptionRow{133};
 constexpr MessageRow kFlowResistanceRow{331};
@@ -27,7 +27,7 @@ constexpr int kButtonGapPx = 8;
 
 }  // namespace
 
-FibrousEditor::FibrousEditor(windows::WindowTools tools, EditedMaterial<elements::FibrousMaterial> material,
+FibrousEditor::FibrousEditor(shell::WindowTools tools, EditedMaterial<elements::FibrousMaterial> material,
                              const std::vector<std::string>& keywords, const std::filesystem::path& picture,
                              QWidget* parent)
     : EditorDialog(std::move(tools), QStringLiteral("Form6"), QStringLiteral("materiale-fibroso"), parent),
@@ -35,7 +35,7 @@ FibrousEditor::FibrousEditor(windows::WindowTools tools, EditedMaterial<elements
   setWindowTitle(Tools().Text(kCaptionRow));
   MakeControls(keywords, picture);
   connect(porous_, &QRadioButton::toggled, this, [this] { EnableWhatCounts(); });
-  Show(material_.Opened() ? storage::EntryOf(*material_.Opened()) : FibrousEntry{});
+  Show(material_.Opened() ? materials::EntryOf(*material_.Opened()) : FibrousEntry{});
   EnableWhatCounts();
   shown_first_ = Entry();
   Finish(name_);
@@ -81,10 +81,10 @@ void FibrousEditor::MakeControls(const std::vector<std::string>& keywords,
 }
 
 void FibrousEditor::Show(const FibrousEntry& entry) {
-  name_->setText(windows::ToQt(entry.name));
-  description_->setText(windows::ToQt(entry.description));
+  name_->setText(shell::ToQt(entry.name));
+  description_->setText(shell::ToQt(entry.description));
   description_->setCursorPosition(0);
-  keyword_->setEditText(windows::ToQt(entry.keyword));
+  keyword_->setEditText(shell::ToQt(entry.keyword));
   thickness_->ShowStored(entry.thickness);
   density_->ShowStored(entry.density);
   (entry.porous ? porous_ : solid_)->setChecked(true);
@@ -96,9 +96,9 @@ void FibrousEditor::Show(const FibrousEntry& entry) {
 }
 
 FibrousEntry FibrousEditor::Entry() const {
-  return {.name = windows::FromQt(name_->text()),
-          .description = windows::FromQt(description_->text()),
-          .keyword = windows::FromQt(keyword_->currentText()),
+  return {.name = shell::FromQt(name_->text()),
+          .description = shell::FromQt(description_->text()),
+          .keyword = shell::FromQt(keyword_->currentText()),
           .thickness = thickness_->Number(),
           .density = density_->Number(),
           .porous = porous_->isChecked(),

@@ -22,7 +22,7 @@ class FibrousEditor : public EditorDialog {
  public:
   /// @param keywords what the keyword box suggests
   /// @param picture file that the row's picture is in
-  FibrousEditor(windows::WindowTools tools, EditedMaterial<elements::FibrousMaterial> material,
+  FibrousEditor(shell::WindowTools tools, EditedMaterial<elements::FibrousMaterial> material,
                 const std::vector<std::string>& keywords, const std::filesystem::path& picture,
                 QWidget* parent = nullptr);
 
@@ -32,12 +32,12 @@ class FibrousEditor : public EditorDialog {
 
  private:
   void MakeControls(const std::vector<std::string>& keywords, const std::filesystem::path& picture);
-  void Show(const storage::FibrousEntry& entry);
-  storage::FibrousEntry Entry() const;
+  void Show(const materials::FibrousEntry& entry);
+  materials::FibrousEntry Entry() const;
   void EnableWhatCounts();
 
   EditedMaterial<elements::FibrousMaterial> material_;
-  storage::FibrousEntry shown_first_;
+  materials::FibrousEntry shown_first_;
   QLineEdit* name_ = nullptr;             ///< `Text1`
   QLineEdit* description_ = nullptr;      ///< `Text2`
   NumberBox* thickness_ = nullptr;        ///< `Text10`

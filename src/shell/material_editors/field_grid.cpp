@@ -4,9 +4,9 @@
 #include <QLabel>
 #include <QLineEdit>
 
+#include "shell/fields/picture_view.h"
 #include "shell/material_editors/editor_rows.h"
 #include "shell/material_editors/number_box.h"
-#include "shell/windows/picture_view.h"
 
 namespace velmar::material_editors {
 namespace {
@@ -23,7 +23,7 @@ QString SpokenName(QString caption) {
 
 }  // namespace
 
-FieldGrid::FieldGrid(const windows::WindowTools& tools, QWidget* window)
+FieldGrid::FieldGrid(const shell::WindowTools& tools, QWidget* window)
     : tools_(tools), window_(window), grid_(new QGridLayout) {
   grid_->setColumnStretch(kColumns - 1, 1);
 }
@@ -73,7 +73,7 @@ void FieldGrid::AddRemark(MessageRow text) {
 void FieldGrid::AddGap() { grid_->setRowMinimumHeight(next_row_++, kGapPx); }
 
 void FieldGrid::AddPicture(const std::filesystem::path& file, int first_row) {
-  auto* view = new windows::PictureView(tools_, window_);
+  auto* view = new shell::PictureView(tools_, window_);
   view->setObjectName(QStringLiteral("Picture1"));
   view->setAccessibleName(tools_.Text(kPictureRow));
   // The boxes beside it decide how high it is.

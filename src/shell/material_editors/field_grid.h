@@ -3,7 +3,7 @@
 #include <filesystem>
 
 #include "foundation/message.h"
-#include "shell/windows/window_tools.h"
+#include "shell/fields/window_tools.h"
 
 class QGridLayout;
 class QLineEdit;
@@ -18,7 +18,7 @@ class NumberBox;
 class FieldGrid {
  public:
   /// @param window owns the controls
-  FieldGrid(const windows::WindowTools& tools, QWidget* window);
+  FieldGrid(const shell::WindowTools& tools, QWidget* window);
 
   QGridLayout* Layout() const { return grid_; }
   /// The row that comes next.
@@ -41,7 +41,7 @@ class FieldGrid {
  private:
   void Name(MessageRow caption, QWidget* box, MessageRow tip);
 
-  const windows::WindowTools& tools_;
+  const shell::WindowTools& tools_;
   QWidget* window_;
   QGridLayout* grid_;
   int next_row_ = 0;

@@ -7,8 +7,8 @@
 #include <charconv>
 
 #include "foundation/decimal.h"
-#include "shell/windows/key_filters.h"
-#include "shell/windows/window_tools.h"
+#include "shell/fields/key_filters.h"
+#include "shell/fields/window_tools.h"
 
 namespace velmar::material_editors {
 namespace {
@@ -51,7 +51,7 @@ NumberBox::NumberBox(const QString& object_name, QWidget* parent) : QLineEdit(pa
 
 void NumberBox::Show(const std::string& text) {
   exact_.clear();
-  setText(windows::ToQt(text));
+  setText(shell::ToQt(text));
 }
 
 void NumberBox::ShowStored(const std::string& number) {
@@ -61,7 +61,7 @@ void NumberBox::ShowStored(const std::string& number) {
   if (shown.size() != number.size()) exact_ = number;
 }
 
-std::string NumberBox::Number() const { return exact_.empty() ? windows::FromQt(text().trimmed()) : exact_; }
+std::string NumberBox::Number() const { return exact_.empty() ? shell::FromQt(text().trimmed()) : exact_; }
 
 void NumberBox::Fill(const std::string& result, bool replace) {
   const std::string now = Number();
@@ -80,9 +80,9 @@ void NumberBox::keyPressEvent(QKeyEvent* event) {
     return;
   }
   const QChar typed = event->text().at(0) == u'.' ? kDecimalSign : event->text().at(0);
-  const windows::FieldState field{text(), hasSelectedText() ? selectionStart() : cursorPosition(),
-                                  static_cast<int>(selectedText().size())};
-  const QChar passed = windows::NumericKeyFilter(typed, field, true, kDecimalSign);
+  const shell::FieldState field{text(), hasSelectedText() ? selectionStart() : cursorPosition(),
+                                static_cast<int>(selectedText().size())};
+  const QChar passed = shell::NumericKeyFilter(typed, field, true, kDecimalSign);
   if (!passed.isNull()) insert(QString(passed));
   event->accept();
 }

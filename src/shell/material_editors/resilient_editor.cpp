@@ -11,9 +11,9 @@
 namespace velmar::material_editors {
 namespace {
 
-using storage::ResilientBox;
-using storage::ResilientBoxes;
-using storage::ResilientEntry;
+using materials::ResilientBox;
+using materials::ResilientBoxes;
+using materials::ResilientEntry;
 
 constexpr MessageRow kCaptionRow{324};
 constexpr MessageRow kStiffnessRow{337};
@@ -28,7 +28,7 @@ constexpr int kButtonGapPx = 8;
 
 }  // namespace
 
-ResilientEditor::ResilientEditor(windows::WindowTools tools,
+ResilientEditor::ResilientEditor(shell::WindowTools tools,
                                  EditedMaterial<elements::ResilientMaterial> material,
                                  const std::vector<std::string>& keywords,
                                  const std::filesystem::path& picture, QWidget* parent)
@@ -39,7 +39,7 @@ ResilientEditor::ResilientEditor(windows::WindowTools tools,
   stiffness_->OnLeave([this](bool edited) { Couple(ResilientBox::kStiffness, edited); });
   improvement_->OnLeave([this](bool edited) { Couple(ResilientBox::kImprovement, edited); });
   resonance_->OnLeave([this](bool edited) { Couple(ResilientBox::kResonance, edited); });
-  Show(material_.Opened() ? storage::EntryOf(*material_.Opened()) : ResilientEntry{});
+  Show(material_.Opened() ? materials::EntryOf(*material_.Opened()) : ResilientEntry{});
   shown_first_ = Entry();
   Finish(name_);
 }
@@ -69,10 +69,10 @@ void ResilientEditor::MakeControls(const std::vector<std::string>& keywords,
 }
 
 void ResilientEditor::Show(const ResilientEntry& entry) {
-  name_->setText(windows::ToQt(entry.name));
-  description_->setText(windows::ToQt(entry.description));
+  name_->setText(shell::ToQt(entry.name));
+  description_->setText(shell::ToQt(entry.description));
   description_->setCursorPosition(0);
-  keyword_->setEditText(windows::ToQt(entry.keyword));
+  keyword_->setEditText(shell::ToQt(entry.keyword));
   stiffness_->ShowStored(entry.stiffness);
   improvement_->ShowStored(entry.improvement);
   resonance_->ShowStored(entry.resonance);
@@ -81,9 +81,9 @@ void ResilientEditor::Show(const ResilientEntry& entry) {
 }
 
 ResilientEntry ResilientEditor::Entry() const {
-  return {.name = windows::FromQt(name_->text()),
-          .description = windows::FromQt(description_->text()),
-          .keyword = windows::FromQt(keyword_->currentText()),
+  return {.name = shell::FromQt(name_->text()),
+          .description = shell::FromQt(description_->text()),
+          .keyword = shell::FromQt(keyword_->currentText()),
           .stiffness = stiffness_->Number(),
           .improvement = improvement_->Number(),
           .resonance = resonance_->Number(),
@@ -94,7 +94,7 @@ ResilientEntry ResilientEditor::Entry() const {
 // A box that was only passed through fills an empty one, but rounds no number that is there.
 void ResilientEditor::Couple(ResilientBox left, bool edited) {
   const ResilientBoxes coupled =
-      storage::CoupleResilient({stiffness_->Number(), improvement_->Number(), resonance_->Number()}, left);
+      materials::CoupleResilient({stiffness_->Number(), improvement_->Number(), resonance_->Number()}, left);
   stiffness_->Fill(coupled.dynamic_stiffness_mn_m3, edited);
   improvement_->Fill(coupled.impact_improvement_db, edited);
   resonance_->Fill(coupled.resonance_frequency_hz, edited);

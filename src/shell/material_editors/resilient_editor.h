@@ -5,8 +5,8 @@
 #include <vector>
 
 #include "elements/materials.h"
+#include "materials/coupled_boxes.h"
 #include "shell/material_editors/editor_dialog.h"
-#include "storage/materials/coupled_boxes.h"
 
 class QLineEdit;
 
@@ -20,7 +20,7 @@ class ResilientEditor : public EditorDialog {
  public:
   /// @param keywords what the keyword box suggests
   /// @param picture file that the row's picture is in
-  ResilientEditor(windows::WindowTools tools, EditedMaterial<elements::ResilientMaterial> material,
+  ResilientEditor(shell::WindowTools tools, EditedMaterial<elements::ResilientMaterial> material,
                   const std::vector<std::string>& keywords, const std::filesystem::path& picture,
                   QWidget* parent = nullptr);
 
@@ -30,12 +30,12 @@ class ResilientEditor : public EditorDialog {
 
  private:
   void MakeControls(const std::vector<std::string>& keywords, const std::filesystem::path& picture);
-  void Show(const storage::ResilientEntry& entry);
-  storage::ResilientEntry Entry() const;
-  void Couple(storage::ResilientBox left, bool edited);
+  void Show(const materials::ResilientEntry& entry);
+  materials::ResilientEntry Entry() const;
+  void Couple(materials::ResilientBox left, bool edited);
 
   EditedMaterial<elements::ResilientMaterial> material_;
-  storage::ResilientEntry shown_first_;
+  materials::ResilientEntry shown_first_;
   QLineEdit* name_ = nullptr;         ///< `Text1`
   QLineEdit* description_ = nullptr;  ///< `Text2`
   NumberBox* stiffness_ = nullptr;    ///< `Text3`

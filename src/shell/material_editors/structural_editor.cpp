@@ -11,9 +11,9 @@
 namespace velmar::material_editors {
 namespace {
 
-using storage::MassBox;
-using storage::MassBoxes;
-using storage::StructuralEntry;
+using materials::MassBox;
+using materials::MassBoxes;
+using materials::StructuralEntry;
 
 constexpr MessageRow kCaptionRow{323};
 constexpr MessageRow kSurfaceMassRow{332};
@@ -26,7 +26,7 @@ constexpr int kButtonGapPx = 8;
 
 }  // namespace
 
-StructuralEditor::StructuralEditor(windows::WindowTools tools,
+StructuralEditor::StructuralEditor(shell::WindowTools tools,
                                    EditedMaterial<elements::StructuralMaterial> material,
                                    const std::vector<std::string>& keywords, QWidget* parent)
     : EditorDialog(std::move(tools), QStringLiteral("Form5"), QStringLiteral("materiale-strutturale"),
@@ -58,14 +58,14 @@ StructuralEditor::StructuralEditor(windows::WindowTools tools,
   thickness_->OnLeave([this](bool edited) { Couple(MassBox::kThickness, edited); });
   density_->OnLeave([this](bool edited) { Couple(MassBox::kDensity, edited); });
   surface_mass_->OnLeave([this](bool edited) { Couple(MassBox::kSurfaceMass, edited); });
-  Show(material_.Opened() ? storage::EntryOf(*material_.Opened()) : StructuralEntry{});
+  Show(material_.Opened() ? materials::EntryOf(*material_.Opened()) : StructuralEntry{});
   shown_first_ = Entry();
   Finish(name_);
 }
 
 void StructuralEditor::Show(const StructuralEntry& entry) {
-  name_->setText(windows::ToQt(entry.name));
-  description_->setText(windows::ToQt(entry.description));
+  name_->setText(shell::ToQt(entry.name));
+  description_->setText(shell::ToQt(entry.description));
   description_->setCursorPosition(0);
   thickness_->ShowStored(entry.thickness);
   density_->ShowStored(entry.density);
@@ -74,12 +74,12 @@ void StructuralEditor::Show(const StructuralEntry& entry) {
   critical_frequency_->ShowStored(entry.critical_frequency);
   loss_factor_->ShowStored(entry.loss_factor);
   poissons_ratio_->ShowStored(entry.poissons_ratio);
-  keyword_->setEditText(windows::ToQt(entry.keyword));
+  keyword_->setEditText(shell::ToQt(entry.keyword));
 }
 
 StructuralEntry StructuralEditor::Entry() const {
-  return {.name = windows::FromQt(name_->text()),
-          .description = windows::FromQt(description_->text()),
+  return {.name = shell::FromQt(name_->text()),
+          .description = shell::FromQt(description_->text()),
           .thickness = thickness_->Number(),
           .density = density_->Number(),
           .surface_mass = surface_mass_->Number(),
@@ -87,13 +87,13 @@ StructuralEntry StructuralEditor::Entry() const {
           .critical_frequency = critical_frequency_->Number(),
           .loss_factor = loss_factor_->Number(),
           .poissons_ratio = poissons_ratio_->Number(),
-          .keyword = windows::FromQt(keyword_->currentText())};
+          .keyword = shell::FromQt(keyword_->currentText())};
 }
 
 // A box that was only passed through fills an empty one, but rounds no number that is there.
 void StructuralEditor::Couple(MassBox left, bool edited) {
   const MassBoxes coupled =
-      storage::CoupleMass({thickness_->Number(), density_->Number(), surface_mass_->Number()}, left);
+      materials::CoupleMass({thickness_->Number(), density_->Number(), surface_mass_->Number()}, left);
   thickness_->Fill(coupled.thickness_mm, edited);
   density_->Fill(coupled.density_kg_m3, edited);
   surface_mass_->Fill(coupled.surface_mass_kg_m2, edited);

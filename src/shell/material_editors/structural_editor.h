@@ -4,8 +4,8 @@
 #include <vector>
 
 #include "elements/materials.h"
+#include "materials/coupled_boxes.h"
 #include "shell/material_editors/editor_dialog.h"
-#include "storage/materials/coupled_boxes.h"
 
 class QLineEdit;
 
@@ -18,7 +18,7 @@ class NumberBox;
 class StructuralEditor : public EditorDialog {
  public:
   /// @param keywords what the keyword box suggests
-  StructuralEditor(windows::WindowTools tools, EditedMaterial<elements::StructuralMaterial> material,
+  StructuralEditor(shell::WindowTools tools, EditedMaterial<elements::StructuralMaterial> material,
                    const std::vector<std::string>& keywords, QWidget* parent = nullptr);
 
  protected:
@@ -26,12 +26,12 @@ class StructuralEditor : public EditorDialog {
   SaveOutcome Store(const AskUser& ask) override;
 
  private:
-  void Show(const storage::StructuralEntry& entry);
-  storage::StructuralEntry Entry() const;
-  void Couple(storage::MassBox left, bool edited);
+  void Show(const materials::StructuralEntry& entry);
+  materials::StructuralEntry Entry() const;
+  void Couple(materials::MassBox left, bool edited);
 
   EditedMaterial<elements::StructuralMaterial> material_;
-  storage::StructuralEntry shown_first_;
+  materials::StructuralEntry shown_first_;
   QLineEdit* name_ = nullptr;                ///< `Text1`
   QLineEdit* description_ = nullptr;         ///< `Text2`
   NumberBox* thickness_ = nullptr;           ///< `Text3`

@@ -7,7 +7,7 @@
 #include "foundation/decimal.h"
 #include "storage/materials/material_row.h"
 
-namespace velmar::materials {
+namespace velmar::shell {
 namespace {
 
 constexpr MessageRow kYesRow{363};
@@ -58,7 +58,7 @@ QString WithoutColon(QString text) {
   return text;
 }
 
-MaterialColumn ColumnOf(const Heading& heading, const windows::WindowTools& tools) {
+MaterialColumn ColumnOf(const Heading& heading, const WindowTools& tools) {
   MaterialColumn column;
   column.heading = heading.row != 0 ? tools.Text({heading.row}) : QString::fromUtf8(heading.symbol);
   column.tip = heading.tip_row != 0 ? WithoutColon(tools.Text({heading.tip_row})) : column.heading;
@@ -66,8 +66,8 @@ MaterialColumn ColumnOf(const Heading& heading, const windows::WindowTools& tool
   return column;
 }
 
-MaterialColumn AbsorptionColumn(std::size_t band, const windows::WindowTools& tools) {
-  const QString centre = windows::ToQt(FormatShortest(elements::kAbsorptionBandCentres.at(band)));
+MaterialColumn AbsorptionColumn(std::size_t band, const WindowTools& tools) {
+  const QString centre = ToQt(FormatShortest(elements::kAbsorptionBandCentres.at(band)));
   MaterialColumn column;
   column.heading = QStringLiteral("α %1").arg(centre);
   column.tip = tools.Text(kAbsorptionRow) + QStringLiteral(", %1 Hz").arg(centre);
@@ -76,7 +76,7 @@ MaterialColumn AbsorptionColumn(std::size_t band, const windows::WindowTools& to
 
 }  // namespace
 
-std::vector<MaterialColumn> ColumnsOf(elements::MaterialFamily family, const windows::WindowTools& tools) {
+std::vector<MaterialColumn> ColumnsOf(elements::MaterialFamily family, const WindowTools& tools) {
   const storage::TableSchema table = storage::TableOf(family);
   std::vector<MaterialColumn> columns;
   const auto add = [&](std::string_view name, MaterialColumn column) {
@@ -96,11 +96,11 @@ std::vector<MaterialColumn> ColumnsOf(elements::MaterialFamily family, const win
   return columns;
 }
 
-QString Shown(const storage::Cell& cell, const windows::WindowTools& tools) {
-  if (const auto* text = std::get_if<std::string>(&cell)) return windows::ToQt(*text);
-  if (const auto* number = std::get_if<double>(&cell)) return windows::ToQt(FormatShortest(*number));
+QString Shown(const storage::Cell& cell, const WindowTools& tools) {
+  if (const auto* text = std::get_if<std::string>(&cell)) return ToQt(*text);
+  if (const auto* number = std::get_if<double>(&cell)) return ToQt(FormatShortest(*number));
   if (const auto* yes = std::get_if<bool>(&cell)) return tools.Text(*yes ? kYesRow : kNoRow);
   return {};
 }
 
-}  // namespace velmar::materials
+}  // namespace velmar::shell

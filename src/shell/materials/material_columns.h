@@ -5,10 +5,10 @@
 #include <vector>
 
 #include "elements/layer_groups.h"
-#include "shell/windows/window_tools.h"
-#include "storage/cell.h"
+#include "shell/fields/window_tools.h"
+#include "storage/tables/cell.h"
 
-namespace velmar::materials {
+namespace velmar::shell {
 
 /// A column of the grid.
 struct MaterialColumn {
@@ -20,9 +20,9 @@ struct MaterialColumn {
 };
 
 /// The columns of a family's grid: the name first, then what a choice is made by, then the rest of the table.
-std::vector<MaterialColumn> ColumnsOf(elements::MaterialFamily family, const windows::WindowTools& tools);
+std::vector<MaterialColumn> ColumnsOf(elements::MaterialFamily family, const WindowTools& tools);
 
 /// `cell` as the grid shows it: null is empty, numbers have a decimal comma.
-QString Shown(const storage::Cell& cell, const windows::WindowTools& tools);
+QString Shown(const storage::Cell& cell, const WindowTools& tools);
 
-}  // namespace velmar::materials
+}  // namespace velmar::shell

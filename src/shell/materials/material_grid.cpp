@@ -4,7 +4,7 @@
 #include <QKeyEvent>
 #include <algorithm>
 
-namespace velmar::materials {
+namespace velmar::shell {
 namespace {
 
 constexpr int kNameColumn = 0;
@@ -108,12 +108,11 @@ void MaterialGrid::resizeEvent(QResizeEvent* event) {
 
 std::string MaterialGrid::SelectedName() const {
   const QModelIndex current = currentIndex();
-  return current.isValid() ? windows::FromQt(current.siblingAtColumn(kNameColumn).data().toString())
-                           : std::string();
+  return current.isValid() ? FromQt(current.siblingAtColumn(kNameColumn).data().toString()) : std::string();
 }
 
 bool MaterialGrid::SelectName(const std::string& name) {
-  const QString wanted = windows::ToQt(name);
+  const QString wanted = ToQt(name);
   for (const Qt::MatchFlags flags :
        {Qt::MatchFlags(Qt::MatchExactly | Qt::MatchCaseSensitive), Qt::MatchFlags(Qt::MatchFixedString)}) {
     const QModelIndexList found =
@@ -142,4 +141,4 @@ void MaterialGrid::keyPressEvent(QKeyEvent* event) {
   }
 }
 
-}  // namespace velmar::materials
+}  // namespace velmar::shell

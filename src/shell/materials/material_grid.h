@@ -6,7 +6,7 @@
 
 #include "shell/materials/material_model.h"
 
-namespace velmar::materials {
+namespace velmar::shell {
 
 /// The grid of one family (`DataGrid1`): columns as wide as their contents, the name takes what is left.
 class MaterialGrid : public QTableView {
@@ -52,4 +52,4 @@ class MaterialGrid : public QTableView {
   bool fit_due_ = false;
 };
 
-}  // namespace velmar::materials
+}  // namespace velmar::shell

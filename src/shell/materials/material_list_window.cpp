@@ -11,10 +11,10 @@
 #include <QSettings>
 #include <QVBoxLayout>
 
+#include "shell/fields/button_row.h"
 #include "shell/materials/material_texts.h"
-#include "shell/windows/button_row.h"
 
-namespace velmar::materials {
+namespace velmar::shell {
 namespace {
 
 using elements::MaterialFamily;
@@ -54,7 +54,7 @@ bool Moves(int key) {
 
 }  // namespace
 
-MaterialListWindow::MaterialListWindow(windows::WindowTools tools, MaterialSource source,
+MaterialListWindow::MaterialListWindow(WindowTools tools, MaterialSource source,
                                        std::optional<MaterialPick> pick, Listener listener, QWidget* parent)
     : QDialog(parent),
       tools_(std::move(tools)),
@@ -71,7 +71,7 @@ MaterialListWindow::MaterialListWindow(windows::WindowTools tools, MaterialSourc
   column->addWidget(MakeSelected());
   column->addWidget(MakeButtons());
   const QFontMetrics metrics = fontMetrics();
-  if (!windows::RestoreSizes(tools_.memory, {QLatin1String(kMemoryName), this, nullptr, nullptr}))
+  if (!RestoreSizes(tools_.memory, {QLatin1String(kMemoryName), this, nullptr, nullptr}))
     resize(metrics.averageCharWidth() * 185, metrics.height() * 32);
   ChooseFamily(pick_ ? pick_->family : MaterialFamily::kStructural);
   if (pick_) grid_->SelectName(pick_->shown);
@@ -80,7 +80,7 @@ MaterialListWindow::MaterialListWindow(windows::WindowTools tools, MaterialSourc
 
 MaterialListWindow::~MaterialListWindow() {
   RememberColumns();
-  windows::SaveSizes(tools_.memory, {QLatin1String(kMemoryName), this, nullptr, nullptr});
+  SaveSizes(tools_.memory, {QLatin1String(kMemoryName), this, nullptr, nullptr});
 }
 
 QWidget* MaterialListWindow::MakeHead() {
@@ -149,7 +149,7 @@ QWidget* MaterialListWindow::MakeSelected() {
 }
 
 QWidget* MaterialListWindow::MakeButtons() {
-  auto* bar = new windows::ButtonRow(this);
+  auto* bar = new ButtonRow(this);
   const auto add = [&](const char* name, MessageRow text, std::function<void()> action) {
     return bar->Add(name, tools_.Text(text), std::move(action));
   };
@@ -203,7 +203,7 @@ void MaterialListWindow::SearchFor(const QString& text) {
 
 void MaterialListWindow::ShowSelected() {
   const std::string name = grid_->SelectedName();
-  name_->setText(windows::ToQt(name));
+  name_->setText(ToQt(name));
   name_->setCursorPosition(0);
   edit_->setEnabled(!name.empty() && source_.edit);
   delete_->setEnabled(!name.empty());
@@ -250,7 +250,7 @@ void MaterialListWindow::Take() {
 
 void MaterialListWindow::Edit(const std::string& name) {
   if (!source_.edit) return;
-  std::optional<windows::MaterialChange> change;
+  std::optional<MaterialChange> change;
   tools_.Try([&] { change = source_.edit(this, family_, name); });
   if (!change) return;
   // What was searched for may not occur in the row that was just stored.
@@ -265,8 +265,7 @@ void MaterialListWindow::Edit(const std::string& name) {
 void MaterialListWindow::Delete() {
   const std::string name = grid_->SelectedName();
   if (name.empty()) return;
-  const QString question =
-      tools_.Text(kDeleteQuestionRow) + QStringLiteral(" \"%1\"?").arg(windows::ToQt(name));
+  const QString question = tools_.Text(kDeleteQuestionRow) + QStringLiteral(" \"%1\"?").arg(ToQt(name));
   if (!tools_.ask(question)) return;
   const int row = grid_->SelectedRow();
   if (!tools_.Try([&] { source_.remove(family_, name); })) return;
@@ -275,4 +274,4 @@ void MaterialListWindow::Delete() {
   if (listener_.removed) listener_.removed(family_, name);
 }
 
-}  // namespace velmar::materials
+}  // namespace velmar::shell

@@ -5,17 +5,17 @@
 #include <functional>
 #include <optional>
 
+#include "shell/fields/window_tools.h"
 #include "shell/materials/material_grid.h"
 #include "shell/materials/material_model.h"
 #include "shell/materials/material_source.h"
-#include "shell/windows/window_tools.h"
 
 class QCheckBox;
 class QLineEdit;
 class QPushButton;
 class QRadioButton;
 
-namespace velmar::materials {
+namespace velmar::shell {
 
 /// A layer row that a material is picked for (`DestinazioneMateriale`, `IndiceStrato`).
 struct MaterialPick {
@@ -30,13 +30,13 @@ class MaterialListWindow : public QDialog {
  public:
   /// What the window tells of itself, so that lists and tree are kept in step.
   struct Listener {
-    std::function<void(const windows::MaterialChange&)> changed{};
+    std::function<void(const MaterialChange&)> changed{};
     std::function<void(elements::MaterialFamily, const std::string& name)> removed{};
     /// The table was read again when the user asked for it: others may have changed it.
     std::function<void()> refreshed{};
   };
 
-  MaterialListWindow(windows::WindowTools tools, MaterialSource source, std::optional<MaterialPick> pick,
+  MaterialListWindow(WindowTools tools, MaterialSource source, std::optional<MaterialPick> pick,
                      Listener listener, QWidget* parent = nullptr);
   ~MaterialListWindow() override;
 
@@ -62,7 +62,7 @@ class MaterialListWindow : public QDialog {
   void Edit(const std::string& name);
   void Delete();
 
-  windows::WindowTools tools_;
+  WindowTools tools_;
   MaterialSource source_;
   std::optional<MaterialPick> pick_;
   Listener listener_;
@@ -80,4 +80,4 @@ class MaterialListWindow : public QDialog {
   QPushButton* take_ = nullptr;
 };
 
-}  // namespace velmar::materials
+}  // namespace velmar::shell

@@ -3,7 +3,7 @@
 #include <QLocale>
 #include <algorithm>
 
-namespace velmar::materials {
+namespace velmar::shell {
 namespace {
 
 bool IsNumber(const MaterialColumn& column) {
@@ -19,7 +19,7 @@ QCollator Dictionary() {
 
 }  // namespace
 
-MaterialModel::MaterialModel(windows::WindowTools tools, QObject* parent)
+MaterialModel::MaterialModel(WindowTools tools, QObject* parent)
     : QAbstractTableModel(parent), tools_(std::move(tools)), collator_(Dictionary()) {}
 
 void MaterialModel::Fill(elements::MaterialFamily family, std::vector<MaterialCells> rows) {
@@ -141,4 +141,4 @@ bool MaterialSearch::lessThan(const QModelIndex& left, const QModelIndex& right)
   return model_.IsBefore(left.row(), right.row(), left.column());
 }
 
-}  // namespace velmar::materials
+}  // namespace velmar::shell

@@ -10,12 +10,12 @@
 #include "shell/materials/material_columns.h"
 #include "shell/materials/material_source.h"
 
-namespace velmar::materials {
+namespace velmar::shell {
 
 /// The rows of a material table under the columns of its grid.
 class MaterialModel : public QAbstractTableModel {
  public:
-  explicit MaterialModel(windows::WindowTools tools, QObject* parent = nullptr);
+  explicit MaterialModel(WindowTools tools, QObject* parent = nullptr);
 
   void Fill(elements::MaterialFamily family, std::vector<MaterialCells> rows);
 
@@ -38,7 +38,7 @@ class MaterialModel : public QAbstractTableModel {
   const std::vector<QCollatorSortKey>& SortKeys(int column) const;
   void FormSearchTexts();
 
-  windows::WindowTools tools_;
+  WindowTools tools_;
   std::vector<MaterialColumn> columns_;
   std::vector<MaterialCells> rows_;
   std::vector<QString> search_;
@@ -63,4 +63,4 @@ class MaterialSearch : public QSortFilterProxyModel {
   QStringList searched_;
 };
 
-}  // namespace velmar::materials
+}  // namespace velmar::shell

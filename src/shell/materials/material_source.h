@@ -7,11 +7,11 @@
 #include <vector>
 
 #include "elements/layer_groups.h"
-#include "shell/windows/material_change.h"
-#include "storage/cell.h"
-#include "storage/materials/keywords.h"
+#include "shell/fields/material_change.h"
+#include "storage/materials/material_row.h"
+#include "storage/tables/cell.h"
 
-namespace velmar::materials {
+namespace velmar::shell {
 
 /// A row of a material table, in the order of storage::TableOf(family).
 using MaterialCells = std::vector<storage::Cell>;
@@ -29,9 +29,9 @@ struct MaterialSource {
   std::function<bool(elements::MaterialFamily, const std::string& name)> remove;
   /// Opens the editor for the row called `name`, for a new one when that is empty. Gives what it stored;
   /// nothing when the user gave up. Empty: there is no editor.
-  std::function<std::optional<windows::MaterialChange>(QWidget* parent, elements::MaterialFamily,
-                                                       const std::string& name)>
+  std::function<std::optional<MaterialChange>(QWidget* parent, elements::MaterialFamily,
+                                              const std::string& name)>
       edit{};
 };
 
-}  // namespace velmar::materials
+}  // namespace velmar::shell

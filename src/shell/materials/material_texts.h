@@ -3,7 +3,7 @@
 #include "elements/layer_groups.h"
 #include "foundation/message.h"
 
-namespace velmar::materials {
+namespace velmar::shell {
 
 // Texts that the windows here share.
 inline constexpr MessageRow kListCaptionRow{322};
@@ -24,4 +24,4 @@ constexpr MessageRow TitleOf(elements::MaterialFamily family) {
   return {};
 }
 
-}  // namespace velmar::materials
+}  // namespace velmar::shell

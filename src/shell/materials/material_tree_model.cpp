@@ -8,7 +8,7 @@
 
 #include "shell/materials/material_texts.h"
 
-namespace velmar::materials {
+namespace velmar::shell {
 namespace {
 
 using elements::MaterialFamily;
@@ -23,8 +23,7 @@ std::size_t At(MaterialFamily family) { return static_cast<std::size_t>(family);
 
 }  // namespace
 
-MaterialTreeModel::MaterialTreeModel(const windows::WindowTools& tools, QObject* parent)
-    : QAbstractItemModel(parent) {
+MaterialTreeModel::MaterialTreeModel(const WindowTools& tools, QObject* parent) : QAbstractItemModel(parent) {
   for (const MaterialFamily family : kFamilies) titles_.at(At(family)) = tools.Text(TitleOf(family));
 }
 
@@ -35,8 +34,8 @@ void MaterialTreeModel::Fill(MaterialFamily family, const std::vector<storage::L
   std::vector<std::pair<QCollatorSortKey, Node>> sorted;
   sorted.reserve(materials.size());
   for (const storage::ListedMaterial& material : materials) {
-    const QString name = windows::ToQt(material.name);
-    const QString search = (name + QLatin1Char('\n') + windows::ToQt(material.keyword)).toLower();
+    const QString name = ToQt(material.name);
+    const QString search = (name + QLatin1Char('\n') + ToQt(material.keyword)).toLower();
     sorted.emplace_back(collator.sortKey(name), Node{name, search});
   }
   std::stable_sort(sorted.begin(), sorted.end(),
@@ -58,10 +57,10 @@ const MaterialTreeModel::Node* MaterialTreeModel::NodeAt(const QModelIndex& inde
   return &nodes_.at(index.internalId() - 1).at(static_cast<std::size_t>(index.row()));
 }
 
-std::optional<windows::DraggedMaterial> MaterialTreeModel::MaterialAt(const QModelIndex& index) const {
+std::optional<DraggedMaterial> MaterialTreeModel::MaterialAt(const QModelIndex& index) const {
   const Node* node = NodeAt(index);
   if (node == nullptr) return std::nullopt;
-  return windows::DraggedMaterial{kFamilies.at(index.internalId() - 1), node->name};
+  return DraggedMaterial{kFamilies.at(index.internalId() - 1), node->name};
 }
 
 bool MaterialTreeModel::Holds(const QModelIndex& index, const QStringList& words) const {
@@ -120,7 +119,7 @@ QStringList MaterialTreeModel::mimeTypes() const { return {QStringLiteral("text/
 
 QMimeData* MaterialTreeModel::mimeData(const QModelIndexList& indexes) const {
   const auto material = indexes.isEmpty() ? std::nullopt : MaterialAt(indexes.first());
-  return material ? windows::ToMime(*material) : nullptr;
+  return material ? ToMime(*material) : nullptr;
 }
 
 MaterialTreeSearch::MaterialTreeSearch(MaterialTreeModel& model, QObject* parent)
@@ -137,4 +136,4 @@ bool MaterialTreeSearch::filterAcceptsRow(int row, const QModelIndex& parent) co
   return model_.Holds(model_.index(row, 0, parent), searched_);
 }
 
-}  // namespace velmar::materials
+}  // namespace velmar::shell

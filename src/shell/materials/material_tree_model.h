@@ -9,11 +9,11 @@
 #include <vector>
 
 #include "elements/layer_groups.h"
-#include "shell/windows/dragged_material.h"
-#include "shell/windows/window_tools.h"
-#include "storage/materials/keywords.h"
+#include "shell/fields/dragged_material.h"
+#include "shell/fields/window_tools.h"
+#include "storage/materials/material_row.h"
 
-namespace velmar::materials {
+namespace velmar::shell {
 
 /// The materials of the three families as children of three bold roots, in the order of a dictionary; a
 /// material can be dragged from it.
@@ -23,13 +23,13 @@ class MaterialTreeModel : public QAbstractItemModel {
   /// a material. It stays Italian in every language.
   static constexpr int kKeyRole = Qt::UserRole;
 
-  explicit MaterialTreeModel(const windows::WindowTools& tools, QObject* parent = nullptr);
+  explicit MaterialTreeModel(const WindowTools& tools, QObject* parent = nullptr);
 
   void Fill(elements::MaterialFamily family, const std::vector<storage::ListedMaterial>& materials);
 
   QModelIndex RootOf(elements::MaterialFamily family) const;
   /// The material that `index` stands for; nothing for a root.
-  std::optional<windows::DraggedMaterial> MaterialAt(const QModelIndex& index) const;
+  std::optional<DraggedMaterial> MaterialAt(const QModelIndex& index) const;
   /// Whether every one of `words`, in small letters, occurs in the name or keyword at `index`.
   bool Holds(const QModelIndex& index, const QStringList& words) const;
 
@@ -69,4 +69,4 @@ class MaterialTreeSearch : public QSortFilterProxyModel {
   QStringList searched_;
 };
 
-}  // namespace velmar::materials
+}  // namespace velmar::shell

@@ -15,7 +15,7 @@
 #include "shell/materials/material_texts.h"
 #include "storage/materials/material_row.h"
 
-namespace velmar::materials {
+namespace velmar::shell {
 namespace {
 
 using elements::MaterialFamily;
@@ -45,8 +45,7 @@ constexpr std::array kProperties = {
 
 }  // namespace
 
-MaterialTreeWindow::MaterialTreeWindow(windows::WindowTools tools, MaterialSource source, Put put,
-                                       QWidget* parent)
+MaterialTreeWindow::MaterialTreeWindow(WindowTools tools, MaterialSource source, Put put, QWidget* parent)
     : QDialog(parent),
       tools_(std::move(tools)),
       source_(std::move(source)),
@@ -69,7 +68,7 @@ MaterialTreeWindow::MaterialTreeWindow(windows::WindowTools tools, MaterialSourc
   column->addWidget(hint_);
   if (parent != nullptr) parent->installEventFilter(this);
   const QFontMetrics metrics = fontMetrics();
-  if (!windows::RestoreSizes(tools_.memory, {QLatin1String(kMemoryName), this, nullptr, sides_})) {
+  if (!RestoreSizes(tools_.memory, {QLatin1String(kMemoryName), this, nullptr, sides_})) {
     resize(metrics.averageCharWidth() * 105, metrics.height() * 28);
     sides_->setSizes({metrics.averageCharWidth() * 50, metrics.averageCharWidth() * 55});
     StandBeside(parent);
@@ -81,7 +80,7 @@ MaterialTreeWindow::MaterialTreeWindow(windows::WindowTools tools, MaterialSourc
 }
 
 MaterialTreeWindow::~MaterialTreeWindow() {
-  windows::SaveSizes(tools_.memory, {QLatin1String(kMemoryName), this, nullptr, sides_});
+  SaveSizes(tools_.memory, {QLatin1String(kMemoryName), this, nullptr, sides_});
 }
 
 // At the right edge, where the layer rows that materials are dragged to stay in sight.
@@ -165,11 +164,11 @@ void MaterialTreeWindow::Fill(MaterialFamily family, const std::vector<storage::
   if (before) Select(*before);
 }
 
-std::optional<windows::DraggedMaterial> MaterialTreeWindow::Selected() const {
+std::optional<DraggedMaterial> MaterialTreeWindow::Selected() const {
   return model_.MaterialAt(shown_.mapToSource(tree_->currentIndex()));
 }
 
-void MaterialTreeWindow::Select(const windows::DraggedMaterial& material) {
+void MaterialTreeWindow::Select(const DraggedMaterial& material) {
   const QModelIndex root = shown_.mapFromSource(model_.RootOf(material.family));
   const QModelIndexList found =
       shown_.match(shown_.index(0, 0, root), Qt::DisplayRole, material.name, 1, Qt::MatchExactly);
@@ -182,7 +181,7 @@ void MaterialTreeWindow::ShowSelected() {
   storage::TableSchema table;
   if (selected) {
     table = storage::TableOf(selected->family);
-    tools_.Try([&] { cells = source_.find(selected->family, windows::FromQt(selected->name)); });
+    tools_.Try([&] { cells = source_.find(selected->family, FromQt(selected->name)); });
   }
   for (std::size_t i = 0; i < kProperties.size(); ++i) {
     const Property& property = kProperties.at(i);
@@ -253,4 +252,4 @@ bool MaterialTreeWindow::eventFilter(QObject* watched, QEvent* event) {
   return QDialog::eventFilter(watched, event);
 }
 
-}  // namespace velmar::materials
+}  // namespace velmar::shell

@@ -5,10 +5,10 @@
 #include <optional>
 #include <vector>
 
+#include "shell/fields/dragged_material.h"
+#include "shell/fields/window_tools.h"
 #include "shell/materials/material_source.h"
 #include "shell/materials/material_tree_model.h"
-#include "shell/windows/dragged_material.h"
-#include "shell/windows/window_tools.h"
 
 class QFormLayout;
 class QLabel;
@@ -16,7 +16,7 @@ class QLineEdit;
 class QSplitter;
 class QTreeView;
 
-namespace velmar::materials {
+namespace velmar::shell {
 
 /// "Lista materiali" (`FormSceltaMateriali`): all materials as a tree beside the properties of the selected
 /// one. It stays open beside the main window; its materials are dragged onto layer rows, or put there with
@@ -24,9 +24,9 @@ namespace velmar::materials {
 class MaterialTreeWindow : public QDialog {
  public:
   /// Puts a material where the user stands. @return false when there is no place for it
-  using Put = std::function<bool(const windows::DraggedMaterial&)>;
+  using Put = std::function<bool(const DraggedMaterial&)>;
 
-  MaterialTreeWindow(windows::WindowTools tools, MaterialSource source, Put put, QWidget* parent = nullptr);
+  MaterialTreeWindow(WindowTools tools, MaterialSource source, Put put, QWidget* parent = nullptr);
   ~MaterialTreeWindow() override;
 
   /// Reads the tables anew; the selected material stays selected when it is still there. A table that cannot
@@ -44,13 +44,13 @@ class MaterialTreeWindow : public QDialog {
   QWidget* MakeTree();
   void Fill(elements::MaterialFamily family, const std::vector<storage::ListedMaterial>& names);
   QWidget* MakeProperties();
-  std::optional<windows::DraggedMaterial> Selected() const;
-  void Select(const windows::DraggedMaterial& material);
+  std::optional<DraggedMaterial> Selected() const;
+  void Select(const DraggedMaterial& material);
   void ShowSelected();
   void PutSelected();
   void SearchFor(const QString& text);
 
-  windows::WindowTools tools_;
+  WindowTools tools_;
   MaterialSource source_;
   Put put_;
   MaterialTreeModel model_;
@@ -63,4 +63,4 @@ class MaterialTreeWindow : public QDialog {
   QLabel* hint_ = nullptr;
 };
 
-}  // namespace velmar::materials
+}  // namespace velmar::shell

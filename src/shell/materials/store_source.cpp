@@ -4,7 +4,7 @@
 
 #include "storage/materials/material_store.h"
 
-namespace velmar::materials {
+namespace velmar::shell {
 namespace {
 
 using elements::MaterialFamily;
@@ -58,4 +58,4 @@ MaterialSource StoredMaterials(const std::filesystem::path& file) {
   return source;
 }
 
-}  // namespace velmar::materials
+}  // namespace velmar::shell

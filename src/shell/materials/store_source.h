@@ -4,9 +4,9 @@
 
 #include "shell/materials/material_source.h"
 
-namespace velmar::materials {
+namespace velmar::shell {
 
 /// The material database `file`; without an editor.
 MaterialSource StoredMaterials(const std::filesystem::path& file);
 
-}  // namespace velmar::materials
+}  // namespace velmar::shell

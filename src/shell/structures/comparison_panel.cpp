@@ -49,7 +49,7 @@ QIcon SampleOf(const QColor& colour, const QSize& size) {
 
 }  // namespace
 
-ComparisonPanel::ComparisonPanel(const windows::WindowTools& tools, LibrarySource source, const Look& look,
+ComparisonPanel::ComparisonPanel(const shell::WindowTools& tools, LibrarySource source, const Look& look,
                                  std::function<void()> changed, QWidget* parent)
     : QGroupBox(tools.Text(look.caption), parent), tools_(tools), changed_(std::move(changed)) {
   setObjectName(QLatin1String(look.frame));
@@ -70,7 +70,7 @@ ComparisonPanel::ComparisonPanel(const windows::WindowTools& tools, LibrarySourc
   controls.nodes = look.nodes;
   TestChooser::Listener listener;
   listener.file = [this](const LibraryFile& file, const QString&) {
-    database_->setText(windows::ToQt(file.name));
+    database_->setText(shell::ToQt(file.name));
   };
   listener.test = [this](const std::optional<MeasuredTest>& test) { Show(test); };
   chooser_ = new TestChooser(tools, std::move(source), controls, std::move(listener), this);
@@ -103,11 +103,11 @@ void ComparisonPanel::Show(const std::optional<MeasuredTest>& test) {
     const std::optional<double>& value = shown.part.bands_db[i];
     bands_[i] = value == calculation::kNotMeasuredDb ? 0.0 : value.value_or(0.0);
   }
-  const QString rating = windows::ToQt(calculation::BoxText(shown.part.rating_db));
+  const QString rating = shell::ToQt(calculation::BoxText(shown.part.rating_db));
   const QString none = test ? QStringLiteral("-") : tools_.Text(kNoStructureRow);
   rating_->setText(rating.isEmpty() ? none : rating + QStringLiteral(" dB"));
   rating_->setEnabled(test.has_value());
-  description_->setPlainText(windows::ToQt(shown.part.description));
+  description_->setPlainText(shell::ToQt(shown.part.description));
   if (IsTicked()) changed_();
 }
 

@@ -6,9 +6,9 @@
 #include <optional>
 
 #include "acoustics/bands.h"
+#include "shell/fields/window_tools.h"
 #include "shell/structures/library_tree.h"
 #include "shell/structures/structure_sources.h"
-#include "shell/windows/window_tools.h"
 
 class QCheckBox;
 class QLabel;
@@ -37,7 +37,7 @@ class ComparisonPanel : public QGroupBox {
     std::vector<TreeNode> nodes{};
   };
 
-  ComparisonPanel(const windows::WindowTools& tools, LibrarySource source, const Look& look,
+  ComparisonPanel(const shell::WindowTools& tools, LibrarySource source, const Look& look,
                   std::function<void()> changed, QWidget* parent = nullptr);
 
   bool IsTicked() const;
@@ -54,7 +54,7 @@ class ComparisonPanel : public QGroupBox {
  private:
   void Show(const std::optional<MeasuredTest>& test);
 
-  windows::WindowTools tools_;
+  shell::WindowTools tools_;
   std::function<void()> changed_;
   acoustics::Spectrum bands_{};
   QCheckBox* check_ = nullptr;

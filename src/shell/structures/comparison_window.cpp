@@ -24,7 +24,7 @@ constexpr MessageRow kLaboratoryCheckRow{407};
 constexpr MessageRow kInSituCheckRow{408};
 constexpr const char* kMemoryName = "confronto-strutture";
 
-windows::RememberedSizes SizesOf(QWidget* window, QSplitter* sides) {
+shell::RememberedSizes SizesOf(QWidget* window, QSplitter* sides) {
   return {QLatin1String(kMemoryName), window, nullptr, sides};
 }
 
@@ -69,7 +69,7 @@ void LayOver(presentation::CurveChart& chart, const Overlay& overlay) {
   chart.in_situ_name = overlay.in_situ_name;
 }
 
-ComparisonWindow::ComparisonWindow(windows::WindowTools tools, const LibrarySource& source,
+ComparisonWindow::ComparisonWindow(shell::WindowTools tools, const LibrarySource& source,
                                    elements::Family family, Draw draw, QWidget* parent)
     : QDialog(parent), tools_(std::move(tools)), draw_(std::move(draw)) {
   setObjectName(QStringLiteral("Form8"));
@@ -98,7 +98,7 @@ ComparisonWindow::ComparisonWindow(windows::WindowTools tools, const LibrarySour
   column->addWidget(sides_, 1);
   column->addLayout(buttons);
   resize(fontMetrics().averageCharWidth() * 170, fontMetrics().height() * 34);
-  windows::RestoreSizes(tools_.memory, SizesOf(this, sides_));
+  shell::RestoreSizes(tools_.memory, SizesOf(this, sides_));
   SetMnemonics(*this);
   connect(new QShortcut(QKeySequence::Refresh, this), &QShortcut::activated, this, [this] {
     laboratory_->Refresh();
@@ -106,7 +106,7 @@ ComparisonWindow::ComparisonWindow(windows::WindowTools tools, const LibrarySour
   });
 }
 
-ComparisonWindow::~ComparisonWindow() { windows::SaveSizes(tools_.memory, SizesOf(this, sides_)); }
+ComparisonWindow::~ComparisonWindow() { shell::SaveSizes(tools_.memory, SizesOf(this, sides_)); }
 
 void ComparisonWindow::hideEvent(QHideEvent* event) {
   QDialog::hideEvent(event);

@@ -8,8 +8,8 @@
 #include "acoustics/bands.h"
 #include "elements/catalogue.h"
 #include "presentation/drawing/curve_chart.h"
+#include "shell/fields/window_tools.h"
 #include "shell/structures/structure_sources.h"
-#include "shell/windows/window_tools.h"
 
 class QSplitter;
 
@@ -39,8 +39,8 @@ class ComparisonWindow : public QDialog {
 
   /// @param family of the open calculation; decides which databases are offered
   /// @param draw redraws the main chart; called after every change of a ticked side, never by closing
-  ComparisonWindow(windows::WindowTools tools, const LibrarySource& source, elements::Family family,
-                   Draw draw, QWidget* parent = nullptr);
+  ComparisonWindow(shell::WindowTools tools, const LibrarySource& source, elements::Family family, Draw draw,
+                   QWidget* parent = nullptr);
   ~ComparisonWindow() override;
 
   /// The result was invalidated: the window closes.
@@ -53,7 +53,7 @@ class ComparisonWindow : public QDialog {
  private:
   Overlay Current() const;
 
-  windows::WindowTools tools_;
+  shell::WindowTools tools_;
   Draw draw_;
   QSplitter* sides_ = nullptr;
   ComparisonPanel* laboratory_ = nullptr;

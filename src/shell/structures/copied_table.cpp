@@ -4,14 +4,14 @@
 #include <QMimeData>
 #include <QStringList>
 
-#include "shell/windows/window_tools.h"
+#include "shell/fields/window_tools.h"
 
 namespace velmar::structures {
 namespace {
 
 /// A tabulator or a line break would end the field.
 QString OneField(const MessageLine& line, const presentation::Words& words) {
-  return windows::ToQt(presentation::InWords(line, words)).simplified();
+  return shell::ToQt(presentation::InWords(line, words)).simplified();
 }
 
 /// The two families of spreadsheets each have attributes of their own for what a cell is.

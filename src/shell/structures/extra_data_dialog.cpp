@@ -39,7 +39,7 @@ std::array<storage::CopiedField, kFieldCount> FieldsOf(const MeasuredTest& test)
 
 }  // namespace
 
-ExtraDataDialog::ExtraDataDialog(const windows::WindowTools& tools, const MeasuredTest& test, QWidget* parent)
+ExtraDataDialog::ExtraDataDialog(const shell::WindowTools& tools, const MeasuredTest& test, QWidget* parent)
     : QDialog(parent) {
   setObjectName(QStringLiteral("Form10"));
   setWindowTitle(tools.Text(kCaptionRow) + QStringLiteral(" - VELMARpro"));
@@ -51,7 +51,7 @@ ExtraDataDialog::ExtraDataDialog(const windows::WindowTools& tools, const Measur
     const MessageRow caption{kFirstFieldRow + static_cast<int>(i)};
     auto* label = new QLabel(tools.Text(caption), this);
     label->setObjectName(QStringLiteral("Label1_%1").arg(i));
-    auto* box = new QLineEdit(windows::ToQt(presentation::InWords(fields[i].text, tools.words)), this);
+    auto* box = new QLineEdit(shell::ToQt(presentation::InWords(fields[i].text, tools.words)), this);
     box->setObjectName(QStringLiteral("Text1_%1").arg(i));
     box->setAccessibleName(label->text());
     box->setReadOnly(true);

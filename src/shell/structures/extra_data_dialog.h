@@ -2,15 +2,15 @@
 
 #include <QDialog>
 
+#include "shell/fields/window_tools.h"
 #include "shell/structures/structure_sources.h"
-#include "shell/windows/window_tools.h"
 
 namespace velmar::structures {
 
 /// "Informazioni aggiuntive" (`Form10`): the further data of a measured test, to read and to copy.
 class ExtraDataDialog : public QDialog {
  public:
-  ExtraDataDialog(const windows::WindowTools& tools, const MeasuredTest& test, QWidget* parent = nullptr);
+  ExtraDataDialog(const shell::WindowTools& tools, const MeasuredTest& test, QWidget* parent = nullptr);
 };
 
 }  // namespace velmar::structures

@@ -11,16 +11,16 @@ constexpr int kPathRole = Qt::UserRole + 2;
 
 void AddFiles(QTreeWidgetItem& node, Branch branch, const LibrarySource& source) {
   for (const LibraryFile& file : source.files(branch)) {
-    auto* item = new QTreeWidgetItem(&node, {windows::ToQt(file.name)});
-    item->setToolTip(0, windows::ToQt(file.path.empty() ? file.name : file.path.string()));
+    auto* item = new QTreeWidgetItem(&node, {shell::ToQt(file.name)});
+    item->setToolTip(0, shell::ToQt(file.path.empty() ? file.name : file.path.string()));
     item->setData(0, kBranchRole, static_cast<int>(file.branch));
-    item->setData(0, kFileRole, windows::ToQt(file.name));
-    item->setData(0, kPathRole, windows::ToQt(file.path.string()));
+    item->setData(0, kFileRole, shell::ToQt(file.name));
+    item->setData(0, kPathRole, shell::ToQt(file.path.string()));
   }
 }
 
 void AddNode(QTreeWidgetItem& parent, const TreeNode& node, const LibrarySource& source,
-             const windows::WindowTools& tools) {
+             const shell::WindowTools& tools) {
   auto* item = new QTreeWidgetItem({node.caption});
   parent.addChild(item);
   for (const TreeNode& child : node.children) AddNode(*item, child, source, tools);
@@ -30,7 +30,7 @@ void AddNode(QTreeWidgetItem& parent, const TreeNode& node, const LibrarySource&
 }  // namespace
 
 void FillTree(QTreeWidget& tree, const std::vector<TreeNode>& nodes, const LibrarySource& source,
-              const windows::WindowTools& tools) {
+              const shell::WindowTools& tools) {
   tree.clear();
   for (const TreeNode& node : nodes) AddNode(*tree.invisibleRootItem(), node, source, tools);
   tree.expandAll();
@@ -39,8 +39,8 @@ void FillTree(QTreeWidget& tree, const std::vector<TreeNode>& nodes, const Libra
 std::optional<LibraryFile> FileOf(const QTreeWidgetItem* item) {
   if (item == nullptr || !item->data(0, kFileRole).isValid()) return std::nullopt;
   return LibraryFile{static_cast<Branch>(item->data(0, kBranchRole).toInt()),
-                     windows::FromQt(item->data(0, kFileRole).toString()),
-                     windows::FromQt(item->data(0, kPathRole).toString())};
+                     shell::FromQt(item->data(0, kFileRole).toString()),
+                     shell::FromQt(item->data(0, kPathRole).toString())};
 }
 
 }  // namespace velmar::structures

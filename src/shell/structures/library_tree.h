@@ -4,8 +4,8 @@
 #include <optional>
 #include <vector>
 
+#include "shell/fields/window_tools.h"
 #include "shell/structures/structure_sources.h"
-#include "shell/windows/window_tools.h"
 
 class QTreeWidget;
 class QTreeWidgetItem;
@@ -22,7 +22,7 @@ struct TreeNode {
 /// Fills `tree` with `nodes` and the files that `source` names for them, all unfolded. A branch without files
 /// is a node without children; one that cannot be read is told of and left without.
 void FillTree(QTreeWidget& tree, const std::vector<TreeNode>& nodes, const LibrarySource& source,
-              const windows::WindowTools& tools);
+              const shell::WindowTools& tools);
 
 /// The file that `item` stands for; nothing for a node that only holds others.
 std::optional<LibraryFile> FileOf(const QTreeWidgetItem* item);

@@ -6,12 +6,12 @@
 #include <QSplitter>
 #include <QVBoxLayout>
 
+#include "shell/fields/button_row.h"
 #include "shell/structures/extra_data_dialog.h"
 #include "shell/structures/mnemonics.h"
 #include "shell/structures/structure_rows.h"
 #include "shell/structures/test_chooser.h"
 #include "shell/structures/test_details.h"
-#include "shell/windows/button_row.h"
 
 namespace velmar::structures {
 namespace {
@@ -27,13 +27,13 @@ constexpr MessageRow kConfirmTipRow{1708};
 constexpr MessageRow kExtraDataRow{1709};
 constexpr const char* kMemoryName = "database-sperimentale";
 
-windows::RememberedSizes SizesOf(QWidget* window, const TestChooser& chooser) {
+shell::RememberedSizes SizesOf(QWidget* window, const TestChooser& chooser) {
   return {QLatin1String(kMemoryName), window, nullptr, chooser.Splitter()};
 }
 
 }  // namespace
 
-MeasuredLibraryWindow::MeasuredLibraryWindow(windows::WindowTools tools, LibrarySource source,
+MeasuredLibraryWindow::MeasuredLibraryWindow(shell::WindowTools tools, LibrarySource source,
                                              MeasuredTarget target, QWidget* parent)
     : QDialog(parent), tools_(std::move(tools)), target_(std::move(target)) {
   setObjectName(QStringLiteral("Form9"));
@@ -60,14 +60,12 @@ MeasuredLibraryWindow::MeasuredLibraryWindow(windows::WindowTools tools, Library
   const int character = metrics.averageCharWidth();
   resize(character * 190, metrics.height() * 40);
   chooser_->Splitter()->setSizes({character * 44, character * 44, character * 102});
-  windows::RestoreSizes(tools_.memory, SizesOf(this, *chooser_));
+  shell::RestoreSizes(tools_.memory, SizesOf(this, *chooser_));
   SetMnemonics(*this);
   connect(new QShortcut(QKeySequence::Refresh, this), &QShortcut::activated, chooser_, &TestChooser::Refresh);
 }
 
-MeasuredLibraryWindow::~MeasuredLibraryWindow() {
-  windows::SaveSizes(tools_.memory, SizesOf(this, *chooser_));
-}
+MeasuredLibraryWindow::~MeasuredLibraryWindow() { shell::SaveSizes(tools_.memory, SizesOf(this, *chooser_)); }
 
 QString MeasuredLibraryWindow::Caption() const {
   QString caption = tools_.Text(kCaptionRow);
@@ -85,7 +83,7 @@ QString MeasuredLibraryWindow::Caption() const {
 }
 
 QWidget* MeasuredLibraryWindow::MakeButtons() {
-  auto* bar = new windows::ButtonRow(this);
+  auto* bar = new shell::ButtonRow(this);
   extra_ = bar->Add("Command2", tools_.Text(kExtraDataRow), [this] { ShowExtraData(); });
   extra_->setEnabled(false);
   bar->AddStretch();

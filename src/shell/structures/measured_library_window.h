@@ -3,9 +3,9 @@
 #include <QDialog>
 #include <functional>
 
+#include "shell/fields/window_tools.h"
 #include "shell/structures/structure_sources.h"
 #include "shell/structures/tree_nodes.h"
-#include "shell/windows/window_tools.h"
 
 class QPushButton;
 
@@ -25,7 +25,7 @@ struct MeasuredTarget {
 /// "Database sperimentale" (`Form9`): browses the measured structures and hands one over.
 class MeasuredLibraryWindow : public QDialog {
  public:
-  MeasuredLibraryWindow(windows::WindowTools tools, LibrarySource source, MeasuredTarget target,
+  MeasuredLibraryWindow(shell::WindowTools tools, LibrarySource source, MeasuredTarget target,
                         QWidget* parent = nullptr);
   ~MeasuredLibraryWindow() override;
 
@@ -35,7 +35,7 @@ class MeasuredLibraryWindow : public QDialog {
   void Take();
   void ShowExtraData();
 
-  windows::WindowTools tools_;
+  shell::WindowTools tools_;
   MeasuredTarget target_;
   TestChooser* chooser_ = nullptr;
   TestDetails* details_ = nullptr;

@@ -14,10 +14,10 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "shell/fields/button_row.h"
 #include "shell/structures/copied_table.h"
 #include "shell/structures/mnemonics.h"
 #include "shell/structures/structure_rows.h"
-#include "shell/windows/button_row.h"
 
 namespace velmar::structures {
 namespace {
@@ -28,13 +28,13 @@ constexpr MessageRow kCopyRow{376};
 constexpr const char* kMemoryName = "database-risultati";
 constexpr int kNameColumnCharacters = 34;
 
-windows::RememberedSizes SizesOf(QWidget* window, QTableView* grid) {
+shell::RememberedSizes SizesOf(QWidget* window, QTableView* grid) {
   return {QLatin1String(kMemoryName), window, grid->horizontalHeader(), nullptr};
 }
 
 }  // namespace
 
-SavedResultsWindow::SavedResultsWindow(windows::WindowTools tools, ResultSource source, Listener listener,
+SavedResultsWindow::SavedResultsWindow(shell::WindowTools tools, ResultSource source, Listener listener,
                                        QWidget* parent)
     : QDialog(parent),
       tools_(std::move(tools)),
@@ -50,7 +50,7 @@ SavedResultsWindow::SavedResultsWindow(windows::WindowTools tools, ResultSource 
   column->addWidget(MakeDetails());
   column->addWidget(MakeButtons());
   const QFontMetrics metrics = fontMetrics();
-  if (!windows::RestoreSizes(tools_.memory, SizesOf(this, grid_)))
+  if (!shell::RestoreSizes(tools_.memory, SizesOf(this, grid_)))
     resize(metrics.averageCharWidth() * 130, metrics.height() * 34);
   AddKeys();
   SetMnemonics(*this);
@@ -58,7 +58,7 @@ SavedResultsWindow::SavedResultsWindow(windows::WindowTools tools, ResultSource 
   search_->setFocus();
 }
 
-SavedResultsWindow::~SavedResultsWindow() { windows::SaveSizes(tools_.memory, SizesOf(this, grid_)); }
+SavedResultsWindow::~SavedResultsWindow() { shell::SaveSizes(tools_.memory, SizesOf(this, grid_)); }
 
 QWidget* SavedResultsWindow::MakeKinds() {
   auto* bar = new QWidget(this);
@@ -130,7 +130,7 @@ QWidget* SavedResultsWindow::MakeDetails() {
 }
 
 QWidget* SavedResultsWindow::MakeButtons() {
-  auto* bar = new windows::ButtonRow(this);
+  auto* bar = new shell::ButtonRow(this);
   const auto add = [&](const char* name, MessageRow text, std::function<void()> action) {
     return bar->Add(name, tools_.Text(text), std::move(action));
   };
@@ -161,7 +161,7 @@ ResultKind SavedResultsWindow::Kind() const {
 
 std::string SavedResultsWindow::SelectedName() const {
   const QModelIndex current = grid_->currentIndex();
-  return current.isValid() ? windows::FromQt(current.siblingAtColumn(0).data().toString()) : std::string();
+  return current.isValid() ? shell::FromQt(current.siblingAtColumn(0).data().toString()) : std::string();
 }
 
 void SavedResultsWindow::SelectRow(int row) {
@@ -171,11 +171,11 @@ void SavedResultsWindow::SelectRow(int row) {
 }
 
 void SavedResultsWindow::Refresh() {
-  const QString before = windows::ToQt(SelectedName());
+  const QString before = shell::ToQt(SelectedName());
   std::vector<QStringList> rows;
   tools_.Try([&] {
     for (const ResultEntry& entry : source_.list(Kind()))
-      rows.push_back({windows::ToQt(entry.name), windows::ToQt(entry.description)});
+      rows.push_back({shell::ToQt(entry.name), shell::ToQt(entry.description)});
   });
   model_.Fill(std::move(rows));
   const QModelIndexList again =
@@ -208,7 +208,7 @@ void SavedResultsWindow::Delete() {
   const std::string name = SelectedName();
   if (name.empty()) return;
   const QString question =
-      tools_.Text(kDeleteQuestionRow) + QLatin1Char(' ') + windows::ToQt(name) + QLatin1Char('?');
+      tools_.Text(kDeleteQuestionRow) + QLatin1Char(' ') + shell::ToQt(name) + QLatin1Char('?');
   if (!tools_.ask(question)) return;
   const int row = grid_->currentIndex().row();
   bool removed = false;

@@ -4,9 +4,9 @@
 #include <functional>
 #include <optional>
 
+#include "shell/fields/window_tools.h"
 #include "shell/structures/entry_model.h"
 #include "shell/structures/structure_sources.h"
-#include "shell/windows/window_tools.h"
 
 class QLineEdit;
 class QPlainTextEdit;
@@ -28,7 +28,7 @@ class SavedResultsWindow : public QDialog {
     std::function<void(ResultKind, const std::string& name)> removed{};
   };
 
-  SavedResultsWindow(windows::WindowTools tools, ResultSource source, Listener listener,
+  SavedResultsWindow(shell::WindowTools tools, ResultSource source, Listener listener,
                      QWidget* parent = nullptr);
   ~SavedResultsWindow() override;
 
@@ -49,7 +49,7 @@ class SavedResultsWindow : public QDialog {
   void Delete();
   void Take();
 
-  windows::WindowTools tools_;
+  shell::WindowTools tools_;
   ResultSource source_;
   Listener listener_;
   EntryModel model_;

@@ -36,7 +36,7 @@ constexpr int kListCharacters = 44;
 
 }  // namespace
 
-TestChooser::TestChooser(const windows::WindowTools& tools, LibrarySource source, const Controls& controls,
+TestChooser::TestChooser(const shell::WindowTools& tools, LibrarySource source, const Controls& controls,
                          Listener listener, QWidget* parent)
     : QWidget(parent),
       tools_(tools),
@@ -122,7 +122,7 @@ void TestChooser::FillTree() { structures::FillTree(*tree_, nodes_, source_, too
 void TestChooser::Refresh() {
   const std::optional<LibraryFile> before = std::exchange(file_, std::nullopt);
   const QString keyword = keywords_->currentIndex() > 0 ? keywords_->currentText() : QString();
-  const QString name = chosen_ ? windows::ToQt(chosen_->part.name) : QString();
+  const QString name = chosen_ ? shell::ToQt(chosen_->part.name) : QString();
   {
     const QSignalBlocker quiet(tree_);
     FillTree();
@@ -155,20 +155,20 @@ void TestChooser::OpenFile(const LibraryFile& file) {
     keywords_->addItem(tools_.Text(kAllRow));
     std::set<std::string> listed = {std::string()};
     for (const TestEntry& test : tests_) {
-      if (listed.insert(test.keyword).second) keywords_->addItem(windows::ToQt(test.keyword));
+      if (listed.insert(test.keyword).second) keywords_->addItem(shell::ToQt(test.keyword));
     }
   }
   FillList();
   if (listener_.file)
-    listener_.file(file, tests_.empty() ? QString() : windows::ToQt(tests_.front().description));
+    listener_.file(file, tests_.empty() ? QString() : shell::ToQt(tests_.front().description));
 }
 
 void TestChooser::FillList() {
   const bool all = keywords_->currentIndex() <= 0;
-  const std::string keyword = windows::FromQt(keywords_->currentText());
+  const std::string keyword = shell::FromQt(keywords_->currentText());
   std::vector<QStringList> rows;
   for (const TestEntry& test : tests_) {
-    if (all || test.keyword == keyword) rows.push_back({windows::ToQt(test.name)});
+    if (all || test.keyword == keyword) rows.push_back({shell::ToQt(test.name)});
   }
   Clear();
   model_.Fill(std::move(rows));
@@ -183,7 +183,7 @@ void TestChooser::Clear() {
 
 void TestChooser::Choose(const QString& name) {
   std::optional<MeasuredTest> found;
-  if (file_ && !name.isEmpty()) tools_.Try([&] { found = source_.test(*file_, windows::FromQt(name)); });
+  if (file_ && !name.isEmpty()) tools_.Try([&] { found = source_.test(*file_, shell::FromQt(name)); });
   if (!found && !chosen_) return;
   chosen_ = std::move(found);
   if (listener_.test) listener_.test(chosen_);

@@ -4,10 +4,10 @@
 #include <functional>
 #include <optional>
 
+#include "shell/fields/window_tools.h"
 #include "shell/structures/entry_model.h"
 #include "shell/structures/library_tree.h"
 #include "shell/structures/structure_sources.h"
-#include "shell/windows/window_tools.h"
 
 class QComboBox;
 class QLineEdit;
@@ -34,7 +34,7 @@ class TestChooser : public QWidget {
     std::function<void(const std::optional<MeasuredTest>&)> test{};
   };
 
-  TestChooser(const windows::WindowTools& tools, LibrarySource source, const Controls& controls,
+  TestChooser(const shell::WindowTools& tools, LibrarySource source, const Controls& controls,
               Listener listener, QWidget* parent = nullptr);
 
   const std::optional<MeasuredTest>& Chosen() const { return chosen_; }
@@ -52,7 +52,7 @@ class TestChooser : public QWidget {
   void FillList();
   void Choose(const QString& name);
 
-  windows::WindowTools tools_;
+  shell::WindowTools tools_;
   LibrarySource source_;
   Listener listener_;
   EntryModel model_;

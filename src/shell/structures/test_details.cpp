@@ -22,7 +22,7 @@ constexpr std::array<const char*, 5> kCertificateNames = {"TextCertificato", "Te
 constexpr std::size_t kBandsInARow = 7;
 constexpr double kRatingScale = 1.4;
 
-QString Decibels(const std::optional<double>& value) { return windows::ToQt(calculation::BoxText(value)); }
+QString Decibels(const std::optional<double>& value) { return shell::ToQt(calculation::BoxText(value)); }
 
 QString Symbol(std::string_view symbol) {
   return QString::fromUtf8(symbol.data(), static_cast<qsizetype>(symbol.size()));
@@ -49,8 +49,7 @@ QString RatingLabel(const BranchSymbols& symbols, const calculation::FacadePart&
       .arg(Symbol(symbols.rating), names, Decibels(part.rating_db), values);
 }
 
-TestDetails::TestDetails(const windows::WindowTools& tools, QWidget* parent)
-    : QWidget(parent), tools_(tools) {
+TestDetails::TestDetails(const shell::WindowTools& tools, QWidget* parent) : QWidget(parent), tools_(tools) {
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(0, 0, 0, 0);
   rating_ = new QLabel(this);
@@ -68,7 +67,7 @@ TestDetails::TestDetails(const windows::WindowTools& tools, QWidget* parent)
   description_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   description_->setFixedHeight(fontMetrics().height() * 4);
   curve_ = new MeasuredCurveView(tools_, this);
-  picture_ = new windows::PictureView(tools_, this);
+  picture_ = new shell::PictureView(tools_, this);
   auto* pictures = new QHBoxLayout;
   pictures->addWidget(curve_, 3);
   pictures->addWidget(picture_, 1);
@@ -184,7 +183,7 @@ void TestDetails::Show(const std::optional<MeasuredTest>& test) {
   const calculation::FacadePart& part = shown.part;
   const bool small = part.quantity == calculation::PartQuantity::kElementDifference;
   rating_->setText(test ? RatingLabel(symbols_, part) : QString());
-  description_->setPlainText(windows::ToQt(part.description));
+  description_->setPlainText(shell::ToQt(part.description));
   const QString area = small ? QStringLiteral("0") : Decibels(part.area_m2);
   const QString mass = part.mass_kg_m2 ? Decibels(part.mass_kg_m2) : QStringLiteral("-");
   const std::array<QString, 5> values = {Decibels(part.rating_db), Decibels(part.c_db), Decibels(part.ctr_db),
@@ -193,12 +192,12 @@ void TestDetails::Show(const std::optional<MeasuredTest>& test) {
   for (std::size_t i = 0; i < bands_.size(); ++i) {
     const std::optional<double>& value = part.bands_db[i];
     const bool measured = value && *value != calculation::kNotMeasuredDb;
-    bands_[i]->setText(measured ? windows::ToQt(FormatFixed(*value, 1)) : QString());
+    bands_[i]->setText(measured ? shell::ToQt(FormatFixed(*value, 1)) : QString());
   }
   const std::array<std::string, 5> certificate = {shown.certificate, shown.date, shown.laboratory,
                                                   shown.client, shown.notes};
   for (std::size_t i = 0; i < certificate_.size(); ++i)
-    ShowFromStart(*certificate_[i], windows::ToQt(certificate[i]));
+    ShowFromStart(*certificate_[i], shell::ToQt(certificate[i]));
   curve_->Show(test, symbols_);
   picture_->Show(shown.picture);
 }

@@ -5,9 +5,9 @@
 #include <optional>
 
 #include "presentation/drawing/curve_chart.h"
+#include "shell/fields/picture_view.h"
+#include "shell/fields/window_tools.h"
 #include "shell/structures/structure_sources.h"
-#include "shell/windows/picture_view.h"
-#include "shell/windows/window_tools.h"
 
 class QLabel;
 class QLineEdit;
@@ -18,7 +18,7 @@ namespace velmar::structures {
 /// The curve of a measured test (`Picture1`), its scale taken from the values.
 class MeasuredCurveView : public QWidget {
  public:
-  explicit MeasuredCurveView(const windows::WindowTools& tools, QWidget* parent = nullptr);
+  explicit MeasuredCurveView(const shell::WindowTools& tools, QWidget* parent = nullptr);
 
   /// @param symbols of the test's branch
   void Show(const std::optional<MeasuredTest>& test, const BranchSymbols& symbols);
@@ -38,7 +38,7 @@ class MeasuredCurveView : public QWidget {
 /// Everything that is known of a test, to read: rating, values, curve, picture, certificate.
 class TestDetails : public QWidget {
  public:
-  explicit TestDetails(const windows::WindowTools& tools, QWidget* parent = nullptr);
+  explicit TestDetails(const shell::WindowTools& tools, QWidget* parent = nullptr);
 
   void Show(const std::optional<MeasuredTest>& test);
   void ShowDescription(const QString& description);
@@ -51,7 +51,7 @@ class TestDetails : public QWidget {
   QWidget* MakeCertificate();
   QLineEdit* Box(const QString& name, const QString& accessible_name);
 
-  windows::WindowTools tools_;
+  shell::WindowTools tools_;
   BranchSymbols symbols_{};
   QLabel* rating_ = nullptr;               ///< `Label3`
   QPlainTextEdit* description_ = nullptr;  ///< `Text2`
@@ -61,7 +61,7 @@ class TestDetails : public QWidget {
   std::array<QLineEdit*, acoustics::kBandCount> bands_{};  ///< `Text1`
   std::array<QLineEdit*, 5> certificate_{};
   MeasuredCurveView* curve_ = nullptr;
-  windows::PictureView* picture_ = nullptr;
+  shell::PictureView* picture_ = nullptr;
 };
 
 /// "Rw(C,Ctr)= 50(-1, -5) dB", "Dnew(C,Ctr)= ...", "Lnw(Ci)= 59(1) dB"; a missing value is left out.

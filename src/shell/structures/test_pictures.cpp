@@ -11,7 +11,7 @@ constexpr MessageRow kNoBandsRow{1719};
 
 }  // namespace
 
-MeasuredCurveView::MeasuredCurveView(const windows::WindowTools& tools, QWidget* parent)
+MeasuredCurveView::MeasuredCurveView(const shell::WindowTools& tools, QWidget* parent)
     : QWidget(parent),
       empty_(presentation::EmptyChart(tools.words)),
       chart_(empty_),

@@ -58,14 +58,14 @@ bool IsLining(elements::Family family) {
 
 }  // namespace
 
-std::vector<TreeNode> LibraryNodes(LibraryPurpose purpose, const windows::WindowTools& tools) {
+std::vector<TreeNode> LibraryNodes(LibraryPurpose purpose, const shell::WindowTools& tools) {
   TreeNode root{tools.Text(kCustomRow), {}, {}};
   for (const NodeRow& row : RowsFor(purpose))
     root.children.push_back({tools.Text(row.caption), {row.branch}, {}});
   return {root};
 }
 
-std::vector<TreeNode> LaboratoryNodes(elements::Family family, const windows::WindowTools& tools) {
+std::vector<TreeNode> LaboratoryNodes(elements::Family family, const shell::WindowTools& tools) {
   TreeNode theoretical{tools.Text(kTheoreticalRow), {Branch::kCalculatedWalls}, {}};
   TreeNode custom{tools.Text(kCustomRow), {}, {}};
   if (family == elements::Family::kImpact) {
@@ -85,7 +85,7 @@ std::vector<TreeNode> LaboratoryNodes(elements::Family family, const windows::Wi
   return {theoretical, custom};
 }
 
-std::vector<TreeNode> InSituNodes(elements::Family family, const windows::WindowTools& tools) {
+std::vector<TreeNode> InSituNodes(elements::Family family, const shell::WindowTools& tools) {
   if (family == elements::Family::kImpact) {
     return {{tools.Text(kFieldFloorsRow), {Branch::kFieldFloors}, {}}};
   }

@@ -16,11 +16,11 @@ enum class LibraryPurpose {
 };
 
 /// The nodes of the library window.
-std::vector<TreeNode> LibraryNodes(LibraryPurpose purpose, const windows::WindowTools& tools);
+std::vector<TreeNode> LibraryNodes(LibraryPurpose purpose, const shell::WindowTools& tools);
 
 /// The databases that the laboratory side of the comparison offers for `family`.
-std::vector<TreeNode> LaboratoryNodes(elements::Family family, const windows::WindowTools& tools);
+std::vector<TreeNode> LaboratoryNodes(elements::Family family, const shell::WindowTools& tools);
 /// The databases that its in-situ side offers for `family`.
-std::vector<TreeNode> InSituNodes(elements::Family family, const windows::WindowTools& tools);
+std::vector<TreeNode> InSituNodes(elements::Family family, const shell::WindowTools& tools);
 
 }  // namespace velmar::structures

@@ -12,7 +12,7 @@
 #include "storage/database/file_kind.h"
 #include "storage/database/set_aside.h"
 #include "storage/files/unfinished.h"
-#include "storage/schema.h"
+#include "storage/tables/schema.h"
 
 namespace velmar::storage {
 namespace {

@@ -6,8 +6,8 @@
 #include <string_view>
 #include <vector>
 
-#include "storage/cell.h"
-#include "storage/schema.h"
+#include "storage/tables/cell.h"
+#include "storage/tables/schema.h"
 
 namespace SQLite {
 class Database;

@@ -8,7 +8,7 @@
 
 #include "storage/access/access_session.h"
 #include "storage/library/measured_test.h"
-#include "storage/schema.h"
+#include "storage/tables/schema.h"
 
 namespace velmar::storage {
 

@@ -6,8 +6,8 @@
 #include "elements/layer_groups.h"
 #include "elements/material_record.h"
 #include "elements/materials.h"
-#include "storage/cell.h"
-#include "storage/schema.h"
+#include "storage/tables/cell.h"
+#include "storage/tables/schema.h"
 
 namespace velmar::storage {
 
@@ -26,6 +26,12 @@ struct MaterialRow {
 using StructuralRow = MaterialRow<elements::StructuralMaterial>;
 using FibrousRow = MaterialRow<elements::FibrousMaterial>;
 using ResilientRow = MaterialRow<elements::ResilientMaterial>;
+
+/// What a list of materials needs of a row.
+struct ListedMaterial {
+  std::string name{};
+  std::string keyword{};  ///< empty when the row has none
+};
 
 /// The table of a kind of material.
 template <typename Material>

@@ -9,7 +9,6 @@
 #include "elements/layer_groups.h"
 #include "elements/material_record.h"
 #include "foundation/message.h"
-#include "storage/materials/keywords.h"
 #include "storage/materials/material_row.h"
 
 namespace velmar::storage {

@@ -13,7 +13,7 @@
 #include "storage/database/database_failure.h"
 #include "storage/database/file_kind.h"
 #include "storage/database/table_rows.h"
-#include "storage/schema.h"
+#include "storage/tables/schema.h"
 
 namespace velmar::storage {
 namespace {

@@ -7,8 +7,8 @@
 #include <vector>
 
 #include "acoustics/bands.h"
-#include "storage/cell.h"
-#include "storage/schema.h"
+#include "storage/tables/cell.h"
+#include "storage/tables/schema.h"
 
 namespace velmar::storage {
 

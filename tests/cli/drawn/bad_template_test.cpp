@@ -4,8 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include "cli/commands/project_run.h"
 #include "cli/drawn/drawn_formats.h"
-#include "cli/project_run.h"
 #include "foundation/failure.h"
 #include "presentation/reports/package.h"
 #include "storage/materials/material_store.h"

@@ -10,7 +10,7 @@
 #include <gtest/gtest.h>
 #include <pugixml.hpp>
 
-#include "cli/project_run.h"
+#include "cli/commands/project_run.h"
 #include "foundation/failure.h"
 #include "presentation/reports/package.h"
 #include "presentation/texts/results_table.h"

@@ -12,8 +12,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "cli/commands/project_run.h"
 #include "cli/drawn/drawn_formats.h"
-#include "cli/project_run.h"
 #include "elements/catalogue.h"
 #include "foundation/decimal.h"
 #include "presentation/texts/results_table.h"

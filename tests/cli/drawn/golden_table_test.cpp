@@ -7,7 +7,7 @@
 
 #include <gtest/gtest.h>
 
-#include "cli/project_run.h"
+#include "cli/commands/project_run.h"
 #include "presentation/texts/results_csv.h"
 #include "presentation/texts/results_table.h"
 #include "storage/materials/material_store.h"

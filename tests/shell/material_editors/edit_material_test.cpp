@@ -10,7 +10,7 @@
 #include <filesystem>
 #include <functional>
 
-#include "shell/windows/picture_view.h"
+#include "shell/fields/picture_view.h"
 #include "tests/shell/material_editors/editor_fixture.h"
 
 namespace velmar::material_editors {
@@ -22,8 +22,8 @@ using elements::StructuralMaterial;
 class EditMaterialTest : public EditorFixture {
  protected:
   /// Opens the editor and lets `work` use it.
-  std::optional<windows::MaterialChange> Edit(MaterialFamily family, const std::string& name,
-                                              const std::function<void(QWidget&)>& work = {}) {
+  std::optional<shell::MaterialChange> Edit(MaterialFamily family, const std::string& name,
+                                            const std::function<void(QWidget&)>& work = {}) {
     opened_ = false;
     QTimer::singleShot(0, [this, work] {
       QWidget* window = QApplication::activeModalWidget();
@@ -89,7 +89,7 @@ TEST_F(EditMaterialTest, ThePictureIsTakenFromTheFolderOfItsFamily) {
   rubber.picture = "gomma.png";
   store_.Add<elements::ResilientMaterial>({rubber});
   const auto has_picture = [](QWidget& window) {
-    const auto* view = dynamic_cast<windows::PictureView*>(&Child<QWidget>(window, "Picture1"));
+    const auto* view = dynamic_cast<shell::PictureView*>(&Child<QWidget>(window, "Picture1"));
     return view != nullptr && view->HasPicture();
   };
   Edit(MaterialFamily::kFibrous, "Lana", [&](QWidget& window) { EXPECT_TRUE(has_picture(window)); });

@@ -18,8 +18,8 @@ EditorFixture::EditorFixture() : store_(folder_ / "Databases/Database/Database.m
   storage::MakeTables(store_.File(), storage::MaterialTables());
 }
 
-windows::WindowTools EditorFixture::Tools() {
-  windows::WindowTools tools;
+shell::WindowTools EditorFixture::Tools() {
+  shell::WindowTools tools;
   tools.words = presentation::CatalogueWords();
   tools.ask = [this](const QString& question) {
     questions_ << question;

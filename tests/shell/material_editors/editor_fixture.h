@@ -10,7 +10,7 @@
 
 #include <gtest/gtest.h>
 
-#include "shell/windows/window_tools.h"
+#include "shell/fields/window_tools.h"
 #include "storage/materials/material_store.h"
 #include "tests/storage/support/temporary_folder.h"
 
@@ -29,7 +29,7 @@ class EditorFixture : public testing::Test {
  protected:
   EditorFixture();
 
-  windows::WindowTools Tools();
+  shell::WindowTools Tools();
 
   /// Shows `window` as the active one.
   static void Show(QWidget& window);
@@ -46,7 +46,7 @@ class EditorFixture : public testing::Test {
 
   storage::TemporaryFolder folder_;
   storage::MaterialStore store_;
-  storage::KeywordTexts texts_{"tutti", "non specificata"};
+  materials::KeywordTexts texts_{"tutti", "non specificata"};
   std::unique_ptr<QSettings> memory_{};
   bool answer_ = true;
   QStringList questions_{};

@@ -33,7 +33,7 @@ int main(int argc, char** argv) {
   const QStringList arguments = QApplication::arguments();
   if (arguments.size() < 5) return 2;
   if (arguments.at(2) == "dark") QApplication::setPalette(DarkPalette());
-  velmar::windows::WindowTools tools;
+  velmar::shell::WindowTools tools;
   tools.words = velmar::presentation::CatalogueWords();
   tools.ask = [](const QString&) { return true; };
   tools.tell = [](const QString& text) { qWarning("%s", qPrintable(text)); };

@@ -10,7 +10,7 @@
 
 #include <gmock/gmock.h>
 
-#include "shell/windows/picture_view.h"
+#include "shell/fields/picture_view.h"
 #include "tests/shell/material_editors/editor_fixture.h"
 
 namespace velmar::material_editors {
@@ -198,7 +198,7 @@ TEST_F(ResilientEditorTest, ABrokenOrMissingPictureIsNoReasonForABox) {
       {"vera.png", true}, {"rotta.jpg", false}, {"manca.jpg", false}};
   for (const auto& [file, shown] : pictures) {
     Open("", folder_ / file);
-    const auto* view = dynamic_cast<windows::PictureView*>(&Child<QWidget>(*window_, "Picture1"));
+    const auto* view = dynamic_cast<shell::PictureView*>(&Child<QWidget>(*window_, "Picture1"));
     ASSERT_NE(view, nullptr);
     EXPECT_EQ(view->HasPicture(), shown) << file;
   }

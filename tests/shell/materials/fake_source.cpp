@@ -6,7 +6,7 @@
 
 #include "tests/presentation/drawing/catalogue_words.h"
 
-namespace velmar::materials {
+namespace velmar::shell {
 namespace {
 
 using elements::MaterialFamily;
@@ -107,4 +107,4 @@ void Picture(QWidget& window, const QString& name) {
   if (!folder.isEmpty()) window.grab().save(QDir(folder).filePath(name + QStringLiteral(".png")));
 }
 
-}  // namespace velmar::materials
+}  // namespace velmar::shell

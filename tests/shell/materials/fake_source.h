@@ -9,14 +9,12 @@
 #include <string>
 #include <vector>
 
+#include "shell/fields/window_tools.h"
 #include "shell/materials/material_source.h"
-#include "shell/windows/window_tools.h"
 #include "storage/materials/material_row.h"
-#include "tests/shell/windows/fake_boxes.h"
+#include "tests/shell/fields/fake_boxes.h"
 
-namespace velmar::materials {
-
-using windows::FakeBoxes;
+namespace velmar::shell {
 
 /// Material tables in memory.
 class FakeMaterials {
@@ -31,7 +29,7 @@ class FakeMaterials {
   std::vector<storage::ResilientRow> resilient{};
   bool locked = false;
   /// What an editor stores next, and the names it was opened with.
-  std::optional<windows::MaterialChange> edited{};
+  std::optional<MaterialChange> edited{};
   std::vector<std::string> opened{};
 };
 
@@ -48,4 +46,4 @@ Widget& Child(const QWidget& window, const char* name) {
 /// Saves what `window` looks like into the folder VELMAR_PICTURES, when that is set.
 void Picture(QWidget& window, const QString& name);
 
-}  // namespace velmar::materials
+}  // namespace velmar::shell

@@ -15,11 +15,10 @@
 
 #include "tests/shell/materials/fake_source.h"
 
-namespace velmar::materials {
+namespace velmar::shell {
 namespace {
 
 using elements::MaterialFamily;
-using windows::MaterialChange;
 
 class MaterialListWindowTest : public testing::Test {
  protected:
@@ -312,7 +311,7 @@ TEST_F(MaterialListWindowTest, TenThousandMaterials) {
   OpenFromMenu();
   window_->grab();
   std::printf("10000 materials: opening %lld ms", static_cast<long long>(timer.restart()));
-  const qint64 slowest = windows::SlowestKey(*window_, Search(), "numero 49");
+  const qint64 slowest = SlowestKey(*window_, Search(), "numero 49");
   EXPECT_EQ(Rows(), 299);
   Search().clear();
   timer.restart();
@@ -325,4 +324,4 @@ TEST_F(MaterialListWindowTest, TenThousandMaterials) {
 }
 
 }  // namespace
-}  // namespace velmar::materials
+}  // namespace velmar::shell

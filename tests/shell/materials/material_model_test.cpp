@@ -4,7 +4,7 @@
 
 #include "tests/shell/materials/fake_source.h"
 
-namespace velmar::materials {
+namespace velmar::shell {
 namespace {
 
 using elements::MaterialFamily;
@@ -103,4 +103,4 @@ TEST_F(MaterialModelTest, AbsorptionStandsBandByBand) {
 }
 
 }  // namespace
-}  // namespace velmar::materials
+}  // namespace velmar::shell

@@ -16,7 +16,7 @@
 
 #include "tests/shell/materials/fake_source.h"
 
-namespace velmar::materials {
+namespace velmar::shell {
 namespace {
 
 using elements::MaterialFamily;
@@ -25,7 +25,7 @@ class MaterialTreeWindowTest : public testing::Test {
  protected:
   void Open() {
     window_ = std::make_unique<MaterialTreeWindow>(boxes_.Tools(), materials_.Source(),
-                                                   [this](const windows::DraggedMaterial& material) {
+                                                   [this](const DraggedMaterial& material) {
                                                      put_ << material.name;
                                                      return there_is_a_place_;
                                                    });
@@ -154,7 +154,7 @@ TEST_F(MaterialTreeWindowTest, ADragCarriesFamilyAndName) {
   EXPECT_TRUE(wool.flags() & Qt::ItemIsDragEnabled);
   EXPECT_FALSE(Root(1).flags() & Qt::ItemIsDragEnabled);
   const std::unique_ptr<QMimeData> mime(Tree().model()->mimeData({wool}));
-  const auto material = windows::FromMime(*mime);
+  const auto material = FromMime(*mime);
   ASSERT_TRUE(material.has_value());
   EXPECT_EQ(material->family, MaterialFamily::kFibrous);
   EXPECT_EQ(material->name, "Lana di roccia");
@@ -208,10 +208,10 @@ TEST_F(MaterialTreeWindowTest, TenThousandMaterials) {
   Open();
   window_->grab();
   std::printf("10000 materials: opening %lld ms", static_cast<long long>(timer.elapsed()));
-  const qint64 slowest = windows::SlowestKey(*window_, Search(), "numero 49");
+  const qint64 slowest = SlowestKey(*window_, Search(), "numero 49");
   std::printf(", slowest key %lld ms\n", static_cast<long long>(slowest));
   EXPECT_EQ(Children(0).size(), 299);
 }
 
 }  // namespace
-}  // namespace velmar::materials
+}  // namespace velmar::shell

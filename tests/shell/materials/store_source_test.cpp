@@ -20,7 +20,7 @@
 #include "storage/materials/material_store.h"
 #include "tests/shell/materials/fake_source.h"
 
-namespace velmar::materials {
+namespace velmar::shell {
 namespace {
 
 using elements::MaterialFamily;
@@ -159,4 +159,4 @@ INSTANTIATE_TEST_SUITE_P(Database, TroubledStoreTest, testing::Range(0, 4), [](c
 });
 
 }  // namespace
-}  // namespace velmar::materials
+}  // namespace velmar::shell

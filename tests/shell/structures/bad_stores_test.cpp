@@ -15,10 +15,10 @@
 #include <SQLiteCpp/Database.h>
 #include <gmock/gmock.h>
 
+#include "shell/fields/picture_view.h"
 #include "shell/structures/comparison_window.h"
 #include "shell/structures/measured_library_window.h"
 #include "shell/structures/saved_results_window.h"
-#include "shell/windows/picture_view.h"
 #include "storage/library/library_store.h"
 #include "tests/shell/structures/stores_fixture.h"
 #include "tests/storage/support/databases.h"
@@ -206,7 +206,7 @@ TEST_F(BadLibraryTest, PicturesThatAreMissingOrNoneShowTheSubstitute) {
   QImage(40, 30, QImage::Format_RGB32).save(QString::fromStdString((pictures / "vera.png").string()));
   MeasuredLibraryWindow window(boxes_.Tools(), Library(), {});
   OpenLibraryFile(window, "TreeView1", "Immagini");
-  const auto* picture = dynamic_cast<windows::PictureView*>(&Child<QWidget>(window, "Picture2"));
+  const auto* picture = dynamic_cast<shell::PictureView*>(&Child<QWidget>(window, "Picture2"));
   ASSERT_NE(picture, nullptr);
   const std::array shown = {true, true, true, false, true};
   for (int row = 0; row < 5; ++row) {

@@ -11,16 +11,16 @@
 #include <string>
 #include <vector>
 
+#include "shell/fields/window_tools.h"
 #include "shell/structures/structure_sources.h"
-#include "shell/windows/window_tools.h"
-#include "tests/shell/windows/fake_boxes.h"
+#include "tests/shell/fields/fake_boxes.h"
 
 namespace velmar::structures {
 
 /// Says what stores say of a file that another program holds.
 Failure LockedFailure();
 
-using windows::FakeBoxes;
+using shell::FakeBoxes;
 
 /// Stored results in memory.
 class FakeResults {

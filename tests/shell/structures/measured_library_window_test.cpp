@@ -284,7 +284,7 @@ TEST_F(MeasuredLibraryWindowTest, AFileThatIsNoPictureShowsNone) {
   library_.tests["Murature"][1].picture = folder.filePath("manca.jpg").toStdString();
   library_.tests["Murature"][2].picture = folder.filePath("vera.png").toStdString();
   OpenAt(0, "Murature", 0);
-  const auto* picture = dynamic_cast<windows::PictureView*>(&Child<QWidget>(*window_, "Picture2"));
+  const auto* picture = dynamic_cast<shell::PictureView*>(&Child<QWidget>(*window_, "Picture2"));
   ASSERT_NE(picture, nullptr);
   EXPECT_FALSE(picture->HasPicture());
   SelectTest(*window_, "List1", 1);

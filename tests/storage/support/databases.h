@@ -8,7 +8,7 @@
 
 #include "storage/database/connection.h"
 #include "storage/database/table_rows.h"
-#include "storage/schema.h"
+#include "storage/tables/schema.h"
 
 namespace velmar::storage {
 

@@ -1,0 +1,57 @@
+#include "cli/commands/project_run.h"
+
+#include "application/projects.h"
+#include "calculation/open_calculation.h"
+#include "foundation/failure.h"
+
+namespace velmar::cli {
+namespace {
+
+/// "The file names a calculation that is not known:"
+constexpr MessageRow kUnknownCalculationRow{1011};
+
+/// What the user is told of a project whose calculation is not known.
+calculation::RunOutcome UnknownCalculation(const storage::StoredCalculation& stored) {
+  return {.status = calculation::RunStatus::kRefused,
+          .messages = {{{kUnknownCalculationRow, " \"" + stored.family + "\", \"" + stored.variant + "\""}}}};
+}
+
+}  // namespace
+
+ProjectRun RunProject(const std::filesystem::path& path, const elements::MaterialLookup& materials,
+                      bool go_on_outside_ranges) {
+  ProjectRun run;
+  try {
+    const storage::OpenedProject project = application::OpenProject(path, {}, materials);
+    run.texts = {project.stored.family, project.stored.variant, project.stored.orientation};
+    calculation::OpenCalculation open;
+    open.Replace(project.setup);
+    run.outcome = project.setup.calculation ? open.Run([&](const Message&) { return go_on_outside_ranges; })
+                                            : UnknownCalculation(project.stored);
+    run.setup = open.Setup();
+    if (run.outcome.result && run.setup.calculation) {
+      run.numbers = elements::SingleNumbersOf(*run.outcome.result, *run.setup.calculation);
+    }
+    run.totals = open.CurrentTotals();
+  } catch (const Failure& failure) {
+    run = {};
+    run.outcome.status = calculation::RunStatus::kFailed;
+    run.outcome.messages = {failure.UserMessage()};
+  }
+  return run;
+}
+
+ExitCode CodeOf(calculation::RunStatus status) {
+  switch (status) {
+    case calculation::RunStatus::kDone:
+      return ExitCode::kDone;
+    case calculation::RunStatus::kDeclined:
+    case calculation::RunStatus::kRefused:
+      return ExitCode::kNoResult;
+    case calculation::RunStatus::kFailed:
+      return ExitCode::kFailed;
+  }
+  return ExitCode::kFailed;
+}
+
+}  // namespace velmar::cli

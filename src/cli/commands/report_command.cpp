@@ -1,0 +1,130 @@
+#include "cli/commands/report_command.h"
+
+#include <algorithm>
+#include <optional>
+#include <ostream>
+#include <set>
+#include <sstream>
+#include <system_error>
+
+#include "cli/commands/project_run.h"
+#include "cli/output/failure_report.h"
+#include "cli/output/outcome_table.h"
+#include "foundation/failure.h"
+#include "storage/files/open_elsewhere.h"
+#include "storage/files/whole_file.h"
+
+namespace velmar::cli {
+namespace {
+
+using std::filesystem::path;
+
+/// "The document could not be completed. Close it if another program has it open."
+constexpr MessageRow kOpenElsewhereRow{272};
+constexpr MessageRow kNoFormatRow{1290};
+constexpr MessageRow kNeedsFolderRow{1291};
+constexpr MessageRow kSameNameRow{1292};
+constexpr MessageRow kReplacesProjectRow{1293};
+constexpr MessageRow kSameTargetRow{1294};
+
+bool IsFolder(const path& target) {
+  std::error_code error;
+  return std::filesystem::is_directory(target, error);
+}
+
+/// The name under which two spellings of one file meet.
+path Resolved(const path& file) {
+  std::error_code error;
+  const path resolved = std::filesystem::weakly_canonical(file, error);
+  return error ? file.lexically_normal() : resolved;
+}
+
+path TargetOf(const path& project, const std::string& extension, const path& target) {
+  return IsFolder(target) ? target / (project.stem().string() + "." + extension) : target;
+}
+
+Message Told(MessageRow row, const path& what) { return {{row, " " + what.string()}}; }
+
+Message NoFormat(const Services& services) {
+  std::string options;
+  for (const ReportFormat& format : services.report_formats) options += " --" + format.extension;
+  return {{kNoFormatRow, options}};
+}
+
+/// What is wrong with the targets of `command`.
+std::optional<Message> Objection(const ReportCommand& command, const Services& services) {
+  if (command.targets.empty()) return NoFormat(services);
+  std::set<path> projects;
+  for (const path& project : command.projects) projects.insert(Resolved(project));
+  std::set<path> files;
+  for (const auto& [extension, target] : command.targets) {
+    if (command.projects.size() > 1 && !IsFolder(target)) return Told(kNeedsFolderRow, target);
+    std::set<path> of_this_format;
+    for (const path& project : command.projects) {
+      const path file = Resolved(TargetOf(project, extension, target));
+      if (projects.contains(file)) return Told(kReplacesProjectRow, file);
+      if (!of_this_format.insert(file).second) return Told(kSameNameRow, file.filename());
+      if (!files.insert(file).second) return Told(kSameTargetRow, file);
+    }
+  }
+  return std::nullopt;
+}
+
+/// Writes what is asked of one project; a report that fails does not stop the others.
+ExitCode WriteReports(const ReportCommand& command, const path& project, const ReportContent& content,
+                      const Services& services, std::ostream& errors) {
+  ExitCode code = ExitCode::kDone;
+  for (const ReportFormat& format : services.report_formats) {
+    const auto asked = command.targets.find(format.extension);
+    if (asked == command.targets.end()) continue;
+    try {
+      const path target = TargetOf(project, format.extension, asked->second);
+      if (storage::IsOpenElsewhere(target)) throw Failure(Told(kOpenElsewhereRow, target), "open elsewhere");
+      storage::WriteWhole(target, format.bytes(content));
+    } catch (const Failure& failure) {
+      code = TellFailure(failure, services.words, errors);
+    }
+  }
+  return code;
+}
+
+ExitCode ReportOne(const ReportCommand& command, const path& project, const Services& services,
+                   std::ostream& errors) {
+  ProjectRun run = RunProject(project, services.materials, command.go_on_outside_ranges);
+  for (const Message& message : run.outcome.messages) WriteMessage(message, services.words, errors);
+  if (!run.outcome.result) return CodeOf(run.outcome.status);
+  const ReportContent content{
+      .name = project.stem().string(),
+      .setup = std::move(run.setup),
+      .result = *run.outcome.result,
+      .totals = run.totals,
+      .words = services.words,
+      .tell = [&](const Message& message) { WriteMessage(message, services.words, errors); }};
+  return WriteReports(command, project, content, services, errors);
+}
+
+/// The graver of two codes; "failed" outweighs "no result".
+ExitCode Graver(ExitCode left, ExitCode right) {
+  if (left == ExitCode::kFailed || right == ExitCode::kFailed) return ExitCode::kFailed;
+  return std::max(left, right);
+}
+
+}  // namespace
+
+ExitCode Execute(const ReportCommand& command, const Services& services, std::ostream& errors) {
+  if (const std::optional<Message> objection = Objection(command, services)) {
+    WriteMessage(*objection, services.words, errors);
+    return ExitCode::kWrongUsage;
+  }
+  ExitCode code = ExitCode::kDone;
+  for (const path& project : command.projects) {
+    std::ostringstream said;
+    code = Graver(code, ReportOne(command, project, services, said));
+    if (said.view().empty()) continue;
+    if (command.projects.size() > 1) errors << project.string() << ":\n";
+    errors << said.view();
+  }
+  return code;
+}
+
+}  // namespace velmar::cli

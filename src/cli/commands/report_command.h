@@ -1,0 +1,28 @@
+#pragma once
+
+#include <filesystem>
+#include <iosfwd>
+#include <map>
+#include <string>
+#include <vector>
+
+#include "cli/commands/services.h"
+#include "cli/output/exit_code.h"
+
+namespace velmar::cli {
+
+/// `report FILE... --docx OUT | --xlsx OUT | --pdf OUT | --csv OUT | --svg OUT [--answer yes|no]`
+struct ReportCommand {
+  std::vector<std::filesystem::path> projects{};
+  std::map<std::string, std::filesystem::path> targets{};  ///< by the format's extension; a file or a folder
+  bool go_on_outside_ranges = false;                       ///< the answer to every question
+};
+
+/// Opens and runs every project and writes its reports, each file whole or not at all. A target that is a
+/// folder takes files named after the projects; several projects need one. Targets that would meet each
+/// other or a project are refused before anything is written. A project that fails does not stop the others.
+/// Every message goes to `errors`, with several projects under the project's name.
+/// @return the gravest code: failed before no result before done
+ExitCode Execute(const ReportCommand& command, const Services& services, std::ostream& errors);
+
+}  // namespace velmar::cli

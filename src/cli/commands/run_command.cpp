@@ -1,0 +1,25 @@
+#include "cli/commands/run_command.h"
+
+#include <ostream>
+
+#include <nlohmann/json.hpp>
+
+#include "cli/commands/project_run.h"
+#include "cli/output/outcome_json.h"
+#include "cli/output/outcome_table.h"
+
+namespace velmar::cli {
+
+ExitCode Execute(const RunCommand& command, const Services& services, std::ostream& out,
+                 std::ostream& errors) {
+  const ProjectRun run = RunProject(command.project, services.materials, command.go_on_outside_ranges);
+  for (const Message& message : run.outcome.messages) WriteMessage(message, services.words, errors);
+  if (command.json) {
+    out << OutcomeJson(run.texts, run.outcome, run.numbers, run.totals, services.words).dump() << '\n';
+  } else if (run.outcome.result) {
+    WriteResult(run.texts, *run.outcome.result, run.numbers, run.totals, services.words, out);
+  }
+  return CodeOf(run.outcome.status);
+}
+
+}  // namespace velmar::cli

@@ -1,0 +1,64 @@
+#include "cli/commands/save_result_command.h"
+
+#include <ostream>
+
+#include <nlohmann/json.hpp>
+
+#include "application/projects.h"
+#include "calculation/open_calculation.h"
+#include "cli/output/failure_report.h"
+#include "cli/output/outcome_table.h"
+#include "presentation/texts/descriptions.h"
+#include "storage/results/result_to_save.h"
+#include "storage/results/results_store.h"
+
+namespace velmar::cli {
+namespace {
+
+constexpr MessageRow kNoCalculationRow{1010};
+constexpr MessageRow kNoNameRow{221};
+
+ExitCode Store(const SaveResultCommand& command, const Services& services,
+               const calculation::OpenCalculation& open, std::ostream& out, std::ostream& errors) {
+  const elements::Setup& setup = open.Setup();
+  const storage::SavedResult row =
+      storage::ResultToSave(setup, open.Result().value(),
+                            {.name = command.name,
+                             .description = presentation::ResultDescription(setup, services.words),
+                             .thickness_mm = open.CurrentTotals().thickness_mm,
+                             .mass_kg_m2 = open.CurrentTotals().surface_mass_kg_m2});
+  storage::ResultsStore store(services.result_database);
+  switch (store.Save(storage::TableFor(RowOf(*setup.calculation).family), row)) {
+    case storage::SaveStatus::kSaved:
+      if (command.json) out << nlohmann::json{{"saved", command.name}}.dump() << '\n';
+      return ExitCode::kDone;
+    case storage::SaveStatus::kNameExists:
+      WriteMessage({{storage::kResultExistsRow}}, services.words, errors);
+      return ExitCode::kNoResult;
+    case storage::SaveStatus::kNoName:
+      WriteMessage({{kNoNameRow}}, services.words, errors);
+      return ExitCode::kNoResult;
+  }
+  return ExitCode::kFailed;
+}
+
+}  // namespace
+
+ExitCode Execute(const SaveResultCommand& command, const Services& services, std::ostream& out,
+                 std::ostream& errors) {
+  try {
+    calculation::OpenCalculation open;
+    open.Replace(application::OpenProject(command.project, {}, services.materials).setup);
+    const calculation::RunOutcome outcome =
+        open.Run([&](const Message&) { return command.go_on_outside_ranges; });
+    for (const Message& message : outcome.messages) WriteMessage(message, services.words, errors);
+    if (!outcome.result) {
+      return outcome.status == calculation::RunStatus::kFailed ? ExitCode::kFailed : ExitCode::kNoResult;
+    }
+    return Store(command, services, open, out, errors);
+  } catch (const Failure& failure) {
+    return TellFailure(failure, services.words, errors);
+  }
+}
+
+}  // namespace velmar::cli

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <filesystem>
+#include <vector>
+
+#include "cli/output/report_format.h"
+#include "elements/material_record.h"
+#include "presentation/texts/words.h"
+
+namespace velmar::cli {
+
+/// What the commands are given of the data folder.
+struct Services {
+  presentation::Words words{};
+  elements::MaterialLookup materials{};
+  std::filesystem::path material_database{};
+  std::filesystem::path result_database{};
+  std::filesystem::path library_folder{};      ///< below which every kind of measured structure has its own
+  std::filesystem::path access_reader{};       ///< the program that reads genuine Access files; may be empty
+  std::vector<ReportFormat> report_formats{};  ///< each an option of `report`
+};
+
+}  // namespace velmar::cli

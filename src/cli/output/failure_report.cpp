@@ -1,0 +1,35 @@
+#include "cli/output/failure_report.h"
+
+#include <string>
+
+#include "cli/output/outcome_table.h"
+#include "storage/database/database_failure.h"
+#include "storage/database/file_kind.h"
+
+namespace velmar::cli {
+namespace {
+
+constexpr MessageRow kCommandRow{1216};
+
+/// `text` as one word of a shell.
+std::string Quoted(const std::string& text) {
+  std::string quoted = "'";
+  for (const char letter : text) quoted += letter == '\'' ? std::string("'\\''") : std::string(1, letter);
+  return quoted + "'";
+}
+
+}  // namespace
+
+Message ConversionAdvice(const std::filesystem::path& file) {
+  if (storage::KindOf(file) != storage::FileKind::kAccess) return {};
+  return {{kCommandRow}, {"  velmar import --yes " + Quoted(file.string())}};
+}
+
+ExitCode TellFailure(const Failure& failure, const presentation::Words& words, std::ostream& errors) {
+  WriteMessage(failure.UserMessage(), words, errors);
+  if (const auto* database = dynamic_cast<const storage::DatabaseFailure*>(&failure))
+    WriteMessage(ConversionAdvice(database->File()), words, errors);
+  return ExitCode::kFailed;
+}
+
+}  // namespace velmar::cli

@@ -1,0 +1,94 @@
+#include "cli/parsing/command_line.h"
+
+#include <ostream>
+#include <string_view>
+#include <vector>
+
+#include <CLI/CLI.hpp>
+
+#include "cli/output/outcome_table.h"
+#include "cli/parsing/commands.h"
+#include "cli/parsing/usage_words.h"
+#include "foundation/failure.h"
+
+namespace velmar::cli {
+namespace {
+
+constexpr MessageRow kWrongUsageRow{1200};
+constexpr MessageRow kProgramRow{1204};
+constexpr MessageRow kKindOfSoundRow{1213};
+
+/// Rates the one kind of sound that is asked for.
+ExitCode Rate(const Parsed& parsed, const presentation::Words& words, std::ostream& out,
+              std::ostream& errors) {
+  if (parsed.airborne != parsed.rate.impact) return Execute(parsed.rate, words, out, errors);
+  errors << words(kKindOfSoundRow) << '\n';
+  return ExitCode::kWrongUsage;
+}
+
+ExitCode ExecuteParsed(const CLI::App& app, Parsed& parsed, const Services& services, std::ostream& out,
+                       std::ostream& errors) {
+  parsed.run.go_on_outside_ranges = parsed.answer == "yes";
+  parsed.report.go_on_outside_ranges = parsed.run.go_on_outside_ranges;
+  if (app.got_subcommand("run")) return Execute(parsed.run, services, out, errors);
+  if (app.got_subcommand("save")) return Execute(parsed.save, services, errors);
+  if (app.got_subcommand("rate")) return Rate(parsed, services.words, out, errors);
+  if (app.got_subcommand("materials")) return Execute(parsed.materials, services, out, errors);
+  parsed.save_result.go_on_outside_ranges = parsed.answer == "yes";
+  if (app.got_subcommand("facade")) return Execute(parsed.facade, services, errors);
+  if (app.got_subcommand("results") && app.get_subcommand("results")->got_subcommand("save")) {
+    return Execute(parsed.save_result, services, out, errors);
+  }
+  if (app.got_subcommand("results")) return Execute(parsed.results, services, out, errors);
+  if (app.got_subcommand("library")) return Execute(parsed.library, services, out, errors);
+  if (app.got_subcommand("import")) return Execute(parsed.import, services, out, errors);
+  if (app.got_subcommand("report")) return Execute(parsed.report, services, errors);
+  return Execute(parsed.catalogue, services.words, out);
+}
+
+/// What --data names among `arguments`, looked for before they are parsed: the help is already in the
+/// language that the data folder holds.
+std::optional<std::filesystem::path> DataFolderIn(std::span<const std::string> arguments) {
+  constexpr std::string_view kOption = "--data";
+  for (std::size_t i = 0; i < arguments.size() && arguments[i] != "--"; ++i) {
+    if (arguments[i] == kOption && i + 1 < arguments.size()) return arguments[i + 1];
+    if (arguments[i].starts_with("--data=")) return arguments[i].substr(kOption.size() + 1);
+  }
+  return std::nullopt;
+}
+
+int ParseAndExecute(std::span<const std::string> arguments, const Services& services, std::ostream& out,
+                    std::ostream& errors) {
+  Parsed parsed;
+  const presentation::Words& words = services.words;
+  CLI::App app(words(kProgramRow), "velmar");
+  AddCommands(app, parsed, services);
+  SayHelpIn(words, app);
+  try {
+    std::vector<std::string> reversed(arguments.rbegin(), arguments.rend());
+    app.parse(reversed);
+  } catch (const CLI::Success& asked_for_help) {
+    app.exit(asked_for_help, out, errors);
+    return static_cast<int>(ExitCode::kDone);
+  } catch (const CLI::ParseError& error) {
+    errors << WrongUsage(error, app, words) << '\n' << words(kWrongUsageRow) << '\n';
+    return static_cast<int>(ExitCode::kWrongUsage);
+  }
+  return static_cast<int>(ExecuteParsed(app, parsed, services, out, errors));
+}
+
+}  // namespace
+
+int RunCommandLine(std::span<const std::string> arguments, const OpenServices& open_services,
+                   std::ostream& out, std::ostream& errors) {
+  try {
+    return ParseAndExecute(arguments, open_services(DataFolderIn(arguments)), out, errors);
+  } catch (const Failure& failure) {
+    // Without a catalogue only literal words can be shown; a failure that early carries them.
+    WriteMessage(
+        failure.UserMessage(), [](MessageRow) { return std::string(); }, errors);
+    return static_cast<int>(ExitCode::kFailed);
+  }
+}
+
+}  // namespace velmar::cli

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include <CLI/App.hpp>
+
+#include "cli/commands/catalogue_command.h"
+#include "cli/commands/facade_command.h"
+#include "cli/commands/import_command.h"
+#include "cli/commands/library_command.h"
+#include "cli/commands/materials_command.h"
+#include "cli/commands/rate_command.h"
+#include "cli/commands/report_command.h"
+#include "cli/commands/results_command.h"
+#include "cli/commands/run_command.h"
+#include "cli/commands/save_command.h"
+#include "cli/commands/save_result_command.h"
+#include "cli/commands/services.h"
+
+namespace velmar::cli {
+
+/// Everything that the command line can say, filled by the parser.
+struct Parsed {
+  std::optional<std::string> data_folder{};
+
+  std::string answer = "no";
+  bool airborne = false;
+  RunCommand run{};
+  SaveCommand save{};
+  RateCommand rate{};
+  CatalogueCommand catalogue{};
+  MaterialsCommand materials{};
+  ResultsCommand results{};
+  LibraryCommand library{};
+  ImportCommand import{};
+  ReportCommand report{};
+  SaveResultCommand save_result{};
+  FacadeCommand facade{};
+};
+
+/// Tells `app` every command with its arguments and options; what is typed goes into `parsed`, which
+/// outlives the parsing.
+void AddCommands(CLI::App& app, Parsed& parsed, const Services& services);
+
+}  // namespace velmar::cli

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <optional>
+#include <string>
+
+namespace velmar::materials {
+
+/// The three boxes of a structural material that follow from each other, as texts.
+struct MassBoxes {
+  std::string thickness_mm{};        ///< `Text3`
+  std::string density_kg_m3{};       ///< `Text4`
+  std::string surface_mass_kg_m2{};  ///< `Text5`
+
+  bool operator==(const MassBoxes&) const = default;
+};
+enum class MassBox { kThickness, kDensity, kSurfaceMass };
+
+/// The boxes after the focus left `left`: when it and at least one other are filled, the third is density
+/// times thickness, or what that gives; a density that is there stays, unless the mass was typed beside it,
+/// which gives the thickness. Numbers count as absolute values; results have two decimals. Boxes that are no
+/// numbers, and divisions by zero, change nothing.
+MassBoxes CoupleMass(MassBoxes boxes, MassBox left);
+
+/// The three boxes of a resilient material that follow from each other, as texts.
+struct ResilientBoxes {
+  std::string dynamic_stiffness_mn_m3{};  ///< `Text3`, s'
+  std::string impact_improvement_db{};    ///< `Text4`, Delta Ln,w
+  std::string resonance_frequency_hz{};   ///< `Text5`, f0
+
+  bool operator==(const ResilientBoxes&) const = default;
+};
+enum class ResilientBox { kStiffness, kImprovement, kResonance };
+
+/// The boxes after the focus left `left`: the other two follow from it for a floating screed of 100 kg/m²
+/// (EN 29052-1, EN 12354-2). A text that is no number, a negative one, and a value that leads to none leave
+/// the others alone.
+ResilientBoxes CoupleResilient(ResilientBoxes boxes, ResilientBox left);
+
+}  // namespace velmar::materials

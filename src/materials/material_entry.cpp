@@ -1,0 +1,265 @@
+#include "materials/material_entry.h"
+
+#include <algorithm>
+#include <initializer_list>
+#include <optional>
+#include <utility>
+
+#include "foundation/decimal.h"
+#include "materials/coupled_boxes.h"
+#include "storage/materials/material_store.h"
+
+namespace velmar::materials {
+namespace {
+
+using elements::FibrousMaterial;
+using elements::ResilientMaterial;
+using elements::StructuralMaterial;
+
+constexpr MessageRow kMissingRow{348};
+constexpr MessageRow kThicknessRow{349};
+constexpr MessageRow kDensityRow{350};
+constexpr MessageRow kSurfaceMassRow{351};
+constexpr MessageRow kYoungsModulusRow{352};
+constexpr MessageRow kLossFactorRow{353};
+constexpr MessageRow kResilientValuesRow{360};
+constexpr MessageRow kAbsorptionBoxesRow{361};
+constexpr MessageRow kFlowResistanceRow{1141};
+constexpr MessageRow kStiffnessRow{1142};
+constexpr MessageRow kAbsorptionRow{1143};
+constexpr MessageRow kNoNumberRow{1144};
+
+/// `TagliaAlPrimoCR`: up to the first line break, without blanks around it.
+std::string FirstLine(const std::string& text) {
+  const std::string line = text.substr(0, text.find_first_of("\r\n"));
+  const std::size_t first = line.find_first_not_of(' ');
+  if (first == std::string::npos) return {};
+  return line.substr(first, line.find_last_not_of(' ') - first + 1);
+}
+
+template <typename Entry>
+void Clean(Entry& entry, const KeywordTexts& texts) {
+  for (std::string* text : {&entry.name, &entry.description, &entry.keyword}) *text = FirstLine(*text);
+  if (entry.keyword.empty()) entry.keyword = texts.not_specified;
+}
+
+EntryRefusal NameMissing() { return {{{storage::kMaterialWithoutNameRow}}, "Text1"}; }
+
+struct NeededBox {
+  const std::string& text;
+  MessageRow name{};
+  const char* box = "";
+};
+
+/// The refusal that names every empty box and leads to the first, or nothing.
+std::optional<EntryRefusal> Missing(std::initializer_list<NeededBox> boxes) {
+  EntryRefusal refusal{{{kMissingRow, ":"}}, ""};
+  for (const NeededBox& box : boxes) {
+    if (!box.text.empty()) continue;
+    refusal.message.push_back({"- ", box.name});
+    if (refusal.box.empty()) refusal.box = box.box;
+  }
+  if (refusal.box.empty()) return std::nullopt;
+  return refusal;
+}
+
+template <typename Material>
+struct NumberBox {
+  const std::string& text;
+  double Material::*field;
+  const char* box;
+};
+
+/// Takes the boxes over into `material`; an empty one is 0.
+/// @return the refusal about the first that holds no number
+template <typename Material>
+std::optional<EntryRefusal> TakeNumbers(std::initializer_list<NumberBox<Material>> boxes,
+                                        Material& material) {
+  for (const NumberBox<Material>& box : boxes) {
+    const std::optional<double> number = box.text.empty() ? 0.0 : ParseDecimal(box.text);
+    if (!number) return EntryRefusal{{{kMaterialNotSavedRow}, {kNoNumberRow, " " + box.text}}, box.box};
+    material.*box.field = *number;
+  }
+  return std::nullopt;
+}
+
+template <typename Material, typename Entry>
+storage::MaterialRow<Material> NamedRow(const Entry& entry) {
+  storage::MaterialRow<Material> row;
+  row.record.values.name = entry.name;
+  row.record.values.description = entry.description;
+  row.keyword = entry.keyword;
+  return row;
+}
+
+std::optional<EntryRefusal> TakeAbsorption(const FibrousEntry& entry, FibrousMaterial& material) {
+  constexpr float kHighest = 1.5F;
+  for (std::size_t band = 0; band < entry.absorption.size(); ++band) {
+    const std::string& text = entry.absorption.at(band);
+    if (text.empty()) continue;
+    const std::optional<float> value = ParseSingle(text);
+    if (!value || *value < 0.0F || *value > kHighest) {
+      std::string where = " " + FormatShortest(elements::kAbsorptionBandCentres.at(band));
+      where.append(" Hz: ").append(text);
+      return EntryRefusal{{{kAbsorptionBoxesRow}, {kAbsorptionRow, std::move(where)}},
+                          "TextAlfa_" + std::to_string(band)};
+    }
+    material.absorption.at(band) = *value;
+  }
+  return std::nullopt;
+}
+
+template <typename Material>
+std::string TextOf(const storage::MaterialRow<Material>& row, double Material::*field) {
+  return row.record.Holds(field) ? FormatShortest(row.record.values.*field) : std::string();
+}
+
+}  // namespace
+
+std::variant<storage::StructuralRow, EntryRefusal> RowOf(StructuralEntry entry, const KeywordTexts& texts) {
+  using M = StructuralMaterial;
+  Clean(entry, texts);
+  if (entry.name.empty()) return NameMissing();
+  if (auto refusal = Missing({{entry.thickness, kThicknessRow, "Text3"},
+                              {entry.density, kDensityRow, "Text4"},
+                              {entry.surface_mass, kSurfaceMassRow, "Text5"},
+                              {entry.youngs_modulus, kYoungsModulusRow, "Text6"},
+                              {entry.loss_factor, kLossFactorRow, "Text8"}})) {
+    return *std::move(refusal);
+  }
+  storage::StructuralRow row = NamedRow<M>(entry);
+  if (auto refusal = TakeNumbers<M>({{entry.thickness, &M::thickness_mm, "Text3"},
+                                     {entry.density, &M::density_kg_m3, "Text4"},
+                                     {entry.youngs_modulus, &M::youngs_modulus_gpa, "Text6"},
+                                     {entry.loss_factor, &M::loss_factor, "Text8"},
+                                     {entry.poissons_ratio, &M::poissons_ratio, "Text9"},
+                                     {entry.surface_mass, &M::surface_mass_kg_m2, "Text5"},
+                                     {entry.critical_frequency, &M::critical_frequency_hz, "Text7"}},
+                                    row.record.values)) {
+    return *std::move(refusal);
+  }
+  row.record.nulls = {&M::thermal_conductivity_w_mk, &M::thermal_conductance_w_m2k,
+                      &M::vapour_permeability_dry, &M::vapour_permeability_wet, &M::thermal_resistance_m2k_w};
+  return row;
+}
+
+std::variant<storage::FibrousRow, EntryRefusal> RowOf(FibrousEntry entry, const KeywordTexts& texts) {
+  using M = FibrousMaterial;
+  Clean(entry, texts);
+  if (entry.name.empty()) return NameMissing();
+  const std::string none = "-";  // stands for a box that this kind does not need
+  if (auto refusal = Missing({{entry.thickness, kThicknessRow, "Text10"},
+                              {entry.density, kDensityRow, "Text9"},
+                              {entry.porous ? none : entry.youngs_modulus, kYoungsModulusRow, "Text11"},
+                              {entry.porous ? none : entry.loss_factor, kLossFactorRow, "Text12"},
+                              {entry.porous ? entry.flow_resistance : none, kFlowResistanceRow, "Text14"}})) {
+    return *std::move(refusal);
+  }
+  storage::FibrousRow row = NamedRow<M>(entry);
+  M& material = row.record.values;
+  material.porous = entry.porous;
+  auto refusal = TakeNumbers<M>(
+      {{entry.thickness, &M::thickness_mm, "Text10"}, {entry.density, &M::density_kg_m3, "Text9"}}, material);
+  if (!refusal && entry.porous) {
+    refusal = TakeNumbers<M>({{entry.flow_resistance, &M::flow_resistance_pa_s_m, "Text14"}}, material);
+    if (!refusal) refusal = TakeAbsorption(entry, material);
+  } else if (!refusal) {
+    refusal = TakeNumbers<M>({{entry.youngs_modulus, &M::youngs_modulus_gpa, "Text11"},
+                              {entry.loss_factor, &M::loss_factor, "Text12"},
+                              {entry.poissons_ratio, &M::poissons_ratio, "Text13"}},
+                             material);
+  }
+  if (refusal) return *std::move(refusal);
+  // The columns of the other kind are emptied.
+  if (entry.porous) {
+    row.record.nulls = {&M::youngs_modulus_gpa, &M::loss_factor, &M::poissons_ratio};
+  } else {
+    row.record.nulls = {&M::flow_resistance_pa_s_m};
+  }
+  return row;
+}
+
+std::variant<storage::ResilientRow, EntryRefusal> RowOf(ResilientEntry entry, const KeywordTexts& texts) {
+  using M = ResilientMaterial;
+  Clean(entry, texts);
+  if (entry.name.empty()) return NameMissing();
+  ResilientBoxes boxes{entry.stiffness, entry.improvement, entry.resonance};
+  if (boxes.dynamic_stiffness_mn_m3.empty()) {
+    boxes = CoupleResilient(
+        boxes, boxes.impact_improvement_db.empty() ? ResilientBox::kResonance : ResilientBox::kImprovement);
+  }
+  if (boxes.impact_improvement_db.empty() || boxes.resonance_frequency_hz.empty()) {
+    const ResilientBoxes coupled = CoupleResilient(boxes, ResilientBox::kStiffness);
+    if (boxes.impact_improvement_db.empty()) boxes.impact_improvement_db = coupled.impact_improvement_db;
+    if (boxes.resonance_frequency_hz.empty()) boxes.resonance_frequency_hz = coupled.resonance_frequency_hz;
+  }
+  if (boxes == ResilientBoxes{}) return EntryRefusal{{{kResilientValuesRow}}, "Text3"};
+  storage::ResilientRow row = NamedRow<M>(entry);
+  const auto take = [&](std::initializer_list<NumberBox<M>> numbers) {
+    return TakeNumbers<M>(numbers, row.record.values);
+  };
+  const NumberBox<M> improvement{boxes.impact_improvement_db, &M::impact_improvement_db, "Text4"};
+  const NumberBox<M> resonance{boxes.resonance_frequency_hz, &M::resonance_frequency_hz, "Text5"};
+  if (auto refusal = take({improvement, resonance})) return *std::move(refusal);
+  // A negative improvement or resonance gives no stiffness.
+  if (auto refusal = Missing({{boxes.dynamic_stiffness_mn_m3, kStiffnessRow, "Text3"},
+                              {entry.thickness, kThicknessRow, "Text6"}})) {
+    return *std::move(refusal);
+  }
+  if (auto refusal = take({{boxes.dynamic_stiffness_mn_m3, &M::dynamic_stiffness_mn_m3, "Text3"},
+                           {entry.thickness, &M::thickness_mm, "Text6"},
+                           {entry.density, &M::density_kg_m3, "Text7"}})) {
+    return *std::move(refusal);
+  }
+  if (boxes.impact_improvement_db.empty()) row.record.nulls.push_back(&M::impact_improvement_db);
+  if (boxes.resonance_frequency_hz.empty()) row.record.nulls.push_back(&M::resonance_frequency_hz);
+  return row;
+}
+
+StructuralEntry EntryOf(const storage::StructuralRow& row) {
+  using M = StructuralMaterial;
+  return {row.record.values.name,
+          row.record.values.description,
+          TextOf(row, &M::thickness_mm),
+          TextOf(row, &M::density_kg_m3),
+          TextOf(row, &M::surface_mass_kg_m2),
+          TextOf(row, &M::youngs_modulus_gpa),
+          TextOf(row, &M::critical_frequency_hz),
+          TextOf(row, &M::loss_factor),
+          TextOf(row, &M::poissons_ratio),
+          row.keyword};
+}
+
+FibrousEntry EntryOf(const storage::FibrousRow& row) {
+  using M = FibrousMaterial;
+  FibrousEntry entry{row.record.values.name,
+                     row.record.values.description,
+                     row.keyword,
+                     TextOf(row, &M::thickness_mm),
+                     TextOf(row, &M::density_kg_m3),
+                     row.record.values.porous,
+                     TextOf(row, &M::youngs_modulus_gpa),
+                     TextOf(row, &M::loss_factor),
+                     TextOf(row, &M::poissons_ratio),
+                     TextOf(row, &M::flow_resistance_pa_s_m),
+                     {}};
+  for (std::size_t band = 0; band < entry.absorption.size(); ++band) {
+    const float value = row.record.values.absorption.at(band);
+    if (value != elements::kNoAbsorption) entry.absorption.at(band) = FormatShortest(value);
+  }
+  return entry;
+}
+
+ResilientEntry EntryOf(const storage::ResilientRow& row) {
+  using M = ResilientMaterial;
+  return {row.record.values.name,
+          row.record.values.description,
+          row.keyword,
+          TextOf(row, &M::dynamic_stiffness_mn_m3),
+          TextOf(row, &M::impact_improvement_db),
+          TextOf(row, &M::resonance_frequency_hz),
+          TextOf(row, &M::thickness_mm),
+          TextOf(row, &M::density_kg_m3)};
+}
+
+}  // namespace velmar::materials

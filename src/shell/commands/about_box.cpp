@@ -1,0 +1,70 @@
+#include "shell/commands/about_box.h"
+
+#include <QFont>
+#include <QFrame>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include "shell/fields/boxes.h"
+#include "shell/fields/icons.h"
+#include "shell/fields/phrases.h"
+
+namespace velmar::shell {
+namespace {
+
+constexpr MessageRow kCaptionRow{67};
+constexpr MessageRow kPurposeRow{297};
+constexpr MessageRow kTermsRow{1310};
+constexpr MessageRow kWebsiteRow{1311};
+constexpr MessageRow kCloseRow{369};
+constexpr int kPicture = 64;
+constexpr int kWidth = 400;
+
+}  // namespace
+
+AboutBox::AboutBox(const presentation::Words& words, const QString& version, const QString& website,
+                   std::function<void()> open_website, QWidget* parent)
+    : QDialog(parent) {
+  setObjectName("About_VELMAR");
+  setWindowTitle(Text(words, kCaptionRow).remove("..."));
+  auto* column = new QVBoxLayout(this);
+  column->setContentsMargins(24, 24, 24, 16);
+  auto* head = new QHBoxLayout;
+  auto* picture = new QLabel(this);
+  picture->setObjectName("Image1");
+  picture->setPixmap(ProductIcon().pixmap(QSize(kPicture, kPicture), devicePixelRatioF()));
+  auto* name = new QLabel(QString(kProductName) + ' ' + version, this);
+  name->setObjectName("LabelVersione");
+  QFont large = name->font();
+  large.setPointSizeF(large.pointSizeF() * 1.6);
+  name->setFont(large);
+  head->addWidget(picture);
+  head->addSpacing(16);
+  head->addWidget(name, 1);
+  column->addLayout(head);
+  for (const MessageRow row : {kPurposeRow, kTermsRow}) {
+    auto* text = new QLabel(Text(words, row), this);
+    text->setWordWrap(true);
+    column->addWidget(text);
+  }
+  if (!website.isEmpty()) {
+    auto* label = new QLabel(Text(words, kWebsiteRow), this);
+    label->setObjectName("LabelSito");
+    auto* link =
+        new QLabel("<a href=\"" + website.toHtmlEscaped() + "\">" + website.toHtmlEscaped() + "</a>", this);
+    link->setObjectName("LbWebSite");
+    link->setTextInteractionFlags(Qt::TextBrowserInteraction);
+    connect(link, &QLabel::linkActivated, this, [open_website = std::move(open_website)] { open_website(); });
+    column->addWidget(label);
+    column->addWidget(link);
+  }
+  auto* close_button = new QPushButton(Text(words, kCloseRow), this);
+  close_button->setDefault(true);
+  connect(close_button, &QPushButton::clicked, this, &QDialog::accept);
+  column->addWidget(close_button, 0, Qt::AlignRight);
+  setMinimumWidth(kWidth);
+}
+
+}  // namespace velmar::shell

@@ -1,0 +1,121 @@
+#include "shell/commands/calculation_menu.h"
+
+#include <QAction>
+#include <QActionGroup>
+#include <QMenu>
+#include <algorithm>
+#include <array>
+#include <string>
+#include <string_view>
+
+#include "shell/commands/calculation_captions.h"
+#include "shell/fields/phrases.h"
+
+namespace velmar::shell {
+namespace {
+
+using elements::Calculation;
+using elements::CalculationRow;
+
+/// A line of the tree: a heading (row) or the entries of a menu handler, `depth` steps in.
+struct TreeLine {
+  int depth = 0;
+  const char* control = "";
+  int heading_row = 0;  ///< 0: the entries of the handler `control`
+};
+
+constexpr std::array<TreeLine, 25> kTree = {{
+    {0, "tipo_calcolo_potere_fonoisolante", 21},
+    {1, "cal_parete_singola", 22},
+    {2, "TIPO_PARETE_SINGOLA", 0},
+    {2, "PARETE_SINGOLA_VETRATE", 47},
+    {3, "VETRATURE", 0},
+    {1, "cal_parete_doppia", 33},
+    {2, "TIPO_PARETE_DOPPIA", 0},
+    {2, "TIPO_PARETE_DOPPIA2", 0},
+    {2, "ParDoppiaSEA", 106},
+    {3, "TIPO_PARETE_SEA", 0},
+    {2, "TIPO_DOPPIO_CARTONGESSO", 35},
+    {3, "TIPO_PARETE_DOPPIA_CARTONGESSO", 0},
+    {2, "TIPO_DOPPIO_CARTONGESSO_2", 38},
+    {3, "TIPO_DOPPIO_CARTONGESSO_SPERIM", 0},
+    {2, "PARETE_DOPPIA_LEGGERA", 42},
+    {3, "TIPO_PARETE_DOPPIA_LEGGERA_LLPI", 0},
+    {1, "TIPO_SOLAIO_DOPPIO", 0},
+    {1, "mnuCalcoloControplaccaggi", 110},
+    {2, "mnuCalcoloControplaccaggiScelta", 0},
+    {1, "mnuCalcoloControsoffitto", 114},
+    {2, "mnuCalcoloControsoffittiScelta", 0},
+    {1, "cal_facciata", 0},
+    {0, "tipo_calcolo_calpestio", 56},
+    {1, "cal_solaio", 0},
+    {1, "cal_solaio_new", 0},
+}};
+
+QString ControlName(const CalculationRow& row) {
+  int members = 0;
+  for (const CalculationRow& other : elements::Catalogue())
+    members += other.menu_group == row.menu_group ? 1 : 0;
+  const QString group = FromUtf8(std::string(row.menu_group));
+  return members == 1 ? group : ArrayName(row.menu_group, row.menu_index);
+}
+
+}  // namespace
+
+CalculationActions::CalculationActions(const presentation::Words& words, QObject* parent,
+                                       const std::function<void(Calculation)>& choose) {
+  auto* group = new QActionGroup(parent);
+  group->setExclusionPolicy(QActionGroup::ExclusionPolicy::ExclusiveOptional);
+  for (const CalculationRow& row : elements::Catalogue()) {
+    auto* action = new QAction(Text(words, MenuCaption(row.calculation)), parent);
+    action->setObjectName(ControlName(row));
+    action->setCheckable(true);
+    group->addAction(action);
+    const Calculation calculation = row.calculation;
+    QObject::connect(action, &QAction::triggered, parent, [choose, calculation] { choose(calculation); });
+    actions_.emplace(calculation, action);
+  }
+}
+
+void CalculationActions::FillTree(QMenu& menu, const presentation::Words& words) const {
+  std::array<QMenu*, 4> path = {&menu, nullptr, nullptr, nullptr};
+  for (const TreeLine& line : kTree) {
+    QMenu* parent = path.at(static_cast<std::size_t>(line.depth));
+    if (line.heading_row != 0) {
+      QMenu* heading = parent->addMenu(Text(words, MessageRow{line.heading_row}));
+      heading->setObjectName(line.control);
+      path.at(static_cast<std::size_t>(line.depth) + 1) = heading;
+      continue;
+    }
+    int last_index = -1;
+    for (const Calculation calculation : InMenuOrder()) {
+      const CalculationRow& row = RowOf(calculation);
+      if (row.menu_group != line.control) continue;
+      // An index that no entry has is a separator.
+      if (row.menu_index > last_index + 1) parent->addSeparator();
+      parent->addAction(Of(calculation));
+      last_index = row.menu_index;
+    }
+  }
+}
+
+void CalculationActions::FillKind(QMenu& menu, elements::ElementButton button) const {
+  std::string_view group;
+  for (const Calculation calculation : InMenuOrder()) {
+    const CalculationRow& row = RowOf(calculation);
+    if (row.button != button) continue;
+    if (!group.empty() && row.menu_group != group) menu.addSeparator();
+    group = row.menu_group;
+    menu.addAction(Of(calculation));
+  }
+}
+
+void CalculationActions::Mark(Calculation calculation) { Of(calculation)->setChecked(true); }
+
+elements::Calculation FirstOf(elements::ElementButton button) {
+  const auto order = InMenuOrder();
+  const auto first = std::ranges::find(order, button, [](Calculation one) { return RowOf(one).button; });
+  return first == order.end() ? order.front() : *first;
+}
+
+}  // namespace velmar::shell

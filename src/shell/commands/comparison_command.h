@@ -1,0 +1,48 @@
+#pragma once
+
+#include <QPointer>
+
+#include "presentation/drawing/curve_chart.h"
+#include "shell/fields/window_tools.h"
+#include "shell/pages/window_services.h"
+#include "shell/structures/comparison_window.h"
+#include "shell/structures/structure_sources.h"
+
+namespace velmar::shell {
+
+/// The comparison window behind its commands, and the curves that it lays over the main chart.
+class ComparisonCommand {
+ public:
+  /// @param services to live as long as this
+  ComparisonCommand(const WindowServices& services, WindowTools tools, structures::LibrarySource library);
+
+  /// Opens the window for the result that stands; one that is open already makes room for it.
+  /// @param modality whether the main window waits until it is closed
+  void Show(QWidget* parent, Qt::WindowModality modality);
+
+  /// Lays over `chart` what is to be drawn over it. A window that is closed leaves its curves in the drawing:
+  /// they go with the first one that shows other values or another scale.
+  void LayOver(presentation::CurveChart& chart);
+
+  /// The window closes, and its curves go with the result.
+  void ResultGone();
+
+ private:
+  /// What tells one drawing of the chart from the next.
+  struct Drawing {
+    acoustics::Spectrum values{};
+    bool autoscale = false;
+
+    bool operator==(const Drawing&) const = default;
+  };
+
+  const WindowServices& services_;
+  WindowTools tools_;
+  structures::LibrarySource library_;
+  QPointer<structures::ComparisonWindow> window_;
+  structures::Overlay overlay_;
+  bool left_over_ = false;  ///< the overlay is that of a window that was closed
+  Drawing last_;
+};
+
+}  // namespace velmar::shell

@@ -1,0 +1,75 @@
+#include "shell/commands/menus.h"
+
+#include <QMenu>
+#include <QMenuBar>
+#include <initializer_list>
+
+#include "shell/commands/calculation_menu.h"
+#include "shell/commands/command_set.h"
+#include "shell/fields/phrases.h"
+
+namespace velmar::shell {
+namespace {
+
+using enum CommandId;
+
+constexpr MessageRow kFileRow{1};
+constexpr MessageRow kDatabaseRow{10};
+constexpr MessageRow kMeasuredRow{13};
+constexpr MessageRow kGeometryRow{17};
+constexpr MessageRow kCalculationRow{19};
+constexpr MessageRow kKindRow{20};
+constexpr MessageRow kHelpRow{64};
+constexpr MessageRow kRecentRow{1304};
+
+void Add(QMenu& menu, const CommandSet& commands, std::initializer_list<CommandId> ids) {
+  for (const CommandId id : ids) menu.addAction(commands.Of(id));
+}
+
+QMenu* AddMenu(QMenuBar& bar, const presentation::Words& words, MessageRow row, const char* name) {
+  QMenu* menu = bar.addMenu('&' + Text(words, row));
+  menu->setObjectName(name);
+  return menu;
+}
+
+}  // namespace
+
+QMenu* FillMenuBar(QMenuBar& bar, const CommandSet& commands, const CalculationActions& calculations,
+                   const presentation::Words& words) {
+  QMenu* file = AddMenu(bar, words, kFileRow, "File");
+  Add(*file, commands, {kOpenProject});
+  QMenu* recent = file->addMenu(Text(words, kRecentRow));
+  recent->setObjectName("Recenti");
+  Add(*file, commands, {kSaveProject, kStoreResult});
+  file->addSeparator();
+  Add(*file, commands, {kExportWord, kExportExcel, kPrint, kPrintPreview, kChoosePrinter});
+  file->addSeparator();
+  Add(*file, commands, {kProjectInformation});
+  file->addSeparator();
+  Add(*file, commands, {kExit});
+
+  QMenu* database = AddMenu(bar, words, kDatabaseRow, "Database");
+  Add(*database, commands, {kSavedResults, kMaintenance});
+  QMenu* measured = database->addMenu(Text(words, kMeasuredRow));
+  measured->setObjectName("DB_sperimentale");
+  Add(*measured, commands, {kMeasuredLnw, kMeasuredRw});
+  Add(*database, commands, {kBaseMaterials, kMaterialList});
+
+  QMenu* geometry = AddMenu(bar, words, kGeometryRow, "geometria");
+  Add(*geometry, commands, {kDimensions});
+
+  QMenu* calculation = AddMenu(bar, words, kCalculationRow, "calcolo");
+  QMenu* tree = calculation->addMenu(Text(words, kKindRow));
+  tree->setObjectName("tipo_di_calcolo");
+  calculations.FillTree(*tree, words);
+  calculation->addSeparator();
+  Add(*calculation, commands, {kRun, kCompareBeside, kShowTable});
+
+  QMenu* help = AddMenu(bar, words, kHelpRow, "help");
+  Add(*help, commands, {kTutorial, kContact});
+  help->addSeparator();
+  Add(*help, commands, {kAbout});
+  return recent;
+}
+
+}  // namespace velmar::shell

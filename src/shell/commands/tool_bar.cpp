@@ -1,0 +1,90 @@
+#include "shell/commands/tool_bar.h"
+
+#include <QAction>
+#include <QMenu>
+#include <QStyle>
+#include <QToolButton>
+
+#include "shell/commands/calculation_menu.h"
+#include "shell/commands/command_set.h"
+#include "shell/fields/icons.h"
+#include "shell/fields/phrases.h"
+
+namespace velmar::shell {
+namespace {
+
+constexpr int kIconPixels = 24;
+/// The name of the group behind a separator, for screen readers: its place and row.
+struct GroupName {
+  int place = 0;
+  int row = 0;
+};
+constexpr std::array kGroups = {GroupName{4, 301}, GroupName{7, 304}, GroupName{10, 307}, GroupName{14, 311},
+                                GroupName{16, 313}};
+
+const Command* CommandAt(int place) {
+  for (const Command& command : Commands()) {
+    if (command.button == place) return &command;
+  }
+  return nullptr;
+}
+
+bool IsElementKind(int place) { return place >= 17 && place <= 22; }
+
+}  // namespace
+
+CommandToolBar::CommandToolBar(const CommandSet& commands, const CalculationActions& calculations,
+                               const presentation::Words& words, QWidget* parent)
+    : QToolBar(parent) {
+  setObjectName("Toolbar1");
+  setMovable(false);
+  setIconSize({kIconPixels, kIconPixels});
+  QString group;
+  for (int place = 1; place <= kToolBarPlaces; ++place) {
+    if (CommandAt(place) == nullptr) {
+      for (const GroupName& name : kGroups) {
+        if (name.place == place) group = Text(words, MessageRow{name.row});
+      }
+      addSeparator();
+      continue;
+    }
+    QToolButton* button = AddCommand(commands, place);
+    button->setAccessibleDescription(group);
+    if (!IsElementKind(place)) continue;
+    auto* menu = new QMenu(button);
+    calculations.FillKind(*menu, static_cast<elements::ElementButton>(place));
+    button->setMenu(menu);
+    button->setPopupMode(QToolButton::MenuButtonPopup);
+  }
+}
+
+QToolButton* CommandToolBar::AddCommand(const CommandSet& commands, int place) {
+  const Command& command = *CommandAt(place);
+  QAction* action = commands.Of(command.id);
+  auto* button = new QToolButton(this);
+  button->setObjectName("Toolbar1_" + QString::number(place));
+  button->setDefaultAction(action);
+  button->setFocusPolicy(Qt::TabFocus);
+  button->setAutoRaise(true);
+  button->setAccessibleName(action->toolTip());
+  if (command.id == CommandId::kRun) {
+    button->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    run_ = button;
+    ShowRunDue(false);
+  }
+  addWidget(button);
+  return button;
+}
+
+void CommandToolBar::ShowRunDue(bool due) {
+  run_->setIcon(due ? LightLineIcon("run") : LineIcon("run"));
+  run_->setStyleSheet(
+      due ? QStringLiteral("QToolButton { background: palette(highlight); color: palette(highlighted-text);"
+                           " border: 1px solid palette(highlight); border-radius: 4px; padding: 4px 10px; }"
+                           "QToolButton:pressed, QToolButton:focus { border: 1px solid palette(text); }")
+          : QStringLiteral(
+                "QToolButton { border: 1px solid palette(mid); border-radius: 4px; padding: 4px 10px; }"
+                "QToolButton:focus { border: 1px solid palette(highlight); }"));
+}
+
+}  // namespace velmar::shell

@@ -1,0 +1,143 @@
+#include "shell/fields/number_field.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QKeyEvent>
+#include <QRegularExpression>
+#include <QValidator>
+
+#include "foundation/decimal.h"
+#include "shell/fields/key_filters.h"
+#include "shell/fields/phrases.h"
+
+namespace velmar::shell {
+namespace {
+
+constexpr QChar kDecimalSign{u','};
+constexpr int kWidthInDigits = 7;
+
+/// What may come in by paste and drop: beginnings of a number, with the point turned into a comma.
+class NumberShape : public QValidator {
+ public:
+  NumberShape(NumberKind kind, QObject* parent) : QValidator(parent), kind_(kind) {}
+
+  State validate(QString& text, int& /*caret*/) const override {
+    static const QRegularExpression real(QStringLiteral("^[0-9]*(,[0-9]*)?([eE]-?[0-9]*)?$"));
+    static const QRegularExpression signed_real(QStringLiteral("^-?[0-9]*(,[0-9]*)?([eE]-?[0-9]*)?$"));
+    static const QRegularExpression whole(QStringLiteral("^[0-9]*$"));
+    text.replace('.', ',');
+    if (kind_ == NumberKind::kArea && text == "-") return Acceptable;
+    const QRegularExpression& shape = kind_ == NumberKind::kInteger ? whole
+                                      : kind_ == NumberKind::kTerm  ? signed_real
+                                                                    : real;
+    return shape.match(text).hasMatch() ? Acceptable : Invalid;
+  }
+
+ private:
+  NumberKind kind_;
+};
+
+bool TakesEntries(const QWidget* widget) {
+  return qobject_cast<const QLineEdit*>(widget) != nullptr ||
+         qobject_cast<const QComboBox*>(widget) != nullptr;
+}
+
+bool IsText(const QKeyEvent& event) {
+  const bool command = event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
+  return !command && event.text().size() == 1 && event.text().at(0).isPrint();
+}
+
+}  // namespace
+
+void FocusNextField(QWidget* from) {
+  QWidget* next = from->nextInFocusChain();
+  while (next != from) {
+    const bool reachable = next->isVisible() && next->isEnabled() && (next->focusPolicy() & Qt::TabFocus);
+    const bool inside = next->focusProxy() != nullptr || from->isAncestorOf(next) || next->isAncestorOf(from);
+    if (reachable && !inside && TakesEntries(next)) {
+      next->setFocus(Qt::TabFocusReason);
+      return;
+    }
+    next = next->nextInFocusChain();
+  }
+}
+
+NumberField::NumberField(const QString& object_name, NumberKind kind, QWidget* parent)
+    : QLineEdit(parent), kind_(kind) {
+  setObjectName(object_name);
+  setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+  setValidator(new NumberShape(kind, this));
+  const QMargins margins = textMargins();
+  const int digits = fontMetrics().horizontalAdvance('0') * kWidthInDigits;
+  setFixedWidth(digits + margins.left() + margins.right() + fontMetrics().height());
+  connect(this, &QLineEdit::textEdited, this, [this](const QString& text) { TakeEdit(text); });
+  connect(this, &QLineEdit::returnPressed, this, [this] { FocusNextField(this); });
+}
+
+void NumberField::TakeEdit(const QString& text) {
+  const std::string typed = ToUtf8(text);
+  const std::optional<double> number = ParseDecimal(typed);
+  unfinished_ = !text.isEmpty() && text != "-" && !number;
+  if (!unfinished_) shown_ = text;
+  if (on_edit_) on_edit_(typed);
+  const bool replaced = number && !(*number > 0.0) && this->text() != text;
+  if (replaced && on_correction_) on_correction_(Correction::kNotPositive, 0);
+}
+
+void NumberField::SetKind(NumberKind kind) {
+  if (kind == kind_) return;
+  kind_ = kind;
+  delete validator();
+  setValidator(new NumberShape(kind, this));
+}
+
+void NumberField::Show(const std::string& text) {
+  const QString wanted = FromUtf8(text);
+  if (unfinished_ && (wanted == shown_ || wanted == this->text())) return;
+  unfinished_ = false;
+  shown_ = wanted;
+  if (wanted != this->text()) setText(wanted);
+}
+
+bool NumberField::TypeKey(QChar key) {
+  if (key == u'.') key = kDecimalSign;
+  const FieldState field{text(), hasSelectedText() ? selectionStart() : cursorPosition(),
+                         static_cast<int>(selectedText().size())};
+  if (kind_ == NumberKind::kArea && key == u'-' &&
+      (field.text.isEmpty() || field.selection_length == field.text.size())) {
+    insert("-");
+    return true;
+  }
+  const QChar passed = kind_ == NumberKind::kInteger
+                           ? IntegerKeyFilter(key, field, false)
+                           : NumericKeyFilter(key, field, kind_ == NumberKind::kTerm, kDecimalSign);
+  if (passed.isNull()) return false;
+  insert(QString(passed));
+  return true;
+}
+
+void NumberField::keyPressEvent(QKeyEvent* event) {
+  if (!IsText(*event) || isReadOnly()) {
+    QLineEdit::keyPressEvent(event);
+    return;
+  }
+  TypeKey(event->text().at(0));
+  event->accept();
+}
+
+void NumberField::Settle() {
+  if (!unfinished_) return;
+  unfinished_ = false;
+  setText(shown_);
+  if (on_edit_) on_edit_(ToUtf8(shown_));
+  if (on_correction_) on_correction_(Correction::kUnfinished, 0);
+}
+
+void NumberField::focusOutEvent(QFocusEvent* event) {
+  QLineEdit::focusOutEvent(event);
+  if (event->reason() == Qt::PopupFocusReason) return;
+  if (on_leave_) on_leave_();
+  Settle();
+}
+
+}  // namespace velmar::shell

@@ -1,0 +1,77 @@
+#pragma once
+
+#include <QMainWindow>
+#include <memory>
+
+#include "shell/commands/calculation_menu.h"
+#include "shell/commands/command_set.h"
+#include "shell/pages/page_context.h"
+#include "shell/project/project_files.h"
+#include "shell/project/recovery.h"
+#include "shell/project/window_memory.h"
+#include "shell/results/open_table.h"
+
+class QMenu;
+class QSplitter;
+class QStackedWidget;
+
+namespace velmar::shell {
+
+class CommandToolBar;
+class ElementHeader;
+class InputTabs;
+class ResultsPanel;
+class StartScreen;
+
+/// The main window (`Form1`): composes commands, pages and results around the one open calculation, and owns
+/// no rule.
+class MainWindow : public QMainWindow {
+ public:
+  /// @param services outlives the window
+  explicit MainWindow(const WindowServices& services, QWidget* parent = nullptr);
+  ~MainWindow() override;
+
+  /// Opens the project file `project` as if it were dropped on the window.
+  void OpenProject(const std::filesystem::path& project);
+  /// Offers work that an earlier run left behind.
+  void OfferRecovery();
+
+ protected:
+  void closeEvent(QCloseEvent* event) override;
+  void dragEnterEvent(QDragEnterEvent* event) override;
+  void dropEvent(QDropEvent* event) override;
+
+ private:
+  void MakeCentre();
+  void Execute(CommandId id);
+  void ExecuteElsewhere(CommandId id);
+  void Choose(elements::Calculation calculation);
+  void Begin(elements::ElementButton button);
+  void ShowAll();
+  void ArrangeSides();
+  void ShowProjects();
+  void Exit(bool asking);
+  void FollowMaterials();
+
+  const WindowServices& services_;
+  MaterialLists materials_;
+  PageContext context_;
+  WindowMemory memory_;
+  Recovery recovery_;
+  ProjectFiles files_;
+  OpenTable table_;
+  CommandSet commands_;
+  CalculationActions calculations_;
+  CommandToolBar* tool_bar_ = nullptr;
+  QMenu* recent_ = nullptr;
+  QStackedWidget* centre_ = nullptr;
+  StartScreen* start_ = nullptr;
+  QSplitter* sides_ = nullptr;
+  ElementHeader* header_ = nullptr;
+  InputTabs* tabs_ = nullptr;
+  ResultsPanel* results_ = nullptr;
+  bool had_result_ = false;
+  bool sides_arranged_ = false;
+};
+
+}  // namespace velmar::shell

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <array>
+#include <vector>
+
+#include "shell/pages/page.h"
+#include "shell/pages/page_context.h"
+
+class QLabel;
+class QRadioButton;
+
+class QVBoxLayout;
+
+namespace velmar::shell {
+
+class ChoiceBox;
+class CountBox;
+class LayerRow;
+class NumberField;
+
+/// The cavity of a double wall: depth, kind, and with "Materiale generico" its layers.
+class CavityPage : public Page {
+ public:
+  explicit CavityPage(PageContext& context, QWidget* parent = nullptr);
+
+  void Show(const elements::Setup& setup) override;
+
+ private:
+  void AddDepth(QVBoxLayout& column);
+  void AddKinds(QVBoxLayout& column);
+  void AddLayers(QVBoxLayout& column);
+  void LeaveDepth();
+
+  PageContext& context_;
+  NumberField* depth_ = nullptr;
+  NumberField* fibre_ = nullptr;
+  std::array<QRadioButton*, 3> kinds_{};
+  CountBox* count_ = nullptr;
+  ChoiceBox* filter_ = nullptr;
+  QWidget* layers_ = nullptr;
+  std::vector<LayerRow*> rows_;
+};
+
+}  // namespace velmar::shell

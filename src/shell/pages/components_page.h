@@ -1,0 +1,44 @@
+#pragma once
+
+#include <vector>
+
+#include "shell/pages/page.h"
+#include "shell/pages/page_context.h"
+
+class QCheckBox;
+class QLabel;
+class QTabWidget;
+
+class QVBoxLayout;
+
+namespace velmar::shell {
+
+class ChoiceBox;
+class CountBox;
+class ElementForm;
+
+/// The components of a facade, one inner tab each.
+class ComponentsPage : public Page {
+ public:
+  explicit ComponentsPage(PageContext& context, QWidget* parent = nullptr);
+
+  void Show(const elements::Setup& setup) override;
+
+ private:
+  struct Component {
+    ElementForm* form = nullptr;
+    ChoiceBox* tightness = nullptr;
+    QLabel* share = nullptr;
+  };
+
+  void AddHead(QVBoxLayout& column);
+  Component AddComponent(int index);
+
+  PageContext& context_;
+  CountBox* count_ = nullptr;
+  QCheckBox* simplified_ = nullptr;
+  QTabWidget* tabs_ = nullptr;
+  std::vector<Component> components_;
+};
+
+}  // namespace velmar::shell

@@ -1,0 +1,200 @@
+#include "shell/pages/element_header.h"
+
+#include <QCheckBox>
+#include <QFont>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+#include "calculation/select_calculation.h"
+#include "foundation/decimal.h"
+#include "shell/fields/icons.h"
+#include "shell/fields/list_boxes.h"
+#include "shell/fields/number_field.h"
+#include "shell/fields/phrases.h"
+#include "shell/pages/page_parts.h"
+
+namespace velmar::shell {
+namespace {
+
+using calculation::SupportField;
+
+constexpr MessageRow kThicknessRow{177};
+constexpr MessageRow kMassRow{217};
+constexpr MessageRow kSupportDistanceRow{77};
+constexpr MessageRow kConnectionsRow{57};
+constexpr MessageRow kHangerRow{76};
+constexpr std::array kHangerRows = {MessageRow{415}, MessageRow{416}, MessageRow{417}};
+constexpr MessageRow kDecoupledRow{414};
+constexpr MessageRow kDimensionsTipRow{312};
+constexpr MessageRow kThicknessTipRow{1330};
+constexpr MessageRow kMassTipRow{1331};
+constexpr MessageRow kSupportTipRow{1332};
+constexpr MessageRow kConnectionsTipRow{1333};
+constexpr MessageRow kHangerTipRow{1334};
+constexpr MessageRow kDecoupledTipRow{1335};
+
+/// The element's name ends in a colon where its label once stood before a field.
+QString WithoutColon(QString text) {
+  if (text.endsWith(':')) text.chop(1);
+  return text;
+}
+
+}  // namespace
+
+ElementHeader::ElementHeader(PageContext& context, std::function<void()> edit_dimensions, QWidget* parent)
+    : QWidget(parent), context_(context) {
+  auto* column = new QVBoxLayout(this);
+  column->setContentsMargins(kPageMargin, kPageSpacing, kPageMargin, kPageSpacing);
+  column->setSpacing(kPageSpacing);
+  AddTexts(*column);
+  AddNumbers(*column, std::move(edit_dimensions));
+  AddConnections(*column);
+}
+
+void ElementHeader::AddTexts(QVBoxLayout& column) {
+  element_type_ = new QLabel(this);
+  element_type_->setObjectName("LabelTeoriaApplicata_0");
+  QFont strong = font();
+  strong.setBold(true);
+  element_type_->setFont(strong);
+  element_type_->setWordWrap(true);
+  theory_ = new QLabel(this);
+  theory_->setObjectName("LabelTeoriaApplicata_1");
+  theory_->setForegroundRole(QPalette::PlaceholderText);
+  theory_->setWordWrap(true);
+  auto* texts = new QVBoxLayout;
+  texts->setSpacing(2);
+  texts->addWidget(element_type_);
+  texts->addWidget(theory_);
+  column.addLayout(texts);
+}
+
+void ElementHeader::AddNumbers(QVBoxLayout& column, std::function<void()> edit_dimensions) {
+  const auto& words = context_.Words();
+  QHBoxLayout* line = AddLine(column);
+  dimensions_ = new QToolButton(this);
+  dimensions_->setIcon(LineIcon("dimensions"));
+  dimensions_->setToolTip(Text(words, kDimensionsTipRow));
+  dimensions_->setAccessibleName(Text(words, kDimensionsTipRow));
+  dimensions_->setAutoRaise(true);
+  dimensions_->setFocusPolicy(Qt::TabFocus);
+  connect(dimensions_, &QToolButton::clicked, this, std::move(edit_dimensions));
+  const auto named = [this](const char* name) {
+    auto* label = new QLabel(this);
+    label->setObjectName(name);
+    return label;
+  };
+  width_ = named("Text1");
+  height_ = named("Text2");
+  line->addWidget(dimensions_);
+  line->addWidget(width_);
+  auto* times = new QLabel(QStringLiteral("×"), this);
+  dimension_labels_ = {width_, times, height_};
+  line->addWidget(times);
+  line->addWidget(height_);
+  area_ = named("LabelArea");
+  line->addWidget(area_);
+  line->addSpacing(3 * kPageSpacing);
+
+  totals_ = new QWidget(this);
+  auto* totals = new QHBoxLayout(totals_);
+  totals->setContentsMargins(0, 0, 0, 0);
+  totals->setSpacing(kPageSpacing);
+  const auto add_total = [&](const char* name, MessageRow caption, MessageRow tip) {
+    auto* value = new QLabel(totals_);
+    value->setObjectName(name);
+    value->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    QFont strong = font();
+    strong.setBold(true);
+    value->setFont(strong);
+    auto* label = new QLabel(Text(words, caption), totals_);
+    label->setToolTip(Text(words, tip));
+    value->setToolTip(Text(words, tip));
+    totals->addWidget(label);
+    totals->addWidget(value);
+    totals->addSpacing(2 * kPageSpacing);
+    return value;
+  };
+  thickness_ = add_total("Text3", kThicknessRow, kThicknessTipRow);
+  mass_ = add_total("Text4", kMassRow, kMassTipRow);
+  line->addWidget(totals_);
+  line->addStretch(1);
+}
+
+void ElementHeader::AddConnections(QVBoxLayout& column) {
+  const auto& words = context_.Words();
+  connections_ = new QWidget(this);
+  connections_->setObjectName("Frame3");
+  auto* line = new QHBoxLayout(connections_);
+  line->setContentsMargins(0, 0, 0, 0);
+  line->setSpacing(kPageSpacing);
+  support_ = new NumberField("Text8", NumberKind::kReal, connections_);
+  support_->OnEdit([this](const std::string& text) {
+    context_.open.Edit([&](elements::Setup& setup) { setup.support_distance_text = text; });
+  });
+  support_label_ = LabelFor(support_, kSupportDistanceRow, context_, connections_);
+  hanger_ = new ChoiceBox("ComboTipoAppendino", connections_);
+  QStringList hangers;
+  for (const MessageRow row : kHangerRows) hangers += Text(words, row);
+  hanger_->Offer(hangers);
+  hanger_->setToolTip(Text(words, kHangerTipRow));
+  hanger_->setAccessibleDescription(Text(words, kHangerRow));
+  hanger_->OnChoice(
+      [this](int index) { context_.open.Edit([index](elements::Setup& setup) { setup.hanger = index; }); });
+  hanger_label_ = LabelFor(hanger_, kHangerRow, context_, connections_);
+  decoupled_ = new QCheckBox(Text(words, kDecoupledRow), connections_);
+  decoupled_->setObjectName("CheckDesolidarizza");
+  decoupled_->setToolTip(Text(words, kDecoupledTipRow));
+  connect(decoupled_, &QCheckBox::clicked, this, [this](bool ticked) {
+    context_.open.Edit([ticked](elements::Setup& setup) { setup.decoupled = ticked; });
+  });
+  for (QWidget* widget : {static_cast<QWidget*>(support_label_), static_cast<QWidget*>(support_),
+                          static_cast<QWidget*>(hanger_label_), static_cast<QWidget*>(hanger_),
+                          static_cast<QWidget*>(decoupled_)})
+    line->addWidget(widget);
+  line->addStretch(1);
+  column.addWidget(connections_);
+}
+
+void ElementHeader::Show() {
+  const elements::Setup& setup = context_.open.Setup();
+  if (!setup.calculation) return;
+  const elements::CalculationRow& row = RowOf(*setup.calculation);
+  const calculation::FieldLayout layout = calculation::LayoutOf(*setup.calculation);
+  const auto& words = context_.Words();
+  element_type_->setText(WithoutColon(Text(words, row.element_type.Line())));
+  theory_->setText(Text(words, row.theory.Line()));
+  width_->setText(FromUtf8(setup.width_text));
+  height_->setText(FromUtf8(setup.height_text) + " m");
+  const calculation::Totals& totals = context_.open.CurrentTotals();
+  thickness_->setText(FromUtf8(FormatShortest(totals.thickness_mm)));
+  mass_->setText(FromUtf8(FormatShortest(totals.surface_mass_kg_m2)));
+  // A facade has an area, which is entered on its own page too, and no layers.
+  const bool facade = row.family == elements::Family::kFacade;
+  totals_->setVisible(!facade);
+  for (QWidget* widget : dimension_labels_) widget->setVisible(!facade);
+  const QString area = FromUtf8(setup.base.area_text);
+  area_->setText(area + QStringLiteral(" m²"));
+  area_->setVisible(facade && !area.isEmpty());
+
+  const bool support = layout.support != SupportField::kHidden;
+  const bool counts =
+      layout.support == SupportField::kPointConnections || layout.support == SupportField::kLineConnections;
+  support_->SetKind(counts ? NumberKind::kInteger : NumberKind::kReal);
+  support_->Show(setup.support_distance_text);
+  support_label_->setText(Text(words, counts ? kConnectionsRow : kSupportDistanceRow));
+  support_->setAccessibleName(support_label_->text());
+  support_->setToolTip(Text(words, counts ? kConnectionsTipRow : kSupportTipRow));
+  support_label_->setVisible(support);
+  support_->setVisible(support);
+  hanger_->Show(setup.hanger);
+  hanger_label_->setVisible(layout.hanger_shown);
+  hanger_->setVisible(layout.hanger_shown);
+  decoupled_->setChecked(setup.decoupled);
+  decoupled_->setVisible(layout.decoupling_shown);
+  connections_->setVisible(support || layout.hanger_shown || layout.decoupling_shown);
+}
+
+}  // namespace velmar::shell

@@ -1,0 +1,81 @@
+#include "shell/pages/element_name.h"
+
+#include <QHBoxLayout>
+#include <QPushButton>
+#include <QToolButton>
+
+#include "shell/fields/icons.h"
+#include "shell/fields/name_box.h"
+#include "shell/fields/phrases.h"
+#include "shell/pages/element_parts.h"
+
+namespace velmar::shell {
+namespace {
+
+constexpr MessageRow kMeasuredRow{97};
+constexpr MessageRow kSavedResultsRow{374};
+constexpr MessageRow kOpaquePartRow{260};
+constexpr MessageRow kComponentRow{378};
+
+}  // namespace
+
+ElementName::ElementName(int element, const ElementSourceNames& names, PageContext& context, QWidget* parent)
+    : QWidget(parent), element_(element), context_(context) {
+  name_ = new NameBox(names.name, context_.services.saved_results, this);
+  name_->OnName([this](const std::string& name) { TakeName(name); });
+  setFocusProxy(name_);
+  auto* line = new QHBoxLayout(this);
+  line->setContentsMargins(0, 0, 0, 0);
+  line->addWidget(name_, 1);
+  line->addWidget(MakeChooser(names.chooser));
+  line->addWidget(MakeMeasured(names.measured));
+}
+
+void ElementName::Show(const elements::Setup& setup) {
+  Visited(setup, element_, [this](const auto& element) { name_->Show(element.name); });
+}
+
+QToolButton* ElementName::MakeChooser(const QString& name) {
+  const QString words = Text(context_.Words(), kSavedResultsRow);
+  auto* chooser = new QToolButton(this);
+  chooser->setObjectName(name);
+  chooser->setIcon(LineIcon("list"));
+  chooser->setAutoRaise(true);
+  chooser->setFocusPolicy(Qt::TabFocus);
+  chooser->setToolTip(words);
+  chooser->setAccessibleName(words);
+  chooser->setEnabled(static_cast<bool>(context_.services.pick_saved_result));
+  connect(chooser, &QToolButton::clicked, this, [this, chooser, words] {
+    const auto& pick = context_.services.pick_saved_result;
+    if (pick) pick(chooser->window(), {element_, words});
+  });
+  return chooser;
+}
+
+QPushButton* ElementName::MakeMeasured(const QString& name) {
+  auto* measured = new QPushButton(Text(context_.Words(), kMeasuredRow), this);
+  measured->setObjectName(name);
+  measured->setEnabled(static_cast<bool>(context_.services.pick_measured));
+  connect(measured, &QPushButton::clicked, this, [this] {
+    const auto& pick = context_.services.pick_measured;
+    const QString caption =
+        element_ == 0 ? Text(context_.Words(), kOpaquePartRow) + ':'
+                      : Text(context_.Words(), kComponentRow) + ' ' + QString::number(element_) + ':';
+    if (pick) pick(window(), {element_, caption});
+  });
+  return measured;
+}
+
+void ElementName::TakeName(const std::string& name) {
+  const auto& read = context_.services.saved_result;
+  const std::optional<calculation::FacadePart> part = read ? read(name) : std::nullopt;
+  context_.open.Edit([&](elements::Setup& setup) {
+    if (part) {
+      TakePart(setup, element_, *part);
+    } else {
+      Visited(setup, element_, [&](auto& element) { element.name = name; });
+    }
+  });
+}
+
+}  // namespace velmar::shell

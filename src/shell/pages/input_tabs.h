@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QTabWidget>
+#include <array>
+#include <optional>
+
+#include "shell/pages/page_context.h"
+#include "shell/pages/tab_layout.h"
+
+namespace velmar::shell {
+
+class Page;
+
+/// The tab strip with the input pages (`SSTab1`). Each calculation shows its own tabs; Ctrl+1 to Ctrl+9 reach
+/// them in their order.
+class InputTabs : public QTabWidget {
+ public:
+  explicit InputTabs(PageContext& context, QWidget* parent = nullptr);
+
+  /// Shows the pages of the calculation that is chosen, and `setup` in them.
+  void Show(const elements::Setup& setup);
+  /// The next Show() begins at the first tab, as after a choice of calculation.
+  void LayOutAnew() { laid_out_.reset(); }
+  void ShowFirst();
+
+ private:
+  void AddKeys();
+  void LayOut(elements::Calculation calculation);
+
+  PageContext& context_;
+  std::array<Page*, kTabCount> pages_{};
+  std::optional<elements::Calculation> laid_out_;
+};
+
+}  // namespace velmar::shell

@@ -1,0 +1,218 @@
+#include "shell/pages/layer_row.h"
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QDrag>
+#include <QEvent>
+#include <QGridLayout>
+#include <QLabel>
+#include <QMouseEvent>
+#include <QToolButton>
+
+#include "calculation/layer_edits.h"
+#include "foundation/decimal.h"
+#include "shell/fields/icons.h"
+#include "shell/fields/list_boxes.h"
+#include "shell/fields/material_box.h"
+#include "shell/fields/number_field.h"
+#include "shell/fields/phrases.h"
+
+namespace velmar::shell {
+namespace {
+
+constexpr MessageRow kMaterialRow{88};
+constexpr MessageRow kThicknessRow{85};
+constexpr MessageRow kSheetsRow{86};
+constexpr MessageRow kChooserTipRow{362};
+constexpr MessageRow kLeftSideRow{89};
+constexpr MessageRow kRightSideRow{90};
+constexpr MessageRow kDampingRow{122};
+constexpr MessageRow kThicknessTipRow{1340};
+constexpr MessageRow kSheetsTipRow{1341};
+constexpr int kMostSheetsOffered = 10;
+constexpr int kGroupsOfTwo = 2;
+
+bool Knows(const elements::MaterialLookup& materials, elements::MaterialFamily family,
+           const std::string& name) {
+  switch (family) {
+    case elements::MaterialFamily::kStructural:
+      return materials.structural(name).has_value();
+    case elements::MaterialFamily::kFibrous:
+      return materials.fibrous(name).has_value();
+    case elements::MaterialFamily::kResilient:
+      return materials.resilient(name).has_value();
+  }
+  return false;
+}
+
+MessageRow CheckCaption(const LayerRowPlan& plan) {
+  if (plan.group == elements::LayerGroup::kSeaCavityDamping) return kDampingRow;
+  return plan.index % kGroupsOfTwo == 0 ? kLeftSideRow : kRightSideRow;
+}
+
+QLabel* Head(const QString& text, Qt::Alignment alignment, QWidget* page) {
+  auto* head = new QLabel(text, page);
+  head->setAlignment(alignment | Qt::AlignBottom);
+  head->setForegroundRole(QPalette::PlaceholderText);
+  return head;
+}
+
+}  // namespace
+
+LayerRow::LayerRow(const LayerRowPlan& plan, PageContext& context, QGridLayout& grid, int line, QWidget* page)
+    : QObject(page), plan_(plan), context_(context) {
+  MakeLead(page);
+  MakeFields(page);
+  MoveTo(grid, line);
+  ForEachWidget([this](QWidget* widget) { widget->installEventFilter(this); });
+  context_.on_section_hover.emplace_back([this](const std::optional<presentation::LayerPlace>& place) {
+    Light(place == presentation::LayerPlace{plan_.group, plan_.index});
+  });
+}
+
+void LayerRow::Light(bool lit) {
+  QWidget* lead = number_ != nullptr ? static_cast<QWidget*>(number_) : check_;
+  lead->setAutoFillBackground(lit);
+  lead->setBackgroundRole(lit ? QPalette::Highlight : QPalette::NoRole);
+  lead->setForegroundRole(lit ? QPalette::HighlightedText : QPalette::NoRole);
+}
+
+void LayerRow::MakeLead(QWidget* page) {
+  const auto& words = context_.Words();
+  if (plan_.check != nullptr) {
+    check_ = new QCheckBox(Text(words, CheckCaption(plan_)), page);
+    check_->setObjectName(ArrayName(plan_.check, plan_.index));
+    connect(check_, &QCheckBox::clicked, this, [this](bool ticked) {
+      context_.open.Edit(
+          [&](elements::Setup& setup) { calculation::TickDamping(setup, plan_.group, plan_.index, ticked); });
+    });
+    return;
+  }
+  number_ = new QLabel(plan_.label.isEmpty() ? QString::number(plan_.index + 1) : plan_.label, page);
+  number_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+  number_->setCursor(Qt::OpenHandCursor);
+}
+
+void LayerRow::MakeFields(QWidget* page) {
+  const elements::LayerGroupRow& group = RowOf(plan_.group);
+  const auto& words = context_.Words();
+  const QString row = ' ' + QString::number(plan_.index + 1);
+
+  material_ = new MaterialBox(ArrayName(group.list, plan_.index), group.family,
+                              context_.materials.NamesOf(plan_.group), page);
+  material_->setAccessibleDescription(Text(words, kMaterialRow) + row);
+  material_->OnChoice([this](const std::string& name) { PutMaterial(name); });
+
+  thickness_ = new NumberField(ArrayName(group.thickness_box, plan_.index), NumberKind::kReal, page);
+  thickness_->setAccessibleName(Text(words, kThicknessRow) + row);
+  thickness_->setToolTip(Text(words, kThicknessTipRow));
+  thickness_->OnEdit([this](const std::string& text) {
+    context_.open.Edit([&](elements::Setup& setup) {
+      calculation::EnterLayerThickness(setup, plan_.group, plan_.index, text);
+    });
+  });
+
+  if (plan_.count_box != nullptr) {
+    sheets_ = new CountBox(ArrayName(plan_.count_box, plan_.index), 1, kMostSheetsOffered, page);
+    sheets_->setAccessibleDescription(Text(words, kSheetsRow) + row);
+    sheets_->setToolTip(Text(words, kSheetsTipRow));
+    sheets_->OnEdit([this](const std::string& text) {
+      context_.open.Edit([&](elements::Setup& setup) {
+        calculation::EnterMultiplicity(setup, plan_.group, plan_.index, text);
+      });
+    });
+  }
+
+  chooser_ = new QToolButton(page);
+  chooser_->setObjectName(ArrayName(group.chooser_button, plan_.index));
+  chooser_->setIcon(LineIcon("list"));
+  chooser_->setAutoRaise(true);
+  chooser_->setFocusPolicy(Qt::TabFocus);
+  chooser_->setToolTip(Text(words, kChooserTipRow));
+  chooser_->setAccessibleName(Text(words, kChooserTipRow) + row);
+  connect(chooser_, &QToolButton::clicked, this, [this] {
+    const auto& pick = context_.services.pick_material;
+    if (pick) pick(chooser_->window(), {plan_.group, plan_.index});
+  });
+  chooser_->setEnabled(static_cast<bool>(context_.services.pick_material));
+}
+
+void LayerRow::MoveTo(QGridLayout& grid, int line) {
+  if (check_ != nullptr) grid.addWidget(check_, line, kLeadColumn);
+  if (number_ != nullptr) grid.addWidget(number_, line, kLeadColumn);
+  grid.addWidget(material_, line, kMaterialColumn);
+  grid.addWidget(thickness_, line, kThicknessColumn);
+  if (sheets_ != nullptr) grid.addWidget(sheets_, line, kSheetsColumn);
+  grid.addWidget(chooser_, line, kChooserColumn);
+}
+
+template <typename Visit>
+void LayerRow::ForEachWidget(Visit&& visit) const {
+  const std::array<QWidget*, 6> widgets = {check_, number_, material_, thickness_, sheets_, chooser_};
+  for (QWidget* widget : widgets) {
+    if (widget != nullptr) visit(widget);
+  }
+}
+
+void LayerRow::PutMaterial(const std::string& name) {
+  if (!Knows(context_.services.materials, RowOf(plan_.group).family, name)) return;
+  context_.open.Edit([&](elements::Setup& setup) {
+    calculation::PutMaterial(setup, plan_.group, plan_.index, name, context_.services.materials);
+  });
+}
+
+void LayerRow::Show(const elements::Setup& setup, bool visible) {
+  ForEachWidget([visible](QWidget* widget) { widget->setVisible(visible); });
+  if (!visible) return;
+  const calculation::LayerText row = calculation::LayerTextOf(setup, plan_.group, plan_.index);
+  material_->Show(row.listed);
+  thickness_->Show(row.thickness_text);
+  // An emptied box leaves the thickness as it was; the box says in grey what that is.
+  const bool known = row.slot_thickness_mm > 0.0;
+  thickness_->setPlaceholderText(known ? FromUtf8(FormatShortest(row.slot_thickness_mm)) : QString());
+  if (sheets_ != nullptr) sheets_->Show(std::to_string(row.multiplicity));
+  if (check_ == nullptr) return;
+  const bool ticked = calculation::DampingOf(setup, plan_.group, plan_.index).ticked;
+  check_->setChecked(ticked);
+  material_->setEnabled(ticked);
+  thickness_->setEnabled(ticked);
+  chooser_->setEnabled(ticked && context_.services.pick_material);
+}
+
+bool LayerRow::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::Enter && context_.on_hover) {
+    context_.on_hover(presentation::LayerPlace{plan_.group, plan_.index});
+  } else if (event->type() == QEvent::Leave && context_.on_hover) {
+    context_.on_hover(std::nullopt);
+  } else if (event->type() == QEvent::MouseMove && watched == number_) {
+    if (static_cast<QMouseEvent*>(event)->buttons() & Qt::LeftButton) Drag();
+  }
+  return QObject::eventFilter(watched, event);
+}
+
+void LayerRow::Drag() {
+  auto* drag = new QDrag(number_);
+  drag->setMimeData(ToMime({RowOf(plan_.group).family, material_->currentText()}));
+  drag->exec(Qt::CopyAction);
+}
+
+std::vector<QWidget*> AddLayerHeads(QGridLayout& grid, int line, const PageContext& context, bool with_sheets,
+                                    QWidget* page) {
+  const auto& words = context.Words();
+  QString material = Text(words, kMaterialRow);
+  if (material.endsWith(':')) material.chop(1);
+  std::vector<QWidget*> heads;
+  const auto add = [&](const QString& text, Qt::Alignment alignment, int column) {
+    heads.push_back(Head(text, alignment, page));
+    grid.addWidget(heads.back(), line, column);
+  };
+  add(material, Qt::AlignLeft, LayerRow::kMaterialColumn);
+  add(Text(words, kThicknessRow), Qt::AlignRight, LayerRow::kThicknessColumn);
+  if (with_sheets) add(Text(words, kSheetsRow), Qt::AlignRight, LayerRow::kSheetsColumn);
+  grid.setColumnStretch(LayerRow::kMaterialColumn, 1);
+  grid.setHorizontalSpacing(8);
+  grid.setVerticalSpacing(6);
+  return heads;
+}
+
+}  // namespace velmar::shell

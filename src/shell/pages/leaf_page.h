@@ -1,0 +1,34 @@
+#pragma once
+
+#include <vector>
+
+#include "shell/pages/page.h"
+#include "shell/pages/page_context.h"
+
+namespace velmar::shell {
+
+class ChoiceBox;
+class CountBox;
+class LayerRow;
+
+/// The layers of a leaf, a bearing floor or a screed: count, keyword filter, up to ten rows. The same page
+/// serves both leaves.
+class LeafPage : public Page {
+ public:
+  enum class Leaf { kFirst, kSecond };
+
+  LeafPage(Leaf leaf, PageContext& context, QWidget* parent = nullptr);
+
+  void Show(const elements::Setup& setup) override;
+
+ private:
+  const elements::LeafLayers& Layers(const elements::Setup& setup) const;
+
+  Leaf leaf_;
+  PageContext& context_;
+  CountBox* count_ = nullptr;
+  ChoiceBox* filter_ = nullptr;
+  std::vector<LayerRow*> rows_;
+};
+
+}  // namespace velmar::shell

@@ -1,0 +1,68 @@
+#include "shell/pages/page_parts.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QVBoxLayout>
+
+#include "shell/fields/list_boxes.h"
+#include "shell/fields/phrases.h"
+
+namespace velmar::shell {
+namespace {
+
+constexpr MessageRow kCountRow{83};
+
+}  // namespace
+
+QVBoxLayout* PageLayout(QWidget* page) {
+  auto* column = new QVBoxLayout(page);
+  column->setContentsMargins(kPageMargin, kPageMargin, kPageMargin, kPageMargin);
+  column->setSpacing(kPageSpacing);
+  return column;
+}
+
+QHBoxLayout* AddLine(QVBoxLayout& column) {
+  auto* line = new QHBoxLayout;
+  line->setSpacing(kPageSpacing);
+  column.addLayout(line);
+  return line;
+}
+
+QLabel* LabelFor(QWidget* field, MessageRow row, const PageContext& context, QWidget* page) {
+  auto* label = new QLabel(Text(context.Words(), row), page);
+  label->setBuddy(field);
+  return label;
+}
+
+TableHead AddTableHead(const TableHeadPlan& plan, PageContext& context, QVBoxLayout& column, QWidget* page) {
+  TableHead head;
+  QHBoxLayout* line = AddLine(column);
+  head.count = new CountBox(plan.count_name, plan.lowest, plan.highest, page);
+  head.count->setAccessibleDescription(Text(context.Words(), kCountRow));
+  head.count_label = LabelFor(head.count, kCountRow, context, page);
+  line->addWidget(head.count_label);
+  line->addWidget(head.count);
+  line->addSpacing(2 * kPageSpacing);
+  if (!plan.filter_name.isEmpty()) {
+    head.filter = new ChoiceBox(plan.filter_name, page);
+    head.filter->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+    head.filter->setAccessibleDescription(Text(context.Words(), plan.filter_label));
+    head.filter_label = LabelFor(head.filter, plan.filter_label, context, page);
+    ChoiceBox* box = head.filter;
+    MaterialLists* lists = &context.materials;
+    const FilterId filter = plan.filter;
+    box->OnChoice([box, lists, filter](int index) { lists->Choose(filter, box->itemText(index)); });
+    line->addWidget(head.filter_label);
+    line->addWidget(box);
+  }
+  line->addStretch(1);
+  return head;
+}
+
+void ShowFilter(ChoiceBox& box, FilterId filter, const PageContext& context) {
+  const QStringList keywords = context.materials.Keywords(filter);
+  box.Offer(keywords);
+  box.Show(static_cast<int>(keywords.indexOf(context.materials.Keyword(filter))));
+}
+
+}  // namespace velmar::shell

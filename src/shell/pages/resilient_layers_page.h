@@ -1,0 +1,29 @@
+#pragma once
+
+#include <vector>
+
+#include "shell/pages/page.h"
+#include "shell/pages/page_context.h"
+
+namespace velmar::shell {
+
+class ChoiceBox;
+class CountBox;
+class LayerRow;
+
+/// The resilient layers under a floating screed: none to ten.
+class ResilientLayersPage : public Page {
+ public:
+  explicit ResilientLayersPage(PageContext& context, QWidget* parent = nullptr);
+
+  void Show(const elements::Setup& setup) override;
+
+ private:
+  PageContext& context_;
+  CountBox* count_ = nullptr;
+  ChoiceBox* filter_ = nullptr;
+  std::vector<LayerRow*> rows_;
+  std::vector<QWidget*> heads_;
+};
+
+}  // namespace velmar::shell

@@ -1,0 +1,54 @@
+#pragma once
+
+#include <filesystem>
+#include <functional>
+#include <vector>
+
+#include "shell/pages/window_services.h"
+#include "shell/project/recovery.h"
+#include "shell/project/window_memory.h"
+
+namespace velmar::shell {
+
+/// Opening and saving of the project, with its questions; the project's name in the window's caption.
+class ProjectFiles {
+ public:
+  ProjectFiles(const WindowServices& services, WindowMemory& memory, Recovery& recovery);
+
+  /// Asks about unsaved changes, asks for a file, opens it. @return whether a project was opened
+  bool Open();
+  /// The same for a file that is named already: recent, dropped, or from the command line.
+  bool Open(const std::filesystem::path& project);
+  /// Asks for a file and saves. @return whether it was saved
+  bool Save();
+  /// Asks about unsaved changes. @return whether the window may go on
+  bool LeaveUnsaved();
+
+  /// Offers unsaved work that an earlier run left behind. @return whether it was taken
+  bool OfferRecovery();
+
+  /// "VELMARpro - Calcolo previsionale elementi - Nuovo".
+  QString Caption() const;
+  /// The open project's file; empty for none.
+  const std::filesystem::path& File() const { return project_; }
+
+  /// `on_change` is called when the project's name changes.
+  void OnChange(std::function<void()> on_change) { on_change_ = std::move(on_change); }
+
+ private:
+  bool Load(const std::filesystem::path& file);
+  void Rename(std::filesystem::path project);
+  void TellFailure(const std::exception& failure) const;
+  bool MayGoOn();
+
+  const WindowServices& services_;
+  WindowMemory& memory_;
+  Recovery& recovery_;
+  std::filesystem::path project_;
+  std::function<void()> on_change_;
+};
+
+/// The project files in `folder` by name; none when it cannot be read.
+std::vector<std::filesystem::path> ProjectsIn(const std::filesystem::path& folder);
+
+}  // namespace velmar::shell

@@ -1,0 +1,65 @@
+#include "shell/project/window_memory.h"
+
+#include <QMainWindow>
+#include <QSettings>
+#include <QSplitter>
+#include <QStringList>
+
+namespace velmar::shell {
+namespace {
+
+constexpr const char* kRecentKey = "recenti";
+constexpr const char* kGeometryKey = "finestra/posizione";
+constexpr const char* kSidesKey = "finestra/lati";
+constexpr const char* kResultsKey = "finestra/risultati";
+constexpr int kMostRemembered = 10;
+
+QString ToQt(const std::filesystem::path& path) { return QString::fromStdString(path.string()); }
+
+}  // namespace
+
+std::vector<std::filesystem::path> WindowMemory::RecentProjects() const {
+  std::vector<std::filesystem::path> projects;
+  if (file_.empty()) return projects;
+  for (const QString& path : QSettings(ToQt(file_), QSettings::IniFormat).value(kRecentKey).toStringList()) {
+    std::error_code error;
+    if (std::filesystem::path project = path.toStdString(); std::filesystem::exists(project, error))
+      projects.push_back(std::move(project));
+  }
+  return projects;
+}
+
+void WindowMemory::Remember(const std::filesystem::path& project) {
+  if (file_.empty()) return;
+  std::error_code error;
+  const std::filesystem::path whole = std::filesystem::absolute(project, error);
+  QSettings settings(ToQt(file_), QSettings::IniFormat);
+  QStringList paths = settings.value(kRecentKey).toStringList();
+  paths.removeAll(ToQt(whole));
+  paths.prepend(ToQt(whole));
+  settings.setValue(kRecentKey, paths.mid(0, kMostRemembered));
+}
+
+void WindowMemory::ForgetProjects() {
+  if (!file_.empty()) QSettings(ToQt(file_), QSettings::IniFormat).remove(kRecentKey);
+}
+
+void WindowMemory::SaveSizes(const QMainWindow& window, const QSplitter& sides,
+                             const QSplitter& results) const {
+  if (file_.empty()) return;
+  QSettings settings(ToQt(file_), QSettings::IniFormat);
+  settings.setValue(kGeometryKey, window.saveGeometry());
+  settings.setValue(kSidesKey, sides.saveState());
+  settings.setValue(kResultsKey, results.saveState());
+}
+
+bool WindowMemory::RestoreSizes(QMainWindow& window, QSplitter& sides, QSplitter& results) const {
+  if (file_.empty()) return false;
+  const QSettings settings(ToQt(file_), QSettings::IniFormat);
+  const bool known = window.restoreGeometry(settings.value(kGeometryKey).toByteArray());
+  sides.restoreState(settings.value(kSidesKey).toByteArray());
+  results.restoreState(settings.value(kResultsKey).toByteArray());
+  return known;
+}
+
+}  // namespace velmar::shell

@@ -1,0 +1,224 @@
+#include "shell/results/results_panel.h"
+
+#include <QCheckBox>
+#include <QFont>
+#include <QFrame>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QSplitter>
+#include <QVBoxLayout>
+#include <tuple>
+
+#include "calculation/select_calculation.h"
+#include "foundation/decimal.h"
+#include "foundation/rounding.h"
+#include "presentation/drawing/curve_chart.h"
+#include "shell/fields/phrases.h"
+#include "shell/pages/page_parts.h"
+#include "shell/results/chart_view.h"
+#include "shell/results/section_view.h"
+
+namespace velmar::shell {
+namespace {
+
+constexpr MessageRow kNoResultRow{232};
+constexpr MessageRow kAutoscaleRow{73};
+constexpr MessageRow kSectionRow{74};
+constexpr const char* kPanel = "prnFrame1";
+constexpr MessageRow kRatingsOnlyRow{1022};
+constexpr MessageRow kLiningTermsTipRow{1351};
+constexpr double kRatingScale = 2.4;
+constexpr double kTermScale = 1.25;
+// Symbols of the ratings, the same in every language.
+constexpr const char* kRwName = "Rw = ";
+constexpr const char* kLnwName = "Ln,w =";
+constexpr const char* kImprovementName = "ΔRw =";
+constexpr const char* kImpactName = "DLw =";
+
+QString Whole(double value) { return FromUtf8(FormatShortest(RoundToEven(value))); }
+QString Decibels(const std::optional<double>& value) {
+  return value ? Whole(*value) + QStringLiteral(" dB") : QString();
+}
+QString Term(const char* name, const std::optional<double>& value) {
+  return value ? QString(name) + "= " + Whole(*value) + " dB" : QString(name) + '=';
+}
+
+QLabel* Named(const char* name, QWidget* parent) {
+  auto* label = new QLabel(parent);
+  label->setObjectName(name);
+  label->setTextInteractionFlags(Qt::TextSelectableByMouse);
+  return label;
+}
+
+QFont Enlarged(QFont font, double scale) {
+  font.setPointSizeF(font.pointSizeF() * scale);
+  font.setBold(true);
+  return font;
+}
+
+/// A name and the number behind it, which come and go together.
+std::pair<QWidget*, QLabel*> MakePair(const char* frame_name, const std::pair<const char*, const char*>& name,
+                                      const char* value_name, QWidget* parent) {
+  auto* frame = new QWidget(parent);
+  frame->setObjectName(frame_name);
+  auto* line = new QHBoxLayout(frame);
+  line->setContentsMargins(0, 0, 0, 0);
+  QLabel* label = Named(name.first, frame);
+  label->setText(name.second);
+  QLabel* value = Named(value_name, frame);
+  line->addWidget(label);
+  line->addWidget(value);
+  return {frame, value};
+}
+
+}  // namespace
+
+ResultsPanel::ResultsPanel(const PageContext& context, QWidget* parent) : QWidget(parent), context_(context) {
+  setObjectName(kPanel);
+  auto* column = new QVBoxLayout(this);
+  column->setContentsMargins(kPageSpacing, kPageSpacing, kPageSpacing, kPageSpacing);
+  column->addWidget(MakeRatings());
+  splitter_ = new QSplitter(Qt::Vertical, this);
+  splitter_->addWidget(MakeChart());
+  splitter_->addWidget(MakeSection());
+  splitter_->setStretchFactor(0, 3);
+  splitter_->setStretchFactor(1, 2);
+  splitter_->setChildrenCollapsible(false);
+  column->addWidget(splitter_, 1);
+}
+
+QWidget* ResultsPanel::MakeRatings() {
+  auto* frame = new QWidget(this);
+  auto* line = new QHBoxLayout(frame);
+  line->setContentsMargins(kPageSpacing, 0, kPageSpacing, 0);
+  line->setSpacing(0);
+  const QFont large = Enlarged(font(), kRatingScale);
+  rating_name_ = Named("LabelRw", frame);
+  rating_ = Named("Label4", frame);
+  rating_->setFont(large);
+  rating_name_->setFont(large);
+  // The place keeps its height when the rating goes, so that nothing moves.
+  frame->setMinimumHeight(QFontMetrics(large).height() + kPageSpacing);
+  due_ = Named("LabelEseguire", frame);
+  due_->setText(Text(context_.Words(), kNoResultRow));
+  due_->setForegroundRole(QPalette::PlaceholderText);
+  for (QLabel* label : {rating_name_, rating_, due_}) line->addWidget(label);
+  c_ = Named("Label48_0", frame);
+  ctr_ = Named("Label48_1", frame);
+  std::tie(improvement_frame_, improvement_) =
+      MakePair("FrameDrw", {"LabelDrw_0", kImprovementName}, "LabelDrw_1", frame);
+  std::tie(impact_frame_, impact_improvement_) =
+      MakePair("Frame6", {"LabelDlw", kImpactName}, "Label20", frame);
+  for (QWidget* widget :
+       {static_cast<QWidget*>(c_), static_cast<QWidget*>(ctr_), improvement_frame_, impact_frame_}) {
+    widget->setFont(Enlarged(font(), kTermScale));
+    // Within the widget, so that one that is hidden leaves no gap.
+    widget->setContentsMargins(3 * kPageSpacing, 0, 0, 0);
+    line->addWidget(widget);
+  }
+  line->addStretch(1);
+  return frame;
+}
+
+QWidget* ResultsPanel::MakeChart() {
+  auto* frame = new QWidget(this);
+  auto* column = new QVBoxLayout(frame);
+  column->setContentsMargins(0, 0, 0, 0);
+  column->setSpacing(4);
+  const auto choose = context_.services.boxes.choose_file_to_save;
+  chart_ = new ChartView(
+      context_.Words(),
+      [choose](const QString& title, const QString& filter) {
+        return choose ? choose({.title = title, .filter = filter}) : QString();
+      },
+      [tell = context_.services.boxes.tell](const QString& text) { tell(Tone::kCritical, text); }, frame);
+  autoscale_ = new QCheckBox(Text(context_.Words(), kAutoscaleRow), frame);
+  autoscale_->setObjectName("Check3");
+  connect(autoscale_, &QCheckBox::clicked, this, [this] { ShowChart(); });
+  column->addWidget(chart_, 1);
+  column->addWidget(autoscale_, 0, Qt::AlignRight);
+  return frame;
+}
+
+QWidget* ResultsPanel::MakeSection() {
+  section_frame_ = new QWidget(this);
+  auto* column = new QVBoxLayout(section_frame_);
+  column->setContentsMargins(0, 0, 0, 0);
+  column->setSpacing(4);
+  auto* heading = new QLabel(Text(context_.Words(), kSectionRow), section_frame_);
+  heading->setObjectName("Label10_0");
+  heading->setForegroundRole(QPalette::PlaceholderText);
+  section_ = new SectionView(section_frame_);
+  column->addWidget(heading);
+  column->addWidget(section_, 1);
+  return section_frame_;
+}
+
+void ResultsPanel::Show() {
+  const elements::Setup& setup = context_.open.Setup();
+  if (!setup.calculation) return;
+  const auto& result = context_.open.Result();
+  ShowRatings(setup, result ? &*result : nullptr);
+  ShowChart();
+  section_frame_->setVisible(RowOf(*setup.calculation).family != elements::Family::kFacade);
+  section_->Show(presentation::SectionOf(setup));
+}
+
+void ResultsPanel::ShowRatings(const elements::Setup& setup, const elements::ResultSet* result) {
+  const elements::Calculation calculation = *setup.calculation;
+  const bool impact = RowOf(calculation).family == elements::Family::kImpact;
+  const bool rated = result != nullptr;
+  const elements::ResultSet none;
+  const elements::ResultSet& shown = rated ? *result : none;
+  rating_name_->setText(impact ? kLnwName : kRwName);
+  // "Rw = " ends in the blank that "Ln,w =" has not.
+  const int blank = impact ? rating_->fontMetrics().horizontalAdvance(' ') : 0;
+  rating_->setContentsMargins(blank, 0, 0, 0);
+  rating_->setText(Decibels(impact ? shown.lnw : shown.rw));
+  rating_name_->setVisible(rated);
+  rating_->setVisible(rated);
+  due_->setVisible(!rated);
+  c_->setText(impact ? Term("Ci", shown.ci) : Term("C", shown.c));
+  ctr_->setText(Term("Ctr", shown.ctr));
+  c_->setVisible(impact ? shown.ci.has_value() : shown.c.has_value());
+  ctr_->setVisible(shown.ctr.has_value() && !impact);
+  const elements::Family family = RowOf(calculation).family;
+  const bool lining = family == elements::Family::kLining || family == elements::Family::kCeiling;
+  for (QLabel* term : {c_, ctr_})
+    term->setToolTip(lining ? Text(context_.Words(), kLiningTermsTipRow) : QString());
+  const bool improves = calculation::LayoutOf(calculation).improvement_shown;
+  improvement_->setText(Decibels(shown.delta_rw));
+  improvement_frame_->setVisible(improves && rated);
+  impact_improvement_->setText(Decibels(shown.delta_lnw));
+  impact_frame_->setVisible(impact && rated && shown.delta_lnw.has_value());
+}
+
+void ResultsPanel::ShowChart() {
+  const auto& result = context_.open.Result();
+  shown_ =
+      result ? presentation::CurveChartOf(context_.open.Setup(), *result, context_.Words()) : std::nullopt;
+  autoscale_->setEnabled(result.has_value());
+  if (shown_) {
+    shown_->autoscale = autoscale_->isChecked();
+    if (context_.services.lay_over) context_.services.lay_over(*shown_);
+  }
+  // A result without a curve says so in its place.
+  const std::string note = result && !shown_ ? context_.Words()(kRatingsOnlyRow) : std::string();
+  chart_->Show(shown_ ? *shown_ : presentation::EmptyChartOf(context_.open.Setup(), note, context_.Words()));
+}
+
+void ResultsPanel::Highlight(const std::optional<presentation::LayerPlace>& place) {
+  section_->Highlight(place);
+}
+
+void ResultsPanel::OnHover(std::function<void(const std::optional<presentation::LayerPlace>&)> on_hover) {
+  section_->OnHover(std::move(on_hover));
+}
+
+std::optional<presentation::CurveChart> ShownChart(const QWidget* window) {
+  const auto* panel =
+      window != nullptr ? dynamic_cast<const ResultsPanel*>(window->findChild<QWidget*>(kPanel)) : nullptr;
+  return panel != nullptr ? panel->Chart() : std::nullopt;
+}
+
+}  // namespace velmar::shell

@@ -1,0 +1,194 @@
+#include "shell/start/start_up.h"
+
+#include <QApplication>
+#include <QDesktopServices>
+#include <QProcess>
+#include <QStandardPaths>
+#include <QTimer>
+#include <QUrl>
+#include <array>
+#include <memory>
+
+#include "application/environment.h"
+#include "application/projects.h"
+#include "calculation/material_choice.h"
+#include "foundation/failure.h"
+#include "shell/commands/material_commands.h"
+#include "shell/commands/paper_commands.h"
+#include "shell/commands/report_commands.h"
+#include "shell/commands/structure_commands.h"
+#include "shell/fields/dark_outlines.h"
+#include "shell/fields/phrases.h"
+#include "shell/main_window/main_window.h"
+#include "shell/start/loader_window.h"
+#include "shell/start/store_opening.h"
+#include "storage/configuration/program_folder.h"
+#include "storage/materials/material_store.h"
+#include "storage/project/project_writer.h"
+
+namespace velmar::shell {
+namespace {
+
+using elements::MaterialFamily;
+
+constexpr const char* kManual = "VELMARpro - Manuale d'uso.pdf";
+constexpr const char* kMaintenanceProgram = "DB_sperimentale.EXE";
+constexpr int kFirstInformationRow = 124;
+constexpr std::size_t kCaptionedInformationRows = 7;
+
+struct Family {
+  MaterialFamily family{};
+  MessageRow title{};
+};
+constexpr std::array kFamilies = {Family{MaterialFamily::kStructural, {132}},
+                                  Family{MaterialFamily::kFibrous, {133}},
+                                  Family{MaterialFamily::kResilient, {134}}};
+
+WindowPlaces Places() {
+  const std::filesystem::path program = storage::ProgramFolder();
+  const auto folder = [](QStandardPaths::StandardLocation location) {
+    return std::filesystem::path(QStandardPaths::writableLocation(location).toStdString());
+  };
+  WindowPlaces places;
+  places.manual = program / kManual;
+  places.maintenance_program = program / kMaintenanceProgram;
+  if (const auto shipped = storage::ShippedDataFolder(program)) places.examples = *shipped / "Examples";
+  places.settings = folder(QStandardPaths::AppConfigLocation) / "finestra.ini";
+  places.recovery = folder(QStandardPaths::AppDataLocation) / "recupero";
+  return places;
+}
+
+template <typename Material>
+std::optional<elements::MaterialRecord<Material>> FirstRecord(const storage::MaterialStore& store) {
+  const auto row = store.First<Material>();
+  if (!row) return std::nullopt;
+  return row->record;
+}
+
+template <typename Record>
+const Record* Pointer(const std::optional<Record>& record) {
+  return record ? &*record : nullptr;
+}
+
+/// The set-up of a fresh start, without materials: captions of the project information.
+elements::Setup CaptionedSetup(const presentation::Words& words) {
+  elements::Setup setup;
+  for (std::size_t row = 0; row < kCaptionedInformationRows; ++row)
+    setup.information.at(row).caption = words(MessageRow{kFirstInformationRow + static_cast<int>(row)});
+  return setup;
+}
+
+/// `setup` with the first selection of every layer.
+elements::Setup WithFirstMaterials(elements::Setup setup, const storage::MaterialStore& store) {
+  const auto structural = FirstRecord<elements::StructuralMaterial>(store);
+  const auto fibrous = FirstRecord<elements::FibrousMaterial>(store);
+  const auto resilient = FirstRecord<elements::ResilientMaterial>(store);
+  calculation::SelectFirstMaterials(setup, Pointer(structural), Pointer(fibrous), Pointer(resilient));
+  return setup;
+}
+
+/// Everything that lives as long as the window.
+struct Desktop {
+  explicit Desktop(application::Environment opened)
+      : environment(std::move(opened)), store(environment.configuration.PercorsoDatabase()) {
+    services.words = [this](MessageRow row) { return environment.messages.Text(row); };
+    services.boxes = ScreenBoxes(services.words);
+    services.version = QApplication::applicationVersion();
+    services.places = Places();
+    services.materials =
+        application::ForgivingLookup(storage::MaterialLookupIn(store.File()),
+                                     [this](const Failure& failure) { Tell(failure.UserMessage()); });
+    services.material_names = [this](MaterialFamily family) {
+      try {
+        return store.List(family);
+      } catch (const Failure&) {
+        return std::vector<storage::ListedMaterial>();  // told by the load already
+      }
+    };
+    services.read_project = [this](const std::filesystem::path& file) {
+      storage::OpenedProject project = application::OpenProject(file, open.Setup(), services.materials);
+      unknown = project.setup.calculation ? storage::StoredCalculation() : project.stored;
+      return std::move(project.setup);
+    };
+    services.write_project = [this](const std::filesystem::path& file, const elements::Setup& setup) {
+      storage::SaveProject(file, setup, unknown);
+    };
+    structure_commands = std::make_unique<StructureCommands>(
+        services,
+        structures::LibraryPlaces{environment.configuration.CartellaLibreria(),
+                                  environment.configuration.CartellaImmagini(),
+                                  environment.configuration.PercorsoDatabaseTeorico()},
+        std::make_shared<storage::AccessSession>(
+            storage::AccessReader{storage::AccessReaderProgram(storage::ProgramFolder()).value_or("")}));
+    material_commands =
+        std::make_unique<MaterialCommands>(services, store.File(), EditorOf(store, services.words));
+    services.open_address = [](const QString& address) { return QDesktopServices::openUrl(QUrl(address)); };
+    services.start_program = [](const std::filesystem::path& program) {
+      return QProcess::startDetached(QString::fromStdString(program.string()), {});
+    };
+    AddPaperCommands(services, PaperBoxes(services));
+    AddReportCommands(services, environment.configuration.CartellaTemplates());
+  }
+
+  void Tell(const Message& message) const {
+    services.boxes.tell(Tone::kCritical, Text(services.words, message));
+  }
+
+  application::Environment environment;
+  calculation::OpenCalculation open;
+  storage::MaterialStore store;
+  storage::StoredCalculation unknown{};
+  WindowServices services{open};
+  std::unique_ptr<StructureCommands> structure_commands{};
+  std::unique_ptr<MaterialCommands> material_commands{};
+};
+
+/// `CaricaDatabase`. Failures are told; the window opens with what there is.
+void Load(Desktop& desktop, LoaderWindow& loader) {
+  desktop.open.Replace(CaptionedSetup(desktop.services.words));
+  loader.show();
+  if (!OpenStoresOnScreen(desktop.environment, desktop.services.boxes, loader).materials) return;
+  try {
+    int done = 0;
+    for (const Family& family : kFamilies) {
+      loader.ShowProgress(family.title, desktop.store.List(family.family).size(), ++done,
+                          static_cast<int>(kFamilies.size()));
+    }
+    desktop.open.Replace(WithFirstMaterials(desktop.open.Setup(), desktop.store));
+  } catch (const Failure& failure) {
+    loader.hide();
+    desktop.Tell(failure.UserMessage());
+  }
+}
+
+int RunWindow(QApplication& application, Desktop& desktop) {
+  for (const Message& warning : desktop.environment.warnings) desktop.Tell(warning);
+  {
+    LoaderWindow loader(desktop.services.words, desktop.services.version);
+    Load(desktop, loader);
+  }
+  MainWindow window(desktop.services);
+  window.show();
+  // Boxes of the start stand over a window that is there.
+  QTimer::singleShot(0, &window, [&window, &application] {
+    window.OfferRecovery();
+    if (const QStringList arguments = application.arguments(); arguments.size() > 1)
+      window.OpenProject(arguments.at(1).toStdString());
+  });
+  return QApplication::exec();
+}
+
+}  // namespace
+
+int RunDesktop(QApplication& application) {
+  AddDarkOutlines(application);
+  try {
+    Desktop desktop(OpenEnvironmentOnScreen(QApplication::applicationVersion()));
+    return RunWindow(application, desktop);
+  } catch (const std::exception& failure) {
+    TellWithoutCatalogue(failure);
+    return 1;
+  }
+}
+
+}  // namespace velmar::shell

@@ -1,0 +1,211 @@
+#include "materials/material_entry.h"
+
+#include <gtest/gtest.h>
+
+namespace velmar::materials {
+namespace {
+
+using elements::FibrousMaterial;
+using elements::ResilientMaterial;
+using elements::StructuralMaterial;
+
+const KeywordTexts kTexts{"tutti", "non specificata"};
+
+StructuralEntry Brick() { return {"Mattone", "", "80", "800", "64", "4.5", "", "0,01", "", ""}; }
+
+FibrousEntry Wool() {
+  FibrousEntry entry;
+  entry.name = "Lana";
+  entry.density = "40";
+  return entry;
+}
+
+ResilientEntry Rubber() {
+  ResilientEntry entry;
+  entry.name = "Gomma";
+  entry.thickness = "5";
+  entry.stiffness = "25";
+  return entry;
+}
+
+template <typename Entry>
+EntryRefusal RefusalOf(const Entry& entry) {
+  const auto checked = RowOf(entry, kTexts);
+  const auto* refusal = std::get_if<EntryRefusal>(&checked);
+  return refusal == nullptr ? EntryRefusal{} : *refusal;
+}
+
+TEST(StructuralEntry, EmptyBoxesThatMayBeEmptyAreZero) {
+  const auto row = std::get<storage::StructuralRow>(RowOf(Brick(), kTexts));
+  EXPECT_EQ(row.record.values.youngs_modulus_gpa, 4.5);
+  EXPECT_EQ(row.record.values.critical_frequency_hz, 0.0);
+  EXPECT_TRUE(row.record.Holds(&StructuralMaterial::critical_frequency_hz));
+  EXPECT_EQ(row.record.values.poissons_ratio, 0.0);
+  EXPECT_EQ(row.keyword, "non specificata");
+  EXPECT_FALSE(row.record.Holds(&StructuralMaterial::thermal_resistance_m2k_w));
+}
+
+TEST(StructuralEntry, TextsEndAtTheirFirstLineBreak) {
+  StructuralEntry entry = Brick();
+  entry.name = "  Mattone pieno \r\nseconda riga";
+  entry.description = "descrizione\nseconda";
+  entry.keyword = "laterizi\r";
+  const auto row = std::get<storage::StructuralRow>(RowOf(entry, kTexts));
+  EXPECT_EQ(row.record.values.name, "Mattone pieno");
+  EXPECT_EQ(row.record.values.description, "descrizione");
+  EXPECT_EQ(row.keyword, "laterizi");
+}
+
+TEST(StructuralEntry, WithoutANameIsRefused) {
+  for (const char* name : {"", " ", "   \r\nx"}) {
+    StructuralEntry entry;
+    entry.name = name;
+    EXPECT_EQ(RefusalOf(entry).message, (Message{{MessageRow{347}}}));
+    EXPECT_EQ(RefusalOf(entry).box, "Text1");
+  }
+}
+
+TEST(StructuralEntry, EveryMissingValueIsNamed) {
+  StructuralEntry entry;
+  entry.name = "x";
+  entry.density = "1";
+  EXPECT_EQ(RefusalOf(entry).message, (Message{{MessageRow{348}, ":"},
+                                               {"- ", MessageRow{349}},
+                                               {"- ", MessageRow{351}},
+                                               {"- ", MessageRow{352}},
+                                               {"- ", MessageRow{353}}}));
+  EXPECT_EQ(RefusalOf(entry).box, "Text3");
+}
+
+TEST(StructuralEntry, TheFirstBoxThatHoldsNoNumberTakesTheFocus) {
+  const std::pair<std::string StructuralEntry::*, const char*> boxes[] = {
+      {&StructuralEntry::thickness, "Text3"},         {&StructuralEntry::density, "Text4"},
+      {&StructuralEntry::surface_mass, "Text5"},      {&StructuralEntry::youngs_modulus, "Text6"},
+      {&StructuralEntry::loss_factor, "Text8"},       {&StructuralEntry::poissons_ratio, "Text9"},
+      {&StructuralEntry::critical_frequency, "Text7"}};
+  for (const auto& [field, box] : boxes) {
+    StructuralEntry entry = Brick();
+    entry.*field = "12x";
+    EXPECT_EQ(RefusalOf(entry).box, box);
+    EXPECT_EQ(RefusalOf(entry).message[0], (MessageLine{MessageRow{355}}));
+    entry.*field = "1e999";
+    EXPECT_EQ(RefusalOf(entry).box, box);
+  }
+}
+
+TEST(StructuralEntry, ComesBackFromItsRow) {
+  StructuralEntry entry = Brick();
+  entry.critical_frequency = "1800";
+  entry.poissons_ratio = "0,2";
+  entry.keyword = "laterizi";
+  const StructuralEntry again = EntryOf(std::get<storage::StructuralRow>(RowOf(entry, kTexts)));
+  EXPECT_EQ(again.youngs_modulus, "4,5");
+  EXPECT_EQ(again.critical_frequency, "1800");
+  EXPECT_EQ(again.keyword, "laterizi");
+}
+
+TEST(FibrousEntry, APorousOneHasResistanceAndAbsorption) {
+  FibrousEntry entry = Wool();
+  entry.absorption[0] = "0,15";
+  entry.absorption[18] = "1.05";
+  const auto row = std::get<storage::FibrousRow>(RowOf(entry, kTexts));
+  EXPECT_EQ(row.record.values.flow_resistance_pa_s_m, 4000.0);
+  EXPECT_FALSE(row.record.Holds(&FibrousMaterial::youngs_modulus_gpa));
+  EXPECT_EQ(row.record.values.absorption[0], 0.15F);
+  EXPECT_EQ(row.record.values.absorption[1], elements::kNoAbsorption);
+  EXPECT_EQ(EntryOf(row).absorption[18], "1,05");
+  EXPECT_EQ(EntryOf(row).youngs_modulus, "");
+}
+
+TEST(FibrousEntry, ASolidOneHasNeither) {
+  FibrousEntry entry = Wool();
+  entry.porous = false;
+  entry.absorption[0] = "anything";
+  const auto row = std::get<storage::FibrousRow>(RowOf(entry, kTexts));
+  EXPECT_EQ(row.record.values.youngs_modulus_gpa, 0.05);
+  EXPECT_EQ(row.record.values.loss_factor, 0.01);
+  EXPECT_FALSE(row.record.Holds(&FibrousMaterial::flow_resistance_pa_s_m));
+  EXPECT_EQ(row.record.values.absorption, elements::UnknownAbsorption());
+}
+
+TEST(FibrousEntry, AnImpossibleAbsorptionIsRefusedWithItsBand) {
+  for (const char* text : {"-0,1", "1,6", "molto", "1e999"}) {
+    FibrousEntry entry = Wool();
+    entry.absorption[3] = text;
+    EXPECT_EQ(RefusalOf(entry).box, "TextAlfa_3") << text;
+    EXPECT_EQ(RefusalOf(entry).message[0], (MessageLine{MessageRow{361}}));
+    EXPECT_EQ(RefusalOf(entry).message[1], (MessageLine{MessageRow{1143}, std::string(" 200 Hz: ") + text}));
+  }
+}
+
+TEST(FibrousEntry, NeedsWhatItsKindIsDescribedBy) {
+  FibrousEntry entry = Wool();
+  entry.flow_resistance = "";
+  entry.youngs_modulus = "";
+  EXPECT_EQ(RefusalOf(entry).message, (Message{{MessageRow{348}, ":"}, {"- ", MessageRow{1141}}}));
+  entry.porous = false;
+  EXPECT_EQ(RefusalOf(entry).message, (Message{{MessageRow{348}, ":"}, {"- ", MessageRow{352}}}));
+}
+
+TEST(ResilientEntry, OneOfItsThreeValuesGivesTheOthers) {
+  const auto row = std::get<storage::ResilientRow>(RowOf(Rubber(), kTexts));
+  EXPECT_EQ(row.record.values.resonance_frequency_hz, 80.0);
+  EXPECT_EQ(row.record.values.impact_improvement_db, -2.7);
+  EXPECT_EQ(row.record.values.density_kg_m3, 0.0);
+  EXPECT_TRUE(row.record.Holds(&ResilientMaterial::density_kg_m3));
+
+  ResilientEntry by_resonance = Rubber();
+  by_resonance.stiffness = "";
+  by_resonance.resonance = "80";
+  EXPECT_EQ(
+      std::get<storage::ResilientRow>(RowOf(by_resonance, kTexts)).record.values.dynamic_stiffness_mn_m3,
+      25.0);
+}
+
+TEST(ResilientEntry, WhatWasTypedIsNotReplaced) {
+  ResilientEntry entry = Rubber();
+  entry.improvement = "20";
+  EXPECT_EQ(std::get<storage::ResilientRow>(RowOf(entry, kTexts)).record.values.impact_improvement_db, 20.0);
+}
+
+TEST(ResilientEntry, WithNoneOfThemItIsRefused) {
+  ResilientEntry entry = Rubber();
+  entry.stiffness = "";
+  EXPECT_EQ(RefusalOf(entry).message, (Message{{MessageRow{360}}}));
+  EXPECT_EQ(RefusalOf(entry).box, "Text3");
+}
+
+TEST(ResilientEntry, ANegativeValueGivesNoStiffnessAndIsNotStoredWithout) {
+  ResilientEntry entry = Rubber();
+  entry.stiffness = "";
+  entry.improvement = "-3";
+  EXPECT_EQ(RefusalOf(entry).message, (Message{{MessageRow{348}, ":"}, {"- ", MessageRow{1142}}}));
+  entry.improvement = "";
+  entry.resonance = "-80";
+  EXPECT_EQ(RefusalOf(entry).box, "Text3");
+}
+
+TEST(ResilientEntry, TheBoxThatHoldsNoNumberTakesTheFocus) {
+  const std::pair<std::string ResilientEntry::*, const char*> boxes[] = {
+      {&ResilientEntry::stiffness, "Text3"},
+      {&ResilientEntry::improvement, "Text4"},
+      {&ResilientEntry::resonance, "Text5"},
+      {&ResilientEntry::thickness, "Text6"},
+      {&ResilientEntry::density, "Text7"}};
+  for (const auto& [field, box] : boxes) {
+    ResilientEntry entry = Rubber();
+    if (field == &ResilientEntry::improvement) entry.stiffness = "";
+    entry.*field = "12x";
+    EXPECT_EQ(RefusalOf(entry).box, box);
+  }
+}
+
+TEST(ResilientEntry, AMissingThicknessIsNamed) {
+  ResilientEntry entry = Rubber();
+  entry.thickness = "";
+  EXPECT_EQ(RefusalOf(entry).message, (Message{{MessageRow{348}, ":"}, {"- ", MessageRow{349}}}));
+  EXPECT_EQ(RefusalOf(entry).box, "Text6");
+}
+
+}  // namespace
+}  // namespace velmar::materials

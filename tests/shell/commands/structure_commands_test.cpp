@@ -1,0 +1,294 @@
+#include <QAction>
+#include <QCheckBox>
+#include <QDialog>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTest>
+#include <QToolButton>
+#include <QTreeWidget>
+#include <filesystem>
+#include <fstream>
+
+#include "calculation/run.h"
+#include "calculation/select_calculation.h"
+#include "shell/results/results_panel.h"
+#include "tests/shell/support/stores_program.h"
+
+namespace velmar::shell {
+namespace {
+
+constexpr const char* kResultsName = "Database_teorico";
+
+/// With a stored wall and a stored window.
+struct Program : StoresProgram {
+  Program() {
+    Store("Parete x", 33.25, 20);
+    Store("Serramento x", 22.5, 1.5);
+  }
+
+  void ChooseFacade() {
+    fixture.open.Edit([](elements::Setup& setup) {
+      calculation::SelectCalculation(setup, elements::Calculation::kCompositeElement);
+      setup.base.area_text = "30";
+      setup.facade.count_text = "1";
+    });
+  }
+};
+
+}  // namespace
+
+class StructureCommandsTest : public QObject {
+  Q_OBJECT
+
+ private slots:
+  void aFacadeOfStoredPartsRunsAsTypedByHand() {
+    Program program;
+    program.ChooseFacade();
+    const elements::Setup empty = program.fixture.open.Setup();
+    program.fixture.services.pick_saved_result(program.fixture.window.get(), {0, {}});
+    QTest::mouseClick(program.fixture.Find<QPushButton>("Seleziona"), Qt::LeftButton);
+    QCOMPARE(program.fixture.open.Setup().base.name, std::string("Parete x"));
+    QCOMPARE(program.fixture.open.Setup().base.area_text, std::string("30"));
+    program.fixture.services.pick_measured(program.fixture.window.get(), {1, {}});
+    auto* library = program.fixture.Find<QDialog>("Form9");
+    StoresProgram::OpenEntry(*library, "TreeView1", kResultsName, "List1", "Serramento x");
+    QTest::mouseClick(library->findChild<QPushButton*>("Command1"), Qt::LeftButton);
+    QCOMPARE(program.fixture.open.Setup().facade.components[0].name, std::string("Serramento x"));
+
+    elements::Setup typed = empty;
+    for (std::size_t i = 0; i < acoustics::kBandCount; ++i) {
+      typed.base.band_texts[i] = std::to_string(33 + i) + ",25";
+      typed.facade.components[0].band_texts[i] = std::to_string(22 + i) + ".5";
+    }
+    typed.base.mass_kg_m2 = 120;
+    typed.facade.components[0].mass_kg_m2 = 120;
+    typed.facade.components[0].area_text = "1,5";
+    program.fixture.Run();
+    QVERIFY(program.fixture.open.Result().has_value());
+    QVERIFY(program.fixture.open.Result() == calculation::RunCalculation(typed, 0.0, {}).result);
+  }
+
+  void storedNamesFillTheLists() {
+    const Program program;
+    const std::vector<std::string> names = {"Parete x", "Serramento x"};
+    QVERIFY(program.fixture.services.saved_results() == names);
+    QVERIFY(program.fixture.services.saved_result("Parete x")->rating_db == 48.25);
+    QVERIFY(!program.fixture.services.saved_result("Altra"));
+  }
+
+  void theComparisonLaysItsCurveOverTheResultAndGoesWithIt() {
+    Program program;
+    program.fixture.Choose("TIPO_PARETE_SINGOLA_0");
+    program.fixture.Run();
+    QVERIFY(program.fixture.open.Result().has_value());
+    program.fixture.Find<QAction>("confronta_risultati")->trigger();
+    auto* comparison = program.fixture.Find<QDialog>("Form8");
+    StoresProgram::OpenEntry(*comparison, "TreeView1", kResultsName, "List1", "Parete x");
+    presentation::CurveChart chart;
+    program.fixture.services.lay_over(chart);
+    QVERIFY(!chart.laboratory.has_value());
+    comparison->findChild<QCheckBox*>("Check1")->click();
+    program.fixture.services.lay_over(chart);
+    QVERIFY(chart.laboratory.has_value());
+    QCOMPARE((*chart.laboratory)[0], 33.25);
+    program.fixture.open.DropResult();
+    QVERIFY(!comparison->isVisible());
+    chart = {};
+    program.fixture.services.lay_over(chart);
+    QVERIFY(!chart.laboratory.has_value());
+  }
+
+  void theComparisonIsModalFromTheToolBarAlone() {
+    Program program;
+    program.fixture.Choose("TIPO_PARETE_SINGOLA_0");
+    QVERIFY(!program.fixture.Find<QAction>("confronta_risultati")->isEnabled());
+    QVERIFY(!program.fixture.Find<QToolButton>("Toolbar1_13")->isEnabled());
+    program.fixture.Run();
+    program.fixture.Find<QAction>("confronta_risultati")->trigger();
+    auto* beside = program.fixture.Find<QDialog>("Form8");
+    QCOMPARE(beside->windowModality(), Qt::NonModal);
+    beside->close();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    program.fixture.Find<QToolButton>("Toolbar1_13")->click();
+    QCOMPARE(program.fixture.Find<QDialog>("Form8")->windowModality(), Qt::WindowModal);
+  }
+
+  void aClosedComparisonStaysInTheDrawingUntilTheNextOne() {
+    Program program;
+    program.fixture.Choose("TIPO_PARETE_SINGOLA_0");
+    program.fixture.Run();
+    program.fixture.Find<QToolButton>("Toolbar1_13")->click();
+    auto* comparison = program.fixture.Find<QDialog>("Form8");
+    StoresProgram::OpenEntry(*comparison, "TreeView1", kResultsName, "List1", "Parete x");
+    comparison->findChild<QCheckBox*>("Check1")->click();
+    comparison->close();
+    presentation::CurveChart chart;
+    chart.values = *program.fixture.open.Result()->spectrum;
+    program.fixture.services.lay_over(chart);
+    QVERIFY(chart.laboratory.has_value());
+    // The same window again: nothing is ticked, the drawing stands.
+    program.fixture.Find<QToolButton>("Toolbar1_13")->click();
+    QVERIFY(!program.fixture.Find<QCheckBox>("Check1")->isChecked());
+    program.fixture.services.lay_over(chart);
+    QVERIFY(chart.laboratory.has_value());
+    chart.autoscale = true;
+    program.fixture.services.lay_over(chart);
+    QVERIFY(!chart.laboratory.has_value());
+  }
+
+  void theMenuOpensTheLibraryAtImpactOrAirborneData() {
+    const Program program;
+    const std::pair<const char*, const char*> entries[] = {{"Dati_Lnw", "Solai - terzi d'ottava"},
+                                                           {"Dati_Rw", "Vetrate - indici dichiarati"}};
+    for (const auto& [entry, file] : entries) {
+      program.fixture.Find<QAction>(entry)->trigger();
+      auto* library = program.fixture.Find<QDialog>("Form9");
+      const auto* tree = library->findChild<QTreeWidget*>("TreeView1");
+      QCOMPARE(tree->findItems(file, Qt::MatchExactly | Qt::MatchRecursive).size(), 1);
+      QVERIFY(!library->findChild<QPushButton*>("Command1")->isVisible());
+      QTest::keyClick(library, Qt::Key_Escape);
+      QVERIFY(!library->isVisible());
+      QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+  }
+
+  void aResultIsStoredUnderItsNameOnce() {
+    Program program;
+    QString answer = "  Parete nuova ";
+    NameQuestion asked;
+    program.fixture.services.boxes.ask_name = [&](const NameQuestion& question) {
+      asked = question;
+      return answer;
+    };
+    program.fixture.Choose("TIPO_PARETE_SINGOLA_0");
+    program.fixture.Run();
+    auto* save = program.fixture.Find<QAction>("Salva");
+    save->trigger();
+    QCOMPARE(asked.title, QString("Salva struttura calcolata"));
+    QCOMPARE(asked.proposed, QString("Parete x"));
+    QCOMPARE(program.fixture.services.saved_results().back(), std::string("Parete nuova"));
+    QVERIFY(program.fixture.told.isEmpty());
+    answer = "PARETE NUOVA";
+    save->trigger();
+    QCOMPARE(program.fixture.told.size(), 1);
+    QVERIFY(program.fixture.told.front().contains("esiste già"));
+    answer.clear();
+    save->trigger();
+    QCOMPARE(program.fixture.services.saved_results().size(), std::size_t{3});
+    QCOMPARE(program.fixture.told.size(), 1);
+  }
+
+  void aResultThatCannotBeStoredIsToldAndStays_data() {
+    QTest::addColumn<QString>("spoilt");
+    QTest::newRow("missing") << "missing";
+    QTest::newRow("read-only") << "read-only";
+    QTest::newRow("damaged") << "damaged";
+  }
+
+  void aResultThatCannotBeStoredIsToldAndStays() {
+    QFETCH(const QString, spoilt);
+    Program program;
+    program.fixture.Choose("TIPO_PARETE_SINGOLA_0");
+    program.fixture.Run();
+    const auto result = program.fixture.open.Result();
+    program.name = "Parete nuova";
+    const std::filesystem::path file = program.places.results;
+    const std::filesystem::path aside = file.string() + ".via";
+    std::filesystem::copy_file(file, aside);
+    if (spoilt == "read-only") {
+      std::filesystem::permissions(file, std::filesystem::perms::owner_read);
+    } else {
+      std::filesystem::remove(file);
+      if (spoilt == "damaged") std::ofstream(file) << "this is no database";
+    }
+    auto* save = program.fixture.Find<QAction>("Salva");
+    save->trigger();
+    QCOMPARE(program.fixture.told.size(), 1);
+    QVERIFY(program.fixture.told.front().contains("Database_teorico.mdb"));
+    QVERIFY(program.fixture.open.Result() == result);
+    std::filesystem::remove(file);
+    std::filesystem::rename(aside, file);
+    save->trigger();
+    QCOMPARE(program.fixture.services.saved_results().back(), std::string("Parete nuova"));
+    QCOMPARE(program.fixture.told.size(), 1);
+  }
+
+  void namesOfResultsAreTheSameWhateverTheirCase_data() {
+    QTest::addColumn<QString>("first");
+    QTest::addColumn<QString>("again");
+    QTest::newRow("letters") << "Parete esterna"
+                             << "PARETE ESTERNA";
+    QTest::newRow("accents") << "Però è così"
+                             << "PERÒ È COSÌ";
+    QTest::newRow("quotes") << "Parete d'ambito \"A\""
+                            << "parete D'AMBITO \"a\"";
+    QTest::newRow("blanks around") << "Parete"
+                                   << "  parete ";
+  }
+
+  void namesOfResultsAreTheSameWhateverTheirCase() {
+    QFETCH(const QString, first);
+    QFETCH(const QString, again);
+    Program program;
+    program.fixture.Choose("TIPO_PARETE_SINGOLA_0");
+    program.fixture.Run();
+    auto* save = program.fixture.Find<QAction>("Salva");
+    program.name = first;
+    save->trigger();
+    QCOMPARE(program.fixture.services.saved_results().size(), std::size_t{3});
+    program.name = again;
+    save->trigger();
+    QCOMPARE(program.fixture.told.size(), 1);
+    program.name = "   ";
+    save->trigger();
+    QCOMPARE(program.fixture.told.size(), 1);
+    QCOMPARE(program.fixture.services.saved_results().size(), std::size_t{3});
+    QCOMPARE(program.fixture.services.saved_results().back(), first.toStdString());
+  }
+
+  void aStoredFloorIsNoPartOfAFacade() {
+    Program program;
+    program.fixture.window->OpenProject(EXAMPLES "/calpestio-galleggiante.drav");
+    program.fixture.Run();
+    program.name = "Solaio";
+    program.fixture.Find<QAction>("Salva")->trigger();
+    QVERIFY(program.fixture.told.isEmpty());
+    QCOMPARE(program.fixture.services.saved_results().size(), std::size_t{2});
+    program.fixture.Find<QAction>("DB_risultati")->trigger();
+    auto* window = program.fixture.Find<QDialog>("Form7");
+    window->findChild<QAbstractButton*>("Option1_1")->click();
+    QCOMPARE(window->findChild<QLineEdit*>("Text2")->text(), QString("Solaio"));
+  }
+
+  void theComparisonOfALiningKeepsTheCurveOfItsBase() {
+    Program program;
+    program.fixture.window->OpenProject(EXAMPLES "/controplaccaggio-calibel.drav");
+    program.fixture.Run();
+    program.name = "Contropareti \"x\"";
+    program.fixture.Find<QAction>("Salva")->trigger();
+    program.fixture.Find<QAction>("confronta_risultati")->trigger();
+    auto* comparison = program.fixture.Find<QDialog>("Form8");
+    StoresProgram::OpenEntry(*comparison, "TreeView1", kResultsName, "List1", program.name);
+    comparison->findChild<QCheckBox*>("Check1")->click();
+    const auto chart = ShownChart(program.fixture.window.get());
+    QVERIFY(chart.has_value());
+    QCOMPARE(chart->first_band, std::size_t{3});
+    QCOMPARE(chart->last_band, std::size_t{18});
+    QVERIFY(chart->base.has_value());
+    QVERIFY(chart->laboratory == program.fixture.open.Result()->spectrum);
+    QCOMPARE(chart->laboratory_name, program.name.toStdString());
+  }
+
+  void theResultsWindowOpensFromItsCommand() {
+    const Program program;
+    program.fixture.Find<QAction>("DB_risultati")->trigger();
+    auto* window = program.fixture.Find<QDialog>("Form7");
+    QVERIFY(window->isVisible());
+    QVERIFY(!window->findChild<QPushButton*>("Seleziona")->isVisible());
+  }
+};
+
+}  // namespace velmar::shell
+
+QTEST_MAIN(velmar::shell::StructureCommandsTest)
+#include "structure_commands_test.moc"

@@ -1,0 +1,155 @@
+// structure_pictures FOLDER light|dark: the windows on stored and measured structures with the shipped data,
+// as pictures of the manual.
+#include <QAbstractButton>
+#include <QAction>
+#include <QApplication>
+#include <QCheckBox>
+#include <QDialog>
+#include <QDir>
+#include <QPushButton>
+#include <QTabWidget>
+#include <QTest>
+#include <QToolButton>
+#include <clocale>
+
+#include "tests/shell/support/stores_program.h"
+#include "tests/shell/support/window_looks.h"
+
+namespace velmar::shell {
+namespace {
+
+constexpr const char* kMeasuredWalls = "Pareti in lastre su orditura - terzi d'ottava";
+constexpr const char* kMeasuredWindows = "Vetrate - indici dichiarati";
+constexpr QSize kScreen{1366, 768};
+
+void Settle() {
+  for (int i = 0; i < 5; ++i) QApplication::processEvents();
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
+class Album {
+ public:
+  explicit Album(const QString& folder) : folder_(folder) { program_.fixture.window->resize(kScreen); }
+
+  void Make() {
+    StoreWalls();
+    Results();
+    Library();
+    Comparison();
+    Facade();
+    for (const QString& text : program_.fixture.told) qWarning("%s", qPrintable(text));
+  }
+
+ private:
+  void Save(QWidget& window, const char* name) const {
+    Settle();
+    window.grab().save(QDir(folder_).filePath(QString(name) + ".png"));
+    if (window.width() > kScreen.width() || window.height() > kScreen.height())
+      qWarning("%s is larger than the screen: %d x %d", name, window.width(), window.height());
+  }
+  QDialog& Dialog(const char* name) const { return *program_.fixture.Find<QDialog>(name); }
+
+  void StoreWalls() {
+    const std::pair<const char*, const char*> walls[] = {
+        {"doppia-forati-lana", "Parete esterna, forati e lana"},
+        {"parete-forato-intonacata", "Tramezzo in forati"},
+        {"sea-laterizio-doppia", "Divisorio in laterizio SEA"},
+        {"vetrocamera-4-12-4", "Vetrocamera 4-12-4"},
+        {"calpestio-galleggiante", "Solaio con massetto galleggiante"}};
+    for (const auto& [project, name] : walls) {
+      program_.fixture.window->OpenProject(std::string(EXAMPLES "/") + project + ".drav");
+      program_.fixture.Run();
+      program_.name = name;
+      program_.fixture.Find<QAction>("Salva")->trigger();
+    }
+  }
+
+  void Results() {
+    program_.fixture.Find<QAction>("DB_risultati")->trigger();
+    Save(Dialog("Form7"), "risultati");
+    Dialog("Form7").close();
+    Settle();
+  }
+
+  void Library() {
+    program_.fixture.Find<QAction>("Dati_Rw")->trigger();
+    StoresProgram::OpenEntry(
+        Dialog("Form9"), "TreeView1", kMeasuredWalls, "List1",
+        "Parete su montanti in legno, cartongesso 13 mm sui due lati, fibra di cellulosa 90 mm");
+    Save(Dialog("Form9"), "libreria");
+    Dialog("Form9").findChild<QPushButton*>("Command2")->click();
+    Save(Dialog("Form10"), "informazioni-aggiuntive");
+    Dialog("Form10").close();
+    Dialog("Form9").close();
+    Settle();
+    program_.fixture.Find<QAction>("Dati_Lnw")->trigger();
+    StoresProgram::OpenEntry(Dialog("Form9"), "TreeView1", "Solai - terzi d'ottava", "List1",
+                             "Soletta in calcestruzzo armato 160 mm, laminato su sottopavimento in EPS");
+    Save(Dialog("Form9"), "libreria-calpestio");
+    Dialog("Form9").close();
+    Settle();
+  }
+
+  void Comparison() {
+    program_.fixture.window->OpenProject(EXAMPLES "/cartongesso-lastra-singola.drav");
+    program_.fixture.Run();
+    program_.fixture.Find<QAction>("confronta_risultati")->trigger();
+    StoresProgram::OpenEntry(
+        Dialog("Form8"), "TreeView1", kMeasuredWalls, "List1",
+        "Parete su montanti in legno, cartongesso 13 mm sui due lati, fibra di cellulosa 90 mm");
+    Dialog("Form8").findChild<QCheckBox*>("Check1")->click();
+    Save(Dialog("Form8"), "confronto");
+    Save(*program_.fixture.window, "confronto-curve");
+    Dialog("Form8").close();
+    Settle();
+  }
+
+  void Facade() {
+    WindowFixture& fixture = program_.fixture;
+    fixture.Choose("cal_facciata");
+    fixture.open.Edit([](elements::Setup& setup) {
+      setup.base.area_text = "14,4";
+      setup.facade.count_text = "2";
+      setup.facade.simplified = true;
+    });
+    fixture.Find<QAbstractButton>("Command3")->click();
+    QTest::mouseClick(fixture.Find<QPushButton>("Seleziona"), Qt::LeftButton);
+    Settle();
+    const char* windows[] = {"Vetrocamera 6 / 12 / 10 mm", "Vetrocamera 4 / 20 / 4 mm"};
+    for (int i = 0; i < 2; ++i) {
+      fixture.Find<QAbstractButton>(QStringLiteral("Command12_%1").arg(i + 1))->click();
+      StoresProgram::OpenEntry(Dialog("Form9"), "TreeView1", kMeasuredWindows, "List1", windows[i]);
+      if (i == 1) Save(Dialog("Form9"), "libreria-componente");
+      QTest::mouseClick(Dialog("Form9").findChild<QPushButton*>("Command1"), Qt::LeftButton);
+      Settle();
+    }
+    fixture.open.Edit([](elements::Setup& setup) {
+      setup.facade.components[0].area_text = "2,1";
+      setup.facade.components[1].area_text = "1,8";
+    });
+    fixture.Run();
+    fixture.Find<QTabWidget>("SSTab1")->setCurrentIndex(5);
+    Save(*fixture.window, "facciata-da-archivi");
+  }
+
+  QString folder_;
+  StoresProgram program_;
+};
+
+}  // namespace
+
+void MakePictures(const QString& folder, bool dark) {
+  SetLooks(dark);
+  Album(folder).Make();
+}
+
+}  // namespace velmar::shell
+
+int main(int argc, char** argv) {
+  QApplication application(argc, argv);
+  std::setlocale(LC_NUMERIC, "C");
+  const QStringList arguments = QApplication::arguments();
+  if (arguments.size() < 3) return 2;
+  velmar::shell::MakePictures(arguments.at(1), arguments.at(2) == "dark");
+  return 0;
+}

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QLineEdit>
+#include <QSettings>
+#include <QStringList>
+#include <QWidget>
+#include <memory>
+#include <string>
+
+#include "shell/fields/window_tools.h"
+
+namespace velmar::shell {
+
+/// Answers every box, and keeps what was said.
+class FakeBoxes {
+ public:
+  WindowTools Tools();
+
+  bool answer = true;
+  QStringList questions{};
+  QStringList told{};
+  std::unique_ptr<QSettings> memory{};
+};
+
+/// Types `letters` into `search`, drawing `window` after each.
+/// @return the longest that one of them took, ms
+qint64 SlowestKey(QWidget& window, QLineEdit& search, const std::string& letters);
+
+}  // namespace velmar::shell

@@ -1,0 +1,266 @@
+#include "tests/shell/main_window/random_user.h"
+
+#include <QAbstractButton>
+#include <QAction>
+#include <QApplication>
+#include <QComboBox>
+#include <QDialog>
+#include <QDir>
+#include <QLineEdit>
+#include <QMimeData>
+#include <QTabBar>
+#include <QTest>
+#include <QTimer>
+
+#include "shell/fields/material_box.h"
+
+namespace velmar::shell {
+namespace {
+
+const QStringList kNumbers = {"0",   "1",  "8",   "12,5", "12.5",  "250", "7",  "1E3", "1e-3",
+                              "100", "40", "3,6", "2",    "0,001", "60",  "55", "",    "1000000"};
+const QStringList kGarbage = {
+    "-",    ",",     "1E", "1E400", "E5", "--",       "1,,2", "abc",  "9999999999999999", "nan", "inf",
+    "0x10", "è€ß日", "\t", " ",     "'",  "<b>3</b>", "-5",   "1E-9", ",5E2,3",           "50 ", "1 000,5"};
+constexpr std::array kKeys = {Qt::Key_Tab,       Qt::Key_Backtab, Qt::Key_Return,   Qt::Key_Escape,
+                              Qt::Key_Space,     Qt::Key_Home,    Qt::Key_End,      Qt::Key_Delete,
+                              Qt::Key_Backspace, Qt::Key_PageUp,  Qt::Key_PageDown, Qt::Key_Up,
+                              Qt::Key_Down,      Qt::Key_F5,      Qt::Key_F6};
+
+/// Any character, also those that no key of a test keyboard has.
+void SendText(QWidget* widget, const QString& text) {
+  for (const QChar letter : text) {
+    QKeyEvent press(QEvent::KeyPress, 0, Qt::NoModifier, QString(letter));
+    QApplication::sendEvent(widget, &press);
+  }
+}
+
+}  // namespace
+
+struct RandomUser::Action {
+  const char* name = "";
+  void (RandomUser::*act)() = nullptr;
+  int weight = 1;
+};
+
+const std::vector<RandomUser::Action>& RandomUser::Actions() {
+  static const std::vector<Action> actions = {
+      {"choose a calculation", &RandomUser::ChooseCalculation, 3},
+      {"press a kind button", &RandomUser::PressKindButton},
+      {"run", &RandomUser::Run, 4},
+      {"click a check", &RandomUser::ClickCheck, 4},
+      {"move in a list", &RandomUser::MoveInList, 4},
+      {"type a number", &RandomUser::TypeNumber, 8},
+      {"type garbage", &RandomUser::TypeGarbage, 3},
+      {"type into a list", &RandomUser::TypeIntoList, 3},
+      {"copy and paste", &RandomUser::CopyAndPaste, 2},
+      {"press any key", &RandomUser::PressAnyKey, 4},
+      {"change the tab", &RandomUser::ChangeTab, 3},
+      {"open an example", &RandomUser::OpenExample, 2},
+      {"open rubbish", &RandomUser::OpenRubbish},
+      {"save and reopen", &RandomUser::SaveAndReopen},
+      {"show the table", &RandomUser::ShowTable, 2},
+      {"use the table", &RandomUser::UseTable},
+      {"move the mouse", &RandomUser::MoveMouse, 2},
+      {"resize", &RandomUser::Resize},
+      {"use a dialog", &RandomUser::UseDialog},
+      {"drop a material", &RandomUser::DropMaterial},
+  };
+  return actions;
+}
+
+RandomUser::RandomUser(WindowFixture& fixture, std::mt19937::result_type seed)
+    : fixture_(fixture), random_(seed) {
+  for (const QFileInfo& file : QDir(EXAMPLES).entryInfoList({"*.drav"})) examples_ += file.filePath();
+}
+
+QString RandomUser::Act() {
+  int all = 0;
+  for (const Action& action : Actions()) all += action.weight;
+  int place = Pick(all);
+  for (const Action& action : Actions()) {
+    place -= action.weight;
+    if (place >= 0) continue;
+    fixture_.go_on = Pick(3) > 0;
+    fixture_.save = Pick(3) == 0 ? std::nullopt : std::optional<bool>(false);
+    (this->*action.act)();
+    if (QWidget* popup = QApplication::activePopupWidget()) popup->close();
+    return action.name;
+  }
+  return {};
+}
+
+int RandomUser::Pick(qsizetype count) {
+  return static_cast<int>(random_() % static_cast<std::mt19937::result_type>(count));
+}
+
+template <typename Widget>
+Widget* RandomUser::AnyShown() {
+  QList<Widget*> shown;
+  for (auto* widget : fixture_.window->findChildren<Widget*>()) {
+    if (widget->isVisible() && widget->isEnabled()) shown += widget;
+  }
+  return shown.isEmpty() ? nullptr : OneOf(shown);
+}
+
+void RandomUser::ChooseCalculation() {
+  fixture_.Choose(
+      elements::Catalogue()[static_cast<std::size_t>(Pick(elements::kCalculationCount))].calculation);
+}
+
+void RandomUser::PressKindButton() {
+  fixture_.Find<QAction>("Button_" + QString::number(17 + Pick(6)))->trigger();
+}
+
+void RandomUser::Run() { fixture_.Run(); }
+
+void RandomUser::ClickCheck() {
+  QList<QAbstractButton*> buttons;
+  for (auto* button : fixture_.window->findChildren<QAbstractButton*>()) {
+    if (button->isVisible() && button->isEnabled() &&
+        (button->inherits("QCheckBox") || button->inherits("QRadioButton")))
+      buttons += button;
+  }
+  if (!buttons.isEmpty()) QTest::mouseClick(OneOf(buttons), Qt::LeftButton);
+}
+
+void RandomUser::MoveInList() {
+  auto* list = AnyShown<QComboBox>();
+  if (list == nullptr) return;
+  if (Pick(2) == 0) list->setFocus();
+  QTest::keyClick(list, OneOf(QList{Qt::Key_Up, Qt::Key_Down, Qt::Key_Home, Qt::Key_End, Qt::Key_PageDown}));
+}
+
+void RandomUser::TypeNumber() {
+  auto* field = AnyShown<QLineEdit>();
+  if (field == nullptr) return;
+  field->setFocus();
+  field->selectAll();
+  const QString& keys = OneOf(kNumbers);
+  if (keys.isEmpty()) {
+    QTest::keyClick(field, Qt::Key_Backspace);
+  } else {
+    SendText(field, keys);
+  }
+}
+
+void RandomUser::TypeGarbage() {
+  auto* field = AnyShown<QLineEdit>();
+  if (field == nullptr) return;
+  field->setFocus();
+  if (Pick(2) == 0) field->selectAll();
+  SendText(field, OneOf(kGarbage));
+}
+
+void RandomUser::TypeIntoList() {
+  auto* list = AnyShown<QComboBox>();
+  if (list == nullptr || !list->isEditable()) return;
+  list->setFocus();
+  list->lineEdit()->selectAll();
+  SendText(list, Pick(2) == 0 && list->count() > 0 ? list->itemText(Pick(list->count()))
+                                                   : OneOf(Pick(2) == 0 ? kNumbers : kGarbage));
+  if (Pick(2) == 0) QTest::keyClick(list, Qt::Key_Return);
+}
+
+void RandomUser::CopyAndPaste() {
+  auto* from = AnyShown<QLineEdit>();
+  auto* to = AnyShown<QLineEdit>();
+  if (from == nullptr || to == nullptr) return;
+  from->setFocus();
+  from->selectAll();
+  QTest::keyClick(from, Pick(2) == 0 ? Qt::Key_C : Qt::Key_X, Qt::ControlModifier);
+  to->setFocus();
+  if (Pick(2) == 0) to->selectAll();
+  QTest::keyClick(to, Qt::Key_V, Qt::ControlModifier);
+  if (Pick(2) == 0) QTest::keyClick(to, Qt::Key_Z, Qt::ControlModifier);
+}
+
+void RandomUser::PressAnyKey() {
+  QWidget* focus = QApplication::focusWidget();
+  QTest::keyClick(focus != nullptr ? focus : fixture_.window.get(),
+                  kKeys.at(static_cast<std::size_t>(Pick(kKeys.size()))));
+}
+
+void RandomUser::ChangeTab() {
+  if (Pick(2) == 0) {
+    QTest::keyClick(fixture_.window.get(), static_cast<Qt::Key>(Qt::Key_1 + Pick(9)), Qt::ControlModifier);
+  } else if (auto* bar = AnyShown<QTabBar>()) {
+    const int tab = Pick(bar->count());
+    if (bar->isTabVisible(tab)) QTest::mouseClick(bar, Qt::LeftButton, {}, bar->tabRect(tab).center());
+  }
+}
+
+void RandomUser::OpenExample() {
+  fixture_.file = OneOf(examples_);
+  fixture_.Find<QAction>("Apri_Progetto")->trigger();
+}
+
+void RandomUser::OpenRubbish() {
+  QFile file(OneOf(examples_));
+  static_cast<void>(file.open(QIODevice::ReadOnly));
+  QByteArray bytes = file.readAll();
+  bytes[Pick(bytes.size())] = static_cast<char>(Pick(256));
+  if (Pick(2) == 0) bytes.truncate(Pick(bytes.size()));
+  QFile rubbish(folder_.filePath("rotto.drav"));
+  static_cast<void>(rubbish.open(QIODevice::WriteOnly));
+  rubbish.write(bytes);
+  rubbish.close();
+  fixture_.file = Pick(4) == 0 ? QString("/nowhere/at all.drav") : rubbish.fileName();
+  fixture_.Find<QAction>("Apri_Progetto")->trigger();
+}
+
+void RandomUser::SaveAndReopen() {
+  fixture_.file = Pick(5) == 0 ? QString("/nowhere/at all.drav") : folder_.filePath("salvato.drav");
+  fixture_.Find<QAction>("Salva_Progetto")->trigger();
+  if (Pick(2) == 0) fixture_.Find<QAction>("Apri_Progetto")->trigger();
+}
+
+void RandomUser::ShowTable() { fixture_.Find<QAction>("tab_risultati")->trigger(); }
+
+void RandomUser::UseTable() {
+  const auto* table = fixture_.window->findChild<QDialog*>("Form4");
+  if (table == nullptr || !table->isVisible()) return;
+  auto* button = table->findChild<QAbstractButton*>(Pick(2) == 0 ? "Command1_0" : "Command1_1");
+  button->click();
+}
+
+void RandomUser::MoveMouse() {
+  auto* view = fixture_.Find<QWidget>(Pick(2) == 0 ? "Picture1" : "Disegno");
+  if (!view->isVisible() || view->width() < 1 || view->height() < 1) return;
+  QTest::mouseMove(view, {Pick(view->width()), Pick(view->height())});
+  if (Pick(20) > 0) return;
+  QContextMenuEvent menu(QContextMenuEvent::Mouse, {5, 5}, view->mapToGlobal(QPoint(5, 5)));
+  QApplication::sendEvent(view, &menu);
+}
+
+void RandomUser::Resize() { fixture_.window->resize(600 + Pick(1400), 300 + Pick(900)); }
+
+void RandomUser::UseDialog() {
+  const QString command = OneOf(QStringList{"dim_pareti", "info_progetto", "Versione"});
+  auto* action = fixture_.Find<QAction>(command);
+  if (!action->isEnabled()) return;
+  QTimer::singleShot(0, fixture_.window.get(), [this] { AnswerDialog(); });
+  action->trigger();
+}
+
+void RandomUser::AnswerDialog() {
+  QWidget* dialog = QApplication::activeModalWidget();
+  if (dialog == nullptr) return;
+  for (auto* field : dialog->findChildren<QLineEdit*>()) {
+    field->selectAll();
+    SendText(field, OneOf(Pick(3) == 0 ? kGarbage : kNumbers));
+  }
+  if (auto* ok = dialog->findChild<QAbstractButton*>("Command1")) ok->click();
+  // A dialog that refuses what was typed stays open.
+  if (dialog->isVisible()) dialog->close();
+}
+
+void RandomUser::DropMaterial() {
+  auto* box = AnyShown<QComboBox>();
+  if (box == nullptr || box->count() == 0) return;
+  const auto family = static_cast<elements::MaterialFamily>(Pick(3));
+  const std::unique_ptr<QMimeData> mime(ToMime({family, box->itemText(Pick(box->count()))}));
+  WindowFixture::Drop(box, *mime);
+}
+
+}  // namespace velmar::shell

@@ -1,0 +1,139 @@
+// window_tour FOLDER WIDTH HEIGHT light|dark [NAME]: every page of every kind of element as a picture, to be
+// looked at; with NAME only the stations whose name begins so.
+#include <QApplication>
+#include <QDialog>
+#include <QDir>
+#include <QPixmap>
+#include <QTabWidget>
+
+#include "calculation/layer_edits.h"
+#include "shell/commands/about_box.h"
+#include "shell/project/dimension_dialog.h"
+#include "shell/project/project_information_dialog.h"
+#include "tests/shell/support/window_looks.h"
+
+namespace velmar::shell {
+namespace {
+
+/// An element of the tour: an example, shown with each of its tabs.
+struct Station {
+  const char* name = "";
+  const char* example = "";
+  int cavity_types = 0;  ///< how many types of SEA cavity are shown one after the other
+};
+
+constexpr std::array kStations = {
+    Station{"singola", "parete-forato-intonacata"},
+    Station{"vetro", "vetro-stratificato"},
+    Station{"solaio-nudo", "solaio-laterocemento"},
+    Station{"sea-singola", "sea-laterizio-singola"},
+    Station{"doppia", "doppia-forati-lana"},
+    Station{"doppia-generica", "doppia-generica-tre-lastre"},
+    Station{"torvalle", "doppia-forati-torvalle"},
+    Station{"leggera", "leggera-linea-punto"},
+    Station{"vetrocamera", "vetrocamera-due-stratificate"},
+    Station{"sea-doppia", "sea-laterizio-doppia", elements::kSeaCavityTypeCount},
+    Station{"sea-punti", "sea-cartongesso-puntuale"},
+    Station{"sea-linee", "sea-cartongesso-lineare"},
+    Station{"pavimento", "solaio-galleggiante-aereo"},
+    Station{"calpestio", "calpestio-galleggiante"},
+    Station{"calpestio-nudo", "calpestio-laterocemento-nudo"},
+    Station{"facciata", "facciata"},
+    Station{"facciata-nove", "facciata-nove-componenti"},
+    Station{"facciata-semplice", "facciata-semplificata"},
+    Station{"contro", "controplaccaggio-calibel", 2},
+    Station{"contro-ossatura", "controplaccaggio-ossatura"},
+    Station{"contro-generico", "controplaccaggio-generico"},
+    Station{"soffitto", "controsoffitto-pendini-a-molla"},
+    Station{"soffitto-generico", "controsoffitto-generico"},
+};
+
+class Tour {
+ public:
+  explicit Tour(QDir folder, QSize size) : folder_(std::move(folder)) {
+    fixture_.go_on = true;
+    fixture_.save = false;
+    fixture_.services.places.examples = EXAMPLES;
+    fixture_.services.places.settings = folder_.filePath("finestra.ini").toStdString();
+    fixture_.window.reset();
+    fixture_.window = std::make_unique<MainWindow>(fixture_.services);
+    fixture_.window->resize(size);
+    fixture_.window->show();
+  }
+
+  void Visit(const Station& station) {
+    fixture_.window->OpenProject(QString("%1/%2.drav").arg(EXAMPLES, station.example).toStdString());
+    fixture_.Run();
+    auto* tabs = fixture_.Find<QTabWidget>("SSTab1");
+    for (int tab = 0; tab < tabs->count(); ++tab) {
+      if (!tabs->isTabVisible(tab)) continue;
+      tabs->setCurrentIndex(tab);
+      Take(*fixture_.window, QString("%1-%2").arg(station.name).arg(tab));
+    }
+    for (int type = 0; type < station.cavity_types; ++type) {
+      fixture_.open.Edit([type](elements::Setup& setup) {
+        calculation::ChooseSeaCavityType(setup, static_cast<elements::SeaCavityType>(type));
+      });
+      fixture_.Run();
+      Take(*fixture_.window, QString("%1-intercapedine-%2").arg(station.name).arg(type));
+    }
+  }
+
+  void VisitStart() { Take(*fixture_.window, "inizio"); }
+
+  void VisitNotes() {
+    fixture_.Choose("TIPO_PARETE_DOPPIA_4");
+    fixture_.Run();
+    fixture_.told.clear();
+    Take(*fixture_.window, "nota-rifiuto");
+    fixture_.Choose("TIPO_PARETE_SINGOLA_0");
+    fixture_.Type("Text5_0", "0");
+    Take(*fixture_.window, "nota-spessore");
+  }
+
+  void VisitDialogs() {
+    const auto& words = fixture_.services.words;
+    Show(DimensionDialog(fixture_.open, words), "dimensioni");
+    Show(ProjectInformationDialog(fixture_.open, words), "informazioni");
+    Show(AboutBox(words, fixture_.services.version, "https://example.org", {}), "informazioni-su");
+    fixture_.Choose("TIPO_PARETE_SINGOLA_0");
+    fixture_.Run();
+    fixture_.Choose("tab_risultati");
+    if (auto* table = fixture_.window->findChild<QDialog*>("Form4")) Take(*table, "tabella");
+  }
+
+ private:
+  void Show(QDialog&& dialog, const QString& name) {
+    dialog.show();
+    Take(dialog, name);
+  }
+
+  void Take(QWidget& widget, const QString& name) {
+    for (int i = 0; i < 5; ++i) QApplication::processEvents();
+    for (const QString& text : fixture_.told) qWarning("%s: %s", qPrintable(name), qPrintable(text));
+    fixture_.told.clear();
+    if (!widget.grab().save(folder_.filePath(name + ".png"))) qFatal("%s cannot be saved", qPrintable(name));
+  }
+
+  QDir folder_;
+  WindowFixture fixture_;
+};
+
+}  // namespace
+}  // namespace velmar::shell
+
+int main(int argc, char** argv) {
+  QApplication application(argc, argv);
+  const QStringList arguments = QApplication::arguments();
+  if (arguments.size() < 5) return 2;
+  velmar::shell::SetLooks(arguments.at(4) == "dark");
+  const QString only = arguments.value(5);
+  velmar::shell::Tour tour(QDir(arguments.at(1)), {arguments.at(2).toInt(), arguments.at(3).toInt()});
+  if (only.isEmpty() || only == "inizio") tour.VisitStart();
+  for (const velmar::shell::Station& station : velmar::shell::kStations) {
+    if (QString(station.name).startsWith(only)) tour.Visit(station);
+  }
+  if (only.isEmpty() || only == "note") tour.VisitNotes();
+  if (only.isEmpty() || only == "dialoghi") tour.VisitDialogs();
+  return 0;
+}

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+#include <optional>
+
+#include "shell/main_window/main_window.h"
+
+class QMimeData;
+
+namespace velmar::shell {
+
+/// A main window with the shipped materials and words, and boxes that answer without opening.
+struct WindowFixture {
+  WindowFixture();
+
+  /// Chooses the calculation of the menu entry `control`.
+  void Choose(const char* control);
+  void Choose(elements::Calculation calculation);
+  /// Presses F5 at the window.
+  void Run();
+  /// The control called `name`. Aborts the test program when there is none.
+  template <typename Widget>
+  Widget* Find(const QString& name) const {
+    auto* widget = window->findChild<Widget*>(name);
+    if (widget == nullptr) qFatal("no control called %s", qPrintable(name));
+    return widget;
+  }
+  /// Drops what is dragged on `target`, as a hand does.
+  static void Drop(QWidget* target, const QMimeData& dragged);
+  /// Replaces the text of the field `name` as a hand does: select all, then keys.
+  void Type(const QString& name, const QString& keys) const;
+
+  QStringList asked;           ///< questions of relations
+  QStringList told;            ///< boxes
+  int save_questions = 0;      ///< the question about unsaved changes
+  bool go_on = true;           ///< answer to `asked`
+  std::optional<bool> save{};  ///< answer to the question about unsaved changes; nothing: cancel
+  QString file;                ///< answer of the file dialogs
+
+  calculation::OpenCalculation open;
+  WindowServices services{open};
+  std::unique_ptr<MainWindow> window;
+};
+
+}  // namespace velmar::shell
