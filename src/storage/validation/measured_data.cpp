@@ -13,7 +13,7 @@
 
 #include "foundation/decimal.h"
 #include "foundation/failure.h"
-#include "storage/csv.h"
+#include "storage/tables/csv.h"
 #include "storage/validation/layer_texts.h"
 
 namespace velmar::storage {
