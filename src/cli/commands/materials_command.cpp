@@ -179,7 +179,7 @@ ExitCode Delete(const Work& work) {
 
 template <typename Material>
 ExitCode Import(const Work& work) {
-  const storage::CsvTable table = storage::ParseCsv(storage::ReadWhole(work.command.file, kCsvSizeLimit));
+  const CsvTable table = storage::ParseCsv(storage::ReadWhole(work.command.file, kCsvSizeLimit));
   auto rows = RowsOfCsv(storage::TableOf<Material>(), table);
   if (const auto* refusal = std::get_if<Message>(&rows)) return work.Refuse(*refusal);
   return AddRows<Material>(work, std::get<std::vector<Cells>>(rows));
@@ -188,13 +188,13 @@ ExitCode Import(const Work& work) {
 template <typename Material>
 ExitCode Export(const Work& work) {
   const storage::TableSchema schema = storage::TableOf<Material>();
-  storage::CsvTable table;
+  CsvTable table;
   for (const storage::ColumnSchema& column : schema.columns) table.header.push_back(column.name);
   for (const auto& row : work.Store().template Rows<Material>()) {
     std::vector<std::string>& fields = table.rows.emplace_back();
     for (const storage::Cell& cell : storage::CellsFromRow(row)) fields.push_back(storage::FormatCell(cell));
   }
-  const std::string bytes = storage::FormatCsv(table);
+  const std::string bytes = FormatCsv(table);
   if (work.command.file.empty()) {
     work.out << bytes;
   } else {

@@ -43,7 +43,7 @@ std::variant<Cells, Message> WithSettings(const TableSchema& schema, Cells cells
 }
 
 std::variant<std::vector<Cells>, Message> RowsOfCsv(const TableSchema& schema,
-                                                    const storage::CsvTable& table) {
+                                                    const CsvTable& table) {
   std::vector<Cells> rows;
   for (const std::vector<std::string>& fields : table.rows) {
     Cells cells(schema.columns.size());

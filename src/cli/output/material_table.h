@@ -28,7 +28,7 @@ std::variant<Cells, Message> WithSettings(const storage::TableSchema& schema, Ce
 /// The rows of a CSV table whose heading names columns of `schema` in any order; other columns are null. Or
 /// why a row cannot be read: nothing is left out silently.
 std::variant<std::vector<Cells>, Message> RowsOfCsv(const storage::TableSchema& schema,
-                                                    const storage::CsvTable& table);
+                                                    const CsvTable& table);
 
 /// A row as an object: column to value, null where the table holds nothing.
 nlohmann::json RowJson(const storage::TableSchema& schema, const Cells& cells);
