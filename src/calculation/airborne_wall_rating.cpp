@@ -4,6 +4,7 @@
 
 #include "acoustics/airborne_rating.h"
 #include "calculation/relation_choice.h"
+#include "foundation/message_rows.h"
 #include "models/relations/apply_relation.h"
 #include "models/relations/relation.h"
 

@@ -5,13 +5,12 @@
 #include "calculation/count_rules.h"
 #include "calculation/select_calculation.h"
 #include "foundation/decimal.h"
+#include "foundation/message_rows.h"
 #include "foundation/rounding.h"
 
 namespace velmar::calculation {
 namespace {
 
-/// "The cavity depth must be above 0; 10 mm have been set."
-constexpr MessageRow kCavityDepthRow{141};
 constexpr const char* kFallbackDepth = "10";
 
 double LayersThickness(const elements::CavityLayers& layers) {
@@ -65,7 +64,7 @@ std::optional<Message> LeaveCavityDepth(elements::Setup& setup) {
   elements::Cavity& cavity = setup.cavity;
   std::optional<Message> told;
   if (!(ParseDecimal(cavity.depth_text).value_or(0.0) > 0.0)) {
-    told = Message{{kCavityDepthRow}};
+    told = Message{{kCavityDepthSetRow}};
     cavity.depth_text = kFallbackDepth;
   }
   if (FibreThicknessEnabled(setup)) {

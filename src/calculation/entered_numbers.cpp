@@ -5,13 +5,14 @@
 
 #include "foundation/decimal.h"
 #include "foundation/failure.h"
+#include "foundation/message_rows.h"
 
 namespace velmar::calculation {
 
 double EnteredNumber(const std::string& text) {
   const std::optional<double> number = ParseDecimal(text);
   if (number) return *number;
-  throw ArithmeticFailure(MessageLine{kNoNumberRow, " \"" + text + "\""}, "\"" + text + "\" is no number");
+  throw ArithmeticFailure(MessageLine{kNotANumberRow, " \"" + text + "\""}, "\"" + text + "\" is no number");
 }
 
 double EnteredNumberOrZero(const std::string& text) { return text.empty() ? 0.0 : EnteredNumber(text); }

@@ -13,9 +13,6 @@ namespace velmar::calculation {
 
 // The one place where what was typed becomes the numbers of a model.
 
-/// "The value is not a number:"; the text follows.
-inline constexpr MessageRow kNoNumberRow{1012};
-
 /// The number in a field.
 /// @throws ArithmeticFailure when the text is none, naming it
 double EnteredNumber(const std::string& text);

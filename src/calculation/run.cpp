@@ -7,6 +7,7 @@
 #include "calculation/cavity_rules.h"
 #include "calculation/family_runs.h"
 #include "foundation/failure.h"
+#include "foundation/message_rows.h"
 
 namespace velmar::calculation {
 namespace {

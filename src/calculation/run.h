@@ -28,11 +28,6 @@ struct RunOutcome {
 /// Asks the user whether to go on; true for yes. The last line of a question is the one that asks.
 using AskToGoOn = std::function<bool(const Message& question)>;
 
-/// "Go on all the same?": the last line of every question.
-inline constexpr MessageRow kGoOnRow{190};
-/// "Choose a calculation first."
-inline constexpr MessageRow kNoCalculationRow{1010};
-
 /// What a run changes of the set-up before it reads it: empty `Text9` and `Text8` become "10", a SEA cavity
 /// takes at least the depth of its contents, the base of a lining 200 mm where it has none.
 void PrepareRun(elements::Setup& setup);

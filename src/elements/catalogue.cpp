@@ -4,6 +4,8 @@
 #include <array>
 #include <string>
 
+#include "foundation/message_rows.h"
+
 namespace velmar::elements {
 namespace {
 
@@ -17,9 +19,9 @@ using B = ElementButton;
 constexpr std::string_view kSea = "SEA";
 
 /// The theory of an experimental relation: its row with the relation's number behind.
-constexpr Label Relation(std::string_view mark) { return {.row = {142}, .suffix = mark}; }
-constexpr Label Row(int row) { return {.row = {row}}; }
-constexpr Label RowAndColon(int row) { return {.row = {row}, .suffix = ":"}; }
+constexpr Label Relation(std::string_view mark) { return {.row = kRelationRow, .suffix = mark}; }
+constexpr Label Row(MessageRow row) { return {.row = row}; }
+constexpr Label RowAndColon(MessageRow row) { return {.row = row, .suffix = ":"}; }
 constexpr Label Words(std::string_view words) { return {.literal = words}; }
 
 constexpr std::string_view kSingleMenu = "TIPO_PARETE_SINGOLA";
@@ -35,53 +37,53 @@ constexpr std::string_view kImpactMenu = "cal_solaio_new";
 
 // clang-format off
 constexpr std::array<CalculationRow, kCalculationCount> kCatalogue = {{
-    {kSingleWallGeneric, F::kSingle, "Parete singola Generica", O::kVerticalSingle, M::kSingleWall, 0, Row(178), Row(23), kSingleMenu, 0, B::kSingleWall},
-    {kSingleWallBrick, F::kSingle, "Parete singola in laterizio", O::kVerticalSingle, M::kSingleWall, 1, Relation(" [1]"), Row(179), kSingleMenu, 2, B::kSingleWall},
-    {kSingleWallBrickFerrara, F::kSingle, "Parete singola in laterizio UniveFerrara", O::kVerticalSingle, M::kSingleWall, 2, Relation(" [2]"), Row(179), kSingleMenu, 3, B::kSingleWall},
-    {kSingleWallPlasterboard, F::kSingle, "Parete in cartongesso", O::kVerticalSingle, M::kSingleWall, 3, Relation(" [3]"), Row(180), kSingleMenu, 6, B::kSingleWall},
-    {kSingleWallConcrete, F::kSingle, "Parete singola in calcestruzzo", O::kVerticalSingle, M::kSingleWall, 3, Relation(" [3]"), Row(181), kSingleMenu, 8, B::kSingleWall},
-    {kSingleWallHBlocks, F::kSingle, "Parete blocchi ad H", O::kVerticalSingle, M::kSingleWall, 4, Relation(" [4]"), Row(182), kSingleMenu, 10, B::kSingleWall},
-    {kSingleWallExpandedClayBlocks, F::kSingle, "Blocchi in argilla espansa", O::kVerticalSingle, M::kSingleWall, 5, Relation(" [5]"), Row(183), kSingleMenu, 11, B::kSingleWall},
-    {kSingleWallConcreteBlocks, F::kSingle, "Blocchi in calcestruzzo", O::kVerticalSingle, M::kSingleWall, 6, Relation(" [6]"), Row(184), kSingleMenu, 12, B::kSingleWall},
-    {kSingleWallGypsumBlocks, F::kSingle, "Blocchi in gesso", O::kVerticalSingle, M::kSingleWall, 7, Relation(" [7]"), Row(185), kSingleMenu, 13, B::kSingleWall},
-    {kSingleWallAeratedConcrete, F::kSingle, "Gasbeton", O::kVerticalSingle, M::kSingleWall, 8, Relation(" [8]"), Row(186), kSingleMenu, 15, B::kSingleWall},
-    {kFloorHollowBrickConcrete, F::kSingle, "Solaio in laterocemento", O::kHorizontalSingle, M::kSingleWall, 9, Relation(" [9]"), RowAndColon(187), kSingleMenu, 17, B::kSingleWall},
-    {kSinglePaneGeneric, F::kSingle, "Vetro singolo generico", O::kVerticalSingle, M::kSingleWall, 0, Row(178), RowAndColon(48), kGlassMenu, 0, B::kSingleWall},
-    {kSinglePaneMonolithic, F::kSingle, "Vetro monolitico", O::kVerticalSingle, M::kSingleWall, 18, Relation(" [18]"), RowAndColon(49), kGlassMenu, 1, B::kSingleWall},
-    {kSinglePaneLaminated, F::kSingle, "Vetro singolo stratificato", O::kVerticalSingle, M::kSingleWall, 19, Relation(" [19]"), RowAndColon(50), kGlassMenu, 2, B::kSingleWall},
-    {kSingleWallSea, F::kSeaSingle, "Laterizio SEA singola", O::kVerticalSingle, M::kSingleSeaWall, 0, Words(kSea), RowAndColon(179), kSingleMenu, 4, B::kSingleWall},
-    {kDoubleWallGeneric, F::kDouble, "Parete doppia Generica", O::kVerticalDouble, M::kDoubleWall, 0, Row(154), Row(34), kDoubleMenu, 0, B::kDoubleWall},
-    {kDoubleWallBrick, F::kDouble, "Parete doppia in laterizio", O::kVerticalDouble, M::kDoubleWall, 10, Relation(" [10]"), Row(155), kDoubleMenu, 2, B::kDoubleWall},
-    {kDoubleWallBrickTorvalle, F::kDouble, "Parete doppia in laterizio torvalle", O::kVerticalDouble, M::kDoubleWall, 11, Relation(" [11]"), Row(155), kDoubleMenu, 3, B::kDoubleWall},
-    {kDoubleWallConcrete, F::kDouble, "Parete doppia in calcestruzzo", O::kVerticalDouble, M::kDoubleWall, 0, Row(142), Words("Parete doppia in calcestruzzo:"), "TIPO_PARETE_DOPPIA2", 0, B::kDoubleWall},
-    {kDoubleWallPlasterboardCommonStuds, F::kDouble, "Parete doppia in cartongesso con ossatura unica", O::kVerticalDouble, M::kDoubleWall, 12, Relation(" [12]"), RowAndColon(152), kPlasterboardMenu, 0, B::kDoubleWall},
-    {kDoubleWallPlasterboardSeparateStuds, F::kDouble, "Parete doppia in cartongesso con ossature separate", O::kVerticalDouble, M::kDoubleWall, 13, Relation(" [13]"), RowAndColon(153), kPlasterboardMenu, 1, B::kDoubleWall},
-    {kDoubleWallPlasterboardSingleBoardSimpleFrame, F::kDouble, "Parete doppia in cartongesso, lastra singola - orditura semplice", O::kVerticalDouble, M::kDoubleWall, 14, Relation(" [14]"), RowAndColon(148), kPlasterboardMeasuredMenu, 0, B::kDoubleWall},
-    {kDoubleWallPlasterboardMultipleBoardSimpleFrame, F::kDouble, "Parete doppia in cartongesso, lastra multipla - orditura semplice", O::kVerticalDouble, M::kDoubleWall, 15, Relation(" [15]"), RowAndColon(149), kPlasterboardMeasuredMenu, 1, B::kDoubleWall},
-    {kDoubleWallPlasterboardMultipleBoardDoubleFrame, F::kDouble, "Parete doppia in cartongesso, lastra multipla - orditura doppia", O::kVerticalDouble, M::kDoubleWall, 16, Relation(" [16]"), RowAndColon(150), kPlasterboardMeasuredMenu, 2, B::kDoubleWall},
-    {kInsulatingGlass, F::kDouble, "Vetrocamera", O::kVerticalDouble, M::kDoubleWall, 18, Relation(" [18]"), RowAndColon(53), kGlassMenu, 5, B::kDoubleWall},
-    {kInsulatingGlassOneLaminated, F::kDouble, "Vetrocamera (1 lastra stratificata)", O::kVerticalDouble, M::kDoubleWall, 20, Relation(" [20]"), RowAndColon(53), kGlassMenu, 6, B::kDoubleWall},
-    {kInsulatingGlassTwoLaminated, F::kDouble, "Vetrocamera (2 lastre stratificate)", O::kVerticalDouble, M::kDoubleWall, 21, Relation(" [21]"), RowAndColon(54), kGlassMenu, 7, B::kDoubleWall},
-    {kFloorWithFloatingScreed, F::kDouble, "Solaio in laterocemento con pav. galleggiante", O::kHorizontalDouble, M::kFloatingScreedFloor, 17, Row(188), RowAndColon(189), "TIPO_SOLAIO_DOPPIO", 0, B::kFloor},
-    {kLightWallLineLine, F::kSharp, "Parete leggera doppia collegata Linea - Linea", O::kVerticalDouble, M::kLightDoubleWall, 0, Row(162), Row(43), kLightMenu, 0, B::kDoubleWall},
-    {kLightWallLinePoint, F::kSharp, "Parete leggera doppia collegata Linea - Punto", O::kVerticalDouble, M::kLightDoubleWall, 0, Row(163), Row(44), kLightMenu, 1, B::kDoubleWall},
-    {kLightWallPointPoint, F::kSharp, "Parete leggera doppia collegata Punto - Punto", O::kVerticalDouble, M::kLightDoubleWall, 0, Row(164), Row(45), kLightMenu, 2, B::kDoubleWall},
-    {kLightWallIsolated, F::kSharp, "Parete leggera doppia pannelli completamente isolati", O::kVerticalDouble, M::kLightDoubleWall, 0, Row(166), Row(46), kLightMenu, 3, B::kDoubleWall},
-    {kInsulatingGlassGeneric, F::kSharp, "Vetrocamera generico", O::kVerticalDouble, M::kLightDoubleWall, 0, Row(162), RowAndColon(52), kGlassMenu, 4, B::kDoubleWall},
-    {kDoubleWallSeaBrick, F::kSea, "Laterizio SEA", O::kVerticalDouble, M::kDoubleSeaWall, 0, Words(kSea), Row(155), kDoubleMenu, 4, B::kDoubleWall},
-    {kDoubleWallSeaPlasterboardPoint, F::kSea, "Cartongesso SEA puntuale", O::kVerticalDouble, M::kDoubleSeaWall, 0, Words(kSea), Row(171), kSeaMenu, 0, B::kDoubleWall},
-    {kDoubleWallSeaPlasterboardLine, F::kSea, "Cartongesso SEA lineare", O::kVerticalDouble, M::kDoubleSeaWall, 0, Words(kSea), Row(171), kSeaMenu, 1, B::kDoubleWall},
-    {kLiningGeneric, F::kLining, "Controplaccaggio generico", O::kLining, M::kGenericLining, 28, Relation(" [28]"), Row(294), kLiningMenu, 0, B::kLining},
-    {kLiningCalibel, F::kLining, "Controplaccaggio calibel", O::kLining, M::kSeaLining, 0, Words(kSea), Row(112), kLiningMenu, 1, B::kLining},
-    {kLiningFrame, F::kLining, "Controplaccaggio ossatura", O::kLining, M::kSeaLining, 0, Words(kSea), Row(113), kLiningMenu, 2, B::kLining},
-    {kCeilingGeneric, F::kCeiling, "Controsoffitto generico", O::kCeiling, M::kGenericLining, 28, Relation(" [28]"), RowAndColon(295), kCeilingMenu, 0, B::kCeiling},
-    {kCeilingSea, F::kCeiling, "Controsoffitto SEA", O::kCeiling, M::kSeaLining, 0, Words(kSea), RowAndColon(115), kCeilingMenu, 1, B::kCeiling},
-    {kCompositeElement, F::kFacade, "Parete composta", O::kComposite, M::kCompositeElement, 0, Words("UNI EN 12354-3"), RowAndColon(55), "cal_facciata", 0, B::kFacade},
-    {kImpactFloatingFloor, F::kImpact, "Solaio con pavimento galleggiante", O::kHorizontalDouble, M::kImpactFloor, 22, Relation(" [22]"), RowAndColon(58), "cal_solaio", 0, B::kFloor},
-    {kImpactReinforcedConcrete, F::kImpact, "Solaio in cemento armato", O::kHorizontalDouble, M::kImpactFloor, 23, Relation(" [23]"), RowAndColon(59), kImpactMenu, 0, B::kFloor},
-    {kImpactLightweightConcrete, F::kImpact, "Solaio in calcestruzzo alleggerito", O::kHorizontalDouble, M::kImpactFloor, 24, Relation(" [24]"), RowAndColon(60), kImpactMenu, 1, B::kFloor},
-    {kImpactHollowBrickConcrete, F::kImpact, "Solaio in laterocemento Lnw", O::kHorizontalDouble, M::kImpactFloor, 25, Relation(" [25]"), RowAndColon(109), kImpactMenu, 2, B::kFloor},
-    {kImpactHollowBrickConcreteGavelo, F::kImpact, "Solaio in laterocemento gavelo", O::kHorizontalDouble, M::kImpactFloor, 26, Relation(" [26]"), RowAndColon(413), kImpactMenu, 3, B::kFloor},
+    {kSingleWallGeneric, F::kSingle, "Parete singola Generica", O::kVerticalSingle, M::kSingleWall, 0, Row(kPlateImpedanceMethodRow), Row(kGenericSingleWallRow), kSingleMenu, 0, B::kSingleWall},
+    {kSingleWallBrick, F::kSingle, "Parete singola in laterizio", O::kVerticalSingle, M::kSingleWall, 1, Relation(" [1]"), Row(kSingleBrickWallRow), kSingleMenu, 2, B::kSingleWall},
+    {kSingleWallBrickFerrara, F::kSingle, "Parete singola in laterizio UniveFerrara", O::kVerticalSingle, M::kSingleWall, 2, Relation(" [2]"), Row(kSingleBrickWallRow), kSingleMenu, 3, B::kSingleWall},
+    {kSingleWallPlasterboard, F::kSingle, "Parete in cartongesso", O::kVerticalSingle, M::kSingleWall, 3, Relation(" [3]"), Row(kPlasterboardWallRow), kSingleMenu, 6, B::kSingleWall},
+    {kSingleWallConcrete, F::kSingle, "Parete singola in calcestruzzo", O::kVerticalSingle, M::kSingleWall, 3, Relation(" [3]"), Row(kSingleConcreteWallRow), kSingleMenu, 8, B::kSingleWall},
+    {kSingleWallHBlocks, F::kSingle, "Parete blocchi ad H", O::kVerticalSingle, M::kSingleWall, 4, Relation(" [4]"), Row(kHBlocksWallRow), kSingleMenu, 10, B::kSingleWall},
+    {kSingleWallExpandedClayBlocks, F::kSingle, "Blocchi in argilla espansa", O::kVerticalSingle, M::kSingleWall, 5, Relation(" [5]"), Row(kExpandedClayBlocksRow), kSingleMenu, 11, B::kSingleWall},
+    {kSingleWallConcreteBlocks, F::kSingle, "Blocchi in calcestruzzo", O::kVerticalSingle, M::kSingleWall, 6, Relation(" [6]"), Row(kConcreteBlocksRow), kSingleMenu, 12, B::kSingleWall},
+    {kSingleWallGypsumBlocks, F::kSingle, "Blocchi in gesso", O::kVerticalSingle, M::kSingleWall, 7, Relation(" [7]"), Row(kGypsumBlocksRow), kSingleMenu, 13, B::kSingleWall},
+    {kSingleWallAeratedConcrete, F::kSingle, "Gasbeton", O::kVerticalSingle, M::kSingleWall, 8, Relation(" [8]"), Row(kAeratedConcreteRow), kSingleMenu, 15, B::kSingleWall},
+    {kFloorHollowBrickConcrete, F::kSingle, "Solaio in laterocemento", O::kHorizontalSingle, M::kSingleWall, 9, Relation(" [9]"), RowAndColon(kHollowBrickFloorRow), kSingleMenu, 17, B::kSingleWall},
+    {kSinglePaneGeneric, F::kSingle, "Vetro singolo generico", O::kVerticalSingle, M::kSingleWall, 0, Row(kPlateImpedanceMethodRow), RowAndColon(kGenericSinglePaneRow), kGlassMenu, 0, B::kSingleWall},
+    {kSinglePaneMonolithic, F::kSingle, "Vetro monolitico", O::kVerticalSingle, M::kSingleWall, 18, Relation(" [18]"), RowAndColon(kMonolithicPaneRow), kGlassMenu, 1, B::kSingleWall},
+    {kSinglePaneLaminated, F::kSingle, "Vetro singolo stratificato", O::kVerticalSingle, M::kSingleWall, 19, Relation(" [19]"), RowAndColon(kLaminatedPaneRow), kGlassMenu, 2, B::kSingleWall},
+    {kSingleWallSea, F::kSeaSingle, "Laterizio SEA singola", O::kVerticalSingle, M::kSingleSeaWall, 0, Words(kSea), RowAndColon(kSingleBrickWallRow), kSingleMenu, 4, B::kSingleWall},
+    {kDoubleWallGeneric, F::kDouble, "Parete doppia Generica", O::kVerticalDouble, M::kDoubleWall, 0, Row(kImpedanceMethodRow), Row(kGenericDoubleWallRow), kDoubleMenu, 0, B::kDoubleWall},
+    {kDoubleWallBrick, F::kDouble, "Parete doppia in laterizio", O::kVerticalDouble, M::kDoubleWall, 10, Relation(" [10]"), Row(kDoubleBrickWallRow), kDoubleMenu, 2, B::kDoubleWall},
+    {kDoubleWallBrickTorvalle, F::kDouble, "Parete doppia in laterizio torvalle", O::kVerticalDouble, M::kDoubleWall, 11, Relation(" [11]"), Row(kDoubleBrickWallRow), kDoubleMenu, 3, B::kDoubleWall},
+    {kDoubleWallConcrete, F::kDouble, "Parete doppia in calcestruzzo", O::kVerticalDouble, M::kDoubleWall, 0, Row(kRelationRow), Words("Parete doppia in calcestruzzo:"), "TIPO_PARETE_DOPPIA2", 0, B::kDoubleWall},
+    {kDoubleWallPlasterboardCommonStuds, F::kDouble, "Parete doppia in cartongesso con ossatura unica", O::kVerticalDouble, M::kDoubleWall, 12, Relation(" [12]"), RowAndColon(kPlasterboardCommonStudsRow), kPlasterboardMenu, 0, B::kDoubleWall},
+    {kDoubleWallPlasterboardSeparateStuds, F::kDouble, "Parete doppia in cartongesso con ossature separate", O::kVerticalDouble, M::kDoubleWall, 13, Relation(" [13]"), RowAndColon(kPlasterboardSeparateStudsRow), kPlasterboardMenu, 1, B::kDoubleWall},
+    {kDoubleWallPlasterboardSingleBoardSimpleFrame, F::kDouble, "Parete doppia in cartongesso, lastra singola - orditura semplice", O::kVerticalDouble, M::kDoubleWall, 14, Relation(" [14]"), RowAndColon(kPlasterboardSingleBoardSimpleFrameRow), kPlasterboardMeasuredMenu, 0, B::kDoubleWall},
+    {kDoubleWallPlasterboardMultipleBoardSimpleFrame, F::kDouble, "Parete doppia in cartongesso, lastra multipla - orditura semplice", O::kVerticalDouble, M::kDoubleWall, 15, Relation(" [15]"), RowAndColon(kPlasterboardMultipleBoardSimpleFrameRow), kPlasterboardMeasuredMenu, 1, B::kDoubleWall},
+    {kDoubleWallPlasterboardMultipleBoardDoubleFrame, F::kDouble, "Parete doppia in cartongesso, lastra multipla - orditura doppia", O::kVerticalDouble, M::kDoubleWall, 16, Relation(" [16]"), RowAndColon(kPlasterboardMultipleBoardDoubleFrameRow), kPlasterboardMeasuredMenu, 2, B::kDoubleWall},
+    {kInsulatingGlass, F::kDouble, "Vetrocamera", O::kVerticalDouble, M::kDoubleWall, 18, Relation(" [18]"), RowAndColon(kInsulatingGlassRow), kGlassMenu, 5, B::kDoubleWall},
+    {kInsulatingGlassOneLaminated, F::kDouble, "Vetrocamera (1 lastra stratificata)", O::kVerticalDouble, M::kDoubleWall, 20, Relation(" [20]"), RowAndColon(kInsulatingGlassRow), kGlassMenu, 6, B::kDoubleWall},
+    {kInsulatingGlassTwoLaminated, F::kDouble, "Vetrocamera (2 lastre stratificate)", O::kVerticalDouble, M::kDoubleWall, 21, Relation(" [21]"), RowAndColon(kInsulatingGlassTwoLaminatedRow), kGlassMenu, 7, B::kDoubleWall},
+    {kFloorWithFloatingScreed, F::kDouble, "Solaio in laterocemento con pav. galleggiante", O::kHorizontalDouble, M::kFloatingScreedFloor, 17, Row(kFloatingScreedTheoryRow), RowAndColon(kHollowBrickFloorWithScreedRow), "TIPO_SOLAIO_DOPPIO", 0, B::kFloor},
+    {kLightWallLineLine, F::kSharp, "Parete leggera doppia collegata Linea - Linea", O::kVerticalDouble, M::kLightDoubleWall, 0, Row(kSharpTheoryRow), Row(kLightWallLineLineRow), kLightMenu, 0, B::kDoubleWall},
+    {kLightWallLinePoint, F::kSharp, "Parete leggera doppia collegata Linea - Punto", O::kVerticalDouble, M::kLightDoubleWall, 0, Row(kSharpLinePointTheoryRow), Row(kLightWallLinePointRow), kLightMenu, 1, B::kDoubleWall},
+    {kLightWallPointPoint, F::kSharp, "Parete leggera doppia collegata Punto - Punto", O::kVerticalDouble, M::kLightDoubleWall, 0, Row(kSharpPointPointTheoryRow), Row(kLightWallPointPointRow), kLightMenu, 2, B::kDoubleWall},
+    {kLightWallIsolated, F::kSharp, "Parete leggera doppia pannelli completamente isolati", O::kVerticalDouble, M::kLightDoubleWall, 0, Row(kSharpIsolatedTheoryRow), Row(kLightWallIsolatedRow), kLightMenu, 3, B::kDoubleWall},
+    {kInsulatingGlassGeneric, F::kSharp, "Vetrocamera generico", O::kVerticalDouble, M::kLightDoubleWall, 0, Row(kSharpTheoryRow), RowAndColon(kGenericInsulatingGlassRow), kGlassMenu, 4, B::kDoubleWall},
+    {kDoubleWallSeaBrick, F::kSea, "Laterizio SEA", O::kVerticalDouble, M::kDoubleSeaWall, 0, Words(kSea), Row(kDoubleBrickWallRow), kDoubleMenu, 4, B::kDoubleWall},
+    {kDoubleWallSeaPlasterboardPoint, F::kSea, "Cartongesso SEA puntuale", O::kVerticalDouble, M::kDoubleSeaWall, 0, Words(kSea), Row(kPlasterboardDoubleWallRow), kSeaMenu, 0, B::kDoubleWall},
+    {kDoubleWallSeaPlasterboardLine, F::kSea, "Cartongesso SEA lineare", O::kVerticalDouble, M::kDoubleSeaWall, 0, Words(kSea), Row(kPlasterboardDoubleWallRow), kSeaMenu, 1, B::kDoubleWall},
+    {kLiningGeneric, F::kLining, "Controplaccaggio generico", O::kLining, M::kGenericLining, 28, Relation(" [28]"), Row(kGenericLiningRow), kLiningMenu, 0, B::kLining},
+    {kLiningCalibel, F::kLining, "Controplaccaggio calibel", O::kLining, M::kSeaLining, 0, Words(kSea), Row(kCalibelLiningRow), kLiningMenu, 1, B::kLining},
+    {kLiningFrame, F::kLining, "Controplaccaggio ossatura", O::kLining, M::kSeaLining, 0, Words(kSea), Row(kStudLiningRow), kLiningMenu, 2, B::kLining},
+    {kCeilingGeneric, F::kCeiling, "Controsoffitto generico", O::kCeiling, M::kGenericLining, 28, Relation(" [28]"), RowAndColon(kGenericCeilingRow), kCeilingMenu, 0, B::kCeiling},
+    {kCeilingSea, F::kCeiling, "Controsoffitto SEA", O::kCeiling, M::kSeaLining, 0, Words(kSea), RowAndColon(kCeilingRow), kCeilingMenu, 1, B::kCeiling},
+    {kCompositeElement, F::kFacade, "Parete composta", O::kComposite, M::kCompositeElement, 0, Words("UNI EN 12354-3"), RowAndColon(kCompositeElementRow), "cal_facciata", 0, B::kFacade},
+    {kImpactFloatingFloor, F::kImpact, "Solaio con pavimento galleggiante", O::kHorizontalDouble, M::kImpactFloor, 22, Relation(" [22]"), RowAndColon(kFloatingScreedImpactFloorRow), "cal_solaio", 0, B::kFloor},
+    {kImpactReinforcedConcrete, F::kImpact, "Solaio in cemento armato", O::kHorizontalDouble, M::kImpactFloor, 23, Relation(" [23]"), RowAndColon(kReinforcedConcreteFloorRow), kImpactMenu, 0, B::kFloor},
+    {kImpactLightweightConcrete, F::kImpact, "Solaio in calcestruzzo alleggerito", O::kHorizontalDouble, M::kImpactFloor, 24, Relation(" [24]"), RowAndColon(kLightweightConcreteFloorRow), kImpactMenu, 1, B::kFloor},
+    {kImpactHollowBrickConcrete, F::kImpact, "Solaio in laterocemento Lnw", O::kHorizontalDouble, M::kImpactFloor, 25, Relation(" [25]"), RowAndColon(kHollowBrickImpactFloorRow), kImpactMenu, 2, B::kFloor},
+    {kImpactHollowBrickConcreteGavelo, F::kImpact, "Solaio in laterocemento gavelo", O::kHorizontalDouble, M::kImpactFloor, 26, Relation(" [26]"), RowAndColon(kHollowBrickGaveloFloorRow), kImpactMenu, 3, B::kFloor},
 }};
 // clang-format on
 

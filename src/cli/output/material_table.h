@@ -13,11 +13,6 @@
 
 namespace velmar::cli {
 
-/// "The table has no column of this name:"
-inline constexpr MessageRow kUnknownColumnRow{1240};
-/// "Not a value for the column:"
-inline constexpr MessageRow kWrongCellRow{1241};
-
 /// The cells of a row, in the order of the schema.
 using Cells = std::vector<storage::Cell>;
 

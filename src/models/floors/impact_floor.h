@@ -29,9 +29,6 @@ struct ImpactFloorInput {
   double side_b_m = 0.0;
 };
 
-/// What the user is told to check when the losses of a floor are not positive.
-inline constexpr MessageRow kInvalidLossFactorRow{1070};
-
 /// The floor before any relation is applied.
 struct ImpactFloorOutcome {
   acoustics::Spectrum impact_level_db{};     ///< Ln of the floor without the improvement of the screed

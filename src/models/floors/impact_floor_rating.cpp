@@ -6,6 +6,7 @@
 #include "acoustics/impact_rating.h"
 #include "acoustics/logarithm.h"
 #include "foundation/failure.h"
+#include "foundation/message_rows.h"
 
 namespace velmar::models {
 namespace {
@@ -26,10 +27,13 @@ struct RelationRow {
 };
 
 constexpr std::array<RelationRow, 4> kRelations = {{
-    {ImpactFloorVariant::kReinforcedConcrete, 183.0, 42.0, Bounded::kMass, 250.0, 500.0, {191}},
-    {ImpactFloorVariant::kLightweightConcrete, 156.0, 32.0, Bounded::kMass, 100.0, 400.0, {192}},
-    {ImpactFloorVariant::kHollowBlock, 164.0, 35.0, Bounded::kMass, 100.0, 600.0, {193}},
-    {ImpactFloorVariant::kHollowBlockFixedLevel, 86.0, 0.0, Bounded::kThickness, 0.2, 0.3, {194}},
+    {ImpactFloorVariant::kReinforcedConcrete, 183.0, 42.0, Bounded::kMass, 250.0, 500.0, kFloorMassRangeRow},
+    {ImpactFloorVariant::kLightweightConcrete, 156.0, 32.0, Bounded::kMass, 100.0, 400.0,
+     kLightweightFloorMassRangeRow},
+    {ImpactFloorVariant::kHollowBlock, 164.0, 35.0, Bounded::kMass, 100.0, 600.0,
+     kHollowBrickFloorMassRangeRow},
+    {ImpactFloorVariant::kHollowBlockFixedLevel, 86.0, 0.0, Bounded::kThickness, 0.2, 0.3,
+     kFloorThicknessRangeRow},
 }};
 
 }  // namespace

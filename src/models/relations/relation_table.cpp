@@ -7,7 +7,7 @@
 
 #include "acoustics/logarithm.h"
 #include "foundation/failure.h"
-#include "models/plates/failure_rows.h"
+#include "foundation/message_rows.h"
 #include "models/relations/relation_quantities.h"
 
 namespace velmar::models {
@@ -29,37 +29,40 @@ double LgFibre1(In in) { return acoustics::Log10(FibreInCentimetres(in) + 1.0); 
 
 constexpr double kNoLimit = std::numeric_limits<double>::infinity();
 
-constexpr RelationRange kBrick[] = {{PlateMass, 80, 400, {195}}};
-constexpr RelationRange kBrickFerrara[] = {{PlateMass, 80, 500, {200}}};
-constexpr RelationRange kPlasterboard[] = {{PlateMass, -kNoLimit, 150, {196}}};
-constexpr RelationRange kConcrete[] = {
-    {PlateMass, 115, 450, {197}}, {PlateDensity, 750, 1600, {198}}, {ThicknessInMetres, 0.11, 0.33, {199}}};
-constexpr RelationRange kHBlocks[] = {{PlateMass, 300, 500, {201}}};
-constexpr RelationRange kConcreteBlocks[] = {{PlateMass, 60, 200, {202}},
-                                             {ThicknessInMetres, 0.08, 0.33, {203}}};
-constexpr RelationRange kGypsumBlocks[] = {{PlateMass, 70, 110, {204}},
-                                           {ThicknessInMetres, 0.08, 0.1, {205}}};
-constexpr RelationRange kAeratedConcrete[] = {{PlateMass, 70, 150, {206}}};
-constexpr RelationRange kHollowBlockFloor[] = {{PlateMass, 250, 500, {191}}};
-constexpr RelationRange kDoubleBrick[] = {{BothLeavesMass, 80, 400, {207}},
-                                          {CavityDepthInCentimetres, 5, kNoLimit, {208}},
-                                          {HasFibrousCavity, 1, 1, {209}}};
-constexpr RelationRange kDoubleBrickFibre[] = {{BothLeavesMass, 80, 400, {207}},
-                                               {CavityDepthInCentimetres, 5, kNoLimit, {212}}};
-constexpr RelationRange kBoards[] = {{BothLeavesMass, -kNoLimit, 80, {209}},
-                                     {ThicknessInCentimetres, -kNoLimit, 30, {210}},
-                                     {FibreInCentimetres, -kNoLimit, 8, {211}}};
+constexpr RelationRange kBrick[] = {{PlateMass, 80, 400, kBrickMassRangeRow}};
+constexpr RelationRange kBrickFerrara[] = {{PlateMass, 80, 500, kBrickFerraraMassRangeRow}};
+constexpr RelationRange kPlasterboard[] = {{PlateMass, -kNoLimit, 150, kPlasterboardMassRangeRow}};
+constexpr RelationRange kConcrete[] = {{PlateMass, 115, 450, kConcreteMassRangeRow},
+                                       {PlateDensity, 750, 1600, kConcreteDensityRangeRow},
+                                       {ThicknessInMetres, 0.11, 0.33, kConcreteThicknessRangeRow}};
+constexpr RelationRange kHBlocks[] = {{PlateMass, 300, 500, kHBlocksMassRangeRow}};
+constexpr RelationRange kConcreteBlocks[] = {
+    {PlateMass, 60, 200, kConcreteBlocksMassRangeRow},
+    {ThicknessInMetres, 0.08, 0.33, kConcreteBlocksThicknessRangeRow}};
+constexpr RelationRange kGypsumBlocks[] = {{PlateMass, 70, 110, kGypsumBlocksMassRangeRow},
+                                           {ThicknessInMetres, 0.08, 0.1, kGypsumBlocksThicknessRangeRow}};
+constexpr RelationRange kAeratedConcrete[] = {{PlateMass, 70, 150, kAeratedConcreteMassRangeRow}};
+constexpr RelationRange kHollowBlockFloor[] = {{PlateMass, 250, 500, kFloorMassRangeRow}};
+constexpr RelationRange kDoubleBrick[] = {{BothLeavesMass, 80, 400, kDoubleBrickMassRangeRow},
+                                          {CavityDepthInCentimetres, 5, kNoLimit, kDoubleBrickCavityRangeRow},
+                                          {HasFibrousCavity, 1, 1, kLeavesOrCavityRangeRow}};
+constexpr RelationRange kDoubleBrickFibre[] = {
+    {BothLeavesMass, 80, 400, kDoubleBrickMassRangeRow},
+    {CavityDepthInCentimetres, 5, kNoLimit, kTorvalleCavityRangeRow}};
+constexpr RelationRange kBoards[] = {{BothLeavesMass, -kNoLimit, 80, kLeavesOrCavityRangeRow},
+                                     {ThicknessInCentimetres, -kNoLimit, 30, kPlasterboardThicknessRangeRow},
+                                     {FibreInCentimetres, -kNoLimit, 8, kFibreThicknessRangeRow}};
 constexpr RelationRange kDoubleConcrete[] = {
-    {BothLeavesMass, 115, 450, {197}},
-    {BothLeavesDensity, 750, 1600, {198}},
-    {ThicknessInMetres, 0.11, 0.33, {199}},
+    {BothLeavesMass, 115, 450, kConcreteMassRangeRow},
+    {BothLeavesDensity, 750, 1600, kConcreteDensityRangeRow},
+    {ThicknessInMetres, 0.11, 0.33, kConcreteThicknessRangeRow},
     {HasEmptyCavity, 1, 1, {}, "La formula empirica si riferisce a pareti doppie con l'intercapedine vuota"}};
 constexpr RelationRange kFloatingScreed[] = {
-    {[](In in) { return FindFloatingScreed(in).mass_kg_m2; }, 250, 500, {213}},
-    {[](In in) { return FindFloatingScreed(in).resonance_hz; }, 40, 200, {214}},
-    {[](In in) { return FindFloatingScreed(in).bare_rating_db; }, 20, 50, {215}}};
-constexpr RelationRange kPane[] = {{PlateMass, -kNoLimit, 60, {216}}};
-constexpr RelationRange kInsulatingUnit[] = {{BothLeavesMass, -kNoLimit, 60, {216}}};
+    {[](In in) { return FindFloatingScreed(in).mass_kg_m2; }, 250, 500, kSlabAndScreedMassRangeRow},
+    {[](In in) { return FindFloatingScreed(in).resonance_hz; }, 40, 200, kScreedResonanceRangeRow},
+    {[](In in) { return FindFloatingScreed(in).bare_rating_db; }, 20, 50, kBareRatingRangeRow}};
+constexpr RelationRange kPane[] = {{PlateMass, -kNoLimit, 60, kGlassMassRangeRow}};
+constexpr RelationRange kInsulatingUnit[] = {{BothLeavesMass, -kNoLimit, 60, kGlassMassRangeRow}};
 
 double RateFloatingScreed(In in) {
   const FloatingScreed screed = FindFloatingScreed(in);

@@ -39,9 +39,8 @@ struct DoubleSeaWallInput {
 /// @param depth_mm nothing when the field is blank
 std::optional<double> RaisedCavityDepth(std::optional<double> depth_mm, double contents_mm);
 
-/// Why the wall cannot be calculated, the first reason alone: a cavity of 1 mm or less (row 231), fills
-/// without absorption (row 252 and their names), a connection without a number (row 253 for points, 254 for
-/// lines).
+/// Why the wall cannot be calculated, the first reason alone: a cavity of 1 mm or less, fills without
+/// absorption (their names follow), a connection without a number.
 /// @return no line when it can
 Message CheckDoubleSeaWall(const DoubleSeaWallInput& input);
 

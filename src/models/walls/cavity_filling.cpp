@@ -3,7 +3,7 @@
 #include <string>
 
 #include "foundation/failure.h"
-#include "models/plates/failure_rows.h"
+#include "foundation/message_rows.h"
 
 namespace velmar::models {
 namespace {

@@ -7,7 +7,7 @@
 #include <span>
 
 #include "foundation/failure.h"
-#include "models/plates/failure_rows.h"
+#include "foundation/message_rows.h"
 #include "models/plates/plate_stack.h"
 #include "models/plates/transmission.h"
 #include "models/walls/cavity_filling.h"

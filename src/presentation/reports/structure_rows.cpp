@@ -4,6 +4,7 @@
 
 #include "elements/catalogue.h"
 #include "foundation/decimal.h"
+#include "foundation/message_rows.h"
 #include "presentation/reports/facade_rows.h"
 #include "presentation/texts/calculation_labels.h"
 #include "presentation/texts/layer_rows.h"
@@ -16,20 +17,6 @@ using elements::Family;
 using elements::LayerRow;
 using elements::Orientation;
 using elements::Setup;
-
-constexpr MessageRow kLeaf1Row{160};
-constexpr MessageRow kLeaf2Row{161};
-constexpr MessageRow kResilientRow{167};
-constexpr MessageRow kBaseWallRow{168};
-constexpr MessageRow kScreedRow{175};
-constexpr MessageRow kLiningRow{176};
-constexpr MessageRow kCavityRow{219};
-constexpr MessageRow kFibrousCavityRow{225};
-constexpr MessageRow kFloorRow{226};
-constexpr MessageRow kBaseFloorRow{228};
-constexpr MessageRow kAirCavityRow{266};
-constexpr MessageRow kPane1Row{1558};
-constexpr MessageRow kPane2Row{1559};
 
 /// Depths that differ by less are equal: nobody enters a cavity to the tenth of a millimetre.
 constexpr double kNoDepthMm = 0.05;
@@ -176,7 +163,7 @@ void ListFloor(const Setup& setup, const Words& words, Listing& listing) {
   listing.Heading(words(kFloorRow));
   listing.Layers(setup.leaf1);
   if (RowsInUse(setup.resilient) > 0) {
-    listing.Heading(words(kResilientRow));
+    listing.Heading(words(kResilientMaterialTabRow));
     listing.Layers(setup.resilient);
   }
   listing.Heading(words(kScreedRow));
@@ -211,7 +198,7 @@ std::vector<StructureRow> StructureRowsOf(const Setup& setup, const Words& words
       listing.Layers(setup.sea_leaf2);
       listing.SeaCavity(setup.sea_cavity);
       listing.Base(setup.base, BaseThicknessOf(setup),
-                   row.orientation == Orientation::kCeiling ? kBaseFloorRow : kBaseWallRow);
+                   row.orientation == Orientation::kCeiling ? kBaseFloorRow : kBaseWallTabRow);
       break;
     case Orientation::kComposite:
       return FacadeRowsOf(setup, words);

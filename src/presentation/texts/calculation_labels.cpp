@@ -1,20 +1,9 @@
 #include "presentation/texts/calculation_labels.h"
 
+#include "foundation/message_rows.h"
 #include "presentation/texts/sea_cavity_parts.h"
 
 namespace velmar::presentation {
-namespace {
-
-constexpr MessageRow kAirborneTitleRow{274};
-constexpr MessageRow kFacadeTitleRow{275};
-constexpr MessageRow kImpactTitleRow{276};
-constexpr MessageRow kEmptyCavityRow{156};
-constexpr MessageRow kFibreRow{157};
-constexpr MessageRow kMassRow{158};
-constexpr int kFirstHangerRow = 415;
-constexpr int kHangerCount = 3;
-
-}  // namespace
 
 std::string WithoutColon(std::string caption) {
   while (!caption.empty() && (caption.back() == ':' || caption.back() == ' ')) caption.pop_back();
@@ -35,18 +24,18 @@ std::string TitleOf(elements::Family family, const Words& words) {
 }
 
 std::string SeaCavityTypeText(elements::SeaCavityType type, const Words& words) {
-  if (type == elements::SeaCavityType::kEmpty) return words(kEmptyCavityRow);
+  if (type == elements::SeaCavityType::kEmpty) return words(kEmptySeaCavityRow);
   std::string text;
   for (const SeaCavityPart part : PartsOf(type)) {
     if (!text.empty()) text += "+ ";
-    text += words(part == SeaCavityPart::kFibre ? kFibreRow : kMassRow);
+    text += words(part == SeaCavityPart::kFibre ? kFibreLayerRow : kMassLayerRow);
   }
   return text;
 }
 
 std::string HangerText(int hanger, const Words& words) {
-  if (hanger < 0 || hanger >= kHangerCount) return {};
-  return words({kFirstHangerRow + hanger});
+  const auto place = static_cast<std::size_t>(hanger);
+  return place < kHangerRows.size() ? words(kHangerRows[place]) : std::string();
 }
 
 }  // namespace velmar::presentation

@@ -1,9 +1,11 @@
 #pragma once
 
+#include <array>
 #include <string>
 
 #include "elements/catalogue.h"
 #include "elements/layers.h"
+#include "foundation/message_rows.h"
 #include "presentation/texts/words.h"
 
 namespace velmar::presentation {
@@ -19,6 +21,9 @@ std::string TitleOf(elements::Family family, const Words& words);
 
 /// An entry of `ComboTipoIntercSEA`: "Intercapedine vuota", "Fibroso+ Massa", ...
 std::string SeaCavityTypeText(elements::SeaCavityType type, const Words& words);
+
+/// The entries of `ComboTipoAppendino`.
+inline constexpr std::array kHangerRows = {kHangerFixedDirectlyRow, kHangerSimpleRow, kHangerSpringRow};
 
 /// An entry of `ComboTipoAppendino`, 0 to 2; an empty text for another position.
 std::string HangerText(int hanger, const Words& words);

@@ -7,6 +7,7 @@
 
 #include "elements/catalogue.h"
 #include "foundation/decimal.h"
+#include "foundation/message_rows.h"
 #include "presentation/texts/layer_rows.h"
 #include "presentation/texts/sea_cavity_parts.h"
 
@@ -15,18 +16,6 @@ namespace {
 
 using elements::Family;
 using elements::Setup;
-
-constexpr MessageRow kLiningRow{111};
-constexpr MessageRow kCeilingRow{115};
-constexpr MessageRow kEmptySeaCavityRow{156};
-constexpr MessageRow kCavityRow{219};
-constexpr MessageRow kEmptyCavityRow{220};
-constexpr MessageRow kWallRow{223};
-constexpr MessageRow kFibrousCavityRow{225};
-constexpr MessageRow kFloorRow{226};
-constexpr MessageRow kFacadeRow{227};
-constexpr MessageRow kBaseFloorRow{228};
-constexpr MessageRow kBaseWallRow{229};
 
 // These words are stored; they stay Italian in every language.
 constexpr const char* kBearingFloor = "SOLAIO BASE: ";
@@ -141,7 +130,7 @@ std::string CountedParts(const Setup& setup, const Words& words) {
 
 std::string LiningPart(const Setup& setup, bool ceiling, const Words& words) {
   return words(ceiling ? kBaseFloorRow : kBaseWallRow) + ": " + setup.base.name + kNextPart +
-         words(ceiling ? kCeilingRow : kLiningRow) + ": " + CompilaDescrizionePareteSEA2(setup) +
+         words(ceiling ? kCeilingRow : kWallLiningRow) + ": " + CompilaDescrizionePareteSEA2(setup) +
          CompilaDescrizioneIntercapedineSEA(setup, words);
 }
 
@@ -213,7 +202,7 @@ std::string ProposedName(const Setup& setup, const Words& words) {
   const Family family = elements::RowOf(*setup.calculation).family;
   MessageRow row = kWallRow;
   if (family == Family::kImpact) row = kFloorRow;
-  if (family == Family::kLining) row = kLiningRow;
+  if (family == Family::kLining) row = kWallLiningRow;
   if (family == Family::kCeiling) row = kCeilingRow;
   return words(row) + " x";
 }

@@ -2,6 +2,7 @@
 
 #include "elements/catalogue.h"
 #include "foundation/decimal.h"
+#include "foundation/message_rows.h"
 #include "presentation/texts/layer_rows.h"
 #include "presentation/texts/sea_cavity_parts.h"
 
@@ -12,17 +13,6 @@ using elements::Family;
 using elements::LayerRow;
 using elements::Orientation;
 using elements::Setup;
-
-constexpr MessageRow kLeaf1Row{160};
-constexpr MessageRow kLeaf2Row{161};
-constexpr MessageRow kResilientRow{167};
-constexpr MessageRow kScreedRow{175};
-constexpr MessageRow kLiningRow{176};
-constexpr MessageRow kFibrousRow{225};
-constexpr MessageRow kFloorRow{226};
-constexpr MessageRow kBaseFloorRow{228};
-constexpr MessageRow kBaseWallRow{229};
-constexpr MessageRow kAirGapRow{262};
 
 template <typename Material>
 double MassOf(const LayerRow<Material>& row) {
@@ -101,7 +91,7 @@ StructureBlock Lister::Cavity(const Setup& setup, const Words& words) {
   block.lines.push_back(AirGap(setup.cavity.depth_text, words));
   if (setup.cavity.kind == elements::CavityKind::kFibrous) {
     const bool own_thickness = ReadsFibreThickness(*setup.calculation);
-    block.lines.push_back({0, words(kFibrousRow),
+    block.lines.push_back({0, words(kFibrousCavityRow),
                            own_thickness ? Millimetres(NumberOf(setup.cavity.fibre_text)) : std::string()});
   } else if (setup.cavity.kind == elements::CavityKind::kGenericMaterial) {
     for (int i = 0; i < RowsInUse(setup.cavity.layers); ++i) {
@@ -146,7 +136,8 @@ std::vector<StructureBlock> VerticalDouble(const Setup& setup, Family family, co
 std::vector<StructureBlock> Floor(const Setup& setup, const Words& words) {
   Lister lister(1);
   std::vector<StructureBlock> blocks = {lister.Table(words(kFloorRow), setup.leaf1)};
-  if (RowsInUse(setup.resilient) > 0) blocks.push_back(lister.Table(words(kResilientRow), setup.resilient));
+  if (RowsInUse(setup.resilient) > 0)
+    blocks.push_back(lister.Table(words(kResilientMaterialTabRow), setup.resilient));
   blocks.push_back(lister.Table(words(kScreedRow), setup.leaf2));
   return blocks;
 }

@@ -6,6 +6,7 @@
 #include "acoustics/bands.h"
 #include "elements/layer_groups.h"
 #include "foundation/decimal.h"
+#include "foundation/message_rows.h"
 #include "shell/fields/phrases.h"
 #include "shell/pages/element_parts.h"
 
@@ -15,8 +16,6 @@ namespace {
 using elements::Family;
 using elements::LayerGroup;
 using elements::Setup;
-
-constexpr int kOpeningRow = 231;
 
 bool IsOf(const Setup& setup, std::initializer_list<Family> families) {
   const Family family = RowOf(*setup.calculation).family;
@@ -102,53 +101,53 @@ QString HolderOf(const Setup& setup, const MessageLine& line) {
 }
 
 struct Cause {
-  int row = 0;
+  MessageRow row{};
   const char* control = nullptr;  ///< none: `find` tells it
   QString (*find)(const Setup& setup, const MessageLine& line) = nullptr;
 };
 constexpr std::array kCauses = {
-    Cause{233, "TextSpessoreIntercSEA"},
-    Cause{234, "TextMassaBase"},
-    Cause{235, nullptr, FirstThickness},
-    Cause{236, "Text25"},
-    Cause{244, "TextMassaBase"},
-    Cause{245, "TextSpessoreIntercSEA"},
-    Cause{246, nullptr, MissingBand},
-    Cause{247, nullptr, UnknownFill},
-    Cause{248, "Text25"},
-    Cause{249, "Text25"},
-    Cause{250, "ComboTipoAppendino"},
-    Cause{251, "Text8"},
-    Cause{252, nullptr, UnknownFill},
-    Cause{253, "Text8"},
-    Cause{254, "Text8"},
-    Cause{256, nullptr, AreaToCorrect},
-    Cause{257, nullptr, MissingBand},
-    Cause{1002, nullptr, FirstThickness},
-    Cause{1003, nullptr, FirstThickness},
-    Cause{1004, nullptr, FirstMaterial},
-    Cause{1005, "Toolbar1_15"},
-    Cause{1006, nullptr, Depth},
-    Cause{1007, nullptr, CavityFill},
-    Cause{1009, nullptr, FirstMaterial},
-    Cause{1012, nullptr, HolderOf},
-    Cause{1024, "Text8"},
-    Cause{1050, nullptr, FirstMaterial},
-    Cause{1051, nullptr, FirstThickness},
-    Cause{1052, nullptr, FirstMaterial},
-    Cause{1053, nullptr, FirstMaterial},
-    Cause{1054, "Text8"},
-    Cause{1055, "TextSpessoreMatFibraIntercSEA_0"},
-    Cause{1056, nullptr, FirstMaterial},
-    Cause{1070, nullptr, FirstMaterial},
-    Cause{1071, "Combo11_0"},
-    Cause{1076, nullptr, MissingBand},
-    Cause{kOpeningRow, "TextSpessoreIntercSEA"},
+    Cause{kNoDepthRow, "TextSpessoreIntercSEA"},
+    Cause{kGenericNoBaseMassRow, "TextMassaBase"},
+    Cause{kGenericNoMassRow, nullptr, FirstThickness},
+    Cause{kGenericBaseRatingRow, "Text25"},
+    Cause{kNoBaseMassRow, "TextMassaBase"},
+    Cause{kCavityTooThinRow, "TextSpessoreIntercSEA"},
+    Cause{kNoBaseSpectrumRow, nullptr, MissingBand},
+    Cause{kNoAbsorptionOfFillRow, nullptr, UnknownFill},
+    Cause{kNoBaseRatingRow, "Text25"},
+    Cause{kBaseRatingNotPositiveRow, "Text25"},
+    Cause{kNoHangerRow, "ComboTipoAppendino"},
+    Cause{kNoSupportDistanceRow, "Text8"},
+    Cause{kNoAbsorptionRow, nullptr, UnknownFill},
+    Cause{kNoPointCountRow, "Text8"},
+    Cause{kNoLineCountRow, "Text8"},
+    Cause{kComponentsFillFacadeRow, nullptr, AreaToCorrect},
+    Cause{kMissingBandsRow, nullptr, MissingBand},
+    Cause{kZeroMassRow, nullptr, FirstThickness},
+    Cause{kZeroThicknessRow, nullptr, FirstThickness},
+    Cause{kInvalidStiffnessRow, nullptr, FirstMaterial},
+    Cause{kZeroDimensionRow, "Toolbar1_15"},
+    Cause{kZeroCavityDepthRow, nullptr, Depth},
+    Cause{kZeroCavityLayerRow, nullptr, CavityFill},
+    Cause{kZeroLossFactorRow, nullptr, FirstMaterial},
+    Cause{kNotANumberRow, nullptr, HolderOf},
+    Cause{kZeroStudDistanceRow, "Text8"},
+    Cause{kNoBendingWaveRow, nullptr, FirstMaterial},
+    Cause{kCoincidenceOnGridRow, nullptr, FirstThickness},
+    Cause{kNoLayerRow, nullptr, FirstMaterial},
+    Cause{kNoConnectedLayerRow, nullptr, FirstMaterial},
+    Cause{kNoConnectionBalanceRow, "Text8"},
+    Cause{kNoFillMassRow, "TextSpessoreMatFibraIntercSEA_0"},
+    Cause{kNoLeafBalanceRow, nullptr, FirstMaterial},
+    Cause{kInvalidLossFactorRow, nullptr, FirstMaterial},
+    Cause{kInvalidDynamicStiffnessRow, "Combo11_0"},
+    Cause{kFacadeLevelsRow, nullptr, MissingBand},
+    Cause{kCheckCavityRow, "TextSpessoreIntercSEA"},
 };
 
 std::optional<RefusedField> FieldOf(const Setup& setup, const MessageLine& line) {
   for (const Cause& cause : kCauses) {
-    if (cause.row != LeadingRow(line).number) continue;
+    if (cause.row != LeadingRow(line)) continue;
     const QString control = cause.control != nullptr ? QString(cause.control) : cause.find(setup, line);
     if (!control.isEmpty()) return RefusedField{control, line};
   }
@@ -171,7 +170,7 @@ std::optional<RefusedField> FieldToCorrect(const Setup& setup, const std::vector
   for (const Message& message : messages) {
     for (const MessageLine& line : message) {
       // The opening of a list of checks says nothing by itself.
-      if (message.size() > 1 && LeadingRow(line).number == kOpeningRow) continue;
+      if (message.size() > 1 && LeadingRow(line) == kCheckCavityRow) continue;
       if (auto field = FieldOf(setup, line)) return field;
     }
   }

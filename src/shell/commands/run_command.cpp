@@ -5,6 +5,7 @@
 #include <QGuiApplication>
 #include <algorithm>
 
+#include "foundation/message_rows.h"
 #include "shell/commands/refused_field.h"
 #include "shell/fields/number_field.h"
 #include "shell/fields/phrases.h"
@@ -12,8 +13,6 @@
 
 namespace velmar::shell {
 namespace {
-
-constexpr MessageRow kUnexpectedRow{1023};
 
 class BusyPointer {
  public:

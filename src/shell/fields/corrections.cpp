@@ -1,5 +1,6 @@
 #include "shell/fields/corrections.h"
 
+#include "foundation/message_rows.h"
 #include "shell/fields/field_note.h"
 #include "shell/fields/list_boxes.h"
 #include "shell/fields/material_box.h"
@@ -12,15 +13,15 @@ namespace {
 MessageRow RowFor(Correction correction) {
   switch (correction) {
     case Correction::kUnfinished:
-      return {1355};
+      return kNumberKeptRow;
     case Correction::kNotPositive:
-      return {1352};
+      return kThicknessCorrectedRow;
     case Correction::kAboveHighest:
-      return {1353};
+      return kCountCorrectedRow;
     case Correction::kUnknownMaterial:
-      return {1354};
+      return kMaterialKeptRow;
     case Correction::kRaised:
-      return {1356};
+      return kDepthCorrectedRow;
   }
   return {};
 }

@@ -9,6 +9,7 @@
 #include <QVBoxLayout>
 
 #include "calculation/select_calculation.h"
+#include "foundation/message_rows.h"
 #include "shell/commands/help_commands.h"
 #include "shell/commands/menus.h"
 #include "shell/commands/run_command.h"
@@ -31,7 +32,6 @@ constexpr int kRecoveryDelayMs = 2000;
 constexpr QSize kFirstSize{1280, 720};
 constexpr int kInputsWidth = 600;
 constexpr int kNarrowestInputs = 520;
-constexpr MessageRow kForgetRow{1308};
 
 /// What stands ready for a command. The generic linings give ratings alone.
 Needs StateOf(const calculation::OpenCalculation& open) {
@@ -217,7 +217,7 @@ void MainWindow::ShowProjects() {
   for (const std::filesystem::path& project : recent)
     recent_->addAction(QString::fromStdString(project.string()), [this, project] { OpenProject(project); });
   recent_->addSeparator();
-  recent_->addAction(Text(services_.words, kForgetRow), [this] {
+  recent_->addAction(Text(services_.words, kForgetRecentRow), [this] {
     memory_.ForgetProjects();
     ShowProjects();
   });

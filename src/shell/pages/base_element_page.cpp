@@ -5,6 +5,7 @@
 #include <QVBoxLayout>
 
 #include "foundation/decimal.h"
+#include "foundation/message_rows.h"
 #include "shell/fields/number_field.h"
 #include "shell/fields/phrases.h"
 #include "shell/pages/element_form.h"
@@ -12,13 +13,6 @@
 
 namespace velmar::shell {
 namespace {
-
-constexpr MessageRow kBaseRow{92};
-constexpr MessageRow kSimplifiedRow{96};
-constexpr MessageRow kThicknessRow{177};
-constexpr MessageRow kMassRow{217};
-constexpr MessageRow kBaseThicknessTipRow{1346};
-constexpr MessageRow kBaseMassTipRow{1347};
 
 /// A number that is 0 when unknown, as a field shows it.
 template <typename Number>
@@ -49,7 +43,7 @@ BaseElementPage::BaseElementPage(PageContext& context, QWidget* parent) : Page(p
                            .bands_frame = "Frame4",
                            .bands = "Text13"},
                           context, this);
-  form_->SetNameLabel(Text(context.Words(), kBaseRow));
+  form_->SetNameLabel(Text(context.Words(), kBaseElementRow));
   column->addWidget(simplified_);
   column->addWidget(form_);
   AddPlainBase();
@@ -74,8 +68,8 @@ void BaseElementPage::AddPlainBase() {
     context_.open.Edit(
         [&](elements::Setup& setup) { setup.base.mass_kg_m2 = ParseSingle(text).value_or(0.0F); });
   });
-  thickness_label_ = LabelFor(thickness_, kThicknessRow, context_, this);
-  mass_label_ = LabelFor(mass_, kMassRow, context_, this);
+  thickness_label_ = LabelFor(thickness_, kTotalThicknessRow, context_, this);
+  mass_label_ = LabelFor(mass_, kSurfaceMassRow, context_, this);
   mass_label_->setContentsMargins(kPageSpacing, 0, 0, 0);
   form_->AddLine(thickness_label_, {thickness_, mass_label_, mass_});
 }

@@ -11,6 +11,7 @@
 #include "calculation/count_rules.h"
 #include "calculation/select_calculation.h"
 #include "foundation/decimal.h"
+#include "foundation/message_rows.h"
 #include "shell/fields/corrections.h"
 #include "shell/fields/list_boxes.h"
 #include "shell/fields/number_field.h"
@@ -21,12 +22,7 @@
 namespace velmar::shell {
 namespace {
 
-constexpr MessageRow kDepthRow{81};
-constexpr MessageRow kKindRow{82};
-constexpr std::array kKindRows = {MessageRow{159}, MessageRow{151}, MessageRow{283}};
-constexpr MessageRow kKeywordRow{84};
-constexpr MessageRow kDepthTipRow{1342};
-constexpr MessageRow kFibreTipRow{1343};
+constexpr std::array kKindRows = {kEmptyCavityChoiceRow, kFibrousCavityChoiceRow, kGenericCavityChoiceRow};
 
 }  // namespace
 
@@ -41,7 +37,7 @@ CavityPage::CavityPage(PageContext& context, QWidget* parent) : Page(parent), co
 void CavityPage::AddDepth(QVBoxLayout& column) {
   QHBoxLayout* line = AddLine(column);
   depth_ = new NumberField("Text9", NumberKind::kReal, this);
-  QLabel* label = LabelFor(depth_, kDepthRow, context_, this);
+  QLabel* label = LabelFor(depth_, kCavityDepthRow, context_, this);
   label->setObjectName("Label25");
   depth_->setAccessibleName(label->text());
   depth_->setToolTip(Text(context_.Words(), kDepthTipRow));
@@ -67,7 +63,7 @@ void CavityPage::LeaveDepth() {
 }
 
 void CavityPage::AddKinds(QVBoxLayout& column) {
-  auto* label = new QLabel(Text(context_.Words(), kKindRow), this);
+  auto* label = new QLabel(Text(context_.Words(), kCavityKindRow), this);
   label->setObjectName("Label21");
   column.addSpacing(kPageSpacing);
   column.addWidget(label);
@@ -112,7 +108,7 @@ void CavityPage::AddLayers(QVBoxLayout& column) {
                                        .highest = kCapacity,
                                        .filter_name = "Combo19",
                                        .filter = FilterId::kCavity,
-                                       .filter_label = kKeywordRow},
+                                       .filter_label = kKeywordFilterRow},
                                       context_, *inner, layers_);
   count_ = head.count;
   filter_ = head.filter;

@@ -7,6 +7,7 @@
 #include <QLineEdit>
 
 #include "calculation/element_choice.h"
+#include "foundation/message_rows.h"
 #include "shell/fields/number_field.h"
 #include "shell/fields/phrases.h"
 #include "shell/pages/element_name.h"
@@ -16,10 +17,6 @@
 namespace velmar::shell {
 namespace {
 
-constexpr MessageRow kDescriptionRow{94};
-constexpr MessageRow kAreaRow{95};
-constexpr MessageRow kRatingTipRow{1344};
-constexpr MessageRow kAreaTipRow{1345};
 // Symbols and units, the same in every language.
 constexpr const char* kRating = "Rw (dB)";
 constexpr const char* kSmallRating = "Dnew (dB)";
@@ -68,7 +65,7 @@ void ElementForm::AddDescription(const ElementNames& names) {
 
 void ElementForm::AddArea(const ElementNames& names) {
   area_ = new NumberField(names.area, element_ == 0 ? NumberKind::kReal : NumberKind::kArea, this);
-  area_label_ = LabelFor(area_, kAreaRow, context_, this);
+  area_label_ = LabelFor(area_, kPartAreaRow, context_, this);
   area_->setAccessibleName(area_label_->text());
   area_->setToolTip(Text(context_.Words(), kAreaTipRow));
   area_->OnEdit([this](const std::string& text) {

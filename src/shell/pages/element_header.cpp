@@ -9,6 +9,8 @@
 
 #include "calculation/select_calculation.h"
 #include "foundation/decimal.h"
+#include "foundation/message_rows.h"
+#include "presentation/texts/calculation_labels.h"
 #include "shell/fields/icons.h"
 #include "shell/fields/list_boxes.h"
 #include "shell/fields/number_field.h"
@@ -19,21 +21,6 @@ namespace velmar::shell {
 namespace {
 
 using calculation::SupportField;
-
-constexpr MessageRow kThicknessRow{177};
-constexpr MessageRow kMassRow{217};
-constexpr MessageRow kSupportDistanceRow{77};
-constexpr MessageRow kConnectionsRow{57};
-constexpr MessageRow kHangerRow{76};
-constexpr std::array kHangerRows = {MessageRow{415}, MessageRow{416}, MessageRow{417}};
-constexpr MessageRow kDecoupledRow{414};
-constexpr MessageRow kDimensionsTipRow{312};
-constexpr MessageRow kThicknessTipRow{1330};
-constexpr MessageRow kMassTipRow{1331};
-constexpr MessageRow kSupportTipRow{1332};
-constexpr MessageRow kConnectionsTipRow{1333};
-constexpr MessageRow kHangerTipRow{1334};
-constexpr MessageRow kDecoupledTipRow{1335};
 
 /// The element's name ends in a colon where its label once stood before a field.
 QString WithoutColon(QString text) {
@@ -117,8 +104,8 @@ void ElementHeader::AddNumbers(QVBoxLayout& column, std::function<void()> edit_d
     totals->addSpacing(2 * kPageSpacing);
     return value;
   };
-  thickness_ = add_total("Text3", kThicknessRow, kThicknessTipRow);
-  mass_ = add_total("Text4", kMassRow, kMassTipRow);
+  thickness_ = add_total("Text3", kTotalThicknessRow, kTotalThicknessTipRow);
+  mass_ = add_total("Text4", kSurfaceMassRow, kMassTipRow);
   line->addWidget(totals_);
   line->addStretch(1);
 }
@@ -137,13 +124,13 @@ void ElementHeader::AddConnections(QVBoxLayout& column) {
   support_label_ = LabelFor(support_, kSupportDistanceRow, context_, connections_);
   hanger_ = new ChoiceBox("ComboTipoAppendino", connections_);
   QStringList hangers;
-  for (const MessageRow row : kHangerRows) hangers += Text(words, row);
+  for (const MessageRow row : presentation::kHangerRows) hangers += Text(words, row);
   hanger_->Offer(hangers);
   hanger_->setToolTip(Text(words, kHangerTipRow));
-  hanger_->setAccessibleDescription(Text(words, kHangerRow));
+  hanger_->setAccessibleDescription(Text(words, kConnectionTypeRow));
   hanger_->OnChoice(
       [this](int index) { context_.open.Edit([index](elements::Setup& setup) { setup.hanger = index; }); });
-  hanger_label_ = LabelFor(hanger_, kHangerRow, context_, connections_);
+  hanger_label_ = LabelFor(hanger_, kConnectionTypeRow, context_, connections_);
   decoupled_ = new QCheckBox(Text(words, kDecoupledRow), connections_);
   decoupled_->setObjectName("CheckDesolidarizza");
   decoupled_->setToolTip(Text(words, kDecoupledTipRow));

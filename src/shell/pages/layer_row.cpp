@@ -11,6 +11,7 @@
 
 #include "calculation/layer_edits.h"
 #include "foundation/decimal.h"
+#include "foundation/message_rows.h"
 #include "shell/fields/icons.h"
 #include "shell/fields/list_boxes.h"
 #include "shell/fields/material_box.h"
@@ -20,15 +21,6 @@
 namespace velmar::shell {
 namespace {
 
-constexpr MessageRow kMaterialRow{88};
-constexpr MessageRow kThicknessRow{85};
-constexpr MessageRow kSheetsRow{86};
-constexpr MessageRow kChooserTipRow{362};
-constexpr MessageRow kLeftSideRow{89};
-constexpr MessageRow kRightSideRow{90};
-constexpr MessageRow kDampingRow{122};
-constexpr MessageRow kThicknessTipRow{1340};
-constexpr MessageRow kSheetsTipRow{1341};
 constexpr int kMostSheetsOffered = 10;
 constexpr int kGroupsOfTwo = 2;
 
@@ -104,8 +96,8 @@ void LayerRow::MakeFields(QWidget* page) {
   material_->OnChoice([this](const std::string& name) { PutMaterial(name); });
 
   thickness_ = new NumberField(ArrayName(group.thickness_box, plan_.index), NumberKind::kReal, page);
-  thickness_->setAccessibleName(Text(words, kThicknessRow) + row);
-  thickness_->setToolTip(Text(words, kThicknessTipRow));
+  thickness_->setAccessibleName(Text(words, kLayerThicknessRow) + row);
+  thickness_->setToolTip(Text(words, kLayerThicknessTipRow));
   thickness_->OnEdit([this](const std::string& text) {
     context_.open.Edit([&](elements::Setup& setup) {
       calculation::EnterLayerThickness(setup, plan_.group, plan_.index, text);
@@ -207,7 +199,7 @@ std::vector<QWidget*> AddLayerHeads(QGridLayout& grid, int line, const PageConte
     grid.addWidget(heads.back(), line, column);
   };
   add(material, Qt::AlignLeft, LayerRow::kMaterialColumn);
-  add(Text(words, kThicknessRow), Qt::AlignRight, LayerRow::kThicknessColumn);
+  add(Text(words, kLayerThicknessRow), Qt::AlignRight, LayerRow::kThicknessColumn);
   if (with_sheets) add(Text(words, kSheetsRow), Qt::AlignRight, LayerRow::kSheetsColumn);
   grid.setColumnStretch(LayerRow::kMaterialColumn, 1);
   grid.setHorizontalSpacing(8);

@@ -8,6 +8,7 @@
 #include "calculation/cavity_rules.h"
 #include "calculation/layer_edits.h"
 #include "calculation/select_calculation.h"
+#include "foundation/message_rows.h"
 #include "shell/fields/corrections.h"
 #include "shell/fields/list_boxes.h"
 #include "shell/fields/number_field.h"
@@ -21,15 +22,6 @@ namespace {
 using elements::LayerGroup;
 using elements::SeaCavityType;
 
-constexpr MessageRow kLayersRow{120};
-constexpr MessageRow kThicknessRow{85};
-constexpr MessageRow kEmptyRow{156};
-constexpr MessageRow kFibreRow{157};
-constexpr MessageRow kMassRow{158};
-constexpr MessageRow kFibreLabelRow{119};
-constexpr MessageRow kMassLabelRow{121};
-constexpr MessageRow kDepthTipRow{1342};
-
 /// What stands in a cavity from its first side on; F a fibre, M a mass.
 constexpr std::array<const char*, elements::kSeaCavityTypeCount> kContents = {"",    "F",    "FM",   "MFM",
                                                                               "FMF", "FMFM", "FMFMF"};
@@ -37,11 +29,11 @@ constexpr std::array<const char*, elements::kSeaCavityTypeCount> kContents = {""
 }  // namespace
 
 QStringList SeaCavityTypeNames(const presentation::Words& words, int count) {
-  QStringList names = {Text(words, kEmptyRow)};
+  QStringList names = {Text(words, kEmptySeaCavityRow)};
   for (int type = 1; type < count; ++type) {
     QStringList pieces;
     for (const char* content = kContents.at(static_cast<std::size_t>(type)); *content != '\0'; ++content)
-      pieces += Text(words, *content == 'F' ? kFibreRow : kMassRow);
+      pieces += Text(words, *content == 'F' ? kFibreLayerRow : kMassLayerRow);
     names += pieces.join("+ ");
   }
   return names;
@@ -62,14 +54,14 @@ void SeaCavityPage::AddHead(QVBoxLayout& column) {
   fields->setColumnStretch(1, 1);
   column.addLayout(fields);
   type_ = new ChoiceBox("ComboTipoIntercSEA", this);
-  type_->setAccessibleDescription(Text(context_.Words(), kLayersRow));
+  type_->setAccessibleDescription(Text(context_.Words(), kSeaCavityLayersRow));
   type_->OnChoice([this](int index) {
     context_.open.Edit([index](elements::Setup& setup) {
       calculation::ChooseSeaCavityType(setup, static_cast<SeaCavityType>(index));
     });
   });
   depth_ = new NumberField("TextSpessoreIntercSEA", NumberKind::kReal, this);
-  depth_->setAccessibleName(Text(context_.Words(), kThicknessRow));
+  depth_->setAccessibleName(Text(context_.Words(), kLayerThicknessRow));
   depth_->setToolTip(Text(context_.Words(), kDepthTipRow));
   depth_->OnEdit([this](const std::string& text) {
     context_.open.Edit([&](elements::Setup& setup) { setup.sea_cavity.depth_text = text; });
@@ -82,9 +74,9 @@ void SeaCavityPage::AddHead(QVBoxLayout& column) {
     context_.open.Edit([&](elements::Setup& setup) { setup = std::move(left); });
     NoteCorrection(depth_, Correction::kRaised, 0, context_.Words());
   });
-  fields->addWidget(LabelFor(type_, kLayersRow, context_, this), 0, 0);
+  fields->addWidget(LabelFor(type_, kSeaCavityLayersRow, context_, this), 0, 0);
   fields->addWidget(type_, 0, 1);
-  fields->addWidget(LabelFor(depth_, kThicknessRow, context_, this), 1, 0);
+  fields->addWidget(LabelFor(depth_, kLayerThicknessRow, context_, this), 1, 0);
   fields->addWidget(depth_, 1, 1, Qt::AlignLeft);
 }
 

@@ -6,6 +6,7 @@
 
 #include "calculation/count_rules.h"
 #include "calculation/material_choice.h"
+#include "foundation/message_rows.h"
 #include "shell/fields/list_boxes.h"
 #include "shell/fields/phrases.h"
 #include "shell/pages/layer_row.h"
@@ -15,8 +16,6 @@ namespace velmar::shell {
 namespace {
 
 using elements::LayerGroup;
-
-constexpr MessageRow kDampingRow{122};
 
 struct SideControls {
   LayerGroup layers{};

@@ -2,6 +2,8 @@
 
 #include <string_view>
 
+#include "foundation/message_rows.h"
+
 namespace velmar::shell {
 namespace {
 
@@ -10,36 +12,20 @@ using elements::ElementButton;
 using elements::Family;
 using enum TabId;
 
-// Captions.
-constexpr MessageRow kWall1{160};
-constexpr MessageRow kWall2{161};
-constexpr MessageRow kCavityRow{219};
-constexpr MessageRow kFloorRow{226};
-constexpr MessageRow kScreedRow{175};
-constexpr MessageRow kResilientRow{167};
-constexpr MessageRow kOpaqueRow{174};
-constexpr MessageRow kComponentsRow{169};
-constexpr MessageRow kBaseWallRow{168};
-constexpr MessageRow kBaseFloorRow{228};
-constexpr MessageRow kLiningRow{176};
-constexpr MessageRow kSeaWall1{170};
-constexpr MessageRow kSeaWall2{172};
-constexpr MessageRow kSeaCavityRow{173};
-
 std::vector<ShownTab> SingleTabs(const CalculationRow& row) {
-  if (row.family == Family::kSeaSingle) return {{kSeaLeaf1, kSeaWall1, "wall"}};
+  if (row.family == Family::kSeaSingle) return {{kSeaLeaf1, kSeaLeaf1TabRow, "wall"}};
   if (row.orientation == elements::Orientation::kHorizontalSingle) return {{kLeaf1, kFloorRow, "floor"}};
-  return {{kLeaf1, kWall1, IsGlazing(row.calculation) ? "glass" : "wall"}};
+  return {{kLeaf1, kLeaf1Row, IsGlazing(row.calculation) ? "glass" : "wall"}};
 }
 
 std::vector<ShownTab> DoubleTabs(const CalculationRow& row) {
   if (row.family == Family::kSea)
-    return {{kSeaLeaf1, kSeaWall1, "leaf-first"},
-            {kSeaLeaf2, kSeaWall2, "leaf-second"},
-            {kSeaCavity, kSeaCavityRow, "cavity"}};
+    return {{kSeaLeaf1, kSeaLeaf1TabRow, "leaf-first"},
+            {kSeaLeaf2, kSeaLeaf2TabRow, "leaf-second"},
+            {kSeaCavity, kSeaCavityTabRow, "cavity"}};
   const bool glass = IsGlazing(row.calculation);
-  return {{kLeaf1, kWall1, glass ? "glass-first" : "leaf-first"},
-          {kLeaf2, kWall2, glass ? "glass-second" : "leaf-second"},
+  return {{kLeaf1, kLeaf1Row, glass ? "glass-first" : "leaf-first"},
+          {kLeaf2, kLeaf2Row, glass ? "glass-second" : "leaf-second"},
           {kCavity, kCavityRow, "cavity"}};
 }
 
@@ -55,17 +41,17 @@ std::vector<ShownTab> TabsOf(elements::Calculation calculation) {
     case ElementButton::kFloor:
       return {{kLeaf1, kFloorRow, "floor"},
               {kLeaf2, kScreedRow, "screed"},
-              {kResilient, kResilientRow, "resilient"}};
+              {kResilient, kResilientMaterialTabRow, "resilient"}};
     case ElementButton::kFacade:
-      return {{kBase, kOpaqueRow, "base"}, {kComponents, kComponentsRow, "components"}};
+      return {{kBase, kOpaquePartTabRow, "base"}, {kComponents, kComponentsTabRow, "components"}};
     case ElementButton::kLining:
-      return {{kBase, kBaseWallRow, "base"},
+      return {{kBase, kBaseWallTabRow, "base"},
               {kSeaLeaf2, kLiningRow, "lining"},
-              {kSeaCavity, kSeaCavityRow, "cavity"}};
+              {kSeaCavity, kSeaCavityTabRow, "cavity"}};
     case ElementButton::kCeiling:
       return {{kBase, kBaseFloorRow, "floor"},
               {kSeaLeaf2, kLiningRow, "ceiling"},
-              {kSeaCavity, kSeaCavityRow, "cavity"}};
+              {kSeaCavity, kSeaCavityTabRow, "cavity"}};
   }
   return {};
 }

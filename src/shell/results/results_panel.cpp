@@ -11,6 +11,7 @@
 
 #include "calculation/select_calculation.h"
 #include "foundation/decimal.h"
+#include "foundation/message_rows.h"
 #include "foundation/rounding.h"
 #include "presentation/drawing/curve_chart.h"
 #include "shell/fields/phrases.h"
@@ -21,12 +22,7 @@
 namespace velmar::shell {
 namespace {
 
-constexpr MessageRow kNoResultRow{232};
-constexpr MessageRow kAutoscaleRow{73};
-constexpr MessageRow kSectionRow{74};
 constexpr const char* kPanel = "prnFrame1";
-constexpr MessageRow kRatingsOnlyRow{1022};
-constexpr MessageRow kLiningTermsTipRow{1351};
 constexpr double kRatingScale = 2.4;
 constexpr double kTermScale = 1.25;
 // Symbols of the ratings, the same in every language.

@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "foundation/failure.h"
-#include "models/plates/failure_rows.h"
+#include "foundation/message_rows.h"
 #include "models/relations/relation.h"
 
 namespace velmar::models {

@@ -6,7 +6,7 @@
 #include <gtest/gtest.h>
 
 #include "foundation/failure.h"
-#include "models/sea/failure_causes.h"
+#include "foundation/message_rows.h"
 #include "models/sea/leaf_transmission.h"
 #include "tests/models/sea/constructions.h"
 

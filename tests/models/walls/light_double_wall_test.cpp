@@ -6,9 +6,8 @@
 #include <gtest/gtest.h>
 
 #include "foundation/failure.h"
-#include "models/plates/failure_rows.h"
+#include "foundation/message_rows.h"
 #include "models/walls/bridged_limit.h"
-#include "models/walls/failure_rows.h"
 #include "models/walls/light_leaf.h"
 
 namespace velmar::models {

@@ -5,7 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "foundation/failure.h"
-#include "models/walls/failure_rows.h"
+#include "foundation/message_rows.h"
 
 namespace velmar::models {
 namespace {
