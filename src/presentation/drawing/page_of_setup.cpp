@@ -147,6 +147,7 @@ PaginaDiStampa PaginaDi(const Setup& setup, const PageTotals& totals, const elem
     for (std::string line : {ResultLine(row.family, *result), ImprovementLine(row.family, *result)}) {
       if (!line.empty()) page.results.push_back(std::move(line));
     }
+    page.further_results = FurtherNumbersLine(row.calculation, *result);
   }
   if (row.family == Family::kFacade) page.elements = FacadeTable(setup, words);
   if (IsLining(row.family)) page.elements = LiningTable(setup, result);

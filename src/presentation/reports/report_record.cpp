@@ -101,6 +101,7 @@ ReportRecord ReportRecordOf(const Setup& setup, const elements::ResultSet& resul
   FillDimensions(setup, family, record);
   record.result_line = ResultLine(family, result);
   record.improvement_line = Improvement(family, result);
+  record.further_line = FurtherNumbersLine(*setup.calculation, result);
   record.laboratory_data = Compared(words(kLaboratoryFrameRow), compared.laboratory);
   record.in_situ_data = Compared(words(kInSituRow), compared.in_situ);
   if (family == Family::kFacade) {

@@ -45,6 +45,7 @@ struct ReportRecord {
   elements::ResultSet result{};
   std::string result_line{};       ///< "Rw(C; Ctr)= 54,0 (-2; -6) dB"
   std::string improvement_line{};  ///< "DRw= 12 dB"; empty where there is none
+  std::string further_line{};      ///< "C50-5000= -1; Ctr,50-5000= -5 dB; STC= 44"; empty where there is none
   std::string laboratory_data{};  ///< what the result was compared with: "Dati di laboratorio: ..."; or empty
   std::string in_situ_data{};
 
