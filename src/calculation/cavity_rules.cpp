@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include "calculation/count_rules.h"
-#include "calculation/select_calculation.h"
 #include "foundation/decimal.h"
 #include "foundation/message_rows.h"
 #include "foundation/rounding.h"
@@ -110,7 +109,7 @@ bool RaiseCavityDepthToLayers(elements::Setup& setup) {
 
 bool FibreThicknessEnabled(const elements::Setup& setup) {
   return setup.cavity.kind == elements::CavityKind::kFibrous && setup.calculation &&
-         LayoutOf(*setup.calculation).fibre_thickness_shown;
+         RowOf(*setup.calculation).Reads(elements::Field::kFibreThickness);
 }
 
 }  // namespace velmar::calculation

@@ -1,6 +1,5 @@
 #include "calculation/material_choice.h"
 
-#include <algorithm>
 #include <array>
 #include <span>
 
@@ -111,33 +110,6 @@ constexpr std::array kStructuralGroups = {LayerGroup::kLeaf1,         LayerGroup
 
 bool FillsEverySlot(LayerGroup group) {
   return group == LayerGroup::kSeaCavityMass || group == LayerGroup::kSeaCavityDamping;
-}
-
-int RowsInUse(const Setup& setup, LayerGroup group) {
-  switch (group) {
-    case LayerGroup::kLeaf1:
-      return setup.leaf1.count;
-    case LayerGroup::kLeaf2:
-      return setup.leaf2.count;
-    case LayerGroup::kSeaLeaf1:
-      return setup.sea_leaf1.count;
-    case LayerGroup::kSeaLeaf2:
-      return setup.sea_leaf2.count;
-    case LayerGroup::kSeaDamping1:
-      return 2 * setup.sea_leaf1.count;
-    case LayerGroup::kSeaDamping2:
-      return 2 * setup.sea_leaf2.count;
-    case LayerGroup::kCavity:
-      return std::min(setup.cavity.layers.count, elements::CavityLayers::kCapacity);
-    case LayerGroup::kResilient:
-      return setup.resilient.count;
-    case LayerGroup::kSeaCavityMass:
-    case LayerGroup::kSeaCavityDamping:
-      return MassCount(setup.sea_cavity.type);
-    case LayerGroup::kSeaCavityFibre:
-      return FibreCount(setup.sea_cavity.type);
-  }
-  return 0;
 }
 
 void ReloadStructural(Setup& setup, LayerGroup group, int index, const elements::MaterialLookup& materials) {

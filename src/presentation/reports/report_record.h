@@ -59,6 +59,7 @@ struct ReportRecord {
   std::vector<StructureRow> structure{};
   std::string base_element{};  ///< the wall or floor under a lining
   std::string hanger{};        ///< how a ceiling hangs; empty for all else
+  std::string hanger_line{};   ///< the same behind its caption, for the spreadsheet
 
   std::string generic_note{};       ///< what stands in place of the bands; empty where there are bands
   std::string section_title{};      ///< of the layers

@@ -62,7 +62,7 @@ std::string FurtherNumbersLine(elements::Calculation calculation, const elements
 }
 
 std::string ImprovementLine(Family family, const elements::ResultSet& result) {
-  if ((family != Family::kLining && family != Family::kCeiling) || !result.delta_rw) return {};
+  if (!IsLining(family) || !result.delta_rw) return {};
   return "DRw= " + FormatTerm(result.delta_rw) + " dB";
 }
 

@@ -61,10 +61,8 @@ void RunOpenCalculation(const WindowServices& services, const QWidget& window) {
     if (std::find(asked.begin(), asked.end(), message) == asked.end())
       services.boxes.tell(Tone::kCritical, Text(services.words, message));
   }
-  if (outcome.status != calculation::RunStatus::kRefused && outcome.status != calculation::RunStatus::kFailed)
-    return;
-  if (const auto field = FieldToCorrect(services.open.Setup(), outcome.messages))
-    PointAt(window, field->control, WordsOf(services, field->reason));
+  if (outcome.refusal)
+    PointAt(window, ControlOf(outcome.refusal->field), WordsOf(services, outcome.refusal->reason));
 }
 
 }  // namespace velmar::shell

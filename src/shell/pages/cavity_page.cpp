@@ -9,7 +9,6 @@
 
 #include "calculation/cavity_rules.h"
 #include "calculation/count_rules.h"
-#include "calculation/select_calculation.h"
 #include "foundation/decimal.h"
 #include "foundation/message_rows.h"
 #include "shell/fields/corrections.h"
@@ -133,16 +132,17 @@ void CavityPage::AddLayers(QVBoxLayout& column) {
 void CavityPage::Show(const elements::Setup& setup) {
   if (!setup.calculation) return;
   const elements::Cavity& cavity = setup.cavity;
-  const calculation::FieldLayout layout = calculation::LayoutOf(*setup.calculation);
+  const elements::CalculationRow& row = RowOf(*setup.calculation);
+  const bool reads_fibre = row.Reads(elements::Field::kFibreThickness);
   depth_->Show(cavity.depth_text);
   fibre_->Show(cavity.fibre_text);
-  fibre_->setVisible(layout.fibre_thickness_shown);
+  fibre_->setVisible(reads_fibre);
   fibre_->setEnabled(calculation::FibreThicknessEnabled(setup));
   kinds_.at(static_cast<std::size_t>(cavity.kind))->setChecked(true);
-  kinds_.back()->setVisible(layout.generic_cavity_offered);
+  kinds_.back()->setVisible(row.generic_cavity);
   // Without its field the words end before the thickness they ask for.
   QString words = Text(context_.Words(), kKindRows.at(1));
-  if (!layout.fibre_thickness_shown) words = words.section(" - ", 0, 0);
+  if (!reads_fibre) words = words.section(" - ", 0, 0);
   kinds_.at(1)->setText(words);
 
   const bool generic = cavity.kind == elements::CavityKind::kGenericMaterial;

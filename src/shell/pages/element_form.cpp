@@ -69,14 +69,15 @@ void ElementForm::AddArea(const ElementNames& names) {
   area_->setAccessibleName(area_label_->text());
   area_->setToolTip(Text(context_.Words(), kAreaTipRow));
   area_->OnEdit([this](const std::string& text) {
-    bool stays = true;
-    context_.open.EditKeepingResult([&](elements::Setup& setup) {
-      stays = Visited(setup, element_, [&](auto& element) {
-        return element_ == 0 ? calculation::EnterElementNumber(element.area_text, text)
-                             : calculation::EnterComponentArea(element.area_text, text);
+    context_.open.Edit([&](elements::Setup& setup) {
+      Visited(setup, element_, [&](auto& element) {
+        if (element_ == 0) {
+          calculation::EnterElementNumber(element.area_text, text);
+        } else {
+          calculation::EnterComponentArea(element.area_text, text);
+        }
       });
     });
-    if (!stays) context_.open.DropResult();
   });
   area_line_ = new QHBoxLayout;
   area_line_->addWidget(area_);
@@ -143,13 +144,9 @@ void ElementForm::AddBands(const ElementNames& names) {
 
 template <typename BoxOf>
 void ElementForm::Enter(BoxOf&& box_of, const std::string& text) {
-  bool stays = true;
-  const auto enter = [&](elements::Setup& setup) {
-    stays = Visited(setup, element_,
-                    [&](auto& element) { return calculation::EnterElementNumber(box_of(element), text); });
-  };
-  context_.open.EditKeepingResult(enter);
-  if (!stays) context_.open.DropResult();
+  context_.open.Edit([&](elements::Setup& setup) {
+    Visited(setup, element_, [&](auto& element) { calculation::EnterElementNumber(box_of(element), text); });
+  });
 }
 
 void ElementForm::SetNameLabel(const QString& text) { name_label_->setText(text); }

@@ -7,7 +7,6 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
-#include "calculation/select_calculation.h"
 #include "foundation/decimal.h"
 #include "foundation/message_rows.h"
 #include "presentation/texts/calculation_labels.h"
@@ -20,7 +19,7 @@
 namespace velmar::shell {
 namespace {
 
-using calculation::SupportField;
+using elements::Field;
 
 /// The element's name ends in a colon where its label once stood before a field.
 QString WithoutColon(QString text) {
@@ -149,7 +148,6 @@ void ElementHeader::Show() {
   const elements::Setup& setup = context_.open.Setup();
   if (!setup.calculation) return;
   const elements::CalculationRow& row = RowOf(*setup.calculation);
-  const calculation::FieldLayout layout = calculation::LayoutOf(*setup.calculation);
   const auto& words = context_.Words();
   element_type_->setText(WithoutColon(Text(words, row.element_type.Line())));
   theory_->setText(Text(words, row.theory.Line()));
@@ -166,9 +164,8 @@ void ElementHeader::Show() {
   area_->setText(area + QStringLiteral(" m²"));
   area_->setVisible(facade && !area.isEmpty());
 
-  const bool support = layout.support != SupportField::kHidden;
-  const bool counts =
-      layout.support == SupportField::kPointConnections || layout.support == SupportField::kLineConnections;
+  const bool support = row.Reads(Field::kSupport);
+  const bool counts = IsCount(row.support);
   support_->SetKind(counts ? NumberKind::kInteger : NumberKind::kReal);
   support_->Show(setup.support_distance_text);
   support_label_->setText(Text(words, counts ? kConnectionsRow : kSupportDistanceRow));
@@ -177,11 +174,11 @@ void ElementHeader::Show() {
   support_label_->setVisible(support);
   support_->setVisible(support);
   hanger_->Show(setup.hanger);
-  hanger_label_->setVisible(layout.hanger_shown);
-  hanger_->setVisible(layout.hanger_shown);
+  hanger_label_->setVisible(row.Reads(Field::kHanger));
+  hanger_->setVisible(row.Reads(Field::kHanger));
   decoupled_->setChecked(setup.decoupled);
-  decoupled_->setVisible(layout.decoupling_shown);
-  connections_->setVisible(support || layout.hanger_shown || layout.decoupling_shown);
+  decoupled_->setVisible(row.Reads(Field::kDecoupling));
+  connections_->setVisible(support || row.Reads(Field::kHanger) || row.Reads(Field::kDecoupling));
 }
 
 }  // namespace velmar::shell

@@ -10,7 +10,6 @@
 #include <QVBoxLayout>
 #include <tuple>
 
-#include "calculation/select_calculation.h"
 #include "elements/single_numbers.h"
 #include "foundation/decimal.h"
 #include "foundation/message_rows.h"
@@ -199,9 +198,11 @@ void ResultsPanel::ShowRatings(const elements::Setup& setup, const elements::Res
   ctr_->setText(Term("Ctr", shown.ctr));
   c_->setVisible(impact ? shown.ci.has_value() : shown.c.has_value());
   ctr_->setVisible(shown.ctr.has_value() && !impact);
+  const elements::Family family = RowOf(calculation).family;
+  const bool lining = IsLining(family);
   for (QLabel* term : {c_, ctr_})
-    term->setToolTip(IsLining(setup) ? Text(context_.Words(), kLiningTermsTipRow) : QString());
-  const bool improves = calculation::LayoutOf(calculation).improvement_shown;
+    term->setToolTip(lining ? Text(context_.Words(), kLiningTermsTipRow) : QString());
+  const bool improves = lining || RowOf(calculation).model == elements::Model::kFloatingScreedFloor;
   improvement_->setText(Decibels(shown.delta_rw));
   improvement_frame_->setVisible(improves && rated);
   impact_improvement_->setText(Decibels(shown.delta_lnw));

@@ -5,6 +5,7 @@
 #include <QTabWidget>
 #include <QTest>
 
+#include "calculation/refusals.h"
 #include "shell/commands/refused_field.h"
 #include "shell/fields/field_note.h"
 #include "tests/shell/support/window_fixture.h"
@@ -174,15 +175,14 @@ class FieldNotesTest : public QObject {
         RequireField({MessageRow{number}});
       }
       for (int number = 1001; number < 1100; ++number) RequireField({MessageRow{number}});
-      RequireField({MessageRow{1012}, " \"" + fixture_->open.Setup().cavity.depth_text + '"'});
     }
   }
 
  private:
   QString NoteAt(const QString& control) const { return FieldNote::TextAt(fixture_->Find<QWidget>(control)); }
   void RequireField(const MessageLine& line) const {
-    const auto field = FieldToCorrect(fixture_->open.Setup(), {{line}});
-    if (field) fixture_->Find<QWidget>(field->control);
+    const auto refusal = calculation::FindRefusal(fixture_->open.Setup(), {{line}});
+    if (refusal) fixture_->Find<QWidget>(ControlOf(refusal->field));
   }
 
   std::unique_ptr<WindowFixture> fixture_;
