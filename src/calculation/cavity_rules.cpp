@@ -71,6 +71,8 @@ std::optional<Message> LeaveCavityDepth(elements::Setup& setup) {
     RaiseDepthToFibre(cavity);
   }
   RaiseCavityDepthToLayers(setup);
+  if (told && cavity.depth_text != kFallbackDepth)
+    told = Message{{kContentDepthRow, " " + cavity.depth_text + " mm."}};
   return told;
 }
 
@@ -90,6 +92,7 @@ void EnterCavityLayerThickness(elements::Setup& setup, int index, const std::str
 }
 
 void ChooseCavityKind(elements::Setup& setup, elements::CavityKind kind) {
+  if (setup.cavity.kind == kind) return;
   setup.cavity.kind = kind;
   if (kind == elements::CavityKind::kGenericMaterial) {
     RaiseCavityDepthToLayers(setup);

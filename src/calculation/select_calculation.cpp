@@ -16,6 +16,7 @@ void SelectCalculation(elements::Setup& setup, elements::Calculation calculation
   const bool generic = setup.cavity.kind == elements::CavityKind::kGenericMaterial;
   if (generic && row.stacks.Has(elements::Stack::kCavity) && !row.generic_cavity)
     ChooseCavityKind(setup, elements::CavityKind::kFibrous);
+  if (IsLining(row.family)) LeaveSeaCavityDepth(setup);
 }
 
 }  // namespace velmar::calculation

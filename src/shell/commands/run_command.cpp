@@ -7,7 +7,6 @@
 
 #include "foundation/message_rows.h"
 #include "shell/commands/refused_field.h"
-#include "shell/fields/number_field.h"
 #include "shell/fields/phrases.h"
 #include "shell/fields/reveal.h"
 
@@ -41,7 +40,6 @@ QString WordsOf(const WindowServices& services, const MessageLine& reason) {
 }  // namespace
 
 void RunOpenCalculation(const WindowServices& services, const QWidget& window) {
-  if (auto* field = dynamic_cast<NumberField*>(QApplication::focusWidget())) field->Settle();
   std::vector<Message> asked;
   calculation::RunOutcome outcome;
   try {

@@ -6,6 +6,7 @@
 #include <QLabel>
 #include <QToolButton>
 #include <QVBoxLayout>
+#include <cmath>
 
 #include "foundation/decimal.h"
 #include "foundation/message_rows.h"
@@ -117,8 +118,9 @@ void ElementHeader::AddConnections(QVBoxLayout& column) {
   line->setContentsMargins(0, 0, 0, 0);
   line->setSpacing(kPageSpacing);
   support_ = new NumberField("Text8", NumberKind::kReal, connections_);
-  support_->OnEdit([this](const std::string& text) {
-    context_.open.Edit([&](elements::Setup& setup) { setup.support_distance_text = text; });
+  context_.Watch(support_);
+  connect(support_, &NumberField::Edited, this, [this](const std::string& text) {
+    context_.Edit([&](elements::Setup& setup) { setup.support_distance_text = text; });
   });
   support_label_ = LabelFor(support_, kSupportDistanceRow, context_, connections_);
   hanger_ = new ChoiceBox("ComboTipoAppendino", connections_);
@@ -127,14 +129,14 @@ void ElementHeader::AddConnections(QVBoxLayout& column) {
   hanger_->Offer(hangers);
   hanger_->setToolTip(Text(words, kHangerTipRow));
   hanger_->setAccessibleDescription(Text(words, kConnectionTypeRow));
-  hanger_->OnChoice(
-      [this](int index) { context_.open.Edit([index](elements::Setup& setup) { setup.hanger = index; }); });
+  connect(hanger_, &QComboBox::activated, this,
+          [this](int index) { context_.Edit([index](elements::Setup& setup) { setup.hanger = index; }); });
   hanger_label_ = LabelFor(hanger_, kConnectionTypeRow, context_, connections_);
   decoupled_ = new QCheckBox(Text(words, kDecoupledRow), connections_);
   decoupled_->setObjectName("CheckDesolidarizza");
   decoupled_->setToolTip(Text(words, kDecoupledTipRow));
   connect(decoupled_, &QCheckBox::clicked, this, [this](bool ticked) {
-    context_.open.Edit([ticked](elements::Setup& setup) { setup.decoupled = ticked; });
+    context_.Edit([ticked](elements::Setup& setup) { setup.decoupled = ticked; });
   });
   for (QWidget* widget : {static_cast<QWidget*>(support_label_), static_cast<QWidget*>(support_),
                           static_cast<QWidget*>(hanger_label_), static_cast<QWidget*>(hanger_),
@@ -155,7 +157,10 @@ void ElementHeader::Show() {
   height_->setText(FromUtf8(setup.height_text) + " m");
   const calculation::Totals& totals = context_.open.CurrentTotals();
   thickness_->setText(FromUtf8(FormatShortest(totals.thickness_mm)));
-  mass_->setText(FromUtf8(FormatShortest(totals.surface_mass_kg_m2)));
+  // The relations read all decimals; the eye needs one.
+  mass_->setText(std::isfinite(totals.surface_mass_kg_m2)
+                     ? FromUtf8(FormatFixed(totals.surface_mass_kg_m2, 1))
+                     : QStringLiteral("—"));
   // A facade has an area, which is entered on its own page too, and no layers.
   const bool facade = row.family == elements::Family::kFacade;
   totals_->setVisible(!facade);

@@ -51,23 +51,24 @@ void SeaCavityPage::AddHead(QVBoxLayout& column) {
   column.addLayout(fields);
   type_ = new ChoiceBox("ComboTipoIntercSEA", this);
   type_->setAccessibleDescription(Text(context_.Words(), kSeaCavityLayersRow));
-  type_->OnChoice([this](int index) {
-    context_.open.Edit([index](elements::Setup& setup) {
+  connect(type_, &QComboBox::activated, this, [this](int index) {
+    context_.Edit([index](elements::Setup& setup) {
       calculation::ChooseSeaCavityType(setup, static_cast<SeaCavityType>(index));
     });
   });
   depth_ = new NumberField("TextSpessoreIntercSEA", NumberKind::kReal, this);
   depth_->setAccessibleName(Text(context_.Words(), kLayerThicknessRow));
   depth_->setToolTip(Text(context_.Words(), kDepthTipRow));
-  depth_->OnEdit([this](const std::string& text) {
-    context_.open.Edit([&](elements::Setup& setup) { setup.sea_cavity.depth_text = text; });
+  context_.Watch(depth_);
+  connect(depth_, &NumberField::Edited, this, [this](const std::string& text) {
+    context_.Edit([&](elements::Setup& setup) { setup.sea_cavity.depth_text = text; });
   });
-  depth_->OnLeave([this] {
+  connect(depth_, &NumberField::Left, this, [this] {
     if (!context_.open.IsTouched()) return;
     elements::Setup left = context_.open.Setup();
     calculation::LeaveSeaCavityDepth(left);
     if (left == context_.open.Setup()) return;
-    context_.open.Edit([&](elements::Setup& setup) { setup = std::move(left); });
+    context_.Edit([&](elements::Setup& setup) { setup = std::move(left); });
     NoteCorrection(depth_, Correction::kRaised, 0, context_.Words());
   });
   fields->addWidget(LabelFor(type_, kSeaCavityLayersRow, context_, this), 0, 0);

@@ -27,6 +27,7 @@ class FieldNotesTest : public QObject {
   void aThicknessOfNoughtIsExplained() {
     fixture_->Choose("TIPO_PARETE_SINGOLA_0");
     fixture_->Type("Text5_0", "0");
+    QTest::keyClick(fixture_->Find<QWidget>("Text5_0"), Qt::Key_Return);
     QVERIFY2(NoteAt("Text5_0").contains("superare 0"), qPrintable(NoteAt("Text5_0")));
     QCOMPARE(fixture_->Find<QWidget>("Text5_0")->accessibleDescription(), NoteAt("Text5_0"));
     QTest::keyClick(fixture_->Find<QWidget>("Text5_0"), Qt::Key_5);
@@ -102,7 +103,7 @@ class FieldNotesTest : public QObject {
     box->lineEdit()->selectAll();
     QTest::keyClicks(box, "criptonite");
     fixture_->Find<QWidget>("Text5_0")->setFocus();
-    QVERIFY(NoteAt("Combo3_0").contains("Nessun materiale"));
+    QVERIFY(NoteAt("Combo3_0").contains("Nessun materiale ha"));
   }
 
   void aCavityThatIsRaisedSaysSo() {
@@ -119,6 +120,7 @@ class FieldNotesTest : public QObject {
   void aNoteGoesWithItsPage() {
     fixture_->Choose("TIPO_PARETE_DOPPIA_0");
     fixture_->Type("Text5_0", "0");
+    QTest::keyClick(fixture_->Find<QWidget>("Text5_0"), Qt::Key_Return);
     fixture_->Find<QTabWidget>("SSTab1")->setCurrentIndex(1);
     QTRY_COMPARE(NoteAt("Text5_0"), QString());
   }
