@@ -88,7 +88,7 @@ void ElementForm::AddArea(const ElementNames& names) {
 
 // An element that is rated by its Dn,e has no area.
 void ElementForm::AddSmallElementCheck(const QString& area_name) {
-  small_ = new QCheckBox(Text(context_.Words(), kSmallElementRow), this);
+  small_ = new QCheckBox(Text(context_.Words(), kSmallElementCheckRow), this);
   small_->setObjectName("Check" + area_name);
   connect(small_, &QCheckBox::clicked, this, [this](bool small) {
     context_.Edit([&](elements::Setup& setup) {
