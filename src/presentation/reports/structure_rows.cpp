@@ -64,7 +64,7 @@ void ListCavity(const Setup& setup, const Part& part, const Words& words, std::v
 void ListConnections(const Setup& setup, const Words& words, std::vector<StructureRow>& rows) {
   const CalculationRow& row = elements::RowOf(*setup.calculation);
   if (!row.Reads(elements::Field::kSupport)) return;
-  rows.push_back({.kind = StructureKind::kConnection,
+  rows.push_back({.kind = StructureKind::kWords,
                   .name = SupportCaption(row.support, words) + ": " + setup.support_distance_text});
 }
 
@@ -79,6 +79,7 @@ void ListBase(const Setup& setup, const Part& part, const Words& words, std::vec
                   .thickness_mm = base.thickness_mm,
                   .mass_kg_m2 = base.mass_kg_m2,
                   .rating = setup.base.rating_text});
+  rows.push_back({.kind = StructureKind::kWords, .name = "Rw = " + setup.base.rating_text + " dB"});
 }
 
 void ListLayers(const Setup& setup, const Part& part, const Words& words, std::vector<StructureRow>& rows) {

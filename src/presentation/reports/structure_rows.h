@@ -14,8 +14,8 @@ enum class StructureKind {
   kHeading,  ///< names the stack whose layers follow
   kLayer,
   kCavity,      ///< air, or a cavity described as a whole
-  kConnection,  ///< what ties the leaves together: words alone
-  kBase,        ///< the wall or floor under a lining
+  kWords,  ///< an input that is no layer: the connections, the rating of a base element
+  kBase,   ///< the wall or floor under a lining
   kPart,        ///< a part of a facade
 };
 

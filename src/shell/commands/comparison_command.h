@@ -2,6 +2,7 @@
 
 #include <QPointer>
 
+#include "acoustics/bands.h"
 #include "presentation/drawing/curve_chart.h"
 #include "shell/fields/window_tools.h"
 #include "shell/pages/window_services.h"

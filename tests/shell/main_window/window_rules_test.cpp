@@ -87,7 +87,7 @@ class WindowRulesTest : public QObject {
                            << "455";
     QTest::newRow("studs") << "mnuCalcoloControplaccaggiScelta_2"
                            << "1"
-                           << "45,5";
+                           << "455";
   }
   void connectionsHaveTheirDefaults() {
     QFETCH(const QString, entry);
