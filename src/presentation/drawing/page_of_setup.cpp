@@ -52,10 +52,11 @@ std::vector<PageField> FieldsOf(const Setup& setup, const CalculationRow& row, c
   if (IsLining(row.family)) {
     add(row.family == Family::kCeiling ? kBaseFloorRow : kBaseWallRow, setup.base.name);
   }
-  if (row.Reads(Field::kSupport) && !setup.support_distance_text.empty())
-    fields.push_back({SupportCaption(row.support, words), setup.support_distance_text});
-  if (row.Reads(Field::kHanger)) add(kConnectionTypeRow, HangerText(setup.hanger, words));
-  if (row.Reads(Field::kDecoupling) && setup.decoupled) fields.push_back({{}, words(kDecoupledRow)});
+  for (InputText& text : ConnectionTexts(setup, words)) {
+    const bool tick = text.value.empty();
+    fields.push_back(tick ? PageField{{}, std::move(text.caption)}
+                          : PageField{std::move(text.caption), std::move(text.value)});
+  }
   return fields;
 }
 

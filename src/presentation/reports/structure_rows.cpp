@@ -60,12 +60,13 @@ void ListCavity(const Setup& setup, const Part& part, const Words& words, std::v
   if (left_mm > kNoDepthMm) rows.push_back(CavityRow(words(kAirCavityRow), left_mm));
 }
 
-/// What ties the leaves together, where the calculation reads it.
+/// What ties the leaves together, where the calculation reads it; the hanger has a place of its own.
 void ListConnections(const Setup& setup, const Words& words, std::vector<StructureRow>& rows) {
-  const CalculationRow& row = elements::RowOf(*setup.calculation);
-  if (!row.Reads(elements::Field::kSupport)) return;
-  rows.push_back({.kind = StructureKind::kWords,
-                  .name = SupportCaption(row.support, words) + ": " + setup.support_distance_text});
+  for (const InputText& text : ConnectionTexts(setup, words)) {
+    if (text.field == elements::Field::kHanger) continue;
+    const std::string value = text.value.empty() ? std::string() : ": " + text.value;
+    rows.push_back({.kind = StructureKind::kWords, .name = text.caption + value});
+  }
 }
 
 void ListBase(const Setup& setup, const Part& part, const Words& words, std::vector<StructureRow>& rows) {

@@ -7,6 +7,7 @@ namespace velmar::presentation {
 namespace {
 
 using acoustics::SeaCavityContent;
+using elements::Field;
 using elements::Stack;
 
 MessageRow FirstLeafRow(const elements::CalculationRow& row) {
@@ -80,8 +81,18 @@ std::string StackName(elements::Calculation calculation, Stack stack, const Word
   return words(StackRow(elements::RowOf(calculation), stack));
 }
 
-std::string SupportCaption(elements::Support support, const Words& words) {
-  return WithoutColon(words(IsCount(support) ? kConnectionsRow : kSupportDistanceRow));
+std::vector<InputText> ConnectionTexts(const elements::Setup& setup, const Words& words) {
+  std::vector<InputText> texts;
+  if (!setup.calculation) return texts;
+  const elements::CalculationRow& row = elements::RowOf(*setup.calculation);
+  const auto add = [&](Field field, MessageRow caption, const std::string& value) {
+    if (row.Reads(field)) texts.push_back({field, WithoutColon(words(caption)), value});
+  };
+  add(Field::kSupport, IsCount(row.support) ? kConnectionsRow : kSupportDistanceRow,
+      setup.support_distance_text);
+  add(Field::kHanger, kConnectionTypeRow, HangerText(setup.hanger, words));
+  if (setup.decoupled) add(Field::kDecoupling, kDecoupledRow, {});
+  return texts;
 }
 
 std::string HangerText(int hanger, const Words& words) {

@@ -2,9 +2,11 @@
 
 #include <array>
 #include <string>
+#include <vector>
 
 #include "elements/catalogue.h"
 #include "elements/layers.h"
+#include "elements/setup.h"
 #include "foundation/message_rows.h"
 #include "presentation/texts/words.h"
 
@@ -31,8 +33,16 @@ std::string HangerText(int hanger, const Words& words);
 /// The name of a stack of `calculation`: "Parete 1", "Lastra 1" of a glazing, "Solaio", "Rivestimento", ...
 std::string StackName(elements::Calculation calculation, elements::Stack stack, const Words& words);
 
-/// The caption of `Text8`: a distance or a number of connections.
-std::string SupportCaption(elements::Support support, const Words& words);
+/// An input beside the layers, as paper tells it. A tick has no value: the caption alone says that it is set.
+struct InputText {
+  elements::Field field{};
+  std::string caption{};
+  std::string value{};
+};
+
+/// What the calculation of `setup` reads of how the element is put together: distance or number of its
+/// connections, hanger, decoupling. An input that is added here stands on every page and in every report.
+std::vector<InputText> ConnectionTexts(const elements::Setup& setup, const Words& words);
 
 /// `caption` without a closing colon.
 std::string WithoutColon(std::string caption);

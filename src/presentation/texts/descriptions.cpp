@@ -105,29 +105,20 @@ std::string LiningPart(const Setup& setup, bool ceiling, const Words& words) {
          CompilaDescrizioneIntercapedineSEA(setup, words);
 }
 
-std::string WholeDescription(const Setup& setup, Family family, const Words& words) {
-  switch (family) {
-    case Family::kSingle:
-      return CompilaDescrizioneParete1(setup);
-    case Family::kSeaSingle:
-      return CompilaDescrizionePareteSEA1(setup);
-    case Family::kSea:
-      return LeafHead(1, words) + CompilaDescrizionePareteSEA1(setup) +
-             CompilaDescrizioneIntercapedineSEA(setup, words) + kNextPart + LeafHead(2, words) +
-             CompilaDescrizionePareteSEA2(setup);
-    case Family::kDouble:
-    case Family::kSharp:
-      return LeafHead(1, words) + CompilaDescrizioneParete1(setup) + CavityPart(setup, words) + kNextPart +
-             LeafHead(2, words) + CompilaDescrizioneParete2(setup);
-    case Family::kImpact:
-      return FloorPart(setup);
-    case Family::kFacade:
-      return FacadePart(setup, words);
-    case Family::kLining:
-    case Family::kCeiling:
-      return LiningPart(setup, family == Family::kCeiling, words);
-  }
-  return {};
+/// Two leaves and what lies between them. A floor with a floating screed is stored in these words too.
+std::string DoublePart(const Setup& setup, const elements::Stacks& stacks, const Words& words) {
+  const bool sea = stacks.Has(Stack::kSeaCavity);
+  return LeafHead(1, words) + ItemsOf(setup, sea ? Stack::kSeaLeaf1 : Stack::kLeaf1) +
+         (sea ? CompilaDescrizioneIntercapedineSEA(setup, words) : CavityPart(setup, words)) + kNextPart +
+         LeafHead(2, words) + ItemsOf(setup, sea ? Stack::kSeaLeaf2 : Stack::kLeaf2);
+}
+
+std::string WholeDescription(const Setup& setup, const elements::CalculationRow& row, const Words& words) {
+  if (row.stacks.Has(Stack::kComponents)) return FacadePart(setup, words);
+  if (row.stacks.Has(Stack::kBase))
+    return LiningPart(setup, row.orientation == elements::Orientation::kCeiling, words);
+  if (row.stacks.size() == 1) return ItemsOf(setup, *row.stacks.begin());
+  return row.family == Family::kImpact ? FloorPart(setup) : DoublePart(setup, row.stacks, words);
 }
 
 }  // namespace
@@ -151,15 +142,15 @@ std::string ElementDescription(const Setup& setup, const Words& words) {
   if (row.family == Family::kFacade) return CountedParts(setup, words);
   // Stored descriptions go by the family and call a floor with a floating screed a double wall.
   if (row.stacks.Has(Stack::kResilient)) return FloorPart(setup);
-  return WholeDescription(setup, row.family, words);
+  return WholeDescription(setup, row, words);
 }
 
 std::string ResultDescription(const Setup& setup, const Words& words) {
   if (!setup.calculation) return {};
-  const Family family = elements::RowOf(*setup.calculation).family;
-  const std::string text = WholeDescription(setup, family, words);
+  const elements::CalculationRow& row = elements::RowOf(*setup.calculation);
+  const std::string text = WholeDescription(setup, row, words);
   std::string cut = FirstCharacters(text, kLongestDescription);
-  if (family == Family::kFacade && cut.size() < text.size()) {
+  if (row.family == Family::kFacade && cut.size() < text.size()) {
     cut = FirstCharacters(text, kLongestDescription - std::string(kCut).size()) + kCut;
   }
   return cut;
