@@ -51,7 +51,7 @@ std::optional<Refusal> MissingOf(const Element& element, bool simplified, int nu
 std::optional<Refusal> FindMissing(const elements::Setup& setup) {
   const bool simplified = setup.facade.simplified;
   if (auto missing = MissingOf(setup.base, simplified, 0)) return missing;
-  if (IsNegative(setup.base.area_text)) return Refusal{{Field::kArea}, {models::kComponentsFillFacadeRow}};
+  if (IsNegative(setup.base.area_text)) return Refusal{{Field::kArea}, {kComponentsFillFacadeRow}};
   for (int i = 0; i < setup.facade.Count(); ++i) {
     const elements::FacadeComponent& component = setup.facade.components.at(static_cast<std::size_t>(i));
     if (auto missing = MissingOf(component, simplified, i + 1)) return missing;

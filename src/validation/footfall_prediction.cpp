@@ -58,8 +58,8 @@ std::optional<models::FootfallPrediction> FootfallOf(const elements::Setup& setu
   const auto outcome = models::PredictFootfall({.bearing = calculation::PlateLayers(setup.leaf1),
                                                 .floating = calculation::PlateLayers(setup.leaf2),
                                                 .resilient = calculation::ResilientMatsOf(setup.resilient),
-                                                .side_a_m = calculation::EnteredLength(setup.width_text),
-                                                .side_b_m = calculation::EnteredLength(setup.height_text)});
+                                                .side_a_m = calculation::EnteredLength(setup.width_text, {elements::Field::kWidth}),
+                                                .side_b_m = calculation::EnteredLength(setup.height_text, {elements::Field::kHeight})});
   const auto* prediction = std::get_if<models::FootfallPrediction>(&outcome);
   return prediction != nullptr ? std::optional(*prediction) : std::nullopt;
 }

@@ -8,7 +8,6 @@
 #include "acoustics/logarithm.h"
 #include "foundation/failure.h"
 #include "foundation/message_rows.h"
-#include "models/plates/failure_rows.h"
 #include "models/relations/relation_quantities.h"
 
 namespace velmar::models {

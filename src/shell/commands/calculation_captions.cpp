@@ -79,7 +79,7 @@ constexpr bool NamesEachCalculationOnce() {
     const auto named = std::ranges::count(kEntries, static_cast<Calculation>(i), &Entry::calculation);
     if (named != 1) return false;
   }
-  return std::ranges::none_of(kEntries, [](const Entry& entry) { return entry.row == 0; });
+  return std::ranges::none_of(kEntries, [](const Entry& entry) { return entry.row == MessageRow{}; });
 }
 static_assert(NamesEachCalculationOnce());
 
