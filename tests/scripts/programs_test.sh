@@ -6,7 +6,7 @@ set -euo pipefail
 cd "$(dirname "$0")/../.."
 
 # install-deps itself names packages, which are called like their programs.
-others=(scripts/check* scripts/report-pictures scripts/install-deps)
+others=(scripts/check* scripts/report-pictures scripts/package scripts/try-package scripts/install-deps)
 if [[ $1 == tests ]]; then
   mapfile -t scripts < <(find run test .ci scripts tests -type f \( ! -path 'tests/*' -o -name '*.sh' \) |
     grep -vxFf <(printf '%s\n' "${others[@]}"))
