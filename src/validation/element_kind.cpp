@@ -1,5 +1,6 @@
 #include "validation/element_kind.h"
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <optional>
@@ -268,8 +269,13 @@ ElementKind TwoLeavesKind(const Setup& setup, elements::Frame frame, const Leaf&
   return BoardsKind(setup);
 }
 
+/// What carries a slab is its stiffest layer: a filling may well be heavier.
 bool IsTimberSlab(const Leaf& slab) {
-  return !slab.empty() && HeaviestOf(slab).density_kg_m3 < kDensestTimber_kg_m3;
+  const auto stiffness = [](const Sheet& sheet) {
+    return sheet.density_kg_m3 * sheet.wave_speed_m_s * sheet.wave_speed_m_s * sheet.thickness_mm;
+  };
+  const auto stiffest = std::ranges::max_element(slab, {}, stiffness);
+  return stiffest != slab.end() && stiffest->density_kg_m3 < kDensestTimber_kg_m3;
 }
 
 ElementKind ImpactKind(const Setup& setup) {

@@ -127,13 +127,15 @@ Features FeaturesOf(const elements::Setup& setup) {
     case elements::Family::kDouble:
     case elements::Family::kSharp:
       if (RowOf(*setup.calculation).orientation == elements::Orientation::kHorizontalDouble) break;
-      features.depth_mm = calculation::EnteredNumberOrZero(setup.cavity.depth_text);
+      features.depth_mm =
+          calculation::EnteredNumberOrZero(setup.cavity.depth_text, {elements::Field::kCavityDepth});
       features.filled = setup.cavity.kind != elements::CavityKind::kEmpty;
       break;
     case elements::Family::kSea:
     case elements::Family::kLining:
     case elements::Family::kCeiling:
-      features.depth_mm = calculation::EnteredNumberOrZero(setup.sea_cavity.depth_text);
+      features.depth_mm =
+          calculation::EnteredNumberOrZero(setup.sea_cavity.depth_text, {elements::Field::kSeaCavityDepth});
       features.filled = elements::FibreCount(setup.sea_cavity.type) > 0;
       break;
     default:

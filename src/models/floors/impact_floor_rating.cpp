@@ -7,6 +7,7 @@
 #include "acoustics/logarithm.h"
 #include "foundation/failure.h"
 #include "foundation/message_rows.h"
+#include "foundation/rounding.h"
 
 namespace velmar::models {
 namespace {
@@ -44,7 +45,9 @@ ImpactRelation FindImpactRelation(ImpactFloorVariant variant, double mass_kg_m2,
     if (row.variant != variant) continue;
     relation.lnw_db = RequireFinite(row.constant - row.slope * Log10(mass_kg_m2), "relation");
     const double value = row.bounded == Bounded::kMass ? mass_kg_m2 : bearing_thickness_m;
-    if (!(value >= row.lowest && value <= row.highest)) relation.question = row.question;
+    const std::string_view unit = row.bounded == Bounded::kMass ? "kg/m²" : "m";
+    if (!IsWithin(value, row.lowest, row.highest))
+      relation.left = acoustics::RangeLeft{row.question, value, row.lowest, row.highest, unit};
   }
   return relation;
 }

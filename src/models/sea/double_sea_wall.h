@@ -2,6 +2,7 @@
 
 #include <optional>
 
+#include "acoustics/constructions.h"
 #include "foundation/message.h"
 #include "models/sea/cavity.h"
 #include "models/sea/layers.h"
@@ -9,12 +10,7 @@
 
 namespace velmar::models {
 
-/// How the two sides are tied together.
-enum class SeaConnectionKind {
-  kMasonryTies,  ///< lines of a number of their own, at the heaviest layer
-  kLines,        ///< studs, a number of them
-  kPoints,       ///< fixings, a whole number of them
-};
+using acoustics::SeaConnectionKind;
 
 /// The connection of a double wall.
 struct SeaConnection {

@@ -3,15 +3,11 @@
 #include "elements/catalogue.h"
 #include "foundation/message_rows.h"
 #include "presentation/drawing/curve_chart.h"
-#include "presentation/texts/layer_rows.h"
+#include "presentation/texts/box_number.h"
 #include "presentation/texts/results_table.h"
 
 namespace velmar::presentation {
 namespace {
-
-bool IsLining(elements::Family family) {
-  return family == elements::Family::kLining || family == elements::Family::kCeiling;
-}
 
 acoustics::Spectrum BandsOf(const elements::BandTexts& texts) {
   acoustics::Spectrum bands{};

@@ -5,9 +5,9 @@
 #include "foundation/message_rows.h"
 #include "foundation/rounding.h"
 #include "presentation/drawing/printed_page.h"
+#include "presentation/texts/box_number.h"
 #include "presentation/texts/calculation_labels.h"
 #include "presentation/texts/facade_texts.h"
-#include "presentation/texts/layer_rows.h"
 #include "presentation/texts/result_lines.h"
 #include "presentation/texts/results_table.h"
 
@@ -17,9 +17,8 @@ namespace {
 using elements::Calculation;
 using elements::CalculationRow;
 using elements::Family;
+using elements::Field;
 using elements::Setup;
-
-bool IsLining(Family family) { return family == Family::kLining || family == Family::kCeiling; }
 
 std::string NumberText(double value) { return FormatShortest(RoundToEven(value, 4)); }
 
@@ -46,19 +45,17 @@ std::vector<PageField> FieldsOf(const Setup& setup, const CalculationRow& row, c
     add(kPartAreaRow, NumberText(FacadeArea(setup)));
     return fields;
   }
-  if (!IsLining(row.family)) {
-    add(kElementWidthRow, setup.width_text);
-    add(kElementHeightRow, setup.height_text);
-  }
+  if (row.Reads(Field::kWidth)) add(kElementWidthRow, setup.width_text);
+  if (row.Reads(Field::kHeight)) add(kElementHeightRow, setup.height_text);
   add(kTotalThicknessRow, NumberText(totals.thickness_mm));
   add(kSurfaceMassRow, NumberText(totals.surface_mass_kg_m2));
   if (IsLining(row.family)) {
     add(row.family == Family::kCeiling ? kBaseFloorRow : kBaseWallRow, setup.base.name);
   }
-  if (row.calculation == Calculation::kCeilingSea) add(kConnectionTypeRow, HangerText(setup.hanger, words));
-  if (row.calculation == Calculation::kDoubleWallSeaBrick && setup.decoupled) {
-    fields.push_back({{}, words(kDecoupledRow)});
-  }
+  if (row.Reads(Field::kSupport) && !setup.support_distance_text.empty())
+    fields.push_back({SupportCaption(row.support, words), setup.support_distance_text});
+  if (row.Reads(Field::kHanger)) add(kConnectionTypeRow, HangerText(setup.hanger, words));
+  if (row.Reads(Field::kDecoupling) && setup.decoupled) fields.push_back({{}, words(kDecoupledRow)});
   return fields;
 }
 
@@ -147,6 +144,7 @@ PaginaDiStampa PaginaDi(const Setup& setup, const PageTotals& totals, const elem
     for (std::string line : {ResultLine(row.family, *result), ImprovementLine(row.family, *result)}) {
       if (!line.empty()) page.results.push_back(std::move(line));
     }
+    page.further_results = FurtherNumbersLine(row.calculation, *result);
   }
   if (row.family == Family::kFacade) page.elements = FacadeTable(setup, words);
   if (IsLining(row.family)) page.elements = LiningTable(setup, result);

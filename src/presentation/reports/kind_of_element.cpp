@@ -29,7 +29,7 @@ constexpr std::array<Kind, 7> kKinds = {{{Orientation::kVerticalSingle, kSingleW
 MessageRow KindOfElementRow(const elements::Setup& setup) {
   if (!setup.calculation) return {};
   if (elements::IsGlazing(*setup.calculation)) return kGlazingRow;
-  if (setup.calculation == elements::Calculation::kDoubleWallSeaBrick && setup.decoupled)
+  if (elements::RowOf(*setup.calculation).Reads(elements::Field::kDecoupling) && setup.decoupled)
     return kDecoupledBrickRow;
   const Orientation orientation = elements::RowOf(*setup.calculation).orientation;
   return std::ranges::find(kKinds, orientation, &Kind::orientation)->row;

@@ -6,10 +6,10 @@
 #include "foundation/decimal.h"
 #include "foundation/message_rows.h"
 #include "presentation/reports/kind_of_element.h"
+#include "presentation/texts/box_number.h"
 #include "presentation/texts/calculation_labels.h"
 #include "presentation/texts/descriptions.h"
 #include "presentation/texts/facade_texts.h"
-#include "presentation/texts/layer_rows.h"
 #include "presentation/texts/result_lines.h"
 #include "presentation/texts/results_table.h"
 
@@ -23,8 +23,6 @@ MessageRow StandardRow(Family family) {
   if (family == Family::kFacade) return kFacadeStandardRow;
   return family == Family::kImpact ? kImpactStandardRow : kAirborneStandardRow;
 }
-
-bool IsLining(Family family) { return family == Family::kLining || family == Family::kCeiling; }
 
 /// The improvement that the main window shows beside the rating.
 std::string Improvement(Family family, const elements::ResultSet& result) {
@@ -53,10 +51,11 @@ void FillDimensions(const Setup& setup, Family family, ReportRecord& record) {
     record.area = FormatFixed(FacadeArea(setup), 2);
     return;
   }
-  // Linings and ceilings are calculated for dimensions of their own, which nobody enters.
-  if (IsLining(family)) return;
-  record.width = setup.width_text;
-  record.height = setup.height_text;
+  // A dimension that the calculation does not read is none of the element's.
+  const elements::CalculationRow& row = elements::RowOf(*setup.calculation);
+  if (row.Reads(elements::Field::kWidth)) record.width = setup.width_text;
+  if (row.Reads(elements::Field::kHeight)) record.height = setup.height_text;
+  if (record.width.empty() || record.height.empty()) return;
   const double area = NumberOf(setup.width_text) * NumberOf(setup.height_text);
   if (area > 0.0) record.area = FormatFixed(area, 2);
 }
@@ -101,6 +100,7 @@ ReportRecord ReportRecordOf(const Setup& setup, const elements::ResultSet& resul
   FillDimensions(setup, family, record);
   record.result_line = ResultLine(family, result);
   record.improvement_line = Improvement(family, result);
+  record.further_line = FurtherNumbersLine(*setup.calculation, result);
   record.laboratory_data = Compared(words(kLaboratoryFrameRow), compared.laboratory);
   record.in_situ_data = Compared(words(kInSituRow), compared.in_situ);
   if (family == Family::kFacade) {
@@ -113,8 +113,10 @@ ReportRecord ReportRecordOf(const Setup& setup, const elements::ResultSet& resul
   if (IsLining(family)) {
     record.base_element = FullName({.name = setup.base.name, .description = setup.base.description});
   }
-  if (setup.calculation == elements::Calculation::kCeilingSea)
+  if (elements::RowOf(*setup.calculation).Reads(elements::Field::kHanger)) {
     record.hanger = HangerText(setup.hanger, words);
+    record.hanger_line = WithoutColon(words(kConnectionTypeRow)) + ": " + record.hanger;
+  }
   return record;
 }
 

@@ -28,6 +28,12 @@ inline constexpr std::array kHangerRows = {kHangerFixedDirectlyRow, kHangerSimpl
 /// An entry of `ComboTipoAppendino`, 0 to 2; an empty text for another position.
 std::string HangerText(int hanger, const Words& words);
 
+/// The name of a stack of `calculation`: "Parete 1", "Lastra 1" of a glazing, "Solaio", "Rivestimento", ...
+std::string StackName(elements::Calculation calculation, elements::Stack stack, const Words& words);
+
+/// The caption of `Text8`: a distance or a number of connections.
+std::string SupportCaption(elements::Support support, const Words& words);
+
 /// `caption` without a closing colon.
 std::string WithoutColon(std::string caption);
 

@@ -4,7 +4,7 @@
 
 #include "foundation/decimal.h"
 #include "foundation/message_rows.h"
-#include "presentation/texts/layer_rows.h"
+#include "presentation/texts/box_number.h"
 
 namespace velmar::presentation {
 double FacadeArea(const elements::Setup& setup) { return std::abs(NumberOf(setup.base.area_text)); }

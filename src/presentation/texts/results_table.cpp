@@ -40,7 +40,7 @@ std::optional<BandSpan> ShownBands(const elements::Setup& setup) {
   const elements::CalculationRow& row = elements::RowOf(*setup.calculation);
   if (row.model == elements::Model::kGenericLining) return std::nullopt;
   if (row.family == Family::kFacade && setup.facade.simplified) return std::nullopt;
-  if (row.family == Family::kLining || row.family == Family::kCeiling) {
+  if (IsLining(row.family)) {
     return BandSpan{acoustics::kFirstRatedBand, acoustics::kLastRatedBand};
   }
   return BandSpan{0, acoustics::kBandCount - 1};

@@ -73,11 +73,18 @@ constexpr std::array<Entry, elements::kCalculationCount> kEntries = {{
     {kImpactHollowBrickConcreteGavelo, kHollowBrickGaveloFloorRow, Mark::kRow, kHollowBrickGaveloMarkRow},
 }};
 
-const Entry& EntryOf(Calculation calculation) {
-  for (const Entry& entry : kEntries) {
-    if (entry.calculation == calculation) return entry;
+/// A calculation that is missing, or twice in the menu, fails here.
+constexpr bool NamesEachCalculationOnce() {
+  for (std::size_t i = 0; i < elements::kCalculationCount; ++i) {
+    const auto named = std::ranges::count(kEntries, static_cast<Calculation>(i), &Entry::calculation);
+    if (named != 1) return false;
   }
-  return kEntries.front();
+  return std::ranges::none_of(kEntries, [](const Entry& entry) { return entry.row == MessageRow{}; });
+}
+static_assert(NamesEachCalculationOnce());
+
+const Entry& EntryOf(Calculation calculation) {
+  return *std::ranges::find(kEntries, calculation, &Entry::calculation);
 }
 
 }  // namespace
@@ -99,7 +106,7 @@ MessageLine MenuCaption(Calculation calculation) {
       break;
     case Mark::kRelation:
       line.insert(line.end(),
-                  {std::string(" ["), kRelationRow, ' ' + std::to_string(RowOf(calculation).relation) + ']'});
+                  {std::string(" ["), kRelationRow, ' ' + std::to_string(RowOf(calculation).mark) + ']'});
       break;
     case Mark::kImpedance:
       line.emplace_back(std::string(" [MIA]"));

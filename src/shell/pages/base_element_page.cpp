@@ -27,7 +27,7 @@ BaseElementPage::BaseElementPage(PageContext& context, QWidget* parent) : Page(p
   simplified_ = new QCheckBox(Text(context.Words(), kSimplifiedRow), this);
   simplified_->setObjectName("Check2");
   connect(simplified_, &QCheckBox::clicked, this, [this](bool ticked) {
-    context_.open.Edit([ticked](elements::Setup& setup) { setup.facade.simplified = ticked; });
+    context_.Edit([ticked](elements::Setup& setup) { setup.facade.simplified = ticked; });
   });
   form_ = new ElementForm(0,
                           {.name = "Combo14",
@@ -57,16 +57,17 @@ void BaseElementPage::AddPlainBase() {
   thickness_->setToolTip(Text(words, kBaseThicknessTipRow));
   thickness_->setAccessibleName(Text(words, kBaseThicknessTipRow));
   thickness_->setPlaceholderText(FromUtf8(FormatShortest(elements::kDefaultBaseThicknessMm)));
-  thickness_->OnEdit([this](const std::string& text) {
-    context_.open.Edit(
+  context_.Watch(thickness_);
+  connect(thickness_, &NumberField::Edited, this, [this](const std::string& text) {
+    context_.Edit(
         [&](elements::Setup& setup) { setup.base.thickness_mm = ParseDecimal(text).value_or(0.0); });
   });
   mass_ = new NumberField("TextMassaBase", NumberKind::kReal, this);
   mass_->setToolTip(Text(words, kBaseMassTipRow));
   mass_->setAccessibleName(Text(words, kBaseMassTipRow));
-  mass_->OnEdit([this](const std::string& text) {
-    context_.open.Edit(
-        [&](elements::Setup& setup) { setup.base.mass_kg_m2 = ParseSingle(text).value_or(0.0F); });
+  context_.Watch(mass_);
+  connect(mass_, &NumberField::Edited, this, [this](const std::string& text) {
+    context_.Edit([&](elements::Setup& setup) { setup.base.mass_kg_m2 = ParseSingle(text).value_or(0.0F); });
   });
   thickness_label_ = LabelFor(thickness_, kTotalThicknessRow, context_, this);
   mass_label_ = LabelFor(mass_, kSurfaceMassRow, context_, this);

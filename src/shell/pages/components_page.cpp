@@ -56,13 +56,14 @@ void ComponentsPage::AddHead(QVBoxLayout& column) {
   QHBoxLayout* line = AddLine(column);
   count_ = new CountBox("Combo15", 1, elements::Facade::kCapacity, this);
   count_->setAccessibleDescription(Text(context_.Words(), kComponentCountRow));
-  count_->OnEdit([this](const std::string& text) {
-    context_.open.Edit([&](elements::Setup& setup) { calculation::EnterComponentCount(setup, text); });
+  context_.Watch(count_);
+  connect(count_, &CountBox::Edited, this, [this](const std::string& text) {
+    context_.Edit([&](elements::Setup& setup) { calculation::EnterComponentCount(setup, text); });
   });
   simplified_ = new QCheckBox(Text(context_.Words(), kSimplifiedRow), this);
   simplified_->setObjectName("Check1");
   connect(simplified_, &QCheckBox::clicked, this, [this](bool ticked) {
-    context_.open.Edit([ticked](elements::Setup& setup) { setup.facade.simplified = ticked; });
+    context_.Edit([ticked](elements::Setup& setup) { setup.facade.simplified = ticked; });
   });
   line->addWidget(LabelFor(count_, kComponentCountRow, context_, this));
   line->addWidget(count_);
@@ -91,8 +92,8 @@ ComponentsPage::Component ComponentsPage::AddComponent(int index) {
     classes += Text(words, kAirTightnessClassRow) + ' ' + QString::number(i);
   component.tightness->Offer(classes);
   component.tightness->setAccessibleDescription(label->text());
-  component.tightness->OnChoice([this, index](int chosen) {
-    context_.open.Edit([=](elements::Setup& setup) {
+  connect(component.tightness, &QComboBox::activated, this, [this, index](int chosen) {
+    context_.Edit([=](elements::Setup& setup) {
       setup.facade.components.at(static_cast<std::size_t>(index)).tightness_class = chosen;
     });
   });

@@ -6,8 +6,8 @@
 #include <QLabel>
 #include <QToolButton>
 #include <QVBoxLayout>
+#include <cmath>
 
-#include "calculation/select_calculation.h"
 #include "foundation/decimal.h"
 #include "foundation/message_rows.h"
 #include "presentation/texts/calculation_labels.h"
@@ -20,7 +20,7 @@
 namespace velmar::shell {
 namespace {
 
-using calculation::SupportField;
+using elements::Field;
 
 /// The element's name ends in a colon where its label once stood before a field.
 QString WithoutColon(QString text) {
@@ -118,8 +118,9 @@ void ElementHeader::AddConnections(QVBoxLayout& column) {
   line->setContentsMargins(0, 0, 0, 0);
   line->setSpacing(kPageSpacing);
   support_ = new NumberField("Text8", NumberKind::kReal, connections_);
-  support_->OnEdit([this](const std::string& text) {
-    context_.open.Edit([&](elements::Setup& setup) { setup.support_distance_text = text; });
+  context_.Watch(support_);
+  connect(support_, &NumberField::Edited, this, [this](const std::string& text) {
+    context_.Edit([&](elements::Setup& setup) { setup.support_distance_text = text; });
   });
   support_label_ = LabelFor(support_, kSupportDistanceRow, context_, connections_);
   hanger_ = new ChoiceBox("ComboTipoAppendino", connections_);
@@ -128,14 +129,14 @@ void ElementHeader::AddConnections(QVBoxLayout& column) {
   hanger_->Offer(hangers);
   hanger_->setToolTip(Text(words, kHangerTipRow));
   hanger_->setAccessibleDescription(Text(words, kConnectionTypeRow));
-  hanger_->OnChoice(
-      [this](int index) { context_.open.Edit([index](elements::Setup& setup) { setup.hanger = index; }); });
+  connect(hanger_, &QComboBox::activated, this,
+          [this](int index) { context_.Edit([index](elements::Setup& setup) { setup.hanger = index; }); });
   hanger_label_ = LabelFor(hanger_, kConnectionTypeRow, context_, connections_);
   decoupled_ = new QCheckBox(Text(words, kDecoupledRow), connections_);
   decoupled_->setObjectName("CheckDesolidarizza");
   decoupled_->setToolTip(Text(words, kDecoupledTipRow));
   connect(decoupled_, &QCheckBox::clicked, this, [this](bool ticked) {
-    context_.open.Edit([ticked](elements::Setup& setup) { setup.decoupled = ticked; });
+    context_.Edit([ticked](elements::Setup& setup) { setup.decoupled = ticked; });
   });
   for (QWidget* widget : {static_cast<QWidget*>(support_label_), static_cast<QWidget*>(support_),
                           static_cast<QWidget*>(hanger_label_), static_cast<QWidget*>(hanger_),
@@ -149,7 +150,6 @@ void ElementHeader::Show() {
   const elements::Setup& setup = context_.open.Setup();
   if (!setup.calculation) return;
   const elements::CalculationRow& row = RowOf(*setup.calculation);
-  const calculation::FieldLayout layout = calculation::LayoutOf(*setup.calculation);
   const auto& words = context_.Words();
   element_type_->setText(WithoutColon(Text(words, row.element_type.Line())));
   theory_->setText(Text(words, row.theory.Line()));
@@ -157,7 +157,10 @@ void ElementHeader::Show() {
   height_->setText(FromUtf8(setup.height_text) + " m");
   const calculation::Totals& totals = context_.open.CurrentTotals();
   thickness_->setText(FromUtf8(FormatShortest(totals.thickness_mm)));
-  mass_->setText(FromUtf8(FormatShortest(totals.surface_mass_kg_m2)));
+  // The relations read all decimals; the eye needs one.
+  mass_->setText(std::isfinite(totals.surface_mass_kg_m2)
+                     ? FromUtf8(FormatFixed(totals.surface_mass_kg_m2, 1))
+                     : QStringLiteral("—"));
   // A facade has an area, which is entered on its own page too, and no layers.
   const bool facade = row.family == elements::Family::kFacade;
   totals_->setVisible(!facade);
@@ -166,9 +169,8 @@ void ElementHeader::Show() {
   area_->setText(area + QStringLiteral(" m²"));
   area_->setVisible(facade && !area.isEmpty());
 
-  const bool support = layout.support != SupportField::kHidden;
-  const bool counts =
-      layout.support == SupportField::kPointConnections || layout.support == SupportField::kLineConnections;
+  const bool support = row.Reads(Field::kSupport);
+  const bool counts = IsCount(row.support);
   support_->SetKind(counts ? NumberKind::kInteger : NumberKind::kReal);
   support_->Show(setup.support_distance_text);
   support_label_->setText(Text(words, counts ? kConnectionsRow : kSupportDistanceRow));
@@ -177,11 +179,11 @@ void ElementHeader::Show() {
   support_label_->setVisible(support);
   support_->setVisible(support);
   hanger_->Show(setup.hanger);
-  hanger_label_->setVisible(layout.hanger_shown);
-  hanger_->setVisible(layout.hanger_shown);
+  hanger_label_->setVisible(row.Reads(Field::kHanger));
+  hanger_->setVisible(row.Reads(Field::kHanger));
   decoupled_->setChecked(setup.decoupled);
-  decoupled_->setVisible(layout.decoupling_shown);
-  connections_->setVisible(support || layout.hanger_shown || layout.decoupling_shown);
+  decoupled_->setVisible(row.Reads(Field::kDecoupling));
+  connections_->setVisible(support || row.Reads(Field::kHanger) || row.Reads(Field::kDecoupling));
 }
 
 }  // namespace velmar::shell

@@ -14,7 +14,8 @@ namespace velmar::shell {
 ElementName::ElementName(int element, const ElementSourceNames& names, PageContext& context, QWidget* parent)
     : QWidget(parent), element_(element), context_(context) {
   name_ = new NameBox(names.name, context_.services.saved_results, this);
-  name_->OnName([this](const std::string& name) { TakeName(name); });
+  connect(name_, &NameBox::Named, this, &ElementName::TakeName);
+  context_.Watch(name_);
   setFocusProxy(name_);
   auto* line = new QHBoxLayout(this);
   line->setContentsMargins(0, 0, 0, 0);
@@ -61,7 +62,7 @@ QPushButton* ElementName::MakeMeasured(const QString& name) {
 void ElementName::TakeName(const std::string& name) {
   const auto& read = context_.services.saved_result;
   const std::optional<calculation::FacadePart> part = read ? read(name) : std::nullopt;
-  context_.open.Edit([&](elements::Setup& setup) {
+  context_.Edit([&](elements::Setup& setup) {
     if (part) {
       TakePart(setup, element_, *part);
     } else {

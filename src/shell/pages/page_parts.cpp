@@ -46,7 +46,8 @@ TableHead AddTableHead(const TableHeadPlan& plan, PageContext& context, QVBoxLay
     ChoiceBox* box = head.filter;
     MaterialLists* lists = &context.materials;
     const FilterId filter = plan.filter;
-    box->OnChoice([box, lists, filter](int index) { lists->Choose(filter, box->itemText(index)); });
+    QObject::connect(box, &QComboBox::activated, page,
+                     [box, lists, filter](int index) { lists->Choose(filter, box->itemText(index)); });
     line->addWidget(head.filter_label);
     line->addWidget(box);
   }

@@ -44,8 +44,9 @@ SeaLeafPage::SeaLeafPage(Side side, PageContext& context, QWidget* parent)
   count_ =
       AddTableHead({.count_name = controls.count, .lowest = 1, .highest = kCapacity}, context, *column, this)
           .count;
-  count_->OnEdit([this, controls](const std::string& text) {
-    context_.open.Edit([&](elements::Setup& setup) {
+  context_.Watch(count_);
+  connect(count_, &CountBox::Edited, this, [this, controls](const std::string& text) {
+    context_.Edit([&](elements::Setup& setup) {
       calculation::EnterSeaCount(LeafOf(setup, side_), text);
       calculation::ReloadLayers(setup, controls.layers, context_.services.materials);
     });

@@ -36,7 +36,8 @@ DimensionDialog::DimensionDialog(calculation::OpenCalculation& open, const prese
     field->setAccessibleName(Text(words, row));
     field->Show(text);
     field->selectAll();
-    field->OnEdit([this](const std::string&) { open_.EditKeepingResult([](elements::Setup&) {}); });
+    connect(field, &NumberField::Edited, this,
+            [this](const std::string&) { open_.EditKeepingResult([](elements::Setup&) {}); });
     form->addRow(Text(words, row), field);
     return field;
   };

@@ -32,7 +32,6 @@ namespace {
 
 using elements::MaterialFamily;
 
-constexpr const char* kManual = "VELMARpro - Manuale d'uso.pdf";
 constexpr const char* kMaintenanceProgram = "DB_sperimentale.EXE";
 
 struct Family {
@@ -49,7 +48,7 @@ WindowPlaces Places() {
     return std::filesystem::path(QStandardPaths::writableLocation(location).toStdString());
   };
   WindowPlaces places;
-  places.manual = program / kManual;
+  places.manual = storage::ManualFile(program);
   places.maintenance_program = program / kMaintenanceProgram;
   if (const auto shipped = storage::ShippedDataFolder(program)) places.examples = *shipped / "Examples";
   places.settings = folder(QStandardPaths::AppConfigLocation) / "finestra.ini";

@@ -38,10 +38,6 @@ std::vector<NodeRow> RowsFor(LibraryPurpose purpose) {
   return {};
 }
 
-bool IsLining(elements::Family family) {
-  return family == elements::Family::kLining || family == elements::Family::kCeiling;
-}
-
 }  // namespace
 
 std::vector<TreeNode> LibraryNodes(LibraryPurpose purpose, const shell::WindowTools& tools) {

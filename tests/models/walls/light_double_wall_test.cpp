@@ -72,7 +72,8 @@ TEST(LightDoubleWall, TakesTheSixDecibelsAtExactlyTheResonanceOfItsDepth) {
 TEST(LightDoubleWall, LosesFourDecibelsAboveItsResonanceWhenEmpty) {
   const auto filled = CalculateLightDoubleWall(Wall()).spectrum;
   const auto empty = CalculateLightDoubleWall(Wall(LightWallForm::kIsolated, CavityKind::kEmpty)).spectrum;
-  const auto layers = CalculateLightDoubleWall(Wall(LightWallForm::kIsolated, CavityKind::kLayers)).spectrum;
+  const auto layers =
+      CalculateLightDoubleWall(Wall(LightWallForm::kIsolated, CavityKind::kGenericMaterial)).spectrum;
   for (std::size_t band = 0; band < 2; ++band) EXPECT_EQ(empty[band], filled[band]);
   for (std::size_t band = 2; band < 21; ++band) EXPECT_NEAR(empty[band], filled[band] - 4, 1e-10);
   EXPECT_EQ(layers, filled);
