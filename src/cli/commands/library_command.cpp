@@ -10,7 +10,7 @@
 #include "cli/output/outcome_table.h"
 #include "foundation/decimal.h"
 #include "foundation/message_rows.h"
-#include "storage/database/fold_case.h"
+#include "foundation/utf8.h"
 #include "storage/library/library_store.h"
 
 namespace velmar::cli {
@@ -83,7 +83,7 @@ std::optional<storage::LibraryFile> FindSeries(const storage::LibraryStore& stor
                                                const storage::LibraryFolder& folder,
                                                const std::string& name) {
   for (storage::LibraryFile& file : store.Files(folder)) {
-    if (storage::SameName(file.name, name)) return std::move(file);
+    if (SameName(file.name, name)) return std::move(file);
   }
   return std::nullopt;
 }

@@ -8,8 +8,8 @@
 #include <SQLiteCpp/Database.h>
 #include <SQLiteCpp/Statement.h>
 
+#include "foundation/utf8.h"
 #include "storage/database/database_failure.h"
-#include "storage/database/fold_case.h"
 
 namespace velmar::storage {
 namespace {

@@ -6,6 +6,7 @@
 #include "foundation/decimal.h"
 #include "foundation/message_rows.h"
 #include "foundation/rounding.h"
+#include "foundation/utf8.h"
 #include "storage/files/windows_1252.h"
 #include "storage/project/project_failure.h"
 #include "storage/project/text_rules.h"
