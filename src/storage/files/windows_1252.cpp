@@ -32,6 +32,8 @@ bool IsCombiningAccent(char32_t c) { return c >= 0x0300 && c <= 0x036F; }
 
 }  // namespace
 
+bool IsInWindows1252(char32_t character) { return ByteOf(character).has_value(); }
+
 std::string Utf8FromWindows1252(std::string_view bytes) {
   std::string text;
   text.reserve(bytes.size() + bytes.size() / 8);

@@ -109,6 +109,10 @@ void LineCursor::Label(std::string_view beginning) {
   }
 }
 
+bool LineCursor::OnlyBlankLinesFollow() const {
+  return rest_.find_first_not_of(" \r\n") == std::string_view::npos;
+}
+
 bool LineCursor::NextIsOneOf(std::initializer_list<std::string_view> words) const {
   if (rest_.empty()) return false;
   const std::string_view line = FirstLine(rest_);

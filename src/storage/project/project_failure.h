@@ -10,9 +10,6 @@ namespace velmar::storage {
 /// What the user is told of a file that does not exist.
 inline constexpr const char* kProjectMissing = "Impossibile aprire il file: file non trovato";
 
-/// What a line of a project file should have been; rows of the program's own texts.
-namespace expected {}  // namespace expected
-
 /// A project file could not be read. Nothing of it was taken over.
 class ProjectFileFailure : public Failure {
  public:

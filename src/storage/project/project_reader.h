@@ -34,7 +34,8 @@ struct OpenedProject {
 inline constexpr std::size_t kProjectSizeLimit = std::size_t{16} * 1024 * 1024;
 
 /// Reads the bytes of a project file of any version. All or nothing: a file that ends early, a number that is
-/// none, a count that no list can hold, or a line of another kind than the one due is refused.
+/// none, a count that no list can hold, or a line of another kind than the one due is refused. Text behind
+/// the last line is ignored, but for a keyed block.
 /// @throws ProjectFileFailure
 OpenedProject ReadProject(std::string_view bytes, const ProjectReadContext& context);
 
