@@ -1,8 +1,9 @@
 #include "presentation/reports/xml_part.h"
 
+#include <cstdint>
+
 #include "foundation/message_rows.h"
 #include "foundation/utf8.h"
-#include <cstdint>
 #include "presentation/reports/template_failure.h"
 
 namespace velmar::presentation {

@@ -118,8 +118,7 @@ elements::KeyedValues ReadKeyedBlock(LineCursor& lines) {
     const std::string name(Trimmed(std::string_view(line).substr(0, sign)));
     if (sign == std::string::npos || !elements::KeyedValues::IsName(name))
       lines.Fail({kNamedValueExpectedRow}, "a line \"name = value\" was expected");
-    if (!names.insert(name).second)
-      lines.Fail({kValueNameTwiceRow, " " + name}, "a name twice: " + name);
+    if (!names.insert(name).second) lines.Fail({kValueNameTwiceRow, " " + name}, "a name twice: " + name);
     auto value = Unescaped(Trimmed(std::string_view(line).substr(sign + 1)));
     if (!value) lines.Fail({kEscapeInvalidRow, " " + name}, "not an escape, in the value of " + name);
     entries.emplace_back(name, *std::move(value));

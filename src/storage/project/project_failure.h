@@ -1,5 +1,6 @@
 #pragma once
 
+#include <filesystem>
 #include <string>
 
 #include "foundation/failure.h"
@@ -20,6 +21,9 @@ class ProjectFileFailure : public Failure {
 
   /// The file as a whole cannot be read.
   ProjectFileFailure(Message message, std::string detail);
+
+  /// The same failure with the name of the file in a line of its own.
+  ProjectFileFailure In(const std::filesystem::path& file) const;
 
   /// The line that stopped the reading; 0 when none did.
   int LineNumber() const noexcept { return line_number_; }

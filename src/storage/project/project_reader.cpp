@@ -81,9 +81,13 @@ OpenedProject OpenProject(const std::filesystem::path& path, const ProjectReadCo
   } catch (const StoreFailure& failure) {
     if (failure.Reason() == StoreReason::kNotFound)
       throw ProjectFileFailure({{std::string(kProjectMissing)}}, failure.what());
-    throw ProjectFileFailure({{kProjectDamagedRow}, failure.UserMessage().back()}, failure.what());
+    throw ProjectFileFailure(failure.UserMessage(), failure.what());
   }
-  return ReadProject(bytes, context);
+  try {
+    return ReadProject(bytes, context);
+  } catch (const ProjectFileFailure& failure) {
+    throw failure.In(path);
+  }
 }
 
 }  // namespace velmar::storage

@@ -40,7 +40,8 @@ inline constexpr std::size_t kProjectSizeLimit = std::size_t{16} * 1024 * 1024;
 OpenedProject ReadProject(std::string_view bytes, const ProjectReadContext& context);
 
 /// `LeggiProgetto`: reads the project file `path`.
-/// @throws ProjectFileFailure also for a missing file, a folder, or a file larger than kProjectSizeLimit
+/// @throws ProjectFileFailure also for a file that is missing, may not be read, is none, or is larger than
+///         kProjectSizeLimit; it names the file
 OpenedProject OpenProject(const std::filesystem::path& path, const ProjectReadContext& context);
 
 }  // namespace velmar::storage

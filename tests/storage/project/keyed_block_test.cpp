@@ -1,11 +1,13 @@
 #include "storage/project/keyed_block.h"
 
+#include <algorithm>
 #include <string>
 #include <vector>
 
 #include <gtest/gtest.h>
 
 #include "elements/catalogue.h"
+#include "storage/files/windows_1252.h"
 #include "storage/project/project_failure.h"
 #include "storage/project/project_reader.h"
 #include "storage/project/project_writer.h"
