@@ -153,6 +153,15 @@ std::vector<Part> PartsOf(const Setup& setup) {
   return parts;
 }
 
+int NumberOf(const Setup& setup, LayerGroup group, int row) {
+  for (const Part& part : PartsOf(setup)) {
+    for (const Layer& layer : part.layers) {
+      if (layer.group == group && layer.row == row) return layer.number;
+    }
+  }
+  return 0;
+}
+
 std::vector<Part> PartsAsTheyStand(const Setup& setup) {
   std::vector<Part> parts = PartsOf(setup);
   if (!setup.calculation || !IsFinishedOnTop(RowOf(*setup.calculation).orientation)) return parts;

@@ -60,6 +60,9 @@ std::vector<Part> PartsAsTheyStand(const Setup& setup);
 /// One stack of `setup`, whatever the calculation; its layers have no number.
 Part PartOf(const Setup& setup, Stack stack);
 
+/// The number of row `row` of `group`; 0 where the row is none of the element's layers.
+int NumberOf(const Setup& setup, LayerGroup group, int row);
+
 /// The surface mass of a row's sheets, kg/m²: density times thickness, never the tabulated one.
 template <typename Material>
 double MassOf(const LayerRow<Material>& row) {

@@ -107,6 +107,13 @@ TEST(Parts, OfAFacadeAreItsOpaquePartAndTheComponentsInUse) {
   EXPECT_THAT(Told(PartsOf(setup)), ElementsAre(P{1, "Muro"}, P{2, "Finestra"}, P{3, "Bocchetta"}));
 }
 
+TEST(Parts, TellTheNumberOfARow) {
+  const elements::Setup floor = Floor();
+  EXPECT_EQ(NumberOf(floor, LayerGroup::kLeaf2, 1), 5);
+  EXPECT_EQ(NumberOf(floor, LayerGroup::kLeaf2, 2), 0) << "a row that is not in use";
+  EXPECT_EQ(NumberOf(floor, LayerGroup::kSeaLeaf1, 0), 0) << "a stack of another element";
+}
+
 TEST(Parts, OfNothingChosenAreNone) { EXPECT_TRUE(PartsOf({}).empty()); }
 
 TEST(Parts, NumberEveryRowInUseOfEveryCalculation) {

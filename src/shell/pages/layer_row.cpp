@@ -11,6 +11,7 @@
 #include <QToolButton>
 
 #include "calculation/layer_edits.h"
+#include "elements/parts.h"
 #include "foundation/decimal.h"
 #include "foundation/message_rows.h"
 #include "shell/fields/icons.h"
@@ -82,6 +83,7 @@ void LayerRow::MakeLead(QWidget* page) {
     return;
   }
   number_ = new QLabel(plan_.label.isEmpty() ? QString::number(plan_.index + 1) : plan_.label, page);
+  number_->setObjectName(ArrayName("Numero" + std::string(RowOf(plan_.group).list), plan_.index));
   number_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
   number_->setCursor(Qt::OpenHandCursor);
 }
@@ -169,6 +171,9 @@ void LayerRow::Show(const elements::Setup& setup, bool visible) {
   ForEachWidget([visible](QWidget* widget) { widget->setVisible(visible); });
   if (!visible) return;
   const calculation::LayerText row = calculation::LayerTextOf(setup, plan_.group, plan_.index);
+  // The number of the layer in the element, as the section and every paper have it.
+  if (number_ != nullptr && plan_.label.isEmpty())
+    number_->setText(QString::number(elements::NumberOf(setup, plan_.group, plan_.index)));
   material_->Show(row.listed);
   material_->setPlaceholderText(Text(context_.Words(), kChooseMaterialRow));
   thickness_->Show(row.thickness_text);

@@ -25,6 +25,20 @@ class InputPagesTest : public QObject {
   }
   void cleanup() { fixture_.reset(); }
 
+  // The number beside a row is the one that the section and the papers give its layer.
+  void aRowShowsTheNumberOfItsLayerInTheElement() {
+    fixture_->Choose("TIPO_PARETE_DOPPIA_0");
+    fixture_->open.Edit([](elements::Setup& setup) {
+      setup.leaf1.count = 2;
+      setup.leaf2.count = 1;
+    });
+    fixture_->Find<QTabWidget>("SSTab1")->setCurrentIndex(1);
+    QCOMPARE(fixture_->Find<QLabel>("NumeroCombo3_1")->text(), QString("2"));
+    QCOMPARE(fixture_->Find<QLabel>("NumeroCombo4_0")->text(), QString("3"));
+    fixture_->Choose("mnuCalcoloControplaccaggiScelta_1");
+    QCOMPARE(fixture_->Find<QLabel>("NumeroComboMatNormaleSEA2_0")->text(), QString("3"));
+  }
+
   void aThicknessOfNoughtBecomesTen() {
     fixture_->Choose("TIPO_PARETE_SINGOLA_0");
     fixture_->Type("Text5_0", "0");
