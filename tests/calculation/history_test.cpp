@@ -4,33 +4,34 @@
 
 #include <gtest/gtest.h>
 
+#include "elements/layer_groups.h"
+
 namespace velmar::calculation {
 namespace {
 
 using elements::Field;
 using elements::FieldId;
 using elements::LayerGroup;
-using elements::Setup;
 
 template <typename Change>
-Setup Changed(Setup setup, Change&& change) {
+elements::Setup Changed(elements::Setup setup, Change&& change) {
   change(setup);
   return setup;
 }
 
 TEST(StepBetween, NamesTheFieldThatTheOthersFollow) {
-  const Setup before;
-  const auto material = StepBetween(before, Changed(before, [](Setup& setup) {
+  const elements::Setup before;
+  const auto material = StepBetween(before, Changed(before, [](elements::Setup& setup) {
                                       setup.leaf2.rows[1].listed = "Gesso";
                                       setup.leaf2.rows[1].thickness_text = "15";
                                     }));
   EXPECT_EQ(material, (Step{StepKind::kField, {Field::kMaterial, LayerGroup::kLeaf2, 1}}));
-  const auto fill = StepBetween(before, Changed(before, [](Setup& setup) {
+  const auto fill = StepBetween(before, Changed(before, [](elements::Setup& setup) {
                                   setup.cavity.layers.rows[0].thickness_text = "80";
                                   setup.cavity.depth_text = "80";
                                 }));
   EXPECT_EQ(fill, (Step{StepKind::kField, {Field::kThickness, LayerGroup::kCavity, 0}}));
-  const auto count = StepBetween(before, Changed(before, [](Setup& setup) {
+  const auto count = StepBetween(before, Changed(before, [](elements::Setup& setup) {
                                    setup.leaf1.count = 3;
                                    setup.leaf1.rows[2].listed = "Gesso";
                                  }));
@@ -39,17 +40,18 @@ TEST(StepBetween, NamesTheFieldThatTheOthersFollow) {
 }
 
 TEST(StepBetween, TellsBandsElementsAndSeveralThingsApart) {
-  const Setup before;
+  const elements::Setup before;
   EXPECT_EQ(StepBetween(before, before), std::nullopt);
-  const auto band = StepBetween(
-      before, Changed(before, [](Setup& setup) { setup.facade.components[1].band_texts[4] = "31"; }));
+  const auto band = StepBetween(before, Changed(before, [](elements::Setup& setup) {
+                                  setup.facade.components[1].band_texts[4] = "31";
+                                }));
   EXPECT_EQ(band, (Step{StepKind::kField, {.field = Field::kBand, .index = 2, .band = 4}}));
-  const auto bands = StepBetween(before, Changed(before, [](Setup& setup) {
+  const auto bands = StepBetween(before, Changed(before, [](elements::Setup& setup) {
                                    setup.base.band_texts[4] = "31";
                                    setup.base.band_texts[5] = "32";
                                  }));
   EXPECT_EQ(bands->kind, StepKind::kBands);
-  const auto several = StepBetween(before, Changed(before, [](Setup& setup) {
+  const auto several = StepBetween(before, Changed(before, [](elements::Setup& setup) {
                                      setup.leaf1.rows[0].thickness_text = "1";
                                      setup.leaf1.rows[1].thickness_text = "2";
                                    }));
@@ -60,24 +62,24 @@ class Edited : public testing::Test {
  protected:
   template <typename Change>
   void Edit(Change&& change) {
-    const Setup before = setup_;
+    const elements::Setup before = setup_;
     change(setup_);
     history_.Note(before, setup_);
   }
   void TypeThickness(const std::string& text) {
-    Edit([&](Setup& setup) { setup.leaf1.rows[0].thickness_text = text; });
+    Edit([&](elements::Setup& setup) { setup.leaf1.rows[0].thickness_text = text; });
   }
 
-  Setup setup_{};
+  elements::Setup setup_{};
   History history_{};
 };
 
 TEST_F(Edited, IsUndoneAndRedoneStepByStep) {
-  const Setup start = setup_;
+  const elements::Setup start = setup_;
   TypeThickness("12");
   history_.EndStep();
-  Edit([](Setup& setup) { setup.hanger = 2; });
-  const Setup end = setup_;
+  Edit([](elements::Setup& setup) { setup.hanger = 2; });
+  const elements::Setup end = setup_;
   setup_ = history_.Undo(setup_);
   EXPECT_EQ(setup_.hanger, 0);
   setup_ = history_.Undo(setup_);
@@ -90,7 +92,7 @@ TEST_F(Edited, IsUndoneAndRedoneStepByStep) {
 }
 
 TEST_F(Edited, TypingInOneFieldIsOneStep) {
-  const Setup start = setup_;
+  const elements::Setup start = setup_;
   for (const char* text : {"1", "12", "120"}) TypeThickness(text);
   setup_ = history_.Undo(setup_);
   EXPECT_EQ(setup_, start);
@@ -102,8 +104,8 @@ TEST_F(Edited, TypingInOneFieldIsOneStep) {
 }
 
 TEST_F(Edited, ChoicesOneAfterTheOtherAreStepsOfTheirOwn) {
-  Edit([](Setup& setup) { setup.leaf1.rows[0].listed = "A"; });
-  Edit([](Setup& setup) { setup.leaf1.rows[0].listed = "B"; });
+  Edit([](elements::Setup& setup) { setup.leaf1.rows[0].listed = "A"; });
+  Edit([](elements::Setup& setup) { setup.leaf1.rows[0].listed = "B"; });
   setup_ = history_.Undo(setup_);
   EXPECT_EQ(setup_.leaf1.rows[0].listed, "A");
 }
@@ -111,7 +113,7 @@ TEST_F(Edited, ChoicesOneAfterTheOtherAreStepsOfTheirOwn) {
 TEST_F(Edited, AChangeAfterAnUndoForgetsWhatWasUndone) {
   TypeThickness("12");
   setup_ = history_.Undo(setup_);
-  Edit([](Setup& setup) { setup.decoupled = true; });
+  Edit([](elements::Setup& setup) { setup.decoupled = true; });
   EXPECT_EQ(history_.ToRedo(), std::nullopt);
 }
 

@@ -25,7 +25,7 @@ ProjectFileFailure::ProjectFileFailure(Message message, std::string detail)
 
 ProjectFileFailure ProjectFileFailure::In(const std::filesystem::path& file) const {
   Message message = UserMessage();
-  message.push_back({WithReplacements(file.string())});
+  message.back().push_back("\n" + WithReplacements(file.string()));
   ProjectFileFailure named(std::move(message), file.string() + ": " + what());
   named.line_number_ = line_number_;
   return named;

@@ -22,7 +22,7 @@ class ProjectFileFailure : public Failure {
   /// The file as a whole cannot be read.
   ProjectFileFailure(Message message, std::string detail);
 
-  /// The same failure with the name of the file in a line of its own.
+  /// The same failure with the name of the file behind its words.
   ProjectFileFailure In(const std::filesystem::path& file) const;
 
   /// The line that stopped the reading; 0 when none did.
