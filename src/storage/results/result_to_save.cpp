@@ -66,6 +66,7 @@ SavedResult ResultToSave(const elements::Setup& setup, const elements::ResultSet
   SavedResult row;
   row.name = heading.name;
   row.description = facade ? CutFacadeDescription(heading.description) : CutDescription(heading.description);
+  row.messages = heading.messages;
   row.area_m2 = AreaOf(setup, family);
   row.thickness_mm = heading.thickness_mm;
   row.mass_kg_m2 = facade && result.mass_kg_m2 ? result.mass_kg_m2 : heading.mass_kg_m2;

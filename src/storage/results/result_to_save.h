@@ -19,6 +19,7 @@ struct ResultHeading {
   std::string description{};             ///< whole; it is cut here, with "..." for a facade
   std::optional<double> thickness_mm{};  ///< `Text3`
   std::optional<double> mass_kg_m2{};    ///< `Text4`; a facade's own mass goes before it
+  std::string messages{};                ///< what the run told, in words, a line each
 };
 
 /// The row that stores the result of a set-up. The area is width times height; of a facade its whole area,

@@ -16,6 +16,13 @@ std::string TextOf(const Cell& cell) {
   return text == nullptr ? std::string() : *text;
 }
 
+/// Makes sure that `table` can hold what a run told.
+void AddMessagesColumn(SQLite::Database& database, const TableSchema& schema) {
+  if (TableRows(database, schema).Has(kMessagesColumn)) return;
+  database.exec("ALTER TABLE " + QuotedName(schema.name) + " ADD COLUMN " + QuotedName(kMessagesColumn) +
+                " TEXT");
+}
+
 }  // namespace
 
 std::vector<ListedResult> ResultsStore::List(ResultTable table) const {
@@ -41,6 +48,7 @@ SaveStatus ResultsStore::Save(ResultTable table, const SavedResult& result) {
   if (IsBlank(result.name) || HoldsControlCharacter(result.name) || !IsUtf8(result.name))
     return SaveStatus::kBadName;
   return ChangeDatabase(file_, [&](SQLite::Database& database) {
+    if (!result.messages.empty()) AddMessagesColumn(database, SchemaOf(table));
     TableRows rows(database, SchemaOf(table));
     if (rows.Find(result.name)) return SaveStatus::kNameExists;
     SavedResult row = result;

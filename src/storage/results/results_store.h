@@ -37,7 +37,8 @@ class ResultsStore {
   /// The row called `name`, case ignored.
   std::optional<SavedResult> Find(ResultTable table, std::string_view name) const;
 
-  /// Adds `result`, its description cut at 250 characters, unless its name is empty or exists (case ignored).
+  /// Adds `result`, with a column for its messages where it has some and the table none; its description cut
+  /// at 250 characters, unless its name is empty or exists (case ignored).
   SaveStatus Save(ResultTable table, const SavedResult& result);
 
   /// Removes the first row whose name is exactly `name`: unlike in the look-ups, case counts.

@@ -50,6 +50,19 @@ void ForEachText(Result& result, Visit visit) {
   visit("Immagine", result.picture);
 }
 
+/// As the shipped databases have it.
+TableSchema ShippedSchema(ResultTable table) {
+  switch (table) {
+    case ResultTable::kAirborne:
+      return AirborneResultTable();
+    case ResultTable::kImpact:
+      return ImpactResultTable();
+    case ResultTable::kLining:
+      return LiningResultTable();
+  }
+  return {};
+}
+
 }  // namespace
 
 std::string CutDescription(const std::string& description) {
@@ -63,15 +76,9 @@ std::string CutFacadeDescription(const std::string& description) {
 }
 
 TableSchema SchemaOf(ResultTable table) {
-  switch (table) {
-    case ResultTable::kAirborne:
-      return AirborneResultTable();
-    case ResultTable::kImpact:
-      return ImpactResultTable();
-    case ResultTable::kLining:
-      return LiningResultTable();
-  }
-  return {};
+  TableSchema schema = ShippedSchema(table);
+  schema.columns.push_back({kMessagesColumn, ColumnType::kText});
+  return schema;
 }
 
 SavedResult ResultFromCells(ResultTable table, const std::vector<Cell>& cells) {
@@ -82,6 +89,8 @@ SavedResult ResultFromCells(ResultTable table, const std::vector<Cell>& cells) {
     if (!place) return;
     if (const auto* text = std::get_if<std::string>(&cells.at(*place))) member = *text;
   });
+  if (const auto* messages = std::get_if<std::string>(&cells.at(schema.Find(kMessagesColumn).value())))
+    result.messages = *messages;
   ForEachNumber(table, result, [&](std::string_view column, std::optional<double>& member) {
     const auto place = schema.Find(column);
     if (!place) return;
@@ -96,6 +105,7 @@ std::vector<Cell> CellsFromResult(ResultTable table, const SavedResult& result) 
   ForEachText(result, [&](std::string_view column, const std::string& member) {
     if (const auto place = schema.Find(column)) cells[*place] = Cell{member};
   });
+  if (!result.messages.empty()) cells.at(schema.Find(kMessagesColumn).value()) = Cell{result.messages};
   ForEachNumber(table, result, [&](std::string_view column, const std::optional<double>& member) {
     const auto place = schema.Find(column);
     if (place && member) cells[*place] = Cell{*member};

@@ -36,6 +36,7 @@ struct SavedResult {
   std::string picture = "senza";
   std::optional<double> critical_frequency_hz{};
   std::optional<double> loss_factor{};
+  std::string messages{};  ///< what the run told, a line each; empty when it told nothing
 
   bool operator==(const SavedResult&) const = default;
 };
@@ -48,7 +49,10 @@ std::string CutDescription(const std::string& description);
 /// The same for a facade: a longer one ends in "...", which count.
 std::string CutFacadeDescription(const std::string& description);
 
-/// The schema of `table`.
+/// The column of what the run told. Databases of earlier versions have none until a result brings something.
+inline constexpr const char* kMessagesColumn = "Messaggi";
+
+/// The schema of `table`, kMessagesColumn included.
 TableSchema SchemaOf(ResultTable table);
 
 /// The result that `cells` hold, in the order of SchemaOf().

@@ -47,6 +47,15 @@ TEST_F(StoredPartsTest, ADeclinedRunStoresNothing) {
   EXPECT_EQ(Say({"results", "save", Example("parete-fuori-campo"), "Pieni", "--answer", "yes"}).code, 0);
 }
 
+/// The message of a range that was left belongs to the result.
+TEST_F(StoredPartsTest, WhatARunToldIsStoredWithItsResult) {
+  ASSERT_EQ(Say({"results", "save", Example("doppia-forati-lana"), "Muro"}).code, 0);
+  EXPECT_TRUE(Say({"results", "show", "Muro", "--json"}).Json()["Messaggi"].is_null());
+  ASSERT_EQ(Say({"results", "save", Example("parete-fuori-campo"), "Pieni", "--answer", "yes"}).code, 0);
+  EXPECT_EQ(Say({"results", "show", "Pieni", "--json"}).Json()["Messaggi"], "row 195");
+  EXPECT_TRUE(Say({"results", "show", "Muro", "--json"}).Json()["Messaggi"].is_null());
+}
+
 TEST_F(StoredPartsTest, AFacadeTakesItsPartsByName) {
   ASSERT_EQ(Say({"results", "save", Example("doppia-forati-lana"), "Muro"}).code, 0);
   ASSERT_EQ(Say({"results", "save", Example("vetrocamera-stratificata"), "Vetro"}).code, 0);

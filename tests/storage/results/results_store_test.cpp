@@ -78,6 +78,24 @@ TEST_F(ResultsStoreTest, ATableWithAColumnNamedRowidIsReadAndChanged) {
   }
 }
 
+TEST_F(ResultsStoreTest, TheColumnOfTheMessagesComesWithTheFirstOfThem) {
+  const auto has_column = [this] {
+    return ReadDatabase(file_, [](SQLite::Database& database) {
+      return TableRows(database, SchemaOf(ResultTable::kAirborne)).Has(kMessagesColumn);
+    });
+  };
+  store_.Save(ResultTable::kAirborne, Wall("a"));
+  EXPECT_FALSE(has_column());
+  SavedResult told = Wall("b");
+  told.messages = "Fuori dal campo\nProseguito";
+  EXPECT_EQ(store_.Save(ResultTable::kAirborne, told), SaveStatus::kSaved);
+  EXPECT_TRUE(has_column());
+  EXPECT_EQ(store_.Find(ResultTable::kAirborne, "b"), told);
+  EXPECT_EQ(store_.Find(ResultTable::kAirborne, "a"), Wall("a"));
+  store_.Save(ResultTable::kAirborne, told);
+  EXPECT_EQ(store_.List(ResultTable::kAirborne).size(), 2U);
+}
+
 TEST_F(ResultsStoreTest, ALongDescriptionIsStoredCut) {
   SavedResult wall = Wall("a");
   wall.description.assign(300, 'x');
