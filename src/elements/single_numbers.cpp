@@ -1,7 +1,8 @@
 #include "elements/single_numbers.h"
-#include "foundation/message_rows.h"
 
 #include <optional>
+
+#include "foundation/message_rows.h"
 
 namespace velmar::elements {
 namespace {
@@ -19,7 +20,6 @@ struct Row {
 
 using acoustics::AirborneNumbers;
 using acoustics::ImpactNumbers;
-
 
 constexpr Row<AirborneNumbers> kAirborneRows[] = {
     {"Rw", "Rw", &AirborneNumbers::rw, kRwMeaningRow, false},
@@ -55,6 +55,18 @@ std::vector<SingleNumber> ListOf(const Numbers& numbers, const Row<Numbers> (&ro
   return list;
 }
 
+/// The bands of `spectrum` that are a result of the calculation.
+acoustics::BandLevels ResultLevels(const acoustics::Spectrum& spectrum, const CalculationRow& row) {
+  acoustics::BandLevels levels = acoustics::LevelsOf(spectrum);
+  const bool facade = row.family == Family::kFacade;
+  const bool lining = row.family == Family::kLining || row.family == Family::kCeiling;
+  for (std::size_t band = 0; band < levels.size(); ++band) {
+    const bool rated = band >= acoustics::kFirstRatedBand && band <= acoustics::kLastRatedBand;
+    if ((facade && levels[band] == 0.0) || (lining && !rated)) levels[band].reset();
+  }
+  return levels;
+}
+
 }  // namespace
 
 std::vector<SingleNumber> SingleNumbersOf(const AirborneNumbers& numbers) {
@@ -67,12 +79,7 @@ std::vector<SingleNumber> SingleNumbersOf(const ImpactNumbers& numbers) {
 
 std::vector<SingleNumber> SingleNumbersOf(const ResultSet& result, Calculation calculation) {
   if (!result.spectrum) return {};
-  acoustics::BandLevels levels = acoustics::LevelsOf(*result.spectrum);
-  if (RowOf(calculation).model == Model::kCompositeElement) {
-    for (std::optional<double>& level : levels) {
-      if (level == 0.0) level.reset();
-    }
-  }
+  const acoustics::BandLevels levels = ResultLevels(*result.spectrum, RowOf(calculation));
   if (result.lnw) return SingleNumbersOf(acoustics::FindImpactNumbers(levels));
   return SingleNumbersOf(acoustics::FindAirborneNumbers(levels, result.rw));
 }

@@ -26,8 +26,9 @@ std::vector<SingleNumber> SingleNumbersOf(const acoustics::AirborneNumbers& numb
 std::vector<SingleNumber> SingleNumbersOf(const acoustics::ImpactNumbers& numbers);
 
 /// Every number that the spectrum of `result` gives, the terms against the rating that the calculation shows;
-/// none without a spectrum. For a lining they are those of the element with its lining, C and Ctr included.
-/// In a facade a band of 0 stands for one that a part has no value for, and counts as missing.
+/// none without a spectrum. For a lining or a ceiling they are those of the element with its lining, C and
+/// Ctr included, out of 100 Hz to 3150 Hz, the bands that are its result. In a facade a band of 0 stands for
+/// one that a part has no value for, and counts as missing.
 /// @throws ArithmeticFailure when the spectrum holds what no rating exists for
 std::vector<SingleNumber> SingleNumbersOf(const ResultSet& result, Calculation calculation);
 

@@ -40,11 +40,19 @@ TEST(SingleNumbers, StandAgainstTheRatingThatIsShown) {
   EXPECT_EQ(numbers.at("Ctr,50-5000"), -2);
 }
 
-/// C and Ctr of a lining stand against its base; here they are those of the lined element.
-TEST(SingleNumbers, OfALiningAreThoseOfTheLinedElement) {
-  ResultSet result = EqualWall();
-  result.c = 5;
-  EXPECT_EQ(ByKey(SingleNumbersOf(result, Calculation::kLiningFrame)).at("C"), -4);
+/// C and Ctr of a lining stand against its base; here they are those of the lined element. Its result ends at
+/// 3150 Hz: what stands in the bands beyond does not count.
+TEST(SingleNumbers, OfALiningAreThoseOfTheLinedElementInTheBandsOfItsResult) {
+  for (const Calculation calculation : {Calculation::kLiningFrame, Calculation::kCeilingSea}) {
+    ResultSet result = EqualWall();
+    result.c = 5;
+    (*result.spectrum)[20] = 3.0;
+    const auto numbers = ByKey(SingleNumbersOf(result, calculation));
+    EXPECT_EQ(numbers.size(), 4U);
+    EXPECT_EQ(numbers.at("C"), -4);
+    EXPECT_TRUE(numbers.contains("Rw,0.1"));
+    EXPECT_FALSE(numbers.contains("C50-5000"));
+  }
 }
 
 TEST(SingleNumbers, OfAFacadeLackWhatABandOfZeroWouldGive) {

@@ -82,9 +82,7 @@ ResultsPanel::ResultsPanel(const PageContext& context, QWidget* parent) : QWidge
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(kPageSpacing, kPageSpacing, kPageSpacing, kPageSpacing);
   column->addWidget(MakeRatings());
-  numbers_ = new SingleNumbersPanel(context_.Words(), this);
-  numbers_->hide();
-  column->addWidget(numbers_);
+  column->addWidget(MakeNumbers());
   splitter_ = new QSplitter(Qt::Vertical, this);
   splitter_->addWidget(MakeChart());
   splitter_->addWidget(MakeSection());
@@ -124,6 +122,14 @@ QWidget* ResultsPanel::MakeRatings() {
     line->addWidget(widget);
   }
   line->addStretch(1);
+  return frame;
+}
+
+QWidget* ResultsPanel::MakeNumbers() {
+  auto* frame = new QWidget(this);
+  auto* column = new QVBoxLayout(frame);
+  column->setContentsMargins(0, 0, 0, 0);
+  column->setSpacing(2);
   open_numbers_ = new QToolButton(frame);
   open_numbers_->setObjectName("PulsanteIndici");
   open_numbers_->setText(Text(context_.Words(), kAllNumbersRow));
@@ -132,7 +138,10 @@ QWidget* ResultsPanel::MakeRatings() {
   open_numbers_->setAutoRaise(true);
   open_numbers_->setCheckable(true);
   connect(open_numbers_, &QToolButton::toggled, this, [this] { ShowNumbers(); });
-  line->addWidget(open_numbers_);
+  column->addWidget(open_numbers_, 0, Qt::AlignLeft);
+  numbers_ = new SingleNumbersPanel(context_.Words(), frame);
+  numbers_->hide();
+  column->addWidget(numbers_);
   return frame;
 }
 

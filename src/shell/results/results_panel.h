@@ -36,6 +36,8 @@ class ResultsPanel : public QWidget {
 
  private:
   QWidget* MakeRatings();
+  /// The button that opens the table of all ratings, and the table.
+  QWidget* MakeNumbers();
   QWidget* MakeChart();
   QWidget* MakeSection();
   void ShowRatings(const elements::Setup& setup, const elements::ResultSet* result);

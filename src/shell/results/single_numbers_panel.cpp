@@ -7,9 +7,9 @@
 #include <utility>
 
 #include "foundation/decimal.h"
+#include "foundation/message_rows.h"
 #include "shell/fields/phrases.h"
 #include "shell/pages/page_parts.h"
-#include "foundation/message_rows.h"
 
 namespace velmar::shell {
 namespace {
@@ -65,6 +65,10 @@ void SingleNumbersPanel::Show(const std::vector<elements::SingleNumber>& numbers
     QFont strong = value->font();
     strong.setBold(true);
     value->setFont(strong);
+    // Numbers stand under numbers, with a unit or without.
+    if (*number.unit == '\0') {
+      value->setContentsMargins(0, 0, QFontMetrics(strong).horizontalAdvance(QStringLiteral(" dB")), 0);
+    }
     const auto row = static_cast<int>(i % rows);
     const auto column = static_cast<int>(i / rows) * 3;
     grid_->addWidget(name, row, column);

@@ -58,6 +58,16 @@ class SingleNumbersPanelTest : public QObject {
     QVERIFY(Frame()->findChild<QLabel*>("Indice Rw") == nullptr);
   }
 
+  void ShowsTheLinedElementOfALining() {
+    fixture_->window->OpenProject(EXAMPLES "/controplaccaggio-ossatura.drav");
+    fixture_->Run();
+    QTest::mouseClick(fixture_->Find<QToolButton>("PulsanteIndici"), Qt::LeftButton);
+    QVERIFY(!fixture_->Find<QLabel>("LabelIndici")->isHidden());
+    QCOMPARE(Value("Rw"), QString("%1 dB").arg(*fixture_->open.Result()->rw));
+    QVERIFY(Value("C") != QString("%1 dB").arg(*fixture_->open.Result()->c));
+    QVERIFY(Value("C50-5000").isEmpty());
+  }
+
   void HasNothingToShowWithoutASpectrum() {
     fixture_->Choose(elements::Calculation::kLiningGeneric);
     fixture_->open.Edit([](elements::Setup& setup) {
