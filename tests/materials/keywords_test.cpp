@@ -65,7 +65,8 @@ INSTANTIATE_TEST_SUITE_P(
     [](const auto& test) { return test.param.name; });
 
 TEST(OffTheLists, IsOfferedUnderItsOwnKeywordAlone) {
-  const std::vector<storage::ListedMaterial> materials = {{"Mattone", "murature"}, {"Titanio", "fuori elenco"}};
+  const std::vector<storage::ListedMaterial> materials = {{"Mattone", "murature"},
+                                                          {"Titanio", "fuori elenco"}};
   for (const MaterialFamily family :
        {MaterialFamily::kStructural, MaterialFamily::kFibrous, MaterialFamily::kResilient}) {
     EXPECT_EQ(KeywordFilter(family, materials, kTexts), (Names{"tutti", "murature"}));
