@@ -27,6 +27,18 @@ double UnfavourableDeviation(const OctaveSpectrum& reduction_index, double shift
   return sum;
 }
 
+/// The reference spectra of ISO 717-1 in octave bands, 125 Hz to 2000 Hz.
+constexpr std::array<double, 5> kPinkNoise = {-21, -14, -8, -5, -4};
+constexpr std::array<double, 5> kRoadTraffic = {-14, -10, -7, -4, -6};
+
+double Term(const OctaveSpectrum& reduction_index, const std::array<double, 5>& spectrum, double rw) {
+  double energy = 0.0;
+  for (std::size_t i = 0; i < spectrum.size(); ++i) {
+    energy += std::pow(10.0, (spectrum.at(i) - reduction_index.at(i + kFirstRatedOctave)) / 10.0);
+  }
+  return RequireFinite(std::floor(-10.0 * Log10(energy) + 0.5) - rw, "an adaptation term of octave bands");
+}
+
 }  // namespace
 
 OctaveSpectrum OctavesOf(const Spectrum& reduction_index) {
@@ -54,6 +66,10 @@ double RateOctaves(const OctaveSpectrum& reduction_index) {
   double shift = std::ceil(highest + kAllowedOctaveDeviation);
   while (UnfavourableDeviation(reduction_index, shift) > kAllowedOctaveDeviation + kEqual) shift -= 1.0;
   return kReferenceAt500Hz + shift;
+}
+
+AdaptationTerms FindOctaveTerms(const OctaveSpectrum& reduction_index, double rw) {
+  return {Term(reduction_index, kPinkNoise, rw), Term(reduction_index, kRoadTraffic, rw)};
 }
 
 }  // namespace velmar::acoustics

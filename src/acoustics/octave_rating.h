@@ -3,6 +3,7 @@
 #include <array>
 #include <cstddef>
 
+#include "acoustics/airborne_rating.h"
 #include "acoustics/bands.h"
 
 namespace velmar::acoustics {
@@ -22,5 +23,10 @@ OctaveSpectrum OctavesOf(const Spectrum& reduction_index);
 /// shifted in whole dB as far up as the sum of the unfavourable deviations stays at 10.0 dB or below.
 /// @throws ArithmeticFailure when a rated band is not a level that can be rated
 double RateOctaves(const OctaveSpectrum& reduction_index);
+
+/// The spectrum adaptation terms of ISO 717-1 in whole dB out of octave bands, 125 Hz to 2000 Hz, against the
+/// rating `rw` (dB).
+/// @throws ArithmeticFailure when a term is not a finite number
+AdaptationTerms FindOctaveTerms(const OctaveSpectrum& reduction_index, double rw);
 
 }  // namespace velmar::acoustics

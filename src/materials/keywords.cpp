@@ -12,6 +12,10 @@ constexpr std::string_view kGlazing = "vetrate";
 constexpr std::string_view kDoors = "porte";
 constexpr std::string_view kNotSpecifiedFibrous = "non specificato";
 
+bool IsOffTheLists(std::string_view keyword, std::string_view filter) {
+  return keyword == kOffTheListsKeyword && filter != kOffTheListsKeyword;
+}
+
 bool IsNotSpecified(std::string_view keyword, const KeywordTexts& texts) {
   return keyword.empty() || keyword == texts.not_specified;
 }
@@ -26,6 +30,7 @@ std::vector<std::string> KeywordFilter(MaterialFamily family,
   std::vector<std::string> filter = {texts.all};
   for (const storage::ListedMaterial& material : materials) {
     if (material.keyword.empty() || material.keyword == not_specified) continue;
+    if (material.keyword == kOffTheListsKeyword) continue;
     if (std::ranges::find(filter, material.keyword) == filter.end()) filter.push_back(material.keyword);
   }
   return filter;
@@ -37,6 +42,7 @@ std::vector<std::string> NamesUnderFilter(MaterialFamily family,
   const bool all = filter == texts.all;
   std::vector<std::string> names;
   for (const storage::ListedMaterial& material : materials) {
+    if (IsOffTheLists(material.keyword, filter)) continue;
     if (all || material.keyword == filter) names.push_back(material.name);
   }
   const bool closed = family == MaterialFamily::kStructural && filter == kGlazing;
@@ -50,6 +56,7 @@ std::vector<std::string> NamesUnderFilter(MaterialFamily family,
 
 bool JoinsLists(MaterialFamily family, std::string_view keyword, std::string_view filter,
                 const KeywordTexts& texts) {
+  if (IsOffTheLists(keyword, filter)) return false;
   if (keyword == filter || filter == texts.all) return true;
   const bool closed = family == MaterialFamily::kStructural && (filter == kGlazing || filter == kDoors);
   return !closed && IsNotSpecified(keyword, texts);

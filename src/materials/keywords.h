@@ -15,17 +15,21 @@ struct KeywordTexts {
   std::string not_specified{};  ///< stands for a keyword that is missing
 };
 
+/// The keyword of materials that the lists do not offer: rare ones, and those that a better row replaced.
+/// Projects that name them, the table window and the look-up by name find them all the same.
+inline constexpr std::string_view kOffTheListsKeyword = "fuori elenco";
+
 /// The entries of the keyword filter of `family` (`Combo7`, `Combo19`, `Combo8`): `all`, then every keyword
-/// once, in the order of first appearance, without the one that says "not specified". That one is
-/// `not_specified`, but for fibrous materials the literal "non specificato". A row without a keyword counts
-/// as not specified.
+/// once, in the order of first appearance, without kOffTheListsKeyword and the one that says "not specified".
+/// That is `not_specified`, but for fibrous materials the literal "non specificato". A row without a keyword
+/// counts as not specified.
 std::vector<std::string> KeywordFilter(elements::MaterialFamily family,
                                        const std::vector<storage::ListedMaterial>& materials,
                                        const KeywordTexts& texts);
 
 /// The names that the lists of `family` offer under `filter`: the materials of that keyword and, behind them,
-/// those whose keyword is `not_specified` or missing; under `all` all, in the order of the table. Structural
-/// materials without a keyword are not offered under "vetrate".
+/// those whose keyword is `not_specified` or missing; under `all` all that are not off the lists, in the
+/// order of the table. Structural materials without a keyword are not offered under "vetrate".
 std::vector<std::string> NamesUnderFilter(elements::MaterialFamily family,
                                           const std::vector<storage::ListedMaterial>& materials,
                                           std::string_view filter, const KeywordTexts& texts);

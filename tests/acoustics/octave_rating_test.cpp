@@ -19,6 +19,17 @@ TEST(OctaveRating, TheReferenceCurveShiftedByTwoDecibelsUsesUpTheAllowedDeviatio
 // Octave bands of a handbook wall: 125 mm plastered brick, Rw 45.
 TEST(OctaveRating, RatesAPublishedWall) { EXPECT_EQ(RateOctaves({30, 36, 37, 40, 46, 54, 57}), 45.0); }
 
+// Octave bands of handbook walls with the terms that their sources' bands give.
+TEST(OctaveRating, TermsAreTheWeightedLevelsLessTheRating) {
+  const OctaveSpectrum blocks = {35, 35, 41, 44, 50, 57, 64};
+  EXPECT_EQ(RateOctaves(blocks), 49.0);
+  EXPECT_EQ(FindOctaveTerms(blocks, 49.0).c, -1.0);
+  EXPECT_EQ(FindOctaveTerms(blocks, 49.0).ctr, -4.0);
+  const OctaveSpectrum boards = {18, 16, 33, 47, 55, 43, 47};
+  EXPECT_EQ(FindOctaveTerms(boards, 40.0).c, -4.0);
+  EXPECT_EQ(FindOctaveTerms(boards, 40.0).ctr, -10.0);
+}
+
 TEST(OctaveRating, OneDecibelMoreEverywhereIsOneMoreInTheRating) {
   OctaveSpectrum spectrum = {22, 28, 32, 33, 32, 32, 33};
   const double rating = RateOctaves(spectrum);

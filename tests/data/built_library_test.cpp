@@ -1,6 +1,6 @@
 #include <algorithm>
-#include <array>
 #include <filesystem>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -10,9 +10,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "acoustics/airborne_rating.h"
-#include "acoustics/bands.h"
 #include "data_builder/table_text.h"
+#include "storage/library/rating_check.h"
 #include "storage/tables/schema.h"
 
 namespace velmar {
@@ -53,7 +52,7 @@ TEST(Library, HasEveryFolderAndEveryFileItsTable) {
     for (const fs::directory_entry& file : fs::directory_iterator(path)) {
       SQLite::Database database(file.path().string());
       EXPECT_GT(Count(database, folder.table.name), 0) << file.path();
-      for (const char* column : {"Descrizione", "Parola chiave", "Certificato", "Immagine"}) {
+      for (const char* column : {"Descrizione", "Parola chiave", "Fonte", "Immagine"}) {
         EXPECT_EQ(Count(database, folder.table.name, QuotedName(column) + " IS NULL"), 0)
             << file.path() << column;
       }
@@ -95,25 +94,67 @@ TEST(Library, BandsAreMeasuredOrEmpty) {
   }
 }
 
-TEST(Library, RatingsOfMeasuredWallsFollowFromTheirBands) {
-  const storage::LibraryFolder walls = storage::LibraryFolders().front();
-  int rated = 0;
-  for (const fs::path& file : FilesOf(walls)) {
-    SQLite::Database database(file.string());
-    SQLite::Statement read(database,
-                           "SELECT \"Nome\", \"Rw (dB)\", " + BandList(walls) + " FROM Rw_laboratorio");
-    while (read.executeStep()) {
-      if (read.getColumn(2).isNull()) continue;
-      acoustics::Spectrum reduction_index{};
-      for (size_t i = 0; i < reduction_index.size(); ++i) {
-        reduction_index[i] = read.getColumn(static_cast<int>(i) + 2).getDouble();
+/// Every row of the library, as its folder reads it.
+template <typename See>
+void ForEachTest(See&& see) {
+  for (const storage::LibraryFolder& folder : storage::LibraryFolders()) {
+    for (const fs::path& file : FilesOf(folder)) {
+      const fs::path text = fs::path(VELMAR_TEXTS) / "library" / folder.folder / file.stem().concat(".csv");
+      for (const auto& cells : data_builder::ReadRows(text, folder.table)) {
+        see(folder, storage::TestFromCells(folder, cells));
       }
-      EXPECT_EQ(acoustics::FindShift(reduction_index) - 4, read.getColumn(1).getInt())
-          << read.getColumn(0).getString();
-      ++rated;
     }
   }
-  EXPECT_EQ(rated, 9);
+}
+
+TEST(Library, EveryRatingFollowsFromItsBands) {
+  int of_thirds = 0;
+  int of_octaves = 0;
+  ForEachTest([&](const storage::LibraryFolder& folder, const storage::MeasuredTest& test) {
+    const storage::RatingCheck check = storage::CheckRating(folder, test);
+    if (check.basis == storage::RatingBasis::kNone) return;
+    EXPECT_FALSE(check.differs) << test.name << ": " << *test.rating << " stated, " << *check.rating;
+    EXPECT_TRUE(test.rating) << test.name;
+    if (test.other_adaptation) EXPECT_EQ(check.adaptation, test.adaptation) << test.name;
+    (check.basis == storage::RatingBasis::kThirds ? of_thirds : of_octaves) += 1;
+  });
+  EXPECT_EQ(of_thirds, 19);
+  EXPECT_EQ(of_octaves, 111);
+}
+
+TEST(Library, NoConstructionStandsTwiceAndNoneSaysNothing) {
+  std::set<std::string> names;
+  std::set<std::vector<double>> spectra;
+  ForEachTest([&](const storage::LibraryFolder& folder, const storage::MeasuredTest& test) {
+    EXPECT_TRUE(names.insert(folder.key + '/' + test.name).second) << test.name;
+    std::vector<double> bands;
+    for (const auto& band : test.bands) {
+      if (band) bands.push_back(*band);
+    }
+    for (const auto& octave : test.octaves) {
+      if (octave) bands.push_back(*octave);
+    }
+    if (!bands.empty()) EXPECT_TRUE(spectra.insert(bands).second) << test.name;
+    EXPECT_TRUE(!bands.empty() || test.rating || test.index_value) << test.name;
+    if (!test.index_kind.empty()) {
+      EXPECT_THAT(storage::kIndexKinds, testing::Contains(test.index_kind)) << test.name;
+    }
+    EXPECT_FALSE(test.source.empty()) << test.name;
+    // Bands and ratings stand in columns of their own, not in the notes.
+    EXPECT_EQ(test.notes.find("Bande d'ottava:"), std::string::npos) << test.name;
+  });
+}
+
+TEST(Library, WindowsAndDoorsServeFacades) {
+  int by_rating = 0;
+  int by_bands = 0;
+  ForEachTest([&](const storage::LibraryFolder& folder, const storage::MeasuredTest& test) {
+    if (folder.key != "Infissi") return;
+    by_rating += storage::UsesOf(test).facade_by_rating ? 1 : 0;
+    by_bands += storage::UsesOf(test).facade_by_bands ? 1 : 0;
+  });
+  EXPECT_GE(by_rating, 40);
+  EXPECT_GE(by_bands, 1);
 }
 
 }  // namespace

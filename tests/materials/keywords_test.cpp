@@ -64,6 +64,20 @@ INSTANTIATE_TEST_SUITE_P(
         FilterCase{"CaseCounts", MaterialFamily::kStructural, "Laterizi", {"Senza", "Generico"}}),
     [](const auto& test) { return test.param.name; });
 
+TEST(OffTheLists, IsOfferedUnderItsOwnKeywordAlone) {
+  const std::vector<storage::ListedMaterial> materials = {{"Mattone", "murature"},
+                                                          {"Titanio", "fuori elenco"}};
+  for (const MaterialFamily family :
+       {MaterialFamily::kStructural, MaterialFamily::kFibrous, MaterialFamily::kResilient}) {
+    EXPECT_EQ(KeywordFilter(family, materials, kTexts), (Names{"tutti", "murature"}));
+    EXPECT_EQ(NamesUnderFilter(family, materials, "tutti", kTexts), Names{"Mattone"});
+    EXPECT_EQ(NamesUnderFilter(family, materials, "murature", kTexts), Names{"Mattone"});
+    EXPECT_EQ(NamesUnderFilter(family, materials, "fuori elenco", kTexts), Names{"Titanio"});
+    EXPECT_FALSE(JoinsLists(family, "fuori elenco", "tutti", kTexts));
+    EXPECT_TRUE(JoinsLists(family, "fuori elenco", "fuori elenco", kTexts));
+  }
+}
+
 TEST(JoinsLists, KeepsWhatHasNoKeywordOutOfDoorsAndGlazing) {
   const struct {
     MaterialFamily family;

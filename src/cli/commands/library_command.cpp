@@ -13,6 +13,7 @@
 #include "foundation/message_rows.h"
 #include "foundation/utf8.h"
 #include "storage/library/library_store.h"
+#include "storage/library/rating_check.h"
 
 namespace velmar::cli {
 namespace {
@@ -21,9 +22,32 @@ nlohmann::json JsonOf(const std::optional<double>& value) {
   return value ? nlohmann::json(*value) : nlohmann::json(nullptr);
 }
 
+const char* NameOf(storage::RatingBasis basis) {
+  switch (basis) {
+    case storage::RatingBasis::kNone:
+      return "none";
+    case storage::RatingBasis::kThirds:
+      return "thirds";
+    case storage::RatingBasis::kOctaves:
+      return "octaves";
+  }
+  return "";
+}
+
+nlohmann::json JsonOf(const storage::RatingCheck& check) {
+  return {{"basis", NameOf(check.basis)},
+          {"rating", JsonOf(check.rating)},
+          {"adaptation", JsonOf(check.adaptation)},
+          {"other_adaptation", JsonOf(check.other_adaptation)},
+          {"differs", check.differs}};
+}
+
 nlohmann::json JsonOf(const storage::LibraryFolder& folder, const storage::MeasuredTest& test) {
   nlohmann::json bands = nlohmann::json::array();
   for (const auto& band : test.bands) bands.push_back(JsonOf(band));
+  nlohmann::json octaves = nlohmann::json::array();
+  for (const auto& octave : test.octaves) octaves.push_back(JsonOf(octave));
+  const storage::TestUses uses = storage::UsesOf(test);
   return {{"kind", folder.key},
           {"name", test.name},
           {"description", test.description},
@@ -33,6 +57,15 @@ nlohmann::json JsonOf(const storage::LibraryFolder& folder, const storage::Measu
           {"adaptation", JsonOf(test.adaptation)},
           {"other_adaptation", JsonOf(test.other_adaptation)},
           {"bands", std::move(bands)},
+          {"octaves", std::move(octaves)},
+          {"index", test.index_kind},
+          {"index_value", JsonOf(test.index_value)},
+          {"rating_origin", test.rating_origin},
+          {"uncertainty", JsonOf(test.uncertainty_db)},
+          {"source", test.source},
+          {"from_bands", JsonOf(storage::CheckRating(folder, test))},
+          {"facade_by_bands", uses.facade_by_bands},
+          {"facade_by_rating", uses.facade_by_rating},
           {"area", JsonOf(test.area_m2)},
           {"surface_mass", JsonOf(test.mass_kg_m2)},
           {"thickness", JsonOf(test.field.thickness_mm)},
@@ -55,6 +88,22 @@ void WriteLine(std::ostream& out, const std::string& name, const std::optional<d
   if (value) WriteLine(out, name, FormatShortest(*value));
 }
 
+/// The rating that the bands give, when they give one, and whether the stated one is another.
+void WriteFromBands(std::ostream& out, const storage::LibraryFolder& folder,
+                    const storage::MeasuredTest& test) {
+  const storage::RatingCheck check = storage::CheckRating(folder, test);
+  if (!check.rating) return;
+  std::string value = FormatShortest(*check.rating);
+  if (check.adaptation) {
+    value += " (" + FormatShortest(*check.adaptation);
+    if (check.other_adaptation) value += "; " + FormatShortest(*check.other_adaptation);
+    value += ")";
+  }
+  if (check.differs) value += ", diverso da quello dichiarato";
+  WriteLine(out, check.basis == storage::RatingBasis::kThirds ? "Dai terzi d'ottava" : "Dalle bande d'ottava",
+            value);
+}
+
 void WriteTest(std::ostream& out, const storage::LibraryFolder& folder, const storage::MeasuredTest& test) {
   WriteLine(out, "Nome", test.name);
   WriteLine(out, "Descrizione", test.description);
@@ -63,6 +112,11 @@ void WriteTest(std::ostream& out, const storage::LibraryFolder& folder, const st
   const std::array<std::string, 2> adaptation = storage::AdaptationColumns(folder);
   WriteLine(out, adaptation[0], test.adaptation);
   WriteLine(out, adaptation[1], test.other_adaptation);
+  WriteLine(out, "Origine indice", test.rating_origin);
+  WriteLine(out, "Indice", test.index_kind);
+  WriteLine(out, "Valore indice (dB)", test.index_value);
+  WriteLine(out, "Incertezza (dB)", test.uncertainty_db);
+  WriteFromBands(out, folder, test);
   WriteLine(out, "Area (m²)", test.area_m2);
   WriteLine(out, "m' (kg/m²)", test.mass_kg_m2);
   WriteLine(out, "Ve (m³)", test.field.source_volume_m3);
@@ -72,12 +126,15 @@ void WriteTest(std::ostream& out, const storage::LibraryFolder& folder, const st
   const std::vector<std::string> columns = storage::BandColumns(folder.band_prefix);
   for (std::size_t band = 0; band < columns.size(); ++band)
     WriteLine(out, columns[band], test.bands.at(band));
+  const std::vector<std::string> octaves = storage::OctaveColumns(folder.band_prefix);
+  for (std::size_t i = 0; i < octaves.size(); ++i) WriteLine(out, octaves[i], test.octaves.at(i));
   WriteLine(out, "Certificato", test.certificate);
   WriteLine(out, "Data Prova", test.date);
   WriteLine(out, "Ente di prova", test.laboratory);
   WriteLine(out, "Società richiedente", test.client);
   WriteLine(out, "Informazione addizionale", test.notes);
   WriteLine(out, "Immagine", test.picture);
+  WriteLine(out, "Fonte", test.source);
 }
 
 std::optional<storage::LibraryFile> FindSeries(const storage::LibraryStore& store,

@@ -64,7 +64,7 @@ MeasuredTest TestOf(const storage::LibraryFolder& folder, storage::MeasuredTest 
   shown.source_volume_m3 = test.field.source_volume_m3;
   shown.receiving_volume_m3 = test.field.receiving_volume_m3;
   shown.site = std::move(test.field.site);
-  shown.certificate = std::move(test.certificate);
+  shown.certificate = test.Proof();
   shown.date = std::move(test.date);
   shown.laboratory = std::move(test.laboratory);
   shown.client = std::move(test.client);

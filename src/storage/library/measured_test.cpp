@@ -80,6 +80,13 @@ MeasuredTest TestFromCells(const LibraryFolder& folder, const std::vector<Cell>&
   test.client = reader.Text("Società richiedente");
   test.notes = reader.Text("Informazione addizionale");
   test.picture = reader.Text("Immagine");
+  test.index_kind = reader.Text("Indice");
+  test.index_value = reader.Number("Valore indice (dB)");
+  test.rating_origin = reader.Text("Origine indice");
+  const std::vector<std::string> octaves = OctaveColumns(folder.band_prefix);
+  for (std::size_t i = 0; i < octaves.size(); ++i) test.octaves.at(i) = reader.Number(octaves[i]);
+  test.uncertainty_db = reader.Number("Incertezza (dB)");
+  test.source = reader.Text("Fonte");
   return test;
 }
 

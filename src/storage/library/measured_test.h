@@ -3,6 +3,7 @@
 #include <array>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "acoustics/bands.h"
@@ -37,7 +38,23 @@ struct MeasuredTest {
   std::string client{};       ///< "Società richiedente"
   std::string notes{};        ///< "Informazione addizionale"
   std::string picture{};      ///< "Immagine"
+
+  /// The index that the source states, where it is another than `rating` ("STC", "IIC", "ΔSTC") or the same;
+  /// "Indice", one of kIndexKinds or free text, and "Valore indice (dB)".
+  std::string index_kind{};
+  std::optional<double> index_value{};
+  std::string rating_origin{};  ///< "Origine indice": declared, or from which bands
+  std::array<std::optional<double>, kOctaveCount> octaves{};  ///< dB, 63 Hz to 8000 Hz
+  std::optional<double> uncertainty_db{};                     ///< "Incertezza (dB)", as the source states it
+  std::string source{};                                       ///< "Fonte": where the values were published
+
+  /// What proves the values: the certificate, or else the publication.
+  const std::string& Proof() const { return certificate.empty() ? source : certificate; }
 };
+
+/// The kinds of index that the column "Indice" names.
+inline constexpr std::array<std::string_view, 9> kIndexKinds = {"Rw",  "STC",    "Ln,w", "IIC",   "ΔRw",
+                                                                "ΔLw", "Dn,e,w", "ΔSTC", "Rw + C"};
 
 /// What a measured test hands over to a facade (`CurvaSperimentale`).
 struct MeasuredCurve {

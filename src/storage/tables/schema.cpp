@@ -10,6 +10,9 @@ constexpr std::array<std::string_view, 21> kBandCentres = {
     "50",  "63",  "80",   "100",  "125",  "160",  "200",  "250",  "315",  "400", "500",
     "630", "800", "1000", "1250", "1600", "2000", "2500", "3150", "4000", "5000"};
 
+constexpr std::array<std::string_view, kOctaveCount> kOctaveCentres = {"63",   "125",  "250",  "500",
+                                                                       "1000", "2000", "4000", "8000"};
+
 class Columns {
  public:
   Columns& Text(std::string_view name) { return Add(name, ColumnType::kText); }
@@ -72,7 +75,12 @@ TableSchema LibraryTable(const LibraryRow& row) {
       .Text("Ente di prova")
       .Text("Società richiedente")
       .Text("Informazione addizionale")
-      .Text("Immagine");
+      .Text("Immagine")
+      .Text("Indice")
+      .Number("Valore indice (dB)")
+      .Text("Origine indice");
+  for (const std::string& name : OctaveColumns(row.band_prefix)) columns.Number(name);
+  columns.Number("Incertezza (dB)").Text("Fonte");
   return {std::string(row.table), columns, "Nome", false};
 }
 
@@ -230,6 +238,15 @@ std::vector<std::string> BandColumns(std::string_view prefix) {
   names.reserve(kBandCentres.size());
   for (const std::string_view centre : kBandCentres) {
     names.push_back(std::string(prefix) + " - " + std::string(centre) + "Hz (dB)");
+  }
+  return names;
+}
+
+std::vector<std::string> OctaveColumns(std::string_view prefix) {
+  std::vector<std::string> names;
+  names.reserve(kOctaveCentres.size());
+  for (const std::string_view centre : kOctaveCentres) {
+    names.push_back(std::string(prefix) + " ottava - " + std::string(centre) + "Hz (dB)");
   }
   return names;
 }

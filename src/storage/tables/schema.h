@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -63,6 +64,11 @@ std::vector<LibraryFolder> LibraryFolders();
 
 /// The 21 columns of a spectrum: "R - 50Hz (dB)" to "R - 5000Hz (dB)" for the prefix "R".
 std::vector<std::string> BandColumns(std::string_view prefix);
+
+/// Octave bands of the library: 63 Hz to 8000 Hz.
+inline constexpr std::size_t kOctaveCount = 8;
+/// The columns of an octave spectrum: "R ottava - 63Hz (dB)" to "R ottava - 8000Hz (dB)" for the prefix "R".
+std::vector<std::string> OctaveColumns(std::string_view prefix);
 
 /// `name` as an identifier of SQL, in quotation marks.
 std::string QuotedName(std::string_view name);

@@ -34,6 +34,14 @@ TEST(MeasuredTest, TakesEveryFolderByItsOwnColumns) {
     EXPECT_EQ(test.area_m2, number("Area (m²)"));
     EXPECT_EQ(test.mass_kg_m2, number("m' (kg/m²)"));
     EXPECT_EQ(test.picture, "Immagine");
+    EXPECT_EQ(test.octaves[0], number(folder.band_prefix + " ottava - 63Hz (dB)")) << folder.key;
+    EXPECT_EQ(test.octaves[7], number(folder.band_prefix + " ottava - 8000Hz (dB)")) << folder.key;
+    EXPECT_EQ(test.index_kind, "Indice");
+    EXPECT_EQ(test.index_value, number("Valore indice (dB)"));
+    EXPECT_EQ(test.rating_origin, "Origine indice");
+    EXPECT_EQ(test.uncertainty_db, number("Incertezza (dB)"));
+    EXPECT_EQ(test.source, "Fonte");
+    EXPECT_EQ(test.Proof(), "Certificato");
   }
 }
 
