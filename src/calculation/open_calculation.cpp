@@ -1,19 +1,27 @@
 #include "calculation/open_calculation.h"
 
+#include <type_traits>
+
 namespace velmar::calculation {
 
-void OpenCalculation::AfterChange(bool keep_result) {
+/// `setup` with its totals takes the place of the old ones, or nothing changes.
+void OpenCalculation::Put(elements::Setup setup) {
+  static_assert(std::is_nothrow_move_assignable_v<elements::Setup>);
+  totals_ = ComputeTotals(setup);
+  setup_ = std::move(setup);
+}
+
+void OpenCalculation::Take(elements::Setup changed, bool keep_result) {
+  Put(std::move(changed));
   if (!keep_result) result_.reset();
-  totals_ = ComputeTotals(setup_);
   is_saved_ = false;
   is_touched_ = true;
   Tell();
 }
 
 void OpenCalculation::Replace(elements::Setup setup) {
-  setup_ = std::move(setup);
+  Put(std::move(setup));
   result_.reset();
-  totals_ = ComputeTotals(setup_);
   is_saved_ = true;
   is_touched_ = false;
   Tell();
@@ -35,8 +43,7 @@ RunOutcome OpenCalculation::Run(const AskToGoOn& ask) {
   elements::Setup prepared = setup_;
   PrepareRun(prepared);
   if (prepared != setup_) {
-    setup_ = std::move(prepared);
-    totals_ = ComputeTotals(setup_);
+    Put(std::move(prepared));
     is_saved_ = false;
   }
   RunOutcome outcome = RunCalculation(setup_, loss_factor_before, ask);

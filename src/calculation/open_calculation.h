@@ -23,18 +23,17 @@ class OpenCalculation {
   /// `InputTouched`: there was an input since the last run.
   bool IsTouched() const { return is_touched_; }
 
-  /// The way to change the set-up. Drops the result (`Nuovo_modifica`(1)), then tells the listener.
+  /// The way to change the set-up. Drops the result (`Nuovo_modifica`(1)), then tells the listener. A change
+  /// that throws leaves everything as it was and tells nobody.
   template <typename Change>
   void Edit(Change&& change) {
-    std::forward<Change>(change)(setup_);
-    AfterChange(/*keep_result=*/false);
+    Take(Changed(std::forward<Change>(change)), /*keep_result=*/false);
   }
 
   /// The exception: what no result depends on, the project's information and the description of an element.
   template <typename Change>
   void EditKeepingResult(Change&& change) {
-    std::forward<Change>(change)(setup_);
-    AfterChange(/*keep_result=*/true);
+    Take(Changed(std::forward<Change>(change)), /*keep_result=*/true);
   }
 
   /// A new or opened project takes the place of the old one (`Nuovo_modifica`(0)).
@@ -53,7 +52,14 @@ class OpenCalculation {
   void OnChange(std::function<void()> listener) { listener_ = std::move(listener); }
 
  private:
-  void AfterChange(bool keep_result);
+  template <typename Change>
+  elements::Setup Changed(Change&& change) const {
+    elements::Setup setup = setup_;
+    std::forward<Change>(change)(setup);
+    return setup;
+  }
+  void Put(elements::Setup setup);
+  void Take(elements::Setup changed, bool keep_result);
   void Tell();
 
   elements::Setup setup_;
