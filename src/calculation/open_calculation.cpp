@@ -1,38 +1,45 @@
 #include "calculation/open_calculation.h"
 
+#include <type_traits>
+
 namespace velmar::calculation {
+
+/// `setup` with its totals takes the place of the old ones, or nothing changes.
+void OpenCalculation::Put(elements::Setup setup) {
+  static_assert(std::is_nothrow_move_assignable_v<elements::Setup>);
+  totals_ = ComputeTotals(setup);
+  setup_ = std::move(setup);
+}
 
 void OpenCalculation::Take(elements::Setup changed, bool keep_result) {
   history_.Note(setup_, changed);
-  setup_ = std::move(changed);
+  Put(std::move(changed));
   AfterChange(keep_result);
 }
 
 void OpenCalculation::Undo() {
   if (!history_.ToUndo()) return;
-  setup_ = history_.Undo(setup_);
+  Put(history_.Undo(setup_));
   AfterChange(/*keep_result=*/false);
 }
 
 void OpenCalculation::Redo() {
   if (!history_.ToRedo()) return;
-  setup_ = history_.Redo(setup_);
+  Put(history_.Redo(setup_));
   AfterChange(/*keep_result=*/false);
 }
 
 void OpenCalculation::AfterChange(bool keep_result) {
   if (!keep_result) result_.reset();
-  totals_ = ComputeTotals(setup_);
   is_saved_ = false;
   is_touched_ = true;
   Tell();
 }
 
 void OpenCalculation::Replace(elements::Setup setup) {
-  setup_ = std::move(setup);
+  Put(std::move(setup));
   history_.Clear();
   result_.reset();
-  totals_ = ComputeTotals(setup_);
   is_saved_ = true;
   is_touched_ = false;
   Tell();
@@ -54,8 +61,7 @@ RunOutcome OpenCalculation::Run(const AskToGoOn& ask) {
   elements::Setup prepared = setup_;
   PrepareRun(prepared);
   if (prepared != setup_) {
-    setup_ = std::move(prepared);
-    totals_ = ComputeTotals(setup_);
+    Put(std::move(prepared));
     is_saved_ = false;
   }
   RunOutcome outcome = RunCalculation(setup_, loss_factor_before, ask);

@@ -25,20 +25,16 @@ class OpenCalculation {
   bool IsTouched() const { return is_touched_; }
 
   /// The way to change the set-up. Drops the result (`Nuovo_modifica`(1)), then tells the listener. A change
-  /// that throws leaves everything as it was.
+  /// that throws leaves everything as it was and tells nobody.
   template <typename Change>
   void Edit(Change&& change) {
-    elements::Setup changed = setup_;
-    std::forward<Change>(change)(changed);
-    Take(std::move(changed), /*keep_result=*/false);
+    Take(Changed(std::forward<Change>(change)), /*keep_result=*/false);
   }
 
   /// The exception: what no result depends on, the project's information and the description of an element.
   template <typename Change>
   void EditKeepingResult(Change&& change) {
-    elements::Setup changed = setup_;
-    std::forward<Change>(change)(changed);
-    Take(std::move(changed), /*keep_result=*/true);
+    Take(Changed(std::forward<Change>(change)), /*keep_result=*/true);
   }
 
   /// The steps back and forth through what the set-up has been since the project was begun or opened.
@@ -65,6 +61,13 @@ class OpenCalculation {
   void OnChange(std::function<void()> listener) { listener_ = std::move(listener); }
 
  private:
+  template <typename Change>
+  elements::Setup Changed(Change&& change) const {
+    elements::Setup setup = setup_;
+    std::forward<Change>(change)(setup);
+    return setup;
+  }
+  void Put(elements::Setup setup);
   void Take(elements::Setup changed, bool keep_result);
   void AfterChange(bool keep_result);
   void Tell();

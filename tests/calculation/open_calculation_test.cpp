@@ -1,5 +1,7 @@
 #include "calculation/open_calculation.h"
 
+#include <stdexcept>
+
 #include <gtest/gtest.h>
 
 namespace velmar::calculation {
@@ -49,6 +51,27 @@ TEST_F(OpenCalculationTest, HoldsAResultOnlyWhileItBelongsToTheSetup) {
   EXPECT_TRUE(open_.Result());
   open_.Edit([](elements::Setup& setup) { setup.facade.components[0].tightness_class = 1; });
   EXPECT_FALSE(open_.Result());
+}
+
+TEST_F(OpenCalculationTest, AChangeThatThrowsLeavesEverythingAsItWas) {
+  ASSERT_EQ(open_.Run(kYes).status, RunStatus::kDone);
+  const elements::Setup setup = open_.Setup();
+  const auto result = open_.Result();
+  const Totals totals = open_.CurrentTotals();
+  const int told = told_;
+  const auto change = [](elements::Setup& changed) {
+    changed.base.area_text = "12";
+    changed.calculation = elements::Calculation::kSingleWallGeneric;
+    throw std::runtime_error("halfway");
+  };
+  EXPECT_THROW(open_.Edit(change), std::runtime_error);
+  EXPECT_THROW(open_.EditKeepingResult(change), std::runtime_error);
+  EXPECT_EQ(open_.Setup(), setup);
+  EXPECT_EQ(open_.Result(), result);
+  EXPECT_EQ(open_.CurrentTotals(), totals);
+  EXPECT_TRUE(open_.IsSaved());
+  EXPECT_FALSE(open_.IsTouched());
+  EXPECT_EQ(told_, told);
 }
 
 TEST_F(OpenCalculationTest, LeavesNoResultWhenARunIsRefused) {

@@ -18,23 +18,24 @@ else
   mapfile -t listed < <(scripts/install-deps list all)
 fi
 
-without_comments() { sed -E 's/(^|[[:space:]])#.*//' "${scripts[@]}"; }
-
-# Every word, wherever it stands.
-words() { without_comments | grep -oE '[A-Za-z][A-Za-z0-9_.+-]+' | sort -u; }
+# Every word that is no part of a path.
+words() { sed -E 's/(^|[[:space:]])#.*//' "${scripts[@]}" | grep -oP '(?<![\w./-])[A-Za-z][\w.+-]+(?![\w/])' | sort -u; }
 
 # What stands where a command may stand: texts, variables and redirections are taken out, then lines end wherever
 # a command can begin. What is no small word, or belongs to the shell or to the scripts themselves, is no program.
-commands() {
-  without_comments | tr '\n' '\001' |
-    sed -E -e 's/\\\x01/ /g' -e "s/\"([^\"\$]|\\\$[^(])*\"|\\\$?'[^']*'/_/g" -e 's/[a-z_]+\+?=\([^()]*\)/_/g' \
+commands_of() {
+  sed -E 's/(^|[[:space:]])#.*//' "$1" | tr '\n' '\001' |
+    sed -E -e 's/\\\x01/ /g' -e "s/\"([^\"\$\x01]|\\\$[^(\x01])*\"|\\\$?'[^']*'/_/g" -e 's/[a-z_]+\+?=\([^()]*\)/_/g' \
       -e 's/\$\(\(([^()]|\([^()]*\))*\)\)/_/g' | tr '\001' '\n' |
     sed -E -e 's/\$\{[^}]*\}/_/g' -e 's/\$[A-Za-z_0-9@*#?!]+/_/g' \
       -e 's/[0-9]?[<>]+&?[0-9-]?[[:space:]]*[^[:space:];|&()<>]*//g' \
       -e 's/\$\(|[;|&({}!"`]|\]\]|\b(then|do|else|if|elif|while|until|exec|nice|setsid|timeout [0-9]+)\b/\n/g' \
       -e 's/\)/ _/g' |
     sed -nE -e 's/^[[:space:]]*//' -e 's/^([A-Za-z_]+=[^[:space:]]*[[:space:]]+)+//' \
-      -e 's/^([a-z][a-z0-9.-]+)([[:space:]].*|$)/\1/p' | sort -u |
+      -e 's/^([a-z][a-z0-9.-]+)([[:space:]].*|$)/\1/p'
+}
+commands() {
+  for script in "${scripts[@]}"; do commands_of "$script"; done | sort -u |
     grep -vxFf <(compgen -b; compgen -k) |
     grep -vxFf <(sed -nE 's/^([a-z_]+)\(\).*/\1/p' "${scripts[@]}")
 }

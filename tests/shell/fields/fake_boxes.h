@@ -22,8 +22,4 @@ class FakeBoxes {
   std::unique_ptr<QSettings> memory{};
 };
 
-/// Types `letters` into `search`, drawing `window` after each.
-/// @return the longest that one of them took, ms
-qint64 SlowestKey(QWidget& window, QLineEdit& search, const std::string& letters);
-
 }  // namespace velmar::shell

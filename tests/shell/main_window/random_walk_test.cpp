@@ -1,5 +1,4 @@
 #include <QAction>
-#include <QElapsedTimer>
 #include <QLabel>
 #include <QLoggingCategory>
 #include <QTest>
@@ -13,7 +12,6 @@ namespace velmar::shell {
 namespace {
 
 constexpr int kSteps = 2500;
-constexpr int kSlowestActionMs = 20'000;
 
 /// What may change while a result stands: descriptions, areas, typed levels and ratings.
 template <typename Element>
@@ -97,13 +95,10 @@ class RandomWalkTest : public QObject {
     std::map<QString, int> done;
     int results = 0;
     for (int step = 0; step < steps; ++step) {
-      QElapsedTimer timer;
-      timer.start();
       const QString action = user.Act();
       if (step % 16 == 0) QApplication::processEvents();
       const QString fault = watch.Fault(action == "run" || action == "press any key");
       QVERIFY2(fault.isEmpty(), qPrintable(QString("step %1, %2: %3").arg(step).arg(action, fault)));
-      QVERIFY2(timer.elapsed() < kSlowestActionMs, qPrintable(action));
       QVERIFY(fixture.window->isVisible());
       ++done[action];
       results += action == "run" && fixture.open.Result() ? 1 : 0;

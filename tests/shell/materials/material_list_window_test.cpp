@@ -1,7 +1,6 @@
 #include "shell/materials/material_list_window.h"
 
 #include <QCheckBox>
-#include <QElapsedTimer>
 #include <QHeaderView>
 #include <QLineEdit>
 #include <QPushButton>
@@ -306,19 +305,11 @@ TEST_F(MaterialListWindowTest, TenThousandMaterials) {
   for (int i = 0; i < 10000; ++i)
     materials_.structural.push_back(
         Wall("Materiale numero " + std::to_string(i * 7919 % 10000), 500 + i % 1500, "prova"));
-  QElapsedTimer timer;
-  timer.start();
   OpenFromMenu();
-  window_->grab();
-  std::printf("10000 materials: opening %lld ms", static_cast<long long>(timer.restart()));
-  const qint64 slowest = SlowestKey(*window_, Search(), "numero 49");
+  QTest::keyClicks(&Search(), "numero 49");
   EXPECT_EQ(Rows(), 299);
   Search().clear();
-  timer.restart();
   Grid().sortByColumn(0, Qt::AscendingOrder);
-  window_->grab();
-  std::printf(", slowest key %lld ms, sorting %lld ms\n", static_cast<long long>(slowest),
-              static_cast<long long>(timer.elapsed()));
   EXPECT_EQ(Cell(3, 0), "Materiale numero 0");
   EXPECT_EQ(Cell(5, 0), "Materiale numero 2") << "numbers in names count as numbers";
 }

@@ -2,7 +2,6 @@
 
 #include <QApplication>
 #include <QClipboard>
-#include <QElapsedTimer>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -203,13 +202,8 @@ TEST_F(MaterialTreeWindowTest, TenThousandMaterials) {
   for (int i = 0; i < 10000; ++i)
     materials_.structural.push_back(
         Wall("Materiale numero " + std::to_string(i * 7919 % 10000), 500 + i % 1500, "prova"));
-  QElapsedTimer timer;
-  timer.start();
   Open();
-  window_->grab();
-  std::printf("10000 materials: opening %lld ms", static_cast<long long>(timer.elapsed()));
-  const qint64 slowest = SlowestKey(*window_, Search(), "numero 49");
-  std::printf(", slowest key %lld ms\n", static_cast<long long>(slowest));
+  QTest::keyClicks(&Search(), "numero 49");
   EXPECT_EQ(Children(0).size(), 299);
 }
 

@@ -1,7 +1,6 @@
 #include "shell/structures/measured_library_window.h"
 
 #include <QComboBox>
-#include <QElapsedTimer>
 #include <QFile>
 #include <QLabel>
 #include <QLineEdit>
@@ -404,23 +403,15 @@ TEST_F(MeasuredLibraryWindowTest, SizesAreRemembered) {
   EXPECT_EQ(window_->size(), QSize(1300, 760));
 }
 
-TEST_F(MeasuredLibraryWindowTest, FiveThousandTestsOpenAndSearchWithoutLag) {
+TEST_F(MeasuredLibraryWindowTest, FiveThousandTestsAreSearched) {
   std::vector<MeasuredTest>& tests = library_.tests["Murature"];
   for (int i = 0; i < 5000; ++i) {
     tests.push_back(TestOf("Prova numero " + std::to_string(i), 30));
     library_.keywords[tests.back().part.name] = "parola " + std::to_string(i % 500);
   }
-  QElapsedTimer timer;
-  timer.start();
   Open(0);
   OpenLibraryFile(*window_, "TreeView1", "Murature");
-  window_->grab();
-  const qint64 opening_ms = timer.restart();
   QTest::keyClicks(&Child<QLineEdit>(*window_, "List1_cerca"), "numero 49");
-  window_->grab();
-  const qint64 search_ms = timer.elapsed();
-  std::printf("5000 tests: opening %lld ms, nine keys %lld ms\n", static_cast<long long>(opening_ms),
-              static_cast<long long>(search_ms));
   EXPECT_EQ(Child<QListView>(*window_, "List1").model()->rowCount(), 199);
 }
 

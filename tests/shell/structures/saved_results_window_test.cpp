@@ -2,7 +2,6 @@
 
 #include <QApplication>
 #include <QClipboard>
-#include <QElapsedTimer>
 #include <QHeaderView>
 #include <QLineEdit>
 #include <QMimeData>
@@ -229,21 +228,11 @@ TEST_F(SavedResultsWindowTest, SizeAndColumnWidthsAreRemembered) {
   EXPECT_EQ(Grid().columnWidth(0), 234);
 }
 
-TEST_F(SavedResultsWindowTest, FiveThousandResultsOpenAndSearchWithoutLag) {
+TEST_F(SavedResultsWindowTest, FiveThousandResultsAreSearched) {
   std::vector<calculation::FacadePart>& table = results_.tables[ResultKind::kAirborne];
   for (int i = 0; i < 5000; ++i) table.push_back(PartOf("Parete numero " + std::to_string(i), 30));
-  QElapsedTimer timer;
-  timer.start();
   Open();
-  window_->grab();
-  const qint64 opening_ms = timer.restart();
   QTest::keyClicks(&Child<QLineEdit>(*window_, "TextCerca"), "numero 49");
-  window_->grab();
-  const qint64 search_ms = timer.elapsed();
-  RecordProperty("opening_ms", static_cast<int>(opening_ms));
-  RecordProperty("search_ms", static_cast<int>(search_ms));
-  std::printf("5000 results: opening %lld ms, nine keys %lld ms\n", static_cast<long long>(opening_ms),
-              static_cast<long long>(search_ms));
   EXPECT_EQ(Grid().model()->rowCount(), 199);
 }
 

@@ -3,7 +3,6 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QClipboard>
-#include <QElapsedTimer>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListView>
@@ -30,11 +29,8 @@ class StoreSourcesTest : public StoresTest {};
 TEST_F(StoreSourcesTest, TheLibraryWindowShowsAShippedTest) {
   MeasuredTarget target;
   target.take = [](const calculation::FacadePart&) {};
-  QElapsedTimer timer;
-  timer.start();
   MeasuredLibraryWindow window(boxes_.Tools(), Library(), target);
   window.show();
-  std::printf("shipped library: opening %lld ms\n", static_cast<long long>(timer.elapsed()));
   OpenLibraryFile(window, "TreeView1", kThirdOctaveWalls);
   SelectTest(window, "List1", 0);
   EXPECT_EQ(Child<QLabel>(window, "Label3").text(), "Rw(C,Ctr)= 38(-6, -11) dB");
