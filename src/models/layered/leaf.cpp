@@ -174,6 +174,31 @@ double MountedLossFactor(SolidKind kind, double loss_factor) {
   return loss_factor;
 }
 
+OrthotropicPlate CorrugatedSheet(const SolidLayer& sheet, double profile_height_m, double profile_pitch_m) {
+  const double slope = profile_height_m / profile_pitch_m;
+  const double developed = 1.0 + Square(pi * slope / 2.0);
+  const double amplitude_m = profile_height_m / 2.0;
+  const double inertia_m3 =
+      0.5 * Square(amplitude_m) * sheet.thickness_m * (1.0 - 0.81 / (1.0 + 2.5 * Square(slope / 2.0)));
+  return {.mass_kg_m2 = sheet.density_kg_m3 * sheet.thickness_m * developed,
+          .bending_stiff_n_m = sheet.youngs_modulus_pa * inertia_m3 + OwnBending(sheet),
+          .bending_soft_n_m = OwnBending(sheet) / developed,
+          .loss_factor = sheet.loss_factor,
+          .kind = sheet.kind};
+}
+
+SolidKind KindOfSolid(double density_kg_m3, double youngs_modulus_pa, bool heavy) {
+  const double rho = density_kg_m3;
+  const double speed = rho > 0.0 ? std::sqrt(std::max(0.0, youngs_modulus_pa) / rho) : 0.0;
+  if (rho >= 2400.0 && rho <= 2600.0 && speed >= 4000.0) return SolidKind::kGlass;
+  if (heavy) return SolidKind::kMasonry;
+  if (speed < 900.0) return SolidKind::kOther;
+  if (rho >= 2600.0) return SolidKind::kMetal;
+  if (rho >= 1300.0) return SolidKind::kMasonry;
+  if (rho < 900.0 && speed >= 3000.0) return SolidKind::kWood;
+  return SolidKind::kPlasterboard;
+}
+
 LeafProperties FindLeafProperties(const LayeredLeaf& leaf) {
   return std::visit([](const auto& kind) { return PropertiesOf(kind); }, leaf);
 }

@@ -89,6 +89,20 @@ struct OrthotropicPlate {
   SolidKind kind = SolidKind::kMetal;
 };
 
+/// A wavy sheet as an orthotropic plate: along the waves E I with I of a sine of height H and pitch p, across
+/// them the sheet's own stiffness over its developed length (Timoshenko and Woinowsky-Krieger 1959).
+/// @param sheet flat, as it would be unrolled
+/// @param profile_height_m, profile_pitch_m H and p, both above 0
+OrthotropicPlate CorrugatedSheet(const SolidLayer& sheet, double profile_height_m, double profile_pitch_m);
+
+/// The kind of a solid that is told by its values alone: glass 2400 to 2600 kg/m³ with a wave speed
+/// sqrt(E/rho) from 4000 m/s; every other layer of a heavy leaf masonry; limp sheets below 900 m/s of no
+/// kind; metal from 2600 kg/m³, masonry from 1300 kg/m³; wood below 900 kg/m³ with 3000 m/s and more;
+/// plasterboard the rest.
+/// @param heavy the leaf weighs kHeavyLeaf and more
+SolidKind KindOfSolid(double density_kg_m3, double youngs_modulus_pa, bool heavy);
+inline constexpr double kHeavyLeaf = 60.0;  ///< kg/m²
+
 /// One of up to four leaves.
 using LayeredLeaf = std::variant<LayeredPlate, LaminatedPane, SandwichPanel, OrthotropicPlate>;
 

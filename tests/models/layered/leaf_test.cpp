@@ -141,5 +141,27 @@ TEST(LayeredLeaf, WithProfilesLosesInsulationFromTheLowerCoincidenceOn) {
   for (const std::size_t band : {11u, 13u, 15u, 17u}) EXPECT_LT(profiled[band], flat[band] - 3.0) << band;
 }
 
+// Timoshenko and Woinowsky-Krieger: a sine of 20 mm amplitude and 100 mm half wave in a sheet of 1 mm.
+TEST(LayeredLeaf, OfAWavySheetIsStiffAlongTheWaves) {
+  const OrthotropicPlate sheet = CorrugatedSheet(SteelSheet(0.001), 0.040, 0.200);
+  const double own = FindLeafProperties(LayeredPlate{{SteelSheet(0.001)}}).bending_n_m;
+  const double developed = 1.0 + pi * pi * 0.04 / 4.0;
+  const double inertia = 0.5 * 4e-4 * 0.001 * (1.0 - 0.81 / 1.025);
+  EXPECT_NEAR(sheet.mass_kg_m2, 7.8 * developed, 1e-9);
+  EXPECT_NEAR(sheet.bending_soft_n_m, own / developed, 1e-9);
+  EXPECT_NEAR(sheet.bending_stiff_n_m, 210e9 * inertia + own, 1e-6);
+}
+
+TEST(LayeredLeaf, TellsSolidsByTheirValues) {
+  EXPECT_EQ(KindOfSolid(2500, 70e9, true), SolidKind::kGlass);
+  EXPECT_EQ(KindOfSolid(2700, 70e9, false), SolidKind::kMetal);
+  EXPECT_EQ(KindOfSolid(7800, 210e9, false), SolidKind::kMetal);
+  EXPECT_EQ(KindOfSolid(850, 4.1e9, false), SolidKind::kPlasterboard);
+  EXPECT_EQ(KindOfSolid(650, 7e9, false), SolidKind::kWood);
+  EXPECT_EQ(KindOfSolid(850, 4.1e9, true), SolidKind::kMasonry);
+  EXPECT_EQ(KindOfSolid(2300, 30e9, false), SolidKind::kMasonry);
+  EXPECT_EQ(KindOfSolid(2000, 0.5e9, false), SolidKind::kOther);
+}
+
 }  // namespace
 }  // namespace velmar::models
