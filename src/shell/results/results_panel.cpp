@@ -83,7 +83,7 @@ ResultsPanel::ResultsPanel(const calculation::OpenCalculation& open, const Speec
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(kPageSpacing, kPageSpacing, kPageSpacing, kPageSpacing);
   column->addWidget(MakeRatings());
-  numbers_ = new SingleNumbersPanel(context_.Words(), this);
+  numbers_ = new SingleNumbersPanel(speech_.words, this);
   numbers_->hide();
   column->addWidget(numbers_);
   splitter_ = new QSplitter(Qt::Vertical, this);
@@ -128,8 +128,8 @@ QWidget* ResultsPanel::MakeRatings() {
   line->addStretch(1);
   open_numbers_ = new QToolButton(frame);
   open_numbers_->setObjectName("PulsanteIndici");
-  open_numbers_->setText(Text(context_.Words(), kAllNumbersRow));
-  open_numbers_->setToolTip(Text(context_.Words(), kAllNumbersTipRow));
+  open_numbers_->setText(Text(speech_.words, kAllNumbersRow));
+  open_numbers_->setToolTip(Text(speech_.words, kAllNumbersTipRow));
   open_numbers_->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
   open_numbers_->setAutoRaise(true);
   open_numbers_->setCheckable(true);
@@ -208,8 +208,8 @@ void ResultsPanel::ShowRatings(const elements::Setup& setup, const elements::Res
 }
 
 void ResultsPanel::ShowNumbers() {
-  const elements::Setup& setup = context_.open.Setup();
-  const auto& result = context_.open.Result();
+  const elements::Setup& setup = open_.Setup();
+  const auto& result = open_.Result();
   std::vector<elements::SingleNumber> numbers;
   if (result && setup.calculation) numbers = elements::SingleNumbersOf(*result, *setup.calculation);
   const bool open = open_numbers_->isChecked() && !numbers.empty();
