@@ -15,7 +15,7 @@ ExitCode Execute(const RunCommand& command, const Services& services, std::ostre
   const ProjectRun run = RunProject(command.project, services.materials, command.go_on_outside_ranges);
   for (const Message& message : run.outcome.messages) WriteMessage(message, services.words, errors);
   if (command.json) {
-    out << OutcomeJson(run.texts, run.outcome, run.numbers, run.totals, services.words).dump() << '\n';
+    WriteJson(OutcomeJson(run.texts, run.outcome, run.numbers, run.totals, services.words), out);
   } else if (run.outcome.result) {
     WriteResult(run.texts, *run.outcome.result, run.numbers, run.totals, services.words, out);
   }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <filesystem>
+#include <optional>
 #include <vector>
 
 #include "cli/output/report_format.h"
@@ -15,7 +16,9 @@ struct Services {
   elements::MaterialLookup materials{};
   std::filesystem::path material_database{};
   std::filesystem::path result_database{};
-  std::filesystem::path library_folder{};      ///< below which every kind of measured structure has its own
+  std::filesystem::path library_folder{};  ///< below which every kind of measured structure has its own
+  std::filesystem::path data_folder{};
+  std::optional<std::filesystem::path> shipped_data{};
   std::filesystem::path access_reader{};       ///< the program that reads genuine Access files; may be empty
   std::vector<ReportFormat> report_formats{};  ///< each an option of `report`
 };

@@ -158,6 +158,12 @@ void AddImport(CLI::App& app, Parsed& parsed, const presentation::Words& words) 
   command->add_flag("--json", parsed.import.json, words(kJsonHelpRow));
 }
 
+void AddDoctor(CLI::App& app, Parsed& parsed, const presentation::Words& words) {
+  CLI::App* command = app.add_subcommand(kDoctorCommand, words(kDoctorHelpRow));
+  command->add_flag("--repair", parsed.doctor.repair, words(kRepairHelpRow));
+  command->add_flag("--json", parsed.doctor.json, words(kJsonHelpRow));
+}
+
 }  // namespace
 
 void AddCommands(CLI::App& app, Parsed& parsed, const Services& services) {
@@ -176,6 +182,7 @@ void AddCommands(CLI::App& app, Parsed& parsed, const Services& services) {
   AddImport(app, parsed, words);
   AddReport(app, parsed, services);
   AddFacade(app, parsed, words);
+  AddDoctor(app, parsed, words);
 }
 
 }  // namespace velmar::cli

@@ -121,9 +121,9 @@ void StructureCommands::Store(QWidget* /*parent*/) {
                                .thickness_mm = open_.CurrentTotals().thickness_mm,
                                .mass_kg_m2 = open_.CurrentTotals().surface_mass_kg_m2});
     storage::ResultsStore store(results_file_);
-    if (store.Save(storage::TableFor(RowOf(*setup.calculation).family), row) ==
-        storage::SaveStatus::kNameExists)
-      own_.tools.tell(Text(speech_.words, kResultExistsRow));
+    const storage::SaveStatus status = store.Save(storage::TableFor(RowOf(*setup.calculation).family), row);
+    if (status == storage::SaveStatus::kNameExists) own_.tools.tell(Text(speech_.words, kResultExistsRow));
+    if (status == storage::SaveStatus::kBadName) own_.tools.tell(Text(speech_.words, kBadResultNameRow));
   });
 }
 

@@ -1,6 +1,7 @@
 #include "shell/main_window/main_window.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QCloseEvent>
 #include <QMenu>
 #include <QMenuBar>
@@ -11,6 +12,7 @@
 
 #include "calculation/select_calculation.h"
 #include "foundation/message_rows.h"
+#include "shell/commands/edit_menu.h"
 #include "shell/commands/menus.h"
 #include "shell/commands/tool_bar.h"
 #include "shell/fields/icons.h"
@@ -74,6 +76,9 @@ MainWindow::MainWindow(const WindowServices& services, QWidget* parent)
   setWindowIcon(ProductIcon());
   setAcceptDrops(true);
   recent_ = FillMenuBar(*menuBar(), commands_, calculations_, services.words);
+  edit_menu_ = new EditMenu(services.open, services.words, this);
+  menuBar()->insertMenu(menuBar()->actions().at(1), edit_menu_);
+  connect(qApp, &QApplication::focusChanged, this, [this] { services_.open.EndStep(); });
   tool_bar_ = new CommandToolBar(commands_, calculations_, services.words, this);
   addToolBar(tool_bar_);
   // Shortcuts work whether or not their menu was ever open.
@@ -150,6 +155,7 @@ void MainWindow::ShowAll() {
   recovery_.Follow();
   const Needs state = StateOf(services_.open);
   commands_.Enable(state, table_.IsOpen());
+  edit_menu_->Follow();
   tool_bar_->ShowRunDue(state == Needs::kCalculation);
   centre_->setCurrentWidget(setup.calculation ? static_cast<QWidget*>(sides_) : start_);
   if (!setup.calculation) return;
