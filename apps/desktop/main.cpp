@@ -1,15 +1,15 @@
 // velmarpro [PROJECT]: the desktop program.
-#include <QApplication>
 #include <clocale>
 
+#include "shell/start/desktop_application.h"
 #include "shell/start/start_up.h"
 
 int main(int argc, char** argv) {
-  QApplication application(argc, argv);
+  velmar::shell::DesktopApplication application(argc, argv);
   // Libraries below read and write numbers by the locale; files need the point.
   std::setlocale(LC_NUMERIC, "C");
-  QApplication::setApplicationName("velmarpro");
-  QApplication::setApplicationDisplayName("VELMARpro");
-  QApplication::setApplicationVersion(VELMAR_VERSION);
+  QCoreApplication::setApplicationName("velmarpro");
+  QCoreApplication::setApplicationDisplayName("VELMARpro");
+  QCoreApplication::setApplicationVersion(VELMAR_VERSION);
   return velmar::shell::RunDesktop(application);
 }

@@ -21,7 +21,7 @@ constexpr int kWidth = 400;
 }  // namespace
 
 AboutBox::AboutBox(const presentation::Words& words, const QString& version, const QString& website,
-                   std::function<void()> open_website, QWidget* parent)
+                   QWidget* parent)
     : QDialog(parent) {
   setObjectName("About_VELMAR");
   setWindowTitle(Text(words, kAboutRow).remove("..."));
@@ -52,7 +52,7 @@ AboutBox::AboutBox(const presentation::Words& words, const QString& version, con
         new QLabel("<a href=\"" + website.toHtmlEscaped() + "\">" + website.toHtmlEscaped() + "</a>", this);
     link->setObjectName("LbWebSite");
     link->setTextInteractionFlags(Qt::TextBrowserInteraction);
-    connect(link, &QLabel::linkActivated, this, [open_website = std::move(open_website)] { open_website(); });
+    connect(link, &QLabel::linkActivated, this, &AboutBox::WebsiteWanted);
     column->addWidget(label);
     column->addWidget(link);
   }

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QDialog>
-#include <functional>
 
 #include "presentation/texts/words.h"
 
@@ -9,11 +8,15 @@ namespace velmar::shell {
 
 /// The about box (`About_VELMAR`).
 class AboutBox : public QDialog {
+  Q_OBJECT
  public:
   /// @param version three numbers joined by points
   /// @param website empty: none is shown
   AboutBox(const presentation::Words& words, const QString& version, const QString& website,
-           std::function<void()> open_website, QWidget* parent = nullptr);
+           QWidget* parent = nullptr);
+
+ signals:
+  void WebsiteWanted();
 };
 
 }  // namespace velmar::shell

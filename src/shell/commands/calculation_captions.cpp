@@ -83,6 +83,17 @@ constexpr bool NamesEachCalculationOnce() {
 }
 static_assert(NamesEachCalculationOnce());
 
+constexpr bool EachCalculationStandsOnceWithItsWords() {
+  std::array<int, elements::kCalculationCount> times{};
+  for (const Entry& entry : kEntries) {
+    ++times.at(static_cast<std::size_t>(entry.calculation));
+    const bool of_words = entry.mark == Mark::kRow || entry.mark == Mark::kCommaAndRow;
+    if (entry.row == MessageRow{} || of_words != (entry.mark_row != MessageRow{})) return false;
+  }
+  return std::ranges::all_of(times, [](int count) { return count == 1; });
+}
+static_assert(EachCalculationStandsOnceWithItsWords());
+
 const Entry& EntryOf(Calculation calculation) {
   return *std::ranges::find(kEntries, calculation, &Entry::calculation);
 }

@@ -63,8 +63,7 @@ QString ControlName(const CalculationRow& row) {
 
 }  // namespace
 
-CalculationActions::CalculationActions(const presentation::Words& words, QObject* parent,
-                                       const std::function<void(Calculation)>& choose) {
+CalculationActions::CalculationActions(const presentation::Words& words, QObject* parent) : QObject(parent) {
   auto* group = new QActionGroup(parent);
   group->setExclusionPolicy(QActionGroup::ExclusionPolicy::ExclusiveOptional);
   for (const CalculationRow& row : elements::Catalogue()) {
@@ -73,7 +72,7 @@ CalculationActions::CalculationActions(const presentation::Words& words, QObject
     action->setCheckable(true);
     group->addAction(action);
     const Calculation calculation = row.calculation;
-    QObject::connect(action, &QAction::triggered, parent, [choose, calculation] { choose(calculation); });
+    connect(action, &QAction::triggered, this, [this, calculation] { emit Chosen(calculation); });
     actions_.emplace(calculation, action);
   }
 }

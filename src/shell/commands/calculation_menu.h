@@ -1,6 +1,6 @@
 #pragma once
 
-#include <functional>
+#include <QObject>
 #include <map>
 
 #include "elements/catalogue.h"
@@ -9,17 +9,16 @@
 
 class QAction;
 class QMenu;
-class QObject;
 
 namespace velmar::shell {
 
 /// The actions of the 47 calculations, one each, shared by the calculation tree, the menus of the element
 /// buttons and the start screen. Each is called after its menu handler, with its index where that has
 /// several.
-class CalculationActions {
+class CalculationActions : public QObject {
+  Q_OBJECT
  public:
-  CalculationActions(const presentation::Words& words, QObject* parent,
-                     const std::function<void(elements::Calculation)>& choose);
+  CalculationActions(const presentation::Words& words, QObject* parent);
 
   QAction* Of(elements::Calculation calculation) const { return actions_.at(calculation); }
   /// Fills `menu` with the calculation tree.
@@ -28,6 +27,9 @@ class CalculationActions {
   void FillKind(QMenu& menu, elements::ElementButton button) const;
   /// Marks `calculation` as the one that is open.
   void Mark(elements::Calculation calculation);
+
+ signals:
+  void Chosen(velmar::elements::Calculation calculation);
 
  private:
   std::map<elements::Calculation, QAction*> actions_;

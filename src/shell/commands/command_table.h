@@ -1,10 +1,15 @@
 #pragma once
 
+#include <cstddef>
+#include <optional>
 #include <span>
 
+#include "elements/catalogue.h"
 #include "foundation/message.h"
 
 namespace velmar::shell {
+
+class CommandSet;
 
 enum class CommandId {
   kOpenProject,
@@ -39,17 +44,19 @@ enum class CommandId {
   kAbout,
   kChoosePrinter,
 };
+inline constexpr std::size_t kCommandCount = static_cast<std::size_t>(CommandId::kChoosePrinter) + 1;
 
 /// What must be there before a command can do anything.
 enum class Needs {
   kNothing,
   kCalculation,
   kResult,
-  kSpectrum,  ///< a result of a calculation that has more than ratings
+  kSpectrum,        ///< a result of a calculation that has more than ratings
+  kTableToBeShown,  ///< a spectrum, and its table is not open yet
 };
 
-/// One command of the program: menu entry, tool bar button and shortcut in one row. The tool bar's separators
-/// are the numbers that no command has.
+/// One command of the program: menu entry, tool bar button, shortcut and what it does in one row. The tool
+/// bar's separators are the numbers that no command has.
 struct Command {
   CommandId id{};
   int button = 0;             ///< number in the tool bar, from 1; 0: none
@@ -59,6 +66,18 @@ struct Command {
   const char* icon = "";      ///< name of the picture; empty: none
   const char* shortcut = "";  ///< in Qt's portable words
   Needs needs = Needs::kNothing;
+  void (*action)(CommandSet& commands) = nullptr;
+
+  /// What stands in menus.
+  constexpr MessageRow Caption() const { return caption != MessageRow{} ? caption : tip; }
+  /// The kind of element that the command begins; nothing for other commands.
+  constexpr std::optional<elements::ElementButton> Kind() const {
+    using elements::ElementButton;
+    if (button < static_cast<int>(ElementButton::kSingleWall) ||
+        button > static_cast<int>(ElementButton::kCeiling))
+      return std::nullopt;
+    return static_cast<ElementButton>(button);
+  }
 };
 
 /// All commands: first the tool bar's in the order of its buttons.

@@ -3,29 +3,27 @@
 #include <utility>
 
 #include "elements/catalogue.h"
-#include "shell/results/results_panel.h"
 
 namespace velmar::shell {
 
-ComparisonCommand::ComparisonCommand(const WindowServices& services, WindowTools tools,
+ComparisonCommand::ComparisonCommand(const calculation::OpenCalculation& open, WindowTools tools,
                                      structures::LibrarySource library)
-    : services_(services), tools_(std::move(tools)), library_(std::move(library)) {}
+    : open_(open), tools_(std::move(tools)), library_(std::move(library)) {}
 
 void ComparisonCommand::Show(QWidget* parent, Qt::WindowModality modality) {
-  const auto& calculation = services_.open.Setup().calculation;
+  const auto& calculation = open_.Setup().calculation;
   if (!calculation) return;
   if (window_) window_->close();
-  const QPointer<QWidget> panel = parent->findChild<QWidget*>("prnFrame1");
-  const auto draw = [this, panel](const structures::Overlay& overlay) {
+  const auto draw = [this](const structures::Overlay& overlay) {
     overlay_ = overlay;
     left_over_ = false;
-    if (auto* results = dynamic_cast<ResultsPanel*>(panel.data())) results->Show();
+    emit Changed();
   };
   window_ =
       new structures::ComparisonWindow(tools_, library_, elements::RowOf(*calculation).family, draw, parent);
   window_->setAttribute(Qt::WA_DeleteOnClose);
   window_->setWindowModality(modality);
-  QObject::connect(window_, &QDialog::finished, window_, [this] { left_over_ = true; });
+  connect(window_, &QDialog::finished, this, [this] { left_over_ = true; });
   window_->show();
 }
 

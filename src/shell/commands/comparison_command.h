@@ -3,19 +3,22 @@
 #include <QPointer>
 
 #include "acoustics/bands.h"
+#include "calculation/open_calculation.h"
 #include "presentation/drawing/curve_chart.h"
 #include "shell/fields/window_tools.h"
-#include "shell/pages/window_services.h"
+#include "shell/results/chart_overlay.h"
 #include "shell/structures/comparison_window.h"
 #include "shell/structures/structure_sources.h"
 
 namespace velmar::shell {
 
 /// The comparison window behind its commands, and the curves that it lays over the main chart.
-class ComparisonCommand {
+class ComparisonCommand : public ChartOverlay {
+  Q_OBJECT
  public:
-  /// @param services to live as long as this
-  ComparisonCommand(const WindowServices& services, WindowTools tools, structures::LibrarySource library);
+  /// @param open to live as long as this
+  ComparisonCommand(const calculation::OpenCalculation& open, WindowTools tools,
+                    structures::LibrarySource library);
 
   /// Opens the window for the result that stands; one that is open already makes room for it.
   /// @param modality whether the main window waits until it is closed
@@ -23,8 +26,9 @@ class ComparisonCommand {
 
   /// Lays over `chart` what is to be drawn over it. A window that is closed leaves its curves in the drawing:
   /// they go with the first one that shows other values or another scale.
-  void LayOver(presentation::CurveChart& chart);
+  void LayOver(presentation::CurveChart& chart) override;
 
+ public slots:
   /// The window closes, and its curves go with the result.
   void ResultGone();
 
@@ -37,7 +41,7 @@ class ComparisonCommand {
     bool operator==(const Drawing&) const = default;
   };
 
-  const WindowServices& services_;
+  const calculation::OpenCalculation& open_;
   WindowTools tools_;
   structures::LibrarySource library_;
   QPointer<structures::ComparisonWindow> window_;

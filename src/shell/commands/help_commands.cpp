@@ -4,7 +4,6 @@
 
 #include "foundation/message_rows.h"
 #include "shell/commands/about_box.h"
-#include "shell/commands/command_table.h"
 #include "shell/fields/phrases.h"
 
 namespace velmar::shell {
@@ -17,55 +16,40 @@ bool Exists(const std::filesystem::path& file) {
 
 QString ToQt(const std::filesystem::path& path) { return QString::fromStdString(path.string()); }
 
-void TellMissing(const WindowServices& services, MessageRow row, const QString& what) {
-  services.boxes.tell(Tone::kCritical, Text(services.words, row) + '\n' + what);
-}
-
-void ShowManual(const WindowServices& services) {
-  const std::filesystem::path& manual = services.places.manual;
-  if (!Exists(manual)) {
-    TellMissing(services, kNoManualRow, ToQt(manual));
-  } else if (!services.open_address(QUrl::fromLocalFile(ToQt(manual)).toString())) {
-    TellMissing(services, kNotOpenedRow, ToQt(manual));
-  }
-}
-
-void OpenAddress(const WindowServices& services, const QString& address) {
-  if (address.isEmpty()) {
-    services.boxes.tell(Tone::kInformation, Text(services.words, kNoContactRow));
-  } else if (!services.open_address(address)) {
-    TellMissing(services, kNotOpenedRow, address);
-  }
-}
-
-void StartMaintenance(const WindowServices& services) {
-  const std::filesystem::path& program = services.places.maintenance_program;
-  if (!Exists(program) || !services.start_program(program))
-    TellMissing(services, kNoMaintenanceRow, ToQt(program));
-}
-
 }  // namespace
 
-void ExecuteHelpCommand(CommandId id, const WindowServices& services, QWidget* parent) {
-  switch (id) {
-    case CommandId::kTutorial:
-      ShowManual(services);
-      return;
-    case CommandId::kContact:
-      OpenAddress(services, services.places.contact);
-      return;
-    case CommandId::kAbout:
-      AboutBox(
-          services.words, services.version, services.places.website,
-          [&services] { OpenAddress(services, services.places.website); }, parent)
-          .exec();
-      return;
-    case CommandId::kMaintenance:
-      StartMaintenance(services);
-      return;
-    default:
-      services.boxes.tell(Tone::kInformation, Text(services.words, kNoWindowRow));
+void HelpCommands::TellMissing(MessageRow row, const QString& what) const {
+  speech_.boxes.tell(Tone::kCritical, Text(speech_.words, row) + '\n' + what);
+}
+
+void HelpCommands::ShowManual(QWidget* /*parent*/) {
+  const std::filesystem::path& manual = places_.manual;
+  if (!Exists(manual)) {
+    TellMissing(kNoManualRow, ToQt(manual));
+  } else if (!services_.open_address(QUrl::fromLocalFile(ToQt(manual)).toString())) {
+    TellMissing(kNotOpenedRow, ToQt(manual));
   }
+}
+
+void HelpCommands::OpenAddress(const QString& address) const {
+  if (address.isEmpty()) {
+    speech_.boxes.tell(Tone::kInformation, Text(speech_.words, kNoContactRow));
+  } else if (!services_.open_address(address)) {
+    TellMissing(kNotOpenedRow, address);
+  }
+}
+
+void HelpCommands::Contact(QWidget* /*parent*/) { OpenAddress(places_.contact); }
+
+void HelpCommands::ShowAbout(QWidget* parent) {
+  AboutBox box(speech_.words, services_.version, places_.website, parent);
+  connect(&box, &AboutBox::WebsiteWanted, this, [this] { OpenAddress(places_.website); });
+  box.exec();
+}
+
+void HelpCommands::StartMaintenance(QWidget* /*parent*/) {
+  const std::filesystem::path& program = places_.maintenance_program;
+  if (!Exists(program) || !services_.start_program(program)) TellMissing(kNoMaintenanceRow, ToQt(program));
 }
 
 }  // namespace velmar::shell

@@ -1,14 +1,21 @@
 #pragma once
 
+#include <QObject>
+#include <QPointer>
 #include <filesystem>
 #include <functional>
-#include <memory>
 #include <optional>
 #include <string>
 
+#include "calculation/open_calculation.h"
+#include "shell/commands/own_tools.h"
+#include "shell/fields/boxes.h"
 #include "shell/fields/material_change.h"
 #include "shell/fields/window_tools.h"
-#include "shell/pages/window_services.h"
+#include "shell/materials/material_list_window.h"
+#include "shell/materials/material_source.h"
+#include "shell/materials/material_tree_window.h"
+#include "shell/pages/page_services.h"
 #include "storage/materials/material_store.h"
 
 namespace velmar::shell {
@@ -22,21 +29,42 @@ MaterialEditor EditorOf(storage::MaterialStore& store, const presentation::Words
 
 /// The windows on the material database behind the commands and buttons of the main window: the list of
 /// materials, for a layer row or from the menu, and the tree that stays open beside the main window. What
-/// changes in one is followed by the other and by the lists of the main window.
-class MaterialCommands {
+/// changes in one is followed by the other, and told.
+class MaterialCommands : public QObject {
+  Q_OBJECT
  public:
-  /// Puts the windows into `services`, whose words, boxes and places are set already.
-  /// @param services to live as long as the main window, as this object
+  /// @param open and `speech` outlive this object
+  /// @param settings file of the main window's sizes, beside which those of these windows are kept; empty:
+  ///                 nothing is remembered
   /// @param database the material database
   /// @param editor empty: materials can be listed and deleted, not edited
-  MaterialCommands(WindowServices& services, const std::filesystem::path& database, MaterialEditor editor);
-  ~MaterialCommands();
-  MaterialCommands(const MaterialCommands&) = delete;
-  MaterialCommands& operator=(const MaterialCommands&) = delete;
+  MaterialCommands(calculation::OpenCalculation& open, const Speech& speech,
+                   const std::filesystem::path& settings, const std::filesystem::path& database,
+                   MaterialEditor editor);
+
+  /// The pages pick their materials here from now on. @param pages to live as long as this object
+  void Serve(PageServices& pages);
+
+ public slots:
+  void ShowList(QWidget* parent);
+  void ShowTree(QWidget* parent);
+
+ signals:
+  /// An editor stored a material.
+  void Changed(const velmar::shell::MaterialChange& change);
+  /// A material was deleted; a layer that holds it keeps it.
+  void Removed(velmar::elements::MaterialFamily family, const std::string& name);
+  /// The tables are to be read anew.
+  void Reread();
 
  private:
-  class Windows;
-  std::unique_ptr<Windows> windows_;
+  void Open(QWidget* parent, std::optional<MaterialPick> wanted);
+  MaterialListWindow::Listener MakeListener();
+
+  calculation::OpenCalculation& open_;
+  OwnTools own_;
+  MaterialSource source_;
+  QPointer<MaterialTreeWindow> tree_;
 };
 
 }  // namespace velmar::shell

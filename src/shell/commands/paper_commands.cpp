@@ -1,58 +1,50 @@
 #include "shell/commands/paper_commands.h"
 
-#include <memory>
-
 #include "presentation/drawing/printed_page.h"
 #include "presentation/export/report_chart.h"
-#include "shell/commands/beside_project.h"
-#include "shell/commands/command_table.h"
-#include "shell/printing/page_printer.h"
+#include "shell/project/project_files.h"
 #include "shell/results/results_panel.h"
 
 namespace velmar::shell {
 namespace {
 
-struct Paper {
-  explicit Paper(const printing::PrintingBoxes& asked) : boxes(asked), printer(asked.ask_to_print) {}
-
-  printing::PrintingBoxes boxes;
-  printing::PagePrinter printer;
-};
+printing::PrintedDocument DocumentOn(const Desk& desk) {
+  return DocumentOf(desk.open, desk.speech.words, desk.results.Chart(), desk.files.File());
+}
 
 }  // namespace
 
-printing::PrintedDocument DocumentOf(const WindowServices& services, const QWidget* window) {
-  const elements::Setup& setup = services.open.Setup();
-  const calculation::Totals& totals = services.open.CurrentTotals();
-  const auto& result = services.open.Result();
+printing::PrintedDocument DocumentOf(const calculation::OpenCalculation& open,
+                                     const presentation::Words& words,
+                                     const std::optional<presentation::CurveChart>& chart,
+                                     const std::filesystem::path& project) {
+  const elements::Setup& setup = open.Setup();
+  const calculation::Totals& totals = open.CurrentTotals();
+  const auto& result = open.Result();
   printing::PrintedDocument document;
   document.page = presentation::PaginaDi(
-      setup, {totals.thickness_mm, totals.surface_mass_kg_m2}, result ? &*result : nullptr, services.words,
-      result ? presentation::WholeChartOf(setup, *result, services.words, ShownChart(window)) : std::nullopt);
+      setup, {totals.thickness_mm, totals.surface_mass_kg_m2}, result ? &*result : nullptr, words,
+      result ? presentation::WholeChartOf(setup, *result, words, chart) : std::nullopt);
   document.title = document.page.title;
-  document.pdf_start = BesideProject(window, QStringLiteral(".pdf"));
+  document.pdf_start = BesideProject(project, QStringLiteral(".pdf"));
   return document;
 }
 
-printing::PrintingBoxes PaperBoxes(const WindowServices& services) {
-  const auto tell = [&services](Tone tone) {
-    return [&services, tone](QWidget*, const QString& text) { services.boxes.tell(tone, text); };
+printing::PrintingBoxes PaperBoxes(const Speech& speech) {
+  const auto tell = [&speech](Tone tone) {
+    return [&speech, tone](QWidget*, const QString& text) { speech.boxes.tell(tone, text); };
   };
-  return printing::ScreenBoxes(services.words, tell(Tone::kInformation), tell(Tone::kCritical));
+  return printing::ScreenBoxes(speech.words, tell(Tone::kInformation), tell(Tone::kCritical));
 }
 
-void AddPaperCommands(WindowServices& services, const printing::PrintingBoxes& boxes) {
-  const auto paper = std::make_shared<Paper>(boxes);
-  services.command_windows[CommandId::kPrintPreview] = [paper, &services](QWidget* parent) {
-    printing::ShowPreview(DocumentOf(services, parent), paper->printer, paper->boxes, services.words, parent);
-  };
-  services.command_windows[CommandId::kPrint] = [paper, &services](QWidget* parent) {
-    printing::PrintDocument(DocumentOf(services, parent), paper->printer, paper->boxes, services.words,
-                            parent);
-  };
-  services.command_windows[CommandId::kChoosePrinter] = [paper, &services](QWidget* parent) {
-    printing::ChoosePrinter(paper->printer, paper->boxes, parent);
-  };
+void PaperCommands::Preview(const Desk& desk) {
+  printing::ShowPreview(DocumentOn(desk), printer_, boxes_, desk.speech.words, &desk.window);
 }
+
+void PaperCommands::Print(const Desk& desk) {
+  printing::PrintDocument(DocumentOn(desk), printer_, boxes_, desk.speech.words, &desk.window);
+}
+
+void PaperCommands::ChoosePrinter(QWidget* parent) { printing::ChoosePrinter(printer_, boxes_, parent); }
 
 }  // namespace velmar::shell

@@ -1,22 +1,45 @@
 #pragma once
 
-#include "shell/pages/window_services.h"
-#include "shell/printing/printing_dialogs.h"
+#include <QObject>
+#include <filesystem>
+#include <optional>
 
-class QWidget;
+#include "calculation/open_calculation.h"
+#include "presentation/drawing/curve_chart.h"
+#include "shell/commands/desk.h"
+#include "shell/printing/page_printer.h"
+#include "shell/printing/printing_dialogs.h"
 
 namespace velmar::shell {
 
-/// The page of the open calculation, with its result where there is one. Its chart is the one that `window`
-/// shows, with the scale and the overlays of the screen; a curve that leaves the scale is printed whole.
-/// @param window the main window; none: the chart is made of the result
-printing::PrintedDocument DocumentOf(const WindowServices& services, const QWidget* window);
+/// The page of the open calculation, with its result where there is one.
+/// @param chart as the screen shows it, with scale and overlays: a curve that leaves the scale is printed
+///              whole; none: the chart is made of the result
+/// @param project the file beside which a PDF is offered; empty: none
+printing::PrintedDocument DocumentOf(const calculation::OpenCalculation& open,
+                                     const presentation::Words& words,
+                                     const std::optional<presentation::CurveChart>& chart,
+                                     const std::filesystem::path& project);
 
-/// Print preview, print and the choice of a printer, as windows of `services`. The chosen printer is kept
-/// while the program runs. @param boxes how the user is asked and told
-void AddPaperCommands(WindowServices& services, const printing::PrintingBoxes& boxes);
+/// Print preview, print and the choice of a printer, which is kept while the program runs.
+class PaperCommands : public QObject {
+  Q_OBJECT
+ public:
+  /// @param boxes how the user is asked and told
+  explicit PaperCommands(const printing::PrintingBoxes& boxes)
+      : boxes_(boxes), printer_(boxes.ask_to_print) {}
 
-/// The boxes of the screen, in the words and with the message boxes of `services`.
-printing::PrintingBoxes PaperBoxes(const WindowServices& services);
+ public slots:
+  void Preview(const velmar::shell::Desk& desk);
+  void Print(const velmar::shell::Desk& desk);
+  void ChoosePrinter(QWidget* parent);
+
+ private:
+  printing::PrintingBoxes boxes_;
+  printing::PagePrinter printer_;
+};
+
+/// The boxes of the screen, in the words and with the message boxes of `speech`, which outlives them.
+printing::PrintingBoxes PaperBoxes(const Speech& speech);
 
 }  // namespace velmar::shell

@@ -8,9 +8,8 @@
 #include "presentation/reports/excel_report.h"
 #include "presentation/reports/report_record.h"
 #include "presentation/reports/word_report.h"
-#include "shell/commands/beside_project.h"
-#include "shell/commands/command_table.h"
 #include "shell/fields/phrases.h"
+#include "shell/project/project_files.h"
 #include "shell/results/results_panel.h"
 #include "storage/files/open_elsewhere.h"
 #include "storage/files/whole_file.h"
@@ -22,48 +21,48 @@ constexpr std::size_t kTemplateLimit = std::size_t{64} * 1024 * 1024;
 
 enum class Kind { kWord, kExcel };
 
-/// The record of the result that stands, with the chart as `window` shows it.
-presentation::ReportRecord RecordOf(const WindowServices& services, const QWidget* window) {
-  const elements::Setup& setup = services.open.Setup();
-  const elements::ResultSet& result = *services.open.Result();
-  const calculation::Totals& totals = services.open.CurrentTotals();
-  const std::optional<presentation::CurveChart> shown = ShownChart(window);
+/// The record of the result that stands, with the chart as it is shown.
+presentation::ReportRecord RecordOf(const Desk& desk) {
+  const elements::Setup& setup = desk.open.Setup();
+  const elements::ResultSet& result = *desk.open.Result();
+  const calculation::Totals& totals = desk.open.CurrentTotals();
+  const std::optional<presentation::CurveChart>& shown = desk.results.Chart();
   return presentation::ReportRecordOf(
-      setup, result, {totals.thickness_mm, totals.surface_mass_kg_m2}, services.words,
-      presentation::ReportChartOf(setup, result, services.words, shown),
+      setup, result, {totals.thickness_mm, totals.surface_mass_kg_m2}, desk.speech.words,
+      presentation::ReportChartOf(setup, result, desk.speech.words, shown),
       shown ? presentation::ComparedStructures{shown->laboratory_name, shown->in_situ_name}
             : presentation::ComparedStructures{});
 }
 
 /// The template's path; one that is missing is told.
 std::optional<std::filesystem::path> Template(Kind kind, const std::filesystem::path& templates,
-                                              const WindowServices& services) {
-  const elements::Family family = RowOf(*services.open.Setup().calculation).family;
+                                              const Desk& desk) {
+  const elements::Family family = RowOf(*desk.open.Setup().calculation).family;
   std::filesystem::path file = templates / (kind == Kind::kWord ? presentation::WordTemplateName(family)
                                                                 : presentation::kExcelTemplateName);
   std::error_code error;
   if (std::filesystem::is_regular_file(file, error)) return file;
-  services.boxes.tell(Tone::kCritical,
-                      Text(services.words, kTemplateMissingRow) + '\n' + FromUtf8(file.string()));
+  desk.speech.boxes.tell(Tone::kCritical,
+                         Text(desk.speech.words, kTemplateMissingRow) + '\n' + FromUtf8(file.string()));
   return std::nullopt;
 }
 
 /// The file to write; nothing when the user cancels.
-std::optional<std::filesystem::path> Target(Kind kind, const WindowServices& services,
-                                            const QWidget* window) {
+std::optional<std::filesystem::path> Target(Kind kind, const Desk& desk) {
   const std::string ending = kind == Kind::kWord ? ".docx" : ".xlsx";
-  const QString files = kind == Kind::kWord ? Text(services.words, kWordFilesRow) : QStringLiteral("Excel");
+  const QString files =
+      kind == Kind::kWord ? Text(desk.speech.words, kWordFilesRow) : QStringLiteral("Excel");
   const QString chosen =
-      services.boxes.choose_file_to_save({.title = Text(services.words, kSaveAsRow),
-                                          .filter = files + " (*" + FromUtf8(ending) + ')',
-                                          .start = BesideProject(window, FromUtf8(ending))});
+      desk.speech.boxes.choose_file_to_save({.title = Text(desk.speech.words, kSaveAsRow),
+                                             .filter = files + " (*" + FromUtf8(ending) + ')',
+                                             .start = BesideProject(desk.files.File(), FromUtf8(ending))});
   if (chosen.isEmpty()) return std::nullopt;
   if (chosen.endsWith(FromUtf8(ending), Qt::CaseInsensitive)) return ToUtf8(chosen);
   // The dialog has asked about the name without its ending only.
   std::filesystem::path file = ToUtf8(chosen) + ending;
   std::error_code error;
-  const QString question = Text(services.words, kReplaceDocumentRow) + '\n' + FromUtf8(file.string());
-  if (std::filesystem::exists(file, error) && !services.boxes.ask(question)) return std::nullopt;
+  const QString question = Text(desk.speech.words, kReplaceDocumentRow) + '\n' + FromUtf8(file.string());
+  if (std::filesystem::exists(file, error) && !desk.speech.boxes.ask(question)) return std::nullopt;
   return file;
 }
 
@@ -86,32 +85,26 @@ QString Write(Kind kind, const std::filesystem::path& pattern, const presentatio
   return told;
 }
 
-void Export(Kind kind, const std::filesystem::path& templates, const WindowServices& services,
-            const QWidget* window) {
-  if (!services.open.Setup().calculation || !services.open.Result()) return;
-  const std::optional<std::filesystem::path> pattern = Template(kind, templates, services);
+void Export(Kind kind, const std::filesystem::path& templates, const Desk& desk) {
+  if (!desk.open.Setup().calculation || !desk.open.Result()) return;
+  const std::optional<std::filesystem::path> pattern = Template(kind, templates, desk);
   if (!pattern) return;
-  const std::optional<std::filesystem::path> file = Target(kind, services, window);
+  const std::optional<std::filesystem::path> file = Target(kind, desk);
   if (!file) return;
   try {
-    services.boxes.tell(Tone::kInformation,
-                        Write(kind, *pattern, RecordOf(services, window), *file, services.words));
+    desk.speech.boxes.tell(Tone::kInformation,
+                           Write(kind, *pattern, RecordOf(desk), *file, desk.speech.words));
   } catch (const Failure& failure) {
-    services.boxes.tell(Tone::kCritical, Text(services.words, failure.UserMessage()));
+    desk.speech.boxes.tell(Tone::kCritical, Text(desk.speech.words, failure.UserMessage()));
   } catch (const std::exception&) {
-    services.boxes.tell(Tone::kCritical, Text(services.words, kFillingFailedRow));
+    desk.speech.boxes.tell(Tone::kCritical, Text(desk.speech.words, kFillingFailedRow));
   }
 }
 
 }  // namespace
 
-void AddReportCommands(WindowServices& services, const std::filesystem::path& templates) {
-  services.command_windows[CommandId::kExportWord] = [templates, &services](QWidget* window) {
-    Export(Kind::kWord, templates, services, window);
-  };
-  services.command_windows[CommandId::kExportExcel] = [templates, &services](QWidget* window) {
-    Export(Kind::kExcel, templates, services, window);
-  };
-}
+void ReportCommands::ExportWord(const Desk& desk) { Export(Kind::kWord, templates_, desk); }
+
+void ReportCommands::ExportExcel(const Desk& desk) { Export(Kind::kExcel, templates_, desk); }
 
 }  // namespace velmar::shell

@@ -1,14 +1,27 @@
 #pragma once
 
+#include <QObject>
 #include <filesystem>
+#include <utility>
 
-#include "shell/pages/window_services.h"
+#include "shell/commands/desk.h"
 
 namespace velmar::shell {
 
-/// Export to Word and Excel, as windows of `services`: asks for a file, fills the template of `templates`,
-/// writes the document whole or not at all, and says so. A missing template, a damaged one and a file that
-/// cannot be written are told.
-void AddReportCommands(WindowServices& services, const std::filesystem::path& templates);
+/// Export to Word and Excel: asks for a file, fills the template, writes the document whole or not at all,
+/// and says so. A missing template, a damaged one and a file that cannot be written are told.
+class ReportCommands : public QObject {
+  Q_OBJECT
+ public:
+  /// @param templates folder of the templates
+  explicit ReportCommands(std::filesystem::path templates) : templates_(std::move(templates)) {}
+
+ public slots:
+  void ExportWord(const velmar::shell::Desk& desk);
+  void ExportExcel(const velmar::shell::Desk& desk);
+
+ private:
+  std::filesystem::path templates_;
+};
 
 }  // namespace velmar::shell

@@ -1,6 +1,5 @@
 #include "shell/commands/run_command.h"
 
-#include <QApplication>
 #include <QCursor>
 #include <QGuiApplication>
 #include <algorithm>
@@ -30,8 +29,8 @@ class ArrowPointer {
 };
 
 /// In a list of checks a line begins with a dash.
-QString WordsOf(const WindowServices& services, const MessageLine& reason) {
-  QString words = Text(services.words, reason);
+QString WordsOf(const presentation::Words& catalogue, const MessageLine& reason) {
+  QString words = Text(catalogue, reason);
   if (words.startsWith("- ")) words.remove(0, 2);
   if (!words.isEmpty()) words.replace(0, 1, words.at(0).toUpper());
   return words;
@@ -39,28 +38,30 @@ QString WordsOf(const WindowServices& services, const MessageLine& reason) {
 
 }  // namespace
 
-void RunOpenCalculation(const WindowServices& services, const QWidget& window) {
+void RunOpenCalculation(const Desk& desk) {
+  const Boxes& boxes = desk.speech.boxes;
+  const presentation::Words& words = desk.speech.words;
   std::vector<Message> asked;
   calculation::RunOutcome outcome;
   try {
     const BusyPointer busy;
-    outcome = services.open.Run([&](const Message& question) {
+    outcome = desk.open.Run([&](const Message& question) {
       const ArrowPointer arrow;
       asked.push_back(question);
-      return services.boxes.ask(Text(services.words, question));
+      return boxes.ask(Text(words, question));
     });
   } catch (const std::exception& failure) {
-    services.open.DropResult();
-    services.boxes.tell(Tone::kCritical, Text(services.words, kUnexpectedRow) + '\n' + failure.what());
+    desk.open.DropResult();
+    boxes.tell(Tone::kCritical, Text(words, kUnexpectedRow) + '\n' + failure.what());
     return;
   }
   // The outcome lists the questions too; they were answered already.
   for (const Message& message : outcome.messages) {
     if (std::find(asked.begin(), asked.end(), message) == asked.end())
-      services.boxes.tell(Tone::kCritical, Text(services.words, message));
+      boxes.tell(Tone::kCritical, Text(words, message));
   }
   if (outcome.refusal)
-    PointAt(window, ControlOf(outcome.refusal->field), WordsOf(services, outcome.refusal->reason));
+    PointAt(desk.window, ControlOf(outcome.refusal->field), WordsOf(words, outcome.refusal->reason));
 }
 
 }  // namespace velmar::shell

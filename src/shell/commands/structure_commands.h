@@ -1,27 +1,66 @@
 #pragma once
 
+#include <QObject>
+#include <filesystem>
 #include <memory>
+#include <optional>
+#include <string>
+#include <vector>
 
-#include "shell/pages/window_services.h"
+#include "calculation/open_calculation.h"
+#include "shell/commands/comparison_command.h"
+#include "shell/commands/own_tools.h"
+#include "shell/fields/boxes.h"
+#include "shell/fields/window_tools.h"
+#include "shell/pages/page_services.h"
+#include "shell/structures/measured_library_window.h"
 #include "shell/structures/store_sources.h"
 
 namespace velmar::shell {
 
 /// The windows on stored and measured structures behind the commands and buttons of the main window: results
 /// database, measured library, comparison.
-class StructureCommands {
+class StructureCommands : public QObject {
+  Q_OBJECT
  public:
-  /// Puts the windows into `services`, whose words, boxes and places are set already.
-  /// @param services both are to live as long as the main window
-  StructureCommands(WindowServices& services, const structures::LibraryPlaces& places,
+  /// @param open and `speech` outlive this object
+  /// @param settings file of the main window's sizes, beside which those of these windows are kept; empty:
+  ///                 nothing is remembered
+  StructureCommands(calculation::OpenCalculation& open, const Speech& speech,
+                    const std::filesystem::path& settings, const structures::LibraryPlaces& places,
                     std::shared_ptr<storage::AccessSession> session);
-  ~StructureCommands();
-  StructureCommands(const StructureCommands&) = delete;
-  StructureCommands& operator=(const StructureCommands&) = delete;
+
+  /// The pages read stored results, and pick them and measurements, here from now on.
+  void Serve(PageServices& pages);
+  /// The curves of the comparison.
+  ComparisonCommand& Comparison() { return comparison_; }
+
+ public slots:
+  /// `Salva`: stores the result that stands under a name that is asked for.
+  void Store(QWidget* parent);
+  void ShowSavedResults(QWidget* parent);
+  void ShowAirborneData(QWidget* parent);
+  void ShowImpactData(QWidget* parent);
+  /// The main window waits until the comparison is closed.
+  void Compare(QWidget* parent);
+  /// The comparison stays open beside the main window.
+  void CompareBeside(QWidget* parent);
 
  private:
-  class Windows;
-  std::unique_ptr<Windows> windows_;
+  std::vector<std::string> Names() const;
+  std::optional<calculation::FacadePart> Find(const std::string& name) const;
+  void PickSavedResult(QWidget* parent, const ElementPick& pick);
+  void PickMeasured(QWidget* parent, const ElementPick& pick);
+  void ShowLibrary(QWidget* parent, structures::MeasuredTarget target);
+  void Take(const ElementPick& pick, const calculation::FacadePart& part);
+
+  calculation::OpenCalculation& open_;
+  const Speech& speech_;
+  std::filesystem::path results_file_;
+  OwnTools own_;
+  structures::ResultSource results_;
+  structures::LibrarySource library_;
+  ComparisonCommand comparison_;
 };
 
 }  // namespace velmar::shell

@@ -31,8 +31,6 @@ const Command* CommandAt(int place) {
   return nullptr;
 }
 
-bool IsElementKind(int place) { return place >= 17 && place <= 22; }
-
 }  // namespace
 
 CommandToolBar::CommandToolBar(const CommandSet& commands, const CalculationActions& calculations,
@@ -52,9 +50,10 @@ CommandToolBar::CommandToolBar(const CommandSet& commands, const CalculationActi
     }
     QToolButton* button = AddCommand(commands, place);
     button->setAccessibleDescription(group);
-    if (!IsElementKind(place)) continue;
+    const auto kind = CommandAt(place)->Kind();
+    if (!kind) continue;
     auto* menu = new QMenu(button);
-    calculations.FillKind(*menu, static_cast<elements::ElementButton>(place));
+    calculations.FillKind(*menu, *kind);
     button->setMenu(menu);
     button->setPopupMode(QToolButton::MenuButtonPopup);
   }

@@ -14,6 +14,7 @@ class CommandSet;
 /// The tool bar of 23 places. The buttons of the element kinds begin with a kind's first calculation and
 /// unfold all of them; the run button is the one strong button.
 class CommandToolBar : public QToolBar {
+  Q_OBJECT
  public:
   CommandToolBar(const CommandSet& commands, const CalculationActions& calculations,
                  const presentation::Words& words, QWidget* parent = nullptr);

@@ -40,6 +40,12 @@ struct Boxes {
   std::function<QString(const NameQuestion&)> ask_name{};
 };
 
+/// How a window speaks: the words of the catalogue, and the boxes that say them.
+struct Speech {
+  presentation::Words words{};
+  Boxes boxes{};
+};
+
 /// The boxes of the screen, in the words of the catalogue, above the active window.
 Boxes ScreenBoxes(const presentation::Words& words);
 

@@ -12,6 +12,7 @@
 
 #include "shell/fields/name_search.h"
 #include "shell/fields/phrases.h"
+#include "shell/fields/put_material.h"
 #include "shell/fields/selection.h"
 
 namespace velmar::shell {
@@ -95,6 +96,12 @@ void MaterialBox::OfferHits(const QString& typed) {
   if (completer() == nullptr || hits_ == nullptr) return;
   hits_->setStringList(typed.trimmed().isEmpty() ? QStringList() : RankedHits(Names(), typed));
   completer()->complete();
+}
+
+bool MaterialBox::event(QEvent* event) {
+  if (event->type() != PutMaterialEvent::Kind()) return QuietBox::event(event);
+  event->setAccepted(Put(static_cast<PutMaterialEvent*>(event)->Material()));
+  return true;
 }
 
 void MaterialBox::focusInEvent(QFocusEvent* event) {

@@ -10,6 +10,7 @@ namespace velmar::shell {
 /// A card of the start screen: the drawing of an element kind over its name, and a button that opens the list
 /// of its calculations.
 class KindCard : public QAbstractButton {
+  Q_OBJECT
  public:
   /// @param icon a line drawing of the product's icons
   /// @param list_tip what the button of the list says

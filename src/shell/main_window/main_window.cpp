@@ -1,5 +1,6 @@
 #include "shell/main_window/main_window.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QCloseEvent>
 #include <QMenu>
@@ -12,9 +13,7 @@
 #include "calculation/select_calculation.h"
 #include "foundation/message_rows.h"
 #include "shell/commands/edit_menu.h"
-#include "shell/commands/help_commands.h"
 #include "shell/commands/menus.h"
-#include "shell/commands/run_command.h"
 #include "shell/commands/tool_bar.h"
 #include "shell/fields/icons.h"
 #include "shell/fields/material_change.h"
@@ -22,8 +21,6 @@
 #include "shell/main_window/start_screen.h"
 #include "shell/pages/element_header.h"
 #include "shell/pages/input_tabs.h"
-#include "shell/project/dimension_dialog.h"
-#include "shell/project/project_information_dialog.h"
 #include "shell/results/results_panel.h"
 
 namespace velmar::shell {
@@ -53,15 +50,28 @@ QString DroppedProject(const QMimeData& mime) {
 MainWindow::MainWindow(const WindowServices& services, QWidget* parent)
     : QMainWindow(parent),
       services_(services),
-      materials_(services),
-      context_{services.open, services, materials_},
+      materials_(services.words, services),
+      context_(services.open, services, services, materials_),
+      work_(services.open),
       memory_(services.places.settings),
-      recovery_(services, kRecoveryDelayMs),
-      files_(services, memory_, recovery_),
-      table_(services, [this] { ShowAll(); }),
-      commands_(services.words, this, [this](CommandId id) { Execute(id); }),
-      calculations_(services.words, this,
-                    [this](elements::Calculation calculation) { Choose(calculation); }) {
+      recovery_(services.open, services, services.places.recovery, kRecoveryDelayMs),
+      files_(services.open, services, services, memory_, recovery_),
+      table_(services.open, services.words),
+      help_(services, services, services.places),
+      results_(new ResultsPanel(services.open, services, services.overlay, this)),
+      commands_({.window = *this,
+                 .open = services.open,
+                 .speech = services,
+                 .files = files_,
+                 .table = table_,
+                 .results = *results_,
+                 .help = &help_,
+                 .structures = services.structure_commands,
+                 .materials = services.material_commands,
+                 .paper = services.paper_commands,
+                 .reports = services.report_commands},
+                this),
+      calculations_(services.words, this) {
   setObjectName("Form1");
   setWindowIcon(ProductIcon());
   setAcceptDrops(true);
@@ -74,22 +84,13 @@ MainWindow::MainWindow(const WindowServices& services, QWidget* parent)
   // Shortcuts work whether or not their menu was ever open.
   for (const Command& command : Commands()) addAction(commands_.Of(command.id));
   MakeCentre();
-  files_.OnChange([this] {
-    setWindowTitle(files_.Caption());
-    setWindowFilePath(QString::fromStdString(files_.File().string()));
-    ShowProjects();
-  });
-  services_.open.OnChange([this] { ShowAll(); });
-  FollowMaterials();
-  setWindowTitle(files_.Caption());
+  Connect();
   sides_->setSizes({kInputsWidth, kFirstSize.width() - kInputsWidth});
   sides_arranged_ = memory_.RestoreSizes(*this, *sides_, *results_->Splitter());
   if (!sides_arranged_) resize(kFirstSize);
-  ShowProjects();
+  ShowName();
   ShowAll();
 }
-
-MainWindow::~MainWindow() { services_.open.OnChange({}); }
 
 void MainWindow::MakeCentre() {
   auto* inputs = new QWidget;
@@ -97,84 +98,48 @@ void MainWindow::MakeCentre() {
   auto* column = new QVBoxLayout(inputs);
   column->setContentsMargins(0, 0, 0, 0);
   column->setSpacing(0);
-  header_ = new ElementHeader(context_, [this] { Execute(CommandId::kDimensions); });
+  header_ = new ElementHeader(context_, [this] { commands_.Of(CommandId::kDimensions)->trigger(); });
   tabs_ = new InputTabs(context_);
   column->addWidget(header_);
   column->addWidget(tabs_, 1);
-  results_ = new ResultsPanel(context_);
-  connect(&context_, &PageContext::RowHovered, results_, &ResultsPanel::Highlight);
-  results_->OnHover([this](const auto& place) { emit context_.SectionHovered(place); });
   sides_ = new QSplitter(Qt::Horizontal);
   sides_->setChildrenCollapsible(false);
   sides_->addWidget(inputs);
   sides_->addWidget(results_);
   sides_->setStretchFactor(0, 0);
   sides_->setStretchFactor(1, 1);
-  start_ = new StartScreen(services_.words, calculations_,
-                           {.begin = [this](elements::ElementButton button) { Begin(button); },
-                            .open = [this](const std::filesystem::path& file) { OpenProject(file); }});
+  start_ = new StartScreen(services_.words, calculations_);
   centre_ = new QStackedWidget(this);
   centre_->addWidget(start_);
   centre_->addWidget(sides_);
   setCentralWidget(centre_);
 }
 
-void MainWindow::Execute(CommandId id) {
-  emit context_.SettleAsked();
-  switch (id) {
-    case CommandId::kOpenProject:
-      files_.Open();
-      tabs_->FocusFirst();
-      return;
-    case CommandId::kSaveProject:
-      files_.Save();
-      return;
-    case CommandId::kRun:
-      RunOpenCalculation(services_, *this);
-      return;
-    case CommandId::kShowTable:
-      table_.Show(this);
-      return;
-    case CommandId::kDimensions:
-      DimensionDialog(services_.open, services_.words, this).exec();
-      return;
-    case CommandId::kProjectInformation:
-      ProjectInformationDialog(services_.open, services_.words, this).exec();
-      return;
-    case CommandId::kSingleWalls:
-    case CommandId::kDoubleWalls:
-    case CommandId::kFloors:
-    case CommandId::kFacades:
-    case CommandId::kLinings:
-    case CommandId::kCeilings:
-      Begin(static_cast<elements::ElementButton>(RowOf(id).button));
-      return;
-    case CommandId::kExitAsking:
-      Exit(/*asking=*/true);
-      return;
-    case CommandId::kExit:
-      Exit(/*asking=*/false);
-      return;
-    default:
-      ExecuteElsewhere(id);
-  }
+void MainWindow::Connect() {
+  connect(&work_, &OpenWork::Changed, this, &MainWindow::ShowAll);
+  connect(&files_, &ProjectFiles::Renamed, this, &MainWindow::ShowName);
+  connect(&table_, &OpenTable::Toggled, this, &MainWindow::ShowAll);
+  connect(&commands_, &CommandSet::KindChosen, this, &MainWindow::Begin);
+  connect(&commands_, &CommandSet::ExitWanted, this, &MainWindow::Exit);
+  connect(&calculations_, &CalculationActions::Chosen, this, &MainWindow::Choose);
+  connect(start_, &StartScreen::KindChosen, this, &MainWindow::Begin);
+  connect(start_, &StartScreen::ProjectChosen, this, &MainWindow::OpenProject);
+  connect(&commands_, &CommandSet::AboutToAct, &context_, &PageContext::SettleAsked);
+  connect(&files_, &ProjectFiles::Opened, tabs_, &InputTabs::FocusFirst);
+  connect(&context_, &PageContext::RowHovered, results_, &ResultsPanel::Highlight);
+  connect(results_, &ResultsPanel::LayerHovered, &context_, &PageContext::SectionHovered);
+  if (services_.structure_commands != nullptr)
+    connect(&work_, &OpenWork::ResultGone, &services_.structure_commands->Comparison(),
+            &ComparisonCommand::ResultGone);
+  if (services_.material_commands != nullptr) FollowMaterials(*services_.material_commands);
 }
 
-void MainWindow::ExecuteElsewhere(CommandId id) {
-  const auto window = services_.command_windows.find(id);
-  if (window != services_.command_windows.end() && window->second) {
-    window->second(this);
-  } else {
-    ExecuteHelpCommand(id, services_, this);
-  }
-}
-
-void MainWindow::Begin(elements::ElementButton button) {
+void MainWindow::Begin(elements::ElementButton kind) {
   const auto& open = services_.open.Setup().calculation;
-  if (open && RowOf(*open).button == button) {
+  if (open && RowOf(*open).button == kind) {
     tabs_->ShowFirst();
   } else {
-    Choose(FirstOf(button));
+    Choose(FirstOf(kind));
   }
 }
 
@@ -186,10 +151,7 @@ void MainWindow::Choose(elements::Calculation calculation) {
 
 void MainWindow::ShowAll() {
   const elements::Setup& setup = services_.open.Setup();
-  const bool has_result = services_.open.Result().has_value();
   table_.Follow();
-  if (had_result_ && !has_result && services_.result_gone) services_.result_gone();
-  had_result_ = has_result;
   recovery_.Follow();
   const Needs state = StateOf(services_.open);
   commands_.Enable(state, table_.IsOpen());
@@ -213,6 +175,12 @@ void MainWindow::ArrangeSides() {
   sides_->setSizes({kInputsWidth, centre_->width() - kInputsWidth});
 }
 
+void MainWindow::ShowName() {
+  setWindowTitle(files_.Caption());
+  setWindowFilePath(QString::fromStdString(files_.File().string()));
+  ShowProjects();
+}
+
 void MainWindow::ShowProjects() {
   const auto recent = memory_.RecentProjects();
   start_->ShowProjects(recent, ProjectsIn(services_.places.examples));
@@ -230,27 +198,31 @@ void MainWindow::ShowProjects() {
 void MainWindow::OpenProject(const std::filesystem::path& project) {
   tabs_->LayOutAnew();
   files_.Open(project);
-  tabs_->FocusFirst();
 }
 
 void MainWindow::OfferRecovery() { files_.OfferRecovery(); }
 
-void MainWindow::FollowMaterials() {
-  const MaterialNews* news = services_.material_news;
-  if (news == nullptr) return;
-  connect(news, &MaterialNews::Changed, this, [this](const MaterialChange& change) {
+void MainWindow::FollowMaterials(const MaterialCommands& commands) {
+  connect(&commands, &MaterialCommands::Changed, this, [this](const MaterialChange& change) {
     materials_.Follow(change);
     ShowAll();
   });
-  connect(news, &MaterialNews::Removed, this,
+  connect(&commands, &MaterialCommands::Removed, this,
           [this](elements::MaterialFamily family, const std::string& name) {
             materials_.Forget(family, name);
             ShowAll();
           });
-  connect(news, &MaterialNews::Reread, this, [this] {
+  connect(&commands, &MaterialCommands::Reread, this, [this] {
     materials_.Reload();
     ShowAll();
   });
+}
+
+void MainWindow::SurviveFailure(const QString& what) {
+  const bool kept = recovery_.Keep();
+  QString text = Text(services_.words, kUnexpectedRow);
+  if (kept) text += '\n' + Text(services_.words, kWorkKeptRow);
+  services_.boxes.tell(Tone::kCritical, text + '\n' + what);
 }
 
 // The menu entry and the closing of the window do not ask: unsaved work is offered again at the next start.

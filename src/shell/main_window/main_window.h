@@ -5,7 +5,10 @@
 
 #include "shell/commands/calculation_menu.h"
 #include "shell/commands/command_set.h"
+#include "shell/commands/help_commands.h"
+#include "shell/main_window/window_services.h"
 #include "shell/pages/page_context.h"
+#include "shell/project/open_work.h"
 #include "shell/project/project_files.h"
 #include "shell/project/recovery.h"
 #include "shell/project/window_memory.h"
@@ -27,15 +30,18 @@ class StartScreen;
 /// The main window (`Form1`): composes commands, pages and results around the one open calculation, and owns
 /// no rule.
 class MainWindow : public QMainWindow {
+  Q_OBJECT
  public:
   /// @param services outlives the window
   explicit MainWindow(const WindowServices& services, QWidget* parent = nullptr);
-  ~MainWindow() override;
 
+ public slots:
   /// Opens the project file `project` as if it were dropped on the window.
   void OpenProject(const std::filesystem::path& project);
   /// Offers work that an earlier run left behind.
   void OfferRecovery();
+  /// Something failed that nobody foresaw: unsaved work is kept before anything else, then `what` is told.
+  void SurviveFailure(const QString& what);
 
  protected:
   void closeEvent(QCloseEvent* event) override;
@@ -44,23 +50,26 @@ class MainWindow : public QMainWindow {
 
  private:
   void MakeCentre();
-  void Execute(CommandId id);
-  void ExecuteElsewhere(CommandId id);
+  void Connect();
   void Choose(elements::Calculation calculation);
-  void Begin(elements::ElementButton button);
+  void Begin(elements::ElementButton kind);
   void ShowAll();
+  void ShowName();
   void ArrangeSides();
   void ShowProjects();
   void Exit(bool asking);
-  void FollowMaterials();
+  void FollowMaterials(const MaterialCommands& commands);
 
   const WindowServices& services_;
   MaterialLists materials_;
   PageContext context_;
+  OpenWork work_;
   WindowMemory memory_;
   Recovery recovery_;
   ProjectFiles files_;
   OpenTable table_;
+  HelpCommands help_;
+  ResultsPanel* results_ = nullptr;
   CommandSet commands_;
   CalculationActions calculations_;
   CommandToolBar* tool_bar_ = nullptr;
@@ -71,8 +80,6 @@ class MainWindow : public QMainWindow {
   QSplitter* sides_ = nullptr;
   ElementHeader* header_ = nullptr;
   InputTabs* tabs_ = nullptr;
-  ResultsPanel* results_ = nullptr;
-  bool had_result_ = false;
   bool sides_arranged_ = false;
 };
 

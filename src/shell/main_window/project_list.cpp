@@ -59,17 +59,14 @@ QString InWords(QString name) {
 
 }  // namespace
 
-ProjectList::ProjectList(std::function<void(const std::filesystem::path&)> open, QWidget* parent)
-    : QListWidget(parent), open_(std::move(open)) {
+ProjectList::ProjectList(QWidget* parent) : QListWidget(parent) {
   setItemDelegate(new ProjectDelegate(this));
   setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
   setMouseTracking(true);
   // Opening fills this list anew, so it waits until the click is over.
-  connect(
-      this, &QListWidget::itemClicked, this, [this] { OpenCurrent(); }, Qt::QueuedConnection);
-  connect(
-      this, &QListWidget::itemActivated, this, [this] { OpenCurrent(); }, Qt::QueuedConnection);
+  connect(this, &QListWidget::itemClicked, this, &ProjectList::OpenCurrent, Qt::QueuedConnection);
+  connect(this, &QListWidget::itemActivated, this, &ProjectList::OpenCurrent, Qt::QueuedConnection);
 }
 
 void ProjectList::Show(const std::vector<std::filesystem::path>& projects, const QString& none,
@@ -91,7 +88,7 @@ void ProjectList::OpenCurrent() {
   // A click that also activates opens once: by then the start screen is gone.
   if (currentItem() == nullptr || !isVisible()) return;
   const QString path = currentItem()->data(kPathRole).toString();
-  if (!path.isEmpty()) open_(path.toStdString());
+  if (!path.isEmpty()) emit Opened(path.toStdString());
 }
 
 }  // namespace velmar::shell

@@ -5,10 +5,11 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QVBoxLayout>
-#include <array>
+#include <optional>
 
 #include "foundation/message_rows.h"
 #include "shell/commands/calculation_menu.h"
+#include "shell/commands/command_table.h"
 #include "shell/fields/phrases.h"
 #include "shell/main_window/kind_card.h"
 #include "shell/main_window/project_list.h"
@@ -24,20 +25,6 @@ constexpr QSize kLargest{1040, 860};
 constexpr int kContentStretch = 100;
 constexpr double kHeadingScale = 1.25;
 
-struct Kind {
-  ElementButton button{};
-  MessageRow row{};
-  const char* icon = "";
-};
-constexpr std::array kKinds = {
-    Kind{ElementButton::kSingleWall, kSingleWallsTipRow, "wall"},
-    Kind{ElementButton::kDoubleWall, kDoubleWallsTipRow, "double-wall"},
-    Kind{ElementButton::kFloor, kFloorsTipRow, "floor"},
-    Kind{ElementButton::kFacade, kFacadesTipRow, "facade"},
-    Kind{ElementButton::kLining, kLiningsTipRow, "lining"},
-    Kind{ElementButton::kCeiling, kCeilingsTipRow, "ceiling"},
-};
-
 QLabel* Heading(const QString& text, QWidget* parent) {
   auto* label = new QLabel(text, parent);
   QFont large = label->font();
@@ -49,8 +36,8 @@ QLabel* Heading(const QString& text, QWidget* parent) {
 }  // namespace
 
 StartScreen::StartScreen(const presentation::Words& words, const CalculationActions& calculations,
-                         Doors doors, QWidget* parent)
-    : QWidget(parent), words_(words), doors_(std::move(doors)) {
+                         QWidget* parent)
+    : QWidget(parent), words_(words) {
   setObjectName("Inizio");
   auto* grid = new QGridLayout(this);
   grid->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
@@ -81,7 +68,8 @@ StartScreen::StartScreen(const presentation::Words& words, const CalculationActi
 }
 
 ProjectList* StartScreen::AddList(QGridLayout& lists, int place, MessageRow heading) {
-  auto* list = new ProjectList(doors_.open, this);
+  auto* list = new ProjectList(this);
+  connect(list, &ProjectList::Opened, this, &StartScreen::ProjectChosen);
   QLabel* label = Heading(Text(words_, heading), this);
   label->setBuddy(list);
   list->setAccessibleName(label->text());
@@ -94,12 +82,14 @@ ProjectList* StartScreen::AddList(QGridLayout& lists, int place, MessageRow head
 void StartScreen::AddKinds(QVBoxLayout& column, const CalculationActions& calculations) {
   auto* line = new QHBoxLayout;
   line->setSpacing(kGap);
-  for (const Kind& kind : kKinds) {
-    auto* card = new KindCard(Text(words_, kind.row), kind.icon, Text(words_, kChooseCalculationRow), this);
-    card->setObjectName("Inizio_" + QString::number(static_cast<int>(kind.button)));
-    calculations.FillKind(*card->Calculations(), kind.button);
-    const ElementButton button = kind.button;
-    connect(card, &KindCard::clicked, this, [this, button] { doors_.begin(button); });
+  for (const Command& command : Commands()) {
+    const std::optional<ElementButton> kind = command.Kind();
+    if (!kind) continue;
+    auto* card = new KindCard(Text(words_, command.Caption()), command.icon,
+                              Text(words_, kChooseCalculationRow), this);
+    card->setObjectName("Inizio_" + QString::number(command.button));
+    calculations.FillKind(*card->Calculations(), *kind);
+    connect(card, &KindCard::clicked, this, [this, kind] { emit KindChosen(*kind); });
     line->addWidget(card);
   }
   column.addLayout(line);

@@ -2,7 +2,6 @@
 
 #include <QWidget>
 #include <filesystem>
-#include <functional>
 #include <vector>
 
 #include "elements/catalogue.h"
@@ -18,24 +17,23 @@ class ProjectList;
 
 /// What fills the window before a calculation is chosen: the six element kinds, recent projects, examples.
 class StartScreen : public QWidget {
+  Q_OBJECT
  public:
-  struct Doors {
-    std::function<void(elements::ElementButton)> begin{};
-    std::function<void(const std::filesystem::path&)> open{};
-  };
-
-  StartScreen(const presentation::Words& words, const CalculationActions& calculations, Doors doors,
+  StartScreen(const presentation::Words& words, const CalculationActions& calculations,
               QWidget* parent = nullptr);
 
   void ShowProjects(const std::vector<std::filesystem::path>& recent,
                     const std::vector<std::filesystem::path>& examples);
+
+ signals:
+  void KindChosen(velmar::elements::ElementButton kind);
+  void ProjectChosen(const std::filesystem::path& project);
 
  private:
   void AddKinds(QVBoxLayout& column, const CalculationActions& calculations);
   ProjectList* AddList(QGridLayout& lists, int place, MessageRow heading);
 
   presentation::Words words_;
-  Doors doors_;
   ProjectList* recent_ = nullptr;
   ProjectList* examples_ = nullptr;
 };

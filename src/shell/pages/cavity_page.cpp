@@ -59,7 +59,7 @@ void CavityPage::LeaveDepth() {
   const auto raised_to = ParseDecimal(left.cavity.depth_text);
   if (!told && entered && raised_to > entered)
     NoteCorrection(depth_, Correction::kRaised, 0, context_.Words());
-  if (told) context_.services.boxes.tell(Tone::kCritical, Text(context_.Words(), *told));
+  if (told) context_.speech.boxes.tell(Tone::kCritical, Text(context_.Words(), *told));
 }
 
 void CavityPage::AddKinds(QVBoxLayout& column) {

@@ -54,8 +54,8 @@ void Forget(QStringListModel& offered, const QString& name) {
 
 }  // namespace
 
-MaterialLists::MaterialLists(const WindowServices& services)
-    : services_(services), words_{services.words(kAllKeywordsRow), services.words(kNotSpecifiedRow)} {
+MaterialLists::MaterialLists(const presentation::Words& words, const PageServices& services)
+    : services_(services), words_{words(kAllKeywordsRow), words(kNotSpecifiedRow)} {
   chosen_.fill(FromUtf8(words_.all));
   Reload();
 }

@@ -9,7 +9,7 @@
 #include "elements/layer_groups.h"
 #include "materials/keywords.h"
 #include "shell/fields/material_change.h"
-#include "shell/pages/window_services.h"
+#include "shell/pages/page_services.h"
 
 namespace velmar::shell {
 
@@ -21,7 +21,7 @@ inline constexpr std::size_t kFilterCount = 4;
 /// materials cost their memory once.
 class MaterialLists {
  public:
-  explicit MaterialLists(const WindowServices& services);
+  MaterialLists(const presentation::Words& words, const PageServices& services);
 
   /// Reads the tables again, as after an edit of the material database. The filters keep their keywords.
   void Reload();
@@ -45,7 +45,7 @@ class MaterialLists {
   void Fill(FilterId filter);
   std::vector<storage::ListedMaterial>& Of(elements::MaterialFamily family);
 
-  const WindowServices& services_;
+  const PageServices& services_;
   materials::KeywordTexts words_;
   std::array<std::vector<storage::ListedMaterial>, 3> materials_;  ///< by MaterialFamily
   std::array<QString, kFilterCount> chosen_;

@@ -7,9 +7,10 @@
 #include "calculation/material_choice.h"
 #include "calculation/open_calculation.h"
 #include "presentation/drawing/section.h"
+#include "shell/fields/boxes.h"
 #include "shell/fields/corrections.h"
 #include "shell/pages/material_lists.h"
-#include "shell/pages/window_services.h"
+#include "shell/pages/page_services.h"
 
 namespace velmar::shell {
 
@@ -19,14 +20,15 @@ class PageContext : public QObject {
   Q_OBJECT
 
  public:
-  PageContext(calculation::OpenCalculation& open_calculation, const WindowServices& window_services,
-              MaterialLists& lists);
+  PageContext(calculation::OpenCalculation& open_calculation, const Speech& how_to_speak,
+              const PageServices& page_services, MaterialLists& lists);
 
   calculation::OpenCalculation& open;
-  const WindowServices& services;
+  const Speech& speech;
+  const PageServices& services;
   MaterialLists& materials;
 
-  const presentation::Words& Words() const { return services.words; }
+  const presentation::Words& Words() const { return speech.words; }
 
   /// The way of a page to change the set-up. Layer rows that come into use by it read their material.
   template <typename Change>

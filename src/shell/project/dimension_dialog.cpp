@@ -47,7 +47,7 @@ DimensionDialog::DimensionDialog(calculation::OpenCalculation& open, const prese
   auto* ok = new QPushButton(Text(words, kOkRow), this);
   ok->setObjectName("Command1");
   ok->setDefault(true);
-  connect(ok, &QPushButton::clicked, this, [this] { Confirm(); });
+  connect(ok, &QPushButton::clicked, this, &DimensionDialog::Confirm);
   column->addWidget(ok, 0, Qt::AlignRight);
   width_->setFocus();
 }

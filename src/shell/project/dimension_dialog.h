@@ -11,6 +11,7 @@ class NumberField;
 
 /// The dimension dialog (`Form3`). OK takes over two numbers other than 0, else it stays open.
 class DimensionDialog : public QDialog {
+  Q_OBJECT
  public:
   DimensionDialog(calculation::OpenCalculation& open, const presentation::Words& words,
                   QWidget* parent = nullptr);

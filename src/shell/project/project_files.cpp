@@ -24,20 +24,32 @@ std::vector<std::filesystem::path> ProjectsIn(const std::filesystem::path& folde
   return projects;
 }
 
-ProjectFiles::ProjectFiles(const WindowServices& services, WindowMemory& memory, Recovery& recovery)
-    : services_(services), memory_(memory), recovery_(recovery) {}
+QString BesideProject(const std::filesystem::path& project, const QString& ending) {
+  if (project.empty()) return {};
+  return QString::fromStdString((project.parent_path() / project.stem()).string()) + ending;
+}
+
+ProjectFiles::ProjectFiles(calculation::OpenCalculation& open, const Speech& speech,
+                           const ProjectServices& services, WindowMemory& memory, Recovery& recovery,
+                           QObject* parent)
+    : QObject(parent),
+      open_(open),
+      speech_(speech),
+      services_(services),
+      memory_(memory),
+      recovery_(recovery) {}
 
 QString ProjectFiles::Caption() const {
-  const QString name = project_.empty() ? Text(services_.words, kNewProjectRow)
+  const QString name = project_.empty() ? Text(speech_.words, kNewProjectRow)
                                         : QString::fromStdString(project_.stem().string());
-  return QString(kProductName) + " - " + Text(services_.words, kApplicationRow) + " - " + name;
+  return QString(kProductName) + " - " + Text(speech_.words, kApplicationRow) + " - " + name;
 }
 
 bool ProjectFiles::LeaveUnsaved() {
-  if (services_.open.IsSaved()) return true;
+  if (open_.IsSaved()) return true;
   const Message question = {
       {kUnsavedProjectRow}, {kSaveBeforeGoingOnRow}, {kYesAndNoMeaningRow}, {kCancelMeaningRow}};
-  const std::optional<bool> save = services_.boxes.ask_or_cancel(Text(services_.words, question));
+  const std::optional<bool> save = speech_.boxes.ask_or_cancel(Text(speech_.words, question));
   if (!save) return false;
   return !*save || Save();
 }
@@ -45,9 +57,9 @@ bool ProjectFiles::LeaveUnsaved() {
 bool ProjectFiles::Open() {
   if (!MayGoOn()) return false;
   const QString file =
-      services_.boxes.choose_file_to_open({.title = Text(services_.words, kChooseProjectRow),
-                                           .filter = kFilter,
-                                           .start = QString::fromStdString(project_.string())});
+      speech_.boxes.choose_file_to_open({.title = Text(speech_.words, kChooseProjectRow),
+                                         .filter = kFilter,
+                                         .start = QString::fromStdString(project_.string())});
   return !file.isEmpty() && Load(file.toStdString());
 }
 
@@ -56,41 +68,42 @@ bool ProjectFiles::Open(const std::filesystem::path& project) { return MayGoOn()
 // The open set-up stays until another one is read, so that a cancelled dialog or a damaged file loses
 // nothing; its result goes.
 bool ProjectFiles::MayGoOn() {
-  const bool saved = services_.open.IsSaved();
+  const bool saved = open_.IsSaved();
   if (!LeaveUnsaved()) return false;
-  if (saved && services_.open.Result()) services_.open.Replace(services_.open.Setup());
+  if (saved && open_.Result()) open_.Replace(open_.Setup());
   return true;
 }
 
 bool ProjectFiles::Load(const std::filesystem::path& file) {
   try {
-    services_.open.Replace(services_.read_project(file));
+    open_.Replace(services_.read_project(file));
   } catch (const std::exception& failure) {
     TellFailure(failure);
     return false;
   }
   memory_.Remember(file);
   Rename(file);
-  if (!services_.open.Setup().calculation)
-    services_.boxes.tell(Tone::kInformation, Text(services_.words, kProjectOfUnknownCalculationRow));
+  emit Opened();
+  if (!open_.Setup().calculation)
+    speech_.boxes.tell(Tone::kInformation, Text(speech_.words, kProjectOfUnknownCalculationRow));
   return true;
 }
 
 bool ProjectFiles::Save() {
   const QString chosen =
-      services_.boxes.choose_file_to_save({.title = Text(services_.words, kSaveProjectRow),
-                                           .filter = kFilter,
-                                           .start = QString::fromStdString(project_.string())});
+      speech_.boxes.choose_file_to_save({.title = Text(speech_.words, kSaveProjectRow),
+                                         .filter = kFilter,
+                                         .start = QString::fromStdString(project_.string())});
   if (chosen.isEmpty()) return false;
   std::filesystem::path file = chosen.toStdString();
   if (file.extension() != kEnding) file += kEnding;
   try {
-    services_.write_project(file, services_.open.Setup());
+    services_.write_project(file, open_.Setup());
   } catch (const std::exception& failure) {
     TellFailure(failure);
     return false;
   }
-  services_.open.MarkSaved();
+  open_.MarkSaved();
   recovery_.Discard();
   memory_.Remember(file);
   Rename(file);
@@ -101,16 +114,16 @@ bool ProjectFiles::OfferRecovery() {
   const auto copy = recovery_.LeftBehind();
   if (!copy) return false;
   const Message question = {{kRecoveryFirstRow}, {kRecoverySecondRow}};
-  const bool wanted = services_.boxes.ask(Text(services_.words, question));
+  const bool wanted = speech_.boxes.ask(Text(speech_.words, question));
   if (wanted) {
     try {
-      services_.open.Replace(services_.read_project(*copy));
+      open_.Replace(services_.read_project(*copy));
     } catch (const std::exception& failure) {
       TellFailure(failure);
       return false;
     }
     // It was never saved under a name: it is unsaved work again.
-    services_.open.DropResult();
+    open_.DropResult();
     recovery_.WriteNow();
   }
   Recovery::Drop(*copy);
@@ -119,14 +132,14 @@ bool ProjectFiles::OfferRecovery() {
 
 void ProjectFiles::Rename(std::filesystem::path project) {
   project_ = std::move(project);
-  if (on_change_) on_change_();
+  emit Renamed();
 }
 
 void ProjectFiles::TellFailure(const std::exception& failure) const {
   const auto* known = dynamic_cast<const Failure*>(&failure);
-  const QString words = known != nullptr ? Text(services_.words, known->UserMessage())
-                                         : Text(services_.words, kUnexpectedRow) + '\n' + failure.what();
-  services_.boxes.tell(Tone::kCritical, words);
+  const QString words = known != nullptr ? Text(speech_.words, known->UserMessage())
+                                         : Text(speech_.words, kUnexpectedRow) + '\n' + failure.what();
+  speech_.boxes.tell(Tone::kCritical, words);
 }
 
 }  // namespace velmar::shell

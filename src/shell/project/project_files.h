@@ -1,19 +1,23 @@
 #pragma once
 
+#include <QObject>
 #include <filesystem>
-#include <functional>
 #include <vector>
 
-#include "shell/pages/window_services.h"
+#include "calculation/open_calculation.h"
+#include "shell/fields/boxes.h"
+#include "shell/project/project_services.h"
 #include "shell/project/recovery.h"
 #include "shell/project/window_memory.h"
 
 namespace velmar::shell {
 
 /// Opening and saving of the project, with its questions; the project's name in the window's caption.
-class ProjectFiles {
+class ProjectFiles : public QObject {
+  Q_OBJECT
  public:
-  ProjectFiles(const WindowServices& services, WindowMemory& memory, Recovery& recovery);
+  ProjectFiles(calculation::OpenCalculation& open, const Speech& speech, const ProjectServices& services,
+               WindowMemory& memory, Recovery& recovery, QObject* parent = nullptr);
 
   /// Asks about unsaved changes, asks for a file, opens it. @return whether a project was opened
   bool Open();
@@ -32,8 +36,11 @@ class ProjectFiles {
   /// The open project's file; empty for none.
   const std::filesystem::path& File() const { return project_; }
 
-  /// `on_change` is called when the project's name changes.
-  void OnChange(std::function<void()> on_change) { on_change_ = std::move(on_change); }
+ signals:
+  /// Another project was read.
+  void Opened();
+  /// The project has another name, and another file behind it.
+  void Renamed();
 
  private:
   bool Load(const std::filesystem::path& file);
@@ -41,12 +48,17 @@ class ProjectFiles {
   void TellFailure(const std::exception& failure) const;
   bool MayGoOn();
 
-  const WindowServices& services_;
+  calculation::OpenCalculation& open_;
+  const Speech& speech_;
+  const ProjectServices& services_;
   WindowMemory& memory_;
   Recovery& recovery_;
   std::filesystem::path project_;
-  std::function<void()> on_change_;
 };
+
+/// The file that a document of `project` is offered: beside it, of its name, with `ending` (".docx"). Empty
+/// without a project.
+QString BesideProject(const std::filesystem::path& project, const QString& ending);
 
 /// The project files in `folder` by name; none when it cannot be read.
 std::vector<std::filesystem::path> ProjectsIn(const std::filesystem::path& folder);

@@ -23,16 +23,16 @@ bool IsHeld(const std::filesystem::path& copy) {
 
 }  // namespace
 
-Recovery::Recovery(const WindowServices& services, int delay_ms, QObject* parent)
-    : QObject(parent), services_(services) {
+Recovery::Recovery(const calculation::OpenCalculation& open, const ProjectServices& services,
+                   std::filesystem::path folder, int delay_ms, QObject* parent)
+    : QObject(parent), open_(open), services_(services), folder_(std::move(folder)) {
   due_.setSingleShot(true);
   due_.setInterval(delay_ms);
   connect(&due_, &QTimer::timeout, this, [this] { Write(); });
-  const std::filesystem::path& folder = services_.places.recovery;
-  if (folder.empty()) return;
+  if (folder_.empty()) return;
   std::error_code error;
-  std::filesystem::create_directories(folder, error);
-  copy_ = folder / (QUuid::createUuid().toString(QUuid::WithoutBraces).toStdString() + kCopyEnding);
+  std::filesystem::create_directories(folder_, error);
+  copy_ = folder_ / (QUuid::createUuid().toString(QUuid::WithoutBraces).toStdString() + kCopyEnding);
   lock_ = std::make_unique<QLockFile>(QString::fromStdString(LockOf(copy_).string()));
   lock_->setStaleLockTime(0);
   lock_->tryLock(0);
@@ -42,8 +42,7 @@ Recovery::~Recovery() { WriteNow(); }
 
 void Recovery::Follow() {
   if (copy_.empty()) return;
-  const bool unsaved = !services_.open.IsSaved() && services_.open.Setup().calculation.has_value();
-  if (unsaved) {
+  if (IsUnsaved()) {
     if (!due_.isActive()) due_.start();
   } else {
     Discard();
@@ -56,11 +55,21 @@ void Recovery::WriteNow() {
   Write();
 }
 
-void Recovery::Write() {
+bool Recovery::Keep() {
+  if (copy_.empty() || !IsUnsaved()) return false;
+  due_.stop();
+  return Write();
+}
+
+bool Recovery::IsUnsaved() const { return !open_.IsSaved() && open_.Setup().calculation.has_value(); }
+
+bool Recovery::Write() {
   try {
-    services_.write_project(copy_, services_.open.Setup());
+    services_.write_project(copy_, open_.Setup());
+    return true;
   } catch (const std::exception&) {
     // The copy is a second net: a full disk is told when the user saves, not while typing.
+    return false;
   }
 }
 
@@ -75,7 +84,7 @@ std::optional<std::filesystem::path> Recovery::LeftBehind() const {
   std::filesystem::file_time_type latest_time;
   std::error_code error;
   if (copy_.empty()) return latest;
-  for (const auto& entry : std::filesystem::directory_iterator(services_.places.recovery, error)) {
+  for (const auto& entry : std::filesystem::directory_iterator(folder_, error)) {
     const std::filesystem::path& path = entry.path();
     if (path == copy_ || path.extension() != kCopyEnding || IsHeld(path)) continue;
     const auto time = entry.last_write_time(error);

@@ -7,7 +7,8 @@
 #include <memory>
 #include <optional>
 
-#include "shell/pages/window_services.h"
+#include "calculation/open_calculation.h"
+#include "shell/project/project_services.h"
 
 namespace velmar::shell {
 
@@ -15,15 +16,20 @@ namespace velmar::shell {
 /// in haste loses nothing. Each running program holds a copy of its own, under a lock; a copy whose lock is
 /// free was left behind and is offered at the next start.
 class Recovery : public QObject {
+  Q_OBJECT
  public:
+  /// @param folder of the copies of all running programs; empty: none are made
   /// @param delay_ms how long after a change the copy is written
-  Recovery(const WindowServices& services, int delay_ms, QObject* parent = nullptr);
+  Recovery(const calculation::OpenCalculation& open, const ProjectServices& services,
+           std::filesystem::path folder, int delay_ms, QObject* parent = nullptr);
   ~Recovery() override;
 
   /// Something changed: a copy is due, or none is needed any more.
   void Follow();
   /// The copy is written now, if one is due.
   void WriteNow();
+  /// Unsaved work is written now, due or not. @return whether it is there to be offered at the next start
+  bool Keep();
   /// The unsaved work was given up by the user, or saved.
   void Discard();
 
@@ -32,9 +38,12 @@ class Recovery : public QObject {
   static void Drop(const std::filesystem::path& copy);
 
  private:
-  void Write();
+  bool IsUnsaved() const;
+  bool Write();
 
-  const WindowServices& services_;
+  const calculation::OpenCalculation& open_;
+  const ProjectServices& services_;
+  std::filesystem::path folder_;
   std::filesystem::path copy_;
   std::unique_ptr<QLockFile> lock_;
   QTimer due_;

@@ -36,12 +36,8 @@ QString Level(const std::string& name, double level_db) {
 
 }  // namespace
 
-ChartView::ChartView(const presentation::Words& words, SaveAs save_as, TellFailure tell, QWidget* parent)
-    : QWidget(parent),
-      words_(words),
-      save_as_(std::move(save_as)),
-      tell_(std::move(tell)),
-      chart_(presentation::EmptyChart(words)) {
+ChartView::ChartView(const Speech& speech, QWidget* parent)
+    : QWidget(parent), speech_(speech), chart_(presentation::EmptyChart(speech.words)) {
   setObjectName("Picture1");
   setMouseTracking(true);
   setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
@@ -115,7 +111,8 @@ QImage ChartView::Picture(double scale) const {
 
 void ChartView::Save(bool as_svg) {
   const MessageRow title = as_svg ? kSaveSvgRow : kSavePngRow;
-  QString path = save_as_(Text(words_, title), as_svg ? "SVG (*.svg)" : "PNG (*.png)");
+  QString path = speech_.boxes.choose_file_to_save(
+      {.title = Text(speech_.words, title), .filter = as_svg ? "SVG (*.svg)" : "PNG (*.png)"});
   if (path.isEmpty()) return;
   const QString ending = as_svg ? ".svg" : ".png";
   if (!path.endsWith(ending, Qt::CaseInsensitive)) path += ending;
@@ -123,17 +120,17 @@ void ChartView::Save(bool as_svg) {
     storage::WriteWhole(ToUtf8(path), as_svg ? presentation::ChartSvg(Plain(), chart_.words.calculated)
                                              : Png(Picture(kPictureScale)));
   } catch (const Failure& failure) {
-    tell_(Text(words_, failure.UserMessage()));
+    speech_.boxes.tell(Tone::kCritical, Text(speech_.words, failure.UserMessage()));
   }
 }
 
 void ChartView::contextMenuEvent(QContextMenuEvent* event) {
   auto* menu = new QMenu(this);
   menu->setAttribute(Qt::WA_DeleteOnClose);
-  menu->addAction(Text(words_, kCopyPictureRow),
+  menu->addAction(Text(speech_.words, kCopyPictureRow),
                   [this] { QGuiApplication::clipboard()->setImage(Picture(kPictureScale)); });
-  menu->addAction(Text(words_, kSavePngRow), [this] { Save(/*as_svg=*/false); });
-  menu->addAction(Text(words_, kSaveSvgRow), [this] { Save(/*as_svg=*/true); });
+  menu->addAction(Text(speech_.words, kSavePngRow), [this] { Save(/*as_svg=*/false); });
+  menu->addAction(Text(speech_.words, kSaveSvgRow), [this] { Save(/*as_svg=*/true); });
   menu->popup(event->globalPos());
 }
 

@@ -3,18 +3,17 @@
 #include <QWidget>
 
 #include "presentation/drawing/curve_chart.h"
+#include "shell/fields/boxes.h"
 
 namespace velmar::shell {
 
 /// Shows a curve chart (`Picture1`). The mouse over a band shows its frequency and values; the context menu
 /// copies the picture or saves it.
 class ChartView : public QWidget {
+  Q_OBJECT
  public:
-  using SaveAs = std::function<QString(const QString& title, const QString& filter)>;
-  using TellFailure = std::function<void(const QString& text)>;
-
-  /// @param save_as asks for a file; an empty answer cancels
-  ChartView(const presentation::Words& words, SaveAs save_as, TellFailure tell, QWidget* parent = nullptr);
+  /// @param speech outlives the view
+  explicit ChartView(const Speech& speech, QWidget* parent = nullptr);
 
   void Show(const presentation::CurveChart& chart);
 
@@ -33,9 +32,7 @@ class ChartView : public QWidget {
   QImage Picture(double scale) const;
   void Save(bool as_svg);
 
-  presentation::Words words_;
-  SaveAs save_as_;
-  TellFailure tell_;
+  const Speech& speech_;
   presentation::CurveChart chart_;
 };
 

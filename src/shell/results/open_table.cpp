@@ -2,31 +2,31 @@
 
 namespace velmar::shell {
 
-// The window tells when it closes; it goes while there is someone to tell.
+// A table that goes with this object is told of no more.
 OpenTable::~OpenTable() {
-  on_change_ = {};
+  if (window_) window_->disconnect(this);
   delete window_;
 }
 
 presentation::ResultsTable OpenTable::TableNow() const {
-  return presentation::ResultsTableOf(services_.open.Setup(), *services_.open.Result(), services_.words);
+  return presentation::ResultsTableOf(open_.Setup(), *open_.Result(), words_);
 }
 
 void OpenTable::Show(QWidget* parent) {
-  if (!services_.open.Result() || window_) return;
-  window_ = new ResultsTableWindow(TableNow(), services_.words, parent);
-  QObject::connect(window_, &QObject::destroyed, parent, [this] {
+  if (!open_.Result() || window_) return;
+  window_ = new ResultsTableWindow(TableNow(), words_, parent);
+  connect(window_, &QObject::destroyed, this, [this] {
     window_.clear();  // what tells it is no table any more
-    if (on_change_) on_change_();
+    emit Toggled();
   });
   window_->show();
-  on_change_();
+  emit Toggled();
 }
 
 // A second run may give another result; the table shows the one that stands.
 void OpenTable::Follow() {
   if (!window_) return;
-  if (!services_.open.Result()) {
+  if (!open_.Result()) {
     window_->close();
   } else if (window_->isVisible()) {
     window_->Show(TableNow());

@@ -1,23 +1,24 @@
 #pragma once
 
+#include <QObject>
 #include <QPointer>
-#include <functional>
 
-#include "shell/pages/window_services.h"
+#include "calculation/open_calculation.h"
+#include "presentation/texts/words.h"
 #include "shell/results/results_table_window.h"
 
 namespace velmar::shell {
 
 /// The results table of the one open calculation: shown on demand, it follows further runs and closes with
 /// the result.
-class OpenTable {
+class OpenTable : public QObject {
+  Q_OBJECT
  public:
-  /// @param on_change told when the table opens or is gone
-  OpenTable(const WindowServices& services, std::function<void()> on_change)
-      : services_(services), on_change_(std::move(on_change)) {}
-  ~OpenTable();
-  OpenTable(const OpenTable&) = delete;
-  OpenTable& operator=(const OpenTable&) = delete;
+  /// @param open and `words` outlive this object
+  OpenTable(const calculation::OpenCalculation& open, const presentation::Words& words,
+            QObject* parent = nullptr)
+      : QObject(parent), open_(open), words_(words) {}
+  ~OpenTable() override;
 
   /// Shows the table of the result that stands; nothing without a result, or when it is open already.
   void Show(QWidget* parent);
@@ -26,11 +27,15 @@ class OpenTable {
   void Close();
   bool IsOpen() const { return window_ && window_->isVisible(); }
 
+ signals:
+  /// The table was opened, or is gone.
+  void Toggled();
+
  private:
   presentation::ResultsTable TableNow() const;
 
-  const WindowServices& services_;
-  std::function<void()> on_change_;
+  const calculation::OpenCalculation& open_;
+  const presentation::Words& words_;
   QPointer<ResultsTableWindow> window_;
 };
 

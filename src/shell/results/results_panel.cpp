@@ -24,7 +24,6 @@
 namespace velmar::shell {
 namespace {
 
-constexpr const char* kPanel = "prnFrame1";
 constexpr double kRatingScale = 2.4;
 constexpr double kTermScale = 1.25;
 // Symbols of the ratings, the same in every language.
@@ -77,8 +76,10 @@ std::pair<QWidget*, QLabel*> MakePair(const char* frame_name, const std::pair<co
 
 }  // namespace
 
-ResultsPanel::ResultsPanel(const PageContext& context, QWidget* parent) : QWidget(parent), context_(context) {
-  setObjectName(kPanel);
+ResultsPanel::ResultsPanel(const calculation::OpenCalculation& open, const Speech& speech,
+                           ChartOverlay* overlay, QWidget* parent)
+    : QWidget(parent), open_(open), speech_(speech), overlay_(overlay) {
+  setObjectName("prnFrame1");
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(kPageSpacing, kPageSpacing, kPageSpacing, kPageSpacing);
   column->addWidget(MakeRatings());
@@ -90,6 +91,7 @@ ResultsPanel::ResultsPanel(const PageContext& context, QWidget* parent) : QWidge
   splitter_->setStretchFactor(1, 2);
   splitter_->setChildrenCollapsible(false);
   column->addWidget(splitter_, 1);
+  if (overlay_ != nullptr) connect(overlay_, &ChartOverlay::Changed, this, &ResultsPanel::Show);
 }
 
 QWidget* ResultsPanel::MakeRatings() {
@@ -105,7 +107,7 @@ QWidget* ResultsPanel::MakeRatings() {
   // The place keeps its height when the rating goes, so that nothing moves.
   frame->setMinimumHeight(QFontMetrics(large).height() + kPageSpacing);
   due_ = Named("LabelEseguire", frame);
-  due_->setText(Text(context_.Words(), kNoResultRow));
+  due_->setText(Text(speech_.words, kNoResultRow));
   due_->setForegroundRole(QPalette::PlaceholderText);
   for (QLabel* label : {rating_name_, rating_, due_}) line->addWidget(label);
   c_ = Named("Label48_0", frame);
@@ -132,8 +134,8 @@ QWidget* ResultsPanel::MakeNumbers() {
   column->setSpacing(2);
   open_numbers_ = new QToolButton(frame);
   open_numbers_->setObjectName("PulsanteIndici");
-  open_numbers_->setText(Text(context_.Words(), kAllNumbersRow));
-  open_numbers_->setToolTip(Text(context_.Words(), kAllNumbersTipRow));
+  open_numbers_->setText(Text(speech_.words, kAllNumbersRow));
+  open_numbers_->setToolTip(Text(speech_.words, kAllNumbersTipRow));
   open_numbers_->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
   open_numbers_->setAutoRaise(true);
   open_numbers_->setCheckable(true);
@@ -150,16 +152,10 @@ QWidget* ResultsPanel::MakeChart() {
   auto* column = new QVBoxLayout(frame);
   column->setContentsMargins(0, 0, 0, 0);
   column->setSpacing(4);
-  const auto choose = context_.services.boxes.choose_file_to_save;
-  chart_ = new ChartView(
-      context_.Words(),
-      [choose](const QString& title, const QString& filter) {
-        return choose ? choose({.title = title, .filter = filter}) : QString();
-      },
-      [tell = context_.services.boxes.tell](const QString& text) { tell(Tone::kCritical, text); }, frame);
-  autoscale_ = new QCheckBox(Text(context_.Words(), kAutoscaleRow), frame);
+  chart_ = new ChartView(speech_, frame);
+  autoscale_ = new QCheckBox(Text(speech_.words, kAutoscaleRow), frame);
   autoscale_->setObjectName("Check3");
-  connect(autoscale_, &QCheckBox::clicked, this, [this] { ShowChart(); });
+  connect(autoscale_, &QCheckBox::clicked, this, &ResultsPanel::ShowChart);
   column->addWidget(chart_, 1);
   column->addWidget(autoscale_, 0, Qt::AlignRight);
   return frame;
@@ -170,19 +166,20 @@ QWidget* ResultsPanel::MakeSection() {
   auto* column = new QVBoxLayout(section_frame_);
   column->setContentsMargins(0, 0, 0, 0);
   column->setSpacing(4);
-  auto* heading = new QLabel(Text(context_.Words(), kSectionRow), section_frame_);
+  auto* heading = new QLabel(Text(speech_.words, kSectionRow), section_frame_);
   heading->setObjectName("Label10_0");
   heading->setForegroundRole(QPalette::PlaceholderText);
   section_ = new SectionView(section_frame_);
+  connect(section_, &SectionView::LayerHovered, this, &ResultsPanel::LayerHovered);
   column->addWidget(heading);
   column->addWidget(section_, 1);
   return section_frame_;
 }
 
 void ResultsPanel::Show() {
-  const elements::Setup& setup = context_.open.Setup();
+  const elements::Setup& setup = open_.Setup();
   if (!setup.calculation) return;
-  const auto& result = context_.open.Result();
+  const auto& result = open_.Result();
   ShowRatings(setup, result ? &*result : nullptr);
   ShowChart();
   section_frame_->setVisible(RowOf(*setup.calculation).family != elements::Family::kFacade);
@@ -210,7 +207,7 @@ void ResultsPanel::ShowRatings(const elements::Setup& setup, const elements::Res
   const elements::Family family = RowOf(calculation).family;
   const bool lining = IsLining(family);
   for (QLabel* term : {c_, ctr_})
-    term->setToolTip(lining ? Text(context_.Words(), kLiningTermsTipRow) : QString());
+    term->setToolTip(lining ? Text(speech_.words, kLiningTermsTipRow) : QString());
   const bool improves = lining || RowOf(calculation).model == elements::Model::kFloatingScreedFloor;
   improvement_->setText(Decibels(shown.delta_rw));
   improvement_frame_->setVisible(improves && rated);
@@ -220,8 +217,8 @@ void ResultsPanel::ShowRatings(const elements::Setup& setup, const elements::Res
 }
 
 void ResultsPanel::ShowNumbers() {
-  const elements::Setup& setup = context_.open.Setup();
-  const auto& result = context_.open.Result();
+  const elements::Setup& setup = open_.Setup();
+  const auto& result = open_.Result();
   std::vector<elements::SingleNumber> numbers;
   if (result && setup.calculation) numbers = elements::SingleNumbersOf(*result, *setup.calculation);
   const bool open = open_numbers_->isChecked() && !numbers.empty();
@@ -232,31 +229,20 @@ void ResultsPanel::ShowNumbers() {
 }
 
 void ResultsPanel::ShowChart() {
-  const auto& result = context_.open.Result();
-  shown_ =
-      result ? presentation::CurveChartOf(context_.open.Setup(), *result, context_.Words()) : std::nullopt;
+  const auto& result = open_.Result();
+  shown_ = result ? presentation::CurveChartOf(open_.Setup(), *result, speech_.words) : std::nullopt;
   autoscale_->setEnabled(result.has_value());
   if (shown_) {
     shown_->autoscale = autoscale_->isChecked();
-    if (context_.services.lay_over) context_.services.lay_over(*shown_);
+    if (overlay_ != nullptr) overlay_->LayOver(*shown_);
   }
   // A result without a curve says so in its place.
-  const std::string note = result && !shown_ ? context_.Words()(kRatingsOnlyRow) : std::string();
-  chart_->Show(shown_ ? *shown_ : presentation::EmptyChartOf(context_.open.Setup(), note, context_.Words()));
+  const std::string note = result && !shown_ ? speech_.words(kRatingsOnlyRow) : std::string();
+  chart_->Show(shown_ ? *shown_ : presentation::EmptyChartOf(open_.Setup(), note, speech_.words));
 }
 
 void ResultsPanel::Highlight(const std::optional<presentation::LayerPlace>& place) {
   section_->Highlight(place);
-}
-
-void ResultsPanel::OnHover(std::function<void(const std::optional<presentation::LayerPlace>&)> on_hover) {
-  section_->OnHover(std::move(on_hover));
-}
-
-std::optional<presentation::CurveChart> ShownChart(const QWidget* window) {
-  const auto* panel =
-      window != nullptr ? dynamic_cast<const ResultsPanel*>(window->findChild<QWidget*>(kPanel)) : nullptr;
-  return panel != nullptr ? panel->Chart() : std::nullopt;
 }
 
 }  // namespace velmar::shell

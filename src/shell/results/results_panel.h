@@ -3,9 +3,11 @@
 #include <QWidget>
 #include <optional>
 
+#include "calculation/open_calculation.h"
 #include "presentation/drawing/curve_chart.h"
+#include "presentation/drawing/section.h"
 #include "shell/fields/boxes.h"
-#include "shell/pages/page_context.h"
+#include "shell/results/chart_overlay.h"
 
 class QCheckBox;
 class QLabel;
@@ -21,18 +23,25 @@ class SingleNumbersPanel;
 /// The right side of the window (`prnFrame1`): single-number results, curve chart, section drawing. Shows the
 /// open calculation and changes nothing of it.
 class ResultsPanel : public QWidget {
+  Q_OBJECT
  public:
-  explicit ResultsPanel(const PageContext& context, QWidget* parent = nullptr);
+  /// @param open and what follows outlive the panel
+  /// @param overlay further curves; none: the chart shows the result alone
+  ResultsPanel(const calculation::OpenCalculation& open, const Speech& speech, ChartOverlay* overlay,
+               QWidget* parent = nullptr);
 
   /// Shows set-up and result as they are now.
   void Show();
   void Highlight(const std::optional<presentation::LayerPlace>& place);
-  void OnHover(std::function<void(const std::optional<presentation::LayerPlace>&)> on_hover);
 
   /// The chart as it is shown, with its scale and overlays; nothing without a result or a curve.
   const std::optional<presentation::CurveChart>& Chart() const { return shown_; }
 
   QSplitter* Splitter() const { return splitter_; }
+
+ signals:
+  /// The layer of the section under the mouse; nothing: none.
+  void LayerHovered(const std::optional<velmar::presentation::LayerPlace>& place);
 
  private:
   QWidget* MakeRatings();
@@ -45,7 +54,9 @@ class ResultsPanel : public QWidget {
   void ShowNumbers();
   void ShowChart();
 
-  const PageContext& context_;
+  const calculation::OpenCalculation& open_;
+  const Speech& speech_;
+  ChartOverlay* overlay_ = nullptr;
   QLabel* rating_name_ = nullptr;
   QLabel* rating_ = nullptr;
   QLabel* due_ = nullptr;
@@ -64,8 +75,5 @@ class ResultsPanel : public QWidget {
   SectionView* section_ = nullptr;
   QSplitter* splitter_ = nullptr;
 };
-
-/// The chart that the results panel of `window` shows; nothing when there is none.
-std::optional<presentation::CurveChart> ShownChart(const QWidget* window);
 
 }  // namespace velmar::shell

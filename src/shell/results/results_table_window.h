@@ -14,6 +14,7 @@ namespace velmar::shell {
 
 /// The results table (`Form4`): 21 bands and the single numbers, which can be copied.
 class ResultsTableWindow : public QDialog {
+  Q_OBJECT
  public:
   ResultsTableWindow(const presentation::ResultsTable& table, const presentation::Words& words,
                      QWidget* parent = nullptr);

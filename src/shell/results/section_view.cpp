@@ -34,13 +34,13 @@ void SectionView::paintEvent(QPaintEvent* /*event*/) {
 void SectionView::mouseMoveEvent(QMouseEvent* event) {
   const auto place = presentation::LayerAt(event->position(), QRectF(rect()), section_, font());
   Highlight(place);
-  if (on_hover_) on_hover_(place);
+  emit LayerHovered(place);
 }
 
 void SectionView::leaveEvent(QEvent* event) {
   QWidget::leaveEvent(event);
   Highlight(std::nullopt);
-  if (on_hover_) on_hover_(std::nullopt);
+  emit LayerHovered(std::nullopt);
 }
 
 }  // namespace velmar::shell

@@ -12,6 +12,7 @@ namespace velmar::shell {
 
 /// The loader (`FormLoaderIniziale`): product, version, and how far the load has come.
 class LoaderWindow : public QDialog {
+  Q_OBJECT
  public:
   LoaderWindow(const presentation::Words& words, const QString& version, QWidget* parent = nullptr);
 

@@ -21,6 +21,7 @@
 #include "shell/fields/dark_outlines.h"
 #include "shell/fields/phrases.h"
 #include "shell/main_window/main_window.h"
+#include "shell/start/desktop_application.h"
 #include "shell/start/loader_window.h"
 #include "shell/start/store_opening.h"
 #include "storage/configuration/program_folder.h"
@@ -112,20 +113,24 @@ struct Desktop {
       storage::SaveProject(file, setup, unknown);
     };
     structure_commands = std::make_unique<StructureCommands>(
-        services,
+        open, services, services.places.settings,
         structures::LibraryPlaces{environment.configuration.CartellaLibreria(),
                                   environment.configuration.CartellaImmagini(),
                                   environment.configuration.PercorsoDatabaseTeorico()},
         std::make_shared<storage::AccessSession>(
             storage::AccessReader{storage::AccessReaderProgram(storage::ProgramFolder()).value_or("")}));
-    material_commands =
-        std::make_unique<MaterialCommands>(services, store.File(), EditorOf(store, services.words));
+    material_commands = std::make_unique<MaterialCommands>(open, services, services.places.settings,
+                                                           store.File(), EditorOf(store, services.words));
+    paper_commands = std::make_unique<PaperCommands>(PaperBoxes(services));
+    report_commands = std::make_unique<ReportCommands>(environment.configuration.CartellaTemplates());
+    services.Add(*structure_commands);
+    services.Add(*material_commands);
+    services.paper_commands = paper_commands.get();
+    services.report_commands = report_commands.get();
     services.open_address = [](const QString& address) { return QDesktopServices::openUrl(QUrl(address)); };
     services.start_program = [](const std::filesystem::path& program) {
       return QProcess::startDetached(QString::fromStdString(program.string()), {});
     };
-    AddPaperCommands(services, PaperBoxes(services));
-    AddReportCommands(services, environment.configuration.CartellaTemplates());
   }
 
   void Tell(const Message& message) const {
@@ -139,6 +144,8 @@ struct Desktop {
   WindowServices services{open};
   std::unique_ptr<StructureCommands> structure_commands{};
   std::unique_ptr<MaterialCommands> material_commands{};
+  std::unique_ptr<PaperCommands> paper_commands{};
+  std::unique_ptr<ReportCommands> report_commands{};
 };
 
 /// `CaricaDatabase`. Failures are told; the window opens with what there is.
@@ -159,13 +166,14 @@ void Load(Desktop& desktop, LoaderWindow& loader) {
   }
 }
 
-int RunWindow(QApplication& application, Desktop& desktop) {
+int RunWindow(DesktopApplication& application, Desktop& desktop) {
   for (const Message& warning : desktop.environment.warnings) desktop.Tell(warning);
   {
     LoaderWindow loader(desktop.services.words, desktop.services.version);
     Load(desktop, loader);
   }
   MainWindow window(desktop.services);
+  QObject::connect(&application, &DesktopApplication::Failed, &window, &MainWindow::SurviveFailure);
   window.show();
   // Boxes of the start stand over a window that is there.
   QTimer::singleShot(0, &window, [&window, &application] {
@@ -178,7 +186,7 @@ int RunWindow(QApplication& application, Desktop& desktop) {
 
 }  // namespace
 
-int RunDesktop(QApplication& application) {
+int RunDesktop(DesktopApplication& application) {
   AddDarkOutlines(application);
   try {
     Desktop desktop(OpenEnvironmentOnScreen(QApplication::applicationVersion()));

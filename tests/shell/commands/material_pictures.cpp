@@ -17,10 +17,12 @@ int main(int argc, char** argv) {
   if (arguments.size() < 5) return 2;
   velmar::shell::SetLooks(arguments.at(2) == "dark");
   velmar::shell::WindowFixture fixture;
-  const velmar::shell::MaterialCommands commands(
-      fixture.services, std::filesystem::path(SHARE) / "Databases" / "Database" / "Database.mdb",
+  velmar::shell::MaterialCommands commands(
+      fixture.open, fixture.services, {},
+      std::filesystem::path(SHARE) / "Databases" / "Database" / "Database.mdb",
       [](auto&&...) { return std::nullopt; });
-  fixture.window = std::make_unique<velmar::shell::MainWindow>(fixture.services);
+  fixture.services.Add(commands);
+  fixture.MakeWindow();
   fixture.window->show();
   fixture.Find<QAction>(arguments.at(3))->trigger();
   auto* window = fixture.Find<QDialog>(arguments.at(4));

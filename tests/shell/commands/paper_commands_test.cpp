@@ -44,7 +44,8 @@ Drawn DrawnOf(const presentation::PaginaDiStampa& page) {
 /// A main window with an example that was run, and boxes that answer.
 struct Program {
   explicit Program(const QString& example = "parete-forato-intonacata") {
-    AddPaperCommands(fixture.services, Boxes());
+    fixture.services.paper_commands = &commands;
+    fixture.MakeWindow();
     fixture.window->OpenProject((QString(EXAMPLES) + '/' + example + ".drav").toStdString());
     fixture.Run();
   }
@@ -71,12 +72,12 @@ struct Program {
   }
 
   presentation::PaginaDiStampa Page() const {
-    return DocumentOf(fixture.services, fixture.window.get()).page;
+    return DocumentOf(fixture.open, fixture.services.words, fixture.Results().Chart(), {}).page;
   }
 
   /// As the comparison window does while it is open.
   void Compare(double level_db, const std::string& name) {
-    fixture.services.lay_over = [=](presentation::CurveChart& chart) {
+    fixture.overlay.lay_over = [=](presentation::CurveChart& chart) {
       chart.laboratory.emplace().fill(level_db);
       chart.laboratory_name = name;
     };
@@ -85,6 +86,7 @@ struct Program {
 
   void TickAutoscale() const { fixture.Find<QCheckBox>("Check3")->click(); }
 
+  PaperCommands commands{Boxes()};
   WindowFixture fixture;
   QString print_file;
   QString pdf;
@@ -124,9 +126,12 @@ class PaperCommandsTest : public QObject {
 
   void thePdfIsOfferedBesideTheProject() {
     const Program program;
-    QCOMPARE(DocumentOf(program.fixture.services, program.fixture.window.get()).pdf_start,
+    const auto document = [&](const std::filesystem::path& project) {
+      return DocumentOf(program.fixture.open, program.fixture.services.words, std::nullopt, project);
+    };
+    QCOMPARE(document(program.fixture.window->windowFilePath().toStdString()).pdf_start,
              QString(EXAMPLES) + "/parete-forato-intonacata.pdf");
-    QVERIFY(DocumentOf(program.fixture.services, nullptr).pdf_start.isEmpty());
+    QVERIFY(document({}).pdf_start.isEmpty());
   }
 
   void thePageKeepsTheScaleOfTheScreen() {
@@ -165,7 +170,7 @@ class PaperCommandsTest : public QObject {
   void thePageKeepsWhatTheScreenWasLastDrawnWith() {
     Program program;
     program.Compare(45.0, "Parete P7");
-    program.fixture.services.lay_over = {};
+    program.fixture.overlay.lay_over = {};
     QVERIFY(DrawnOf(program.Page()).texts.contains("Dati di lab."));
     program.TickAutoscale();
     QVERIFY(!DrawnOf(program.Page()).texts.contains("Dati di lab."));

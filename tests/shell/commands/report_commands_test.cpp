@@ -76,7 +76,8 @@ struct Program {
   Program() {
     for (const Report& report : {kWord, kExcel})
       QFile::copy(Shipped(report.template_name), folder.filePath(report.template_name));
-    AddReportCommands(fixture.services, folder.path().toStdString());
+    fixture.services.report_commands = &commands;
+    fixture.MakeWindow();
     fixture.window->OpenProject(EXAMPLES "/parete-forato-intonacata.drav");
     fixture.Run();
   }
@@ -97,6 +98,7 @@ struct Program {
   }
 
   QTemporaryDir folder;
+  ReportCommands commands{folder.path().toStdString()};
   WindowFixture fixture;
 };
 
@@ -224,7 +226,7 @@ class ReportCommandsTest : public QObject {
 
   void theReportNamesWhatTheChartIsComparedWith() {
     Program program;
-    program.fixture.services.lay_over = [](presentation::CurveChart& chart) {
+    program.fixture.overlay.lay_over = [](presentation::CurveChart& chart) {
       chart.in_situ.emplace().fill(45.0);
       chart.in_situ_name = "Cantiere & prova";
     };

@@ -85,16 +85,16 @@ class StructureCommandsTest : public QObject {
     auto* comparison = program.fixture.Find<QDialog>("Form8");
     StoresProgram::OpenEntry(*comparison, "TreeView1", kResultsName, "List1", "Parete x");
     presentation::CurveChart chart;
-    program.fixture.services.lay_over(chart);
+    program.commands->Comparison().LayOver(chart);
     QVERIFY(!chart.laboratory.has_value());
     comparison->findChild<QCheckBox*>("Check1")->click();
-    program.fixture.services.lay_over(chart);
+    program.commands->Comparison().LayOver(chart);
     QVERIFY(chart.laboratory.has_value());
     QCOMPARE((*chart.laboratory)[0], 33.25);
     program.fixture.open.DropResult();
     QVERIFY(!comparison->isVisible());
     chart = {};
-    program.fixture.services.lay_over(chart);
+    program.commands->Comparison().LayOver(chart);
     QVERIFY(!chart.laboratory.has_value());
   }
 
@@ -124,15 +124,15 @@ class StructureCommandsTest : public QObject {
     comparison->close();
     presentation::CurveChart chart;
     chart.values = *program.fixture.open.Result()->spectrum;
-    program.fixture.services.lay_over(chart);
+    program.commands->Comparison().LayOver(chart);
     QVERIFY(chart.laboratory.has_value());
     // The same window again: nothing is ticked, the drawing stands.
     program.fixture.Find<QToolButton>("Toolbar1_13")->click();
     QVERIFY(!program.fixture.Find<QCheckBox>("Check1")->isChecked());
-    program.fixture.services.lay_over(chart);
+    program.commands->Comparison().LayOver(chart);
     QVERIFY(chart.laboratory.has_value());
     chart.autoscale = true;
-    program.fixture.services.lay_over(chart);
+    program.commands->Comparison().LayOver(chart);
     QVERIFY(!chart.laboratory.has_value());
   }
 
@@ -270,7 +270,7 @@ class StructureCommandsTest : public QObject {
     auto* comparison = program.fixture.Find<QDialog>("Form8");
     StoresProgram::OpenEntry(*comparison, "TreeView1", kResultsName, "List1", program.name);
     comparison->findChild<QCheckBox*>("Check1")->click();
-    const auto chart = ShownChart(program.fixture.window.get());
+    const auto& chart = program.fixture.Results().Chart();
     QVERIFY(chart.has_value());
     QCOMPARE(chart->first_band, std::size_t{3});
     QCOMPARE(chart->last_band, std::size_t{18});

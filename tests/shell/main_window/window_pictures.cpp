@@ -14,8 +14,7 @@ int main(int argc, char** argv) {
   velmar::shell::SetLooks(arguments.at(4) == "dark");
   velmar::shell::WindowFixture fixture;
   fixture.services.places.examples = EXAMPLES;
-  fixture.window.reset();
-  fixture.window = std::make_unique<velmar::shell::MainWindow>(fixture.services);
+  fixture.MakeWindow();
   if (arguments.at(5) != "-") {
     fixture.window->OpenProject(arguments.at(5).toStdString());
     if (arguments.size() > 7) {

@@ -55,8 +55,7 @@ class Tour {
     fixture_.save = false;
     fixture_.services.places.examples = EXAMPLES;
     fixture_.services.places.settings = folder_.filePath("finestra.ini").toStdString();
-    fixture_.window.reset();
-    fixture_.window = std::make_unique<MainWindow>(fixture_.services);
+    fixture_.MakeWindow();
     fixture_.window->resize(size);
     fixture_.window->show();
   }
@@ -95,7 +94,7 @@ class Tour {
     const auto& words = fixture_.services.words;
     Show(DimensionDialog(fixture_.open, words), "dimensioni");
     Show(ProjectInformationDialog(fixture_.open, words), "informazioni");
-    Show(AboutBox(words, fixture_.services.version, "https://example.org", {}), "informazioni-su");
+    Show(AboutBox(words, fixture_.services.version, "https://example.org"), "informazioni-su");
     fixture_.Choose("TIPO_PARETE_SINGOLA_0");
     fixture_.Run();
     fixture_.Choose("tab_risultati");

@@ -67,12 +67,7 @@ class MaterialListsTest : public QObject {
   void theEditorStoresAMaterialThatIsThenPicked() {
     MaterialsProgram program;
     program.edit = {};
-    program.fixture.window.reset();
-    program.commands =
-        std::make_unique<MaterialCommands>(program.fixture.services, program.store.File(),
-                                           EditorOf(program.store, program.fixture.services.words));
-    program.fixture.window = std::make_unique<MainWindow>(program.fixture.services);
-    program.fixture.window->show();
+    program.MakeWindow(EditorOf(program.store, program.fixture.services.words));
     program.fixture.Choose("TIPO_PARETE_SINGOLA_0");
     program.fixture.Find<QToolButton>("Command1_0")->click();
     auto* window = program.fixture.Find<QDialog>("Form2");

@@ -104,7 +104,7 @@ class DialogsTest : public QObject {
 
   void theAboutBoxTellsTheVersion() {
     WindowFixture fixture;
-    const AboutBox box(fixture.services.words, "2.0.1", {}, {});
+    const AboutBox box(fixture.services.words, "2.0.1", {});
     QCOMPARE(box.findChild<QLabel*>("LabelVersione")->text(), QString("VELMARpro 2.0.1"));
     QVERIFY(box.findChild<QLabel*>("LbWebSite") == nullptr);
   }

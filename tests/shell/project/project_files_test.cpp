@@ -76,8 +76,7 @@ class ProjectFilesTest : public QObject {
     {
       WindowFixture lost;
       lost.services.places.recovery = recovery;
-      lost.window.reset();
-      lost.window = std::make_unique<MainWindow>(lost.services);
+      lost.MakeWindow();
       lost.Choose(kSingleGeneric);
       lost.Type("Text5_0", "77");
       lost.window->close();
@@ -85,8 +84,7 @@ class ProjectFilesTest : public QObject {
     }
     WindowFixture next;
     next.services.places.recovery = recovery;
-    next.window.reset();
-    next.window = std::make_unique<MainWindow>(next.services);
+    next.MakeWindow();
     next.window->OfferRecovery();
     QCOMPARE(next.asked.size(), 1);
     QCOMPARE(next.Find<QLineEdit>("Text5_0")->text(), QString("77"));
@@ -96,8 +94,7 @@ class ProjectFilesTest : public QObject {
   void aClickOnTheStartScreenOpensAnExample() {
     WindowFixture fixture;
     fixture.services.places.examples = EXAMPLES;
-    fixture.window.reset();
-    fixture.window = std::make_unique<MainWindow>(fixture.services);
+    fixture.MakeWindow();
     fixture.window->show();
     auto* list = fixture.Find<QListWidget>("Esempi");
     QCOMPARE(list->count(), static_cast<int>(ProjectsIn(EXAMPLES).size()));

@@ -48,14 +48,20 @@ struct MaterialsProgram {
     std::filesystem::permissions(store.File(), std::filesystem::perms::owner_all);
     fixture.services.materials = storage::MaterialLookupIn(store.File());
     fixture.services.material_names = [this](MaterialFamily family) { return store.List(family); };
-    commands = std::make_unique<MaterialCommands>(
-        fixture.services, store.File(),
+    MakeWindow(
         [this](QWidget*, const WindowTools&, MaterialFamily, const std::string& name) { return edit(name); });
-    fixture.window.reset();
-    fixture.window = std::make_unique<MainWindow>(fixture.services);
-    fixture.window->show();
   }
   ~MaterialsProgram() { fixture.window.reset(); }
+
+  /// Makes the window anew, with editors of its own.
+  void MakeWindow(MaterialEditor editor) {
+    fixture.window.reset();
+    commands = std::make_unique<MaterialCommands>(
+        fixture.open, fixture.services, fixture.services.places.settings, store.File(), std::move(editor));
+    fixture.services.Add(*commands);
+    fixture.MakeWindow();
+    fixture.window->show();
+  }
 
   void Choose(elements::Calculation calculation) {
     fixture.open.Edit([&](elements::Setup& setup) {

@@ -34,10 +34,11 @@ fs::path StoresProgram::CopyLibrary() {
 
 void StoresProgram::OpenWindow() {
   fixture.window.reset();
-  fixture.services.result_gone = {};
   commands = std::make_unique<StructureCommands>(
-      fixture.services, places, std::make_shared<storage::AccessSession>(storage::AccessReader{}));
-  fixture.window = std::make_unique<MainWindow>(fixture.services);
+      fixture.open, fixture.services, fixture.services.places.settings, places,
+      std::make_shared<storage::AccessSession>(storage::AccessReader{}));
+  fixture.services.Add(*commands);
+  fixture.MakeWindow();
   fixture.window->show();
 }
 

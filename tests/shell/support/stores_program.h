@@ -36,6 +36,8 @@ struct StoresProgram {
   WindowFixture fixture;
   std::unique_ptr<StructureCommands> commands;
 
+  ~StoresProgram() { fixture.window.reset(); }
+
  private:
   void OpenWindow();
 };

@@ -99,6 +99,12 @@ WindowFixture::WindowFixture() {
   services.boxes.choose_file_to_save = [this](const FileQuestion&) { return file; };
   services.version = "2.0.0";
   open.Replace(FirstSetup());
+  services.overlay = &overlay;
+  MakeWindow();
+}
+
+void WindowFixture::MakeWindow() {
+  window.reset();
   window = std::make_unique<MainWindow>(services);
 }
 

@@ -2,18 +2,36 @@
 
 #include <QString>
 #include <QStringList>
+#include <functional>
+#include <memory>
 #include <optional>
 
 #include "shell/main_window/main_window.h"
+#include "shell/results/chart_overlay.h"
+#include "shell/results/results_panel.h"
 
 class QMimeData;
 
 namespace velmar::shell {
 
+/// What a comparison would lay over the chart.
+class LaidOver : public ChartOverlay {
+ public:
+  void LayOver(presentation::CurveChart& chart) override {
+    if (lay_over) lay_over(chart);
+  }
+
+  std::function<void(presentation::CurveChart&)> lay_over{};
+};
+
 /// A main window with the shipped materials and words, and boxes that answer without opening.
 struct WindowFixture {
   WindowFixture();
 
+  /// Makes the window anew, as the services are now.
+  void MakeWindow();
+  /// The results as they are shown.
+  const ResultsPanel& Results() const { return *window->findChild<ResultsPanel*>(); }
   /// Chooses the calculation of the menu entry `control`.
   void Choose(const char* control);
   void Choose(elements::Calculation calculation);
@@ -39,6 +57,7 @@ struct WindowFixture {
   QString file;                ///< answer of the file dialogs
 
   calculation::OpenCalculation open;
+  LaidOver overlay;
   WindowServices services{open};
   std::unique_ptr<MainWindow> window;
 };

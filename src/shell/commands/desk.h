@@ -1,0 +1,35 @@
+#pragma once
+
+#include "calculation/open_calculation.h"
+#include "shell/fields/boxes.h"
+
+class QWidget;
+
+namespace velmar::shell {
+
+class HelpCommands;
+class MaterialCommands;
+class OpenTable;
+class PaperCommands;
+class ProjectFiles;
+class ReportCommands;
+class ResultsPanel;
+class StructureCommands;
+
+/// What the commands of a main window work with; all of it outlives them. A null pointer stands for windows
+/// that this program does not have: a command that needs them says so.
+struct Desk {
+  QWidget& window;  ///< above which boxes and windows open
+  calculation::OpenCalculation& open;
+  const Speech& speech;
+  ProjectFiles& files;
+  OpenTable& table;
+  const ResultsPanel& results;
+  HelpCommands* help = nullptr;
+  StructureCommands* structures = nullptr;
+  MaterialCommands* materials = nullptr;
+  PaperCommands* paper = nullptr;
+  ReportCommands* reports = nullptr;
+};
+
+}  // namespace velmar::shell
