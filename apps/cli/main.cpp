@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "application/accuracy_file.h"
 #include "application/environment.h"
 #include "application/projects.h"
 #include "cli/output/failure_report.h"
@@ -37,6 +38,12 @@ velmar::cli::Services OpenServices(const std::optional<std::filesystem::path>& d
   services.material_database = environment.configuration.PercorsoDatabase();
   services.result_database = environment.configuration.PercorsoDatabaseTeorico();
   services.library_folder = environment.configuration.CartellaLibreria();
+  if (environment.shipped) {
+    services.validation_folder = *environment.shipped / velmar::application::kValidationFolder;
+    services.accuracy = [file = services.validation_folder / velmar::application::kPredictionsFile] {
+      return velmar::application::ReadAccuracy(file);
+    };
+  }
   services.access_reader = velmar::storage::AccessReaderProgram(velmar::storage::ProgramFolder())
                                .value_or(std::filesystem::path());
   const auto tell = [words = services.words](const velmar::Failure& failure) {

@@ -153,6 +153,18 @@ void AddImport(CLI::App& app, Parsed& parsed, const presentation::Words& words) 
   command->add_flag("--json", parsed.import.json, words({1209}));
 }
 
+void AddModels(CLI::App& app, Parsed& parsed, const presentation::Words& words) {
+  CLI::App* command = app.add_subcommand("models", words({1971}));
+  command->add_option("PROJECT", parsed.models.project, words({1244}))->required();
+  command->add_flag("--json", parsed.models.json, words({1209}));
+  AddAnswer(*command, parsed, words);
+}
+
+void AddValidate(CLI::App& app, Parsed& parsed, const presentation::Words& words) {
+  CLI::App* command = app.add_subcommand("validate", words({1970}));
+  command->add_flag("--json", parsed.validate.json, words({1209}));
+}
+
 }  // namespace
 
 void AddCommands(CLI::App& app, Parsed& parsed, const Services& services) {
@@ -171,6 +183,8 @@ void AddCommands(CLI::App& app, Parsed& parsed, const Services& services) {
   AddImport(app, parsed, words);
   AddReport(app, parsed, services);
   AddFacade(app, parsed, words);
+  AddModels(app, parsed, words);
+  AddValidate(app, parsed, words);
 }
 
 }  // namespace velmar::cli

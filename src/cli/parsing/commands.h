@@ -10,6 +10,7 @@
 #include "cli/commands/import_command.h"
 #include "cli/commands/library_command.h"
 #include "cli/commands/materials_command.h"
+#include "cli/commands/models_command.h"
 #include "cli/commands/rate_command.h"
 #include "cli/commands/report_command.h"
 #include "cli/commands/results_command.h"
@@ -17,6 +18,7 @@
 #include "cli/commands/save_command.h"
 #include "cli/commands/save_result_command.h"
 #include "cli/commands/services.h"
+#include "cli/commands/validate_command.h"
 
 namespace velmar::cli {
 
@@ -37,6 +39,8 @@ struct Parsed {
   ReportCommand report{};
   SaveResultCommand save_result{};
   FacadeCommand facade{};
+  ModelsCommand models{};
+  ValidateCommand validate{};
 };
 
 /// Tells `app` every command with its arguments and options; what is typed goes into `parsed`, which
