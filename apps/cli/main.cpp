@@ -1,6 +1,7 @@
 #include <clocale>
 #include <iostream>
 #include <span>
+#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -16,6 +17,8 @@
 #include "storage/materials/material_store.h"
 
 namespace {
+
+constexpr velmar::MessageRow kNoMeasurementsRow{1972};
 
 /// The user's templates; the shipped ones while the data folder has none.
 std::filesystem::path TemplateFolder(const velmar::application::Environment& environment) {
@@ -40,8 +43,15 @@ velmar::cli::Services OpenServices(const std::optional<std::filesystem::path>& d
   services.library_folder = environment.configuration.CartellaLibreria();
   if (environment.shipped) {
     services.validation_folder = *environment.shipped / velmar::application::kValidationFolder;
-    services.accuracy = [file = services.validation_folder / velmar::application::kPredictionsFile] {
-      return velmar::application::ReadAccuracy(file);
+    services.accuracy = [file = services.validation_folder / velmar::application::kPredictionsFile,
+                         words = services.words] {
+      try {
+        return velmar::application::ReadAccuracy(file);
+      } catch (const std::runtime_error& failure) {
+        // A run is worth its result also where nothing can be said of its error.
+        std::cerr << words(kNoMeasurementsRow) << ' ' << failure.what() << '\n';
+        return velmar::validation::Accuracy();
+      }
     };
   }
   services.access_reader = velmar::storage::AccessReaderProgram(velmar::storage::ProgramFolder())

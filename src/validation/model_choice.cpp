@@ -13,7 +13,7 @@ using enum ElementKind;
 
 constexpr std::array kRules = {
     ModelRule{kBrickAndClay, "Parete singola in laterizio UniveFerrara", kClayReasonRow},
-    ModelRule{kConcrete, kLayeredModel, kTransferMatrixReasonRow},
+    ModelRule{kConcrete, "Parete singola Generica", kHeavyReasonRow},
     ModelRule{kAeratedConcrete, kLayeredModel, kTransferMatrixReasonRow},
     ModelRule{kCalciumSilicate, kLayeredModel, kTransferMatrixReasonRow},
     ModelRule{kConcreteBlock, kLayeredModel, kTransferMatrixReasonRow},

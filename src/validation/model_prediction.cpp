@@ -7,7 +7,9 @@
 #include <variant>
 
 #include "models/layered/layered_element.h"
+#include "models/monolithic/monolithic_element.h"
 #include "validation/layered_input.h"
+#include "validation/monolithic_input.h"
 
 namespace velmar::validation {
 namespace {
@@ -43,6 +45,21 @@ std::optional<MeasuredSetup> FullestSetup(const MeasuredConstruction& constructi
   return setup;
 }
 
+/// `spectrum`, what `model` makes of `measured`, beside the measurement.
+std::optional<Prediction> PredictionOf(const MeasuredConstruction& construction,
+                                       const MeasuredSetup& measured, const char* model,
+                                       const acoustics::Spectrum& spectrum) {
+  std::optional<Prediction> prediction = RateAsMeasured(construction, spectrum);
+  if (!prediction) return std::nullopt;
+  prediction->measured = construction.id;
+  prediction->group = measured.group;
+  prediction->source = construction.source;
+  prediction->model = model;
+  prediction->kind = KindOf(measured.setup);
+  prediction->features = FeaturesOf(measured.setup);
+  return prediction;
+}
+
 void PredictLayeredOf(const MeasuredConstruction& construction, const MeasuredSetup& measured,
                       bool frame_known, PredictionOutcome& outcome) {
   const elements::Frame frame = frame_known ? construction.frame : elements::Frame::kNone;
@@ -51,16 +68,11 @@ void PredictLayeredOf(const MeasuredConstruction& construction, const MeasuredSe
     if (frame_known) outcome.refused.push_back({.id = construction.id, .reason = kLayeredModel});
     return;
   }
-  std::optional<Prediction> prediction = RateAsMeasured(construction, *spectrum);
-  if (!prediction) return;
-  prediction->measured = construction.id;
-  prediction->group = measured.group;
-  prediction->source = construction.source;
-  prediction->model = kLayeredModel;
-  prediction->kind = KindOf(measured.setup, frame);
-  prediction->frame_known = frame_known;
-  prediction->features = FeaturesOf(measured.setup);
-  outcome.predictions.push_back(std::move(*prediction));
+  if (auto prediction = PredictionOf(construction, measured, kLayeredModel, *spectrum)) {
+    prediction->kind = KindOf(measured.setup, frame);
+    prediction->frame_known = frame_known;
+    outcome.predictions.push_back(std::move(*prediction));
+  }
 }
 
 }  // namespace
@@ -86,9 +98,33 @@ PredictionOutcome PredictWithLayered(const elements::MeasuredData& data) {
   return outcome;
 }
 
+std::optional<acoustics::Spectrum> MonolithicSpectrum(const elements::Setup& setup) {
+  const auto element = MonolithicElementOf(setup);
+  if (!element) return std::nullopt;
+  const models::MonolithicOutcome outcome =
+      models::PredictMonolithic(*element, {.thick_wall = models::ThickWallForm::kEffectiveCriticalFrequency});
+  const auto* prediction = std::get_if<models::MonolithicPrediction>(&outcome);
+  return prediction != nullptr ? std::optional(prediction->reduction_index_db) : std::nullopt;
+}
+
+PredictionOutcome PredictWithMonolithic(const elements::MeasuredData& data) {
+  PredictionOutcome outcome;
+  for (const MeasuredConstruction& construction : data.constructions) {
+    for (const MeasuredSetup& measured : construction.setups) {
+      if (measured.quantity != MeasuredQuantity::kReduction) continue;
+      const auto spectrum = MonolithicSpectrum(measured.setup);
+      if (!spectrum) continue;
+      if (auto prediction = PredictionOf(construction, measured, kMonolithicModel, *spectrum)) {
+        outcome.predictions.push_back(std::move(*prediction));
+      }
+    }
+  }
+  return outcome;
+}
+
 PredictionOutcome PredictWithAllModels(const elements::MeasuredData& data) {
   PredictionOutcome all = PredictWithCalculations(data);
-  std::array new_models = {PredictWithLayered(data)};
+  std::array new_models = {PredictWithLayered(data), PredictWithMonolithic(data)};
   for (PredictionOutcome& further : new_models) {
     std::ranges::move(further.predictions, std::back_inserter(all.predictions));
     std::ranges::move(further.refused, std::back_inserter(all.refused));

@@ -19,6 +19,13 @@ PredictionOutcome PredictWithLayered(const elements::MeasuredData& data);
 std::optional<acoustics::Spectrum> LayeredSpectrum(const elements::Setup& setup,
                                                    elements::Frame frame = elements::Frame::kNone);
 
+/// The heavy single elements of `data` as the monolithic model predicts them, once for every set-up.
+PredictionOutcome PredictWithMonolithic(const elements::MeasuredData& data);
+
+/// The monolithic model's spectrum of R in dB for `setup`, in a laboratory; nothing where it does not apply
+/// or refuses a value.
+std::optional<acoustics::Spectrum> MonolithicSpectrum(const elements::Setup& setup);
+
 /// PredictWithCalculations() and all new models.
 PredictionOutcome PredictWithAllModels(const elements::MeasuredData& data);
 

@@ -9,6 +9,7 @@
 #include "validation/layered_input.h"
 #include "validation/model_choice.h"
 #include "validation/model_prediction.h"
+#include "validation/monolithic_input.h"
 #include "validation/text_rows.h"
 
 namespace velmar::validation {
@@ -72,6 +73,17 @@ Message LayeredInputs(const elements::Setup& setup) {
   return inputs;
 }
 
+Message MonolithicInputs(const elements::Setup& setup) {
+  const std::optional<models::MonolithicElement> element = MonolithicElementOf(setup);
+  if (!element) return {};
+  return {{kSizeInputRow,
+           " " + FormatShortest(element->length1_m) + " × " + FormatShortest(element->length2_m) + " m"},
+          {kLeafInputRow, Millimetres(element->thickness_m) + ", " + FormatFixed(element->density_kg_m3, 0) +
+                              " kg/m³, cL " + FormatFixed(element->longitudinal_speed_m_s, 0) + " m/s, η " +
+                              FormatFixed(element->internal_loss_factor, 3) + ", + " +
+                              FormatFixed(element->coating_mass_kg_m2, 1) + " kg/m²"}};
+}
+
 }  // namespace
 
 ModelRoute RouteOf(std::string_view id, const elements::Setup& setup) {
@@ -84,6 +96,12 @@ ModelRoute RouteOf(std::string_view id, const elements::Setup& setup) {
              .assumptions = {kLayeredAssumptionsRow},
              .limits = {kLayeredLimitsRow},
              .inputs = LayeredInputs(setup)};
+  } else if (id == kMonolithicModel) {
+    route = {.model = {kMonolithicNameRow},
+             .source = {kMonolithicSourceRow},
+             .assumptions = {kMonolithicAssumptionsRow},
+             .limits = {kMonolithicLimitsRow},
+             .inputs = MonolithicInputs(setup)};
   } else {
     const elements::Calculation calculation = elements::FindCalculation(id).value_or(*setup.calculation);
     const elements::CalculationRow& row = elements::RowOf(calculation);

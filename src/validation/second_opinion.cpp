@@ -62,6 +62,7 @@ ModelOpinion OpinionOf(std::string id, MessageLine name, std::string_view model,
 bool ReadTheSameFields(elements::Calculation one, elements::Calculation other) {
   const auto shape = [](elements::Calculation calculation) {
     const elements::CalculationRow& row = elements::RowOf(calculation);
+    if (row.family == Family::kSingle) return std::pair(row.family, elements::Orientation::kVerticalSingle);
     const bool two_leaves = row.family == Family::kDouble || row.family == Family::kSharp;
     return std::pair(two_leaves ? Family::kDouble : row.family, row.orientation);
   };
@@ -148,6 +149,7 @@ SecondOpinion FormOpinion(const Setup& setup, const std::optional<ResultSet>& re
         OpinionOf(kChosenCalculation, {std::string(chosen)}, chosen, setup, *result, accuracy));
   }
   AddModel(opinion, kLayeredModel, kLayeredNameRow, LayeredSpectrum(setup), setup, accuracy);
+  AddModel(opinion, kMonolithicModel, kMonolithicNameRow, MonolithicSpectrum(setup), setup, accuracy);
   const std::optional<ModelRule> rule = RuleFor(opinion.kind);
   if (rule) {
     if (auto marked = MarkedCalculation(setup, rule->model, accuracy))

@@ -66,7 +66,7 @@ TEST(SecondOpinion, SeparateFramesHaveTheIsolatedLeavesMarkedWhichAreRunBeside) 
 
 TEST(SecondOpinion, TheMarkedCalculationIsNotListedTwice) {
   EXPECT_EQ(Ids(OpinionOn(SetupOf("bhh-brick-255", Calculation::kSingleWallBrickFerrara))),
-            (std::vector<std::string>{"*calculation", "layered"}));
+            (std::vector<std::string>{"*calculation", "layered", "monolithic"}));
 }
 
 // The generic double wall hardly sees its cavity: on boards it is far too low, and the user is told.
@@ -132,7 +132,9 @@ TEST(ModelRules, NameOneKnownModelAKind) {
   std::set<ElementKind> kinds;
   for (const ModelRule& rule : ModelRules()) {
     EXPECT_TRUE(kinds.insert(rule.kind).second) << RowOf(rule.kind).id;
-    EXPECT_TRUE(rule.model == kLayeredModel || elements::FindCalculation(rule.model)) << rule.model;
+    EXPECT_TRUE(rule.model == kLayeredModel || rule.model == kMonolithicModel ||
+                elements::FindCalculation(rule.model))
+        << rule.model;
   }
   EXPECT_FALSE(RuleFor(ElementKind::kOther));
 }
@@ -148,6 +150,16 @@ TEST(ModelRoute, TellsWhatTheLayeredModelWasGiven) {
   EXPECT_EQ(route.inputs[4], (MessageLine{MessageRow{1963}, std::string(" 600 mm, "), MessageRow{1967},
                                           std::string(" 1E-06 m²/N")}));
   EXPECT_EQ(route.reason, MessageLine{MessageRow{1945}});
+}
+
+TEST(ModelRoute, TellsWhatTheMonolithicModelWasGiven) {
+  const ModelRoute route =
+      RouteOf(kMonolithicModel, SetupOf("bhh-brick-255", Calculation::kSingleWallGeneric));
+  ASSERT_EQ(route.inputs.size(), 2U);
+  EXPECT_EQ(route.inputs[1],
+            (MessageLine{MessageRow{1960},
+                         std::string(" 231 mm, 1891 kg/m³, cL 2700 m/s, η 0,010, + 43,2 kg/m²")}));
+  EXPECT_TRUE(route.reason.empty());
 }
 
 TEST(ModelRoute, OfTheChosenCalculationNamesItsTheory) {
