@@ -37,7 +37,7 @@ SeaCavity FilledCavity() {
   SeaFill wool{.name = "lana", .thickness_mm = 50, .density_kg_m3 = 40};
   wool.absorption.fill(0.6);
   return {
-      .type = SeaCavityType::kFillMassFillMassFill,
+      .type = SeaCavityType::kFibreMassFibreMassFibre,
       .depth_mm = 250,
       .fills = {wool, wool, wool},
       .masses = {SeaCavityMass{12.5, 720, 2.5, 0.02, 0.3, {}}, SeaCavityMass{12.5, 720, 2.5, 0.02, 0.3, {}}}};

@@ -12,6 +12,12 @@ if(VELMAR_SANITIZE)
   set(OPTIMISATION -O1)
 endif()
 set(CMAKE_CXX_FLAGS_RELWITHDEBINFO "${OPTIMISATION} -g1")
+# What is handed out: the same code, with what Debian hardens its programs by.
+set(CMAKE_CXX_FLAGS_RELEASE "${OPTIMISATION} -D_FORTIFY_SOURCE=2 -fstack-protector-strong")
+if(CMAKE_BUILD_TYPE STREQUAL Release)
+  set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+  add_link_options(-pie -Wl,-z,relro,-z,now)
+endif()
 
 find_program(CCACHE_PROGRAM ccache)
 if(CCACHE_PROGRAM)

@@ -1,9 +1,22 @@
 # add_layer(name SOURCES ... HEADERS ... USES layers... LIBRARIES outside libraries...)
 #
-# One static library a layer. USES is the only statement of whom a layer may know: the linker takes it, and
-# tests/architecture/check_layers.cmake reads it back to reject every #include that looks upward or sideways.
+# One static library a layer. USES is the only statement of whom a layer may know and LIBRARIES of what it takes
+# from outside: the linker reads them, and tests/architecture/check_layers.cmake reads them back to reject every
+# #include that looks upward or sideways, and what is named and not needed.
 set(LAYER_TABLE ${PROJECT_BINARY_DIR}/layers.cmake)
 file(WRITE ${LAYER_TABLE} "")
+set_property(GLOBAL PROPERTY VELMAR_FLOOR 0)
+
+# add_floor(rooms...): adds the folders of one floor. A layer may use any on the floors added before, and of its
+# own floor only those of its own room that were added before it.
+function(add_floor)
+  get_property(floor GLOBAL PROPERTY VELMAR_FLOOR)
+  math(EXPR floor "${floor} + 1")
+  set_property(GLOBAL PROPERTY VELMAR_FLOOR ${floor})
+  foreach(room IN LISTS ARGN)
+    add_subdirectory(${room})
+  endforeach()
+endfunction()
 
 function(add_layer name)
   cmake_parse_arguments(LAYER "" "" "SOURCES;HEADERS;USES;LIBRARIES" ${ARGN})
@@ -19,8 +32,11 @@ function(add_layer name)
                  BASE_DIRS ${PROJECT_SOURCE_DIR}/src FILES ${LAYER_HEADERS})
   target_link_libraries(${name} ${visibility} ${LAYER_USES} ${LAYER_LIBRARIES})
   file(RELATIVE_PATH folder ${PROJECT_SOURCE_DIR}/src ${CMAKE_CURRENT_SOURCE_DIR})
-  file(APPEND ${LAYER_TABLE} "list(APPEND folders ${folder})\nset(layer_of_${folder} ${name})\n"
-                             "set(${name}_uses ${LAYER_USES})\n")
+  string(REGEX REPLACE "/.*" "" room ${folder})
+  get_property(floor GLOBAL PROPERTY VELMAR_FLOOR)
+  file(APPEND ${LAYER_TABLE} "list(APPEND layers ${name})\nset(layer_of_${folder} ${name})\n"
+                             "set(floor_of_${name} ${floor})\nset(room_of_${name} ${room})\n"
+                             "set(${name}_uses ${LAYER_USES})\nset(${name}_libraries ${LAYER_LIBRARIES})\n")
 endfunction()
 
 # add_layer_test(layer sources...): one test program a layer, each of its tests known to CTest by name.

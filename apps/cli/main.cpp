@@ -12,13 +12,12 @@
 #include "cli/output/outcome_table.h"
 #include "cli/output/report_format.h"
 #include "cli/parsing/command_line.h"
+#include "foundation/message_rows.h"
 #include "report_formats.h"
 #include "storage/configuration/program_folder.h"
 #include "storage/materials/material_store.h"
 
 namespace {
-
-constexpr velmar::MessageRow kNoMeasurementsRow{1972};
 
 /// The user's templates; the shipped ones while the data folder has none.
 std::filesystem::path TemplateFolder(const velmar::application::Environment& environment) {
@@ -49,7 +48,7 @@ velmar::cli::Services OpenServices(const std::optional<std::filesystem::path>& d
         return velmar::application::ReadAccuracy(file);
       } catch (const std::runtime_error& failure) {
         // A run is worth its result also where nothing can be said of its error.
-        std::cerr << words(kNoMeasurementsRow) << ' ' << failure.what() << '\n';
+        std::cerr << words(velmar::kNoMeasurementsRow) << ' ' << failure.what() << '\n';
         return velmar::validation::Accuracy();
       }
     };

@@ -14,11 +14,11 @@ namespace {
 using storage::Cell;
 using storage::ColumnType;
 
-constexpr size_t kFirstLanguage = 2;  // behind "row" and "use"
+constexpr size_t kFirstLanguage = 3;  // behind "row", "name" and "use"
 
-std::vector<std::string> LanguagesOf(const storage::CsvTable& table, const std::filesystem::path& file) {
-  if (table.header.size() <= kFirstLanguage || table.header[0] != "row" || table.header[1] != "use") {
-    throw std::runtime_error(file.string() + ": the heading is not row, use and the languages");
+std::vector<std::string> LanguagesOf(const CsvTable& table, const std::filesystem::path& file) {
+  if (table.header.size() <= kFirstLanguage || table.header[0] != "row") {
+    throw std::runtime_error(file.string() + ": the heading is not row, name, use and the languages");
   }
   return {table.header.begin() + kFirstLanguage, table.header.end()};
 }
@@ -32,7 +32,7 @@ std::vector<Cell> TextsOf(const std::vector<std::string>& fields) {
 }
 
 /// @throws std::runtime_error when row n does not stand at place n
-std::vector<std::vector<Cell>> CatalogueRows(const storage::CsvTable& catalogue) {
+std::vector<std::vector<Cell>> CatalogueRows(const CsvTable& catalogue) {
   std::vector<std::vector<Cell>> rows;
   for (const std::vector<std::string>& fields : catalogue.rows) {
     rows.push_back(TextsOf(fields));
@@ -44,7 +44,7 @@ std::vector<std::vector<Cell>> CatalogueRows(const storage::CsvTable& catalogue)
   return rows;
 }
 
-std::vector<std::vector<Cell>> FurtherRows(const storage::CsvTable& further) {
+std::vector<std::vector<Cell>> FurtherRows(const CsvTable& further) {
   std::vector<std::vector<Cell>> rows;
   for (const std::vector<std::string>& fields : further.rows) {
     const std::optional<Cell> number = storage::ParseCell(ColumnType::kWhole, fields[0]);
@@ -59,8 +59,8 @@ std::vector<std::vector<Cell>> FurtherRows(const storage::CsvTable& further) {
 }  // namespace
 
 void BuildMessages(const std::filesystem::path& texts, const std::filesystem::path& file) {
-  const storage::CsvTable catalogue = ReadTableText(texts / "catalogue.csv");
-  const storage::CsvTable further = ReadTableText(texts / "texts.csv");
+  const CsvTable catalogue = ReadTableText(texts / "catalogue.csv");
+  const CsvTable further = ReadTableText(texts / "texts.csv");
   const std::vector<std::string> languages = LanguagesOf(catalogue, texts / "catalogue.csv");
   if (further.header != catalogue.header)
     throw std::runtime_error("texts.csv: other languages than catalogue.csv");

@@ -10,7 +10,7 @@
 
 namespace velmar::data_builder {
 
-storage::CsvTable ReadTableText(const std::filesystem::path& file) {
+CsvTable ReadTableText(const std::filesystem::path& file) {
   std::ifstream stream(file, std::ios::binary);
   if (!stream) throw std::runtime_error(file.string() + ": cannot be read");
   const std::string text{std::istreambuf_iterator<char>(stream), {}};
@@ -23,7 +23,7 @@ storage::CsvTable ReadTableText(const std::filesystem::path& file) {
 
 std::vector<std::vector<storage::Cell>> ReadRows(const std::filesystem::path& file,
                                                  const storage::TableSchema& schema) {
-  const storage::CsvTable table = ReadTableText(file);
+  const CsvTable table = ReadTableText(file);
   if (table.header.size() != schema.columns.size()) {
     throw std::runtime_error(file.string() + ": the heading does not have the columns of " + schema.name);
   }

@@ -11,7 +11,7 @@ namespace velmar::data_builder {
 
 /// The CSV table of a file.
 /// @throws std::runtime_error that names the file
-storage::CsvTable ReadTableText(const std::filesystem::path& file);
+CsvTable ReadTableText(const std::filesystem::path& file);
 
 /// The rows of a file whose heading must be the columns of `schema`, in their order.
 /// @throws std::runtime_error that names file, row and column of what is wrong

@@ -30,4 +30,9 @@ struct ImpactNumbers {
 /// that no rating exists; other such bands count as missing
 ImpactNumbers FindImpactNumbers(const BandLevels& impact_level);
 
+/// Delta Lw in whole dB of a topping that takes `improvement` from a floor (ISO 717-2, clause 5): 78 dB less
+/// the rating of the standard's reference floor with the topping, levels rounded to 0,1 dB and a sum of at
+/// most 32,0 dB. Nothing when a band from 100 Hz to 3150 Hz is missing or no level.
+std::optional<double> WeightedImpactImprovement(const BandLevels& improvement);
+
 }  // namespace velmar::acoustics

@@ -1,6 +1,7 @@
 #include "application/environment.h"
 
 #include "foundation/failure.h"
+#include "foundation/message_rows.h"
 #include "storage/configuration/documents_folder.h"
 #include "storage/configuration/first_start.h"
 #include "storage/configuration/program_folder.h"
@@ -13,9 +14,6 @@ namespace velmar::application {
 namespace {
 
 namespace fs = std::filesystem;
-
-constexpr MessageRow kShippedTextsRow{1149};
-constexpr MessageRow kReadOnlyRow{1159};
 
 Environment Configured(const std::optional<fs::path>& data_folder) {
   const storage::Configuration configured = storage::ReadConfiguration(
@@ -84,7 +82,7 @@ OpenedStores OpenStores(const Environment& environment, const StartTalk& talk) {
   const StorePlaces places = PlacesOf(environment);
   const OpenedStores opened{PrepareStore(Store::kMaterials, places, talk),
                             PrepareStore(Store::kResults, places, talk)};
-  Message read_only{{kReadOnlyRow}};
+  Message read_only{{kReadOnlyDatabasesRow}};
   const auto look = [&](bool usable, const fs::path& file) {
     if (usable && !storage::MayBeChanged(file)) read_only.push_back({file.string()});
   };

@@ -3,6 +3,7 @@
 #include <system_error>
 
 #include "foundation/failure.h"
+#include "foundation/message_rows.h"
 #include "storage/access/conversion.h"
 #include "storage/configuration/configuration.h"
 #include "storage/configuration/first_start.h"
@@ -17,23 +18,6 @@ namespace {
 
 namespace fs = std::filesystem;
 using storage::DatabaseCondition;
-
-constexpr MessageRow kDamagedRow{1104};
-constexpr MessageRow kLockedRow{1107};
-constexpr MessageRow kUnreadableRow{1113};
-constexpr MessageRow kSetAsideRow{1115};
-constexpr MessageRow kNoMaterialsRow{1147};
-constexpr MessageRow kNoResultsRow{1148};
-constexpr MessageRow kShippedTextsRow{1149};
-constexpr MessageRow kStillAccessRow{1150};
-constexpr MessageRow kReplacedRow{1151};
-constexpr MessageRow kWasMissingRow{1152};
-constexpr MessageRow kMissingRow{1153};
-constexpr MessageRow kLockedAccessRow{1154};
-constexpr MessageRow kSetAsideQuestionRow{1155};
-constexpr MessageRow kConvertingRow{1156};
-constexpr MessageRow kCheckingRow{1157};
-constexpr MessageRow kKeptRow{1158};
 
 struct StoreFacts {
   const char* name;       ///< below the data folder
@@ -72,7 +56,7 @@ class Preparation {
       case DatabaseCondition::kGood:
         return true;
       case DatabaseCondition::kMissing:
-        return Restored(AboutFile(kWasMissingRow), AboutFile(kMissingRow));
+        return Restored(AboutFile(kWasMissingRow), AboutFile(kMissingUnrestoredRow));
       case DatabaseCondition::kAccess:
         return Converted();
       case DatabaseCondition::kDamaged:
@@ -80,7 +64,7 @@ class Preparation {
       case DatabaseCondition::kUnreadable:
         return Unusable(AboutFile(kUnreadableRow));
       case DatabaseCondition::kLocked:
-        return Unusable(AboutFile(kLockedRow));
+        return Unusable(AboutFile(kDatabaseLockedRow));
     }
     return false;
   }
@@ -102,7 +86,7 @@ class Preparation {
       storage::SetAsideCompanions(file_);
       if (places_.shipped && *places_.shipped != places_.data_folder &&
           storage::RestoreShippedFile(places_.data_folder, *places_.shipped, facts_.name)) {
-        said.push_back({kReplacedRow});
+        said.push_back({kShippedInPlaceRow});
         talk_.warn(said);
         return true;
       }
@@ -117,7 +101,7 @@ class Preparation {
       const Message aside{{kSetAsideRow, " " + storage::SetAside(file_).string()}};
       return Restored(aside, aside);
     } catch (const storage::DatabaseFailure&) {
-      return Unusable(AboutFile(kDamagedRow));
+      return Unusable(AboutFile(kDatabaseDamagedRow));
     }
   }
 
@@ -155,7 +139,7 @@ class Preparation {
 
   bool SetAsideWhole() const {
     try {
-      const Message kept{{kKeptRow, " " + storage::RenameWithEnding(file_, ".originale").string()}};
+      const Message kept{{kKeptAsideRow, " " + storage::RenameWithEnding(file_, ".originale").string()}};
       return Restored(kept, kept);
     } catch (const fs::filesystem_error&) {
       return Unusable(AboutFile(kLockedAccessRow));

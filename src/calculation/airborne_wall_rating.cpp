@@ -3,14 +3,17 @@
 #include <optional>
 
 #include "acoustics/airborne_rating.h"
-#include "calculation/relation_choice.h"
+#include "foundation/message_rows.h"
 #include "models/relations/apply_relation.h"
 #include "models/relations/relation.h"
 
 namespace velmar::calculation {
 
-bool AskToLeaveRange(const RunRequest& request, const MessagePiece& check) {
-  return request.ask({{check}, {kGoOnRow}});
+bool AskToLeaveRange(const RunRequest& request, const acoustics::RangeLeft& range,
+                     elements::ResultSet& result) {
+  if (!request.ask({{range.check}, {kGoOnRow}})) return false;
+  result.ranges_left.push_back(range);
+  return true;
 }
 
 RunOutcome Declined() { return {.status = RunStatus::kDeclined}; }
@@ -21,9 +24,9 @@ RunOutcome RateWall(const RunRequest& request, elements::ResultSet result,
                                 .shift = acoustics::FindShift(result.spectrum.value())};
   const double model_rating = acoustics::RatingOfShift(rated.shift);
   result.relation_rating = model_rating;
-  if (const std::optional<models::RelationId> id = RelationOf(request.calculation)) {
-    const auto check = models::FirstRangeLeft(*id, relation);
-    if (check && !AskToLeaveRange(request, *check)) return Declined();
+  if (const auto id = RowOf(request.calculation).relation) {
+    const auto left = models::FirstRangeLeft(*id, relation);
+    if (left && !AskToLeaveRange(request, *left, result)) return Declined();
     const models::RelationValue value = models::EvaluateRelation(*id, relation);
     rated = models::ApplyRelation(rated, model_rating, value.rating_db);
     result.relation_rating = static_cast<double>(value.rating_db);

@@ -14,8 +14,10 @@ namespace velmar::calculation {
 RunOutcome RateWall(const RunRequest& request, elements::ResultSet result,
                     const models::RelationInput& relation);
 
-/// Asks `check`, followed by the line that asks whether to go on.
-bool AskToLeaveRange(const RunRequest& request, const MessagePiece& check);
+/// Asks about `range`, followed by the line that asks whether to go on. When the user does, `result` keeps
+/// it.
+bool AskToLeaveRange(const RunRequest& request, const acoustics::RangeLeft& range,
+                     elements::ResultSet& result);
 
 /// The outcome of a run whose question was answered with no.
 RunOutcome Declined();

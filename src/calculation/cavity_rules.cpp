@@ -3,15 +3,13 @@
 #include <algorithm>
 
 #include "calculation/count_rules.h"
-#include "calculation/select_calculation.h"
 #include "foundation/decimal.h"
+#include "foundation/message_rows.h"
 #include "foundation/rounding.h"
 
 namespace velmar::calculation {
 namespace {
 
-/// "The cavity depth must be above 0; 10 mm have been set."
-constexpr MessageRow kCavityDepthRow{141};
 constexpr const char* kFallbackDepth = "10";
 
 double LayersThickness(const elements::CavityLayers& layers) {
@@ -65,7 +63,7 @@ std::optional<Message> LeaveCavityDepth(elements::Setup& setup) {
   elements::Cavity& cavity = setup.cavity;
   std::optional<Message> told;
   if (!(ParseDecimal(cavity.depth_text).value_or(0.0) > 0.0)) {
-    told = Message{{kCavityDepthRow}};
+    told = Message{{kCavityDepthSetRow}};
     cavity.depth_text = kFallbackDepth;
   }
   if (FibreThicknessEnabled(setup)) {
@@ -73,6 +71,8 @@ std::optional<Message> LeaveCavityDepth(elements::Setup& setup) {
     RaiseDepthToFibre(cavity);
   }
   RaiseCavityDepthToLayers(setup);
+  if (told && cavity.depth_text != kFallbackDepth)
+    told = Message{{kContentDepthRow, " " + cavity.depth_text + " mm."}};
   return told;
 }
 
@@ -92,6 +92,7 @@ void EnterCavityLayerThickness(elements::Setup& setup, int index, const std::str
 }
 
 void ChooseCavityKind(elements::Setup& setup, elements::CavityKind kind) {
+  if (setup.cavity.kind == kind) return;
   setup.cavity.kind = kind;
   if (kind == elements::CavityKind::kGenericMaterial) {
     RaiseCavityDepthToLayers(setup);
@@ -111,7 +112,7 @@ bool RaiseCavityDepthToLayers(elements::Setup& setup) {
 
 bool FibreThicknessEnabled(const elements::Setup& setup) {
   return setup.cavity.kind == elements::CavityKind::kFibrous && setup.calculation &&
-         LayoutOf(*setup.calculation).fibre_thickness_shown;
+         RowOf(*setup.calculation).Reads(elements::Field::kFibreThickness);
 }
 
 }  // namespace velmar::calculation

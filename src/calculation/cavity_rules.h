@@ -36,7 +36,7 @@ void LeaveFibreThickness(elements::Setup& setup);
 /// layers' sum is raised. Empty, "," and "." are passed over.
 void EnterCavityLayerThickness(elements::Setup& setup, int index, const std::string& text);
 
-/// `Option2`(`kind`) is chosen.
+/// `Option2`(`kind`) is chosen; the one that is chosen already changes nothing.
 void ChooseCavityKind(elements::Setup& setup, elements::CavityKind kind);
 
 /// With "Materiale generico": a depth below the sum of the layers in use takes the sum. Otherwise nothing.

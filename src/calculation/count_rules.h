@@ -28,18 +28,22 @@ void EnterCavityCount(elements::Setup& setup, const std::string& text);
 /// `Combo15`: the number of facade components. A number above 9 leaves "9 ", with a blank behind it.
 void EnterComponentCount(elements::Setup& setup, const std::string& text);
 
-/// A thickness box holds `text` now. A number not above 0 becomes "10"; an empty box, or one that holds no
-/// number, leaves the layer as it was.
+/// A thickness box holds `text` now. An empty box, or one that holds no number, leaves the layer as it was.
 template <typename Material>
 void EnterThickness(elements::LayerRow<Material>& row, const std::string& text) {
   row.thickness_text = text;
-  std::optional<double> thickness_mm = ParseDecimal(text);
-  if (!thickness_mm) return;
-  if (!(*thickness_mm > 0.0)) {
-    thickness_mm = 10.0;
-    row.thickness_text = "10";
-  }
-  row.slot.thickness_mm = *thickness_mm;
+  if (const std::optional<double> thickness_mm = ParseDecimal(text)) row.slot.thickness_mm = *thickness_mm;
+}
+
+/// A thickness box is left: a number not above 0 becomes "10". While it is typed it stays, since "0" may be
+/// the beginning of "0,5".
+/// @return whether it did
+template <typename Material>
+bool LeaveThickness(elements::LayerRow<Material>& row) {
+  const std::optional<double> thickness_mm = ParseDecimal(row.thickness_text);
+  if (!thickness_mm || *thickness_mm > 0.0) return false;
+  EnterThickness(row, "10");
+  return true;
 }
 
 }  // namespace velmar::calculation

@@ -1,12 +1,10 @@
 #include "calculation/element_choice.h"
 
-#include <cmath>
-
 #include "foundation/decimal.h"
 
 namespace velmar::calculation {
 
-bool EnterElementNumber(std::string& box, const std::string& text) {
+void EnterElementNumber(std::string& box, const std::string& text) {
   const bool begun = text == "," || text == "." || text == "-";
   const bool kept = text.empty() || begun || ParseDecimal(text).has_value();
   if (kept) {
@@ -14,23 +12,24 @@ bool EnterElementNumber(std::string& box, const std::string& text) {
   } else {
     box.clear();
   }
-  return kept;
 }
 
-bool EnterComponentArea(std::string& box, const std::string& text) {
-  if (text != std::string_view(elements::kSmallElementArea)) return EnterElementNumber(box, text);
-  box = text;
-  return true;
+void EnterComponentArea(std::string& box, const std::string& text) {
+  if (text == std::string_view(elements::kSmallElementArea)) {
+    box = text;
+  } else {
+    EnterElementNumber(box, text);
+  }
 }
 
 std::optional<double> AreaShare(const elements::Setup& setup, int index) {
   const std::optional<double> whole_m2 = ParseDecimal(setup.base.area_text);
-  if (!whole_m2 || *whole_m2 == 0.0) return std::nullopt;
+  if (!whole_m2 || !(*whole_m2 > 0.0)) return std::nullopt;
   const std::string& text = setup.facade.components.at(static_cast<std::size_t>(index)).area_text;
   if (text == elements::kSmallElementArea) return 0.0;
   const std::optional<double> part_m2 = ParseDecimal(text);
-  if (!part_m2) return std::nullopt;
-  return std::abs(*part_m2) / std::abs(*whole_m2) * 100.0;
+  if (!part_m2 || *part_m2 < 0.0) return std::nullopt;
+  return *part_m2 / *whole_m2 * 100.0;
 }
 
 }  // namespace velmar::calculation

@@ -9,14 +9,13 @@ namespace velmar::calculation {
 
 /// `text` was typed into a box of ratings, terms or band values. Numbers, an empty box, and the
 /// beginnings ",", "." and "-" (of a negative term) are kept as typed; anything else empties the box.
-/// @return whether a result that stands may stay: it goes when the box was emptied
-bool EnterElementNumber(std::string& box, const std::string& text);
+void EnterElementNumber(std::string& box, const std::string& text);
 
 /// The same for the area of a component, which may also be "-" for a small element.
-bool EnterComponentArea(std::string& box, const std::string& text);
+void EnterComponentArea(std::string& box, const std::string& text);
 
 /// Share of the whole area that component `index` (from 0) takes, in percent; 0 for a small element, nothing
-/// while an area is missing. Decides nothing: the run checks the areas.
+/// while an area is missing or negative. Decides nothing: the run checks the areas.
 std::optional<double> AreaShare(const elements::Setup& setup, int index);
 
 }  // namespace velmar::calculation

@@ -4,19 +4,27 @@
 #include <optional>
 
 #include "foundation/decimal.h"
-#include "foundation/failure.h"
+#include "foundation/message_rows.h"
 
 namespace velmar::calculation {
 
-double EnteredNumber(const std::string& text) {
+FieldFailure::FieldFailure(const std::string& text, const elements::FieldId& field)
+    : ArithmeticFailure(MessageLine{kNotANumberRow, " \"" + text + "\""}, "\"" + text + "\" is no number"),
+      field_(field) {}
+
+double EnteredNumber(const std::string& text, const elements::FieldId& field) {
   const std::optional<double> number = ParseDecimal(text);
   if (number) return *number;
-  throw ArithmeticFailure(MessageLine{kNoNumberRow, " \"" + text + "\""}, "\"" + text + "\" is no number");
+  throw FieldFailure(text, field);
 }
 
-double EnteredNumberOrZero(const std::string& text) { return text.empty() ? 0.0 : EnteredNumber(text); }
+double EnteredNumberOrZero(const std::string& text, const elements::FieldId& field) {
+  return text.empty() ? 0.0 : EnteredNumber(text, field);
+}
 
-double EnteredLength(const std::string& text) { return std::abs(EnteredNumber(text)); }
+double EnteredLength(const std::string& text, const elements::FieldId& field) {
+  return std::abs(EnteredNumber(text, field));
+}
 
 std::vector<models::PlateLayer> PlateLayers(const elements::LeafLayers& leaf) {
   std::vector<models::PlateLayer> layers;

@@ -3,8 +3,10 @@
 #include <string>
 #include <vector>
 
+#include "elements/fields.h"
 #include "elements/layers.h"
 #include "elements/setup.h"
+#include "foundation/failure.h"
 #include "foundation/message.h"
 #include "models/floors/resilient_mats.h"
 #include "models/plates/plate_layer.h"
@@ -13,20 +15,27 @@ namespace velmar::calculation {
 
 // The one place where what was typed becomes the numbers of a model.
 
-/// "The value is not a number:"; the text follows.
-inline constexpr MessageRow kNoNumberRow{1012};
+/// A field holds no number.
+class FieldFailure : public ArithmeticFailure {
+ public:
+  FieldFailure(const std::string& text, const elements::FieldId& field);
+  const elements::FieldId& Field() const noexcept { return field_; }
 
-/// The number in a field.
-/// @throws ArithmeticFailure when the text is none, naming it
-double EnteredNumber(const std::string& text);
+ private:
+  elements::FieldId field_;
+};
 
-/// The number in a field, 0 when it is empty.
-/// @throws ArithmeticFailure when the text is none, naming it
-double EnteredNumberOrZero(const std::string& text);
+/// The number that `text` is, as it stands in `field`.
+/// @throws FieldFailure when it is none
+double EnteredNumber(const std::string& text, const elements::FieldId& field);
+
+/// The same, 0 when the field is empty.
+/// @throws FieldFailure when the text is none
+double EnteredNumberOrZero(const std::string& text, const elements::FieldId& field);
 
 /// A length in a field: the number without its sign.
-/// @throws ArithmeticFailure when the text is none, naming it
-double EnteredLength(const std::string& text);
+/// @throws FieldFailure when the text is none
+double EnteredLength(const std::string& text, const elements::FieldId& field);
 
 /// The rows of a leaf that are in use, as a plate model reads them.
 std::vector<models::PlateLayer> PlateLayers(const elements::LeafLayers& leaf);

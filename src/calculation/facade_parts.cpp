@@ -34,14 +34,12 @@ std::string BoxText(const std::optional<double>& value) {
   return value ? FormatShortest(*value) : std::string();
 }
 
-void TakeAsOpaquePart(elements::Setup& setup, const FacadePart& part) {
+void TakeAsOpaquePart(elements::Setup& setup, const FacadePart& part) { TakeValues(setup.base, part); }
+
+void TakeAsLiningBase(elements::Setup& setup, const FacadePart& part) {
   TakeValues(setup.base, part);
   const bool takes_area = part.origin == PartOrigin::kMeasurement || setup.base.area_text.empty();
   if (takes_area && part.area_m2) setup.base.area_text = BoxText(part.area_m2);
-}
-
-void TakeAsLiningBase(elements::Setup& setup, const FacadePart& part) {
-  TakeAsOpaquePart(setup, part);
   setup.base.thickness_mm = part.thickness_mm.value_or(0.0);
 }
 

@@ -42,11 +42,12 @@ struct FacadePart {
 /// `value` as a box holds it: the shortest text that gives it back, with a decimal comma; empty for nothing.
 std::string BoxText(const std::optional<double>& value);
 
-/// The opaque part of a facade becomes `part`. A measurement brings its area along when it has one; a stored
-/// result leaves an area that was typed. A missing mass counts as 0.
+/// The opaque part of a facade becomes `part`. The area beside it is that of the whole facade and stays as it
+/// was entered: the area of a specimen has nothing to do with it. A missing mass counts as 0.
 void TakeAsOpaquePart(elements::Setup& setup, const FacadePart& part);
 
-/// The element under a lining or ceiling becomes `part`, with its thickness; 0 when that is not known.
+/// The element under a lining or ceiling becomes `part`, with its thickness, 0 when that is not known, and
+/// its area: that of a measurement where it has one, that of a stored result where none was entered.
 void TakeAsLiningBase(elements::Setup& setup, const FacadePart& part);
 
 /// Component `number` (1 to 9) becomes `part`. A small element has the area "-"; a part without an area

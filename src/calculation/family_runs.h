@@ -1,5 +1,7 @@
 #pragma once
 
+#include <array>
+
 #include "calculation/run.h"
 #include "elements/setup.h"
 
@@ -29,5 +31,27 @@ RunOutcome RunImpactFloor(const RunRequest& request);
 
 /// The outcome of a calculation that something kept from running.
 RunOutcome Refused(Message message);
+/// The same where the reason is the whole message.
+RunOutcome Refused(Refusal refusal);
+
+/// The run of a model.
+struct ModelRun {
+  elements::Model model{};
+  RunOutcome (*run)(const RunRequest& request) = nullptr;
+};
+
+/// One a model.
+inline constexpr std::array kModelRuns = {
+    ModelRun{elements::Model::kSingleWall, RunSingleWall},
+    ModelRun{elements::Model::kSingleSeaWall, RunSingleSeaWall},
+    ModelRun{elements::Model::kDoubleWall, RunDoubleWall},
+    ModelRun{elements::Model::kFloatingScreedFloor, RunFloatingScreedFloor},
+    ModelRun{elements::Model::kLightDoubleWall, RunLightDoubleWall},
+    ModelRun{elements::Model::kDoubleSeaWall, RunDoubleSeaWall},
+    ModelRun{elements::Model::kSeaLining, RunSeaLining},
+    ModelRun{elements::Model::kGenericLining, RunGenericLining},
+    ModelRun{elements::Model::kCompositeElement, RunCompositeElement},
+    ModelRun{elements::Model::kImpactFloor, RunImpactFloor},
+};
 
 }  // namespace velmar::calculation

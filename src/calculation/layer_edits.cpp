@@ -13,8 +13,6 @@ using elements::LayerGroup;
 using elements::MaterialFamily;
 using elements::Setup;
 
-constexpr int kMostSheets = 99;
-
 template <typename AnySetup, typename Visit>
 auto VisitRow(AnySetup& setup, LayerGroup group, int index, Visit&& visit) {
   switch (RowOf(group).family) {
@@ -82,8 +80,14 @@ void EnterLayerThickness(Setup& setup, LayerGroup group, int index, const std::s
   FollowContents(setup, group);
 }
 
+bool LeaveLayerThickness(Setup& setup, LayerGroup group, int index) {
+  const bool corrected = VisitRow(setup, group, index, [](auto& row) { return LeaveThickness(row); });
+  if (corrected) FollowContents(setup, group);
+  return corrected;
+}
+
 void EnterMultiplicity(Setup& setup, LayerGroup group, int index, const std::string& text) {
-  const int sheets = elements::CountOf(text, 1, kMostSheets);
+  const int sheets = elements::CountOf(CappedCount(text, kMostSheets), 1, kMostSheets);
   VisitRow(setup, group, index, [sheets](auto& row) { row.multiplicity = sheets; });
   FollowContents(setup, group);
 }

@@ -31,7 +31,14 @@ bool PutMaterial(elements::Setup& setup, elements::LayerGroup group, int index, 
 void EnterLayerThickness(elements::Setup& setup, elements::LayerGroup group, int index,
                          const std::string& text);
 
-/// The number of equal sheets of row `index` is `text` now, 1 to 99.
+/// The thickness box of row `index` is left: a number not above 0 becomes "10".
+/// @return whether it did
+bool LeaveLayerThickness(elements::Setup& setup, elements::LayerGroup group, int index);
+
+/// The most equal sheets that a row takes.
+inline constexpr int kMostSheets = 10;
+
+/// The number of equal sheets of row `index` is `text` now, 1 to kMostSheets.
 void EnterMultiplicity(elements::Setup& setup, elements::LayerGroup group, int index,
                        const std::string& text);
 

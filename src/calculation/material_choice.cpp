@@ -1,6 +1,5 @@
 #include "calculation/material_choice.h"
 
-#include <algorithm>
 #include <array>
 #include <span>
 
@@ -113,56 +112,79 @@ bool FillsEverySlot(LayerGroup group) {
   return group == LayerGroup::kSeaCavityMass || group == LayerGroup::kSeaCavityDamping;
 }
 
-int RowsInUse(const Setup& setup, LayerGroup group) {
-  switch (group) {
-    case LayerGroup::kLeaf1:
-      return setup.leaf1.count;
-    case LayerGroup::kLeaf2:
-      return setup.leaf2.count;
-    case LayerGroup::kSeaLeaf1:
-      return setup.sea_leaf1.count;
-    case LayerGroup::kSeaLeaf2:
-      return setup.sea_leaf2.count;
-    case LayerGroup::kSeaDamping1:
-      return 2 * setup.sea_leaf1.count;
-    case LayerGroup::kSeaDamping2:
-      return 2 * setup.sea_leaf2.count;
-    case LayerGroup::kCavity:
-      return std::min(setup.cavity.layers.count, elements::CavityLayers::kCapacity);
-    case LayerGroup::kResilient:
-      return setup.resilient.count;
-    case LayerGroup::kSeaCavityMass:
-    case LayerGroup::kSeaCavityDamping:
-      return MassCount(setup.sea_cavity.type);
-    case LayerGroup::kSeaCavityFibre:
-      return FibreCount(setup.sea_cavity.type);
-  }
-  return 0;
-}
-
-void ReloadStructural(Setup& setup, LayerGroup group, int index, const elements::MaterialLookup& materials) {
+bool ReloadStructural(Setup& setup, LayerGroup group, int index, const elements::MaterialLookup& materials) {
   LayerRow<StructuralMaterial>& row = StructuralRow(setup, group, index);
   const auto record = materials.structural(row.listed);
-  if (!record) return;
+  if (!record) return false;
   FillStructural(*record, group, row.slot);
   if (IsLeaf(group)) Copy(*record, RowAt(setup.leaf1, index).slot, &S::thermal_conductance_w_m2k);
   TakeThicknessOfBox(row);
+  return true;
 }
 
-void ReloadFibrous(Setup& setup, LayerGroup group, int index, const elements::MaterialLookup& materials) {
+bool ReloadFibrous(Setup& setup, LayerGroup group, int index, const elements::MaterialLookup& materials) {
   LayerRow<FibrousMaterial>& row = FibrousRow(setup, group, index);
   const auto record = materials.fibrous(row.listed);
-  if (!record) return;
+  if (!record) return false;
   FillFibrous(*record, group, row.slot);
   TakeThicknessOfBox(row);
+  return true;
 }
 
-void ReloadResilient(Setup& setup, int index, const elements::MaterialLookup& materials) {
+bool ReloadResilient(Setup& setup, int index, const elements::MaterialLookup& materials) {
   LayerRow<ResilientMaterial>& row = RowAt(setup.resilient, index);
   const auto record = materials.resilient(row.listed);
-  if (!record) return;
+  if (!record) return false;
   FillResilient(*record, row.slot);
   TakeThicknessOfBox(row);
+  return true;
+}
+
+/// @return false when no table holds the material that the row shows
+bool Reload(Setup& setup, LayerGroup group, int index, const elements::MaterialLookup& materials) {
+  switch (RowOf(group).family) {
+    case elements::MaterialFamily::kStructural:
+      return ReloadStructural(setup, group, index, materials);
+    case elements::MaterialFamily::kFibrous:
+      return ReloadFibrous(setup, group, index, materials);
+    case elements::MaterialFamily::kResilient:
+      return ReloadResilient(setup, index, materials);
+  }
+  return false;
+}
+
+bool IsTicked(const Setup& setup, LayerGroup group, int index) {
+  const auto i = static_cast<std::size_t>(index);
+  switch (group) {
+    case LayerGroup::kSeaDamping1:
+      return setup.sea_leaf1.damping.at(i).ticked;
+    case LayerGroup::kSeaDamping2:
+      return setup.sea_leaf2.damping.at(i).ticked;
+    case LayerGroup::kSeaCavityDamping:
+      return setup.sea_cavity.mass_damping.at(i).ticked;
+    default:
+      return true;
+  }
+}
+
+template <typename Material>
+void LoadRow(Setup& setup, LayerGroup group, int index, LayerRow<Material>& row,
+             const elements::MaterialLookup& materials) {
+  if (row.listed == row.slot.name || Reload(setup, group, index, materials)) return;
+  row.listed.clear();
+  row.thickness_text.clear();
+  row.slot = {};
+}
+
+void LoadRow(Setup& setup, LayerGroup group, int index, const elements::MaterialLookup& materials) {
+  switch (RowOf(group).family) {
+    case elements::MaterialFamily::kStructural:
+      return LoadRow(setup, group, index, StructuralRow(setup, group, index), materials);
+    case elements::MaterialFamily::kFibrous:
+      return LoadRow(setup, group, index, FibrousRow(setup, group, index), materials);
+    case elements::MaterialFamily::kResilient:
+      return LoadRow(setup, group, index, RowAt(setup.resilient, index), materials);
+  }
 }
 
 bool ChooseStructural(Setup& setup, LayerGroup group, int index, const std::string& name,
@@ -241,17 +263,19 @@ bool ChooseMaterial(Setup& setup, LayerGroup group, int index, const std::string
 }
 
 void ReloadLayers(Setup& setup, LayerGroup group, const elements::MaterialLookup& materials) {
-  for (int i = 0; i < RowsInUse(setup, group); ++i) {
-    switch (RowOf(group).family) {
-      case elements::MaterialFamily::kStructural:
-        ReloadStructural(setup, group, i, materials);
-        break;
-      case elements::MaterialFamily::kFibrous:
-        ReloadFibrous(setup, group, i, materials);
-        break;
-      case elements::MaterialFamily::kResilient:
-        ReloadResilient(setup, i, materials);
-        break;
+  for (int i = 0; i < RowsInUse(setup, group); ++i) Reload(setup, group, i, materials);
+}
+
+void LoadRowsInUse(Setup& setup, const elements::MaterialLookup& materials) {
+  constexpr std::array kGroups = {LayerGroup::kLeaf1,         LayerGroup::kLeaf2,
+                                  LayerGroup::kSeaLeaf1,      LayerGroup::kSeaLeaf2,
+                                  LayerGroup::kSeaDamping1,   LayerGroup::kSeaDamping2,
+                                  LayerGroup::kSeaCavityMass, LayerGroup::kSeaCavityDamping,
+                                  LayerGroup::kCavity,        LayerGroup::kSeaCavityFibre,
+                                  LayerGroup::kResilient};
+  for (const LayerGroup group : kGroups) {
+    for (int i = 0; i < RowsInUse(setup, group); ++i) {
+      if (IsTicked(setup, group, i)) LoadRow(setup, group, i, materials);
     }
   }
 }

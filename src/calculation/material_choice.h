@@ -25,6 +25,12 @@ bool ChooseMaterial(elements::Setup& setup, elements::LayerGroup group, int inde
 void ReloadLayers(elements::Setup& setup, elements::LayerGroup group,
                   const elements::MaterialLookup& materials);
 
+/// Every row in use whose slot is not of the material that its list shows reads that material, as after a
+/// click on the list, but keeps the thickness of its box: such rows come into use when a count is raised, a
+/// cavity gets more contents or a damping layer is ticked. A row whose material no table holds is emptied, so
+/// that nothing is shown that is not calculated.
+void LoadRowsInUse(elements::Setup& setup, const elements::MaterialLookup& materials);
+
 /// The first selection of every layer row, from the first row of each material table: all lists and boxes
 /// show it; of the leaves and SEA leaves only the first slot is filled, of the cavities and resilient layers
 /// every slot. An absent record leaves its rows alone.

@@ -30,8 +30,7 @@ class OpenCalculation {
     AfterChange(/*keep_result=*/false);
   }
 
-  /// The exception: typed band values, ratings and areas of facade and base elements leave the result
-  /// standing.
+  /// The exception: what no result depends on, the project's information and the description of an element.
   template <typename Change>
   void EditKeepingResult(Change&& change) {
     std::forward<Change>(change)(setup_);

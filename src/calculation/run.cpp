@@ -1,44 +1,34 @@
 #include "calculation/run.h"
 
-#include <array>
 #include <cmath>
 #include <utility>
 
 #include "calculation/cavity_rules.h"
+#include "calculation/entered_numbers.h"
 #include "calculation/family_runs.h"
+#include "calculation/impossible_layers.h"
+#include "calculation/refusals.h"
 #include "foundation/failure.h"
+#include "foundation/message_rows.h"
 
 namespace velmar::calculation {
 namespace {
 
+using elements::Field;
 using elements::Model;
 
 constexpr const char* kFallbackNumber = "10";
 
-RunOutcome RunModel(const RunRequest& request) {
-  switch (RowOf(request.calculation).model) {
-    case Model::kSingleWall:
-      return RunSingleWall(request);
-    case Model::kSingleSeaWall:
-      return RunSingleSeaWall(request);
-    case Model::kDoubleWall:
-      return RunDoubleWall(request);
-    case Model::kFloatingScreedFloor:
-      return RunFloatingScreedFloor(request);
-    case Model::kLightDoubleWall:
-      return RunLightDoubleWall(request);
-    case Model::kDoubleSeaWall:
-      return RunDoubleSeaWall(request);
-    case Model::kSeaLining:
-      return RunSeaLining(request);
-    case Model::kGenericLining:
-      return RunGenericLining(request);
-    case Model::kCompositeElement:
-      return RunCompositeElement(request);
-    case Model::kImpactFloor:
-      return RunImpactFloor(request);
+constexpr bool EveryModelRuns() {
+  for (std::size_t i = 0; i < kModelRuns.size(); ++i) {
+    if (static_cast<std::size_t>(kModelRuns[i].model) != i) return false;
   }
-  return Refused({{kNoCalculationRow}});
+  return kModelRuns.size() == elements::kModelCount;
+}
+static_assert(EveryModelRuns());
+
+RunOutcome RunModel(const RunRequest& request) {
+  return kModelRuns.at(static_cast<std::size_t>(RowOf(request.calculation).model)).run(request);
 }
 
 void RequireFinite(const elements::ResultSet& result) {
@@ -62,21 +52,28 @@ RunOutcome Refused(Message message) {
   return outcome;
 }
 
+RunOutcome Refused(Refusal refusal) {
+  RunOutcome outcome = Refused(Message{refusal.reason});
+  outcome.refusal = std::move(refusal);
+  return outcome;
+}
+
 void PrepareRun(elements::Setup& setup) {
   if (!setup.calculation) return;
-  const Model model = RowOf(*setup.calculation).model;
-  const bool reads_depth = model == Model::kDoubleWall || model == Model::kLightDoubleWall;
-  if (reads_depth && setup.cavity.depth_text.empty()) setup.cavity.depth_text = kFallbackNumber;
-  if (model == Model::kLightDoubleWall && setup.support_distance_text.empty()) {
+  const elements::CalculationRow& row = RowOf(*setup.calculation);
+  if (row.Reads(Field::kCavityDepth) && setup.cavity.depth_text.empty())
+    setup.cavity.depth_text = kFallbackNumber;
+  if (row.model == Model::kLightDoubleWall && setup.support_distance_text.empty()) {
     setup.support_distance_text = kFallbackNumber;
   }
-  const bool lining = model == Model::kSeaLining || model == Model::kGenericLining;
-  if (lining || model == Model::kDoubleSeaWall) RaiseSeaCavityDepth(setup);
-  if (lining && setup.base.thickness_mm == 0.0) setup.base.thickness_mm = elements::kDefaultBaseThicknessMm;
+  if (row.Reads(Field::kSeaCavityDepth)) RaiseSeaCavityDepth(setup);
+  if (row.Reads(Field::kBaseThickness) && setup.base.thickness_mm == 0.0)
+    setup.base.thickness_mm = elements::kDefaultBaseThicknessMm;
 }
 
 RunOutcome RunCalculation(const elements::Setup& setup, double loss_factor_before, const AskToGoOn& ask) {
   if (!setup.calculation) return Refused({{kNoCalculationRow}});
+  if (std::optional<Refusal> impossible = FindImpossibleLayer(setup)) return Refused(std::move(*impossible));
   RunOutcome outcome;
   // Questions are kept whatever becomes of the run.
   std::vector<Message> questions;
@@ -87,9 +84,15 @@ RunOutcome RunCalculation(const elements::Setup& setup, double loss_factor_befor
   try {
     outcome = RunModel({setup, *setup.calculation, loss_factor_before, ask_and_keep});
     if (outcome.result) RequireFinite(*outcome.result);
+  } catch (const FieldFailure& failure) {
+    outcome = {.status = RunStatus::kFailed,
+               .messages = {failure.UserMessage()},
+               .refusal = Refusal{failure.Field(), failure.UserMessage().back()}};
   } catch (const ArithmeticFailure& failure) {
     outcome = {.status = RunStatus::kFailed, .messages = {failure.UserMessage()}};
   }
+  if (!outcome.result && !outcome.refusal && outcome.status != RunStatus::kDeclined)
+    outcome.refusal = FindRefusal(setup, outcome.messages);
   outcome.messages.insert(outcome.messages.begin(), questions.begin(), questions.end());
   return outcome;
 }

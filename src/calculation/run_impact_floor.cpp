@@ -5,43 +5,23 @@
 #include "models/floors/impact_floor_rating.h"
 
 namespace velmar::calculation {
-namespace {
-
-models::ImpactFloorVariant VariantOf(elements::Calculation calculation) {
-  using enum elements::Calculation;
-  switch (calculation) {
-    case kImpactReinforcedConcrete:
-      return models::ImpactFloorVariant::kReinforcedConcrete;
-    case kImpactLightweightConcrete:
-      return models::ImpactFloorVariant::kLightweightConcrete;
-    case kImpactHollowBrickConcrete:
-      return models::ImpactFloorVariant::kHollowBlock;
-    case kImpactHollowBrickConcreteGavelo:
-      return models::ImpactFloorVariant::kHollowBlockFixedLevel;
-    default:
-      return models::ImpactFloorVariant::kFloatingFloor;
-  }
-}
-
-}  // namespace
-
 RunOutcome RunImpactFloor(const RunRequest& request) {
   const elements::Setup& setup = request.setup;
-  const models::ImpactFloorVariant variant = VariantOf(request.calculation);
-  const models::ImpactFloorOutcome floor =
-      models::CalculateImpactFloor({.variant = variant,
-                                    .bearing = PlateLayers(setup.leaf1),
-                                    .screed = PlateLayers(setup.leaf2),
-                                    .resilient = ResilientMatsOf(setup.resilient),
-                                    .side_a_m = EnteredLength(setup.width_text),
-                                    .side_b_m = EnteredLength(setup.height_text)});
+  const auto variant = std::get<acoustics::ImpactFloorVariant>(RowOf(request.calculation).form);
+  const models::ImpactFloorOutcome floor = models::CalculateImpactFloor(
+      {.variant = variant,
+       .bearing = PlateLayers(setup.leaf1),
+       .screed = PlateLayers(setup.leaf2),
+       .resilient = ResilientMatsOf(setup.resilient),
+       .side_a_m = EnteredLength(setup.width_text, {elements::Field::kWidth}),
+       .side_b_m = EnteredLength(setup.height_text, {elements::Field::kHeight})});
   const models::ImpactRelation relation =
       models::FindImpactRelation(variant, floor.mass_kg_m2, floor.bearing_thickness_m);
-  if (relation.question && !AskToLeaveRange(request, *relation.question)) return Declined();
+  elements::ResultSet result;
+  if (relation.left && !AskToLeaveRange(request, *relation.left, result)) return Declined();
   const models::ImpactFloorRating rating = models::RateImpactFloor(variant, floor, relation);
   const models::AirborneEstimate airborne =
       models::EstimateAirborne(floor.mass_kg_m2, floor.improvement.resonance_hz);
-  elements::ResultSet result;
   result.spectrum = rating.impact_level_db;
   result.shift = rating.shift_db;
   result.lnw = rating.lnw_db;

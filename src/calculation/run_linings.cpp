@@ -11,25 +11,9 @@
 namespace velmar::calculation {
 namespace {
 
-models::LiningVariant VariantOf(elements::Calculation calculation) {
-  using enum elements::Calculation;
-  switch (calculation) {
-    case kLiningGeneric:
-      return models::LiningVariant::kGenericLining;
-    case kLiningFrame:
-      return models::LiningVariant::kFramedLining;
-    case kCeilingGeneric:
-      return models::LiningVariant::kGenericCeiling;
-    case kCeilingSea:
-      return models::LiningVariant::kCeiling;
-    default:
-      return models::LiningVariant::kDirectLining;
-  }
-}
-
 models::LiningInput InputOf(const RunRequest& request) {
   const elements::Setup& setup = request.setup;
-  models::LiningInput input{.variant = VariantOf(request.calculation),
+  models::LiningInput input{.variant = std::get<acoustics::LiningVariant>(RowOf(request.calculation).form),
                             .base_rw_db = ParseSingle(setup.base.rating_text),
                             .base_mass_kg_m2 = setup.base.mass_kg_m2,
                             .layers = SeaSideOf(setup.sea_leaf2),

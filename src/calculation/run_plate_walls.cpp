@@ -17,19 +17,8 @@ constexpr double kMetresPerMillimetre = 0.001;
 constexpr double kMetresPerCentimetre = 0.01;
 
 models::PlateDimensions DimensionsOf(const elements::Setup& setup) {
-  return {.a_m = EnteredLength(setup.width_text), .b_m = EnteredLength(setup.height_text)};
-}
-
-models::CavityKind CavityKindOf(elements::CavityKind kind) {
-  switch (kind) {
-    case elements::CavityKind::kEmpty:
-      return models::CavityKind::kEmpty;
-    case elements::CavityKind::kFibrous:
-      return models::CavityKind::kFibrous;
-    case elements::CavityKind::kGenericMaterial:
-      return models::CavityKind::kLayers;
-  }
-  return models::CavityKind::kEmpty;
+  return {.a_m = EnteredLength(setup.width_text, {elements::Field::kWidth}),
+          .b_m = EnteredLength(setup.height_text, {elements::Field::kHeight})};
 }
 
 float TotalThickness(const elements::Setup& setup) {
@@ -61,26 +50,6 @@ models::LeafRows LeafRowsOf(elements::LeafLayers leaf) {
   return rows;
 }
 
-models::LightWallForm LightWallFormOf(elements::Calculation calculation) {
-  using enum elements::Calculation;
-  switch (calculation) {
-    case kLightWallLineLine:
-      return models::LightWallForm::kLineLine;
-    case kLightWallLinePoint:
-      return models::LightWallForm::kLinePoint;
-    case kLightWallPointPoint:
-      return models::LightWallForm::kPointPoint;
-    case kInsulatingGlassGeneric:
-      return models::LightWallForm::kInsulatingUnit;
-    default:
-      return models::LightWallForm::kIsolated;
-  }
-}
-
-bool IsConnected(models::LightWallForm form) {
-  return form != models::LightWallForm::kIsolated && form != models::LightWallForm::kInsulatingUnit;
-}
-
 }  // namespace
 
 RunOutcome RunSingleWall(const RunRequest& request) {
@@ -98,14 +67,13 @@ RunOutcome RunSingleWall(const RunRequest& request) {
 
 RunOutcome RunDoubleWall(const RunRequest& request) {
   const elements::Setup& setup = request.setup;
-  const double depth_mm = EnteredNumber(setup.cavity.depth_text);
-  const models::CavityKind cavity_kind = CavityKindOf(setup.cavity.kind);
+  const double depth_mm = EnteredNumber(setup.cavity.depth_text, {elements::Field::kCavityDepth});
   const models::DoubleWallResult wall =
       models::CalculateDoubleWall({.leaf1 = PlateLayers(setup.leaf1),
                                    .leaf2 = PlateLayers(setup.leaf2),
                                    .dimensions = DimensionsOf(setup),
                                    .cavity_depth_m = depth_mm * kMetresPerMillimetre,
-                                   .cavity_kind = cavity_kind,
+                                   .cavity_kind = setup.cavity.kind,
                                    .cavity_layers = CavityLayersOf(setup.cavity)});
   elements::ResultSet result;
   result.spectrum = wall.spectrum;
@@ -115,21 +83,25 @@ RunOutcome RunDoubleWall(const RunRequest& request) {
                    .leaf2_mass_kg_m2 = wall.leaf2.mass_kg_m2,
                    .thickness_mm = TotalThickness(setup),
                    .cavity_depth_mm = static_cast<float>(depth_mm),
-                   .fibre_thickness_mm = static_cast<float>(EnteredNumberOrZero(setup.cavity.fibre_text)),
-                   .cavity_kind = cavity_kind});
+                   .fibre_thickness_mm = static_cast<float>(
+                       EnteredNumberOrZero(setup.cavity.fibre_text, {elements::Field::kFibreThickness})),
+                   .cavity_kind = setup.cavity.kind});
 }
 
 RunOutcome RunLightDoubleWall(const RunRequest& request) {
   const elements::Setup& setup = request.setup;
-  const models::LightWallForm form = LightWallFormOf(request.calculation);
-  models::LightDoubleWallInput input{.leaf1 = LeafRowsOf(setup.leaf1),
-                                     .leaf2 = LeafRowsOf(setup.leaf2),
-                                     .depth_m = EnteredNumber(setup.cavity.depth_text) * kMetresPerMillimetre,
-                                     .cavity_kind = CavityKindOf(setup.cavity.kind),
-                                     .form = form};
-  if (IsConnected(form)) {
-    input.stud_distance_m = EnteredLength(setup.support_distance_text) * kMetresPerCentimetre;
-    input.dim_b_m = EnteredLength(setup.height_text);
+  const elements::CalculationRow& row = RowOf(request.calculation);
+  models::LightDoubleWallInput input{
+      .leaf1 = LeafRowsOf(setup.leaf1),
+      .leaf2 = LeafRowsOf(setup.leaf2),
+      .depth_m =
+          EnteredNumber(setup.cavity.depth_text, {elements::Field::kCavityDepth}) * kMetresPerMillimetre,
+      .cavity_kind = setup.cavity.kind,
+      .form = std::get<acoustics::LightWallForm>(row.form)};
+  if (row.support == elements::Support::kStudDistance) {
+    input.stud_distance_m =
+        EnteredLength(setup.support_distance_text, {elements::Field::kSupport}) * kMetresPerCentimetre;
+    input.dim_b_m = EnteredLength(setup.height_text, {elements::Field::kHeight});
   }
   elements::ResultSet result;
   result.spectrum = models::CalculateLightDoubleWall(input).spectrum;

@@ -10,24 +10,23 @@ namespace velmar::calculation {
 namespace {
 
 models::SeaElementSize SizeOf(const elements::Setup& setup) {
-  return {.length_a_m = EnteredLength(setup.width_text), .length_b_m = EnteredLength(setup.height_text)};
+  return {.length_a_m = EnteredLength(setup.width_text, {elements::Field::kWidth}),
+          .length_b_m = EnteredLength(setup.height_text, {elements::Field::kHeight})};
 }
 
 std::optional<double> ConnectionCountOf(const std::string& text) {
   if (text.find_first_not_of(' ') == std::string::npos) return std::nullopt;
-  return EnteredNumber(text);
+  return EnteredNumber(text, {elements::Field::kSupport});
 }
 
 models::SeaConnection ConnectionOf(const RunRequest& request) {
   const elements::Setup& setup = request.setup;
+  const elements::CalculationRow& row = RowOf(request.calculation);
   // The layer that a connection holds on the first side is told by that side's own count.
-  models::SeaConnection connection{.is_decoupled = setup.decoupled,
+  models::SeaConnection connection{.kind = std::get<acoustics::SeaConnectionKind>(row.form),
+                                   .is_decoupled = setup.decoupled,
                                    .first_side_layer = static_cast<std::size_t>(setup.sea_leaf1.count)};
-  if (request.calculation == elements::Calculation::kDoubleWallSeaBrick) return connection;
-  connection.kind = request.calculation == elements::Calculation::kDoubleWallSeaPlasterboardPoint
-                        ? models::SeaConnectionKind::kPoints
-                        : models::SeaConnectionKind::kLines;
-  connection.count = ConnectionCountOf(setup.support_distance_text);
+  if (IsCount(row.support)) connection.count = ConnectionCountOf(setup.support_distance_text);
   return connection;
 }
 

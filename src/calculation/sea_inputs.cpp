@@ -55,8 +55,9 @@ models::SeaSide SeaSideOf(const elements::SeaLeaf& leaf) {
 }
 
 models::SeaCavity SeaCavityOf(const elements::SeaCavity& cavity) {
-  models::SeaCavity input{.type = static_cast<models::SeaCavityType>(cavity.type),
-                          .depth_mm = EnteredNumberOrZero(cavity.depth_text)};
+  models::SeaCavity input{
+      .type = cavity.type,
+      .depth_mm = EnteredNumberOrZero(cavity.depth_text, {elements::Field::kSeaCavityDepth})};
   for (std::size_t j = 0; j < static_cast<std::size_t>(FibreCount(cavity.type)); ++j) {
     input.fills.at(j) = FillOf(cavity.fibres.at(j).slot);
   }

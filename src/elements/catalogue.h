@@ -4,6 +4,8 @@
 #include <span>
 #include <string_view>
 
+#include "acoustics/constructions.h"
+#include "elements/construction.h"
 #include "foundation/message.h"
 
 namespace velmar::elements {
@@ -60,66 +62,32 @@ enum class Calculation {
 };
 inline constexpr std::size_t kCalculationCount = 47;
 
-enum class Family { kSingle, kSeaSingle, kDouble, kSharp, kSea, kLining, kCeiling, kFacade, kImpact };
-
-enum class Orientation {
-  kVerticalSingle,
-  kVerticalDouble,
-  kHorizontalSingle,
-  kHorizontalDouble,
-  kLining,
-  kCeiling,
-  kComposite,
-};
-
-/// The physical model that a calculation runs.
-enum class Model {
-  kSingleWall,
-  kSingleSeaWall,
-  kDoubleWall,
-  kFloatingScreedFloor,
-  kLightDoubleWall,
-  kDoubleSeaWall,
-  kSeaLining,
-  kGenericLining,
-  kCompositeElement,
-  kImpactFloor,
-};
-
-/// The button of the tool bar that lays out a calculation's tabs; its number there.
-enum class ElementButton {
-  kSingleWall = 17,
-  kDoubleWall = 18,
-  kFloor = 19,
-  kFacade = 20,
-  kLining = 21,
-  kCeiling = 22
-};
-
 /// A label made of a catalogue row, or of a literal where there is none, and what stands behind it.
 struct Label {
   MessageRow row{};            ///< 0: the literal stands instead
   std::string_view literal{};  ///< "SEA", or words that have no row
-  std::string_view suffix{};   ///< " [10]", ":" or nothing
+  std::string_view suffix{};   ///< ":" or nothing
+  int mark = 0;                ///< number of a relation, " [10]"; 0 for none
 
   /// The label as one line of pieces.
   MessageLine Line() const;
 };
 
-/// What the catalogue says of one calculation. The texts are a stored format: project files and the results
-/// database hold them, in every language.
-struct CalculationRow {
+/// All that the program knows of one calculation: every other place that tells calculations apart reads it
+/// here. The texts are a stored format: project files and the results database hold them, in every language.
+struct CalculationRow : Construction {
   Calculation calculation{};
-  Family family{};
   std::string_view variant{};
-  Orientation orientation{};
-  Model model{};
-  int relation = 0;               ///< number of the experimental relation as its mark shows it; 0 for none
+  /// The relation that moves the model's airborne curve; nothing where that curve stands.
+  std::optional<acoustics::RelationId> relation{};
+  int mark = 0;                   ///< number of the experimental relation as its mark shows it; 0 for none
   Label theory{};                 ///< `LabelTeoriaApplicata`(1)
   Label element_type{};           ///< `LabelTeoriaApplicata`(0)
   std::string_view menu_group{};  ///< the menu handler that offers it
   int menu_index = 0;             ///< its entry there
-  ElementButton button{};
+
+  /// Whether the outcome depends on `field`, beside the layers of the stacks.
+  constexpr bool Reads(Field field) const { return reads.Has(field); }
 };
 
 /// All calculations, in the order of `Calculation`.
@@ -135,6 +103,8 @@ std::optional<Calculation> FindCalculation(std::string_view variant);
 std::string_view FamilyText(Family family);
 /// The family that `text` names exactly; nothing for an unknown text.
 std::optional<Family> FindFamily(std::string_view text);
+/// The shape of a project file of `family` whose variant is not known.
+FilePart FilePartOf(Family family);
 
 /// The stored text of an orientation: "verticale singola", ...
 std::string_view OrientationText(Orientation orientation);

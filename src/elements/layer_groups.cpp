@@ -80,6 +80,34 @@ std::optional<LayerGroup> FindLayerGroup(std::string_view code) {
   return row->group;
 }
 
+int RowsInUse(const Setup& setup, LayerGroup group) {
+  const int capacity = RowOf(group).capacity;
+  switch (group) {
+    case kLeaf1:
+      return std::clamp(setup.leaf1.count, 0, capacity);
+    case kLeaf2:
+      return std::clamp(setup.leaf2.count, 0, capacity);
+    case kSeaLeaf1:
+      return std::clamp(setup.sea_leaf1.count, 0, capacity);
+    case kSeaLeaf2:
+      return std::clamp(setup.sea_leaf2.count, 0, capacity);
+    case kSeaDamping1:
+      return 2 * RowsInUse(setup, kSeaLeaf1);
+    case kSeaDamping2:
+      return 2 * RowsInUse(setup, kSeaLeaf2);
+    case kCavity:
+      return std::clamp(setup.cavity.layers.count, 0, capacity);
+    case kResilient:
+      return std::clamp(setup.resilient.count, 0, capacity);
+    case kSeaCavityMass:
+    case kSeaCavityDamping:
+      return MassCount(setup.sea_cavity.type);
+    case kSeaCavityFibre:
+      return FibreCount(setup.sea_cavity.type);
+  }
+  return 0;
+}
+
 LayerRow<StructuralMaterial>& StructuralRow(Setup& setup, LayerGroup group, int index) {
   return AnyStructuralRow(setup, group, index);
 }

@@ -42,6 +42,10 @@ const LayerGroupRow& RowOf(LayerGroup group);
 /// The group that a destination code names; nothing for an unknown code.
 std::optional<LayerGroup> FindLayerGroup(std::string_view code);
 
+/// How many rows of `group` are in use, within its capacity. Of damping layers: the rows that have a check,
+/// ticked or not.
+int RowsInUse(const Setup& setup, LayerGroup group);
+
 /// Row `index` of a structural group of `setup`.
 /// @throws std::out_of_range for a group of another family, or beyond its rows
 LayerRow<StructuralMaterial>& StructuralRow(Setup& setup, LayerGroup group, int index);

@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <string>
 
+#include "acoustics/constructions.h"
 #include "elements/materials.h"
 
 namespace velmar::elements {
@@ -56,29 +57,13 @@ struct SeaLeaf {
   bool operator==(const SeaLeaf&) const = default;
 };
 
-/// What a SEA cavity holds, in the order of `ComboTipoIntercSEA`.
-enum class SeaCavityType {
-  kEmpty = 0,
-  kFibre = 1,
-  kFibreMass = 2,
-  kMassFibreMass = 3,
-  kFibreMassFibre = 4,
-  kFibreMassFibreMass = 5,
-  kFibreMassFibreMassFibre = 6,
-};
-inline constexpr int kSeaCavityTypeCount = 7;
-
-/// How many fibre rows (0 to 3) a cavity of `type` shows.
-constexpr int FibreCount(SeaCavityType type) {
-  constexpr std::array<int, kSeaCavityTypeCount> kCounts = {0, 1, 1, 1, 2, 2, 3};
-  return kCounts.at(static_cast<std::size_t>(type));
-}
-
-/// How many mass rows (0 to 2) a cavity of `type` shows.
-constexpr int MassCount(SeaCavityType type) {
-  constexpr std::array<int, kSeaCavityTypeCount> kCounts = {0, 0, 1, 2, 1, 2, 2};
-  return kCounts.at(static_cast<std::size_t>(type));
-}
+using acoustics::CavityKind;
+using acoustics::ContentsOf;
+using acoustics::FibreCount;
+using acoustics::kSeaCavityTypeCount;
+using acoustics::MassCount;
+using acoustics::SeaCavityContent;
+using acoustics::SeaCavityType;
 
 /// The cavity of a SEA wall, a lining or a suspended ceiling.
 struct SeaCavity {
@@ -90,13 +75,6 @@ struct SeaCavity {
   std::array<DampingRow, 2> mass_damping{};  ///< `ChecklMatSmorzanteIntercSEA`, `ComboMatSmorzIntercSEA`
 
   bool operator==(const SeaCavity&) const = default;
-};
-
-/// What stands between the leaves of a double wall, in the order of `Option2`.
-enum class CavityKind {
-  kEmpty = 0,           ///< "Vuota"
-  kFibrous = 1,         ///< "Mat. fibroso / poroso"
-  kGenericMaterial = 2  ///< "Materiale generico"
 };
 
 /// The cavity of a double wall.

@@ -4,6 +4,8 @@
 #include <cstddef>
 #include <string>
 
+#include "foundation/message_rows.h"
+
 namespace velmar::elements {
 
 /// One caption and its value, such as "Cliente" and the client's name.
@@ -21,5 +23,13 @@ inline constexpr std::size_t kAttachmentRow = 6;  ///< the attachment's code
 /// The project information: project, client, project number, engineer, project data, notes, attachment, and
 /// one row without a default caption. A loaded project brings its own captions.
 using ProjectInformation = std::array<ProjectInformationRow, kProjectInformationRows>;
+
+/// What stands for a caption that is empty.
+inline constexpr std::array<MessageRow, kProjectInformationRows> kInformationCaptions = {
+    kInformationProjectRow, kInformationClientRow, kInformationNumberRow, kInformationEngineerRow,
+    kInformationDataRow,    kInformationNotesRow,  kInformationAnnexRow,  kInformationOtherRow};
+
+/// As many rows have a caption in a new project.
+inline constexpr std::size_t kCaptionedInformationRows = 7;
 
 }  // namespace velmar::elements

@@ -1,8 +1,10 @@
 #pragma once
 
 #include <optional>
+#include <vector>
 
 #include "acoustics/bands.h"
+#include "acoustics/range_left.h"
 
 namespace velmar::elements {
 
@@ -29,6 +31,9 @@ struct ResultSet {
   std::optional<double> loss_factor;            ///< EtaInt
   std::optional<double> mass_kg_m2;             ///< Mass
   std::optional<double> bending_stiffness_nm;   ///< Bending
+
+  /// The ranges that were left because the user chose to go on; they belong to the result wherever it goes.
+  std::vector<acoustics::RangeLeft> ranges_left{};
 
   bool operator==(const ResultSet&) const = default;
 };

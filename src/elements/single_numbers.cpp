@@ -1,4 +1,5 @@
 #include "elements/single_numbers.h"
+#include "foundation/message_rows.h"
 
 #include <optional>
 
@@ -10,35 +11,37 @@ struct Row {
   const char* key;
   const char* symbol;
   std::optional<double> Numbers::*value;
+  MessageRow meaning;
+  bool further = true;
   int decimals = 0;
   const char* unit = "dB";
-  bool further = true;
 };
 
 using acoustics::AirborneNumbers;
 using acoustics::ImpactNumbers;
 
+
 constexpr Row<AirborneNumbers> kAirborneRows[] = {
-    {"Rw", "Rw", &AirborneNumbers::rw, 0, "dB", false},
-    {"Rw,0.1", "Rw (0,1)", &AirborneNumbers::rw_tenths, 1},
-    {"C", "C", &AirborneNumbers::c, 0, "dB", false},
-    {"Ctr", "Ctr", &AirborneNumbers::ctr, 0, "dB", false},
-    {"C50-3150", "C50-3150", &AirborneNumbers::c_50_3150},
-    {"C50-5000", "C50-5000", &AirborneNumbers::c_50_5000},
-    {"C100-5000", "C100-5000", &AirborneNumbers::c_100_5000},
-    {"Ctr,50-3150", "Ctr,50-3150", &AirborneNumbers::ctr_50_3150},
-    {"Ctr,50-5000", "Ctr,50-5000", &AirborneNumbers::ctr_50_5000},
-    {"Ctr,100-5000", "Ctr,100-5000", &AirborneNumbers::ctr_100_5000},
-    {"STC", "STC", &AirborneNumbers::stc, 0, ""},
-    {"OITC", "OITC", &AirborneNumbers::oitc, 0, ""},
+    {"Rw", "Rw", &AirborneNumbers::rw, kRwMeaningRow, false},
+    {"Rw,0.1", "Rw (0,1)", &AirborneNumbers::rw_tenths, kRwTenthsMeaningRow, true, 1},
+    {"C", "C", &AirborneNumbers::c, kCMeaningRow, false},
+    {"Ctr", "Ctr", &AirborneNumbers::ctr, kCtrMeaningRow, false},
+    {"C50-3150", "C50-3150", &AirborneNumbers::c_50_3150, kC50To3150MeaningRow},
+    {"C50-5000", "C50-5000", &AirborneNumbers::c_50_5000, kC50To5000MeaningRow},
+    {"C100-5000", "C100-5000", &AirborneNumbers::c_100_5000, kC100To5000MeaningRow},
+    {"Ctr,50-3150", "Ctr,50-3150", &AirborneNumbers::ctr_50_3150, kCtr50To3150MeaningRow},
+    {"Ctr,50-5000", "Ctr,50-5000", &AirborneNumbers::ctr_50_5000, kCtr50To5000MeaningRow},
+    {"Ctr,100-5000", "Ctr,100-5000", &AirborneNumbers::ctr_100_5000, kCtr100To5000MeaningRow},
+    {"STC", "STC", &AirborneNumbers::stc, kStcMeaningRow, true, 0, ""},
+    {"OITC", "OITC", &AirborneNumbers::oitc, kOitcMeaningRow, true, 0, ""},
 };
 
 // The calculations show a term named Ci that ends at 3150 Hz; the range tells them apart.
 constexpr Row<ImpactNumbers> kImpactRows[] = {
-    {"Ln,w", "Ln,w", &ImpactNumbers::lnw, 0, "dB", false},
-    {"CI", "CI (100-2500)", &ImpactNumbers::ci},
-    {"CI,50-2500", "CI,50-2500", &ImpactNumbers::ci_50_2500},
-    {"IIC", "IIC", &ImpactNumbers::iic, 0, ""},
+    {"Ln,w", "Ln,w", &ImpactNumbers::lnw, kLnwMeaningRow, false},
+    {"CI", "CI (100-2500)", &ImpactNumbers::ci, kCiMeaningRow},
+    {"CI,50-2500", "CI,50-2500", &ImpactNumbers::ci_50_2500, kCi50To2500MeaningRow},
+    {"IIC", "IIC", &ImpactNumbers::iic, kIicMeaningRow, true, 0, ""},
 };
 
 template <typename Numbers, std::size_t N>
@@ -46,7 +49,7 @@ std::vector<SingleNumber> ListOf(const Numbers& numbers, const Row<Numbers> (&ro
   std::vector<SingleNumber> list;
   for (const Row<Numbers>& row : rows) {
     if (const std::optional<double>& value = numbers.*row.value) {
-      list.push_back({row.key, row.symbol, *value, row.decimals, row.unit, row.further});
+      list.push_back({row.key, row.symbol, *value, row.decimals, row.unit, row.meaning, row.further});
     }
   }
   return list;

@@ -6,6 +6,7 @@
 #include "acoustics/impact_numbers.h"
 #include "elements/catalogue.h"
 #include "elements/result_set.h"
+#include "foundation/message.h"
 
 namespace velmar::elements {
 
@@ -16,6 +17,7 @@ struct SingleNumber {
   double value = 0.0;
   int decimals = 0;
   const char* unit = "";  ///< "dB", or nothing for the classes of ASTM
+  MessageRow meaning{};   ///< what it is and after which standard
   bool further = true;    ///< not one of Rw, C, Ctr and Ln,w, which every result shows
 };
 

@@ -3,6 +3,8 @@
 #include <cmath>
 #include <utility>
 
+#include "foundation/message_rows.h"
+
 namespace velmar {
 
 Failure::Failure(Message message, std::string detail)

@@ -21,9 +21,6 @@ class Failure : public std::exception {
   std::string detail_;
 };
 
-/// "The calculation cannot be carried out with these data."
-inline constexpr MessageRow kArithmeticFailureRow{1001};
-
 /// The arithmetic of a run came to nothing usable: a division by zero, the logarithm of a non-positive
 /// number, a value that is not finite. The run ends and leaves no result.
 class ArithmeticFailure : public Failure {

@@ -20,4 +20,10 @@ double RoundToEven(double value, int decimals) {
   return RoundToEven(scaled) / scale;
 }
 
+bool IsWithin(double value, double lowest, double highest) {
+  constexpr double kRounding = 1e-12;
+  const auto slack = [](double end) { return std::isfinite(end) ? kRounding * std::abs(end) : 0.0; };
+  return value >= lowest - slack(lowest) && value <= highest + slack(highest);
+}
+
 }  // namespace velmar

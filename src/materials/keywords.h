@@ -11,21 +11,20 @@ namespace velmar::materials {
 
 /// The two keywords that the message catalogue names.
 struct KeywordTexts {
-  std::string all{};            ///< row 367: the entry of a filter that lets everything pass
-  std::string not_specified{};  ///< row 325
+  std::string all{};            ///< the entry of a filter that lets everything pass
+  std::string not_specified{};  ///< stands for a keyword that is missing
 };
-inline constexpr int kAllMaterialsRow = 367;
-inline constexpr int kNotSpecifiedRow = 325;
 
-/// The entries of the keyword filter of `family` (`Combo7`, `Combo19`, `Combo8`): row 367, then every keyword
-/// once, in the order of first appearance, without the one that says "not specified". That one is row 325,
-/// but for fibrous materials the literal "non specificato". A row without a keyword counts as not specified.
+/// The entries of the keyword filter of `family` (`Combo7`, `Combo19`, `Combo8`): `all`, then every keyword
+/// once, in the order of first appearance, without the one that says "not specified". That one is
+/// `not_specified`, but for fibrous materials the literal "non specificato". A row without a keyword counts
+/// as not specified.
 std::vector<std::string> KeywordFilter(elements::MaterialFamily family,
                                        const std::vector<storage::ListedMaterial>& materials,
                                        const KeywordTexts& texts);
 
 /// The names that the lists of `family` offer under `filter`: the materials of that keyword and, behind them,
-/// those whose keyword is row 325 or missing; under row 367 all, in the order of the table. Structural
+/// those whose keyword is `not_specified` or missing; under `all` all, in the order of the table. Structural
 /// materials without a keyword are not offered under "vetrate".
 std::vector<std::string> NamesUnderFilter(elements::MaterialFamily family,
                                           const std::vector<storage::ListedMaterial>& materials,

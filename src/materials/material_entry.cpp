@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "foundation/decimal.h"
+#include "foundation/message_rows.h"
 #include "materials/coupled_boxes.h"
 #include "storage/materials/material_store.h"
 
@@ -15,19 +16,6 @@ namespace {
 using elements::FibrousMaterial;
 using elements::ResilientMaterial;
 using elements::StructuralMaterial;
-
-constexpr MessageRow kMissingRow{348};
-constexpr MessageRow kThicknessRow{349};
-constexpr MessageRow kDensityRow{350};
-constexpr MessageRow kSurfaceMassRow{351};
-constexpr MessageRow kYoungsModulusRow{352};
-constexpr MessageRow kLossFactorRow{353};
-constexpr MessageRow kResilientValuesRow{360};
-constexpr MessageRow kAbsorptionBoxesRow{361};
-constexpr MessageRow kFlowResistanceRow{1141};
-constexpr MessageRow kStiffnessRow{1142};
-constexpr MessageRow kAbsorptionRow{1143};
-constexpr MessageRow kNoNumberRow{1144};
 
 /// `TagliaAlPrimoCR`: up to the first line break, without blanks around it.
 std::string FirstLine(const std::string& text) {
@@ -43,7 +31,7 @@ void Clean(Entry& entry, const KeywordTexts& texts) {
   if (entry.keyword.empty()) entry.keyword = texts.not_specified;
 }
 
-EntryRefusal NameMissing() { return {{{storage::kMaterialWithoutNameRow}}, "Text1"}; }
+EntryRefusal NameMissing() { return {{{kMaterialWithoutNameRow}}, "Text1"}; }
 
 struct NeededBox {
   const std::string& text;
@@ -53,7 +41,7 @@ struct NeededBox {
 
 /// The refusal that names every empty box and leads to the first, or nothing.
 std::optional<EntryRefusal> Missing(std::initializer_list<NeededBox> boxes) {
-  EntryRefusal refusal{{{kMissingRow, ":"}}, ""};
+  EntryRefusal refusal{{{kMaterialDataMissingRow, ":"}}, ""};
   for (const NeededBox& box : boxes) {
     if (!box.text.empty()) continue;
     refusal.message.push_back({"- ", box.name});
@@ -77,7 +65,8 @@ std::optional<EntryRefusal> TakeNumbers(std::initializer_list<NumberBox<Material
                                         Material& material) {
   for (const NumberBox<Material>& box : boxes) {
     const std::optional<double> number = box.text.empty() ? 0.0 : ParseDecimal(box.text);
-    if (!number) return EntryRefusal{{{kMaterialNotSavedRow}, {kNoNumberRow, " " + box.text}}, box.box};
+    if (!number)
+      return EntryRefusal{{{kMaterialNotSavedRow}, {kBoxHoldsNoNumberRow, " " + box.text}}, box.box};
     material.*box.field = *number;
   }
   return std::nullopt;
@@ -101,7 +90,7 @@ std::optional<EntryRefusal> TakeAbsorption(const FibrousEntry& entry, FibrousMat
     if (!value || *value < 0.0F || *value > kHighest) {
       std::string where = " " + FormatShortest(elements::kAbsorptionBandCentres.at(band));
       where.append(" Hz: ").append(text);
-      return EntryRefusal{{{kAbsorptionBoxesRow}, {kAbsorptionRow, std::move(where)}},
+      return EntryRefusal{{{kAbsorptionBoxesRow}, {kAbsorptionOutOfRangeRow, std::move(where)}},
                           "TextAlfa_" + std::to_string(band)};
     }
     material.absorption.at(band) = *value;
@@ -120,11 +109,11 @@ std::variant<storage::StructuralRow, EntryRefusal> RowOf(StructuralEntry entry, 
   using M = StructuralMaterial;
   Clean(entry, texts);
   if (entry.name.empty()) return NameMissing();
-  if (auto refusal = Missing({{entry.thickness, kThicknessRow, "Text3"},
-                              {entry.density, kDensityRow, "Text4"},
-                              {entry.surface_mass, kSurfaceMassRow, "Text5"},
-                              {entry.youngs_modulus, kYoungsModulusRow, "Text6"},
-                              {entry.loss_factor, kLossFactorRow, "Text8"}})) {
+  if (auto refusal = Missing({{entry.thickness, kThicknessMissingRow, "Text3"},
+                              {entry.density, kDensityMissingRow, "Text4"},
+                              {entry.surface_mass, kSurfaceMassMissingRow, "Text5"},
+                              {entry.youngs_modulus, kYoungsModulusMissingRow, "Text6"},
+                              {entry.loss_factor, kLossFactorMissingRow, "Text8"}})) {
     return *std::move(refusal);
   }
   storage::StructuralRow row = NamedRow<M>(entry);
@@ -148,11 +137,12 @@ std::variant<storage::FibrousRow, EntryRefusal> RowOf(FibrousEntry entry, const 
   Clean(entry, texts);
   if (entry.name.empty()) return NameMissing();
   const std::string none = "-";  // stands for a box that this kind does not need
-  if (auto refusal = Missing({{entry.thickness, kThicknessRow, "Text10"},
-                              {entry.density, kDensityRow, "Text9"},
-                              {entry.porous ? none : entry.youngs_modulus, kYoungsModulusRow, "Text11"},
-                              {entry.porous ? none : entry.loss_factor, kLossFactorRow, "Text12"},
-                              {entry.porous ? entry.flow_resistance : none, kFlowResistanceRow, "Text14"}})) {
+  if (auto refusal =
+          Missing({{entry.thickness, kThicknessMissingRow, "Text10"},
+                   {entry.density, kDensityMissingRow, "Text9"},
+                   {entry.porous ? none : entry.youngs_modulus, kYoungsModulusMissingRow, "Text11"},
+                   {entry.porous ? none : entry.loss_factor, kLossFactorMissingRow, "Text12"},
+                   {entry.porous ? entry.flow_resistance : none, kFlowResistanceMissingRow, "Text14"}})) {
     return *std::move(refusal);
   }
   storage::FibrousRow row = NamedRow<M>(entry);
@@ -202,8 +192,8 @@ std::variant<storage::ResilientRow, EntryRefusal> RowOf(ResilientEntry entry, co
   const NumberBox<M> resonance{boxes.resonance_frequency_hz, &M::resonance_frequency_hz, "Text5"};
   if (auto refusal = take({improvement, resonance})) return *std::move(refusal);
   // A negative improvement or resonance gives no stiffness.
-  if (auto refusal = Missing({{boxes.dynamic_stiffness_mn_m3, kStiffnessRow, "Text3"},
-                              {entry.thickness, kThicknessRow, "Text6"}})) {
+  if (auto refusal = Missing({{boxes.dynamic_stiffness_mn_m3, kStiffnessMissingRow, "Text3"},
+                              {entry.thickness, kThicknessMissingRow, "Text6"}})) {
     return *std::move(refusal);
   }
   if (auto refusal = take({{boxes.dynamic_stiffness_mn_m3, &M::dynamic_stiffness_mn_m3, "Text3"},

@@ -6,6 +6,7 @@
 
 #include "elements/materials.h"
 #include "foundation/message.h"
+#include "foundation/message_rows.h"
 #include "materials/keywords.h"
 #include "storage/materials/material_row.h"
 
@@ -22,7 +23,7 @@ struct StructuralEntry {
   std::string critical_frequency{};  ///< `Text7`, Hz; empty is 0
   std::string loss_factor{};         ///< `Text8`
   std::string poissons_ratio{};      ///< `Text9`; empty is 0
-  std::string keyword{};             ///< `Text10`; empty is row 325
+  std::string keyword{};             ///< `Text10`; empty is kNotSpecifiedRow
 
   bool operator==(const StructuralEntry&) const = default;
 };
@@ -31,7 +32,7 @@ struct StructuralEntry {
 struct FibrousEntry {
   std::string name{};                       ///< `Text1`
   std::string description{};                ///< `Text2`
-  std::string keyword = "non specificata";  ///< `Text8`; empty is row 325
+  std::string keyword = "non specificata";  ///< `Text8`; empty is kNotSpecifiedRow
   std::string thickness = "100";            ///< `Text10`, mm
   std::string density{};                    ///< `Text9`, kg/m³
   bool porous = true;                       ///< `Option1`(0)
@@ -48,7 +49,7 @@ struct FibrousEntry {
 struct ResilientEntry {
   std::string name{};                       ///< `Text1`
   std::string description{};                ///< `Text2`
-  std::string keyword = "non specificata";  ///< `Text8`; empty is row 325
+  std::string keyword = "non specificata";  ///< `Text8`; empty is kNotSpecifiedRow
   std::string stiffness{};                  ///< `Text3`, s', MN/m³
   std::string improvement{};                ///< `Text4`, Delta Ln,w, dB
   std::string resonance{};                  ///< `Text5`, f0, Hz
@@ -63,9 +64,6 @@ struct EntryRefusal {
   Message message{};
   std::string box{};  ///< control that takes the focus, such as "Text1"; empty for none
 };
-
-/// "The material has not been saved: a value is not a valid number or the database cannot be written."
-inline constexpr MessageRow kMaterialNotSavedRow{355};
 
 /// The row that an entry stands for; what an editor does not show (thermal values, picture, source) is empty.
 /// Decimal comma or point. Name, description and keyword end at their first line break.

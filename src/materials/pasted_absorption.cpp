@@ -5,12 +5,11 @@
 
 #include "elements/materials.h"
 #include "foundation/decimal.h"
+#include "foundation/message_rows.h"
 
 namespace velmar::materials {
 namespace {
 
-constexpr MessageRow kNoNumbersRow{1654};
-constexpr MessageRow kTooManyRow{1655};
 constexpr std::string_view kSeparators = "\t\n\r;";
 constexpr std::string_view kBlanks = " \xC2\xA0";  // the no-break space is two bytes
 
@@ -42,14 +41,14 @@ std::variant<PastedAbsorption, Message> ReadPastedAbsorption(std::string_view te
   bool any = false;
   for (std::string& cell : pasted.texts) {
     if (cell.empty()) continue;
-    if (!ParseDecimal(cell)) return Message{{kNoNumbersRow}};
+    if (!ParseDecimal(cell)) return Message{{kPastedNoNumbersRow}};
     std::ranges::replace(cell, '.', ',');
     any = true;
   }
-  if (!any) return Message{{kNoNumbersRow}};
+  if (!any) return Message{{kPastedNoNumbersRow}};
   if (pasted.texts.size() == elements::kAbsorptionBandCount) pasted.first_band = 0;
   if (pasted.first_band + pasted.texts.size() > elements::kAbsorptionBandCount)
-    return Message{{kTooManyRow, " " + std::to_string(pasted.texts.size())}};
+    return Message{{kPastedTooManyRow, " " + std::to_string(pasted.texts.size())}};
   return pasted;
 }
 

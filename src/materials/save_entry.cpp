@@ -5,6 +5,7 @@
 #include <utility>
 #include <variant>
 
+#include "foundation/message_rows.h"
 #include "storage/database/database_failure.h"
 
 namespace velmar::materials {

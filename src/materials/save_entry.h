@@ -3,6 +3,7 @@
 #include <optional>
 #include <string>
 
+#include "foundation/message_rows.h"
 #include "materials/material_entry.h"
 #include "storage/materials/material_store.h"
 
@@ -12,7 +13,7 @@ namespace velmar::materials {
 /// columns that the editors do not show stay as they are, and are empty in a new row.
 ///
 /// Nothing is changed when it is refused: by the checks of RowOf(), by a name that exists (case ignored), or
-/// by a failure of the database, which is told behind row 355.
+/// by a failure of the database, which is told behind kMaterialNotSavedRow.
 /// @return the refusal, or nothing when the row is stored
 std::optional<EntryRefusal> SaveEntry(storage::MaterialStore& store, const StructuralEntry& entry,
                                       const std::string& old_name, const KeywordTexts& texts);

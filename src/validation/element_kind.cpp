@@ -1,11 +1,13 @@
 #include "validation/element_kind.h"
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <optional>
 #include <vector>
 
 #include "foundation/decimal.h"
+#include "foundation/message_rows.h"
 
 namespace velmar::validation {
 namespace {
@@ -59,40 +61,45 @@ constexpr std::array<std::string_view, 1> kCoveringGroups = {"covering or dry fl
 constexpr std::array<std::string_view, 1> kImpactTimberGroups = {"CLT, impact (off-label)"};
 
 constexpr std::array kKinds = {
-    ElementKindRow{ElementKind::kOther, "other", {1900}, Names{}},
-    ElementKindRow{ElementKind::kBrickAndClay, kBrick, {1901}, kBrickGroups},
-    ElementKindRow{ElementKind::kConcrete, kConcreteName, {1902}, kConcreteGroups},
-    ElementKindRow{ElementKind::kAeratedConcrete, kAerated, {1903}, kAeratedGroups},
-    ElementKindRow{ElementKind::kCalciumSilicate, kSilicate, {1904}, kSilicateGroups},
-    ElementKindRow{ElementKind::kConcreteBlock, "concrete block", {1905}, kBlockGroups},
-    ElementKindRow{ElementKind::kSheet, "thin sheets and boards", {1906}, kSheetGroups},
-    ElementKindRow{ElementKind::kTimberSlab, "timber slab", {1907}, kTimberSlabGroups},
-    ElementKindRow{ElementKind::kSinglePane, "single pane", {1908}, kSinglePaneGroups},
-    ElementKindRow{ElementKind::kLaminatedPane, "laminated pane", {1909}, kLaminatedGroups},
-    ElementKindRow{ElementKind::kInsulatingUnit, "insulating unit (cavity < 35 mm)", {1910}, kUnitGroups},
-    ElementKindRow{ElementKind::kDoubleWindow, "double window (cavity >= 40 mm)", {1911}, kWindowGroups},
-    ElementKindRow{ElementKind::kMasonryCavityWall, "masonry cavity wall", {1912}, kCavityWallGroups},
-    ElementKindRow{ElementKind::kWoodStuds, kWood, {1913}, kWoodGroups},
-    ElementKindRow{ElementKind::kSteelStuds, kSteel, {1914}, kSteelGroups},
-    ElementKindRow{ElementKind::kResilientStuds, kResilient, {1915}, kResilientGroups},
-    ElementKindRow{ElementKind::kResilientChannels, kChannels, {1916}, kChannelGroups},
-    ElementKindRow{ElementKind::kSeparateFrames, kSeparate, {1917}, kSeparateGroups},
-    ElementKindRow{ElementKind::kStuds, "studs of wood or steel", {1918}, kStudGroups},
-    ElementKindRow{ElementKind::kConnectedBoards, "boards on studs or channels", {1919}, kConnectedGroups},
-    ElementKindRow{
-        ElementKind::kUnconnectedBoards, "boards without rigid connection", {1920}, kUnconnectedGroups},
-    ElementKindRow{ElementKind::kBoards, "two leaves of boards", {1921}, kBoardGroups},
-    ElementKindRow{ElementKind::kLining, "lining", {1922}, kLiningGroups},
-    ElementKindRow{ElementKind::kCeiling, "ceiling below a heavy floor", {1923}, kCeilingGroups},
-    ElementKindRow{ElementKind::kFloatingFloor, "floating floor, airborne", {1924}, kFloatingGroups},
-    ElementKindRow{ElementKind::kFloatingFloorOnTimber,
-                   "floating floor on timber, airborne",
-                   {1925},
-                   kFloatingTimberGroups},
-    ElementKindRow{ElementKind::kImpactScreed, "screed on a mat, impact", {1926}, kScreedGroups},
-    ElementKindRow{
-        ElementKind::kImpactCovering, "covering or dry floor on concrete, impact", {1927}, kCoveringGroups},
-    ElementKindRow{ElementKind::kImpactTimber, "timber floor, impact", {1928}, kImpactTimberGroups},
+    ElementKindRow{ElementKind::kOther, "other", kKindOtherRow, Names{}},
+    ElementKindRow{ElementKind::kBrickAndClay, kBrick, kKindBrickAndClayRow, kBrickGroups},
+    ElementKindRow{ElementKind::kConcrete, kConcreteName, kKindConcreteRow, kConcreteGroups},
+    ElementKindRow{ElementKind::kAeratedConcrete, kAerated, kKindAeratedConcreteRow, kAeratedGroups},
+    ElementKindRow{ElementKind::kCalciumSilicate, kSilicate, kKindCalciumSilicateRow, kSilicateGroups},
+    ElementKindRow{ElementKind::kConcreteBlock, "concrete block", kKindConcreteBlockRow, kBlockGroups},
+    ElementKindRow{ElementKind::kSheet, "thin sheets and boards", kKindSheetRow, kSheetGroups},
+    ElementKindRow{ElementKind::kTimberSlab, "timber slab", kKindTimberSlabRow, kTimberSlabGroups},
+    ElementKindRow{ElementKind::kSinglePane, "single pane", kKindSinglePaneRow, kSinglePaneGroups},
+    ElementKindRow{ElementKind::kLaminatedPane, "laminated pane", kKindLaminatedPaneRow, kLaminatedGroups},
+    ElementKindRow{ElementKind::kInsulatingUnit, "insulating unit (cavity < 35 mm)", kKindInsulatingUnitRow,
+                   kUnitGroups},
+    ElementKindRow{ElementKind::kDoubleWindow, "double window (cavity >= 40 mm)", kKindDoubleWindowRow,
+                   kWindowGroups},
+    ElementKindRow{ElementKind::kMasonryCavityWall, "masonry cavity wall", kKindMasonryCavityWallRow,
+                   kCavityWallGroups},
+    ElementKindRow{ElementKind::kWoodStuds, kWood, kKindWoodStudsRow, kWoodGroups},
+    ElementKindRow{ElementKind::kSteelStuds, kSteel, kKindSteelStudsRow, kSteelGroups},
+    ElementKindRow{ElementKind::kResilientStuds, kResilient, kKindResilientStudsRow, kResilientGroups},
+    ElementKindRow{ElementKind::kResilientChannels, kChannels, kKindResilientChannelsRow, kChannelGroups},
+    ElementKindRow{ElementKind::kSeparateFrames, kSeparate, kKindSeparateFramesRow, kSeparateGroups},
+    ElementKindRow{ElementKind::kStuds, "studs of wood or steel", kKindStudsRow, kStudGroups},
+    ElementKindRow{ElementKind::kConnectedBoards, "boards on studs or channels", kKindConnectedBoardsRow,
+                   kConnectedGroups},
+    ElementKindRow{ElementKind::kUnconnectedBoards, "boards without rigid connection",
+                   kKindUnconnectedBoardsRow, kUnconnectedGroups},
+    ElementKindRow{ElementKind::kBoards, "two leaves of boards", kKindBoardsRow, kBoardGroups},
+    ElementKindRow{ElementKind::kLining, "lining", kKindLiningRow, kLiningGroups},
+    ElementKindRow{ElementKind::kCeiling, "ceiling below a heavy floor", kKindCeilingRow, kCeilingGroups},
+    ElementKindRow{ElementKind::kFloatingFloor, "floating floor, airborne", kKindFloatingFloorRow,
+                   kFloatingGroups},
+    ElementKindRow{ElementKind::kFloatingFloorOnTimber, "floating floor on timber, airborne",
+                   kKindFloatingFloorOnTimberRow, kFloatingTimberGroups},
+    ElementKindRow{ElementKind::kImpactScreed, "screed on a mat, impact", kKindImpactScreedRow,
+                   kScreedGroups},
+    ElementKindRow{ElementKind::kImpactCovering, "covering or dry floor on concrete, impact",
+                   kKindImpactCoveringRow, kCoveringGroups},
+    ElementKindRow{ElementKind::kImpactTimber, "timber floor, impact", kKindImpactTimberRow,
+                   kImpactTimberGroups},
 };
 
 constexpr bool KindsStandInTheirOrder() {
@@ -271,8 +278,13 @@ ElementKind TwoLeavesKind(const Setup& setup, elements::Frame frame, const Leaf&
   return BoardsKind(setup);
 }
 
+/// What carries a slab is its stiffest layer: a filling may well be heavier.
 bool IsTimberSlab(const Leaf& slab) {
-  return !slab.empty() && HeaviestOf(slab).density_kg_m3 < kDensestTimber_kg_m3;
+  const auto stiffness = [](const Sheet& sheet) {
+    return sheet.density_kg_m3 * sheet.wave_speed_m_s * sheet.wave_speed_m_s * sheet.thickness_mm;
+  };
+  const auto stiffest = std::ranges::max_element(slab, {}, stiffness);
+  return stiffest != slab.end() && stiffest->density_kg_m3 < kDensestTimber_kg_m3;
 }
 
 ElementKind ImpactKind(const Setup& setup) {

@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <array>
 
+#include "foundation/message_rows.h"
 #include "validation/model_prediction.h"
-#include "validation/text_rows.h"
 
 namespace velmar::validation {
 namespace {

@@ -8,6 +8,7 @@
 
 #include "models/layered/layered_element.h"
 #include "models/monolithic/monolithic_element.h"
+#include "validation/footfall_prediction.h"
 #include "validation/layered_input.h"
 #include "validation/monolithic_input.h"
 
@@ -124,7 +125,7 @@ PredictionOutcome PredictWithMonolithic(const elements::MeasuredData& data) {
 
 PredictionOutcome PredictWithAllModels(const elements::MeasuredData& data) {
   PredictionOutcome all = PredictWithCalculations(data);
-  std::array new_models = {PredictWithLayered(data), PredictWithMonolithic(data)};
+  std::array new_models = {PredictWithLayered(data), PredictWithMonolithic(data), PredictWithFootfall(data)};
   for (PredictionOutcome& further : new_models) {
     std::ranges::move(further.predictions, std::back_inserter(all.predictions));
     std::ranges::move(further.refused, std::back_inserter(all.refused));

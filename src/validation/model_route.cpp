@@ -5,12 +5,13 @@
 #include <string>
 
 #include "foundation/decimal.h"
+#include "foundation/message_rows.h"
 #include "models/layered/layered_element.h"
+#include "validation/footfall_prediction.h"
 #include "validation/layered_input.h"
 #include "validation/model_choice.h"
 #include "validation/model_prediction.h"
 #include "validation/monolithic_input.h"
-#include "validation/text_rows.h"
 
 namespace velmar::validation {
 namespace {
@@ -102,6 +103,11 @@ ModelRoute RouteOf(std::string_view id, const elements::Setup& setup) {
              .assumptions = {kMonolithicAssumptionsRow},
              .limits = {kMonolithicLimitsRow},
              .inputs = MonolithicInputs(setup)};
+  } else if (id == kFootfallModel) {
+    route = {.model = {kFootfallNameRow},
+             .source = {kFootfallSourceRow},
+             .assumptions = {kFootfallAssumptionsRow},
+             .limits = {kFootfallLimitsRow}};
   } else {
     const elements::Calculation calculation = elements::FindCalculation(id).value_or(*setup.calculation);
     const elements::CalculationRow& row = elements::RowOf(calculation);

@@ -5,12 +5,14 @@
 #include <utility>
 
 #include "acoustics/airborne_rating.h"
+#include "acoustics/impact_numbers.h"
 #include "calculation/run.h"
 #include "foundation/decimal.h"
 #include "foundation/failure.h"
+#include "foundation/message_rows.h"
+#include "validation/footfall_prediction.h"
 #include "validation/model_choice.h"
 #include "validation/model_prediction.h"
-#include "validation/text_rows.h"
 
 namespace velmar::validation {
 namespace {
@@ -94,6 +96,23 @@ void AddModel(SecondOpinion& opinion, const char* model, MessageRow name,
   }
 }
 
+/// The floor after EN ISO 12354-2; nothing where it does not apply, refuses a value or cannot be rated.
+std::optional<ModelOpinion> FootfallOpinion(const Setup& setup, const Accuracy& accuracy) {
+  try {
+    const auto floor = FootfallOf(setup);
+    if (!floor) return std::nullopt;
+    const auto numbers = acoustics::FindImpactNumbers(acoustics::LevelsOf(floor->impact_level_db));
+    if (!numbers.lnw) return std::nullopt;
+    ResultSet result;
+    result.spectrum = floor->impact_level_db;
+    result.lnw = numbers.lnw;
+    result.ci = numbers.ci;
+    return OpinionOf(kFootfallModel, {kFootfallNameRow}, kFootfallModel, setup, std::move(result), accuracy);
+  } catch (const ArithmeticFailure&) {
+    return std::nullopt;
+  }
+}
+
 /// Marks one model: that of the rule, else the layered one, else the first.
 void Mark(SecondOpinion& opinion, const std::optional<ModelRule>& rule, std::string_view chosen) {
   if (opinion.models.empty()) return;
@@ -150,6 +169,7 @@ SecondOpinion FormOpinion(const Setup& setup, const std::optional<ResultSet>& re
   }
   AddModel(opinion, kLayeredModel, kLayeredNameRow, LayeredSpectrum(setup), setup, accuracy);
   AddModel(opinion, kMonolithicModel, kMonolithicNameRow, MonolithicSpectrum(setup), setup, accuracy);
+  if (auto footfall = FootfallOpinion(setup, accuracy)) opinion.models.push_back(std::move(*footfall));
   const std::optional<ModelRule> rule = RuleFor(opinion.kind);
   if (rule) {
     if (auto marked = MarkedCalculation(setup, rule->model, accuracy))

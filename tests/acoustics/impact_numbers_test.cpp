@@ -117,6 +117,27 @@ TEST(ImpactNumbers, AllowTheFullSumInTheClass) {
   EXPECT_EQ(numbers.iic, 110 - 58);
 }
 
+/// ISO 717-2, annex C, table C.2: a covering of 15 dB.
+TEST(WeightedImpactImprovement, OfTheWorkedExample) {
+  EXPECT_EQ(WeightedImpactImprovement(LevelsFrom(k100Hz, {3.0, 3.7, 1.9, 3.0, 3.2, 3.5, 4.0, 6.1, 6.7, 7.0,
+                                                          7.7, 10.8, 15.2, 20.3, 25.4, 23.2})),
+            15);
+}
+
+/// Foret, Chene and Guigou-Carter, Forum Acusticum 2011: a carpet laid loose, 29 dB.
+TEST(WeightedImpactImprovement, OfAMeasuredCarpet) {
+  EXPECT_EQ(WeightedImpactImprovement(
+                LevelsFrom(k100Hz, {5, 8, 10, 14, 18, 23, 30, 31, 39, 49, 53, 57, 60, 67, 68, 71})),
+            29);
+}
+
+TEST(WeightedImpactImprovement, IsWhatIsTakenFromEveryBand) {
+  EXPECT_EQ(WeightedImpactImprovement(Flat(0)), 0);
+  EXPECT_EQ(WeightedImpactImprovement(Flat(12)), 12);
+  EXPECT_EQ(WeightedImpactImprovement(Flat(-3)), -3);
+  EXPECT_EQ(WeightedImpactImprovement(LevelsFrom(k125Hz, {1, 2})), std::nullopt);
+}
+
 TEST(ImpactNumbers, LackWhatTheirBandsDoNotGive) {
   BandLevels levels = BareFloor();
   levels[k100Hz].reset();

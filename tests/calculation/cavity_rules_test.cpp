@@ -124,5 +124,14 @@ TEST(SeaCavityDepth, OfAnEmptyCavityStaysEmptyBeforeARun) {
   EXPECT_EQ(setup.sea_cavity.depth_text, "0");
 }
 
+TEST(ChooseCavityKind, OfTheOneThatIsChosenChangesNothing) {
+  elements::Setup setup;
+  setup.cavity.kind = CavityKind::kFibrous;
+  setup.cavity.fibre_text = "60";
+  const elements::Setup before = setup;
+  ChooseCavityKind(setup, CavityKind::kFibrous);
+  EXPECT_EQ(setup, before);
+}
+
 }  // namespace
 }  // namespace velmar::calculation

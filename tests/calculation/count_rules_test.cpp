@@ -45,16 +45,21 @@ TEST(Counts, OfCavityLayersAboveSevenCapTheSecondLeafInstead) {
   EXPECT_EQ(setup.leaf2.count, 7);
 }
 
-TEST(EnterThickness, TurnsWhatIsNotAboveZeroIntoTen) {
+TEST(LeaveThickness, TurnsWhatIsNotAboveZeroIntoTen) {
   elements::LayerRow<elements::StructuralMaterial> row;
   EnterThickness(row, "12.5");
+  EXPECT_FALSE(LeaveThickness(row));
   EXPECT_EQ(row.slot.thickness_mm, 12.5);
   EXPECT_EQ(row.thickness_text, "12.5");
   for (const char* text : {"0", "-3", "0,0"}) {
     EnterThickness(row, text);
+    EXPECT_EQ(row.thickness_text, text) << "while it is typed";
+    EXPECT_TRUE(LeaveThickness(row));
     EXPECT_EQ(row.slot.thickness_mm, 10) << text;
     EXPECT_EQ(row.thickness_text, "10") << text;
   }
+  EnterThickness(row, "");
+  EXPECT_FALSE(LeaveThickness(row));
 }
 
 TEST(EnterThickness, LeavesTheLayerWhileTheBoxHoldsNoNumber) {

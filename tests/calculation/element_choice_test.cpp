@@ -8,7 +8,7 @@ namespace {
 TEST(ElementNumbers, AreKeptAsTyped) {
   for (const char* text : {"45", "45,5", "45.5", "-3", "1E1", "", ",", ".", "-"}) {
     std::string box = "30";
-    EXPECT_TRUE(EnterElementNumber(box, text)) << text;
+    EnterElementNumber(box, text);
     EXPECT_EQ(box, text);
   }
 }
@@ -16,18 +16,18 @@ TEST(ElementNumbers, AreKeptAsTyped) {
 TEST(ElementNumbers, EmptyTheBoxWhenTheyAreNone) {
   for (const char* text : {"1E", "--", "abc", "4,5,6", "1 2", "nan", "inf"}) {
     std::string box = "30";
-    EXPECT_FALSE(EnterElementNumber(box, text)) << text;
-    EXPECT_EQ(box, "");
+    EnterElementNumber(box, text);
+    EXPECT_EQ(box, "") << text;
   }
 }
 
 TEST(ComponentAreas, MayBeADashForASmallElement) {
   std::string box = "2,4";
-  EXPECT_TRUE(EnterComponentArea(box, "-"));
+  EnterComponentArea(box, "-");
   EXPECT_EQ(box, "-");
-  EXPECT_TRUE(EnterComponentArea(box, "1,8"));
+  EnterComponentArea(box, "1,8");
   EXPECT_EQ(box, "1,8");
-  EXPECT_FALSE(EnterComponentArea(box, "--"));
+  EnterComponentArea(box, "--");
   EXPECT_EQ(box, "");
 }
 
@@ -49,9 +49,9 @@ TEST_P(AreaShares, AreOfTheWholeFacade) {
 INSTANTIATE_TEST_SUITE_P(Areas, AreaShares,
                          testing::Values(Share{"10", "2,5", 25.0}, Share{"12.5", "12.5", 100.0},
                                          Share{"10", "-", 0.0}, Share{"10", "15", 150.0},
-                                         Share{"-10", "2,5", 25.0}, Share{"10", "", std::nullopt},
-                                         Share{"", "2", std::nullopt}, Share{"0", "2", std::nullopt},
-                                         Share{",", "2", std::nullopt}));
+                                         Share{"-10", "2,5", std::nullopt}, Share{"10", "-2,5", std::nullopt},
+                                         Share{"10", "", std::nullopt}, Share{"", "2", std::nullopt},
+                                         Share{"0", "2", std::nullopt}, Share{",", "2", std::nullopt}));
 
 TEST(AreaShares, OfAComponentThatIsNotThereThrow) {
   elements::Setup setup;

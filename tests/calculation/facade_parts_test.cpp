@@ -131,11 +131,23 @@ TEST(FacadePartsTest, APartWithoutAnAreaLeavesTheTypedOne) {
   EXPECT_EQ(setup.base.area_text, "10,8");
 }
 
-TEST(FacadePartsTest, OnlyAMeasurementBringsTheAreaOfTheOpaquePart) {
+TEST(FacadePartsTest, NoOpaquePartBringsTheAreaOfTheFacade) {
   elements::Setup setup = EmptyFacade();
   TakeAsOpaquePart(setup, Part("calcolata", 35));
   EXPECT_EQ(setup.base.area_text, "10,8");
   TakeAsOpaquePart(setup, Measured("misurata", 35));
+  EXPECT_EQ(setup.base.area_text, "10,8");
+  setup.base.area_text.clear();
+  TakeAsOpaquePart(setup, Measured("misurata", 35));
+  EXPECT_EQ(setup.base.area_text, "");
+}
+
+TEST(FacadePartsTest, AMeasurementBringsTheAreaOfALiningsBase) {
+  elements::Setup setup;
+  setup.base.area_text = "10,8";
+  TakeAsLiningBase(setup, Part("calcolata", 35));
+  EXPECT_EQ(setup.base.area_text, "10,8");
+  TakeAsLiningBase(setup, Measured("misurata", 35));
   EXPECT_EQ(setup.base.area_text, "1,5");
 }
 

@@ -166,5 +166,41 @@ TEST(SelectFirstMaterials, LeavesTheFirstSeaLayerWithoutPoissonsRatio) {
   EXPECT_EQ(setup.sea_leaf1.rows[0].slot.poissons_ratio, 0.2);
 }
 
+TEST(LoadRowsInUse, FillsARowThatCameIntoUseAndKeepsItsThickness) {
+  elements::Setup setup;
+  const StructuralRecord brick = Brick();
+  SelectFirstMaterials(setup, &brick, nullptr, nullptr);
+  setup.leaf1.count = 2;
+  setup.leaf1.rows[1].thickness_text = "75";
+  LoadRowsInUse(setup, Materials());
+  EXPECT_EQ(setup.leaf1.rows[1].slot.name, brick.values.name);
+  EXPECT_EQ(setup.leaf1.rows[1].slot.density_kg_m3, 800);
+  EXPECT_EQ(setup.leaf1.rows[1].slot.thickness_mm, 75);
+  EXPECT_TRUE(setup.leaf1.rows[2].slot.name.empty()) << "not in use";
+}
+
+TEST(LoadRowsInUse, PassesOverDampingThatIsNotTicked) {
+  elements::Setup setup;
+  const StructuralRecord brick = Brick();
+  SelectFirstMaterials(setup, &brick, nullptr, nullptr);
+  setup.sea_leaf1.damping[1].ticked = true;
+  LoadRowsInUse(setup, Materials());
+  EXPECT_EQ(setup.sea_leaf1.damping[1].row.slot.density_kg_m3, 800);
+  setup.sea_leaf1.damping[0].row.slot = {};
+  LoadRowsInUse(setup, Materials());
+  EXPECT_TRUE(setup.sea_leaf1.damping[0].row.slot.name.empty());
+}
+
+TEST(LoadRowsInUse, EmptiesARowWhoseMaterialIsGone) {
+  elements::Setup setup;
+  const StructuralRecord brick = Brick();
+  SelectFirstMaterials(setup, &brick, nullptr, nullptr);
+  setup.leaf1.count = 2;
+  setup.leaf1.rows[1].listed = "Sparito";
+  LoadRowsInUse(setup, Materials());
+  EXPECT_EQ(setup.leaf1.rows[1], elements::LayerRow<StructuralMaterial>());
+  EXPECT_EQ(setup.leaf1.rows[0].slot.name, brick.values.name) << "what is loaded stays";
+}
+
 }  // namespace
 }  // namespace velmar::calculation

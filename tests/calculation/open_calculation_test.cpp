@@ -45,7 +45,7 @@ TEST_F(OpenCalculationTest, HoldsAResultOnlyWhileItBelongsToTheSetup) {
   EXPECT_TRUE(open_.Result());
   EXPECT_FALSE(open_.IsTouched());
   EXPECT_TRUE(open_.IsSaved());
-  open_.EditKeepingResult([](elements::Setup& setup) { setup.base.band_texts[3] = "40"; });
+  open_.EditKeepingResult([](elements::Setup& setup) { setup.information[0].value = "Via Roma 1"; });
   EXPECT_TRUE(open_.Result());
   open_.Edit([](elements::Setup& setup) { setup.facade.components[0].tightness_class = 1; });
   EXPECT_FALSE(open_.Result());
@@ -53,7 +53,7 @@ TEST_F(OpenCalculationTest, HoldsAResultOnlyWhileItBelongsToTheSetup) {
 
 TEST_F(OpenCalculationTest, LeavesNoResultWhenARunIsRefused) {
   open_.Run(kYes);
-  open_.EditKeepingResult([](elements::Setup& setup) { setup.base.area_text = "2"; });
+  open_.Edit([](elements::Setup& setup) { setup.base.area_text = "2"; });
   const RunOutcome outcome = open_.Run(kYes);
   EXPECT_EQ(outcome.status, RunStatus::kRefused);
   EXPECT_FALSE(open_.Result());
@@ -62,11 +62,13 @@ TEST_F(OpenCalculationTest, LeavesNoResultWhenARunIsRefused) {
 }
 
 TEST_F(OpenCalculationTest, NamesTheTextThatIsNoNumber) {
-  open_.EditKeepingResult([](elements::Setup& setup) { setup.base.rating_text = "cinquanta"; });
+  open_.Edit([](elements::Setup& setup) { setup.base.rating_text = "cinquanta"; });
   const RunOutcome outcome = open_.Run(kYes);
   EXPECT_EQ(outcome.status, RunStatus::kFailed);
   ASSERT_EQ(outcome.messages.size(), 1U);
   EXPECT_EQ(std::get<std::string>(outcome.messages[0].at(1).at(1)), " \"cinquanta\"");
+  ASSERT_TRUE(outcome.refusal);
+  EXPECT_EQ(outcome.refusal->field, (elements::FieldId{elements::Field::kRating}));
 }
 
 TEST(OpenCalculation, RefusesToRunNothing) {

@@ -72,21 +72,5 @@ TEST(SelectCalculation, TellsTheBaseOfAGenericLiningByItsRatingAlone) {
   EXPECT_FALSE(setup.facade.simplified);
 }
 
-TEST(FieldLayout, ShowsFibreThicknessWhereARelationReadsIt) {
-  EXPECT_FALSE(LayoutOf(Calculation::kDoubleWallGeneric).fibre_thickness_shown);
-  EXPECT_FALSE(LayoutOf(Calculation::kDoubleWallBrick).fibre_thickness_shown);
-  EXPECT_TRUE(LayoutOf(Calculation::kDoubleWallBrickTorvalle).fibre_thickness_shown);
-  EXPECT_TRUE(LayoutOf(Calculation::kDoubleWallPlasterboardMultipleBoardDoubleFrame).fibre_thickness_shown);
-}
-
-TEST(FieldLayout, AsksForSupportsWhereTheModelReadsThem) {
-  EXPECT_EQ(LayoutOf(Calculation::kLightWallIsolated).support, SupportField::kHidden);
-  EXPECT_EQ(LayoutOf(Calculation::kLightWallPointPoint).support, SupportField::kStudDistance);
-  EXPECT_EQ(LayoutOf(Calculation::kDoubleWallSeaPlasterboardPoint).support, SupportField::kPointConnections);
-  EXPECT_TRUE(LayoutOf(Calculation::kDoubleWallSeaBrick).decoupling_shown);
-  EXPECT_TRUE(LayoutOf(Calculation::kCeilingSea).hanger_shown);
-  EXPECT_EQ(LayoutOf(Calculation::kCeilingSea).cavity_types, 2);
-}
-
 }  // namespace
 }  // namespace velmar::calculation

@@ -28,7 +28,7 @@ struct Text {
   std::string english;
 };
 
-storage::CsvTable Table(std::string_view file_name) {
+CsvTable Table(std::string_view file_name) {
   std::ifstream file(std::filesystem::path(VELMAR_MESSAGES) / file_name, std::ios::binary);
   EXPECT_TRUE(file.is_open()) << file_name;
   const std::string bytes(std::istreambuf_iterator<char>(file), {});
@@ -45,7 +45,7 @@ int Number(const std::string& field) {
 std::vector<Text> Texts(std::string_view file_name) {
   std::vector<Text> texts;
   for (const std::vector<std::string>& fields : Table(file_name).rows) {
-    texts.push_back({Number(fields.at(0)), fields.at(1), fields.at(2), fields.at(3)});
+    texts.push_back({Number(fields.at(0)), fields.at(2), fields.at(3), fields.at(4)});
   }
   return texts;
 }
@@ -53,7 +53,7 @@ std::vector<Text> Texts(std::string_view file_name) {
 class MessageFileTest : public testing::TestWithParam<const char*> {};
 
 TEST_P(MessageFileTest, HasTheColumnsInOrder) {
-  EXPECT_THAT(Table(GetParam()).header, ElementsAre("row", "use", "Italiano", "English"));
+  EXPECT_THAT(Table(GetParam()).header, ElementsAre("row", "name", "use", "Italiano", "English"));
 }
 
 TEST_P(MessageFileTest, LeavesNothingEmpty) {

@@ -49,16 +49,16 @@ TEST_F(RefusedTextTest, AMissingFile) {
 }
 
 TEST_F(RefusedTextTest, ACatalogueRowOutOfPlace) {
-  Write("catalogue.csv", "row,use,Italiano\n1,a,uno\n3,b,tre\n");
-  Write("texts.csv", "row,use,Italiano\n1001,a,mille\n");
+  Write("catalogue.csv", "row,name,use,Italiano\n1,kARow,a,uno\n3,kBRow,b,tre\n");
+  Write("texts.csv", "row,name,use,Italiano\n1001,kMRow,a,mille\n");
   EXPECT_THAT([&] { BuildMessages(folder_, folder_ / "m.mdb"); },
               ThrowsMessage<std::runtime_error>(HasSubstr("row 3 stands at place 2")));
   EXPECT_FALSE(std::filesystem::exists(folder_ / "m.mdb"));
 }
 
 TEST_F(RefusedTextTest, AFurtherTextTwice) {
-  Write("catalogue.csv", "row,use,Italiano\n1,a,uno\n");
-  Write("texts.csv", "row,use,Italiano\n1001,a,mille\n1001,b,mille\n");
+  Write("catalogue.csv", "row,name,use,Italiano\n1,kARow,a,uno\n");
+  Write("texts.csv", "row,name,use,Italiano\n1001,kMRow,a,mille\n1001,kNRow,b,mille\n");
   EXPECT_ANY_THROW(BuildMessages(folder_, folder_ / "m.mdb"));
   EXPECT_FALSE(std::filesystem::exists(folder_ / "m.mdb"));
 }

@@ -1,55 +1,47 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
-#include <map>
 #include <regex>
-#include <set>
 #include <string>
+#include <vector>
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
-
-#include "storage/tables/csv.h"
 
 namespace velmar {
 namespace {
 
-std::string BytesOf(const std::filesystem::path& path) {
-  std::ifstream file(path, std::ios::binary);
-  return {std::istreambuf_iterator<char>(file), {}};
-}
-
-/// The rows of both files that have a text in both languages.
-std::set<int> WordedRows() {
-  std::set<int> rows;
-  for (const char* name : {"catalogue.csv", "texts.csv"}) {
-    for (const auto& fields :
-         storage::ParseCsv(BytesOf(std::filesystem::path(VELMAR_MESSAGES) / name)).rows) {
-      if (!fields.at(2).empty() && !fields.at(3).empty()) rows.insert(std::stoi(fields.at(0)));
-    }
+/// A row that is made of its number where its name should stand: `MessageRow kSomething{123}`,
+/// `MessageRow{123}`, `words({123})`.
+std::vector<std::string> NumberedRows(const std::string& source) {
+  static const std::regex kNumbered(
+      "MessageRow(\\s+\\w+)?\\s*(=\\s*)?\\{\\s*[1-9][0-9]*\\s*\\}|[Ww]ords\\(\\s*\\{\\s*[1-9][0-9]*\\s*"
+      "\\}");
+  std::vector<std::string> rows;
+  for (std::sregex_iterator found(source.begin(), source.end(), kNumbered), end; found != end; ++found) {
+    rows.push_back(found->str());
   }
   return rows;
 }
 
-/// Every row that the sources name as a constant, `MessageRow kSomething{123}` or `MessageRow{123}`, and
-/// where.
-std::map<int, std::string> NamedRows() {
-  const std::regex named("MessageRow(?:\\s+\\w+)?\\s*\\{\\s*([1-9][0-9]*)\\s*\\}");
-  std::map<int, std::string> rows;
+TEST(NumberedRows, AreFoundInEveryWayOfWritingThem) {
+  for (const char* source : {"MessageRow kSomething{123};", "MessageRow{1001}", "MessageRow row = {7};",
+                             "words({142})", "InWords({142})", "MessageRow\n    kLong{12}"})
+    EXPECT_EQ(NumberedRows(source).size(), 1U) << source;
+  for (const char* source : {"MessageRow row{};", "words(kWidthRow)", "MessageRow{number}", "MessageRow{0}"})
+    EXPECT_THAT(NumberedRows(source), testing::IsEmpty()) << source;
+}
+
+TEST(Sources, NameTheRowsOfMessages) {
+  int files = 0;
   for (const auto& entry : std::filesystem::recursive_directory_iterator(VELMAR_SOURCES)) {
     if (entry.path().extension() != ".h" && entry.path().extension() != ".cpp") continue;
-    const std::string source = BytesOf(entry.path());
-    for (std::sregex_iterator found(source.begin(), source.end(), named), end; found != end; ++found) {
-      rows.emplace(std::stoi((*found)[1]), entry.path().filename().string());
-    }
+    ++files;
+    std::ifstream file(entry.path(), std::ios::binary);
+    const std::string source(std::istreambuf_iterator<char>(file), {});
+    EXPECT_THAT(NumberedRows(source), testing::IsEmpty()) << entry.path();
   }
-  return rows;
-}
-
-TEST(UsedRows, HaveATextInBothLanguages) {
-  const std::set<int> worded = WordedRows();
-  const std::map<int, std::string> named = NamedRows();
-  EXPECT_GT(named.size(), 100U);
-  for (const auto& [row, file] : named) EXPECT_TRUE(worded.contains(row)) << "row " << row << " of " << file;
+  EXPECT_GT(files, 300);
 }
 
 }  // namespace

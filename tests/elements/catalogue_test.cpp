@@ -1,5 +1,6 @@
 #include "elements/catalogue.h"
 
+#include <map>
 #include <set>
 #include <string>
 #include <tuple>
@@ -47,7 +48,7 @@ TEST_P(CataloguePlaceTest, StandsWhereStoredFilesExpectIt) {
   const CalculationRow& row = RowOf(*FindCalculation(GetParam().variant));
   EXPECT_EQ(FamilyText(row.family), GetParam().family);
   EXPECT_EQ(OrientationText(row.orientation), GetParam().orientation);
-  EXPECT_EQ(row.relation, GetParam().relation);
+  EXPECT_EQ(row.mark, GetParam().relation);
   EXPECT_EQ(row.button, GetParam().button);
 }
 
@@ -83,6 +84,43 @@ TEST(Catalogue, KnowsItsGlass) {
   int glazing = 0;
   for (const CalculationRow& row : Catalogue()) glazing += IsGlazing(row.calculation) ? 1 : 0;
   EXPECT_EQ(glazing, 7);
+}
+
+// The relations 11 to 16 are the ones in which the thickness of the fibre stands.
+TEST(Catalogue, ReadsTheFibreThicknessWhereARelationDoes) {
+  std::set<int> marks;
+  for (const CalculationRow& row : Catalogue()) {
+    if (!row.Reads(Field::kFibreThickness)) continue;
+    EXPECT_TRUE(marks.insert(row.mark).second) << row.variant;
+  }
+  EXPECT_EQ(marks, (std::set<int>{11, 12, 13, 14, 15, 16}));
+}
+
+TEST(Catalogue, AsksForSupportsWhereTheModelReadsThem) {
+  using enum Calculation;
+  const std::map<Calculation, Support> asked = {
+      {kLightWallLineLine, Support::kStudDistance},
+      {kLightWallLinePoint, Support::kStudDistance},
+      {kLightWallPointPoint, Support::kStudDistance},
+      {kDoubleWallSeaPlasterboardPoint, Support::kPointConnections},
+      {kDoubleWallSeaPlasterboardLine, Support::kLineConnections},
+      {kLiningFrame, Support::kLineConnections},
+  };
+  for (const CalculationRow& row : Catalogue()) {
+    const auto expected = asked.find(row.calculation);
+    EXPECT_EQ(row.support, expected == asked.end() ? Support::kNone : expected->second) << row.variant;
+    EXPECT_EQ(row.Reads(Field::kDecoupling), row.calculation == kDoubleWallSeaBrick) << row.variant;
+    EXPECT_EQ(row.Reads(Field::kHanger), row.calculation == kCeilingSea) << row.variant;
+  }
+}
+
+TEST(Catalogue, OffersTheCavitiesThatAModelKnows) {
+  using enum Calculation;
+  EXPECT_EQ(RowOf(kCeilingSea).sea_cavity_types, 2);
+  EXPECT_EQ(RowOf(kDoubleWallSeaBrick).sea_cavity_types, 7);
+  EXPECT_FALSE(RowOf(kDoubleWallBrick).generic_cavity);
+  EXPECT_FALSE(RowOf(kDoubleWallBrickTorvalle).generic_cavity);
+  EXPECT_TRUE(RowOf(kDoubleWallGeneric).generic_cavity);
 }
 
 }  // namespace

@@ -1,6 +1,7 @@
 #include "foundation/rounding.h"
 
 #include <cmath>
+#include <limits>
 
 #include <gtest/gtest.h>
 
@@ -32,6 +33,18 @@ INSTANTIATE_TEST_SUITE_P(
 TEST(RoundToEven, NeverGivesNegativeZero) {
   EXPECT_FALSE(std::signbit(RoundToEven(-0.3)));
   EXPECT_FALSE(std::signbit(RoundToEven(-0.04, 1)));
+}
+
+TEST(IsWithin, HoldsItsEndsUpToRounding) {
+  constexpr double kNoEnd = std::numeric_limits<double>::infinity();
+  EXPECT_TRUE(IsWithin(80.0, 80.0, 400.0));
+  EXPECT_TRUE(IsWithin(1600.0000000000002, 750.0, 1600.0));
+  EXPECT_FALSE(IsWithin(1600.0001, 750.0, 1600.0));
+  EXPECT_TRUE(IsWithin(749.9999999999999, 750.0, 1600.0));
+  EXPECT_FALSE(IsWithin(749.9999, 750.0, 1600.0));
+  EXPECT_TRUE(IsWithin(-1e300, -kNoEnd, 60.0));
+  EXPECT_FALSE(IsWithin(61.0, -kNoEnd, 60.0));
+  EXPECT_FALSE(IsWithin(std::nan(""), -kNoEnd, kNoEnd));
 }
 
 }  // namespace

@@ -86,12 +86,18 @@ TEST(SecondOpinion, WithoutAResultTheOtherModelsStillSpeak) {
   EXPECT_EQ(Ids(FormOpinion(setup, {}, Known())), (std::vector<std::string>{"*layered"}));
 }
 
-TEST(SecondOpinion, WhereNoOtherModelAppliesTheCalculationStandsAlone) {
+TEST(SecondOpinion, AFloorUnderImpactHasTheModelOfTheStandardBeside) {
   const SecondOpinion opinion =
       OpinionOn(SetupOf("fl-mat-8-screed30-tile", Calculation::kImpactFloatingFloor));
-  EXPECT_EQ(Ids(opinion), (std::vector<std::string>{"*calculation"}));
+  EXPECT_EQ(Ids(opinion), (std::vector<std::string>{"*calculation", "footfall"}));
+  EXPECT_TRUE(opinion.models[1].result.lnw);
   EXPECT_EQ(opinion.models[0].interval.reason, NoEstimate::kTooFew);
   EXPECT_TRUE(FormOpinion({}, {}, Known()).models.empty());
+}
+
+TEST(SecondOpinion, WhereNoOtherModelAppliesTheCalculationStandsAlone) {
+  EXPECT_EQ(Ids(OpinionOn(SetupOf("har-lining-furr40-e1", Calculation::kLiningGeneric))),
+            (std::vector<std::string>{"*calculation"}));
 }
 
 TEST(SecondOpinion, EveryMeasuredSetUpHasExactlyOneMarkedModel) {

@@ -25,7 +25,7 @@ ExitCode Execute(const CatalogueCommand& command, const presentation::Words& wor
                             {"menu_group", row.menu_group},
                             {"menu_index", row.menu_index},
                             {"button", static_cast<int>(row.button)}};
-    if (row.relation != 0) entry["relation"] = row.relation;
+    if (row.mark != 0) entry["relation"] = row.mark;
     list.push_back(std::move(entry));
   }
   if (command.json) out << list.dump() << '\n';

@@ -9,6 +9,7 @@
 #include "cli/output/failure_report.h"
 #include "cli/output/outcome_table.h"
 #include "foundation/decimal.h"
+#include "foundation/message_rows.h"
 #include "storage/access/access_session.h"
 #include "storage/library/library_store.h"
 #include "storage/project/project_writer.h"
@@ -18,9 +19,6 @@ namespace velmar::cli {
 namespace {
 
 using calculation::FacadePart;
-
-constexpr MessageRow kUnknownStructureRow{1276};
-constexpr MessageRow kNoFacadeRow{1281};
 
 constexpr std::string_view kResults = "results:";
 constexpr std::string_view kLibrary = "library:";

@@ -6,14 +6,12 @@
 
 #include "cli/output/failure_report.h"
 #include "cli/output/outcome_table.h"
+#include "foundation/message_rows.h"
 #include "storage/access/conversion.h"
 #include "storage/database/file_kind.h"
 
 namespace velmar::cli {
 namespace {
-
-constexpr MessageRow kUnreadableRow{1113};
-constexpr MessageRow kNoAccessFileRow{1278};
 
 nlohmann::json JsonOf(const storage::Conversion& conversion) {
   nlohmann::json tables = nlohmann::json::object();

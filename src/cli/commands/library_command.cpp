@@ -9,14 +9,12 @@
 #include "cli/output/failure_report.h"
 #include "cli/output/outcome_table.h"
 #include "foundation/decimal.h"
+#include "foundation/message_rows.h"
 #include "storage/database/fold_case.h"
 #include "storage/library/library_store.h"
 
 namespace velmar::cli {
 namespace {
-
-constexpr MessageRow kUnknownStructureRow{1276};
-constexpr MessageRow kUnknownSeriesRow{1277};
 
 nlohmann::json JsonOf(const std::optional<double>& value) {
   return value ? nlohmann::json(*value) : nlohmann::json(nullptr);

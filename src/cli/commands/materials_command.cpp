@@ -8,6 +8,7 @@
 #include "cli/output/failure_report.h"
 #include "cli/output/material_table.h"
 #include "cli/output/outcome_table.h"
+#include "foundation/message_rows.h"
 #include "materials/coupled_boxes.h"
 #include "materials/keywords.h"
 #include "materials/material_entry.h"
@@ -20,9 +21,6 @@ namespace {
 using elements::MaterialFamily;
 using storage::MaterialRow;
 
-constexpr MessageRow kUnknownMaterialRow{1017};
-constexpr MessageRow kFamilyMissingRow{1243};
-constexpr MessageRow kAddedRow{1242};
 constexpr std::size_t kCsvSizeLimit = std::size_t{64} * 1024 * 1024;
 
 constexpr MaterialFamily kFamilies[] = {MaterialFamily::kStructural, MaterialFamily::kFibrous,
@@ -49,7 +47,7 @@ struct Work {
 
   storage::MaterialStore Store() const { return storage::MaterialStore(services.material_database); }
   materials::KeywordTexts Keywords() const {
-    return {services.words({materials::kAllMaterialsRow}), services.words({materials::kNotSpecifiedRow})};
+    return {services.words(kAllKeywordsRow), services.words(kNotSpecifiedRow)};
   }
   ExitCode Refuse(const Message& message, ExitCode code = ExitCode::kNoResult) const {
     WriteMessage(message, services.words, errors);
@@ -144,7 +142,7 @@ ExitCode AddRows(const Work& work, const std::vector<Cells>& all_cells) {
     rows.push_back(std::get<MaterialRow<Material>>(std::move(checked)));
   }
   if (const auto refusal = work.Store().Add(rows)) return work.Refuse(*refusal);
-  work.errors << work.services.words(kAddedRow) << ' ' << rows.size() << '\n';
+  work.errors << work.services.words(kMaterialsAddedRow) << ' ' << rows.size() << '\n';
   return ExitCode::kDone;
 }
 
@@ -179,7 +177,7 @@ ExitCode Delete(const Work& work) {
 
 template <typename Material>
 ExitCode Import(const Work& work) {
-  const storage::CsvTable table = storage::ParseCsv(storage::ReadWhole(work.command.file, kCsvSizeLimit));
+  const CsvTable table = storage::ParseCsv(storage::ReadWhole(work.command.file, kCsvSizeLimit));
   auto rows = RowsOfCsv(storage::TableOf<Material>(), table);
   if (const auto* refusal = std::get_if<Message>(&rows)) return work.Refuse(*refusal);
   return AddRows<Material>(work, std::get<std::vector<Cells>>(rows));
@@ -188,13 +186,13 @@ ExitCode Import(const Work& work) {
 template <typename Material>
 ExitCode Export(const Work& work) {
   const storage::TableSchema schema = storage::TableOf<Material>();
-  storage::CsvTable table;
+  CsvTable table;
   for (const storage::ColumnSchema& column : schema.columns) table.header.push_back(column.name);
   for (const auto& row : work.Store().template Rows<Material>()) {
     std::vector<std::string>& fields = table.rows.emplace_back();
     for (const storage::Cell& cell : storage::CellsFromRow(row)) fields.push_back(storage::FormatCell(cell));
   }
-  const std::string bytes = storage::FormatCsv(table);
+  const std::string bytes = FormatCsv(table);
   if (work.command.file.empty()) {
     work.out << bytes;
   } else {

@@ -10,14 +10,11 @@
 #include "cli/output/outcome_json.h"
 #include "cli/output/outcome_table.h"
 #include "foundation/decimal.h"
+#include "foundation/message_rows.h"
 #include "validation/second_opinion.h"
 
 namespace velmar::cli {
 namespace {
-
-constexpr MessageRow kRecommendedRow{1976};
-constexpr MessageRow kMeanErrorRow{1977};
-constexpr MessageRow kMeasurementsRow{1935};
 
 using validation::ModelOpinion;
 

@@ -3,12 +3,10 @@
 #include "application/projects.h"
 #include "calculation/open_calculation.h"
 #include "foundation/failure.h"
+#include "foundation/message_rows.h"
 
 namespace velmar::cli {
 namespace {
-
-/// "The file names a calculation that is not known:"
-constexpr MessageRow kUnknownCalculationRow{1011};
 
 /// What the user is told of a project whose calculation is not known.
 calculation::RunOutcome UnknownCalculation(const storage::StoredCalculation& stored) {

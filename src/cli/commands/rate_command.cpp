@@ -14,12 +14,10 @@
 #include "cli/output/outcome_table.h"
 #include "foundation/decimal.h"
 #include "foundation/failure.h"
+#include "foundation/message_rows.h"
 
 namespace velmar::cli {
 namespace {
-
-constexpr MessageRow kNoNumberRow{1012};
-constexpr MessageRow kWrongCountRow{1212};
 
 /// What is known of a spectrum that was given.
 struct GivenSpectrum {
@@ -68,7 +66,7 @@ ExitCode Execute(const RateCommand& command, const presentation::Words& words, s
   for (std::size_t i = 0; i < command.values.size(); ++i) {
     const std::optional<double> value = ParseDecimal(command.values[i]);
     if (!value) {
-      errors << words(kNoNumberRow) << " \"" << command.values[i] << "\"\n";
+      errors << words(kNotANumberRow) << " \"" << command.values[i] << "\"\n";
       return ExitCode::kWrongUsage;
     }
     spectrum.levels.at(*first_band + i) = *value;

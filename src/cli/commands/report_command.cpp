@@ -11,6 +11,7 @@
 #include "cli/output/failure_report.h"
 #include "cli/output/outcome_table.h"
 #include "foundation/failure.h"
+#include "foundation/message_rows.h"
 #include "storage/files/open_elsewhere.h"
 #include "storage/files/whole_file.h"
 
@@ -18,14 +19,6 @@ namespace velmar::cli {
 namespace {
 
 using std::filesystem::path;
-
-/// "The document could not be completed. Close it if another program has it open."
-constexpr MessageRow kOpenElsewhereRow{272};
-constexpr MessageRow kNoFormatRow{1290};
-constexpr MessageRow kNeedsFolderRow{1291};
-constexpr MessageRow kSameNameRow{1292};
-constexpr MessageRow kReplacesProjectRow{1293};
-constexpr MessageRow kSameTargetRow{1294};
 
 bool IsFolder(const path& target) {
   std::error_code error;
@@ -79,7 +72,7 @@ ExitCode WriteReports(const ReportCommand& command, const path& project, const R
     if (asked == command.targets.end()) continue;
     try {
       const path target = TargetOf(project, format.extension, asked->second);
-      if (storage::IsOpenElsewhere(target)) throw Failure(Told(kOpenElsewhereRow, target), "open elsewhere");
+      if (storage::IsOpenElsewhere(target)) throw Failure(Told(kFillingFailedRow, target), "open elsewhere");
       storage::WriteWhole(target, format.bytes(content));
     } catch (const Failure& failure) {
       code = TellFailure(failure, services.words, errors);

@@ -7,6 +7,7 @@
 #include "cli/output/failure_report.h"
 #include "cli/output/material_table.h"
 #include "cli/output/outcome_table.h"
+#include "foundation/message_rows.h"
 #include "storage/results/results_store.h"
 
 namespace velmar::cli {
@@ -14,7 +15,6 @@ namespace {
 
 using storage::ResultTable;
 
-constexpr MessageRow kUnknownStructureRow{1276};
 constexpr ResultTable kTables[] = {ResultTable::kAirborne, ResultTable::kImpact, ResultTable::kLining};
 
 const char* TableName(ResultTable table) {

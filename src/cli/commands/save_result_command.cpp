@@ -8,15 +8,13 @@
 #include "calculation/open_calculation.h"
 #include "cli/output/failure_report.h"
 #include "cli/output/outcome_table.h"
+#include "foundation/message_rows.h"
 #include "presentation/texts/descriptions.h"
 #include "storage/results/result_to_save.h"
 #include "storage/results/results_store.h"
 
 namespace velmar::cli {
 namespace {
-
-constexpr MessageRow kNoCalculationRow{1010};
-constexpr MessageRow kNoNameRow{221};
 
 ExitCode Store(const SaveResultCommand& command, const Services& services,
                const calculation::OpenCalculation& open, std::ostream& out, std::ostream& errors) {
@@ -33,10 +31,10 @@ ExitCode Store(const SaveResultCommand& command, const Services& services,
       if (command.json) out << nlohmann::json{{"saved", command.name}}.dump() << '\n';
       return ExitCode::kDone;
     case storage::SaveStatus::kNameExists:
-      WriteMessage({{storage::kResultExistsRow}}, services.words, errors);
+      WriteMessage({{kResultExistsRow}}, services.words, errors);
       return ExitCode::kNoResult;
     case storage::SaveStatus::kNoName:
-      WriteMessage({{kNoNameRow}}, services.words, errors);
+      WriteMessage({{kSavePromptRow}}, services.words, errors);
       return ExitCode::kNoResult;
   }
   return ExitCode::kFailed;

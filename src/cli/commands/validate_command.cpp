@@ -8,6 +8,7 @@
 #include <nlohmann/json.hpp>
 
 #include "foundation/decimal.h"
+#include "foundation/message_rows.h"
 #include "storage/validation/measured_data.h"
 #include "validation/accuracy.h"
 #include "validation/model_choice.h"
@@ -17,11 +18,6 @@ namespace velmar::cli {
 namespace {
 
 using validation::AccuracyRow;
-
-constexpr MessageRow kNoMeasurementsRow{1972};
-constexpr MessageRow kValidationHeadingRow{1973};
-constexpr MessageRow kCoverageRow{1974};
-constexpr MessageRow kNotCoveredRow{1975};
 
 bool IsMarked(const AccuracyRow& row) {
   return std::ranges::any_of(validation::ModelRules(), [&](const validation::ModelRule& rule) {

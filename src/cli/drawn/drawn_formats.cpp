@@ -7,6 +7,7 @@
 #include "cli/drawn/office_formats.h"
 #include "cli/drawn/offscreen_display.h"
 #include "foundation/failure.h"
+#include "foundation/message_rows.h"
 #include "presentation/drawing/printed_page.h"
 #include "presentation/export/chart_svg.h"
 #include "presentation/export/page_pdf.h"
@@ -14,13 +15,6 @@
 
 namespace velmar::cli {
 namespace {
-
-constexpr MessageRow kWordHelpRow{1570};
-constexpr MessageRow kExcelHelpRow{1571};
-constexpr MessageRow kPdfHelpRow{1296};
-constexpr MessageRow kSvgHelpRow{1298};
-/// "This calculation gives the ratings only, without band values."
-constexpr MessageRow kNoSpectrumRow{1022};
 
 std::optional<presentation::CurveChart> WholeChart(const ReportContent& content) {
   return presentation::WholeChartOf(content.setup, content.result, content.words);
@@ -30,7 +24,7 @@ std::string Pdf(const ReportContent& content) { return presentation::PagePdf(Pag
 
 std::string Svg(const ReportContent& content) {
   const std::optional<presentation::CurveChart> chart = WholeChart(content);
-  if (!chart) throw Failure({{kNoSpectrumRow}}, "no chart: the calculation has no curve");
+  if (!chart) throw Failure({{kRatingsOnlyRow}}, "no chart: the calculation has no curve");
   return presentation::ChartSvg(*chart, content.name);
 }
 

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "foundation/failure.h"
+#include "foundation/message_rows.h"
 #include "presentation/export/report_chart.h"
 #include "presentation/reports/excel_report.h"
 #include "presentation/reports/word_report.h"
@@ -13,8 +14,6 @@
 namespace velmar::cli {
 namespace {
 
-constexpr MessageRow kTemplateMissingRow{271};
-constexpr MessageRow kUnknownPlaceholdersRow{1560};
 constexpr std::size_t kLargestTemplate = std::size_t{64} << 20U;
 
 std::string ReadTemplate(const std::filesystem::path& templates, std::string_view name) {

@@ -3,13 +3,12 @@
 #include <string>
 
 #include "cli/output/outcome_table.h"
+#include "foundation/message_rows.h"
 #include "storage/database/database_failure.h"
 #include "storage/database/file_kind.h"
 
 namespace velmar::cli {
 namespace {
-
-constexpr MessageRow kCommandRow{1216};
 
 /// `text` as one word of a shell.
 std::string Quoted(const std::string& text) {
@@ -22,7 +21,7 @@ std::string Quoted(const std::string& text) {
 
 Message ConversionAdvice(const std::filesystem::path& file) {
   if (storage::KindOf(file) != storage::FileKind::kAccess) return {};
-  return {{kCommandRow}, {"  velmar import --yes " + Quoted(file.string())}};
+  return {{kConversionCommandRow}, {"  velmar import --yes " + Quoted(file.string())}};
 }
 
 ExitCode TellFailure(const Failure& failure, const presentation::Words& words, std::ostream& errors) {

@@ -5,6 +5,8 @@
 
 #include <nlohmann/json.hpp>
 
+#include "foundation/message_rows.h"
+
 namespace velmar::cli {
 namespace {
 
@@ -42,8 +44,7 @@ std::variant<Cells, Message> WithSettings(const TableSchema& schema, Cells cells
   return cells;
 }
 
-std::variant<std::vector<Cells>, Message> RowsOfCsv(const TableSchema& schema,
-                                                    const storage::CsvTable& table) {
+std::variant<std::vector<Cells>, Message> RowsOfCsv(const TableSchema& schema, const CsvTable& table) {
   std::vector<Cells> rows;
   for (const std::vector<std::string>& fields : table.rows) {
     Cells cells(schema.columns.size());

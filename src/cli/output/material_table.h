@@ -13,11 +13,6 @@
 
 namespace velmar::cli {
 
-/// "The table has no column of this name:"
-inline constexpr MessageRow kUnknownColumnRow{1240};
-/// "Not a value for the column:"
-inline constexpr MessageRow kWrongCellRow{1241};
-
 /// The cells of a row, in the order of the schema.
 using Cells = std::vector<storage::Cell>;
 
@@ -28,7 +23,7 @@ std::variant<Cells, Message> WithSettings(const storage::TableSchema& schema, Ce
 /// The rows of a CSV table whose heading names columns of `schema` in any order; other columns are null. Or
 /// why a row cannot be read: nothing is left out silently.
 std::variant<std::vector<Cells>, Message> RowsOfCsv(const storage::TableSchema& schema,
-                                                    const storage::CsvTable& table);
+                                                    const CsvTable& table);
 
 /// A row as an object: column to value, null where the table holds nothing.
 nlohmann::json RowJson(const storage::TableSchema& schema, const Cells& cells);

@@ -4,6 +4,8 @@
 
 #include <nlohmann/json.hpp>
 
+#include "foundation/message_rows.h"
+
 namespace velmar::cli {
 namespace {
 
@@ -52,7 +54,7 @@ nlohmann::json MessageJson(const Message& message, const presentation::Words& wo
   nlohmann::json lines = nlohmann::json::array();
   for (const MessageLine& line : message) {
     const MessageRow row = LeadingRow(line);
-    if (row == calculation::kGoOnRow) continue;
+    if (row == kGoOnRow) continue;
     lines.push_back({{"row", row.number < kFirstFurtherRow ? row.number : 0},
                      {"text", presentation::InWords(line, words)}});
   }

@@ -7,6 +7,7 @@
 
 #include "acoustics/bands.h"
 #include "foundation/decimal.h"
+#include "foundation/message_rows.h"
 
 namespace velmar::cli {
 namespace {
@@ -15,11 +16,6 @@ using elements::ResultSet;
 
 constexpr int kNameWidth = 13;
 constexpr int kNumberWidth = 9;
-constexpr MessageRow kFrequencyRow{72};
-constexpr MessageRow kAirborneColumnRow{287};
-constexpr MessageRow kImpactColumnRow{288};
-constexpr MessageRow kThicknessRow{177};
-constexpr MessageRow kSurfaceMassRow{217};
 
 struct Rating {
   const char* name;
@@ -62,12 +58,12 @@ void WriteResult(const CalculationTexts& texts, const ResultSet& result,
                  std::span<const elements::SingleNumber> numbers, const calculation::Totals& totals,
                  const presentation::Words& words, std::ostream& out) {
   out << texts.variant << " (" << texts.orientation << ")\n";
-  WriteNumber(words(kThicknessRow), totals.thickness_mm, 1, "", out);
+  WriteNumber(words(kTotalThicknessRow), totals.thickness_mm, 1, "", out);
   WriteNumber(words(kSurfaceMassRow), totals.surface_mass_kg_m2, 1, "", out);
   out << '\n';
   if (result.spectrum) {
     out << RightAligned(words(kFrequencyRow), kNameWidth + 4)
-        << RightAligned(words(result.lnw ? kImpactColumnRow : kAirborneColumnRow), kNumberWidth) << '\n';
+        << RightAligned(words(result.lnw ? kImpactHeadingRow : kAirborneHeadingRow), kNumberWidth) << '\n';
     for (std::size_t band = 0; band < acoustics::kBandCount; ++band) {
       out << RightAligned(FormatShortest(acoustics::BandCentre(band)), kNameWidth + 4)
           << RightAligned(FormatFixed((*result.spectrum)[band], 1), kNumberWidth) << '\n';

@@ -1,12 +1,13 @@
 #include "cli/output/report_format.h"
 
 #include "elements/single_numbers.h"
+#include "foundation/message_rows.h"
 #include "presentation/texts/results_csv.h"
 
 namespace velmar::cli {
 
 ReportFormat CsvFormat() {
-  return {.extension = "csv", .help = {1297}, .bytes = [](const ReportContent& content) {
+  return {.extension = "csv", .help = kCsvHelpRow, .bytes = [](const ReportContent& content) {
             const auto table = presentation::ResultsTableOf(content.setup, content.result, content.words);
             if (!content.setup.calculation) return presentation::ResultsCsv(table);
             return presentation::ResultsCsv(

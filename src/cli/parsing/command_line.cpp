@@ -10,13 +10,10 @@
 #include "cli/parsing/commands.h"
 #include "cli/parsing/usage_words.h"
 #include "foundation/failure.h"
+#include "foundation/message_rows.h"
 
 namespace velmar::cli {
 namespace {
-
-constexpr MessageRow kWrongUsageRow{1200};
-constexpr MessageRow kProgramRow{1204};
-constexpr MessageRow kKindOfSoundRow{1213};
 
 /// Rates the one kind of sound that is asked for.
 ExitCode Rate(const Parsed& parsed, const presentation::Words& words, std::ostream& out,
@@ -64,7 +61,7 @@ int ParseAndExecute(std::span<const std::string> arguments, const Services& serv
                     std::ostream& errors) {
   Parsed parsed;
   const presentation::Words& words = services.words;
-  CLI::App app(words(kProgramRow), "velmar");
+  CLI::App app(words(kProgramHelpRow), "velmar");
   AddCommands(app, parsed, services);
   SayHelpIn(words, app);
   try {

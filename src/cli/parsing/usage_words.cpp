@@ -4,25 +4,19 @@
 #include <string_view>
 #include <vector>
 
+#include "foundation/message_rows.h"
+
 namespace velmar::cli {
 namespace {
-
-constexpr MessageRow kMissingArgumentRow{1201};
-constexpr MessageRow kUnknownArgumentRow{1202};
-constexpr MessageRow kWrongValueRow{1203};
-constexpr MessageRow kHelpOptionRow{1230};
-constexpr MessageRow kOptionsRow{1231};
-constexpr MessageRow kCommandsRow{1232};
-constexpr MessageRow kCommandMissingRow{1238};
 
 struct Label {
   const char* english = "";
   MessageRow row{};
 };
 /// The words that the parser's own help would write in English.
-constexpr std::array kLabels = {Label{"Usage", {1233}},    Label{"Positionals", {1234}},
-                                Label{"REQUIRED", {1235}}, Label{"TEXT", {1236}},
-                                Label{"OPTIONS", {1231}},  Label{"SUBCOMMAND", {1237}}};
+constexpr std::array kLabels = {Label{"Usage", kUsageWordRow},       Label{"Positionals", kArgumentsWordRow},
+                                Label{"REQUIRED", kRequiredWordRow}, Label{"TEXT", kTextWordRow},
+                                Label{"OPTIONS", kOptionsWordRow},   Label{"SUBCOMMAND", kCommandWordRow}};
 
 void GroupUnder(const std::string& options, const std::string& commands, CLI::App& app) {
   for (CLI::Option* option : app.get_options()) option->group(options);
@@ -49,7 +43,7 @@ void SayHelpIn(const presentation::Words& words, CLI::App& app) {
     say_help(command);
     for (CLI::App* inner : command->get_subcommands({})) say_help(inner);
   }
-  GroupUnder(words(kOptionsRow), words(kCommandsRow), app);
+  GroupUnder(words(kOptionsWordRow), words(kCommandsWordRow), app);
 }
 
 std::string WrongUsage(const CLI::ParseError& error, const CLI::App& app, const presentation::Words& words) {

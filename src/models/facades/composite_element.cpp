@@ -7,6 +7,7 @@
 
 #include "acoustics/logarithm.h"
 #include "foundation/failure.h"
+#include "foundation/message_rows.h"
 #include "foundation/rounding.h"
 
 namespace velmar::models {

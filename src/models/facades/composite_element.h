@@ -6,6 +6,7 @@
 
 #include "acoustics/bands.h"
 #include "foundation/message.h"
+#include "foundation/message_rows.h"
 
 namespace velmar::models {
 
@@ -38,12 +39,9 @@ struct CompositeRefusal {
   Message message;
 };
 
-/// "The areas of the components reach the area of the facade."
-inline constexpr MessageRow kComponentsFillFacadeRow{256};
 /// "A band value is missing", three rows that stand one below the other.
-inline constexpr MessageRow kMissingBandRows[] = {{257}, {258}, {259}};
-/// The parts let through nothing, or more than a number can hold.
-inline constexpr MessageRow kFacadeLevelsRow{1076};
+inline constexpr MessageRow kMissingBandRows[] = {kMissingBandsRow, kMissingBandsWhereRow,
+                                                  kMissingBandsAdviceRow};
 
 /// The band form's outcome.
 struct CompositeSpectrum {

@@ -8,6 +8,7 @@
 #include "acoustics/constants.h"
 #include "acoustics/logarithm.h"
 #include "foundation/failure.h"
+#include "foundation/message_rows.h"
 #include "models/floors/floor_mass.h"
 #include "models/plates/loss_factor.h"
 #include "models/plates/plate_stack.h"

@@ -3,6 +3,7 @@
 #include <vector>
 
 #include "acoustics/bands.h"
+#include "acoustics/constructions.h"
 #include "foundation/message.h"
 #include "models/floors/resilient_mats.h"
 #include "models/floors/screed_improvement.h"
@@ -10,14 +11,7 @@
 
 namespace velmar::models {
 
-/// The kind of floor: it selects the relation that fixes the overall level.
-enum class ImpactFloorVariant {
-  kFloatingFloor,          ///< any slab under a floating screed, no relation
-  kReinforcedConcrete,     ///< solid slab
-  kLightweightConcrete,    ///< slab of lightweight concrete
-  kHollowBlock,            ///< beams and hollow blocks, relation on the mass
-  kHollowBlockFixedLevel,  ///< beams and hollow blocks, measured spectrum that grows with the frequency
-};
+using acoustics::ImpactFloorVariant;
 
 /// All that the impact sound calculation reads.
 struct ImpactFloorInput {
@@ -28,9 +22,6 @@ struct ImpactFloorInput {
   double side_a_m = 0.0;  ///< its sign is dropped, like that of the other side
   double side_b_m = 0.0;
 };
-
-/// What the user is told to check when the losses of a floor are not positive.
-inline constexpr MessageRow kInvalidLossFactorRow{1070};
 
 /// The floor before any relation is applied.
 struct ImpactFloorOutcome {

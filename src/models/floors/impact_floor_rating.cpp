@@ -6,6 +6,8 @@
 #include "acoustics/impact_rating.h"
 #include "acoustics/logarithm.h"
 #include "foundation/failure.h"
+#include "foundation/message_rows.h"
+#include "foundation/rounding.h"
 
 namespace velmar::models {
 namespace {
@@ -26,10 +28,13 @@ struct RelationRow {
 };
 
 constexpr std::array<RelationRow, 4> kRelations = {{
-    {ImpactFloorVariant::kReinforcedConcrete, 183.0, 42.0, Bounded::kMass, 250.0, 500.0, {191}},
-    {ImpactFloorVariant::kLightweightConcrete, 156.0, 32.0, Bounded::kMass, 100.0, 400.0, {192}},
-    {ImpactFloorVariant::kHollowBlock, 164.0, 35.0, Bounded::kMass, 100.0, 600.0, {193}},
-    {ImpactFloorVariant::kHollowBlockFixedLevel, 86.0, 0.0, Bounded::kThickness, 0.2, 0.3, {194}},
+    {ImpactFloorVariant::kReinforcedConcrete, 183.0, 42.0, Bounded::kMass, 250.0, 500.0, kFloorMassRangeRow},
+    {ImpactFloorVariant::kLightweightConcrete, 156.0, 32.0, Bounded::kMass, 100.0, 400.0,
+     kLightweightFloorMassRangeRow},
+    {ImpactFloorVariant::kHollowBlock, 164.0, 35.0, Bounded::kMass, 100.0, 600.0,
+     kHollowBrickFloorMassRangeRow},
+    {ImpactFloorVariant::kHollowBlockFixedLevel, 86.0, 0.0, Bounded::kThickness, 0.2, 0.3,
+     kFloorThicknessRangeRow},
 }};
 
 }  // namespace
@@ -40,7 +45,9 @@ ImpactRelation FindImpactRelation(ImpactFloorVariant variant, double mass_kg_m2,
     if (row.variant != variant) continue;
     relation.lnw_db = RequireFinite(row.constant - row.slope * Log10(mass_kg_m2), "relation");
     const double value = row.bounded == Bounded::kMass ? mass_kg_m2 : bearing_thickness_m;
-    if (!(value >= row.lowest && value <= row.highest)) relation.question = row.question;
+    const std::string_view unit = row.bounded == Bounded::kMass ? "kg/m²" : "m";
+    if (!IsWithin(value, row.lowest, row.highest))
+      relation.left = acoustics::RangeLeft{row.question, value, row.lowest, row.highest, unit};
   }
   return relation;
 }

@@ -3,6 +3,7 @@
 #include <optional>
 
 #include "acoustics/bands.h"
+#include "acoustics/range_left.h"
 #include "foundation/message.h"
 #include "models/floors/impact_floor.h"
 
@@ -12,8 +13,8 @@ namespace velmar::models {
 struct ImpactRelation {
   /// Ln,w in dB of the floor without a floating screed; nothing when the calculated rating stands.
   std::optional<double> lnw_db{};
-  /// The question to ask before the relation is used: the floor lies outside its range.
-  std::optional<MessageRow> question{};
+  /// What to ask about before the relation is used: the floor lies outside this range.
+  std::optional<acoustics::RangeLeft> left{};
 };
 
 /// The relation of the variant, a regression on measured floors over the surface mass (for hollow blocks

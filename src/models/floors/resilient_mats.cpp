@@ -4,6 +4,7 @@
 #include <string>
 
 #include "foundation/failure.h"
+#include "foundation/message_rows.h"
 
 namespace velmar::models {
 namespace {

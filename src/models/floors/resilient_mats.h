@@ -14,9 +14,6 @@ struct ResilientMat {
   double dynamic_stiffness_mn_m3 = 0.0;  ///< s' of one sheet; 0 when the material tells none
 };
 
-/// What the user is told to check when the dynamic stiffness is of no use.
-inline constexpr MessageRow kInvalidDynamicStiffnessRow{1071};
-
 /// Dynamic stiffness s' of the sheets one on the other, MN/m³: 1 / s' adds up, each sheet by itself. Layers
 /// of s' 0 do not take part; 0 when none is left.
 /// @throws ArithmeticFailure when an s' is negative or the result is not finite

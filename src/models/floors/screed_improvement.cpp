@@ -6,8 +6,8 @@
 
 #include "acoustics/logarithm.h"
 #include "foundation/failure.h"
+#include "foundation/message_rows.h"
 #include "models/floors/resilient_mats.h"
-#include "models/plates/failure_rows.h"
 
 namespace velmar::models {
 

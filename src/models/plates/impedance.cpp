@@ -6,7 +6,7 @@
 
 #include "acoustics/constants.h"
 #include "foundation/failure.h"
-#include "models/plates/failure_rows.h"
+#include "foundation/message_rows.h"
 
 namespace velmar::models {
 namespace {

@@ -7,7 +7,7 @@
 #include "acoustics/constants.h"
 #include "acoustics/logarithm.h"
 #include "foundation/failure.h"
-#include "models/plates/failure_rows.h"
+#include "foundation/message_rows.h"
 
 namespace velmar::models {
 namespace {

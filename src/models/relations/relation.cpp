@@ -3,6 +3,7 @@
 #include <string>
 
 #include "foundation/failure.h"
+#include "foundation/rounding.h"
 #include "models/relations/relation_quantities.h"
 #include "models/relations/relation_table.h"
 
@@ -16,12 +17,13 @@ float Narrow(double value) {
 
 }  // namespace
 
-std::optional<MessagePiece> FirstRangeLeft(RelationId id, const RelationInput& in) {
+std::optional<acoustics::RangeLeft> FirstRangeLeft(RelationId id, const RelationInput& in) {
   for (const RelationRange& range : FindRelation(id).ranges) {
     const double quantity = RequireFinite(range.quantity(in), "a quantity of a relation");
-    if (quantity >= range.lowest && quantity <= range.highest) continue;
-    if (range.words != nullptr) return std::string(range.words);
-    return range.question;
+    if (IsWithin(quantity, range.lowest, range.highest)) continue;
+    const MessagePiece check =
+        range.words != nullptr ? MessagePiece(std::string(range.words)) : MessagePiece(range.question);
+    return acoustics::RangeLeft{check, quantity, range.lowest, range.highest, range.unit};
   }
   return std::nullopt;
 }

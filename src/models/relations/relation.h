@@ -2,11 +2,14 @@
 
 #include <optional>
 
+#include "acoustics/constructions.h"
+#include "acoustics/range_left.h"
 #include "foundation/message.h"
-#include "models/relations/relation_id.h"
 #include "models/relations/relation_input.h"
 
 namespace velmar::models {
+
+using acoustics::RelationId;
 
 /// What a relation gives.
 struct RelationValue {
@@ -14,12 +17,12 @@ struct RelationValue {
   float improvement_db = 0.0F;  ///< DeltaRw, by a floating screed; may be negative. 0 for all other relations
 };
 
-/// What to ask the user before relation `id` is applied outside of what it was measured on: the text of the
-/// first range that `in` leaves, a row or words of its own. The further ranges are not looked at: one
-/// question is all a run asks.
+/// What to ask the user about before relation `id` is applied outside of what it was measured on: the first
+/// range that `in` leaves, see IsWithin(). The further ranges are not looked at: one question is all a run
+/// asks.
 /// @return nothing inside of all ranges
 /// @throws ArithmeticFailure when a quantity of a range cannot be formed
-std::optional<MessagePiece> FirstRangeLeft(RelationId id, const RelationInput& in);
+std::optional<acoustics::RangeLeft> FirstRangeLeft(RelationId id, const RelationInput& in);
 
 /// The rating by relation `id`, formed in double and narrowed to single precision. Ranges are not checked.
 /// @throws ArithmeticFailure for the logarithm of a mass or depth that is not positive

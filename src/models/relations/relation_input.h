@@ -2,9 +2,11 @@
 
 #include <vector>
 
-#include "models/relations/cavity_kind.h"
+#include "acoustics/constructions.h"
 
 namespace velmar::models {
+
+using acoustics::CavityKind;
 
 /// A row of resilient layers under a floating screed.
 struct ResilientLayer {

@@ -4,7 +4,7 @@
 
 #include "acoustics/logarithm.h"
 #include "foundation/failure.h"
-#include "models/plates/failure_rows.h"
+#include "foundation/message_rows.h"
 
 namespace velmar::models {
 namespace {

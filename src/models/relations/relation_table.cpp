@@ -7,7 +7,7 @@
 
 #include "acoustics/logarithm.h"
 #include "foundation/failure.h"
-#include "models/plates/failure_rows.h"
+#include "foundation/message_rows.h"
 #include "models/relations/relation_quantities.h"
 
 namespace velmar::models {
@@ -27,39 +27,52 @@ double LgDepth(In in) { return Lg(CavityDepthInCentimetres(in), kZeroCavityDepth
 double LgDepth1(In in) { return acoustics::Log10(CavityDepthInCentimetres(in) + 1.0); }
 double LgFibre1(In in) { return acoustics::Log10(FibreInCentimetres(in) + 1.0); }
 
+constexpr std::string_view kMass = "kg/m²";
+constexpr std::string_view kDensity = "kg/m³";
 constexpr double kNoLimit = std::numeric_limits<double>::infinity();
 
-constexpr RelationRange kBrick[] = {{PlateMass, 80, 400, {195}}};
-constexpr RelationRange kBrickFerrara[] = {{PlateMass, 80, 500, {200}}};
-constexpr RelationRange kPlasterboard[] = {{PlateMass, -kNoLimit, 150, {196}}};
-constexpr RelationRange kConcrete[] = {
-    {PlateMass, 115, 450, {197}}, {PlateDensity, 750, 1600, {198}}, {ThicknessInMetres, 0.11, 0.33, {199}}};
-constexpr RelationRange kHBlocks[] = {{PlateMass, 300, 500, {201}}};
-constexpr RelationRange kConcreteBlocks[] = {{PlateMass, 60, 200, {202}},
-                                             {ThicknessInMetres, 0.08, 0.33, {203}}};
-constexpr RelationRange kGypsumBlocks[] = {{PlateMass, 70, 110, {204}},
-                                           {ThicknessInMetres, 0.08, 0.1, {205}}};
-constexpr RelationRange kAeratedConcrete[] = {{PlateMass, 70, 150, {206}}};
-constexpr RelationRange kHollowBlockFloor[] = {{PlateMass, 250, 500, {191}}};
-constexpr RelationRange kDoubleBrick[] = {{BothLeavesMass, 80, 400, {207}},
-                                          {CavityDepthInCentimetres, 5, kNoLimit, {208}},
-                                          {HasFibrousCavity, 1, 1, {209}}};
-constexpr RelationRange kDoubleBrickFibre[] = {{BothLeavesMass, 80, 400, {207}},
-                                               {CavityDepthInCentimetres, 5, kNoLimit, {212}}};
-constexpr RelationRange kBoards[] = {{BothLeavesMass, -kNoLimit, 80, {209}},
-                                     {ThicknessInCentimetres, -kNoLimit, 30, {210}},
-                                     {FibreInCentimetres, -kNoLimit, 8, {211}}};
+constexpr RelationRange kBrick[] = {{PlateMass, 80, 400, kBrickMassRangeRow, kMass}};
+constexpr RelationRange kBrickFerrara[] = {{PlateMass, 80, 500, kBrickFerraraMassRangeRow, kMass}};
+constexpr RelationRange kPlasterboard[] = {{PlateMass, -kNoLimit, 150, kPlasterboardMassRangeRow, kMass}};
+constexpr RelationRange kConcrete[] = {{PlateMass, 115, 450, kConcreteMassRangeRow, kMass},
+                                       {PlateDensity, 750, 1600, kConcreteDensityRangeRow, kDensity},
+                                       {ThicknessInMetres, 0.11, 0.33, kConcreteThicknessRangeRow, "m"}};
+constexpr RelationRange kHBlocks[] = {{PlateMass, 300, 500, kHBlocksMassRangeRow, kMass}};
+constexpr RelationRange kConcreteBlocks[] = {
+    {PlateMass, 60, 200, kConcreteBlocksMassRangeRow, kMass},
+    {ThicknessInMetres, 0.08, 0.33, kConcreteBlocksThicknessRangeRow, "m"}};
+constexpr RelationRange kGypsumBlocks[] = {
+    {PlateMass, 70, 110, kGypsumBlocksMassRangeRow, kMass},
+    {ThicknessInMetres, 0.08, 0.1, kGypsumBlocksThicknessRangeRow, "m"}};
+constexpr RelationRange kAeratedConcrete[] = {{PlateMass, 70, 150, kAeratedConcreteMassRangeRow, kMass}};
+constexpr RelationRange kHollowBlockFloor[] = {{PlateMass, 250, 500, kFloorMassRangeRow, kMass}};
+constexpr RelationRange kDoubleBrick[] = {
+    {BothLeavesMass, 80, 400, kDoubleBrickMassRangeRow, kMass},
+    {CavityDepthInCentimetres, 5, kNoLimit, kDoubleBrickCavityRangeRow, "cm"},
+    {HasFibrousCavity, 1, 1, kLeavesOrCavityRangeRow}};
+constexpr RelationRange kDoubleBrickFibre[] = {
+    {BothLeavesMass, 80, 400, kDoubleBrickMassRangeRow, kMass},
+    {CavityDepthInCentimetres, 5, kNoLimit, kTorvalleCavityRangeRow, "cm"}};
+constexpr RelationRange kBoards[] = {
+    {BothLeavesMass, -kNoLimit, 80, kLeavesOrCavityRangeRow, kMass},
+    {ThicknessInCentimetres, -kNoLimit, 30, kPlasterboardThicknessRangeRow, "cm"},
+    {FibreInCentimetres, -kNoLimit, 8, kFibreThicknessRangeRow, "cm"}};
 constexpr RelationRange kDoubleConcrete[] = {
-    {BothLeavesMass, 115, 450, {197}},
-    {BothLeavesDensity, 750, 1600, {198}},
-    {ThicknessInMetres, 0.11, 0.33, {199}},
-    {HasEmptyCavity, 1, 1, {}, "La formula empirica si riferisce a pareti doppie con l'intercapedine vuota"}};
+    {BothLeavesMass, 115, 450, kConcreteMassRangeRow, kMass},
+    {BothLeavesDensity, 750, 1600, kConcreteDensityRangeRow, kDensity},
+    {ThicknessInMetres, 0.11, 0.33, kConcreteThicknessRangeRow, "m"},
+    {HasEmptyCavity,
+     1,
+     1,
+     {},
+     {},
+     "La formula empirica si riferisce a pareti doppie con l'intercapedine vuota"}};
 constexpr RelationRange kFloatingScreed[] = {
-    {[](In in) { return FindFloatingScreed(in).mass_kg_m2; }, 250, 500, {213}},
-    {[](In in) { return FindFloatingScreed(in).resonance_hz; }, 40, 200, {214}},
-    {[](In in) { return FindFloatingScreed(in).bare_rating_db; }, 20, 50, {215}}};
-constexpr RelationRange kPane[] = {{PlateMass, -kNoLimit, 60, {216}}};
-constexpr RelationRange kInsulatingUnit[] = {{BothLeavesMass, -kNoLimit, 60, {216}}};
+    {[](In in) { return FindFloatingScreed(in).mass_kg_m2; }, 250, 500, kSlabAndScreedMassRangeRow, kMass},
+    {[](In in) { return FindFloatingScreed(in).resonance_hz; }, 40, 200, kScreedResonanceRangeRow, "Hz"},
+    {[](In in) { return FindFloatingScreed(in).bare_rating_db; }, 20, 50, kBareRatingRangeRow, "dB"}};
+constexpr RelationRange kPane[] = {{PlateMass, -kNoLimit, 60, kGlassMassRangeRow, kMass}};
+constexpr RelationRange kInsulatingUnit[] = {{BothLeavesMass, -kNoLimit, 60, kGlassMassRangeRow, kMass}};
 
 double RateFloatingScreed(In in) {
   const FloatingScreed screed = FindFloatingScreed(in);

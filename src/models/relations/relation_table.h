@@ -2,12 +2,15 @@
 
 #include <limits>
 #include <span>
+#include <string_view>
 
+#include "acoustics/constructions.h"
 #include "foundation/message.h"
-#include "models/relations/relation_id.h"
 #include "models/relations/relation_input.h"
 
 namespace velmar::models {
+
+using acoustics::RelationId;
 
 /// Where a regression was measured: outside of lowest..highest (both inside) the user is asked.
 struct RelationRange {
@@ -15,6 +18,7 @@ struct RelationRange {
   double lowest = -std::numeric_limits<double>::infinity();
   double highest = std::numeric_limits<double>::infinity();
   MessageRow question;
+  std::string_view unit{};      ///< of the quantity; empty for a choice, which has none
   const char* words = nullptr;  ///< asked instead of a row
 };
 

@@ -6,8 +6,8 @@
 #include "acoustics/constants.h"
 #include "acoustics/logarithm.h"
 #include "foundation/failure.h"
+#include "foundation/message_rows.h"
 #include "foundation/rounding.h"
-#include "models/sea/failure_causes.h"
 
 namespace velmar::models {
 namespace {
@@ -55,7 +55,8 @@ std::size_t LastMassLawHz(const SeaMassPair& pair) {
       1.0 / acoustics::kTwoPi *
       std::sqrt(acoustics::kSpeedOfSound * acoustics::kSpeedOfSound * acoustics::kAirDensity * pair.Total() /
                 (pair.first_kg_m2 * pair.second_kg_m2 * pair.distance_m));
-  if (!std::isfinite(resonance_hz)) throw ArithmeticFailure(kNoCavityDepthRow, "no depth between two masses");
+  if (!std::isfinite(resonance_hz))
+    throw ArithmeticFailure(kZeroCavityDepthRow, "no depth between two masses");
   return static_cast<std::size_t>(RoundToEven(std::min(resonance_hz, static_cast<double>(kHighestHz))));
 }
 

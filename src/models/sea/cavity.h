@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "acoustics/constructions.h"
 #include "models/sea/band_average.h"
 #include "models/sea/hz_spectrum.h"
 #include "models/sea/layers.h"
@@ -12,16 +13,7 @@
 
 namespace velmar::models {
 
-/// What stands in the cavity, from side 1 to side 2, in the order of the list that offers it.
-enum class SeaCavityType {
-  kEmpty,
-  kFill,
-  kFillMass,
-  kMassFillMass,
-  kFillMassFill,
-  kFillMassFillMass,
-  kFillMassFillMassFill,
-};
+using acoustics::SeaCavityType;
 
 /// A porous fill.
 struct SeaFill {
@@ -48,13 +40,6 @@ struct SeaCavity {
   std::array<std::optional<SeaFill>, 3> fills{};
   std::array<std::optional<SeaCavityMass>, 2> masses{};
 };
-
-/// How many fills and mass layers a type shows.
-struct SeaCavityContents {
-  std::size_t fills = 0;
-  std::size_t masses = 0;
-};
-SeaCavityContents ContentsOf(SeaCavityType type);
 
 /// `cavity` without what its type does not show.
 SeaCavity ShownCavity(const SeaCavity& cavity);

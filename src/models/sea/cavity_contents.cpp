@@ -4,31 +4,12 @@
 
 namespace velmar::models {
 
-SeaCavityContents ContentsOf(SeaCavityType type) {
-  switch (type) {
-    case SeaCavityType::kEmpty:
-      return {.fills = 0, .masses = 0};
-    case SeaCavityType::kFill:
-      return {.fills = 1, .masses = 0};
-    case SeaCavityType::kFillMass:
-      return {.fills = 1, .masses = 1};
-    case SeaCavityType::kMassFillMass:
-      return {.fills = 1, .masses = 2};
-    case SeaCavityType::kFillMassFill:
-      return {.fills = 2, .masses = 1};
-    case SeaCavityType::kFillMassFillMass:
-      return {.fills = 2, .masses = 2};
-    case SeaCavityType::kFillMassFillMassFill:
-      return {.fills = 3, .masses = 2};
-  }
-  return {};
-}
-
 SeaCavity ShownCavity(const SeaCavity& cavity) {
   SeaCavity shown = cavity;
-  const SeaCavityContents contents = ContentsOf(cavity.type);
-  for (std::size_t i = contents.fills; i < shown.fills.size(); ++i) shown.fills[i].reset();
-  for (std::size_t i = contents.masses; i < shown.masses.size(); ++i) shown.masses[i].reset();
+  const auto fills = static_cast<std::size_t>(acoustics::FibreCount(cavity.type));
+  const auto masses = static_cast<std::size_t>(acoustics::MassCount(cavity.type));
+  for (std::size_t i = fills; i < shown.fills.size(); ++i) shown.fills[i].reset();
+  for (std::size_t i = masses; i < shown.masses.size(); ++i) shown.masses[i].reset();
   return shown;
 }
 

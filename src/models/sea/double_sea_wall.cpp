@@ -5,20 +5,15 @@
 #include <stdexcept>
 
 #include "foundation/failure.h"
+#include "foundation/message_rows.h"
 #include "foundation/rounding.h"
 #include "models/sea/band_average.h"
 #include "models/sea/bridges.h"
-#include "models/sea/failure_causes.h"
 #include "models/sea/side.h"
 #include "models/sea/wall_assembly.h"
 
 namespace velmar::models {
 namespace {
-
-constexpr MessageRow kNoCavityRow{231};
-constexpr MessageRow kNoAbsorptionRow{252};
-constexpr MessageRow kNoPointCountRow{253};
-constexpr MessageRow kNoLineCountRow{254};
 
 constexpr double kTieCount = 1.5;
 constexpr double kDecoupledTieCount = 2.5;
@@ -74,7 +69,7 @@ std::optional<double> RaisedCavityDepth(std::optional<double> depth_mm, double c
 }
 
 Message CheckDoubleSeaWall(const DoubleSeaWallInput& input) {
-  if (!IsCavityDeepEnough(input.cavity.depth_mm / 1000.0)) return {{kNoCavityRow}};
+  if (!IsCavityDeepEnough(input.cavity.depth_mm / 1000.0)) return {{kCheckCavityRow}};
   if (const auto names = FillsWithoutAbsorption(input.cavity); !names.empty()) {
     Message message{{kNoAbsorptionRow}};
     for (const std::string& name : names) message.push_back({name});

@@ -2,6 +2,7 @@
 
 #include <optional>
 
+#include "acoustics/constructions.h"
 #include "foundation/message.h"
 #include "models/sea/cavity.h"
 #include "models/sea/layers.h"
@@ -9,12 +10,7 @@
 
 namespace velmar::models {
 
-/// How the two sides are tied together.
-enum class SeaConnectionKind {
-  kMasonryTies,  ///< lines of a number of their own, at the heaviest layer
-  kLines,        ///< studs, a number of them
-  kPoints,       ///< fixings, a whole number of them
-};
+using acoustics::SeaConnectionKind;
 
 /// The connection of a double wall.
 struct SeaConnection {
@@ -39,9 +35,8 @@ struct DoubleSeaWallInput {
 /// @param depth_mm nothing when the field is blank
 std::optional<double> RaisedCavityDepth(std::optional<double> depth_mm, double contents_mm);
 
-/// Why the wall cannot be calculated, the first reason alone: a cavity of 1 mm or less (row 231), fills
-/// without absorption (row 252 and their names), a connection without a number (row 253 for points, 254 for
-/// lines).
+/// Why the wall cannot be calculated, the first reason alone: a cavity of 1 mm or less, fills without
+/// absorption (their names follow), a connection without a number.
 /// @return no line when it can
 Message CheckDoubleSeaWall(const DoubleSeaWallInput& input);
 

@@ -1,7 +1,7 @@
 #include "models/sea/layers.h"
 
 #include "foundation/failure.h"
-#include "models/sea/failure_causes.h"
+#include "foundation/message_rows.h"
 
 namespace velmar::models {
 namespace {

@@ -4,18 +4,13 @@
 #include <optional>
 
 #include "acoustics/bands.h"
+#include "acoustics/constructions.h"
 #include "models/sea/cavity.h"
 #include "models/sea/layers.h"
 
 namespace velmar::models {
 
-enum class LiningVariant {
-  kGenericLining,   ///< "Controplaccaggio generico"
-  kDirectLining,    ///< "Controplaccaggio calibel"
-  kFramedLining,    ///< "Controplaccaggio ossatura"
-  kGenericCeiling,  ///< "Controsoffitto generico"
-  kCeiling,         ///< "Controsoffitto SEA"
-};
+using acoustics::LiningVariant;
 
 /// Whether the variant is rated by its mass-spring-mass resonance alone, without a spectrum.
 constexpr bool IsGeneric(LiningVariant variant) {

@@ -3,18 +3,19 @@
 #include <optional>
 
 #include "foundation/message.h"
+#include "foundation/message_rows.h"
 #include "models/sea/lining.h"
 
 namespace velmar::models {
 
 /// Why a lining has no cavity: the one box that is shown before all other checks, when neither the depth nor
-/// any content is given (row 233).
+/// any content is given.
 /// @param depth_mm what RaisedCavityDepth() came to
 /// @return no line when there is a depth
 Message CheckLiningDepth(std::optional<double> depth_mm);
 
-/// Everything that keeps a lining from being calculated, in one box: row 231 and a colon, then a line for
-/// each reason in the order of the checks.
+/// Everything that keeps a lining from being calculated, in one box: kCheckCavityRow and a colon, then a line
+/// for each reason in the order of the checks.
 /// @return no line when there is none
 Message CheckLining(const LiningInput& input);
 

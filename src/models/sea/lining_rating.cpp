@@ -6,8 +6,8 @@
 #include "acoustics/airborne_rating.h"
 #include "acoustics/logarithm.h"
 #include "foundation/failure.h"
+#include "foundation/message_rows.h"
 #include "foundation/rounding.h"
-#include "models/sea/failure_causes.h"
 #include "models/sea/lining_checks.h"
 
 namespace velmar::models {
@@ -27,7 +27,7 @@ LiningRating RateLining(const acoustics::Spectrum& reduction_index_db, float bas
 
 double GenericLiningImprovement(float lining_mass_kg_m2, float base_mass_kg_m2, float depth_m,
                                 float base_rw_db) {
-  if (!(depth_m > 0.0F)) throw ArithmeticFailure(kNoCavityDepthRow, "a lining without a cavity");
+  if (!(depth_m > 0.0F)) throw ArithmeticFailure(kZeroCavityDepthRow, "a lining without a cavity");
   const float resonance_hz =
       160.0F * std::sqrt((1.0F / lining_mass_kg_m2 + 1.0F / base_mass_kg_m2) * (0.111F / depth_m));
   const double improvement = 72.0 - (20.0 * acoustics::Log10(static_cast<double>(resonance_hz)) +

@@ -4,7 +4,7 @@
 
 #include "acoustics/constants.h"
 #include "foundation/failure.h"
-#include "models/sea/failure_causes.h"
+#include "foundation/message_rows.h"
 #include "models/sea/power_ratio.h"
 
 namespace velmar::models {

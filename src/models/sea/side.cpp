@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "foundation/failure.h"
-#include "models/sea/failure_causes.h"
+#include "foundation/message_rows.h"
 #include "models/sea/leaf_transmission.h"
 
 namespace velmar::models {
@@ -57,8 +57,7 @@ double LossFactorTimesThickness(const SeaSide& side) {
 
 double MeanLossFactor(double loss_factor_times_thickness_m, double total_thickness_mm) {
   const double mean = loss_factor_times_thickness_m / (total_thickness_mm / kMillimetresPerMetre);
-  if (!(total_thickness_mm > 0.0))
-    throw ArithmeticFailure(kNoTotalThicknessRow, "an element without thickness");
+  if (!(total_thickness_mm > 0.0)) throw ArithmeticFailure(kZeroThicknessRow, "an element without thickness");
   return RequireFinite(mean, "loss factor");
 }
 

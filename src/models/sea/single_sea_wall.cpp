@@ -3,8 +3,8 @@
 #include <algorithm>
 
 #include "foundation/failure.h"
+#include "foundation/message_rows.h"
 #include "models/sea/band_average.h"
-#include "models/sea/failure_causes.h"
 #include "models/sea/leaf_transmission.h"
 #include "models/sea/side.h"
 

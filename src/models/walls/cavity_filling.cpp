@@ -3,7 +3,7 @@
 #include <string>
 
 #include "foundation/failure.h"
-#include "models/plates/failure_rows.h"
+#include "foundation/message_rows.h"
 
 namespace velmar::models {
 namespace {
@@ -55,7 +55,7 @@ CavityFilling FillCavity(const DoubleWallInput& input) {
       return {{input.cavity_depth_m, 0.0, kFibreFlowResistivity}, {}};
     case CavityKind::kFibrous:
       return {{0.0, input.cavity_depth_m, kFibreFlowResistivity}, {}};
-    case CavityKind::kLayers:
+    case CavityKind::kGenericMaterial:
       return FillWithLayers(input);
   }
   return {};

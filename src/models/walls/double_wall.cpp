@@ -7,7 +7,7 @@
 #include <span>
 
 #include "foundation/failure.h"
-#include "models/plates/failure_rows.h"
+#include "foundation/message_rows.h"
 #include "models/plates/plate_stack.h"
 #include "models/plates/transmission.h"
 #include "models/walls/cavity_filling.h"
@@ -91,7 +91,7 @@ DoubleWallResult CalculateDoubleWall(const DoubleWallInput& input) {
 
   const CavityFilling filling = FillCavity(input);
   const Cavity cavity = WithSmallestGap(filling.cavity);
-  const std::size_t plate_count = input.cavity_kind == CavityKind::kLayers ? 3 : 2;
+  const std::size_t plate_count = input.cavity_kind == CavityKind::kGenericMaterial ? 3 : 2;
   for (std::size_t band = 0; band < kBandCount; ++band) {
     const double f = acoustics::BandCentre(band);
     const auto plates = BandPlates(leaf1, leaf2, filling.solid, input.cavity_kind, band);

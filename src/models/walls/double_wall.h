@@ -3,11 +3,13 @@
 #include <vector>
 
 #include "acoustics/bands.h"
+#include "acoustics/constructions.h"
 #include "models/plates/loss_factor.h"
 #include "models/plates/plate_layer.h"
-#include "models/relations/cavity_kind.h"
 
 namespace velmar::models {
+
+using acoustics::CavityKind;
 
 /// Equal sheets of one material in a cavity.
 struct CavityLayer {
@@ -28,7 +30,7 @@ struct DoubleWallInput {
   PlateDimensions dimensions;
   double cavity_depth_m = 0.0;
   CavityKind cavity_kind = CavityKind::kEmpty;
-  std::vector<CavityLayer> cavity_layers;  ///< read with CavityKind::kLayers alone
+  std::vector<CavityLayer> cavity_layers;  ///< read with CavityKind::kGenericMaterial alone
 };
 
 /// What the model of a leaf leaves behind.

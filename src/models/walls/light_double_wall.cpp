@@ -5,7 +5,7 @@
 
 #include "acoustics/logarithm.h"
 #include "foundation/failure.h"
-#include "models/plates/failure_rows.h"
+#include "foundation/message_rows.h"
 #include "models/walls/bridged_limit.h"
 #include "models/walls/light_leaf.h"
 

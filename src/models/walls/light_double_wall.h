@@ -4,19 +4,13 @@
 #include <cstddef>
 
 #include "acoustics/bands.h"
+#include "acoustics/constructions.h"
 #include "models/plates/plate_layer.h"
-#include "models/relations/cavity_kind.h"
 
 namespace velmar::models {
 
-/// How the two leaves of a light wall are held together.
-enum class LightWallForm {
-  kLineLine,        ///< fixed along lines on both sides
-  kLinePoint,       ///< along lines on one side, at points on the other
-  kPointPoint,      ///< at points on both sides
-  kIsolated,        ///< not connected
-  kInsulatingUnit,  ///< panes of an insulating glass unit, not connected
-};
+using acoustics::CavityKind;
+using acoustics::LightWallForm;
 
 /// The rows of a leaf. What stands beyond `count` takes part too, because rows of the other leaf are read by
 /// the same number: a row never chosen holds 0.

@@ -9,8 +9,8 @@
 #include "acoustics/fine_grid.h"
 #include "acoustics/logarithm.h"
 #include "foundation/failure.h"
+#include "foundation/message_rows.h"
 #include "models/plates/plate_stack.h"
-#include "models/walls/failure_rows.h"
 
 namespace velmar::models {
 namespace {

@@ -1,22 +1,13 @@
 #include "acoustics/airborne_rating.h"
 #include "acoustics/impact_rating.h"
 #include "elements/catalogue.h"
+#include "foundation/message_rows.h"
 #include "presentation/drawing/curve_chart.h"
-#include "presentation/texts/layer_rows.h"
+#include "presentation/texts/box_number.h"
 #include "presentation/texts/results_table.h"
 
 namespace velmar::presentation {
 namespace {
-
-constexpr MessageRow kCalculatedCurveRow{68};
-constexpr MessageRow kReferenceCurveRow{69};
-constexpr MessageRow kLaboratoryCurveRow{70};
-constexpr MessageRow kInSituCurveRow{71};
-constexpr MessageRow kBaseCurveRow{117};
-
-bool IsLining(elements::Family family) {
-  return family == elements::Family::kLining || family == elements::Family::kCeiling;
-}
 
 acoustics::Spectrum BandsOf(const elements::BandTexts& texts) {
   acoustics::Spectrum bands{};
@@ -61,7 +52,7 @@ std::optional<CurveChart> CurveChartOf(const elements::Setup& setup, const eleme
   chart.words.calculated = words(kCalculatedCurveRow);
   chart.words.reference = words(kReferenceCurveRow);
   chart.words.laboratory = words(kLaboratoryCurveRow);
-  chart.words.in_situ = words(kInSituCurveRow);
+  chart.words.in_situ = words(kInSituRow);
   chart.words.base = words(kBaseCurveRow);
   return chart;
 }

@@ -12,6 +12,8 @@
 namespace velmar::presentation {
 namespace {
 
+/// A line of small text under the results, in heights of its letters.
+constexpr double kNoteLine = 1.2;
 constexpr double kFrameInset = 0.3 * kPageInch;
 constexpr double kContentInset = 0.55 * kPageInch;
 constexpr double kGap = 0.08 * kPageInch;
@@ -94,7 +96,10 @@ class Composer {
   /// Chart and result at the left, the bands at the right.
   void DrawResult() {
     const double line = 1.35 * LineHeight(PageFont(kResultPoints, true));
-    const double note = page_.results_note.empty() ? 0.0 : 1.2 * LineHeight(PageFont(kTextPoints));
+    double note = 0.0;
+    for (const std::string* text : {&page_.further_results, &page_.results_note}) {
+      if (!text->empty()) note += kNoteLine * LineHeight(PageFont(kTextPoints));
+    }
     const double results = line * static_cast<double>(page_.results.size()) + note;
     if (!page_.chart && page_.bands.heads.empty()) {
       DrawResultLines(room_, line);
@@ -130,9 +135,13 @@ class Composer {
                   FromWords(result), Qt::AlignLeft | Qt::AlignVCenter);
       area.setTop(area.top() + line);
     }
-    if (page_.results_note.empty()) return;
-    DrawWrapped(painter_, {area.topLeft(), QSizeF(area.width(), LineHeight(PageFont(kTextPoints)))},
-                PageFont(kTextPoints), FromWords(page_.results_note), Qt::AlignLeft | Qt::AlignVCenter);
+    for (const std::string* text : {&page_.further_results, &page_.results_note}) {
+      if (text->empty()) continue;
+      const double height = LineHeight(PageFont(kTextPoints));
+      DrawWrapped(painter_, {area.topLeft(), QSizeF(area.width(), height)}, PageFont(kTextPoints),
+                  FromWords(*text), Qt::AlignLeft | Qt::AlignVCenter);
+      area.setTop(area.top() + kNoteLine * height);
+    }
   }
 
   void DrawElement() {

@@ -2,11 +2,12 @@
 
 #include "elements/catalogue.h"
 #include "foundation/decimal.h"
+#include "foundation/message_rows.h"
 #include "foundation/rounding.h"
 #include "presentation/drawing/printed_page.h"
+#include "presentation/texts/box_number.h"
 #include "presentation/texts/calculation_labels.h"
 #include "presentation/texts/facade_texts.h"
-#include "presentation/texts/layer_rows.h"
 #include "presentation/texts/result_lines.h"
 #include "presentation/texts/results_table.h"
 
@@ -16,34 +17,8 @@ namespace {
 using elements::Calculation;
 using elements::CalculationRow;
 using elements::Family;
+using elements::Field;
 using elements::Setup;
-
-constexpr MessageRow kInSituRow{71};
-constexpr MessageRow kConnectionRow{76};
-constexpr MessageRow kElementTypeRow{79};
-constexpr MessageRow kTheoryRow{80};
-constexpr MessageRow kAreaRow{95};
-constexpr MessageRow kBaseWallRow{229};
-constexpr MessageRow kBaseFloorRow{228};
-constexpr int kFirstInformationRow = 124;
-constexpr MessageRow kThicknessRow{177};
-constexpr MessageRow kMassRow{217};
-constexpr MessageRow kOpaquePartRow{260};
-constexpr MessageRow kComponentRow{261};
-constexpr MessageRow kElementHeadRow{263};
-constexpr MessageRow kShareHeadRow{264};
-constexpr MessageRow kNotesHeadRow{265};
-constexpr MessageRow kStructureRow{285};
-constexpr MessageRow kLaboratoryRow{406};
-constexpr MessageRow kWidthRow{411};
-constexpr MessageRow kHeightRow{412};
-constexpr MessageRow kDecoupledRow{414};
-/// "rif [dB]", the reference column of the printed page.
-constexpr MessageRow kReferenceColumnRow{1500};
-/// The adaptation terms of a lining stand against the rating of its base.
-constexpr MessageRow kLiningTermsRow{1505};
-
-bool IsLining(Family family) { return family == Family::kLining || family == Family::kCeiling; }
 
 std::string NumberText(double value) { return FormatShortest(RoundToEven(value, 4)); }
 
@@ -52,8 +27,7 @@ std::vector<PageField> InformationOf(const Setup& setup, const Words& words) {
   for (std::size_t i = 0; i < setup.information.size(); ++i) {
     const elements::ProjectInformationRow& row = setup.information[i];
     if (row.value.empty()) continue;
-    const std::string caption =
-        row.caption.empty() ? words({kFirstInformationRow + static_cast<int>(i)}) : row.caption;
+    const std::string caption = row.caption.empty() ? words(elements::kInformationCaptions[i]) : row.caption;
     fields.push_back({WithoutColon(caption), row.value});
   }
   return fields;
@@ -68,29 +42,27 @@ std::vector<PageField> FieldsOf(const Setup& setup, const CalculationRow& row, c
   add(kElementTypeRow, ElementTypeText(row.calculation, words));
   add(kTheoryRow, TheoryText(row.calculation, words));
   if (row.family == Family::kFacade) {
-    add(kAreaRow, NumberText(FacadeArea(setup)));
+    add(kPartAreaRow, NumberText(FacadeArea(setup)));
     return fields;
   }
-  if (!IsLining(row.family)) {
-    add(kWidthRow, setup.width_text);
-    add(kHeightRow, setup.height_text);
-  }
-  add(kThicknessRow, NumberText(totals.thickness_mm));
-  add(kMassRow, NumberText(totals.surface_mass_kg_m2));
+  if (row.Reads(Field::kWidth)) add(kElementWidthRow, setup.width_text);
+  if (row.Reads(Field::kHeight)) add(kElementHeightRow, setup.height_text);
+  add(kTotalThicknessRow, NumberText(totals.thickness_mm));
+  add(kSurfaceMassRow, NumberText(totals.surface_mass_kg_m2));
   if (IsLining(row.family)) {
     add(row.family == Family::kCeiling ? kBaseFloorRow : kBaseWallRow, setup.base.name);
   }
-  if (row.calculation == Calculation::kCeilingSea) add(kConnectionRow, HangerText(setup.hanger, words));
-  if (row.calculation == Calculation::kDoubleWallSeaBrick && setup.decoupled) {
-    fields.push_back({{}, words(kDecoupledRow)});
-  }
+  if (row.Reads(Field::kSupport) && !setup.support_distance_text.empty())
+    fields.push_back({SupportCaption(row.support, words), setup.support_distance_text});
+  if (row.Reads(Field::kHanger)) add(kConnectionTypeRow, HangerText(setup.hanger, words));
+  if (row.Reads(Field::kDecoupling) && setup.decoupled) fields.push_back({{}, words(kDecoupledRow)});
   return fields;
 }
 
 /// What the curves beside the calculated one are.
 void AddComparisons(const CurveChart& chart, const Words& words, std::vector<PageField>& fields) {
   if (chart.laboratory && !chart.laboratory_name.empty())
-    fields.push_back({words(kLaboratoryRow), chart.laboratory_name});
+    fields.push_back({words(kLaboratoryFrameRow), chart.laboratory_name});
   if (chart.in_situ && !chart.in_situ_name.empty()) fields.push_back({words(kInSituRow), chart.in_situ_name});
 }
 
@@ -112,8 +84,8 @@ std::string PartName(const std::string& kind, const std::string& name) {
 }
 
 PageTable FacadeTable(const Setup& setup, const Words& words) {
-  PageTable table{.heads = {words(kElementHeadRow), "Rw (dB)", words(kAreaRow), words(kShareHeadRow),
-                            words(kNotesHeadRow)}};
+  PageTable table{.heads = {words(kPartHeadingRow), "Rw (dB)", words(kPartAreaRow), words(kShareHeadingRow),
+                            words(kNotesHeadingRow)}};
   const double opaque = OpaqueArea(setup);
   table.rows.push_back({PartName(words(kOpaquePartRow), setup.base.name),
                         setup.base.rating_text,
@@ -124,7 +96,7 @@ PageTable FacadeTable(const Setup& setup, const Words& words) {
     const elements::FacadeComponent& part = setup.facade.components[static_cast<std::size_t>(i)];
     const double area = ComponentArea(part);
     const bool small = area == 0.0;
-    table.rows.push_back({PartName(words(kComponentRow), part.name), part.rating_text,
+    table.rows.push_back({PartName(words(kWindowOrDoorRow), part.name), part.rating_text,
                           small ? std::string(elements::kSmallElementArea) : NumberText(area),
                           small ? std::string(elements::kSmallElementArea) : ShareText(setup, area),
                           small ? std::string() : TightnessText(part.tightness_class, words)});
@@ -172,11 +144,12 @@ PaginaDiStampa PaginaDi(const Setup& setup, const PageTotals& totals, const elem
     for (std::string line : {ResultLine(row.family, *result), ImprovementLine(row.family, *result)}) {
       if (!line.empty()) page.results.push_back(std::move(line));
     }
+    page.further_results = FurtherNumbersLine(row.calculation, *result);
   }
   if (row.family == Family::kFacade) page.elements = FacadeTable(setup, words);
   if (IsLining(row.family)) page.elements = LiningTable(setup, result);
   page.structure = StructureOf(setup, words);
-  if (!page.structure.empty()) page.structure_heading = words(kStructureRow);
+  if (!page.structure.empty()) page.structure_heading = words(kLayersTitleRow);
   page.structure_notes = NotesOf(row, totals, result);
   page.section = SectionOf(setup);
   return page;

@@ -35,6 +35,7 @@ struct PaginaDiStampa {
   std::vector<PageField> fields{};       ///< of the calculation
   std::optional<CurveChart> chart{};
   std::vector<std::string> results{};  ///< bold lines
+  std::string further_results{};       ///< terms and classes beyond the rated bands, in small
   std::string results_note{};          ///< what there is to know of them, in small
   PageTable bands{};                   ///< frequency, level, reference; no heads: no table
   PageTable elements{};                ///< parts of a facade, or a lining with its base

@@ -2,30 +2,23 @@
 
 #include <algorithm>
 
-#include "elements/catalogue.h"
-#include "presentation/texts/layer_rows.h"
-#include "presentation/texts/sea_cavity_parts.h"
+#include "elements/parts.h"
 
 namespace velmar::presentation {
 namespace {
 
-using elements::CavityKind;
-using elements::Family;
+using elements::Layer;
 using elements::LayerGroup;
-using elements::LayerRow;
-using elements::Orientation;
 using elements::Setup;
 
-/// Stacks strips one behind the other and numbers the rows.
+/// Stacks strips one behind the other.
 class Stack {
  public:
-  /// A row of `multiplicity` equal layers under one number. A layer without thickness draws nothing.
-  void AddRow(double thickness_mm, int multiplicity, MaterialKind kind, const std::string& name,
-              LayerPlace place) {
-    if (thickness_mm <= 0.0 || multiplicity < 1) return;
-    ++number_;
-    for (int layer = 0; layer < multiplicity; ++layer) {
-      if (!Push(thickness_mm, kind, number_, name, place)) break;
+  /// A layer with all its sheets under one number. One without thickness draws nothing.
+  void AddRow(const Layer& layer, MaterialKind kind) {
+    if (layer.thickness_mm <= 0.0) return;
+    for (int sheet = 0; sheet < layer.sheets; ++sheet) {
+      if (!Push(layer.thickness_mm, kind, layer.number, layer.name, {layer.group, layer.row})) break;
     }
   }
 
@@ -62,124 +55,27 @@ class Stack {
   std::vector<Strip> strips_{};
   double position_mm_ = 0.0;
   double limit_mm_ = kNoLimit;
-  int number_ = 0;
 };
 
-void AddStructural(Stack& stack, const LayerRow<elements::StructuralMaterial>& row, LayerPlace place) {
-  const std::string& name = NameOf(row);
-  stack.AddRow(row.slot.thickness_mm, row.multiplicity, StructuralKind(name, row.slot.density_kg_m3), name,
-               place);
-}
-
-void AddDamping(Stack& stack, const elements::DampingRow& damping, LayerPlace place) {
-  if (!damping.ticked) return;
-  stack.AddRow(damping.row.slot.thickness_mm, damping.row.multiplicity, MaterialKind::kDamping,
-               NameOf(damping.row), place);
-}
-
-void AddLeaf(Stack& stack, const elements::LeafLayers& leaf, LayerGroup table) {
-  for (int i = 0; i < RowsInUse(leaf); ++i) {
-    const auto& row = leaf.rows[static_cast<std::size_t>(i)];
-    AddStructural(stack, row, {table, i});
+MaterialKind KindOf(const Layer& layer) {
+  if (layer.IsDamping()) return MaterialKind::kDamping;
+  if (!layer.group) return StructuralKind(layer.name, layer.density_kg_m3);
+  switch (RowOf(*layer.group).family) {
+    case elements::MaterialFamily::kStructural:
+      return StructuralKind(layer.name, layer.density_kg_m3);
+    case elements::MaterialFamily::kFibrous:
+      return FillingKind(layer.name);
+    case elements::MaterialFamily::kResilient:
+      return ResilientKind(layer.name);
   }
+  return MaterialKind::kGeneric;
 }
 
-/// "Lato sx" stands before the layer it damps, "Lato dx" behind it.
-void AddSeaLeaf(Stack& stack, const elements::SeaLeaf& leaf, LayerGroup table, LayerGroup damping) {
-  for (int i = 0; i < RowsInUse(leaf); ++i) {
-    const auto row = static_cast<std::size_t>(i);
-    AddDamping(stack, leaf.damping[2 * row], {damping, 2 * i});
-    AddStructural(stack, leaf.rows[row], {table, i});
-    AddDamping(stack, leaf.damping[2 * row + 1], {damping, 2 * i + 1});
-  }
-}
-
-void AddResilient(Stack& stack, const elements::ResilientLayers& layers) {
-  for (int i = 0; i < RowsInUse(layers); ++i) {
-    const auto& row = layers.rows[static_cast<std::size_t>(i)];
-    stack.AddRow(row.slot.thickness_mm, row.multiplicity, ResilientKind(NameOf(row)), NameOf(row),
-                 {LayerGroup::kResilient, i});
-  }
-}
-
-void AddCavity(Stack& stack, const elements::Cavity& cavity, elements::Calculation calculation) {
-  const double depth_mm = NumberOf(cavity.depth_text);
-  stack.BeginCavity(depth_mm);
-  if (cavity.kind == CavityKind::kFibrous) {
-    const double fibre_mm = ReadsFibreThickness(calculation) ? NumberOf(cavity.fibre_text) : depth_mm;
-    stack.AddUnnumbered(fibre_mm, MaterialKind::kWool, {LayerGroup::kCavity, 0});
-  } else if (cavity.kind == CavityKind::kGenericMaterial) {
-    for (int i = 0; i < RowsInUse(cavity.layers); ++i) {
-      const auto& row = cavity.layers.rows[static_cast<std::size_t>(i)];
-      stack.AddRow(row.slot.thickness_mm, row.multiplicity, FillingKind(NameOf(row)), NameOf(row),
-                   {LayerGroup::kCavity, i});
-    }
-  }
-  stack.EndCavity();
-}
-
-void AddSeaCavity(Stack& stack, const elements::SeaCavity& cavity) {
-  stack.BeginCavity(NumberOf(cavity.depth_text));
-  int fibre = 0;
-  int mass = 0;
-  for (const SeaCavityPart part : PartsOf(cavity.type)) {
-    if (part == SeaCavityPart::kFibre) {
-      const auto& row = cavity.fibres[static_cast<std::size_t>(fibre)];
-      stack.AddRow(row.slot.thickness_mm, row.multiplicity, FillingKind(NameOf(row)), NameOf(row),
-                   {LayerGroup::kSeaCavityFibre, fibre++});
-    } else {
-      AddStructural(stack, cavity.masses[static_cast<std::size_t>(mass)], {LayerGroup::kSeaCavityMass, mass});
-      AddDamping(stack, cavity.mass_damping[static_cast<std::size_t>(mass)],
-                 {LayerGroup::kSeaCavityDamping, mass});
-      ++mass;
-    }
-  }
-  stack.EndCavity();
-}
-
-void AddLining(Stack& stack, const Setup& setup) {
-  constexpr double kAnyDensity = 0.0;
-  stack.AddRow(BaseThicknessOf(setup), 1, StructuralKind(setup.base.name, kAnyDensity), setup.base.name,
-               {std::nullopt, 0});
-  AddSeaCavity(stack, setup.sea_cavity);
-  AddSeaLeaf(stack, setup.sea_leaf2, LayerGroup::kSeaLeaf2, LayerGroup::kSeaDamping2);
-}
-
-void AddVerticalDouble(Stack& stack, const Setup& setup, const elements::CalculationRow& row) {
-  if (row.family == Family::kSea) {
-    AddSeaLeaf(stack, setup.sea_leaf1, LayerGroup::kSeaLeaf1, LayerGroup::kSeaDamping1);
-    AddSeaCavity(stack, setup.sea_cavity);
-    AddSeaLeaf(stack, setup.sea_leaf2, LayerGroup::kSeaLeaf2, LayerGroup::kSeaDamping2);
-    return;
-  }
-  AddLeaf(stack, setup.leaf1, LayerGroup::kLeaf1);
-  AddCavity(stack, setup.cavity, row.calculation);
-  AddLeaf(stack, setup.leaf2, LayerGroup::kLeaf2);
-}
-
-void AddElement(Stack& stack, const Setup& setup, const elements::CalculationRow& row) {
-  switch (row.orientation) {
-    case Orientation::kVerticalSingle:
-    case Orientation::kHorizontalSingle:
-      if (row.family == Family::kSeaSingle) {
-        AddSeaLeaf(stack, setup.sea_leaf1, LayerGroup::kSeaLeaf1, LayerGroup::kSeaDamping1);
-      } else {
-        AddLeaf(stack, setup.leaf1, LayerGroup::kLeaf1);
-      }
-      return;
-    case Orientation::kVerticalDouble:
-      return AddVerticalDouble(stack, setup, row);
-    case Orientation::kHorizontalDouble:
-      AddLeaf(stack, setup.leaf1, LayerGroup::kLeaf1);
-      AddResilient(stack, setup.resilient);
-      AddLeaf(stack, setup.leaf2, LayerGroup::kLeaf2);
-      return;
-    case Orientation::kLining:
-    case Orientation::kCeiling:
-      return AddLining(stack, setup);
-    case Orientation::kComposite:
-      return;
-  }
+void Add(Stack& stack, const elements::Part& part) {
+  if (part.depth_mm) stack.BeginCavity(*part.depth_mm);
+  if (part.fibre_mm) stack.AddUnnumbered(*part.fibre_mm, MaterialKind::kWool, {LayerGroup::kCavity, 0});
+  for (const Layer& layer : part.layers) stack.AddRow(layer, KindOf(layer));
+  if (part.depth_mm) stack.EndCavity();
 }
 
 }  // namespace
@@ -188,10 +84,10 @@ Section SectionOf(const Setup& setup) {
   Section section;
   if (!setup.calculation) return section;
   const elements::CalculationRow& row = elements::RowOf(*setup.calculation);
-  section.horizontal =
-      row.orientation == Orientation::kHorizontalSingle || row.orientation == Orientation::kHorizontalDouble;
+  if (row.stacks.Has(elements::Stack::kComponents)) return section;
+  section.horizontal = IsHorizontal(row.orientation);
   Stack stack;
-  AddElement(stack, setup, row);
+  for (const elements::Part& part : elements::PartsAsTheyStand(setup)) Add(stack, part);
   section.thickness_mm = stack.PositionMm();
   section.strips = stack.Take();
   return section;

@@ -23,14 +23,14 @@ struct Strip {
   double position_mm = 0.0;  ///< of its near side
   double thickness_mm = 0.0;
   MaterialKind kind = MaterialKind::kGeneric;
-  int number = 0;  ///< counted through the element; 0: air and unnamed fibre have none
+  int number = 0;  ///< of the layer, as everywhere else; 0: air and unnamed fibre have none
   std::string name{};
   LayerPlace place{};
 };
 
-/// A cut through the element, near side first.
+/// A cut through the element as it stands: near side first, a floor from its finish downwards.
 struct Section {
-  bool horizontal = false;  ///< floors: depth runs downwards
+  bool horizontal = false;  ///< floors and ceilings: depth runs downwards
   double thickness_mm = 0.0;
   std::vector<Strip> strips{};
 };

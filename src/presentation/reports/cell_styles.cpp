@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <iterator>
 
+#include "foundation/message_rows.h"
 #include "presentation/reports/template_failure.h"
 #include "presentation/reports/xml_part.h"
 

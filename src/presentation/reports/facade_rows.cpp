@@ -1,13 +1,12 @@
 #include "presentation/reports/facade_rows.h"
 
 #include "foundation/decimal.h"
+#include "foundation/message_rows.h"
 #include "presentation/texts/facade_texts.h"
 
 namespace velmar::presentation {
 namespace {
 
-constexpr MessageRow kOpaquePartRow{260};
-constexpr MessageRow kSmallElementRow{1561};
 constexpr const char* kNoArea = "-";
 
 /// The number without the sign that ShareText() ends in.

@@ -4,6 +4,7 @@
 #include <array>
 
 #include "elements/catalogue.h"
+#include "foundation/message_rows.h"
 
 namespace velmar::presentation {
 namespace {
@@ -15,22 +16,20 @@ struct Kind {
   MessageRow row{};
 };
 
-constexpr std::array<Kind, 7> kKinds = {{{Orientation::kVerticalSingle, {278}},
-                                         {Orientation::kVerticalDouble, {277}},
-                                         {Orientation::kHorizontalSingle, {281}},
-                                         {Orientation::kHorizontalDouble, {279}},
-                                         {Orientation::kLining, {111}},
-                                         {Orientation::kCeiling, {115}},
-                                         {Orientation::kComposite, {282}}}};
-constexpr MessageRow kGlazingRow{273};
-constexpr MessageRow kDecoupledBrickRow{280};
+constexpr std::array<Kind, 7> kKinds = {{{Orientation::kVerticalSingle, kSingleWallKindRow},
+                                         {Orientation::kVerticalDouble, kDoubleWallKindRow},
+                                         {Orientation::kHorizontalSingle, kFloorKindRow},
+                                         {Orientation::kHorizontalDouble, kScreedFloorKindRow},
+                                         {Orientation::kLining, kWallLiningRow},
+                                         {Orientation::kCeiling, kCeilingRow},
+                                         {Orientation::kComposite, kFacadeKindRow}}};
 
 }  // namespace
 
 MessageRow KindOfElementRow(const elements::Setup& setup) {
   if (!setup.calculation) return {};
   if (elements::IsGlazing(*setup.calculation)) return kGlazingRow;
-  if (setup.calculation == elements::Calculation::kDoubleWallSeaBrick && setup.decoupled)
+  if (elements::RowOf(*setup.calculation).Reads(elements::Field::kDecoupling) && setup.decoupled)
     return kDecoupledBrickRow;
   const Orientation orientation = elements::RowOf(*setup.calculation).orientation;
   return std::ranges::find(kKinds, orientation, &Kind::orientation)->row;

@@ -64,6 +64,7 @@ void JoinOverflow(std::vector<TableRow>& rows) {
 std::vector<TableRow> TableRowsOf(const ReportRecord& record) {
   std::vector<TableRow> rows;
   for (const StructureRow& row : record.structure) rows.push_back(TableRowOf(row, record));
+  if (!record.hanger_line.empty()) rows.push_back({.name = record.hanger_line});
   // Resilient layers are announced in words of their own.
   if (record.family == elements::Family::kImpact) {
     for (TableRow& row : rows) {

@@ -4,6 +4,7 @@
 #include <memory>
 #include <utility>
 
+#include "foundation/message_rows.h"
 #include "presentation/reports/template_failure.h"
 #include "presentation/reports/zip_archive.h"
 

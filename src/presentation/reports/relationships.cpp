@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "foundation/message_rows.h"
 #include "presentation/reports/template_failure.h"
 #include "presentation/reports/xml_part.h"
 

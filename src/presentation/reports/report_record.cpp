@@ -4,11 +4,12 @@
 
 #include "elements/catalogue.h"
 #include "foundation/decimal.h"
+#include "foundation/message_rows.h"
 #include "presentation/reports/kind_of_element.h"
+#include "presentation/texts/box_number.h"
 #include "presentation/texts/calculation_labels.h"
 #include "presentation/texts/descriptions.h"
 #include "presentation/texts/facade_texts.h"
-#include "presentation/texts/layer_rows.h"
 #include "presentation/texts/result_lines.h"
 #include "presentation/texts/results_table.h"
 
@@ -18,33 +19,10 @@ namespace {
 using elements::Family;
 using elements::Setup;
 
-constexpr MessageRow kInSituRow{71};
-constexpr MessageRow kResilientRow{167};
-constexpr MessageRow kPartHeadingRow{263};
-constexpr MessageRow kResilientHeadingRow{267};
-constexpr MessageRow kAirborneInsulationRow{268};
-constexpr MessageRow kImpactInsulationRow{269};
-constexpr MessageRow kGenericNoteRow{284};
-constexpr MessageRow kSectionTitleRow{285};
-constexpr MessageRow kAirborneHeadingRow{287};
-constexpr MessageRow kImpactHeadingRow{290};
-constexpr MessageRow kLaboratoryRow{406};
-constexpr MessageRow kWidthCaptionRow{411};
-constexpr MessageRow kHeightCaptionRow{412};
-constexpr MessageRow kBrickSeaTheoryRow{1554};
-constexpr MessageRow kAirborneStandardRow{1555};
-constexpr MessageRow kFacadeStandardRow{1556};
-constexpr MessageRow kImpactStandardRow{1557};
-constexpr MessageRow kSimplifiedNoteRow{1564};
-constexpr MessageRow kAirborneChartRow{1562};
-constexpr MessageRow kImpactChartRow{1563};
-
 MessageRow StandardRow(Family family) {
   if (family == Family::kFacade) return kFacadeStandardRow;
   return family == Family::kImpact ? kImpactStandardRow : kAirborneStandardRow;
 }
-
-bool IsLining(Family family) { return family == Family::kLining || family == Family::kCeiling; }
 
 /// The improvement that the main window shows beside the rating.
 std::string Improvement(Family family, const elements::ResultSet& result) {
@@ -73,10 +51,11 @@ void FillDimensions(const Setup& setup, Family family, ReportRecord& record) {
     record.area = FormatFixed(FacadeArea(setup), 2);
     return;
   }
-  // Linings and ceilings are calculated for dimensions of their own, which nobody enters.
-  if (IsLining(family)) return;
-  record.width = setup.width_text;
-  record.height = setup.height_text;
+  // A dimension that the calculation does not read is none of the element's.
+  const elements::CalculationRow& row = elements::RowOf(*setup.calculation);
+  if (row.Reads(elements::Field::kWidth)) record.width = setup.width_text;
+  if (row.Reads(elements::Field::kHeight)) record.height = setup.height_text;
+  if (record.width.empty() || record.height.empty()) return;
   const double area = NumberOf(setup.width_text) * NumberOf(setup.height_text);
   if (area > 0.0) record.area = FormatFixed(area, 2);
 }
@@ -95,15 +74,15 @@ void FillLabels(const Setup& setup, Family family, const Words& words, ReportRec
   record.theory = calculation == elements::Calculation::kDoubleWallSeaBrick ? words(kBrickSeaTheoryRow)
                                                                             : TheoryText(calculation, words);
   record.standard = words(StandardRow(family));
-  record.band_heading = words(family == Family::kImpact ? kImpactHeadingRow : kAirborneHeadingRow);
+  record.band_heading = words(family == Family::kImpact ? kReportImpactHeadingRow : kAirborneHeadingRow);
   const bool generic = elements::RowOf(calculation).model == elements::Model::kGenericLining;
   if (generic || (family == Family::kFacade && setup.facade.simplified))
     record.generic_note = words(generic ? kGenericNoteRow : kSimplifiedNoteRow);
-  record.section_title = words(kSectionTitleRow);
-  record.width_caption = words(kWidthCaptionRow);
-  record.height_caption = words(kHeightCaptionRow);
+  record.section_title = words(kLayersTitleRow);
+  record.width_caption = words(kElementWidthRow);
+  record.height_caption = words(kElementHeightRow);
   record.part_heading = words(kPartHeadingRow);
-  record.resilient_name = words(kResilientRow);
+  record.resilient_name = words(kResilientMaterialTabRow);
   record.resilient_heading = words(kResilientHeadingRow);
 }
 
@@ -121,7 +100,8 @@ ReportRecord ReportRecordOf(const Setup& setup, const elements::ResultSet& resul
   FillDimensions(setup, family, record);
   record.result_line = ResultLine(family, result);
   record.improvement_line = Improvement(family, result);
-  record.laboratory_data = Compared(words(kLaboratoryRow), compared.laboratory);
+  record.further_line = FurtherNumbersLine(*setup.calculation, result);
+  record.laboratory_data = Compared(words(kLaboratoryFrameRow), compared.laboratory);
   record.in_situ_data = Compared(words(kInSituRow), compared.in_situ);
   if (family == Family::kFacade) {
     record.surface_mass_kg_m2 = result.mass_kg_m2;
@@ -133,8 +113,10 @@ ReportRecord ReportRecordOf(const Setup& setup, const elements::ResultSet& resul
   if (IsLining(family)) {
     record.base_element = FullName({.name = setup.base.name, .description = setup.base.description});
   }
-  if (setup.calculation == elements::Calculation::kCeilingSea)
+  if (elements::RowOf(*setup.calculation).Reads(elements::Field::kHanger)) {
     record.hanger = HangerText(setup.hanger, words);
+    record.hanger_line = WithoutColon(words(kConnectionTypeRow)) + ": " + record.hanger;
+  }
   return record;
 }
 

@@ -45,6 +45,7 @@ struct ReportRecord {
   elements::ResultSet result{};
   std::string result_line{};       ///< "Rw(C; Ctr)= 54,0 (-2; -6) dB"
   std::string improvement_line{};  ///< "DRw= 12 dB"; empty where there is none
+  std::string further_line{};      ///< "C50-5000= -1; Ctr,50-5000= -5 dB; STC= 44"; empty where there is none
   std::string laboratory_data{};  ///< what the result was compared with: "Dati di laboratorio: ..."; or empty
   std::string in_situ_data{};
 
@@ -58,6 +59,7 @@ struct ReportRecord {
   std::vector<StructureRow> structure{};
   std::string base_element{};  ///< the wall or floor under a lining
   std::string hanger{};        ///< how a ceiling hangs; empty for all else
+  std::string hanger_line{};   ///< the same behind its caption, for the spreadsheet
 
   std::string generic_note{};       ///< what stands in place of the bands; empty where there are bands
   std::string section_title{};      ///< of the layers

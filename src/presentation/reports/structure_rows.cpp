@@ -2,221 +2,110 @@
 
 #include <utility>
 
-#include "elements/catalogue.h"
+#include "elements/parts.h"
 #include "foundation/decimal.h"
+#include "foundation/message_rows.h"
 #include "presentation/reports/facade_rows.h"
 #include "presentation/texts/calculation_labels.h"
-#include "presentation/texts/layer_rows.h"
-#include "presentation/texts/sea_cavity_parts.h"
 
 namespace velmar::presentation {
 namespace {
 
-using elements::Family;
-using elements::LayerRow;
-using elements::Orientation;
+using elements::CalculationRow;
+using elements::Layer;
+using elements::Part;
 using elements::Setup;
-
-constexpr MessageRow kLeaf1Row{160};
-constexpr MessageRow kLeaf2Row{161};
-constexpr MessageRow kResilientRow{167};
-constexpr MessageRow kBaseWallRow{168};
-constexpr MessageRow kScreedRow{175};
-constexpr MessageRow kLiningRow{176};
-constexpr MessageRow kCavityRow{219};
-constexpr MessageRow kFibrousCavityRow{225};
-constexpr MessageRow kFloorRow{226};
-constexpr MessageRow kBaseFloorRow{228};
-constexpr MessageRow kAirCavityRow{266};
-constexpr MessageRow kPane1Row{1558};
-constexpr MessageRow kPane2Row{1559};
+using elements::Stack;
 
 /// Depths that differ by less are equal: nobody enters a cavity to the tenth of a millimetre.
 constexpr double kNoDepthMm = 0.05;
 
-template <typename Material>
-double MassOf(const LayerRow<Material>& row) {
-  return row.slot.density_kg_m3 * row.slot.thickness_mm * row.multiplicity / 1000.0;
+StructureRow Heading(std::string name) { return {.kind = StructureKind::kHeading, .name = std::move(name)}; }
+
+StructureRow RowOfLayer(const Layer& layer) {
+  return {.kind = StructureKind::kLayer,
+          .number = layer.number,
+          .name = layer.name,
+          .description = layer.description,
+          .thickness_mm = layer.thickness_mm,
+          .multiplicity = layer.sheets,
+          .mass_kg_m2 = layer.mass_kg_m2};
 }
 
-template <typename Material>
-double ThicknessOf(const LayerRow<Material>& row) {
-  return row.slot.thickness_mm * row.multiplicity;
+StructureRow CavityRow(std::string name, double depth_mm) {
+  return {.kind = StructureKind::kCavity, .name = std::move(name), .thickness_mm = depth_mm};
 }
 
-/// Appends rows and counts the layers.
-class Listing {
- public:
-  explicit Listing(const Words& words) : words_(words) {}
+std::string CavityHeading(const Setup& setup, Stack stack, const Words& words) {
+  if (stack == Stack::kCavity) return words(kCavityRow);
+  return words(kCavityRow) + ": " + SeaCavityTypeText(setup.sea_cavity.type, words);
+}
 
-  void Heading(std::string name) {
-    rows_.push_back({.kind = StructureKind::kHeading, .name = std::move(name)});
-  }
-
-  template <typename Material>
-  void Layer(const LayerRow<Material>& row) {
-    rows_.push_back({.kind = StructureKind::kLayer,
-                     .number = ++count_,
-                     .name = NameOf(row),
-                     .description = row.slot.description,
-                     .thickness_mm = row.slot.thickness_mm,
-                     .multiplicity = row.multiplicity,
-                     .mass_kg_m2 = MassOf(row)});
-  }
-
-  template <typename Material, std::size_t N>
-  void Layers(const elements::LayerTable<Material, N>& table) {
-    for (int i = 0; i < RowsInUse(table); ++i) Layer(table.rows[static_cast<std::size_t>(i)]);
-  }
-
-  void Layers(const elements::SeaLeaf& leaf) {
-    for (int i = 0; i < RowsInUse(leaf); ++i) {
-      const auto row = static_cast<std::size_t>(i);
-      Damping(leaf.damping[2 * row]);
-      Layer(leaf.rows[row]);
-      Damping(leaf.damping[2 * row + 1]);
-    }
-  }
-
-  void Damping(const elements::DampingRow& damping) {
-    if (damping.ticked) Layer(damping.row);
-  }
-
-  void CavityRow(MessageRow name, double depth_mm) {
-    rows_.push_back({.kind = StructureKind::kCavity, .name = words_(name), .thickness_mm = depth_mm});
-  }
-
-  void Cavity(const Setup& setup);
-  void SeaCavity(const elements::SeaCavity& cavity);
-  void Base(const elements::BaseElement& base, double thickness_mm, MessageRow kind);
-
-  std::vector<StructureRow> Rows() && { return std::move(rows_); }
-
- private:
-  const Words& words_;
-  std::vector<StructureRow> rows_{};
-  int count_ = 0;
-};
-
-void Listing::Cavity(const Setup& setup) {
-  const elements::Cavity& cavity = setup.cavity;
-  const double depth = NumberOf(cavity.depth_text);
-  if (cavity.kind == elements::CavityKind::kGenericMaterial) {
-    Heading(words_(kCavityRow));
-    double filled = 0.0;
-    for (int i = 0; i < RowsInUse(cavity.layers); ++i) {
-      filled += ThicknessOf(cavity.layers.rows[static_cast<std::size_t>(i)]);
-    }
-    Layers(cavity.layers);
-    if (depth - filled > kNoDepthMm) CavityRow(kAirCavityRow, depth - filled);
+void ListCavity(const Setup& setup, const Part& part, const Words& words, std::vector<StructureRow>& rows) {
+  const double depth_mm = *part.depth_mm;
+  if (part.fibre_mm) {
+    std::string name = words(kFibrousCavityRow);
+    if (elements::RowOf(*setup.calculation).Reads(elements::Field::kFibreThickness))
+      name += ", " + FormatShortest(*part.fibre_mm) + " mm";
+    rows.push_back(CavityRow(std::move(name), depth_mm));
     return;
   }
-  const bool fibrous = cavity.kind == elements::CavityKind::kFibrous;
-  CavityRow(fibrous ? kFibrousCavityRow : kAirCavityRow, depth);
-  if (fibrous && ReadsFibreThickness(*setup.calculation)) {
-    rows_.back().name += ", " + FormatShortest(NumberOf(cavity.fibre_text)) + " mm";
-  }
-}
-
-void Listing::SeaCavity(const elements::SeaCavity& cavity) {
-  const double depth = NumberOf(cavity.depth_text);
-  if (cavity.type == elements::SeaCavityType::kEmpty) {
-    CavityRow(kAirCavityRow, depth);
+  if (part.layers.empty()) {
+    rows.push_back(CavityRow(words(kAirCavityRow), depth_mm));
     return;
   }
-  Heading(words_(kCavityRow) + ": " + SeaCavityTypeText(cavity.type, words_));
-  double filled = 0.0;
-  std::size_t fibre = 0;
-  std::size_t mass = 0;
-  for (const SeaCavityPart part : PartsOf(cavity.type)) {
-    if (part == SeaCavityPart::kFibre) {
-      filled += ThicknessOf(cavity.fibres[fibre]);
-      Layer(cavity.fibres[fibre++]);
-      continue;
-    }
-    filled += ThicknessOf(cavity.masses[mass]);
-    Layer(cavity.masses[mass]);
-    const elements::DampingRow& damping = cavity.mass_damping[mass++];
-    if (damping.ticked) filled += ThicknessOf(damping.row);
-    Damping(damping);
-  }
-  if (depth - filled > kNoDepthMm) CavityRow(kAirCavityRow, depth - filled);
+  rows.push_back(Heading(CavityHeading(setup, part.stack, words)));
+  for (const Layer& layer : part.layers) rows.push_back(RowOfLayer(layer));
+  const double left_mm = depth_mm - part.ThicknessMm();
+  if (left_mm > kNoDepthMm) rows.push_back(CavityRow(words(kAirCavityRow), left_mm));
 }
 
-void Listing::Base(const elements::BaseElement& base, double thickness_mm, MessageRow kind) {
-  Heading(words_(kind));
-  rows_.push_back({.kind = StructureKind::kBase,
-                   .number = ++count_,
-                   .name = base.name.empty() ? words_(kind) : base.name,
-                   .description = base.description,
-                   .thickness_mm = thickness_mm,
-                   .mass_kg_m2 = static_cast<double>(base.mass_kg_m2),
-                   .rating = base.rating_text});
+/// What ties the leaves together, where the calculation reads it.
+void ListConnections(const Setup& setup, const Words& words, std::vector<StructureRow>& rows) {
+  const CalculationRow& row = elements::RowOf(*setup.calculation);
+  if (!row.Reads(elements::Field::kSupport)) return;
+  rows.push_back({.kind = StructureKind::kConnection,
+                  .name = SupportCaption(row.support, words) + ": " + setup.support_distance_text});
 }
 
-void ListDouble(const Setup& setup, Family family, const Words& words, Listing& listing) {
-  const bool glazing = elements::IsGlazing(*setup.calculation);
-  listing.Heading(words(glazing ? kPane1Row : kLeaf1Row));
-  if (family == Family::kSea) {
-    listing.Layers(setup.sea_leaf1);
-    listing.SeaCavity(setup.sea_cavity);
-  } else {
-    listing.Layers(setup.leaf1);
-    listing.Cavity(setup);
-  }
-  listing.Heading(words(glazing ? kPane2Row : kLeaf2Row));
-  if (family == Family::kSea) {
-    listing.Layers(setup.sea_leaf2);
-  } else {
-    listing.Layers(setup.leaf2);
-  }
+void ListBase(const Setup& setup, const Part& part, const Words& words, std::vector<StructureRow>& rows) {
+  const std::string kind = StackName(*setup.calculation, part.stack, words);
+  const Layer& base = part.layers.front();
+  rows.push_back(Heading(kind));
+  rows.push_back({.kind = StructureKind::kBase,
+                  .number = base.number,
+                  .name = base.name.empty() ? kind : base.name,
+                  .description = base.description,
+                  .thickness_mm = base.thickness_mm,
+                  .mass_kg_m2 = base.mass_kg_m2,
+                  .rating = setup.base.rating_text});
 }
 
-void ListFloor(const Setup& setup, const Words& words, Listing& listing) {
-  listing.Heading(words(kFloorRow));
-  listing.Layers(setup.leaf1);
-  if (RowsInUse(setup.resilient) > 0) {
-    listing.Heading(words(kResilientRow));
-    listing.Layers(setup.resilient);
-  }
-  listing.Heading(words(kScreedRow));
-  listing.Layers(setup.leaf2);
+void ListLayers(const Setup& setup, const Part& part, const Words& words, std::vector<StructureRow>& rows) {
+  const bool alone = elements::RowOf(*setup.calculation).stacks.size() == 1;
+  if (part.stack == Stack::kResilient && part.layers.empty()) return;
+  rows.push_back(Heading(alone ? ElementTypeText(*setup.calculation, words)
+                               : StackName(*setup.calculation, part.stack, words)));
+  for (const Layer& layer : part.layers) rows.push_back(RowOfLayer(layer));
 }
 
 }  // namespace
 
 std::vector<StructureRow> StructureRowsOf(const Setup& setup, const Words& words) {
-  Listing listing(words);
-  if (!setup.calculation) return {};
-  const elements::CalculationRow& row = elements::RowOf(*setup.calculation);
-  switch (row.orientation) {
-    case Orientation::kVerticalSingle:
-    case Orientation::kHorizontalSingle:
-      listing.Heading(ElementTypeText(*setup.calculation, words));
-      if (row.family == Family::kSeaSingle) {
-        listing.Layers(setup.sea_leaf1);
-      } else {
-        listing.Layers(setup.leaf1);
-      }
-      break;
-    case Orientation::kVerticalDouble:
-      ListDouble(setup, row.family, words, listing);
-      break;
-    case Orientation::kHorizontalDouble:
-      ListFloor(setup, words, listing);
-      break;
-    case Orientation::kLining:
-    case Orientation::kCeiling:
-      listing.Heading(words(kLiningRow));
-      listing.Layers(setup.sea_leaf2);
-      listing.SeaCavity(setup.sea_cavity);
-      listing.Base(setup.base, BaseThicknessOf(setup),
-                   row.orientation == Orientation::kCeiling ? kBaseFloorRow : kBaseWallRow);
-      break;
-    case Orientation::kComposite:
-      return FacadeRowsOf(setup, words);
+  std::vector<StructureRow> rows;
+  if (!setup.calculation) return rows;
+  if (elements::RowOf(*setup.calculation).stacks.Has(Stack::kComponents)) return FacadeRowsOf(setup, words);
+  for (const Part& part : elements::PartsAsTheyStand(setup)) {
+    if (part.stack == Stack::kBase) {
+      ListBase(setup, part, words, rows);
+    } else if (part.depth_mm) {
+      ListCavity(setup, part, words, rows);
+      ListConnections(setup, words, rows);
+    } else {
+      ListLayers(setup, part, words, rows);
+    }
   }
-  return std::move(listing).Rows();
+  return rows;
 }
 
 std::string FullName(const StructureRow& row) {

@@ -13,9 +13,10 @@ namespace velmar::presentation {
 enum class StructureKind {
   kHeading,  ///< names the stack whose layers follow
   kLayer,
-  kCavity,  ///< air, or a cavity described as a whole
-  kBase,    ///< the wall or floor under a lining
-  kPart,    ///< a part of a facade
+  kCavity,      ///< air, or a cavity described as a whole
+  kConnection,  ///< what ties the leaves together: words alone
+  kBase,        ///< the wall or floor under a lining
+  kPart,        ///< a part of a facade
 };
 
 /// A row of a report's table of layers or components. A number that the kind does not have is absent.
@@ -33,8 +34,8 @@ struct StructureRow {
   std::string note{};
 };
 
-/// The stacks of the chosen calculation, near side first, each behind its name; of a lining its layers, the
-/// cavity and then the base; of a facade the opaque part and its components. Nothing before a choice.
+/// The stacks of the chosen calculation as they stand, each behind its name, in the order of the printed
+/// page; of a facade the opaque part and its components. Nothing before a choice.
 std::vector<StructureRow> StructureRowsOf(const elements::Setup& setup, const Words& words);
 
 /// "name: description", or the one that is not empty.

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "foundation/message_rows.h"
 #include "presentation/reports/filled_text.h"
 #include "presentation/reports/paragraph_text.h"
 #include "presentation/reports/relationships.h"

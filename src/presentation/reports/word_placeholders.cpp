@@ -71,6 +71,7 @@ Placeholders TextPlaceholders(const ReportRecord& record) {
       {"P1_TIPO_TEORIA", record.theory},
       {"P1_RESULT1", record.result_line},
       {"P1_RESULT2", record.improvement_line},
+      {"P1_INDICI", record.further_line},
       {"P1_TIPORIS", WithoutUnit(record.band_heading)},
       {"P1_NORMA", record.standard},
       {"P1_DATILABORATORIO", record.laboratory_data},

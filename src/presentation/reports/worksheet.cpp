@@ -4,6 +4,7 @@
 #include <array>
 #include <charconv>
 
+#include "foundation/message_rows.h"
 #include "presentation/reports/template_failure.h"
 #include "presentation/reports/xml_part.h"
 

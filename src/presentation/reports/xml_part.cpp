@@ -2,6 +2,7 @@
 
 #include <cstdint>
 
+#include "foundation/message_rows.h"
 #include "presentation/reports/template_failure.h"
 
 namespace velmar::presentation {

@@ -3,6 +3,7 @@
 #include <cstdlib>
 #include <cstring>
 
+#include "foundation/message_rows.h"
 #include "presentation/reports/template_failure.h"
 
 namespace velmar::presentation {

@@ -1,18 +1,50 @@
 #include "presentation/texts/calculation_labels.h"
 
-#include "presentation/texts/sea_cavity_parts.h"
+#include "acoustics/constructions.h"
+#include "foundation/message_rows.h"
 
 namespace velmar::presentation {
 namespace {
 
-constexpr MessageRow kAirborneTitleRow{274};
-constexpr MessageRow kFacadeTitleRow{275};
-constexpr MessageRow kImpactTitleRow{276};
-constexpr MessageRow kEmptyCavityRow{156};
-constexpr MessageRow kFibreRow{157};
-constexpr MessageRow kMassRow{158};
-constexpr int kFirstHangerRow = 415;
-constexpr int kHangerCount = 3;
+using acoustics::SeaCavityContent;
+using elements::Stack;
+
+MessageRow FirstLeafRow(const elements::CalculationRow& row) {
+  if (IsHorizontal(row.orientation)) return kFloorRow;
+  return row.glazing ? kPane1Row : kLeaf1Row;
+}
+
+MessageRow SecondLeafRow(const elements::CalculationRow& row) {
+  if (row.stacks.Has(Stack::kBase)) return kLiningRow;
+  if (row.stacks.Has(Stack::kResilient)) return kScreedRow;
+  return row.glazing ? kPane2Row : kLeaf2Row;
+}
+
+MessageRow BaseRow(const elements::CalculationRow& row) {
+  if (row.stacks.Has(Stack::kComponents)) return kOpaquePartTabRow;
+  return row.orientation == elements::Orientation::kCeiling ? kBaseFloorRow : kBaseWallRow;
+}
+
+MessageRow StackRow(const elements::CalculationRow& row, Stack stack) {
+  switch (stack) {
+    case Stack::kLeaf1:
+    case Stack::kSeaLeaf1:
+      return FirstLeafRow(row);
+    case Stack::kLeaf2:
+    case Stack::kSeaLeaf2:
+      return SecondLeafRow(row);
+    case Stack::kCavity:
+    case Stack::kSeaCavity:
+      return kCavityRow;
+    case Stack::kResilient:
+      return kResilientMaterialTabRow;
+    case Stack::kBase:
+      return BaseRow(row);
+    case Stack::kComponents:
+      return kComponentsTabRow;
+  }
+  return {};
+}
 
 }  // namespace
 
@@ -35,18 +67,26 @@ std::string TitleOf(elements::Family family, const Words& words) {
 }
 
 std::string SeaCavityTypeText(elements::SeaCavityType type, const Words& words) {
-  if (type == elements::SeaCavityType::kEmpty) return words(kEmptyCavityRow);
+  if (type == elements::SeaCavityType::kEmpty) return words(kEmptySeaCavityRow);
   std::string text;
-  for (const SeaCavityPart part : PartsOf(type)) {
+  for (const SeaCavityContent content : acoustics::ContentsOf(type)) {
     if (!text.empty()) text += "+ ";
-    text += words(part == SeaCavityPart::kFibre ? kFibreRow : kMassRow);
+    text += words(content == SeaCavityContent::kFibre ? kFibreLayerRow : kMassLayerRow);
   }
   return text;
 }
 
+std::string StackName(elements::Calculation calculation, Stack stack, const Words& words) {
+  return words(StackRow(elements::RowOf(calculation), stack));
+}
+
+std::string SupportCaption(elements::Support support, const Words& words) {
+  return WithoutColon(words(IsCount(support) ? kConnectionsRow : kSupportDistanceRow));
+}
+
 std::string HangerText(int hanger, const Words& words) {
-  if (hanger < 0 || hanger >= kHangerCount) return {};
-  return words({kFirstHangerRow + hanger});
+  const auto place = static_cast<std::size_t>(hanger);
+  return place < kHangerRows.size() ? words(kHangerRows[place]) : std::string();
 }
 
 }  // namespace velmar::presentation

@@ -1,9 +1,11 @@
 #pragma once
 
+#include <array>
 #include <string>
 
 #include "elements/catalogue.h"
 #include "elements/layers.h"
+#include "foundation/message_rows.h"
 #include "presentation/texts/words.h"
 
 namespace velmar::presentation {
@@ -20,8 +22,17 @@ std::string TitleOf(elements::Family family, const Words& words);
 /// An entry of `ComboTipoIntercSEA`: "Intercapedine vuota", "Fibroso+ Massa", ...
 std::string SeaCavityTypeText(elements::SeaCavityType type, const Words& words);
 
+/// The entries of `ComboTipoAppendino`.
+inline constexpr std::array kHangerRows = {kHangerFixedDirectlyRow, kHangerSimpleRow, kHangerSpringRow};
+
 /// An entry of `ComboTipoAppendino`, 0 to 2; an empty text for another position.
 std::string HangerText(int hanger, const Words& words);
+
+/// The name of a stack of `calculation`: "Parete 1", "Lastra 1" of a glazing, "Solaio", "Rivestimento", ...
+std::string StackName(elements::Calculation calculation, elements::Stack stack, const Words& words);
+
+/// The caption of `Text8`: a distance or a number of connections.
+std::string SupportCaption(elements::Support support, const Words& words);
 
 /// `caption` without a closing colon.
 std::string WithoutColon(std::string caption);

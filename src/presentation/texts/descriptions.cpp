@@ -1,32 +1,19 @@
 #include "presentation/texts/descriptions.h"
 
 #include <algorithm>
-#include <array>
 #include <utility>
 #include <vector>
 
-#include "elements/catalogue.h"
+#include "elements/parts.h"
 #include "foundation/decimal.h"
-#include "presentation/texts/layer_rows.h"
-#include "presentation/texts/sea_cavity_parts.h"
+#include "foundation/message_rows.h"
 
 namespace velmar::presentation {
 namespace {
 
 using elements::Family;
 using elements::Setup;
-
-constexpr MessageRow kLiningRow{111};
-constexpr MessageRow kCeilingRow{115};
-constexpr MessageRow kEmptySeaCavityRow{156};
-constexpr MessageRow kCavityRow{219};
-constexpr MessageRow kEmptyCavityRow{220};
-constexpr MessageRow kWallRow{223};
-constexpr MessageRow kFibrousCavityRow{225};
-constexpr MessageRow kFloorRow{226};
-constexpr MessageRow kFacadeRow{227};
-constexpr MessageRow kBaseFloorRow{228};
-constexpr MessageRow kBaseWallRow{229};
+using elements::Stack;
 
 // These words are stored; they stay Italian in every language.
 constexpr const char* kBearingFloor = "SOLAIO BASE: ";
@@ -41,46 +28,16 @@ void Append(std::string& text, const std::string& item) {
   text += item;
 }
 
-template <typename Material>
-std::string Item(const elements::LayerRow<Material>& row) {
-  std::string item = NameOf(row) + " (" + FormatShortest(row.slot.thickness_mm) + " mm)";
-  if (row.multiplicity > 1) item += " x " + std::to_string(row.multiplicity);
+std::string Item(const elements::Layer& layer) {
+  std::string item = layer.name + " (" + FormatShortest(layer.thickness_mm) + " mm)";
+  if (layer.sheets > 1) item += " x " + std::to_string(layer.sheets);
   return item;
 }
 
-template <typename Material, std::size_t N>
-std::string ItemsOf(const elements::LayerTable<Material, N>& table) {
+/// The layers of a stack, whatever the calculation.
+std::string ItemsOf(const Setup& setup, Stack stack) {
   std::string text;
-  for (int i = 0; i < RowsInUse(table); ++i) Append(text, Item(table.rows[static_cast<std::size_t>(i)]));
-  return text;
-}
-
-std::string ItemsOf(const elements::SeaLeaf& leaf) {
-  std::string text;
-  for (int place = 0; place < 3 * RowsInUse(leaf); ++place) {
-    if (place % 3 == 1) {
-      Append(text, Item(leaf.rows[static_cast<std::size_t>(place / 3)]));
-      continue;
-    }
-    const auto& damping = leaf.damping[static_cast<std::size_t>(MapCheckSmorzanteSea(place))];
-    if (damping.ticked) Append(text, Item(damping.row));
-  }
-  return text;
-}
-
-std::string ItemsOf(const elements::SeaCavity& cavity) {
-  std::string text;
-  std::size_t fibre = 0;
-  std::size_t mass = 0;
-  for (const SeaCavityPart part : PartsOf(cavity.type)) {
-    if (part == SeaCavityPart::kFibre) {
-      Append(text, Item(cavity.fibres[fibre++]));
-      continue;
-    }
-    Append(text, Item(cavity.masses[mass]));
-    if (cavity.mass_damping[mass].ticked) Append(text, Item(cavity.mass_damping[mass].row));
-    ++mass;
-  }
+  for (const elements::Layer& layer : elements::PartOf(setup, stack).layers) Append(text, Item(layer));
   return text;
 }
 
@@ -100,15 +57,18 @@ std::string CavityPart(const Setup& setup, const Words& words) {
   return {};
 }
 
-std::string ResilientPart(const elements::ResilientLayers& layers) {
-  if (RowsInUse(layers) == 0) return {};
-  std::string text = kResilientLayers;
-  for (int i = 0; i < RowsInUse(layers); ++i) {
-    const auto& row = layers.rows[static_cast<std::size_t>(i)];
-    if (i > 0) text += ", ";
-    text += NameOf(row) + " X " + FormatShortest(row.slot.thickness_mm);
+std::string ResilientPart(const Setup& setup) {
+  std::string text;
+  for (const elements::Layer& layer : elements::PartOf(setup, Stack::kResilient).layers) {
+    text += text.empty() ? kResilientLayers : ", ";
+    text += layer.name + " X " + FormatShortest(layer.thickness_mm);
   }
-  return text + kNext;
+  return text.empty() ? text : text + kNext;
+}
+
+std::string FloorPart(const Setup& setup) {
+  return kBearingFloor + CompilaDescrizioneParete1(setup) + kNext + ResilientPart(setup) + kScreed +
+         CompilaDescrizioneParete2(setup);
 }
 
 std::string FacadePart(const Setup& setup, const Words& words) {
@@ -141,7 +101,7 @@ std::string CountedParts(const Setup& setup, const Words& words) {
 
 std::string LiningPart(const Setup& setup, bool ceiling, const Words& words) {
   return words(ceiling ? kBaseFloorRow : kBaseWallRow) + ": " + setup.base.name + kNextPart +
-         words(ceiling ? kCeilingRow : kLiningRow) + ": " + CompilaDescrizionePareteSEA2(setup) +
+         words(ceiling ? kCeilingRow : kWallLiningRow) + ": " + CompilaDescrizionePareteSEA2(setup) +
          CompilaDescrizioneIntercapedineSEA(setup, words);
 }
 
@@ -160,8 +120,7 @@ std::string WholeDescription(const Setup& setup, Family family, const Words& wor
       return LeafHead(1, words) + CompilaDescrizioneParete1(setup) + CavityPart(setup, words) + kNextPart +
              LeafHead(2, words) + CompilaDescrizioneParete2(setup);
     case Family::kImpact:
-      return kBearingFloor + CompilaDescrizioneParete1(setup) + kNext + ResilientPart(setup.resilient) +
-             kScreed + CompilaDescrizioneParete2(setup);
+      return FloorPart(setup);
     case Family::kFacade:
       return FacadePart(setup, words);
     case Family::kLining:
@@ -173,28 +132,26 @@ std::string WholeDescription(const Setup& setup, Family family, const Words& wor
 
 }  // namespace
 
-std::string CompilaDescrizioneParete1(const Setup& setup) { return ItemsOf(setup.leaf1); }
-std::string CompilaDescrizioneParete2(const Setup& setup) { return ItemsOf(setup.leaf2); }
-std::string CompilaDescrizioneIntercapedine(const Setup& setup) { return ItemsOf(setup.cavity.layers); }
-std::string CompilaDescrizionePareteSEA1(const Setup& setup) { return ItemsOf(setup.sea_leaf1); }
-std::string CompilaDescrizionePareteSEA2(const Setup& setup) { return ItemsOf(setup.sea_leaf2); }
+std::string CompilaDescrizioneParete1(const Setup& setup) { return ItemsOf(setup, Stack::kLeaf1); }
+std::string CompilaDescrizioneParete2(const Setup& setup) { return ItemsOf(setup, Stack::kLeaf2); }
+std::string CompilaDescrizioneIntercapedine(const Setup& setup) { return ItemsOf(setup, Stack::kCavity); }
+std::string CompilaDescrizionePareteSEA1(const Setup& setup) { return ItemsOf(setup, Stack::kSeaLeaf1); }
+std::string CompilaDescrizionePareteSEA2(const Setup& setup) { return ItemsOf(setup, Stack::kSeaLeaf2); }
 
 std::string CompilaDescrizioneIntercapedineSEA(const Setup& setup, const Words& words) {
-  const elements::SeaCavity& cavity = setup.sea_cavity;
-  const std::string depth = " (" + FormatShortest(NumberOf(cavity.depth_text)) + " mm)";
-  if (cavity.type == elements::SeaCavityType::kEmpty) return kNextPart + words(kEmptySeaCavityRow) + depth;
-  return kNextPart + UpperCase(words(kCavityRow)) + depth + ": " + ItemsOf(cavity);
-}
-
-int MapCheckSmorzanteSea(int check) {
-  constexpr std::array<int, 9> kSlots = {0, 0, 1, 2, 0, 3, 4, 0, 5};
-  return check >= 0 && check < static_cast<int>(kSlots.size()) ? kSlots[static_cast<std::size_t>(check)] : 0;
+  const elements::Part cavity = elements::PartOf(setup, Stack::kSeaCavity);
+  const std::string depth = " (" + FormatShortest(*cavity.depth_mm) + " mm)";
+  if (cavity.layers.empty()) return kNextPart + words(kEmptySeaCavityRow) + depth;
+  return kNextPart + UpperCase(words(kCavityRow)) + depth + ": " + ItemsOf(setup, Stack::kSeaCavity);
 }
 
 std::string ElementDescription(const Setup& setup, const Words& words) {
   if (!setup.calculation) return {};
-  const Family family = elements::RowOf(*setup.calculation).family;
-  return family == Family::kFacade ? CountedParts(setup, words) : WholeDescription(setup, family, words);
+  const elements::CalculationRow& row = elements::RowOf(*setup.calculation);
+  if (row.family == Family::kFacade) return CountedParts(setup, words);
+  // Stored descriptions go by the family and call a floor with a floating screed a double wall.
+  if (row.stacks.Has(Stack::kResilient)) return FloorPart(setup);
+  return WholeDescription(setup, row.family, words);
 }
 
 std::string ResultDescription(const Setup& setup, const Words& words) {
@@ -213,7 +170,7 @@ std::string ProposedName(const Setup& setup, const Words& words) {
   const Family family = elements::RowOf(*setup.calculation).family;
   MessageRow row = kWallRow;
   if (family == Family::kImpact) row = kFloorRow;
-  if (family == Family::kLining) row = kLiningRow;
+  if (family == Family::kLining) row = kWallLiningRow;
   if (family == Family::kCeiling) row = kCeilingRow;
   return words(row) + " x";
 }

@@ -21,10 +21,6 @@ std::string CompilaDescrizionePareteSEA2(const elements::Setup& setup);
 /// " -- INTERCAPEDINE (60 mm): Lana di vetro (45 mm)".
 std::string CompilaDescrizioneIntercapedineSEA(const elements::Setup& setup, const Words& words);
 
-/// The damping slot that belongs to place `check` of a SEA side: its three layers and six damping layers
-/// stand in nine places, damping, layer, damping, and so on. 0 for a place that holds a layer or for none.
-int MapCheckSmorzanteSea(int check);
-
 inline constexpr std::size_t kLongestDescription = 250;
 
 /// The description of the element, whole; equal parts of a facade are counted. Empty before a choice.

@@ -3,16 +3,10 @@
 #include <cmath>
 
 #include "foundation/decimal.h"
-#include "presentation/texts/layer_rows.h"
+#include "foundation/message_rows.h"
+#include "presentation/texts/box_number.h"
 
 namespace velmar::presentation {
-namespace {
-
-constexpr MessageRow kClassZeroRow{99};
-constexpr MessageRow kClassRow{165};
-
-}  // namespace
-
 double FacadeArea(const elements::Setup& setup) { return std::abs(NumberOf(setup.base.area_text)); }
 
 double ComponentArea(const elements::FacadeComponent& component) {
@@ -34,7 +28,7 @@ std::string ShareText(const elements::Setup& setup, double area_m2) {
 
 std::string TightnessText(int tightness_class, const Words& words) {
   if (tightness_class == 0) return words(kClassZeroRow);
-  return words(kClassRow) + " " + std::to_string(tightness_class);
+  return words(kAirTightnessClassRow) + " " + std::to_string(tightness_class);
 }
 
 }  // namespace velmar::presentation

@@ -1,6 +1,11 @@
 #include "presentation/texts/result_lines.h"
 
+#include <algorithm>
+#include <array>
+#include <string_view>
+
 #include "acoustics/bands.h"
+#include "elements/single_numbers.h"
 #include "foundation/decimal.h"
 #include "foundation/rounding.h"
 #include "presentation/texts/results_table.h"
@@ -39,8 +44,25 @@ std::string ResultLine(Family family, const elements::ResultSet& result) {
          FormatTerm(result.ctr) + ") dB";
 }
 
+std::string FurtherNumbersLine(elements::Calculation calculation, const elements::ResultSet& result) {
+  const Family family = elements::RowOf(calculation).family;
+  if (family == Family::kLining || family == Family::kCeiling) return {};
+  constexpr std::array<std::string_view, 6> kShown = {"C50-5000", "Ctr,50-5000", "STC",
+                                                      "OITC",     "CI,50-2500",  "IIC"};
+  std::string terms;
+  std::string classes;
+  for (const elements::SingleNumber& number : elements::SingleNumbersOf(result, calculation)) {
+    if (std::find(kShown.begin(), kShown.end(), number.key) == kShown.end()) continue;
+    std::string& part = *number.unit == '\0' ? classes : terms;
+    if (!part.empty()) part += "; ";
+    part += std::string(number.symbol) + "= " + FormatFixed(number.value, number.decimals);
+  }
+  if (!terms.empty()) terms += " dB";
+  return terms.empty() || classes.empty() ? terms + classes : terms + "; " + classes;
+}
+
 std::string ImprovementLine(Family family, const elements::ResultSet& result) {
-  if ((family != Family::kLining && family != Family::kCeiling) || !result.delta_rw) return {};
+  if (!IsLining(family) || !result.delta_rw) return {};
   return "DRw= " + FormatTerm(result.delta_rw) + " dB";
 }
 

@@ -22,6 +22,11 @@ std::string ReferenceLevel(elements::Family family, std::optional<double> shift,
 /// adaptation terms (generic linings) "Rw= 58,0 dB"; an empty text without a rating.
 std::string ResultLine(elements::Family family, const elements::ResultSet& result);
 
+/// What paper says of the bands beyond the rated ones, in one line: "C50-5000= -1; Ctr,50-5000= -5 dB; STC=
+/// 44; OITC= 36", "CI,50-2500= 2 dB; IIC= 50". A number whose bands are missing is left out; an empty text
+/// without any, and for linings and ceilings, whose terms stand against their base.
+std::string FurtherNumbersLine(elements::Calculation calculation, const elements::ResultSet& result);
+
 /// The improvement by a lining, "DRw= 12 dB"; an empty text where there is none.
 std::string ImprovementLine(elements::Family family, const elements::ResultSet& result);
 

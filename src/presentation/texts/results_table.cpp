@@ -3,6 +3,7 @@
 #include "acoustics/airborne_rating.h"
 #include "acoustics/impact_rating.h"
 #include "foundation/decimal.h"
+#include "foundation/message_rows.h"
 #include "presentation/texts/result_lines.h"
 
 namespace velmar::presentation {
@@ -10,9 +11,6 @@ namespace {
 
 using elements::Family;
 
-constexpr MessageRow kAirborneHeadingRow{287};
-constexpr MessageRow kImpactHeadingRow{288};
-constexpr MessageRow kReferenceHeadingRow{289};
 constexpr std::size_t kRatingRow = acoustics::kBandCount;
 
 ResultsTableRow Shown(std::string title, std::string value) {
@@ -42,7 +40,7 @@ std::optional<BandSpan> ShownBands(const elements::Setup& setup) {
   const elements::CalculationRow& row = elements::RowOf(*setup.calculation);
   if (row.model == elements::Model::kGenericLining) return std::nullopt;
   if (row.family == Family::kFacade && setup.facade.simplified) return std::nullopt;
-  if (row.family == Family::kLining || row.family == Family::kCeiling) {
+  if (IsLining(row.family)) {
     return BandSpan{acoustics::kFirstRatedBand, acoustics::kLastRatedBand};
   }
   return BandSpan{0, acoustics::kBandCount - 1};

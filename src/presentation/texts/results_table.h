@@ -13,9 +13,6 @@
 
 namespace velmar::presentation {
 
-/// "Frequenza [Hz]".
-inline constexpr MessageRow kFrequencyRow{72};
-
 /// The reference curve that rates results of `family`: airborne, or impact for floors.
 const std::array<double, acoustics::kRatedBandCount>& ReferenceCurve(elements::Family family);
 

@@ -10,7 +10,7 @@ namespace velmar::presentation {
 
 /// A line of the layer list: "2  Cartongesso standard  12,5mm X 2".
 struct StructureLine {
-  int number = 0;  ///< counted through the element, as in the section drawing; 0 for none
+  int number = 0;  ///< of the layer, as everywhere else; 0 for air and a fill without a row
   std::string name{};
   std::string amount{};
 
@@ -24,8 +24,8 @@ struct StructureBlock {
   std::vector<StructureLine> lines{};
 };
 
-/// The layers of the element, near side first: leaf, cavity, leaf; bearing floor, resilient layers, screed;
-/// base, cavity, lining. Nothing for a facade or before a choice.
+/// The layers of the element as it stands: leaf, cavity, leaf; of a floor screed, resilient layers, bearing
+/// floor; base, cavity, lining. Nothing for a facade or before a choice.
 std::vector<StructureBlock> StructureOf(const elements::Setup& setup, const Words& words);
 
 /// Surface mass of the lining with its damping layers, kg/m².

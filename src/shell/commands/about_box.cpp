@@ -7,6 +7,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "foundation/message_rows.h"
 #include "shell/fields/boxes.h"
 #include "shell/fields/icons.h"
 #include "shell/fields/phrases.h"
@@ -14,11 +15,6 @@
 namespace velmar::shell {
 namespace {
 
-constexpr MessageRow kCaptionRow{67};
-constexpr MessageRow kPurposeRow{297};
-constexpr MessageRow kTermsRow{1310};
-constexpr MessageRow kWebsiteRow{1311};
-constexpr MessageRow kCloseRow{369};
 constexpr int kPicture = 64;
 constexpr int kWidth = 400;
 
@@ -28,7 +24,7 @@ AboutBox::AboutBox(const presentation::Words& words, const QString& version, con
                    std::function<void()> open_website, QWidget* parent)
     : QDialog(parent) {
   setObjectName("About_VELMAR");
-  setWindowTitle(Text(words, kCaptionRow).remove("..."));
+  setWindowTitle(Text(words, kAboutRow).remove("..."));
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(24, 24, 24, 16);
   auto* head = new QHBoxLayout;
@@ -44,7 +40,7 @@ AboutBox::AboutBox(const presentation::Words& words, const QString& version, con
   head->addSpacing(16);
   head->addWidget(name, 1);
   column->addLayout(head);
-  for (const MessageRow row : {kPurposeRow, kTermsRow}) {
+  for (const MessageRow row : {kPurposeRow, kLiabilityNoticeRow}) {
     auto* text = new QLabel(Text(words, row), this);
     text->setWordWrap(true);
     column->addWidget(text);

@@ -4,80 +4,87 @@
 #include <array>
 #include <string>
 
+#include "foundation/message_rows.h"
+
 namespace velmar::shell {
 namespace {
 
 using elements::Calculation;
 using enum elements::Calculation;
 
-constexpr MessageRow kRelationRow{142};
-
 /// What stands behind the words of a menu entry.
 enum class Mark { kNone, kRelation, kImpedance, kRow, kCommaAndRow };
 
 struct Entry {
   Calculation calculation{};
-  int row = 0;
+  MessageRow row{};
   Mark mark = Mark::kNone;
-  int mark_row = 0;
+  MessageRow mark_row{};
 };
 
 // In the order of the tree.
 constexpr std::array<Entry, elements::kCalculationCount> kEntries = {{
-    {kSingleWallGeneric, 23},
-    {kSingleWallBrick, 25, Mark::kRelation},
-    {kSingleWallBrickFerrara, 24, Mark::kRelation},
-    {kSingleWallSea, 103},
-    {kSingleWallPlasterboard, 26, Mark::kRelation},
-    {kSingleWallConcrete, 102},
-    {kSingleWallHBlocks, 27, Mark::kRelation},
-    {kSingleWallExpandedClayBlocks, 28, Mark::kRelation},
-    {kSingleWallConcreteBlocks, 29, Mark::kRelation},
-    {kSingleWallGypsumBlocks, 30, Mark::kRelation},
-    {kSingleWallAeratedConcrete, 31, Mark::kRelation},
-    {kFloorHollowBrickConcrete, 32, Mark::kRelation},
-    {kSinglePaneGeneric, 48},
-    {kSinglePaneMonolithic, 49, Mark::kRelation},
-    {kSinglePaneLaminated, 50, Mark::kRelation},
-    {kInsulatingGlassGeneric, 51},
-    {kInsulatingGlass, 53, Mark::kRelation},
-    {kInsulatingGlassOneLaminated, 118, Mark::kRelation},
-    {kInsulatingGlassTwoLaminated, 54, Mark::kRelation},
-    {kDoubleWallGeneric, 34, Mark::kImpedance},
-    {kDoubleWallBrick, 105, Mark::kRelation},
-    {kDoubleWallBrickTorvalle, 104, Mark::kRelation},
-    {kDoubleWallSeaBrick, 103},
-    {kDoubleWallConcrete, 102},
-    {kDoubleWallSeaPlasterboardPoint, 107},
-    {kDoubleWallSeaPlasterboardLine, 108},
-    {kDoubleWallPlasterboardCommonStuds, 36, Mark::kRelation},
-    {kDoubleWallPlasterboardSeparateStuds, 37, Mark::kRelation},
-    {kDoubleWallPlasterboardSingleBoardSimpleFrame, 39, Mark::kRelation},
-    {kDoubleWallPlasterboardMultipleBoardSimpleFrame, 40, Mark::kRelation},
-    {kDoubleWallPlasterboardMultipleBoardDoubleFrame, 41, Mark::kRelation},
-    {kLightWallLineLine, 43},
-    {kLightWallLinePoint, 44},
-    {kLightWallPointPoint, 45},
-    {kLightWallIsolated, 46},
-    {kFloorWithFloatingScreed, 32, Mark::kCommaAndRow, 188},
-    {kCompositeElement, 55},
-    {kLiningGeneric, 111, Mark::kRelation},
-    {kLiningCalibel, 112},
-    {kLiningFrame, 113},
-    {kCeilingGeneric, 115, Mark::kRelation},
-    {kCeilingSea, 116},
-    {kImpactFloatingFloor, 58, Mark::kRow, 144},
-    {kImpactReinforcedConcrete, 59, Mark::kRow, 145},
-    {kImpactLightweightConcrete, 60, Mark::kRow, 146},
-    {kImpactHollowBrickConcrete, 109, Mark::kRow, 147},
-    {kImpactHollowBrickConcreteGavelo, 413, Mark::kRow, 143},
+    {kSingleWallGeneric, kGenericSingleWallRow},
+    {kSingleWallBrick, kBrickMenuRow, Mark::kRelation},
+    {kSingleWallBrickFerrara, kBrickFerraraMenuRow, Mark::kRelation},
+    {kSingleWallSea, kBrickSeaMenuRow},
+    {kSingleWallPlasterboard, kPlasterboardMenuRow, Mark::kRelation},
+    {kSingleWallConcrete, kConcreteMenuRow},
+    {kSingleWallHBlocks, kHBlocksMenuRow, Mark::kRelation},
+    {kSingleWallExpandedClayBlocks, kExpandedClayBlocksMenuRow, Mark::kRelation},
+    {kSingleWallConcreteBlocks, kConcreteBlocksMenuRow, Mark::kRelation},
+    {kSingleWallGypsumBlocks, kGypsumBlocksMenuRow, Mark::kRelation},
+    {kSingleWallAeratedConcrete, kAeratedConcreteMenuRow, Mark::kRelation},
+    {kFloorHollowBrickConcrete, kHollowBrickFloorMenuRow, Mark::kRelation},
+    {kSinglePaneGeneric, kGenericSinglePaneRow},
+    {kSinglePaneMonolithic, kMonolithicPaneRow, Mark::kRelation},
+    {kSinglePaneLaminated, kLaminatedPaneRow, Mark::kRelation},
+    {kInsulatingGlassGeneric, kGenericInsulatingGlassMenuRow},
+    {kInsulatingGlass, kInsulatingGlassRow, Mark::kRelation},
+    {kInsulatingGlassOneLaminated, kInsulatingGlassOneLaminatedMenuRow, Mark::kRelation},
+    {kInsulatingGlassTwoLaminated, kInsulatingGlassTwoLaminatedRow, Mark::kRelation},
+    {kDoubleWallGeneric, kGenericDoubleWallRow, Mark::kImpedance},
+    {kDoubleWallBrick, kDoubleBrickMenuRow, Mark::kRelation},
+    {kDoubleWallBrickTorvalle, kDoubleBrickTorvalleMenuRow, Mark::kRelation},
+    {kDoubleWallSeaBrick, kBrickSeaMenuRow},
+    {kDoubleWallConcrete, kConcreteMenuRow},
+    {kDoubleWallSeaPlasterboardPoint, kPointConnectionMenuRow},
+    {kDoubleWallSeaPlasterboardLine, kLineConnectionMenuRow},
+    {kDoubleWallPlasterboardCommonStuds, kCommonStudsMenuRow, Mark::kRelation},
+    {kDoubleWallPlasterboardSeparateStuds, kSeparateStudsMenuRow, Mark::kRelation},
+    {kDoubleWallPlasterboardSingleBoardSimpleFrame, kSingleBoardSimpleFrameMenuRow, Mark::kRelation},
+    {kDoubleWallPlasterboardMultipleBoardSimpleFrame, kMultipleBoardSimpleFrameMenuRow, Mark::kRelation},
+    {kDoubleWallPlasterboardMultipleBoardDoubleFrame, kMultipleBoardDoubleFrameMenuRow, Mark::kRelation},
+    {kLightWallLineLine, kLightWallLineLineRow},
+    {kLightWallLinePoint, kLightWallLinePointRow},
+    {kLightWallPointPoint, kLightWallPointPointRow},
+    {kLightWallIsolated, kLightWallIsolatedRow},
+    {kFloorWithFloatingScreed, kHollowBrickFloorMenuRow, Mark::kCommaAndRow, kFloatingScreedTheoryRow},
+    {kCompositeElement, kCompositeElementRow},
+    {kLiningGeneric, kWallLiningRow, Mark::kRelation},
+    {kLiningCalibel, kCalibelLiningRow},
+    {kLiningFrame, kStudLiningRow},
+    {kCeilingGeneric, kCeilingRow, Mark::kRelation},
+    {kCeilingSea, kCeilingSeaMenuRow},
+    {kImpactFloatingFloor, kFloatingScreedImpactFloorRow, Mark::kRow, kFloatingScreedImpactMarkRow},
+    {kImpactReinforcedConcrete, kReinforcedConcreteFloorRow, Mark::kRow, kReinforcedConcreteMarkRow},
+    {kImpactLightweightConcrete, kLightweightConcreteFloorRow, Mark::kRow, kLightweightConcreteMarkRow},
+    {kImpactHollowBrickConcrete, kHollowBrickImpactFloorRow, Mark::kRow, kHollowBrickImpactMarkRow},
+    {kImpactHollowBrickConcreteGavelo, kHollowBrickGaveloFloorRow, Mark::kRow, kHollowBrickGaveloMarkRow},
 }};
 
-const Entry& EntryOf(Calculation calculation) {
-  for (const Entry& entry : kEntries) {
-    if (entry.calculation == calculation) return entry;
+/// A calculation that is missing, or twice in the menu, fails here.
+constexpr bool NamesEachCalculationOnce() {
+  for (std::size_t i = 0; i < elements::kCalculationCount; ++i) {
+    const auto named = std::ranges::count(kEntries, static_cast<Calculation>(i), &Entry::calculation);
+    if (named != 1) return false;
   }
-  return kEntries.front();
+  return std::ranges::none_of(kEntries, [](const Entry& entry) { return entry.row == MessageRow{}; });
+}
+static_assert(NamesEachCalculationOnce());
+
+const Entry& EntryOf(Calculation calculation) {
+  return *std::ranges::find(kEntries, calculation, &Entry::calculation);
 }
 
 }  // namespace
@@ -93,22 +100,22 @@ std::span<const Calculation> InMenuOrder() {
 
 MessageLine MenuCaption(Calculation calculation) {
   const Entry& entry = EntryOf(calculation);
-  MessageLine line = {MessageRow{entry.row}};
+  MessageLine line = {entry.row};
   switch (entry.mark) {
     case Mark::kNone:
       break;
     case Mark::kRelation:
       line.insert(line.end(),
-                  {std::string(" ["), kRelationRow, ' ' + std::to_string(RowOf(calculation).relation) + ']'});
+                  {std::string(" ["), kRelationRow, ' ' + std::to_string(RowOf(calculation).mark) + ']'});
       break;
     case Mark::kImpedance:
       line.emplace_back(std::string(" [MIA]"));
       break;
     case Mark::kRow:
-      line.insert(line.end(), {std::string(" "), MessageRow{entry.mark_row}});
+      line.insert(line.end(), {std::string(" "), entry.mark_row});
       break;
     case Mark::kCommaAndRow:
-      line.insert(line.end(), {std::string(", "), MessageRow{entry.mark_row}});
+      line.insert(line.end(), {std::string(", "), entry.mark_row});
       break;
   }
   return line;

@@ -8,6 +8,7 @@
 #include <string>
 #include <string_view>
 
+#include "foundation/message_rows.h"
 #include "shell/commands/calculation_captions.h"
 #include "shell/fields/phrases.h"
 
@@ -21,35 +22,35 @@ using elements::CalculationRow;
 struct TreeLine {
   int depth = 0;
   const char* control = "";
-  int heading_row = 0;  ///< 0: the entries of the handler `control`
+  MessageRow heading{};  ///< none: the entries of the handler `control`
 };
 
 constexpr std::array<TreeLine, 25> kTree = {{
-    {0, "tipo_calcolo_potere_fonoisolante", 21},
-    {1, "cal_parete_singola", 22},
-    {2, "TIPO_PARETE_SINGOLA", 0},
-    {2, "PARETE_SINGOLA_VETRATE", 47},
-    {3, "VETRATURE", 0},
-    {1, "cal_parete_doppia", 33},
-    {2, "TIPO_PARETE_DOPPIA", 0},
-    {2, "TIPO_PARETE_DOPPIA2", 0},
-    {2, "ParDoppiaSEA", 106},
-    {3, "TIPO_PARETE_SEA", 0},
-    {2, "TIPO_DOPPIO_CARTONGESSO", 35},
-    {3, "TIPO_PARETE_DOPPIA_CARTONGESSO", 0},
-    {2, "TIPO_DOPPIO_CARTONGESSO_2", 38},
-    {3, "TIPO_DOPPIO_CARTONGESSO_SPERIM", 0},
-    {2, "PARETE_DOPPIA_LEGGERA", 42},
-    {3, "TIPO_PARETE_DOPPIA_LEGGERA_LLPI", 0},
-    {1, "TIPO_SOLAIO_DOPPIO", 0},
-    {1, "mnuCalcoloControplaccaggi", 110},
-    {2, "mnuCalcoloControplaccaggiScelta", 0},
-    {1, "mnuCalcoloControsoffitto", 114},
-    {2, "mnuCalcoloControsoffittiScelta", 0},
-    {1, "cal_facciata", 0},
-    {0, "tipo_calcolo_calpestio", 56},
-    {1, "cal_solaio", 0},
-    {1, "cal_solaio_new", 0},
+    {0, "tipo_calcolo_potere_fonoisolante", kSoundReductionIndexRow},
+    {1, "cal_parete_singola", kSingleWallMenuRow},
+    {2, "TIPO_PARETE_SINGOLA", {}},
+    {2, "PARETE_SINGOLA_VETRATE", kGlazingMenuRow},
+    {3, "VETRATURE", {}},
+    {1, "cal_parete_doppia", kDoubleWallMenuRow},
+    {2, "TIPO_PARETE_DOPPIA", {}},
+    {2, "TIPO_PARETE_DOPPIA2", {}},
+    {2, "ParDoppiaSEA", kPlasterboardSeaMenuRow},
+    {3, "TIPO_PARETE_SEA", {}},
+    {2, "TIPO_DOPPIO_CARTONGESSO", kPlasterboardByStudsMenuRow},
+    {3, "TIPO_PARETE_DOPPIA_CARTONGESSO", {}},
+    {2, "TIPO_DOPPIO_CARTONGESSO_2", kPlasterboardByFrameMenuRow},
+    {3, "TIPO_DOPPIO_CARTONGESSO_SPERIM", {}},
+    {2, "PARETE_DOPPIA_LEGGERA", kLightWallMenuRow},
+    {3, "TIPO_PARETE_DOPPIA_LEGGERA_LLPI", {}},
+    {1, "TIPO_SOLAIO_DOPPIO", {}},
+    {1, "mnuCalcoloControplaccaggi", kLiningsMenuRow},
+    {2, "mnuCalcoloControplaccaggiScelta", {}},
+    {1, "mnuCalcoloControsoffitto", kCeilingsMenuRow},
+    {2, "mnuCalcoloControsoffittiScelta", {}},
+    {1, "cal_facciata", {}},
+    {0, "tipo_calcolo_calpestio", kImpactSoundPressureLevelRow},
+    {1, "cal_solaio", {}},
+    {1, "cal_solaio_new", {}},
 }};
 
 QString ControlName(const CalculationRow& row) {
@@ -81,8 +82,8 @@ void CalculationActions::FillTree(QMenu& menu, const presentation::Words& words)
   std::array<QMenu*, 4> path = {&menu, nullptr, nullptr, nullptr};
   for (const TreeLine& line : kTree) {
     QMenu* parent = path.at(static_cast<std::size_t>(line.depth));
-    if (line.heading_row != 0) {
-      QMenu* heading = parent->addMenu(Text(words, MessageRow{line.heading_row}));
+    if (line.heading != MessageRow{}) {
+      QMenu* heading = parent->addMenu(Text(words, line.heading));
       heading->setObjectName(line.control);
       path.at(static_cast<std::size_t>(line.depth) + 1) = heading;
       continue;

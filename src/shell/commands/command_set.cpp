@@ -11,13 +11,13 @@ namespace velmar::shell {
 CommandSet::CommandSet(const presentation::Words& words, QObject* parent,
                        const std::function<void(CommandId)>& execute) {
   for (const Command& command : Commands()) {
-    const int caption = command.caption_row != 0 ? command.caption_row : command.tip_row;
-    auto* action = new QAction(Text(words, MessageRow{caption}), parent);
+    const MessageRow caption = command.caption != MessageRow{} ? command.caption : command.tip;
+    auto* action = new QAction(Text(words, caption), parent);
     action->setObjectName(*command.control != '\0' ? QString(command.control)
                                                    : "Button_" + QString::number(command.button));
     const QKeySequence shortcut(command.shortcut, QKeySequence::PortableText);
     action->setShortcut(shortcut);
-    QString tip = Text(words, MessageRow{command.tip_row != 0 ? command.tip_row : caption});
+    QString tip = Text(words, command.tip != MessageRow{} ? command.tip : caption);
     if (!shortcut.isEmpty()) tip += " (" + shortcut.toString(QKeySequence::NativeText) + ')';
     action->setToolTip(tip);
     if (*command.icon != '\0')

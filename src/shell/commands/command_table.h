@@ -54,8 +54,8 @@ struct Command {
   CommandId id{};
   int button = 0;             ///< number in the tool bar, from 1; 0: none
   const char* control = "";   ///< name of the menu entry; a button without one is called by its number
-  int caption_row = 0;        ///< of the menu entry; 0: none
-  int tip_row = 0;            ///< of the button; 0: the caption
+  MessageRow caption{};       ///< of the menu entry
+  MessageRow tip{};           ///< of the button; none: the caption
   const char* icon = "";      ///< name of the picture; empty: none
   const char* shortcut = "";  ///< in Qt's portable words
   Needs needs = Needs::kNothing;

@@ -2,18 +2,13 @@
 
 #include <QUrl>
 
+#include "foundation/message_rows.h"
 #include "shell/commands/about_box.h"
 #include "shell/commands/command_table.h"
 #include "shell/fields/phrases.h"
 
 namespace velmar::shell {
 namespace {
-
-constexpr MessageRow kNoManualRow{1312};
-constexpr MessageRow kNoMaintenanceRow{1313};
-constexpr MessageRow kNoContactRow{1314};
-constexpr MessageRow kNotOpenedRow{1315};
-constexpr MessageRow kNoWindowRow{1316};
 
 bool Exists(const std::filesystem::path& file) {
   std::error_code error;

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "calculation/layer_edits.h"
+#include "foundation/message_rows.h"
 #include "shell/commands/command_table.h"
 #include "shell/fields/material_box.h"
 #include "shell/fields/phrases.h"
@@ -26,8 +27,7 @@ MaterialBox* LastList(const QWidget* window) {
 }  // namespace
 
 MaterialEditor EditorOf(storage::MaterialStore& store, const presentation::Words& words) {
-  const materials::KeywordTexts texts{words({materials::kAllMaterialsRow}),
-                                      words({materials::kNotSpecifiedRow})};
+  const materials::KeywordTexts texts{words(kAllKeywordsRow), words(kNotSpecifiedRow)};
   return [&store, texts](QWidget* parent, const WindowTools& tools, MaterialFamily family,
                          const std::string& name) {
     return material_editors::EditMaterial(parent, tools, store, texts, family, name);

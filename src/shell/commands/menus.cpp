@@ -4,6 +4,7 @@
 #include <QMenuBar>
 #include <initializer_list>
 
+#include "foundation/message_rows.h"
 #include "shell/commands/calculation_menu.h"
 #include "shell/commands/command_set.h"
 #include "shell/fields/phrases.h"
@@ -12,15 +13,6 @@ namespace velmar::shell {
 namespace {
 
 using enum CommandId;
-
-constexpr MessageRow kFileRow{1};
-constexpr MessageRow kDatabaseRow{10};
-constexpr MessageRow kMeasuredRow{13};
-constexpr MessageRow kGeometryRow{17};
-constexpr MessageRow kCalculationRow{19};
-constexpr MessageRow kKindRow{20};
-constexpr MessageRow kHelpRow{64};
-constexpr MessageRow kRecentRow{1304};
 
 void Add(QMenu& menu, const CommandSet& commands, std::initializer_list<CommandId> ids) {
   for (const CommandId id : ids) menu.addAction(commands.Of(id));
@@ -36,9 +28,9 @@ QMenu* AddMenu(QMenuBar& bar, const presentation::Words& words, MessageRow row, 
 
 QMenu* FillMenuBar(QMenuBar& bar, const CommandSet& commands, const CalculationActions& calculations,
                    const presentation::Words& words) {
-  QMenu* file = AddMenu(bar, words, kFileRow, "File");
+  QMenu* file = AddMenu(bar, words, kFileMenuRow, "File");
   Add(*file, commands, {kOpenProject});
-  QMenu* recent = file->addMenu(Text(words, kRecentRow));
+  QMenu* recent = file->addMenu(Text(words, kRecentMenuRow));
   recent->setObjectName("Recenti");
   Add(*file, commands, {kSaveProject, kStoreResult});
   file->addSeparator();
@@ -48,24 +40,24 @@ QMenu* FillMenuBar(QMenuBar& bar, const CommandSet& commands, const CalculationA
   file->addSeparator();
   Add(*file, commands, {kExit});
 
-  QMenu* database = AddMenu(bar, words, kDatabaseRow, "Database");
+  QMenu* database = AddMenu(bar, words, kDatabaseMenuRow, "Database");
   Add(*database, commands, {kSavedResults, kMaintenance});
-  QMenu* measured = database->addMenu(Text(words, kMeasuredRow));
+  QMenu* measured = database->addMenu(Text(words, kMeasuredDataMenuRow));
   measured->setObjectName("DB_sperimentale");
   Add(*measured, commands, {kMeasuredLnw, kMeasuredRw});
   Add(*database, commands, {kBaseMaterials, kMaterialList});
 
-  QMenu* geometry = AddMenu(bar, words, kGeometryRow, "geometria");
+  QMenu* geometry = AddMenu(bar, words, kGeometryMenuRow, "geometria");
   Add(*geometry, commands, {kDimensions});
 
-  QMenu* calculation = AddMenu(bar, words, kCalculationRow, "calcolo");
-  QMenu* tree = calculation->addMenu(Text(words, kKindRow));
+  QMenu* calculation = AddMenu(bar, words, kCalculationMenuRow, "calcolo");
+  QMenu* tree = calculation->addMenu(Text(words, kCalculationKindMenuRow));
   tree->setObjectName("tipo_di_calcolo");
   calculations.FillTree(*tree, words);
   calculation->addSeparator();
   Add(*calculation, commands, {kRun, kCompareBeside, kShowTable});
 
-  QMenu* help = AddMenu(bar, words, kHelpRow, "help");
+  QMenu* help = AddMenu(bar, words, kHelpMenuRow, "help");
   Add(*help, commands, {kTutorial, kContact});
   help->addSeparator();
   Add(*help, commands, {kAbout});

@@ -1,159 +1,51 @@
 #include "shell/commands/refused_field.h"
 
-#include <algorithm>
 #include <array>
 
-#include "acoustics/bands.h"
 #include "elements/layer_groups.h"
-#include "foundation/decimal.h"
 #include "shell/fields/phrases.h"
-#include "shell/pages/element_parts.h"
 
 namespace velmar::shell {
 namespace {
 
-using elements::Family;
-using elements::LayerGroup;
-using elements::Setup;
+using elements::Field;
+using elements::FieldId;
 
-constexpr int kOpeningRow = 231;
-
-bool IsOf(const Setup& setup, std::initializer_list<Family> families) {
-  const Family family = RowOf(*setup.calculation).family;
-  return std::find(families.begin(), families.end(), family) != families.end();
+QString LayerControl(const FieldId& id) {
+  const elements::LayerGroupRow& group = RowOf(*id.group);
+  return ArrayName(id.field == Field::kThickness ? group.thickness_box : group.list, id.index);
 }
 
-/// The words of a line that are no row: names and numbers.
-std::string Literals(const MessageLine& line) {
-  std::string words;
-  for (const MessagePiece& piece : line) {
-    if (const auto* literal = std::get_if<std::string>(&piece)) words += *literal;
-  }
-  return words;
-}
-
-QString Depth(const Setup& setup, const MessageLine& /*line*/) {
-  const bool plain = IsOf(setup, {Family::kDouble, Family::kSharp});
-  return plain ? "Text9" : "TextSpessoreIntercSEA";
-}
-
-/// The group whose layers a calculation shows first.
-LayerGroup FirstLayers(const Setup& setup) {
-  if (IsOf(setup, {Family::kSea, Family::kSeaSingle})) return LayerGroup::kSeaLeaf1;
-  return IsOf(setup, {Family::kLining, Family::kCeiling}) ? LayerGroup::kSeaLeaf2 : LayerGroup::kLeaf1;
-}
-
-QString FirstThickness(const Setup& setup, const MessageLine& /*line*/) {
-  return ArrayName(RowOf(FirstLayers(setup)).thickness_box, 0);
-}
-
-QString FirstMaterial(const Setup& setup, const MessageLine& /*line*/) {
-  return ArrayName(RowOf(FirstLayers(setup)).list, 0);
-}
-
-/// The first fill in the cavity of which a band of absorption is unknown.
-QString UnknownFill(const Setup& setup, const MessageLine& /*line*/) {
-  const std::string_view list = RowOf(LayerGroup::kSeaCavityFibre).list;
-  const int shown = FibreCount(setup.sea_cavity.type);
-  for (int i = 0; i < shown; ++i) {
-    const auto& absorption = setup.sea_cavity.fibres.at(static_cast<std::size_t>(i)).slot.absorption;
-    if (std::ranges::any_of(absorption, [](float band) { return band < 0.0F; })) return ArrayName(list, i);
-  }
-  return ArrayName(list, 0);
-}
-
-QString CavityFill(const Setup& setup, const MessageLine& /*line*/) {
-  const bool generic = setup.cavity.kind == elements::CavityKind::kGenericMaterial;
-  return generic ? ArrayName(RowOf(LayerGroup::kCavity).thickness_box, 0) : QString("Text31");
-}
-
-/// The first rated band without a level, of the base element and the components in use.
-QString MissingBand(const Setup& setup, const MessageLine& /*line*/) {
-  const int elements = IsOf(setup, {Family::kFacade}) ? setup.facade.Count() : 0;
-  for (int element = 0; element <= elements; ++element) {
-    for (std::size_t band = acoustics::kFirstRatedBand; band <= acoustics::kLastRatedBand; ++band) {
-      const double level = Visited(setup, element, [band](const auto& one) {
-        return ParseDecimal(one.band_texts.at(band)).value_or(0.0);
-      });
-      if (!(level > 0.0)) return BandControl(element, band);
-    }
-  }
-  return BandControl(0, acoustics::kFirstRatedBand);
-}
-
-QString AreaToCorrect(const Setup& setup, const MessageLine& /*line*/) {
-  return ParseDecimal(setup.base.area_text).value_or(0.0) == 0.0 ? "Text7" : "Text23_0";
-}
-
-/// The field that holds what is no number.
-QString HolderOf(const Setup& setup, const MessageLine& line) {
-  const std::array<std::pair<const std::string*, const char*>, 6> fields = {{
-      {&setup.cavity.depth_text, "Text9"},
-      {&setup.cavity.fibre_text, "Text31"},
-      {&setup.support_distance_text, "Text8"},
-      {&setup.sea_cavity.depth_text, "TextSpessoreIntercSEA"},
-      {&setup.width_text, "Toolbar1_15"},
-      {&setup.height_text, "Toolbar1_15"},
-  }};
-  for (const auto& [text, control] : fields) {
-    if (Literals(line) == " \"" + *text + '"') return control;
-  }
-  return {};
-}
-
-struct Cause {
-  int row = 0;
-  const char* control = nullptr;  ///< none: `find` tells it
-  QString (*find)(const Setup& setup, const MessageLine& line) = nullptr;
+/// The control of a field that the base element has once and each component has too.
+struct ElementControl {
+  Field field{};
+  const char* base = "";
+  const char* component = "";
 };
-constexpr std::array kCauses = {
-    Cause{233, "TextSpessoreIntercSEA"},
-    Cause{234, "TextMassaBase"},
-    Cause{235, nullptr, FirstThickness},
-    Cause{236, "Text25"},
-    Cause{244, "TextMassaBase"},
-    Cause{245, "TextSpessoreIntercSEA"},
-    Cause{246, nullptr, MissingBand},
-    Cause{247, nullptr, UnknownFill},
-    Cause{248, "Text25"},
-    Cause{249, "Text25"},
-    Cause{250, "ComboTipoAppendino"},
-    Cause{251, "Text8"},
-    Cause{252, nullptr, UnknownFill},
-    Cause{253, "Text8"},
-    Cause{254, "Text8"},
-    Cause{256, nullptr, AreaToCorrect},
-    Cause{257, nullptr, MissingBand},
-    Cause{1002, nullptr, FirstThickness},
-    Cause{1003, nullptr, FirstThickness},
-    Cause{1004, nullptr, FirstMaterial},
-    Cause{1005, "Toolbar1_15"},
-    Cause{1006, nullptr, Depth},
-    Cause{1007, nullptr, CavityFill},
-    Cause{1009, nullptr, FirstMaterial},
-    Cause{1012, nullptr, HolderOf},
-    Cause{1024, "Text8"},
-    Cause{1050, nullptr, FirstMaterial},
-    Cause{1051, nullptr, FirstThickness},
-    Cause{1052, nullptr, FirstMaterial},
-    Cause{1053, nullptr, FirstMaterial},
-    Cause{1054, "Text8"},
-    Cause{1055, "TextSpessoreMatFibraIntercSEA_0"},
-    Cause{1056, nullptr, FirstMaterial},
-    Cause{1070, nullptr, FirstMaterial},
-    Cause{1071, "Combo11_0"},
-    Cause{1076, nullptr, MissingBand},
-    Cause{kOpeningRow, "TextSpessoreIntercSEA"},
-};
+constexpr std::array kElementControls = {ElementControl{Field::kArea, "Text7", "Text23"},
+                                         ElementControl{Field::kRating, "Text25", "Text24"},
+                                         ElementControl{Field::kC, "Text27", "Text29"},
+                                         ElementControl{Field::kCtr, "Text28", "Text30"},
+                                         ElementControl{Field::kMass, "TextMassaBase", ""},
+                                         ElementControl{Field::kTightness, "", "ComboTenutaAria"}};
 
-std::optional<RefusedField> FieldOf(const Setup& setup, const MessageLine& line) {
-  for (const Cause& cause : kCauses) {
-    if (cause.row != LeadingRow(line).number) continue;
-    const QString control = cause.control != nullptr ? QString(cause.control) : cause.find(setup, line);
-    if (!control.isEmpty()) return RefusedField{control, line};
-  }
-  return std::nullopt;
-}
+/// The control of a field that an element has once.
+struct FieldControl {
+  Field field{};
+  const char* control = "";
+};
+constexpr std::array kFieldControls = {FieldControl{Field::kWidth, "Toolbar1_15"},
+                                       FieldControl{Field::kHeight, "Toolbar1_15"},
+                                       FieldControl{Field::kCavityDepth, "Text9"},
+                                       FieldControl{Field::kCavityKind, "Option2_0"},
+                                       FieldControl{Field::kFibreThickness, "Text31"},
+                                       FieldControl{Field::kSeaCavityDepth, "TextSpessoreIntercSEA"},
+                                       FieldControl{Field::kSeaCavityType, "ComboTipoIntercSEA"},
+                                       FieldControl{Field::kSupport, "Text8"},
+                                       FieldControl{Field::kHanger, "ComboTipoAppendino"},
+                                       FieldControl{Field::kDecoupling, "CheckDesolidarizza"},
+                                       FieldControl{Field::kBaseThickness, "TextSpessoreBase"},
+                                       FieldControl{Field::kSimplified, "Check2"}};
 
 }  // namespace
 
@@ -166,16 +58,17 @@ QString BandControl(int element, std::size_t band) {
   return array + '_' + QString::number(band);
 }
 
-std::optional<RefusedField> FieldToCorrect(const Setup& setup, const std::vector<Message>& messages) {
-  if (!setup.calculation) return std::nullopt;
-  for (const Message& message : messages) {
-    for (const MessageLine& line : message) {
-      // The opening of a list of checks says nothing by itself.
-      if (message.size() > 1 && LeadingRow(line).number == kOpeningRow) continue;
-      if (auto field = FieldOf(setup, line)) return field;
-    }
+QString ControlOf(const FieldId& id) {
+  if (id.group) return LayerControl(id);
+  if (id.field == Field::kBand) return BandControl(id.index, static_cast<std::size_t>(id.band));
+  for (const ElementControl& one : kElementControls) {
+    if (one.field == id.field)
+      return id.index == 0 ? QString(one.base) : ArrayName(one.component, id.index - 1);
   }
-  return std::nullopt;
+  for (const FieldControl& one : kFieldControls) {
+    if (one.field == id.field) return one.control;
+  }
+  return {};
 }
 
 }  // namespace velmar::shell

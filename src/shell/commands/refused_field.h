@@ -1,26 +1,13 @@
 #pragma once
 
 #include <QString>
-#include <optional>
-#include <vector>
 
-#include "elements/setup.h"
-#include "foundation/message.h"
+#include "elements/fields.h"
 
 namespace velmar::shell {
 
-/// The control that a refused run asks to correct, and the line that says why.
-struct RefusedField {
-  QString control{};
-  MessageLine reason{};
-
-  bool operator==(const RefusedField&) const = default;
-};
-
-/// What to correct first after a run of `setup` ended with `messages`; nothing where no single field is to
-/// blame.
-std::optional<RefusedField> FieldToCorrect(const elements::Setup& setup,
-                                           const std::vector<Message>& messages);
+/// The name of the control in which a field is entered; that of a layer's material for the material's values.
+QString ControlOf(const elements::FieldId& id);
 
 /// The control of band `band` of an element: 0 the base element, 1 to 9 a component.
 QString BandControl(int element, std::size_t band);

@@ -3,6 +3,7 @@
 #include <system_error>
 
 #include "foundation/failure.h"
+#include "foundation/message_rows.h"
 #include "presentation/export/report_chart.h"
 #include "presentation/reports/excel_report.h"
 #include "presentation/reports/report_record.h"
@@ -17,14 +18,6 @@
 namespace velmar::shell {
 namespace {
 
-constexpr MessageRow kSaveAsRow{377};
-constexpr MessageRow kSavedRow{270};
-constexpr MessageRow kTemplateMissingRow{271};
-constexpr MessageRow kFillingFailedRow{272};
-constexpr MessageRow kWordFilesRow{1503};
-constexpr MessageRow kReplaceRow{1504};
-/// "Placeholders that are not known remain in the document:"
-constexpr MessageRow kUnknownPlaceholdersRow{1560};
 constexpr std::size_t kTemplateLimit = std::size_t{64} * 1024 * 1024;
 
 enum class Kind { kWord, kExcel };
@@ -69,7 +62,7 @@ std::optional<std::filesystem::path> Target(Kind kind, const WindowServices& ser
   // The dialog has asked about the name without its ending only.
   std::filesystem::path file = ToUtf8(chosen) + ending;
   std::error_code error;
-  const QString question = Text(services.words, kReplaceRow) + '\n' + FromUtf8(file.string());
+  const QString question = Text(services.words, kReplaceDocumentRow) + '\n' + FromUtf8(file.string());
   if (std::filesystem::exists(file, error) && !services.boxes.ask(question)) return std::nullopt;
   return file;
 }
@@ -80,7 +73,7 @@ QString Write(Kind kind, const std::filesystem::path& pattern, const presentatio
   if (storage::IsOpenElsewhere(file))
     throw Failure({{kFillingFailedRow}}, "open elsewhere: " + file.string());
   const std::string bytes = storage::ReadWhole(pattern, kTemplateLimit);
-  QString told = Text(words, kSavedRow);
+  QString told = Text(words, kDocumentSavedRow);
   if (kind == Kind::kExcel) {
     storage::WriteWhole(file, presentation::WriteExcelReport(bytes, record));
     return told;

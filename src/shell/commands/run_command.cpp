@@ -5,15 +5,13 @@
 #include <QGuiApplication>
 #include <algorithm>
 
+#include "foundation/message_rows.h"
 #include "shell/commands/refused_field.h"
-#include "shell/fields/number_field.h"
 #include "shell/fields/phrases.h"
 #include "shell/fields/reveal.h"
 
 namespace velmar::shell {
 namespace {
-
-constexpr MessageRow kUnexpectedRow{1023};
 
 class BusyPointer {
  public:
@@ -42,7 +40,6 @@ QString WordsOf(const WindowServices& services, const MessageLine& reason) {
 }  // namespace
 
 void RunOpenCalculation(const WindowServices& services, const QWidget& window) {
-  if (auto* field = dynamic_cast<NumberField*>(QApplication::focusWidget())) field->Settle();
   std::vector<Message> asked;
   calculation::RunOutcome outcome;
   try {
@@ -62,10 +59,8 @@ void RunOpenCalculation(const WindowServices& services, const QWidget& window) {
     if (std::find(asked.begin(), asked.end(), message) == asked.end())
       services.boxes.tell(Tone::kCritical, Text(services.words, message));
   }
-  if (outcome.status != calculation::RunStatus::kRefused && outcome.status != calculation::RunStatus::kFailed)
-    return;
-  if (const auto field = FieldToCorrect(services.open.Setup(), outcome.messages))
-    PointAt(window, field->control, WordsOf(services, field->reason));
+  if (outcome.refusal)
+    PointAt(window, ControlOf(outcome.refusal->field), WordsOf(services, outcome.refusal->reason));
 }
 
 }  // namespace velmar::shell

@@ -7,6 +7,7 @@
 #include "calculation/facade_parts.h"
 #include "elements/catalogue.h"
 #include "foundation/failure.h"
+#include "foundation/message_rows.h"
 #include "presentation/texts/descriptions.h"
 #include "shell/commands/command_table.h"
 #include "shell/commands/comparison_command.h"
@@ -19,9 +20,6 @@
 
 namespace velmar::shell {
 namespace {
-
-constexpr MessageRow kSavePromptRow{221};
-constexpr MessageRow kSaveTitleRow{222};
 
 using structures::LibraryPurpose;
 using structures::MeasuredLibraryWindow;
@@ -110,7 +108,7 @@ class StructureCommands::Windows {
       storage::ResultsStore store(results_file_);
       if (store.Save(storage::TableFor(RowOf(*setup.calculation).family), row) ==
           storage::SaveStatus::kNameExists)
-        tools_.tell(Text(services_.words, storage::kResultExistsRow));
+        tools_.tell(Text(services_.words, kResultExistsRow));
     });
   }
 

@@ -5,6 +5,7 @@
 #include <QStyle>
 #include <QToolButton>
 
+#include "foundation/message_rows.h"
 #include "shell/commands/calculation_menu.h"
 #include "shell/commands/command_set.h"
 #include "shell/fields/icons.h"
@@ -17,10 +18,11 @@ constexpr int kIconPixels = 24;
 /// The name of the group behind a separator, for screen readers: its place and row.
 struct GroupName {
   int place = 0;
-  int row = 0;
+  MessageRow row{};
 };
-constexpr std::array kGroups = {GroupName{4, 301}, GroupName{7, 304}, GroupName{10, 307}, GroupName{14, 311},
-                                GroupName{16, 313}};
+constexpr std::array kGroups = {GroupName{4, kPrintGroupRow}, GroupName{7, kExportGroupRow},
+                                GroupName{10, kCalculationGroupRow}, GroupName{14, kDimensionsGroupRow},
+                                GroupName{16, kElementGroupRow}};
 
 const Command* CommandAt(int place) {
   for (const Command& command : Commands()) {
@@ -43,7 +45,7 @@ CommandToolBar::CommandToolBar(const CommandSet& commands, const CalculationActi
   for (int place = 1; place <= kToolBarPlaces; ++place) {
     if (CommandAt(place) == nullptr) {
       for (const GroupName& name : kGroups) {
-        if (name.place == place) group = Text(words, MessageRow{name.row});
+        if (name.place == place) group = Text(words, name.row);
       }
       addSeparator();
       continue;

@@ -6,15 +6,11 @@
 #include <QMessageBox>
 #include <QPushButton>
 
+#include "foundation/message_rows.h"
 #include "shell/fields/phrases.h"
 
 namespace velmar::shell {
 namespace {
-
-constexpr MessageRow kYesRow{363};
-constexpr MessageRow kNoRow{364};
-constexpr MessageRow kCancelRow{365};
-constexpr MessageRow kOkRow{366};
 
 /// Texts of materials and files may hold what looks like markup.
 void Show(QMessageBox& box, const QString& text) {

@@ -1,9 +1,7 @@
 #include "shell/fields/corrections.h"
 
+#include "foundation/message_rows.h"
 #include "shell/fields/field_note.h"
-#include "shell/fields/list_boxes.h"
-#include "shell/fields/material_box.h"
-#include "shell/fields/number_field.h"
 #include "shell/fields/phrases.h"
 
 namespace velmar::shell {
@@ -12,29 +10,21 @@ namespace {
 MessageRow RowFor(Correction correction) {
   switch (correction) {
     case Correction::kUnfinished:
-      return {1355};
+      return kNumberKeptRow;
+    case Correction::kNoNumber:
+      return kPasteRefusedRow;
     case Correction::kNotPositive:
-      return {1352};
+      return kThicknessCorrectedRow;
     case Correction::kAboveHighest:
-      return {1353};
+      return kCountCorrectedRow;
     case Correction::kUnknownMaterial:
-      return {1354};
+      return kMaterialKeptRow;
+    case Correction::kNoHit:
+      return kNoHitRow;
     case Correction::kRaised:
-      return {1356};
+      return kDepthCorrectedRow;
   }
   return {};
-}
-
-/// The fields of a kind; they are told apart by their C++ type alone.
-template <typename Field, typename QtBase>
-void Connect(const QWidget& window, const presentation::Words& words) {
-  for (QtBase* widget : window.findChildren<QtBase*>()) {
-    auto* field = dynamic_cast<Field*>(widget);
-    if (field == nullptr) continue;
-    field->ReportCorrections([field, words](Correction correction, int limit) {
-      NoteCorrection(field, correction, limit, words);
-    });
-  }
 }
 
 }  // namespace
@@ -42,13 +32,8 @@ void Connect(const QWidget& window, const presentation::Words& words) {
 void NoteCorrection(QWidget* field, Correction correction, int limit, const presentation::Words& words) {
   QString text = Text(words, RowFor(correction));
   if (correction == Correction::kAboveHighest) text += ' ' + QString::number(limit);
-  FieldNote::Put(field, text, NoteLife::kWhileRead);
-}
-
-void NoteCorrections(const QWidget& window, const presentation::Words& words) {
-  Connect<NumberField, QLineEdit>(window, words);
-  Connect<CountBox, QComboBox>(window, words);
-  Connect<MaterialBox, QComboBox>(window, words);
+  const bool waits = correction == Correction::kNoHit;
+  FieldNote::Put(field, text, waits ? NoteLife::kUntilEntered : NoteLife::kWhileRead);
 }
 
 }  // namespace velmar::shell

@@ -8,6 +8,7 @@
 
 #include "shell/fields/number_field.h"
 #include "shell/fields/phrases.h"
+#include "shell/fields/selection.h"
 
 namespace velmar::shell {
 
@@ -31,10 +32,6 @@ void QuietBox::keyPressEvent(QKeyEvent* event) {
   if (!enter) return;
   event->accept();
   FocusNextField(this);
-}
-
-void ChoiceBox::OnChoice(std::function<void(int index)> on_choice) {
-  connect(this, &QComboBox::activated, this, std::move(on_choice));
 }
 
 void ChoiceBox::Offer(const QStringList& items) {
@@ -68,17 +65,24 @@ CountBox::CountBox(const QString& object_name, int lowest, int highest, QWidget*
   setValidator(new QRegularExpressionValidator(digits, this));
   lineEdit()->setAlignment(Qt::AlignRight);
   setFixedWidth(fontMetrics().horizontalAdvance('0') * 4 + 2 * fontMetrics().height());
+  SelectAllOnFocus(lineEdit(), this);
   connect(lineEdit(), &QLineEdit::textEdited, this, [this](const QString& text) {
-    shown_ = text;
-    if (on_edit_) on_edit_(ToUtf8(text));
+    // Behind a count that was capped a blank may stand, which lets anything pass after it.
+    QString bare = text;
+    bare.remove(QRegularExpression(QStringLiteral("[^0-9]")));
+    if (bare != text) setEditText(bare);
+    Take(bare);
     FollowText();
-    if (text.toInt() > highest_ && on_correction_) on_correction_(Correction::kAboveHighest, highest_);
+    if (bare.toInt() > highest_) emit Corrected(Correction::kAboveHighest, highest_);
   });
   connect(this, &QComboBox::textActivated, this, [this](const QString& text) {
-    if (text == shown_) return;
-    shown_ = text;
-    if (on_edit_) on_edit_(ToUtf8(text));
+    if (text != shown_) Take(text);
   });
+}
+
+void CountBox::Take(const QString& text) {
+  shown_ = text;
+  emit Edited(ToUtf8(text));
 }
 
 void CountBox::Show(const std::string& text) {

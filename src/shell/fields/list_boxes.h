@@ -2,7 +2,6 @@
 
 #include <QComboBox>
 #include <QStringList>
-#include <functional>
 #include <string>
 
 #include "shell/fields/corrections.h"
@@ -24,7 +23,6 @@ class ChoiceBox : public QuietBox {
  public:
   using QuietBox::QuietBox;
 
-  void OnChoice(std::function<void(int index)> on_choice);
   /// Offers `items`; nothing happens when they are offered already.
   void Offer(const QStringList& items);
   /// Shows item `index`, -1 for none.
@@ -39,20 +37,23 @@ class ChoiceBox : public QuietBox {
 
 /// A count that is chosen from a list or typed. It shows what the set-up makes of it.
 class CountBox : public QuietBox {
+  Q_OBJECT
+
  public:
   CountBox(const QString& object_name, int lowest, int highest, QWidget* parent = nullptr);
 
-  void OnEdit(std::function<void(const std::string& text)> on_edit) { on_edit_ = std::move(on_edit); }
-  void ReportCorrections(OnCorrection on_correction) { on_correction_ = std::move(on_correction); }
   void Show(const std::string& text);
 
+ signals:
+  void Edited(const std::string& text);
+  void Corrected(velmar::shell::Correction correction, int limit);
+
  private:
+  void Take(const QString& text);
   void FollowText();
 
   int highest_;
   QString shown_;
-  std::function<void(const std::string&)> on_edit_;
-  OnCorrection on_correction_;
 };
 
 }  // namespace velmar::shell

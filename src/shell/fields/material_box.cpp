@@ -10,7 +10,9 @@
 #include <QLineEdit>
 #include <QMimeData>
 
+#include "shell/fields/name_search.h"
 #include "shell/fields/phrases.h"
+#include "shell/fields/selection.h"
 
 namespace velmar::shell {
 namespace {
@@ -32,7 +34,11 @@ MaterialBox::MaterialBox(const QString& object_name, elements::MaterialFamily fa
   setEditText({});
   setAcceptDrops(true);
   lineEdit()->setAcceptDrops(false);
-  connect(lineEdit(), &QLineEdit::textEdited, this, [this] { typed_ = true; });
+  SelectAllOnFocus(lineEdit(), this);
+  connect(lineEdit(), &QLineEdit::textEdited, this, [this](const QString& text) {
+    typed_ = true;
+    OfferHits(text);
+  });
   connect(this, &QComboBox::textActivated, this, [this](const QString& name) { Choose(name); });
   // A change of the keyword filter resets the model, which would show its first name.
   connect(
@@ -57,44 +63,86 @@ void MaterialBox::ShowAgain() {
 
 void MaterialBox::Choose(const QString& name) {
   typed_ = false;
-  if (on_choice_) on_choice_(ToUtf8(name));
+  emit Chosen(ToUtf8(name));
   ShowAgain();
-  if (shown_ != name && on_correction_) on_correction_(Correction::kUnknownMaterial, 0);
+  if (shown_ != name) emit Corrected(Correction::kUnknownMaterial, 0);
 }
 
-void MaterialBox::TakeTyped() {
-  if (!typed_) return;
-  const int index = findText(currentText().trimmed(), Qt::MatchFixedString);
-  Choose(index >= 0 ? itemText(index) : currentText().trimmed());
+QStringList MaterialBox::Names() const {
+  QStringList names;
+  names.reserve(count());
+  for (int i = 0; i < count(); ++i) names += itemText(i);
+  return names;
+}
+
+// @return false when no material has what is typed in its name
+bool MaterialBox::TakeTyped() {
+  if (!typed_) return true;
+  const QStringList hits = RankedHits(Names(), currentText());
+  if (hits.isEmpty() || currentText().trimmed().isEmpty()) return false;
+  Choose(hits.constFirst());
+  return true;
+}
+
+void MaterialBox::Settle() {
+  if (TakeTyped()) return;
+  typed_ = false;
+  ShowAgain();
+  emit Corrected(Correction::kUnknownMaterial, 0);
+}
+
+void MaterialBox::OfferHits(const QString& typed) {
+  if (completer() == nullptr || hits_ == nullptr) return;
+  hits_->setStringList(typed.trimmed().isEmpty() ? QStringList() : RankedHits(Names(), typed));
+  completer()->complete();
 }
 
 void MaterialBox::focusInEvent(QFocusEvent* event) {
   QuietBox::focusInEvent(event);
   if (completer() == nullptr) {
-    auto* finder = new QCompleter(model(), this);
-    finder->setFilterMode(Qt::MatchContains);
-    finder->setCaseSensitivity(Qt::CaseInsensitive);
-    finder->setCompletionMode(QCompleter::PopupCompletion);
+    hits_ = new QStringListModel(this);
+    auto* finder = new QCompleter(hits_, this);
+    finder->setCompletionMode(QCompleter::UnfilteredPopupCompletion);
     setCompleter(finder);
-    connect(finder, qOverload<const QString&>(&QCompleter::activated), this,
-            [this](const QString& name) { Choose(name); });
+    connect(finder, qOverload<const QString&>(&QCompleter::activated), this, &MaterialBox::Choose);
   }
-  if (!typed_) {
-    // The arrow keys go on from the name that is shown.
-    ShowAgain();
-    if (event->reason() == Qt::TabFocusReason) lineEdit()->selectAll();
-  }
+  // The arrow keys go on from the name that is shown.
+  if (!typed_) ShowAgain();
 }
 
 void MaterialBox::focusOutEvent(QFocusEvent* event) {
   QuietBox::focusOutEvent(event);
   if (event->reason() == Qt::PopupFocusReason) return;
-  TakeTyped();
+  Settle();
   lineEdit()->setCursorPosition(0);
 }
 
+bool MaterialBox::event(QEvent* event) {
+  // Tab would leave a text that means nothing behind.
+  if (event->type() == QEvent::KeyPress) {
+    const int key = static_cast<QKeyEvent*>(event)->key();
+    if ((key == Qt::Key_Tab || key == Qt::Key_Backtab) && !TakeTyped()) {
+      emit Corrected(Correction::kNoHit, 0);
+      return true;
+    }
+  }
+  return QuietBox::event(event);
+}
+
 void MaterialBox::keyPressEvent(QKeyEvent* event) {
-  if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) TakeTyped();
+  const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+  if (enter && !TakeTyped()) {
+    event->accept();
+    emit Corrected(Correction::kNoHit, 0);
+    return;
+  }
+  if (event->key() == Qt::Key_Escape && typed_) {
+    typed_ = false;
+    ShowAgain();
+    lineEdit()->selectAll();
+    event->accept();
+    return;
+  }
   // A copied name takes the place of the one that is shown, wherever the cursor stands in it.
   if (event->matches(QKeySequence::Paste) &&
       findText(QGuiApplication::clipboard()->text().trimmed(), Qt::MatchFixedString) >= 0)

@@ -1,9 +1,10 @@
 #pragma once
 
 #include <QAbstractItemModel>
-#include <functional>
+#include <QStringListModel>
 
 #include "elements/layer_groups.h"
+#include "shell/fields/corrections.h"
 #include "shell/fields/dragged_material.h"
 #include "shell/fields/list_boxes.h"
 
@@ -12,19 +13,29 @@ class QMimeData;
 namespace velmar::shell {
 
 /// The material list of a layer row. A name is chosen from the list, found by typing any part of it, dropped,
-/// or pasted; a name that no material has changes nothing.
+/// or pasted. Enter, Tab and a run take the best hit of what is typed; a text without a hit keeps the focus
+/// and says so, and Esc brings back the material that counts.
 class MaterialBox : public QuietBox {
+  Q_OBJECT
+
  public:
   MaterialBox(const QString& object_name, elements::MaterialFamily family, QAbstractItemModel* names,
               QWidget* parent = nullptr);
 
-  void OnChoice(std::function<void(const std::string& name)> on_choice) { on_choice_ = std::move(on_choice); }
-  void ReportCorrections(OnCorrection on_correction) { on_correction_ = std::move(on_correction); }
   void Show(const std::string& name);
   /// Chooses `material` as if it were dropped here. @return false when it is of another family
   bool Put(const DraggedMaterial& material);
 
+ public slots:
+  /// What leaving the box does, while it keeps the focus.
+  void Settle();
+
+ signals:
+  void Chosen(const std::string& name);
+  void Corrected(velmar::shell::Correction correction, int limit);
+
  protected:
+  bool event(QEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;
   void focusOutEvent(QFocusEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
@@ -35,15 +46,16 @@ class MaterialBox : public QuietBox {
 
  private:
   void Choose(const QString& name);
-  void TakeTyped();
+  bool TakeTyped();
   void ShowAgain();
+  void OfferHits(const QString& typed);
+  QStringList Names() const;
   bool Takes(const QMimeData& mime) const;
 
   elements::MaterialFamily family_;
   QString shown_;
   bool typed_ = false;
-  std::function<void(const std::string&)> on_choice_;
-  OnCorrection on_correction_;
+  QStringListModel* hits_ = nullptr;  ///< of the completion, made with the first focus
 };
 
 }  // namespace velmar::shell

@@ -4,6 +4,7 @@
 #include <QLineEdit>
 
 #include "shell/fields/phrases.h"
+#include "shell/fields/selection.h"
 
 namespace velmar::shell {
 
@@ -16,10 +17,9 @@ NameBox::NameBox(const QString& object_name, std::function<std::vector<std::stri
   setMinimumContentsLength(14);
   setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
   connect(lineEdit(), &QLineEdit::textEdited, this, [this] { typed_ = true; });
-  connect(lineEdit(), &QLineEdit::returnPressed, this, [this] {
-    if (typed_) Take(currentText());
-  });
-  connect(this, &QComboBox::textActivated, this, [this](const QString& name) { Take(name); });
+  SelectAllOnFocus(lineEdit(), this);
+  connect(lineEdit(), &QLineEdit::returnPressed, this, &NameBox::Settle);
+  connect(this, &QComboBox::textActivated, this, &NameBox::Take);
 }
 
 void NameBox::Show(const std::string& name) {
@@ -31,7 +31,7 @@ void NameBox::Show(const std::string& name) {
 
 void NameBox::Take(const QString& name) {
   typed_ = false;
-  if (on_name_) on_name_(ToUtf8(name));
+  emit Named(ToUtf8(name));
 }
 
 // The results database changes behind the window: it is read when the list is asked for.
@@ -56,7 +56,11 @@ void NameBox::focusInEvent(QFocusEvent* event) {
 
 void NameBox::focusOutEvent(QFocusEvent* event) {
   QuietBox::focusOutEvent(event);
-  if (event->reason() != Qt::PopupFocusReason && typed_) Take(currentText());
+  if (event->reason() != Qt::PopupFocusReason) Settle();
+}
+
+void NameBox::Settle() {
+  if (typed_) Take(currentText());
 }
 
 }  // namespace velmar::shell

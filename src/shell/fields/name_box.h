@@ -10,14 +10,22 @@ namespace velmar::shell {
 
 /// The name of a base element or component: taken from the stored results, or typed freely.
 class NameBox : public QuietBox {
+  Q_OBJECT
+
  public:
   NameBox(const QString& object_name, std::function<std::vector<std::string>()> names,
           QWidget* parent = nullptr);
 
-  void OnName(std::function<void(const std::string& name)> on_name) { on_name_ = std::move(on_name); }
   void Show(const std::string& name);
 
   void showPopup() override;
+
+ public slots:
+  /// What leaving the box does, while it keeps the focus.
+  void Settle();
+
+ signals:
+  void Named(const std::string& name);
 
  protected:
   void focusInEvent(QFocusEvent* event) override;
@@ -28,7 +36,6 @@ class NameBox : public QuietBox {
   void Take(const QString& name);
 
   std::function<std::vector<std::string>()> names_;
-  std::function<void(const std::string&)> on_name_;
   QString shown_;
   bool typed_ = false;
 };

@@ -9,6 +9,7 @@
 #include "foundation/decimal.h"
 #include "shell/fields/key_filters.h"
 #include "shell/fields/phrases.h"
+#include "shell/fields/selection.h"
 
 namespace velmar::shell {
 namespace {
@@ -16,15 +17,32 @@ namespace {
 constexpr QChar kDecimalSign{u','};
 constexpr int kWidthInDigits = 7;
 
+/// `text` without the blanks and the unit that a number of a spreadsheet or a data sheet brings along:
+/// "  33  ", "120 mm". A text that is more than that stays as it is, to be refused.
+QString BareNumber(const QString& text) {
+  static const QRegularExpression number_and_unit(
+      QStringLiteral("^\\s*([+-]?[0-9]+(?:[.,][0-9]*)?(?:[eE]-?[0-9]+)?)\\s*"
+                     "(?:mm|cm|m|m²|dB|Hz|GPa|kg/m²|kg/m³|MN/m³|%)?\\s*$"));
+  const QRegularExpressionMatch match = number_and_unit.match(text);
+  if (!match.hasMatch()) return text;
+  QString number = match.captured(1);
+  if (number.startsWith('+')) number.remove(0, 1);
+  return number;
+}
+
 /// What may come in by paste and drop: beginnings of a number, with the point turned into a comma.
 class NumberShape : public QValidator {
  public:
   NumberShape(NumberKind kind, QObject* parent) : QValidator(parent), kind_(kind) {}
 
-  State validate(QString& text, int& /*caret*/) const override {
+  State validate(QString& text, int& caret) const override {
     static const QRegularExpression real(QStringLiteral("^[0-9]*(,[0-9]*)?([eE]-?[0-9]*)?$"));
     static const QRegularExpression signed_real(QStringLiteral("^-?[0-9]*(,[0-9]*)?([eE]-?[0-9]*)?$"));
     static const QRegularExpression whole(QStringLiteral("^[0-9]*$"));
+    if (const QString bare = BareNumber(text); bare.size() != text.size()) {
+      text = bare;
+      caret = static_cast<int>(text.size());
+    }
     text.replace('.', ',');
     if (kind_ == NumberKind::kArea && text == "-") return Acceptable;
     const QRegularExpression& shape = kind_ == NumberKind::kInteger ? whole
@@ -49,6 +67,16 @@ bool IsText(const QKeyEvent& event) {
 
 }  // namespace
 
+void FocusFirstField(QWidget* page) {
+  for (QWidget* next = page->nextInFocusChain(); next != page; next = next->nextInFocusChain()) {
+    const bool reachable = next->isVisible() && next->isEnabled() && (next->focusPolicy() & Qt::TabFocus);
+    if (!reachable || !page->isAncestorOf(next) || next->focusProxy() != nullptr || !TakesEntries(next))
+      continue;
+    next->setFocus(Qt::OtherFocusReason);
+    return;
+  }
+}
+
 void FocusNextField(QWidget* from) {
   QWidget* next = from->nextInFocusChain();
   while (next != from) {
@@ -70,18 +98,18 @@ NumberField::NumberField(const QString& object_name, NumberKind kind, QWidget* p
   const QMargins margins = textMargins();
   const int digits = fontMetrics().horizontalAdvance('0') * kWidthInDigits;
   setFixedWidth(digits + margins.left() + margins.right() + fontMetrics().height());
-  connect(this, &QLineEdit::textEdited, this, [this](const QString& text) { TakeEdit(text); });
+  SelectAllOnFocus(this);
+  connect(this, &QLineEdit::textEdited, this, &NumberField::TakeEdit);
   connect(this, &QLineEdit::returnPressed, this, [this] { FocusNextField(this); });
+  connect(this, &QLineEdit::inputRejected, this, [this] { emit Corrected(Correction::kNoNumber, 0); });
 }
 
 void NumberField::TakeEdit(const QString& text) {
   const std::string typed = ToUtf8(text);
-  const std::optional<double> number = ParseDecimal(typed);
-  unfinished_ = !text.isEmpty() && text != "-" && !number;
+  unfinished_ = !text.isEmpty() && text != "-" && !ParseDecimal(typed);
   if (!unfinished_) shown_ = text;
-  if (on_edit_) on_edit_(typed);
-  const bool replaced = number && !(*number > 0.0) && this->text() != text;
-  if (replaced && on_correction_) on_correction_(Correction::kNotPositive, 0);
+  edited_ = true;
+  emit Edited(typed);
 }
 
 void NumberField::SetKind(NumberKind kind) {
@@ -92,8 +120,13 @@ void NumberField::SetKind(NumberKind kind) {
 }
 
 void NumberField::Show(const std::string& text) {
-  const QString wanted = FromUtf8(text);
+  QString wanted = FromUtf8(text);
+  const std::optional<double> number = ParseDecimal(text);
+  if (decimals_ >= 0 && number && wanted.section(',', 1).size() > decimals_)
+    wanted = FromUtf8(FormatFixed(*number, decimals_));
   if (unfinished_ && (wanted == shown_ || wanted == this->text())) return;
+  const bool same_number = number && number == ParseDecimal(ToUtf8(this->text()));
+  if (edited_ && same_number) return;
   unfinished_ = false;
   shown_ = wanted;
   if (wanted != this->text()) setText(wanted);
@@ -126,18 +159,20 @@ void NumberField::keyPressEvent(QKeyEvent* event) {
 }
 
 void NumberField::Settle() {
-  if (!unfinished_) return;
-  unfinished_ = false;
-  setText(shown_);
-  if (on_edit_) on_edit_(ToUtf8(shown_));
-  if (on_correction_) on_correction_(Correction::kUnfinished, 0);
+  if (unfinished_) {
+    unfinished_ = false;
+    setText(shown_);
+    emit Edited(ToUtf8(shown_));
+    emit Corrected(Correction::kUnfinished, 0);
+  }
+  if (!edited_) return;
+  edited_ = false;
+  emit Left();
 }
 
 void NumberField::focusOutEvent(QFocusEvent* event) {
   QLineEdit::focusOutEvent(event);
-  if (event->reason() == Qt::PopupFocusReason) return;
-  if (on_leave_) on_leave_();
-  Settle();
+  if (event->reason() != Qt::PopupFocusReason) Settle();
 }
 
 }  // namespace velmar::shell

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QLineEdit>
-#include <functional>
 #include <string>
 
 #include "shell/fields/corrections.h"
@@ -18,27 +17,36 @@ enum class NumberKind {
 
 /// A text field for a number of the set-up. It shows what the set-up holds, reports each edit, and lets only
 /// keys of numbers through; comma and point both type the decimal sign, which is the comma. Enter goes to the
-/// next field. An edit that the set-up answers with another text (0 becomes 10) is shown at once; an
-/// unfinished one ("1E") stays until the field is left.
+/// next field. While someone types, a text that means the number of the set-up is left as it is typed; an
+/// unfinished one ("1E") stays until the field is left and then gives way to the number before it. A pasted
+/// number may bring blanks and a unit along.
 class NumberField : public QLineEdit {
+  Q_OBJECT
+
  public:
   NumberField(const QString& object_name, NumberKind kind, QWidget* parent = nullptr);
-
-  void OnEdit(std::function<void(const std::string& text)> on_edit) { on_edit_ = std::move(on_edit); }
-  /// `on_leave` is called when the field loses the focus, before it shows the set-up's text again.
-  void OnLeave(std::function<void()> on_leave) { on_leave_ = std::move(on_leave); }
-
-  /// `on_correction` is told of what the field or the set-up made of an entry.
-  void ReportCorrections(OnCorrection on_correction) { on_correction_ = std::move(on_correction); }
 
   /// Shows `text` of the set-up.
   void Show(const std::string& text);
 
-  /// Half a number ("1E") gives way to the number before it, as when the field is left.
-  void Settle();
+  /// From now on numbers with more than `decimals` decimals are shown rounded; the set-up keeps all of them
+  /// until the field is typed in.
+  void ShowDecimals(int decimals) { decimals_ = decimals; }
 
   /// From now on keys and texts are checked as `kind`.
   void SetKind(NumberKind kind);
+
+ public slots:
+  /// What leaving the field does, while it keeps the focus: before a run, or before the project is saved.
+  void Settle();
+
+ signals:
+  /// Keys or a paste changed the text.
+  void Edited(const std::string& text);
+  /// The field is left after it was edited: rules that correct an entry act now.
+  void Left();
+  /// The field itself made something else of an entry.
+  void Corrected(velmar::shell::Correction correction, int limit);
 
  protected:
   void keyPressEvent(QKeyEvent* event) override;
@@ -49,12 +57,14 @@ class NumberField : public QLineEdit {
   void TakeEdit(const QString& text);
 
   NumberKind kind_;
-  QString shown_;
+  int decimals_ = -1;  ///< all of them
+  QString shown_;      ///< the last text that was a number
   bool unfinished_ = false;
-  std::function<void(const std::string&)> on_edit_;
-  std::function<void()> on_leave_;
-  OnCorrection on_correction_;
+  bool edited_ = false;  ///< since the field was last left
 };
+
+/// Gives the focus to the first field of `page` that takes an entry; nothing happens when it has none.
+void FocusFirstField(QWidget* page);
 
 /// Gives the focus to the next field that takes an entry, as Enter does; buttons are passed over.
 void FocusNextField(QWidget* from);

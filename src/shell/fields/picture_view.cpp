@@ -3,11 +3,11 @@
 #include <QImageReader>
 #include <QPainter>
 
+#include "foundation/message_rows.h"
+
 namespace velmar::shell {
 namespace {
 
-constexpr MessageRow kPictureNameRow{1716};
-constexpr MessageRow kNoPictureRow{1718};
 constexpr int kLargestPicturePx = 1600;
 
 }  // namespace
@@ -15,7 +15,7 @@ constexpr int kLargestPicturePx = 1600;
 PictureView::PictureView(const WindowTools& tools, QWidget* parent)
     : QWidget(parent), no_picture_(tools.Text(kNoPictureRow)) {
   setObjectName(QStringLiteral("Picture2"));
-  setAccessibleName(tools.Text(kPictureNameRow));
+  setAccessibleName(tools.Text(kStructurePictureRow));
   setMinimumSize(120, 90);
   setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Expanding);
 }

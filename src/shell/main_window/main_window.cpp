@@ -9,11 +9,11 @@
 #include <QVBoxLayout>
 
 #include "calculation/select_calculation.h"
+#include "foundation/message_rows.h"
 #include "shell/commands/help_commands.h"
 #include "shell/commands/menus.h"
 #include "shell/commands/run_command.h"
 #include "shell/commands/tool_bar.h"
-#include "shell/fields/corrections.h"
 #include "shell/fields/icons.h"
 #include "shell/fields/material_change.h"
 #include "shell/fields/phrases.h"
@@ -31,7 +31,6 @@ constexpr int kRecoveryDelayMs = 2000;
 constexpr QSize kFirstSize{1280, 720};
 constexpr int kInputsWidth = 600;
 constexpr int kNarrowestInputs = 520;
-constexpr MessageRow kForgetRow{1308};
 
 /// What stands ready for a command. The generic linings give ratings alone.
 Needs StateOf(const calculation::OpenCalculation& open) {
@@ -70,7 +69,6 @@ MainWindow::MainWindow(const WindowServices& services, QWidget* parent)
   // Shortcuts work whether or not their menu was ever open.
   for (const Command& command : Commands()) addAction(commands_.Of(command.id));
   MakeCentre();
-  NoteCorrections(*this, services.words);
   files_.OnChange([this] {
     setWindowTitle(files_.Caption());
     setWindowFilePath(QString::fromStdString(files_.File().string()));
@@ -99,10 +97,8 @@ void MainWindow::MakeCentre() {
   column->addWidget(header_);
   column->addWidget(tabs_, 1);
   results_ = new ResultsPanel(context_);
-  context_.on_hover = [this](const auto& place) { results_->Highlight(place); };
-  results_->OnHover([this](const auto& place) {
-    for (const auto& listener : context_.on_section_hover) listener(place);
-  });
+  connect(&context_, &PageContext::RowHovered, results_, &ResultsPanel::Highlight);
+  results_->OnHover([this](const auto& place) { emit context_.SectionHovered(place); });
   sides_ = new QSplitter(Qt::Horizontal);
   sides_->setChildrenCollapsible(false);
   sides_->addWidget(inputs);
@@ -119,9 +115,11 @@ void MainWindow::MakeCentre() {
 }
 
 void MainWindow::Execute(CommandId id) {
+  emit context_.SettleAsked();
   switch (id) {
     case CommandId::kOpenProject:
       files_.Open();
+      tabs_->FocusFirst();
       return;
     case CommandId::kSaveProject:
       files_.Save();
@@ -177,7 +175,7 @@ void MainWindow::Begin(elements::ElementButton button) {
 
 void MainWindow::Choose(elements::Calculation calculation) {
   tabs_->LayOutAnew();
-  services_.open.Edit(
+  context_.Edit(
       [calculation](elements::Setup& setup) { calculation::SelectCalculation(setup, calculation); });
 }
 
@@ -217,7 +215,7 @@ void MainWindow::ShowProjects() {
   for (const std::filesystem::path& project : recent)
     recent_->addAction(QString::fromStdString(project.string()), [this, project] { OpenProject(project); });
   recent_->addSeparator();
-  recent_->addAction(Text(services_.words, kForgetRow), [this] {
+  recent_->addAction(Text(services_.words, kForgetRecentRow), [this] {
     memory_.ForgetProjects();
     ShowProjects();
   });
@@ -226,6 +224,7 @@ void MainWindow::ShowProjects() {
 void MainWindow::OpenProject(const std::filesystem::path& project) {
   tabs_->LayOutAnew();
   files_.Open(project);
+  tabs_->FocusFirst();
 }
 
 void MainWindow::OfferRecovery() { files_.OfferRecovery(); }

@@ -7,6 +7,7 @@
 #include <QVBoxLayout>
 #include <array>
 
+#include "foundation/message_rows.h"
 #include "shell/commands/calculation_menu.h"
 #include "shell/fields/phrases.h"
 #include "shell/main_window/kind_card.h"
@@ -17,12 +18,6 @@ namespace {
 
 using elements::ElementButton;
 
-constexpr MessageRow kChooseRow{1300};
-constexpr MessageRow kRecentRow{1301};
-constexpr MessageRow kExamplesRow{1302};
-constexpr MessageRow kNoRecentRow{1303};
-constexpr MessageRow kNoExamplesRow{1305};
-constexpr MessageRow kListRow{1358};
 constexpr int kMargin = 32;
 constexpr int kGap = 16;
 constexpr QSize kLargest{1040, 860};
@@ -31,13 +26,16 @@ constexpr double kHeadingScale = 1.25;
 
 struct Kind {
   ElementButton button{};
-  int row = 0;
+  MessageRow row{};
   const char* icon = "";
 };
 constexpr std::array kKinds = {
-    Kind{ElementButton::kSingleWall, 314, "wall"}, Kind{ElementButton::kDoubleWall, 315, "double-wall"},
-    Kind{ElementButton::kFloor, 316, "floor"},     Kind{ElementButton::kFacade, 317, "facade"},
-    Kind{ElementButton::kLining, 318, "lining"},   Kind{ElementButton::kCeiling, 319, "ceiling"},
+    Kind{ElementButton::kSingleWall, kSingleWallsTipRow, "wall"},
+    Kind{ElementButton::kDoubleWall, kDoubleWallsTipRow, "double-wall"},
+    Kind{ElementButton::kFloor, kFloorsTipRow, "floor"},
+    Kind{ElementButton::kFacade, kFacadesTipRow, "facade"},
+    Kind{ElementButton::kLining, kLiningsTipRow, "lining"},
+    Kind{ElementButton::kCeiling, kCeilingsTipRow, "ceiling"},
 };
 
 QLabel* Heading(const QString& text, QWidget* parent) {
@@ -61,13 +59,13 @@ StartScreen::StartScreen(const presentation::Words& words, const CalculationActi
   auto* column = new QVBoxLayout(content);
   column->setContentsMargins(0, 0, 0, 0);
   column->setSpacing(kGap);
-  column->addWidget(Heading(Text(words_, kChooseRow), this));
+  column->addWidget(Heading(Text(words_, kChooseKindRow), this));
   AddKinds(*column, calculations);
   column->addSpacing(2 * kGap);
   auto* lists = new QGridLayout;
   lists->setHorizontalSpacing(2 * kGap);
   lists->setVerticalSpacing(kGap / 2);
-  recent_ = AddList(*lists, 0, kRecentRow);
+  recent_ = AddList(*lists, 0, kRecentProjectsRow);
   recent_->setObjectName("Recenti");
   examples_ = AddList(*lists, 1, kExamplesRow);
   examples_->setObjectName("Esempi");
@@ -97,7 +95,7 @@ void StartScreen::AddKinds(QVBoxLayout& column, const CalculationActions& calcul
   auto* line = new QHBoxLayout;
   line->setSpacing(kGap);
   for (const Kind& kind : kKinds) {
-    auto* card = new KindCard(Text(words_, MessageRow{kind.row}), kind.icon, Text(words_, kListRow), this);
+    auto* card = new KindCard(Text(words_, kind.row), kind.icon, Text(words_, kChooseCalculationRow), this);
     card->setObjectName("Inizio_" + QString::number(static_cast<int>(kind.button)));
     calculations.FillKind(*card->Calculations(), kind.button);
     const ElementButton button = kind.button;

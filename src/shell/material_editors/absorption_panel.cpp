@@ -10,20 +10,13 @@
 #include <variant>
 
 #include "foundation/decimal.h"
+#include "foundation/message_rows.h"
 #include "materials/pasted_absorption.h"
 #include "presentation/texts/words.h"
 #include "shell/material_editors/absorption_box.h"
 
 namespace velmar::material_editors {
 namespace {
-
-constexpr MessageRow kFrequencyRow{72};
-constexpr MessageRow kFrameRow{342};
-constexpr MessageRow kClearRow{358};
-constexpr MessageRow kClearQuestionRow{368};
-constexpr MessageRow kCurveNameRow{1657};
-constexpr MessageRow kPasteRow{1659};
-constexpr MessageRow kBoxTipRow{1670};
 
 constexpr std::size_t kBandsAColumn = 5;
 constexpr double kHighest = 1.5;
@@ -39,7 +32,7 @@ QString BandLabel(std::size_t band) {
 
 AbsorptionView::AbsorptionView(const shell::WindowTools& tools, QWidget* parent) : QWidget(parent) {
   setObjectName(QStringLiteral("Picture2"));
-  setAccessibleName(tools.Text(kCurveNameRow));
+  setAccessibleName(tools.Text(kAbsorptionCurveRow));
   setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
 }
 
@@ -58,14 +51,14 @@ void AbsorptionView::paintEvent(QPaintEvent* /*event*/) {
 }
 
 AbsorptionPanel::AbsorptionPanel(const shell::WindowTools& tools, QWidget* parent)
-    : QGroupBox(tools.Text(kFrameRow), parent), tools_(tools) {
+    : QGroupBox(tools.Text(kAbsorptionCoefficientsRow), parent), tools_(tools) {
   auto* column = new QVBoxLayout(this);
   column->addWidget(MakeBoxes());
   auto* row = new QHBoxLayout;
-  auto* remark = new QLabel(tools_.Text(kPasteRow), this);
+  auto* remark = new QLabel(tools_.Text(kPasteHintRow), this);
   remark->setWordWrap(true);
   remark->setForegroundRole(QPalette::PlaceholderText);
-  auto* clear = new QPushButton(tools_.Text(kClearRow), this);
+  auto* clear = new QPushButton(tools_.Text(kClearAbsorptionRow), this);
   clear->setObjectName(QStringLiteral("CommandAlfa"));
   clear->setAutoDefault(false);
   row->addWidget(remark, 1);
@@ -82,7 +75,7 @@ QWidget* AbsorptionPanel::MakeBoxes() {
   auto* grid = new QGridLayout(place);
   grid->setContentsMargins(0, 0, 0, 0);
   grid->setVerticalSpacing(4);
-  const QString tip = tools_.Text(kBoxTipRow);
+  const QString tip = tools_.Text(kAbsorptionBoxTipRow);
   for (std::size_t band = 0; band < boxes_.size(); ++band) {
     auto* box = new AbsorptionBox(band, place);
     box->setAccessibleName(title() + ' ' + BandLabel(band) + " Hz");

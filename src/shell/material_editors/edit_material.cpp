@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "elements/materials.h"
+#include "foundation/message_rows.h"
 #include "presentation/texts/words.h"
 #include "shell/material_editors/edited_material.h"
 #include "shell/material_editors/fibrous_editor.h"
@@ -46,7 +47,7 @@ std::optional<shell::MaterialChange> Open(const Opening& opening) {
   });
   if (!read) return std::nullopt;
   if (!opening.name.empty() && !row) {
-    const MessageLine gone{storage::kMaterialGoneRow, " " + opening.name};
+    const MessageLine gone{kEditedMaterialGoneRow, " " + opening.name};
     opening.tools.tell(shell::ToQt(presentation::InWords(gone, opening.tools.words)));
     return std::nullopt;
   }

@@ -5,6 +5,7 @@
 #include <type_traits>
 #include <variant>
 
+#include "foundation/message_rows.h"
 #include "materials/save_entry.h"
 #include "storage/database/database_failure.h"
 
@@ -13,9 +14,6 @@ namespace {
 
 using materials::EntryRefusal;
 using storage::DatabaseFailure;
-
-constexpr MessageRow kSaveAsNewRow{1652};
-constexpr MessageRow kReplaceRow{1653};
 
 template <typename Material>
 constexpr elements::MaterialFamily FamilyOf() {
@@ -29,13 +27,13 @@ constexpr elements::MaterialFamily FamilyOf() {
 SaveOutcome Refused(EntryRefusal refusal) { return {.refusal = std::move(refusal)}; }
 
 SaveOutcome NotReadable(const DatabaseFailure& failure) {
-  Message message{{materials::kMaterialNotSavedRow}};
+  Message message{{kMaterialNotSavedRow}};
   std::ranges::copy(failure.UserMessage(), std::back_inserter(message));
   return Refused({std::move(message), ""});
 }
 
 Message GoneQuestion(const std::string& name) {
-  return {{storage::kMaterialGoneRow, " " + name}, {kSaveAsNewRow}};
+  return {{kEditedMaterialGoneRow, " " + name}, {kSaveAsNewRow}};
 }
 
 }  // namespace
@@ -59,7 +57,7 @@ SaveOutcome EditedMaterial<Material>::Save(const Entry& entry, bool touched, con
       if (!ask(GoneQuestion(opened_name))) return {};
       stored_name.clear();
     } else if (storage::CellsFromRow(*stored) != storage::CellsFromRow(*opened_)) {
-      if (!ask({{kReplaceRow}})) return {};
+      if (!ask({{kReplaceMaterialRow}})) return {};
       stored_name = stored->record.values.name;
     } else if (!touched) {
       return {.done = true};

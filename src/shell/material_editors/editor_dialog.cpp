@@ -5,19 +5,12 @@
 #include <QPushButton>
 #include <QStringList>
 
+#include "foundation/message_rows.h"
 #include "presentation/texts/words.h"
 #include "shell/material_editors/mnemonics.h"
 #include "shell/material_editors/number_box.h"
 
 namespace velmar::material_editors {
-namespace {
-
-constexpr MessageRow kSaveRow{357};
-constexpr MessageRow kCancelRow{365};
-constexpr MessageRow kUnsavedRow{1651};
-
-}  // namespace
-
 EditorDialog::EditorDialog(shell::WindowTools tools, const QString& object_name, QString memory_name,
                            QWidget* parent)
     : QDialog(parent), tools_(std::move(tools)), memory_name_(std::move(memory_name)) {
@@ -28,7 +21,7 @@ EditorDialog::~EditorDialog() { shell::SaveSizes(tools_.memory, {memory_name_, t
 
 QHBoxLayout* EditorDialog::MakeButtons() {
   auto* row = new QHBoxLayout;
-  auto* save = new QPushButton(tools_.Text(kSaveRow), this);
+  auto* save = new QPushButton(tools_.Text(kSaveMaterialRow), this);
   save->setObjectName(QStringLiteral("Command1"));
   save->setDefault(true);
   auto* cancel = new QPushButton(tools_.Text(kCancelRow), this);
@@ -74,7 +67,7 @@ void EditorDialog::Save() {
 }
 
 void EditorDialog::reject() {
-  if (Changed() && !tools_.ask(tools_.Text(kUnsavedRow))) return;
+  if (Changed() && !tools_.ask(tools_.Text(kUnsavedMaterialRow))) return;
   QDialog::reject();
 }
 

@@ -5,8 +5,8 @@
 #include <QRadioButton>
 #include <QVBoxLayout>
 
+#include "foundation/message_rows.h"
 #include "shell/material_editors/absorption_panel.h"
-#include "shell/material_editors/editor_rows.h"
 #include "shell/material_editors/field_grid.h"
 #include "shell/material_editors/keyword_box.h"
 #include "shell/material_editors/number_box.h"
@@ -15,12 +15,6 @@ namespace velmar::material_editors {
 namespace {
 
 using materials::FibrousEntry;
-
-constexpr MessageRow kCaptionRow{133};
-constexpr MessageRow kFlowResistanceRow{331};
-constexpr MessageRow kPorousRow{340};
-constexpr MessageRow kSolidRow{341};
-constexpr MessageRow kFlowResistanceTipRow{1669};
 
 constexpr int kColumnGapPx = 16;
 constexpr int kButtonGapPx = 8;
@@ -32,7 +26,7 @@ FibrousEditor::FibrousEditor(shell::WindowTools tools, EditedMaterial<elements::
                              QWidget* parent)
     : EditorDialog(std::move(tools), QStringLiteral("Form6"), QStringLiteral("materiale-fibroso"), parent),
       material_(std::move(material)) {
-  setWindowTitle(Tools().Text(kCaptionRow));
+  setWindowTitle(Tools().Text(kFibrousMaterialsRow));
   MakeControls(keywords, picture);
   connect(porous_, &QRadioButton::toggled, this, [this] { EnableWhatCounts(); });
   Show(material_.Opened() ? materials::EntryOf(*material_.Opened()) : FibrousEntry{});
@@ -49,23 +43,24 @@ void FibrousEditor::MakeControls(const std::vector<std::string>& keywords,
     return button;
   };
   FieldGrid fields(Tools(), this);
-  name_ = fields.AddText("Text1", kNameRow);
-  description_ = fields.AddText("Text2", kDescriptionRow);
+  name_ = fields.AddText("Text1", kMaterialNameRow);
+  description_ = fields.AddText("Text2", kMaterialDescriptionRow);
   fields.AddGap();
-  thickness_ = fields.AddNumber("Text10", kThicknessRow);
-  density_ = fields.AddNumber("Text9", kDensityRow);
+  thickness_ = fields.AddNumber("Text10", kMaterialThicknessRow);
+  density_ = fields.AddNumber("Text9", kMaterialDensityRow);
   fields.AddGap();
   fields.AddWhole(porous_ = option("Option1_0", kPorousRow));
-  flow_resistance_ = fields.AddNumber("Text14", kFlowResistanceRow, kFlowResistanceTipRow);
+  flow_resistance_ = fields.AddNumber("Text14", kMaterialFlowResistanceRow, kFlowResistanceTipRow);
   fields.AddGap();
   fields.AddWhole(solid_ = option("Option1_1", kSolidRow));
   const int first_row_beside = fields.NextRow();
-  youngs_modulus_ = fields.AddNumber("Text11", kYoungsModulusRow, kYoungsModulusTipRow);
-  loss_factor_ = fields.AddNumber("Text12", kLossFactorRow, kLossFactorTipRow);
+  youngs_modulus_ = fields.AddNumber("Text11", kMaterialYoungsModulusRow, kYoungsModulusTipRow);
+  loss_factor_ = fields.AddNumber("Text12", kMaterialLossFactorRow, kLossFactorTipRow);
   poissons_ratio_ = fields.AddNumber("Text13", kPoissonsRatioRow, kPoissonsRatioTipRow);
   fields.AddPicture(picture, first_row_beside);
   fields.AddGap();
-  fields.Add(kKeywordRow, keyword_ = new KeywordBox(QStringLiteral("Text8"), keywords, this), kKeywordTipRow);
+  fields.Add(kMaterialKeywordRow, keyword_ = new KeywordBox(QStringLiteral("Text8"), keywords, this),
+             kKeywordTipRow);
 
   auto* left = new QVBoxLayout;
   left->addLayout(fields.Layout());

@@ -4,8 +4,8 @@
 #include <QLabel>
 #include <QLineEdit>
 
+#include "foundation/message_rows.h"
 #include "shell/fields/picture_view.h"
-#include "shell/material_editors/editor_rows.h"
 #include "shell/material_editors/number_box.h"
 
 namespace velmar::material_editors {
@@ -75,7 +75,7 @@ void FieldGrid::AddGap() { grid_->setRowMinimumHeight(next_row_++, kGapPx); }
 void FieldGrid::AddPicture(const std::filesystem::path& file, int first_row) {
   auto* view = new shell::PictureView(tools_, window_);
   view->setObjectName(QStringLiteral("Picture1"));
-  view->setAccessibleName(tools_.Text(kPictureRow));
+  view->setAccessibleName(tools_.Text(kMaterialPictureRow));
   // The boxes beside it decide how high it is.
   view->setMinimumHeight(0);
   view->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);

@@ -3,7 +3,7 @@
 #include <QLineEdit>
 #include <QVBoxLayout>
 
-#include "shell/material_editors/editor_rows.h"
+#include "foundation/message_rows.h"
 #include "shell/material_editors/field_grid.h"
 #include "shell/material_editors/keyword_box.h"
 #include "shell/material_editors/number_box.h"
@@ -15,15 +15,6 @@ using materials::ResilientBox;
 using materials::ResilientBoxes;
 using materials::ResilientEntry;
 
-constexpr MessageRow kCaptionRow{324};
-constexpr MessageRow kStiffnessRow{337};
-constexpr MessageRow kImprovementRow{338};
-constexpr MessageRow kResonanceRow{339};
-constexpr MessageRow kOneOfThreeRow{343};
-constexpr MessageRow kStiffnessTipRow{1666};
-constexpr MessageRow kImprovementTipRow{1667};
-constexpr MessageRow kResonanceTipRow{1668};
-
 constexpr int kButtonGapPx = 8;
 
 }  // namespace
@@ -34,7 +25,7 @@ ResilientEditor::ResilientEditor(shell::WindowTools tools,
                                  const std::filesystem::path& picture, QWidget* parent)
     : EditorDialog(std::move(tools), QStringLiteral("Form6"), QStringLiteral("materiale-resiliente"), parent),
       material_(std::move(material)) {
-  setWindowTitle(Tools().Text(kCaptionRow));
+  setWindowTitle(Tools().Text(kResilientEditorCaptionRow));
   MakeControls(keywords, picture);
   stiffness_->OnLeave([this](bool edited) { Couple(ResilientBox::kStiffness, edited); });
   improvement_->OnLeave([this](bool edited) { Couple(ResilientBox::kImprovement, edited); });
@@ -47,20 +38,21 @@ ResilientEditor::ResilientEditor(shell::WindowTools tools,
 void ResilientEditor::MakeControls(const std::vector<std::string>& keywords,
                                    const std::filesystem::path& picture) {
   FieldGrid fields(Tools(), this);
-  name_ = fields.AddText("Text1", kNameRow);
-  description_ = fields.AddText("Text2", kDescriptionRow);
+  name_ = fields.AddText("Text1", kMaterialNameRow);
+  description_ = fields.AddText("Text2", kMaterialDescriptionRow);
   fields.AddGap();
   const int first_row_beside = fields.NextRow();
-  stiffness_ = fields.AddNumber("Text3", kStiffnessRow, kStiffnessTipRow);
-  improvement_ = fields.AddNumber("Text4", kImprovementRow, kImprovementTipRow);
+  stiffness_ = fields.AddNumber("Text3", kDynamicStiffnessRow, kStiffnessTipRow);
+  improvement_ = fields.AddNumber("Text4", kImpactImprovementRow, kImprovementTipRow);
   resonance_ = fields.AddNumber("Text5", kResonanceRow, kResonanceTipRow);
   fields.AddPicture(picture, first_row_beside);
   fields.AddRemark(kOneOfThreeRow);
   fields.AddGap();
-  thickness_ = fields.AddNumber("Text6", kThicknessRow);
-  density_ = fields.AddNumber("Text7", kDensityRow);
+  thickness_ = fields.AddNumber("Text6", kMaterialThicknessRow);
+  density_ = fields.AddNumber("Text7", kMaterialDensityRow);
   fields.AddGap();
-  fields.Add(kKeywordRow, keyword_ = new KeywordBox(QStringLiteral("Text8"), keywords, this), kKeywordTipRow);
+  fields.Add(kMaterialKeywordRow, keyword_ = new KeywordBox(QStringLiteral("Text8"), keywords, this),
+             kKeywordTipRow);
   auto* column = new QVBoxLayout(this);
   column->addLayout(fields.Layout());
   column->addSpacing(kButtonGapPx);

@@ -3,7 +3,7 @@
 #include <QLineEdit>
 #include <QVBoxLayout>
 
-#include "shell/material_editors/editor_rows.h"
+#include "foundation/message_rows.h"
 #include "shell/material_editors/field_grid.h"
 #include "shell/material_editors/keyword_box.h"
 #include "shell/material_editors/number_box.h"
@@ -15,13 +15,6 @@ using materials::MassBox;
 using materials::MassBoxes;
 using materials::StructuralEntry;
 
-constexpr MessageRow kCaptionRow{323};
-constexpr MessageRow kSurfaceMassRow{332};
-constexpr MessageRow kCriticalFrequencyRow{333};
-constexpr MessageRow kTwoOfThreeRow{1650};
-constexpr MessageRow kSurfaceMassTipRow{1660};
-constexpr MessageRow kCriticalFrequencyTipRow{1662};
-
 constexpr int kButtonGapPx = 8;
 
 }  // namespace
@@ -32,23 +25,23 @@ StructuralEditor::StructuralEditor(shell::WindowTools tools,
     : EditorDialog(std::move(tools), QStringLiteral("Form5"), QStringLiteral("materiale-strutturale"),
                    parent),
       material_(std::move(material)) {
-  setWindowTitle(Tools().Text(kCaptionRow));
+  setWindowTitle(Tools().Text(kStructuralEditorCaptionRow));
   auto* column = new QVBoxLayout(this);
   FieldGrid fields(Tools(), this);
-  name_ = fields.AddText("Text1", kNameRow);
-  description_ = fields.AddText("Text2", kDescriptionRow);
+  name_ = fields.AddText("Text1", kMaterialNameRow);
+  description_ = fields.AddText("Text2", kMaterialDescriptionRow);
   fields.AddGap();
-  thickness_ = fields.AddNumber("Text3", kThicknessRow);
-  density_ = fields.AddNumber("Text4", kDensityRow);
-  surface_mass_ = fields.AddNumber("Text5", kSurfaceMassRow, kSurfaceMassTipRow);
+  thickness_ = fields.AddNumber("Text3", kMaterialThicknessRow);
+  density_ = fields.AddNumber("Text4", kMaterialDensityRow);
+  surface_mass_ = fields.AddNumber("Text5", kMaterialSurfaceMassRow, kSurfaceMassTipRow);
   fields.AddRemark(kTwoOfThreeRow);
   fields.AddGap();
-  youngs_modulus_ = fields.AddNumber("Text6", kYoungsModulusRow, kYoungsModulusTipRow);
+  youngs_modulus_ = fields.AddNumber("Text6", kMaterialYoungsModulusRow, kYoungsModulusTipRow);
   critical_frequency_ = fields.AddNumber("Text7", kCriticalFrequencyRow, kCriticalFrequencyTipRow);
-  loss_factor_ = fields.AddNumber("Text8", kLossFactorRow, kLossFactorTipRow);
+  loss_factor_ = fields.AddNumber("Text8", kMaterialLossFactorRow, kLossFactorTipRow);
   poissons_ratio_ = fields.AddNumber("Text9", kPoissonsRatioRow, kPoissonsRatioTipRow);
   fields.AddGap();
-  fields.Add(kKeywordRow, keyword_ = new KeywordBox(QStringLiteral("Text10"), keywords, this),
+  fields.Add(kMaterialKeywordRow, keyword_ = new KeywordBox(QStringLiteral("Text10"), keywords, this),
              kKeywordTipRow);
   column->addLayout(fields.Layout());
   column->addSpacing(kButtonGapPx);

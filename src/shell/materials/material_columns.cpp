@@ -5,21 +5,18 @@
 
 #include "elements/materials.h"
 #include "foundation/decimal.h"
+#include "foundation/message_rows.h"
 #include "storage/materials/material_row.h"
 
 namespace velmar::shell {
 namespace {
 
-constexpr MessageRow kYesRow{363};
-constexpr MessageRow kNoRow{364};
-constexpr MessageRow kAbsorptionRow{342};
-
 /// A column of the tables: symbols are the same in every language, words are rows of the catalogue.
 struct Heading {
   std::string_view column{};
   const char* symbol = "";
-  int row = 0;      ///< heading in words; 0: the symbol
-  int tip_row = 0;  ///< what the symbol stands for; 0: the heading says it
+  MessageRow row{};      ///< heading in words; none: the symbol
+  MessageRow tip_row{};  ///< what the symbol stands for; none: the heading says it
   bool main = true;
 };
 
@@ -27,29 +24,29 @@ constexpr bool kOnRequest = false;
 
 // clang-format off
 constexpr std::array kHeadings = {
-    Heading{"Materiale", "", 1602},
-    Heading{"s (mm)", "s (mm)", 0, 328},
-    Heading{"Densità (kg/m³)", "", 1603, 329},
-    Heading{"m' (kg/m²)", "m' (kg/m²)", 0, 332},
-    Heading{"fonoassorbente", "", 1604, 340},
-    Heading{"Modulo di Young E (GPa)", "E (GPa)", 0, 330},
-    Heading{"Frequenza di coincidenza fc (Hz)", "fc (Hz)", 0, 333},
-    Heading{"Fattore di perdita interna", "η", 0, 334},
-    Heading{"Rapporto di Poisson", "ν", 0, 335},
-    Heading{"Resistenza specifica al flusso Rs (Pa sec/m)", "Rs (Pa s/m)", 0, 331},
-    Heading{"s' (MN/m³)", "s' (MN/m³)", 0, 337},
-    Heading{"Delta Ln,w (dB)", "ΔLn,w (dB)", 0, 338},
-    Heading{"f0 (Hz)", "f0 (Hz)", 0, 339},
-    Heading{"Parola chiave", "", 84},
-    Heading{"Descrizione materiale", "", 94},
-    Heading{"Descrizione", "", 94},
-    Heading{"Lambda (W/m K)", "λ (W/m K)", 0, 1605, kOnRequest},
-    Heading{"C (W/m² K)", "C (W/m² K)", 0, 1606, kOnRequest},
-    Heading{"Sigma_a 10^12 (Kg/msPa)", "σa·10¹² (kg/m s Pa)", 0, 1607, kOnRequest},
-    Heading{"Sigma_u 10^12 (Kg/msPa)", "σu·10¹² (kg/m s Pa)", 0, 1608, kOnRequest},
-    Heading{"R (m² K/W)", "R (m² K/W)", 0, 1609, kOnRequest},
-    Heading{"Immagine", "", 404, 0, kOnRequest},
-    Heading{"Fonte", "", 1610, 0, kOnRequest},
+    Heading{"Materiale", "", kMaterialHeadingRow},
+    Heading{"s (mm)", "s (mm)", {}, kMaterialThicknessRow},
+    Heading{"Densità (kg/m³)", "", kDensityHeadingRow, kMaterialDensityRow},
+    Heading{"m' (kg/m²)", "m' (kg/m²)", {}, kMaterialSurfaceMassRow},
+    Heading{"fonoassorbente", "", kAbsorbingHeadingRow, kPorousRow},
+    Heading{"Modulo di Young E (GPa)", "E (GPa)", {}, kMaterialYoungsModulusRow},
+    Heading{"Frequenza di coincidenza fc (Hz)", "fc (Hz)", {}, kCriticalFrequencyRow},
+    Heading{"Fattore di perdita interna", "η", {}, kMaterialLossFactorRow},
+    Heading{"Rapporto di Poisson", "ν", {}, kPoissonsRatioRow},
+    Heading{"Resistenza specifica al flusso Rs (Pa sec/m)", "Rs (Pa s/m)", {}, kMaterialFlowResistanceRow},
+    Heading{"s' (MN/m³)", "s' (MN/m³)", {}, kDynamicStiffnessRow},
+    Heading{"Delta Ln,w (dB)", "ΔLn,w (dB)", {}, kImpactImprovementRow},
+    Heading{"f0 (Hz)", "f0 (Hz)", {}, kResonanceRow},
+    Heading{"Parola chiave", "", kKeywordFilterRow},
+    Heading{"Descrizione materiale", "", kDescriptionRow},
+    Heading{"Descrizione", "", kDescriptionRow},
+    Heading{"Lambda (W/m K)", "λ (W/m K)", {}, kThermalConductivityTipRow, kOnRequest},
+    Heading{"C (W/m² K)", "C (W/m² K)", {}, kThermalConductanceTipRow, kOnRequest},
+    Heading{"Sigma_a 10^12 (Kg/msPa)", "σa·10¹² (kg/m s Pa)", {}, kVapourPermeabilityDryTipRow, kOnRequest},
+    Heading{"Sigma_u 10^12 (Kg/msPa)", "σu·10¹² (kg/m s Pa)", {}, kVapourPermeabilityWetTipRow, kOnRequest},
+    Heading{"R (m² K/W)", "R (m² K/W)", {}, kThermalResistanceTipRow, kOnRequest},
+    Heading{"Immagine", "", kFieldPictureRow, {}, kOnRequest},
+    Heading{"Fonte", "", kSourceHeadingRow, {}, kOnRequest},
 };
 // clang-format on
 
@@ -60,8 +57,8 @@ QString WithoutColon(QString text) {
 
 MaterialColumn ColumnOf(const Heading& heading, const WindowTools& tools) {
   MaterialColumn column;
-  column.heading = heading.row != 0 ? tools.Text({heading.row}) : QString::fromUtf8(heading.symbol);
-  column.tip = heading.tip_row != 0 ? WithoutColon(tools.Text({heading.tip_row})) : column.heading;
+  column.heading = heading.row != MessageRow{} ? tools.Text(heading.row) : QString::fromUtf8(heading.symbol);
+  column.tip = heading.tip_row != MessageRow{} ? WithoutColon(tools.Text(heading.tip_row)) : column.heading;
   column.main = heading.main;
   return column;
 }
@@ -70,7 +67,7 @@ MaterialColumn AbsorptionColumn(std::size_t band, const WindowTools& tools) {
   const QString centre = ToQt(FormatShortest(elements::kAbsorptionBandCentres.at(band)));
   MaterialColumn column;
   column.heading = QStringLiteral("α %1").arg(centre);
-  column.tip = tools.Text(kAbsorptionRow) + QStringLiteral(", %1 Hz").arg(centre);
+  column.tip = tools.Text(kAbsorptionCoefficientsRow) + QStringLiteral(", %1 Hz").arg(centre);
   return column;
 }
 

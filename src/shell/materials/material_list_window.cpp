@@ -11,6 +11,7 @@
 #include <QSettings>
 #include <QVBoxLayout>
 
+#include "foundation/message_rows.h"
 #include "shell/fields/button_row.h"
 #include "shell/materials/material_texts.h"
 
@@ -19,17 +20,6 @@ namespace {
 
 using elements::MaterialFamily;
 
-constexpr MessageRow kCavityRow{219};
-constexpr MessageRow kDeleteQuestionRow{321};
-constexpr MessageRow kNameRow{326};
-constexpr MessageRow kNewRow{344};
-constexpr MessageRow kEditRow{345};
-constexpr MessageRow kDeleteRow{346};
-constexpr MessageRow kTakeRow{356};
-constexpr MessageRow kCloseRow{369};
-constexpr MessageRow kAllColumnsRow{1611};
-constexpr MessageRow kRefreshRow{1612};
-constexpr MessageRow kRefreshTipRow{1613};
 constexpr const char* kMemoryName = "lista-materiali";
 constexpr const char* kAllColumnsKey = "lista-materiali/tutte-le-colonne";
 
@@ -101,8 +91,8 @@ QWidget* MaterialListWindow::MakeHead() {
   if (!pick_) row->addStretch(1);
   search_ = new QLineEdit(head);
   search_->setObjectName(QStringLiteral("TextCerca"));
-  search_->setPlaceholderText(tools_.Text(kSearchRow));
-  search_->setAccessibleName(tools_.Text(kSearchRow));
+  search_->setPlaceholderText(tools_.Text(kMaterialSearchRow));
+  search_->setAccessibleName(tools_.Text(kMaterialSearchRow));
   search_->setClearButtonEnabled(true);
   search_->installEventFilter(this);
   connect(search_, &QLineEdit::textChanged, this, [this](const QString& text) { SearchFor(text); });
@@ -132,11 +122,11 @@ QWidget* MaterialListWindow::MakeSelected() {
   auto* bar = new QWidget(this);
   auto* row = new QHBoxLayout(bar);
   row->setContentsMargins(0, 0, 0, 0);
-  auto* caption = new QLabel(tools_.Text(kNameRow), bar);
+  auto* caption = new QLabel(tools_.Text(kMaterialNameRow), bar);
   name_ = new QLineEdit(bar);
   name_->setObjectName(QStringLiteral("Text1"));
   name_->setReadOnly(true);
-  name_->setAccessibleName(tools_.Text(kNameRow));
+  name_->setAccessibleName(tools_.Text(kMaterialNameRow));
   all_columns_ = new QCheckBox(tools_.Text(kAllColumnsRow), bar);
   all_columns_->setObjectName(QStringLiteral("CheckColonne"));
   if (tools_.memory != nullptr)
@@ -153,13 +143,13 @@ QWidget* MaterialListWindow::MakeButtons() {
   const auto add = [&](const char* name, MessageRow text, std::function<void()> action) {
     return bar->Add(name, tools_.Text(text), std::move(action));
   };
-  new_ = add("Command3", kNewRow, [this] { Edit({}); });
+  new_ = add("Command3", kNewMaterialRow, [this] { Edit({}); });
   new_->setEnabled(static_cast<bool>(source_.edit));
-  edit_ = add("CommandModifica", kEditRow, [this] { Edit(grid_->SelectedName()); });
-  delete_ = add("Command4", kDeleteRow, [this] { Delete(); });
+  edit_ = add("CommandModifica", kEditMaterialRow, [this] { Edit(grid_->SelectedName()); });
+  delete_ = add("Command4", kDeleteMaterialRow, [this] { Delete(); });
   bar->AddStretch();
   add("Aggiorna", kRefreshRow, [this] { RefreshAsAsked(); })->setToolTip(tools_.Text(kRefreshTipRow));
-  take_ = add("CmdSeleziona", kTakeRow, [this] { Take(); });
+  take_ = add("CmdSeleziona", kSelectMaterialRow, [this] { Take(); });
   take_->setVisible(pick_.has_value());
   take_->setDefault(pick_.has_value());
   add("Chiudi", kCloseRow, [this] { reject(); });
@@ -170,7 +160,7 @@ void MaterialListWindow::ChooseFamily(MaterialFamily family) {
   RememberColumns();
   family_ = family;
   const QString title = tools_.Text(TitleOf(family));
-  setWindowTitle(tools_.Text(kListCaptionRow) + QStringLiteral(" - ") + title);
+  setWindowTitle(tools_.Text(kMaterialTreeCaptionRow) + QStringLiteral(" - ") + title);
   grid_->setAccessibleName(title);
   model_.Fill(family, {});
   Refresh();
@@ -265,7 +255,8 @@ void MaterialListWindow::Edit(const std::string& name) {
 void MaterialListWindow::Delete() {
   const std::string name = grid_->SelectedName();
   if (name.empty()) return;
-  const QString question = tools_.Text(kDeleteQuestionRow) + QStringLiteral(" \"%1\"?").arg(ToQt(name));
+  const QString question =
+      tools_.Text(kDeleteMaterialQuestionRow) + QStringLiteral(" \"%1\"?").arg(ToQt(name));
   if (!tools_.ask(question)) return;
   const int row = grid_->SelectedRow();
   if (!tools_.Try([&] { source_.remove(family_, name); })) return;

@@ -11,6 +11,7 @@
 #include <QVBoxLayout>
 #include <array>
 
+#include "foundation/message_rows.h"
 #include "shell/materials/material_columns.h"
 #include "shell/materials/material_texts.h"
 #include "storage/materials/material_row.h"
@@ -22,9 +23,6 @@ using elements::MaterialFamily;
 
 constexpr std::array kFamilies = {MaterialFamily::kStructural, MaterialFamily::kFibrous,
                                   MaterialFamily::kResilient};
-constexpr MessageRow kFrameRow{359};
-constexpr MessageRow kHintRow{1614};
-constexpr MessageRow kNoPlaceRow{1615};
 constexpr const char* kMemoryName = "albero-materiali";
 constexpr QSize kSmallest{390, 353};
 
@@ -36,11 +34,12 @@ struct Property {
   bool fibrous_only = false;
 };
 constexpr std::array kProperties = {
-    Property{"LabelNome", {326}, "Materiale"},
-    Property{"LabelSpessore", {328}, "s (mm)"},
-    Property{"LabelDensita", {329}, "Densità (kg/m³)"},
-    Property{"LabelYoung", {330}, "Modulo di Young E (GPa)"},
-    Property{"LabelResistenza", {331}, "Resistenza specifica al flusso Rs (Pa sec/m)", true},
+    Property{"LabelNome", kMaterialNameRow, "Materiale"},
+    Property{"LabelSpessore", kMaterialThicknessRow, "s (mm)"},
+    Property{"LabelDensita", kMaterialDensityRow, "Densità (kg/m³)"},
+    Property{"LabelYoung", kMaterialYoungsModulusRow, "Modulo di Young E (GPa)"},
+    Property{"LabelResistenza", kMaterialFlowResistanceRow, "Resistenza specifica al flusso Rs (Pa sec/m)",
+             true},
 };
 
 }  // namespace
@@ -53,7 +52,7 @@ MaterialTreeWindow::MaterialTreeWindow(WindowTools tools, MaterialSource source,
       model_(tools_),
       shown_(model_) {
   setObjectName(QStringLiteral("FormSceltaMateriali"));
-  setWindowTitle(tools_.Text(kListCaptionRow));
+  setWindowTitle(tools_.Text(kMaterialTreeCaptionRow));
   setMinimumSize(kSmallest);
   auto* column = new QVBoxLayout(this);
   sides_ = new QSplitter(Qt::Horizontal, this);
@@ -62,7 +61,7 @@ MaterialTreeWindow::MaterialTreeWindow(WindowTools tools, MaterialSource source,
   sides_->addWidget(MakeProperties());
   sides_->setStretchFactor(0, 1);
   column->addWidget(sides_, 1);
-  hint_ = new QLabel(tools_.Text(kHintRow), this);
+  hint_ = new QLabel(tools_.Text(kTreeHintRow), this);
   hint_->setObjectName(QStringLiteral("LabelGuida"));
   hint_->setWordWrap(true);
   column->addWidget(hint_);
@@ -103,7 +102,7 @@ QWidget* MaterialTreeWindow::MakeTree() {
   connect(search_, &QLineEdit::textChanged, this, [this](const QString& text) { SearchFor(text); });
   tree_ = new QTreeView(side);
   tree_->setObjectName(QStringLiteral("Treeview1"));
-  tree_->setAccessibleName(tools_.Text(kListCaptionRow));
+  tree_->setAccessibleName(tools_.Text(kMaterialTreeCaptionRow));
   tree_->setModel(&shown_);
   tree_->setHeaderHidden(true);
   tree_->setUniformRowHeights(true);
@@ -120,7 +119,7 @@ QWidget* MaterialTreeWindow::MakeTree() {
 }
 
 QWidget* MaterialTreeWindow::MakeProperties() {
-  auto* frame = new QGroupBox(tools_.Text(kFrameRow), this);
+  auto* frame = new QGroupBox(tools_.Text(kMaterialPropertiesRow), this);
   frame->setObjectName(QStringLiteral("LabelCarattMat"));
   form_ = new QFormLayout(frame);
   form_->setRowWrapPolicy(QFormLayout::WrapLongRows);
@@ -191,13 +190,13 @@ void MaterialTreeWindow::ShowSelected() {
     values_.at(i)->setVisible(visible);
     form_->labelForField(values_.at(i))->setVisible(visible);
   }
-  hint_->setText(tools_.Text(kHintRow));
+  hint_->setText(tools_.Text(kTreeHintRow));
 }
 
 void MaterialTreeWindow::PutSelected() {
   const auto selected = Selected();
   if (!selected) return;
-  hint_->setText(tools_.Text(put_ && put_(*selected) ? kHintRow : kNoPlaceRow));
+  hint_->setText(tools_.Text(put_ && put_(*selected) ? kTreeHintRow : kNoPlaceForMaterialRow));
 }
 
 void MaterialTreeWindow::SearchFor(const QString& text) {

@@ -5,6 +5,7 @@
 #include <QVBoxLayout>
 
 #include "foundation/decimal.h"
+#include "foundation/message_rows.h"
 #include "shell/fields/number_field.h"
 #include "shell/fields/phrases.h"
 #include "shell/pages/element_form.h"
@@ -12,13 +13,6 @@
 
 namespace velmar::shell {
 namespace {
-
-constexpr MessageRow kBaseRow{92};
-constexpr MessageRow kSimplifiedRow{96};
-constexpr MessageRow kThicknessRow{177};
-constexpr MessageRow kMassRow{217};
-constexpr MessageRow kBaseThicknessTipRow{1346};
-constexpr MessageRow kBaseMassTipRow{1347};
 
 /// A number that is 0 when unknown, as a field shows it.
 template <typename Number>
@@ -33,7 +27,7 @@ BaseElementPage::BaseElementPage(PageContext& context, QWidget* parent) : Page(p
   simplified_ = new QCheckBox(Text(context.Words(), kSimplifiedRow), this);
   simplified_->setObjectName("Check2");
   connect(simplified_, &QCheckBox::clicked, this, [this](bool ticked) {
-    context_.open.Edit([ticked](elements::Setup& setup) { setup.facade.simplified = ticked; });
+    context_.Edit([ticked](elements::Setup& setup) { setup.facade.simplified = ticked; });
   });
   form_ = new ElementForm(0,
                           {.name = "Combo14",
@@ -49,7 +43,7 @@ BaseElementPage::BaseElementPage(PageContext& context, QWidget* parent) : Page(p
                            .bands_frame = "Frame4",
                            .bands = "Text13"},
                           context, this);
-  form_->SetNameLabel(Text(context.Words(), kBaseRow));
+  form_->SetNameLabel(Text(context.Words(), kBaseElementRow));
   column->addWidget(simplified_);
   column->addWidget(form_);
   AddPlainBase();
@@ -63,19 +57,20 @@ void BaseElementPage::AddPlainBase() {
   thickness_->setToolTip(Text(words, kBaseThicknessTipRow));
   thickness_->setAccessibleName(Text(words, kBaseThicknessTipRow));
   thickness_->setPlaceholderText(FromUtf8(FormatShortest(elements::kDefaultBaseThicknessMm)));
-  thickness_->OnEdit([this](const std::string& text) {
-    context_.open.Edit(
+  context_.Watch(thickness_);
+  connect(thickness_, &NumberField::Edited, this, [this](const std::string& text) {
+    context_.Edit(
         [&](elements::Setup& setup) { setup.base.thickness_mm = ParseDecimal(text).value_or(0.0); });
   });
   mass_ = new NumberField("TextMassaBase", NumberKind::kReal, this);
   mass_->setToolTip(Text(words, kBaseMassTipRow));
   mass_->setAccessibleName(Text(words, kBaseMassTipRow));
-  mass_->OnEdit([this](const std::string& text) {
-    context_.open.Edit(
-        [&](elements::Setup& setup) { setup.base.mass_kg_m2 = ParseSingle(text).value_or(0.0F); });
+  context_.Watch(mass_);
+  connect(mass_, &NumberField::Edited, this, [this](const std::string& text) {
+    context_.Edit([&](elements::Setup& setup) { setup.base.mass_kg_m2 = ParseSingle(text).value_or(0.0F); });
   });
-  thickness_label_ = LabelFor(thickness_, kThicknessRow, context_, this);
-  mass_label_ = LabelFor(mass_, kMassRow, context_, this);
+  thickness_label_ = LabelFor(thickness_, kTotalThicknessRow, context_, this);
+  mass_label_ = LabelFor(mass_, kSurfaceMassRow, context_, this);
   mass_label_->setContentsMargins(kPageSpacing, 0, 0, 0);
   form_->AddLine(thickness_label_, {thickness_, mass_label_, mass_});
 }

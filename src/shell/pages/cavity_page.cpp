@@ -9,8 +9,8 @@
 
 #include "calculation/cavity_rules.h"
 #include "calculation/count_rules.h"
-#include "calculation/select_calculation.h"
 #include "foundation/decimal.h"
+#include "foundation/message_rows.h"
 #include "shell/fields/corrections.h"
 #include "shell/fields/list_boxes.h"
 #include "shell/fields/number_field.h"
@@ -21,12 +21,7 @@
 namespace velmar::shell {
 namespace {
 
-constexpr MessageRow kDepthRow{81};
-constexpr MessageRow kKindRow{82};
-constexpr std::array kKindRows = {MessageRow{159}, MessageRow{151}, MessageRow{283}};
-constexpr MessageRow kKeywordRow{84};
-constexpr MessageRow kDepthTipRow{1342};
-constexpr MessageRow kFibreTipRow{1343};
+constexpr std::array kKindRows = {kEmptyCavityChoiceRow, kFibrousCavityChoiceRow, kGenericCavityChoiceRow};
 
 }  // namespace
 
@@ -41,14 +36,15 @@ CavityPage::CavityPage(PageContext& context, QWidget* parent) : Page(parent), co
 void CavityPage::AddDepth(QVBoxLayout& column) {
   QHBoxLayout* line = AddLine(column);
   depth_ = new NumberField("Text9", NumberKind::kReal, this);
-  QLabel* label = LabelFor(depth_, kDepthRow, context_, this);
+  QLabel* label = LabelFor(depth_, kCavityDepthRow, context_, this);
   label->setObjectName("Label25");
   depth_->setAccessibleName(label->text());
   depth_->setToolTip(Text(context_.Words(), kDepthTipRow));
-  depth_->OnEdit([this](const std::string& text) {
-    context_.open.Edit([&](elements::Setup& setup) { setup.cavity.depth_text = text; });
+  context_.Watch(depth_);
+  connect(depth_, &NumberField::Edited, this, [this](const std::string& text) {
+    context_.Edit([&](elements::Setup& setup) { setup.cavity.depth_text = text; });
   });
-  depth_->OnLeave([this] { LeaveDepth(); });
+  connect(depth_, &NumberField::Left, this, &CavityPage::LeaveDepth);
   line->addWidget(label);
   line->addWidget(depth_);
   line->addStretch(1);
@@ -59,7 +55,7 @@ void CavityPage::LeaveDepth() {
   elements::Setup left = context_.open.Setup();
   const std::optional<double> entered = ParseDecimal(left.cavity.depth_text);
   const std::optional<Message> told = calculation::LeaveCavityDepth(left);
-  if (left != context_.open.Setup()) context_.open.Edit([&](elements::Setup& setup) { setup = left; });
+  if (left != context_.open.Setup()) context_.Edit([&](elements::Setup& setup) { setup = left; });
   const auto raised_to = ParseDecimal(left.cavity.depth_text);
   if (!told && entered && raised_to > entered)
     NoteCorrection(depth_, Correction::kRaised, 0, context_.Words());
@@ -67,7 +63,7 @@ void CavityPage::LeaveDepth() {
 }
 
 void CavityPage::AddKinds(QVBoxLayout& column) {
-  auto* label = new QLabel(Text(context_.Words(), kKindRow), this);
+  auto* label = new QLabel(Text(context_.Words(), kCavityKindRow), this);
   label->setObjectName("Label21");
   column.addSpacing(kPageSpacing);
   column.addWidget(label);
@@ -77,7 +73,7 @@ void CavityPage::AddKinds(QVBoxLayout& column) {
     kind->setObjectName(ArrayName("Option2", static_cast<int>(i)));
     group->addButton(kind);
     connect(kind, &QRadioButton::clicked, this, [this, i] {
-      context_.open.Edit([i](elements::Setup& setup) {
+      context_.Edit([i](elements::Setup& setup) {
         calculation::ChooseCavityKind(setup, static_cast<elements::CavityKind>(i));
       });
     });
@@ -92,12 +88,13 @@ void CavityPage::AddKinds(QVBoxLayout& column) {
     line->addStretch(1);
     kinds_.at(i) = kind;
   }
-  fibre_->OnEdit([this](const std::string& text) {
-    context_.open.Edit([&](elements::Setup& setup) { calculation::EnterFibreThickness(setup, text); });
+  context_.Watch(fibre_);
+  connect(fibre_, &NumberField::Edited, this, [this](const std::string& text) {
+    context_.Edit([&](elements::Setup& setup) { calculation::EnterFibreThickness(setup, text); });
   });
-  fibre_->OnLeave([this] {
+  connect(fibre_, &NumberField::Left, this, [this] {
     if (!context_.open.Setup().cavity.fibre_text.empty()) return;
-    context_.open.Edit([](elements::Setup& setup) { calculation::LeaveFibreThickness(setup); });
+    context_.Edit([](elements::Setup& setup) { calculation::LeaveFibreThickness(setup); });
   });
 }
 
@@ -112,14 +109,15 @@ void CavityPage::AddLayers(QVBoxLayout& column) {
                                        .highest = kCapacity,
                                        .filter_name = "Combo19",
                                        .filter = FilterId::kCavity,
-                                       .filter_label = kKeywordRow},
+                                       .filter_label = kKeywordFilterRow},
                                       context_, *inner, layers_);
   count_ = head.count;
   filter_ = head.filter;
   head.count_label->setObjectName("Label45");
   head.filter_label->setObjectName("Label46");
-  count_->OnEdit([this](const std::string& text) {
-    context_.open.Edit([&](elements::Setup& setup) {
+  context_.Watch(count_);
+  connect(count_, &CountBox::Edited, this, [this](const std::string& text) {
+    context_.Edit([&](elements::Setup& setup) {
       calculation::EnterCavityCount(setup, text);
       calculation::RaiseCavityDepthToLayers(setup);
     });
@@ -137,16 +135,17 @@ void CavityPage::AddLayers(QVBoxLayout& column) {
 void CavityPage::Show(const elements::Setup& setup) {
   if (!setup.calculation) return;
   const elements::Cavity& cavity = setup.cavity;
-  const calculation::FieldLayout layout = calculation::LayoutOf(*setup.calculation);
+  const elements::CalculationRow& row = RowOf(*setup.calculation);
+  const bool reads_fibre = row.Reads(elements::Field::kFibreThickness);
   depth_->Show(cavity.depth_text);
   fibre_->Show(cavity.fibre_text);
-  fibre_->setVisible(layout.fibre_thickness_shown);
+  fibre_->setVisible(reads_fibre);
   fibre_->setEnabled(calculation::FibreThicknessEnabled(setup));
   kinds_.at(static_cast<std::size_t>(cavity.kind))->setChecked(true);
-  kinds_.back()->setVisible(layout.generic_cavity_offered);
+  kinds_.back()->setVisible(row.generic_cavity);
   // Without its field the words end before the thickness they ask for.
   QString words = Text(context_.Words(), kKindRows.at(1));
-  if (!layout.fibre_thickness_shown) words = words.section(" - ", 0, 0);
+  if (!reads_fibre) words = words.section(" - ", 0, 0);
   kinds_.at(1)->setText(words);
 
   const bool generic = cavity.kind == elements::CavityKind::kGenericMaterial;

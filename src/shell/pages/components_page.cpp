@@ -11,6 +11,7 @@
 #include "calculation/count_rules.h"
 #include "calculation/element_choice.h"
 #include "foundation/decimal.h"
+#include "foundation/message_rows.h"
 #include "shell/fields/list_boxes.h"
 #include "shell/fields/phrases.h"
 #include "shell/pages/element_form.h"
@@ -20,13 +21,6 @@
 namespace velmar::shell {
 namespace {
 
-constexpr MessageRow kCountRow{91};
-constexpr MessageRow kComponentRow{93};
-constexpr MessageRow kSimplifiedRow{96};
-constexpr MessageRow kTightnessRow{98};
-constexpr MessageRow kNoCorrectionRow{99};
-constexpr MessageRow kClassRow{165};
-constexpr MessageRow kShareTipRow{1348};
 constexpr int kHighestClass = 4;
 
 /// The boxes of the band values are arrays of their own, one a component.
@@ -61,16 +55,17 @@ ComponentsPage::ComponentsPage(PageContext& context, QWidget* parent) : Page(par
 void ComponentsPage::AddHead(QVBoxLayout& column) {
   QHBoxLayout* line = AddLine(column);
   count_ = new CountBox("Combo15", 1, elements::Facade::kCapacity, this);
-  count_->setAccessibleDescription(Text(context_.Words(), kCountRow));
-  count_->OnEdit([this](const std::string& text) {
-    context_.open.Edit([&](elements::Setup& setup) { calculation::EnterComponentCount(setup, text); });
+  count_->setAccessibleDescription(Text(context_.Words(), kComponentCountRow));
+  context_.Watch(count_);
+  connect(count_, &CountBox::Edited, this, [this](const std::string& text) {
+    context_.Edit([&](elements::Setup& setup) { calculation::EnterComponentCount(setup, text); });
   });
   simplified_ = new QCheckBox(Text(context_.Words(), kSimplifiedRow), this);
   simplified_->setObjectName("Check1");
   connect(simplified_, &QCheckBox::clicked, this, [this](bool ticked) {
-    context_.open.Edit([ticked](elements::Setup& setup) { setup.facade.simplified = ticked; });
+    context_.Edit([ticked](elements::Setup& setup) { setup.facade.simplified = ticked; });
   });
-  line->addWidget(LabelFor(count_, kCountRow, context_, this));
+  line->addWidget(LabelFor(count_, kComponentCountRow, context_, this));
   line->addWidget(count_);
   line->addSpacing(2 * kPageSpacing);
   line->addWidget(simplified_);
@@ -89,15 +84,16 @@ ComponentsPage::Component ComponentsPage::AddComponent(int index) {
   frame->setObjectName(ArrayName("Picture9", index));
   auto* lines = new QVBoxLayout(frame);
   lines->setContentsMargins(0, 0, 0, 0);
-  auto* label = new QLabel(Text(words, kTightnessRow), frame);
+  auto* label = new QLabel(Text(words, kAirTightnessRow), frame);
   label->setWordWrap(true);
   component.tightness = new ChoiceBox(ArrayName("ComboTenutaAria", index), frame);
-  QStringList classes = {Text(words, kNoCorrectionRow)};
-  for (int i = 1; i <= kHighestClass; ++i) classes += Text(words, kClassRow) + ' ' + QString::number(i);
+  QStringList classes = {Text(words, kClassZeroRow)};
+  for (int i = 1; i <= kHighestClass; ++i)
+    classes += Text(words, kAirTightnessClassRow) + ' ' + QString::number(i);
   component.tightness->Offer(classes);
   component.tightness->setAccessibleDescription(label->text());
-  component.tightness->OnChoice([this, index](int chosen) {
-    context_.open.Edit([=](elements::Setup& setup) {
+  connect(component.tightness, &QComboBox::activated, this, [this, index](int chosen) {
+    context_.Edit([=](elements::Setup& setup) {
       setup.facade.components.at(static_cast<std::size_t>(index)).tightness_class = chosen;
     });
   });

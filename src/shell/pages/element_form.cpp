@@ -1,5 +1,6 @@
 #include "shell/pages/element_form.h"
 
+#include <QCheckBox>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
@@ -7,6 +8,7 @@
 #include <QLineEdit>
 
 #include "calculation/element_choice.h"
+#include "foundation/message_rows.h"
 #include "shell/fields/number_field.h"
 #include "shell/fields/phrases.h"
 #include "shell/pages/element_name.h"
@@ -16,10 +18,6 @@
 namespace velmar::shell {
 namespace {
 
-constexpr MessageRow kDescriptionRow{94};
-constexpr MessageRow kAreaRow{95};
-constexpr MessageRow kRatingTipRow{1344};
-constexpr MessageRow kAreaTipRow{1345};
 // Symbols and units, the same in every language.
 constexpr const char* kRating = "Rw (dB)";
 constexpr const char* kSmallRating = "Dnew (dB)";
@@ -68,24 +66,38 @@ void ElementForm::AddDescription(const ElementNames& names) {
 
 void ElementForm::AddArea(const ElementNames& names) {
   area_ = new NumberField(names.area, element_ == 0 ? NumberKind::kReal : NumberKind::kArea, this);
-  area_label_ = LabelFor(area_, kAreaRow, context_, this);
+  area_label_ = LabelFor(area_, element_ == 0 ? kFacadeAreaRow : kPartAreaRow, context_, this);
   area_->setAccessibleName(area_label_->text());
   area_->setToolTip(Text(context_.Words(), kAreaTipRow));
-  area_->OnEdit([this](const std::string& text) {
-    bool stays = true;
-    context_.open.EditKeepingResult([&](elements::Setup& setup) {
-      stays = Visited(setup, element_, [&](auto& element) {
-        return element_ == 0 ? calculation::EnterElementNumber(element.area_text, text)
-                             : calculation::EnterComponentArea(element.area_text, text);
+  context_.Watch(area_);
+  connect(area_, &NumberField::Edited, this, [this](const std::string& text) {
+    context_.Edit([&](elements::Setup& setup) {
+      Visited(setup, element_, [&](auto& element) {
+        element_ == 0 ? calculation::EnterElementNumber(element.area_text, text)
+                      : calculation::EnterComponentArea(element.area_text, text);
       });
     });
-    if (!stays) context_.open.DropResult();
   });
   area_line_ = new QHBoxLayout;
   area_line_->addWidget(area_);
+  if (element_ > 0) AddSmallElementCheck(names.area);
   area_line_->addStretch(1);
   grid_->addWidget(area_label_, line_, 0);
   grid_->addLayout(area_line_, line_++, 1);
+}
+
+// An element that is rated by its Dn,e has no area.
+void ElementForm::AddSmallElementCheck(const QString& area_name) {
+  small_ = new QCheckBox(Text(context_.Words(), kSmallElementCheckRow), this);
+  small_->setObjectName("Check" + area_name);
+  connect(small_, &QCheckBox::clicked, this, [this](bool small) {
+    context_.Edit([&](elements::Setup& setup) {
+      Visited(setup, element_,
+              [&](auto& element) { element.area_text = small ? elements::kSmallElementArea : ""; });
+    });
+    if (!small) area_->setFocus(Qt::OtherFocusReason);
+  });
+  area_line_->addWidget(small_);
 }
 
 void ElementForm::AddBehindArea(QWidget* widget) {
@@ -98,7 +110,9 @@ void ElementForm::AddRatings(const ElementNames& names) {
                              QWidget* parent) {
     auto* field = new NumberField(name, kind, parent);
     field->setAccessibleName(caption);
-    field->OnEdit([this, box_of](const std::string& text) { Enter(box_of, text); });
+    context_.Watch(field);
+    connect(field, &NumberField::Edited, this,
+            [this, box_of](const std::string& text) { Enter(box_of, text); });
     return field;
   };
   rating_ = number(
@@ -137,22 +151,24 @@ void ElementForm::AddLine(QLabel* label, const std::vector<QWidget*>& fields) {
 }
 
 void ElementForm::AddBands(const ElementNames& names) {
-  bands_ = std::make_unique<BandBoxes>(names.bands_frame, names.bands, this);
-  bands_->OnEdit([this](std::size_t band, const std::string& text) {
+  bands_ = new BandBoxes(names.bands_frame, names.bands, context_.Words(), this);
+  for (NumberField* box : bands_->Boxes()) context_.Watch(box);
+  connect(bands_, &BandBoxes::Edited, this, [this](std::size_t band, const std::string& text) {
     Enter([band](auto& element) -> std::string& { return element.band_texts.at(band); }, text);
   });
-  grid_->addWidget(bands_->Frame(), kBandsLine, 0, 1, 2);
+  connect(bands_, &BandBoxes::Pasted, this, [this](const elements::BandTexts& texts) {
+    context_.Edit([&](elements::Setup& setup) {
+      Visited(setup, element_, [&](auto& element) { element.band_texts = texts; });
+    });
+  });
+  grid_->addWidget(bands_, kBandsLine, 0, 1, 2);
 }
 
 template <typename BoxOf>
 void ElementForm::Enter(BoxOf&& box_of, const std::string& text) {
-  bool stays = true;
-  const auto enter = [&](elements::Setup& setup) {
-    stays = Visited(setup, element_,
-                    [&](auto& element) { return calculation::EnterElementNumber(box_of(element), text); });
-  };
-  context_.open.EditKeepingResult(enter);
-  if (!stays) context_.open.DropResult();
+  context_.Edit([&](elements::Setup& setup) {
+    Visited(setup, element_, [&](auto& element) { calculation::EnterElementNumber(box_of(element), text); });
+  });
 }
 
 void ElementForm::SetNameLabel(const QString& text) { name_label_->setText(text); }
@@ -170,6 +186,8 @@ void ElementForm::Show(const elements::Setup& setup) {
     if (const QString description = FromUtf8(element.description); description != description_->text())
       description_->setText(description);
     area_->Show(element.area_text);
+    area_->setEnabled(!small || area_->hasFocus());
+    if (small_ != nullptr) small_->setChecked(small);
     rating_->Show(element.rating_text);
     c_->Show(element.c_text);
     ctr_->Show(element.ctr_text);
@@ -177,7 +195,7 @@ void ElementForm::Show(const elements::Setup& setup) {
     bands_->Show(element.band_texts, small ? kSmallBands : kBands);
   });
   terms_->setVisible(simplified);
-  bands_->Frame()->setVisible(!simplified);
+  bands_->setVisible(!simplified);
   // A component's rating is shown by the simplified form alone, the base element's only opened by it.
   const bool open = simplified || rating_always_open_;
   rating_->setEnabled(open);

@@ -1,12 +1,12 @@
 #pragma once
 
 #include <QWidget>
-#include <memory>
 #include <vector>
 
 #include "shell/fields/band_boxes.h"
 #include "shell/pages/page_context.h"
 
+class QCheckBox;
 class QGridLayout;
 class QHBoxLayout;
 class QLabel;
@@ -36,6 +36,8 @@ struct ElementNames {
 /// The fields that the base element and the components of a facade share: name, description, area, rating,
 /// adaptation terms, band values. Labels and fields stand in columns.
 class ElementForm : public QWidget {
+  Q_OBJECT
+
  public:
   /// @param element 0: the base element; 1 to 9: a component
   ElementForm(int element, const ElementNames& names, PageContext& context, QWidget* parent);
@@ -55,6 +57,7 @@ class ElementForm : public QWidget {
   void AddName(const ElementNames& names);
   void AddDescription(const ElementNames& names);
   void AddArea(const ElementNames& names);
+  void AddSmallElementCheck(const QString& area_name);
   void AddRatings(const ElementNames& names);
   void AddBands(const ElementNames& names);
   template <typename BoxOf>
@@ -69,13 +72,14 @@ class ElementForm : public QWidget {
   QLineEdit* description_ = nullptr;
   QLabel* area_label_ = nullptr;
   NumberField* area_ = nullptr;
+  QCheckBox* small_ = nullptr;  ///< of a component alone
   QHBoxLayout* area_line_ = nullptr;
   QLabel* rating_label_ = nullptr;
   NumberField* rating_ = nullptr;
   QWidget* terms_ = nullptr;
   NumberField* c_ = nullptr;
   NumberField* ctr_ = nullptr;
-  std::unique_ptr<BandBoxes> bands_;
+  BandBoxes* bands_ = nullptr;
   bool rating_always_open_ = false;
 };
 

@@ -6,9 +6,11 @@
 #include <QLabel>
 #include <QToolButton>
 #include <QVBoxLayout>
+#include <cmath>
 
-#include "calculation/select_calculation.h"
 #include "foundation/decimal.h"
+#include "foundation/message_rows.h"
+#include "presentation/texts/calculation_labels.h"
 #include "shell/fields/icons.h"
 #include "shell/fields/list_boxes.h"
 #include "shell/fields/number_field.h"
@@ -18,22 +20,7 @@
 namespace velmar::shell {
 namespace {
 
-using calculation::SupportField;
-
-constexpr MessageRow kThicknessRow{177};
-constexpr MessageRow kMassRow{217};
-constexpr MessageRow kSupportDistanceRow{77};
-constexpr MessageRow kConnectionsRow{57};
-constexpr MessageRow kHangerRow{76};
-constexpr std::array kHangerRows = {MessageRow{415}, MessageRow{416}, MessageRow{417}};
-constexpr MessageRow kDecoupledRow{414};
-constexpr MessageRow kDimensionsTipRow{312};
-constexpr MessageRow kThicknessTipRow{1330};
-constexpr MessageRow kMassTipRow{1331};
-constexpr MessageRow kSupportTipRow{1332};
-constexpr MessageRow kConnectionsTipRow{1333};
-constexpr MessageRow kHangerTipRow{1334};
-constexpr MessageRow kDecoupledTipRow{1335};
+using elements::Field;
 
 /// The element's name ends in a colon where its label once stood before a field.
 QString WithoutColon(QString text) {
@@ -117,8 +104,8 @@ void ElementHeader::AddNumbers(QVBoxLayout& column, std::function<void()> edit_d
     totals->addSpacing(2 * kPageSpacing);
     return value;
   };
-  thickness_ = add_total("Text3", kThicknessRow, kThicknessTipRow);
-  mass_ = add_total("Text4", kMassRow, kMassTipRow);
+  thickness_ = add_total("Text3", kTotalThicknessRow, kTotalThicknessTipRow);
+  mass_ = add_total("Text4", kSurfaceMassRow, kMassTipRow);
   line->addWidget(totals_);
   line->addStretch(1);
 }
@@ -131,24 +118,25 @@ void ElementHeader::AddConnections(QVBoxLayout& column) {
   line->setContentsMargins(0, 0, 0, 0);
   line->setSpacing(kPageSpacing);
   support_ = new NumberField("Text8", NumberKind::kReal, connections_);
-  support_->OnEdit([this](const std::string& text) {
-    context_.open.Edit([&](elements::Setup& setup) { setup.support_distance_text = text; });
+  context_.Watch(support_);
+  connect(support_, &NumberField::Edited, this, [this](const std::string& text) {
+    context_.Edit([&](elements::Setup& setup) { setup.support_distance_text = text; });
   });
   support_label_ = LabelFor(support_, kSupportDistanceRow, context_, connections_);
   hanger_ = new ChoiceBox("ComboTipoAppendino", connections_);
   QStringList hangers;
-  for (const MessageRow row : kHangerRows) hangers += Text(words, row);
+  for (const MessageRow row : presentation::kHangerRows) hangers += Text(words, row);
   hanger_->Offer(hangers);
   hanger_->setToolTip(Text(words, kHangerTipRow));
-  hanger_->setAccessibleDescription(Text(words, kHangerRow));
-  hanger_->OnChoice(
-      [this](int index) { context_.open.Edit([index](elements::Setup& setup) { setup.hanger = index; }); });
-  hanger_label_ = LabelFor(hanger_, kHangerRow, context_, connections_);
+  hanger_->setAccessibleDescription(Text(words, kConnectionTypeRow));
+  connect(hanger_, &QComboBox::activated, this,
+          [this](int index) { context_.Edit([index](elements::Setup& setup) { setup.hanger = index; }); });
+  hanger_label_ = LabelFor(hanger_, kConnectionTypeRow, context_, connections_);
   decoupled_ = new QCheckBox(Text(words, kDecoupledRow), connections_);
   decoupled_->setObjectName("CheckDesolidarizza");
   decoupled_->setToolTip(Text(words, kDecoupledTipRow));
   connect(decoupled_, &QCheckBox::clicked, this, [this](bool ticked) {
-    context_.open.Edit([ticked](elements::Setup& setup) { setup.decoupled = ticked; });
+    context_.Edit([ticked](elements::Setup& setup) { setup.decoupled = ticked; });
   });
   for (QWidget* widget : {static_cast<QWidget*>(support_label_), static_cast<QWidget*>(support_),
                           static_cast<QWidget*>(hanger_label_), static_cast<QWidget*>(hanger_),
@@ -162,7 +150,6 @@ void ElementHeader::Show() {
   const elements::Setup& setup = context_.open.Setup();
   if (!setup.calculation) return;
   const elements::CalculationRow& row = RowOf(*setup.calculation);
-  const calculation::FieldLayout layout = calculation::LayoutOf(*setup.calculation);
   const auto& words = context_.Words();
   element_type_->setText(WithoutColon(Text(words, row.element_type.Line())));
   theory_->setText(Text(words, row.theory.Line()));
@@ -170,7 +157,10 @@ void ElementHeader::Show() {
   height_->setText(FromUtf8(setup.height_text) + " m");
   const calculation::Totals& totals = context_.open.CurrentTotals();
   thickness_->setText(FromUtf8(FormatShortest(totals.thickness_mm)));
-  mass_->setText(FromUtf8(FormatShortest(totals.surface_mass_kg_m2)));
+  // The relations read all decimals; the eye needs one.
+  mass_->setText(std::isfinite(totals.surface_mass_kg_m2)
+                     ? FromUtf8(FormatFixed(totals.surface_mass_kg_m2, 1))
+                     : QStringLiteral("—"));
   // A facade has an area, which is entered on its own page too, and no layers.
   const bool facade = row.family == elements::Family::kFacade;
   totals_->setVisible(!facade);
@@ -179,9 +169,8 @@ void ElementHeader::Show() {
   area_->setText(area + QStringLiteral(" m²"));
   area_->setVisible(facade && !area.isEmpty());
 
-  const bool support = layout.support != SupportField::kHidden;
-  const bool counts =
-      layout.support == SupportField::kPointConnections || layout.support == SupportField::kLineConnections;
+  const bool support = row.Reads(Field::kSupport);
+  const bool counts = IsCount(row.support);
   support_->SetKind(counts ? NumberKind::kInteger : NumberKind::kReal);
   support_->Show(setup.support_distance_text);
   support_label_->setText(Text(words, counts ? kConnectionsRow : kSupportDistanceRow));
@@ -190,11 +179,11 @@ void ElementHeader::Show() {
   support_label_->setVisible(support);
   support_->setVisible(support);
   hanger_->Show(setup.hanger);
-  hanger_label_->setVisible(layout.hanger_shown);
-  hanger_->setVisible(layout.hanger_shown);
+  hanger_label_->setVisible(row.Reads(Field::kHanger));
+  hanger_->setVisible(row.Reads(Field::kHanger));
   decoupled_->setChecked(setup.decoupled);
-  decoupled_->setVisible(layout.decoupling_shown);
-  connections_->setVisible(support || layout.hanger_shown || layout.decoupling_shown);
+  decoupled_->setVisible(row.Reads(Field::kDecoupling));
+  connections_->setVisible(support || row.Reads(Field::kHanger) || row.Reads(Field::kDecoupling));
 }
 
 }  // namespace velmar::shell

@@ -4,25 +4,18 @@
 #include <QPushButton>
 #include <QToolButton>
 
+#include "foundation/message_rows.h"
 #include "shell/fields/icons.h"
 #include "shell/fields/name_box.h"
 #include "shell/fields/phrases.h"
 #include "shell/pages/element_parts.h"
 
 namespace velmar::shell {
-namespace {
-
-constexpr MessageRow kMeasuredRow{97};
-constexpr MessageRow kSavedResultsRow{374};
-constexpr MessageRow kOpaquePartRow{260};
-constexpr MessageRow kComponentRow{378};
-
-}  // namespace
-
 ElementName::ElementName(int element, const ElementSourceNames& names, PageContext& context, QWidget* parent)
     : QWidget(parent), element_(element), context_(context) {
   name_ = new NameBox(names.name, context_.services.saved_results, this);
-  name_->OnName([this](const std::string& name) { TakeName(name); });
+  connect(name_, &NameBox::Named, this, &ElementName::TakeName);
+  context_.Watch(name_);
   setFocusProxy(name_);
   auto* line = new QHBoxLayout(this);
   line->setContentsMargins(0, 0, 0, 0);
@@ -36,7 +29,7 @@ void ElementName::Show(const elements::Setup& setup) {
 }
 
 QToolButton* ElementName::MakeChooser(const QString& name) {
-  const QString words = Text(context_.Words(), kSavedResultsRow);
+  const QString words = Text(context_.Words(), kResultsDatabaseRow);
   auto* chooser = new QToolButton(this);
   chooser->setObjectName(name);
   chooser->setIcon(LineIcon("list"));
@@ -53,14 +46,14 @@ QToolButton* ElementName::MakeChooser(const QString& name) {
 }
 
 QPushButton* ElementName::MakeMeasured(const QString& name) {
-  auto* measured = new QPushButton(Text(context_.Words(), kMeasuredRow), this);
+  auto* measured = new QPushButton(Text(context_.Words(), kMeasuredDataRow), this);
   measured->setObjectName(name);
   measured->setEnabled(static_cast<bool>(context_.services.pick_measured));
   connect(measured, &QPushButton::clicked, this, [this] {
     const auto& pick = context_.services.pick_measured;
-    const QString caption =
-        element_ == 0 ? Text(context_.Words(), kOpaquePartRow) + ':'
-                      : Text(context_.Words(), kComponentRow) + ' ' + QString::number(element_) + ':';
+    const QString caption = element_ == 0 ? Text(context_.Words(), kOpaquePartRow) + ':'
+                                          : Text(context_.Words(), kComponentOfCaptionRow) + ' ' +
+                                                QString::number(element_) + ':';
     if (pick) pick(window(), {element_, caption});
   });
   return measured;
@@ -69,7 +62,7 @@ QPushButton* ElementName::MakeMeasured(const QString& name) {
 void ElementName::TakeName(const std::string& name) {
   const auto& read = context_.services.saved_result;
   const std::optional<calculation::FacadePart> part = read ? read(name) : std::nullopt;
-  context_.open.Edit([&](elements::Setup& setup) {
+  context_.Edit([&](elements::Setup& setup) {
     if (part) {
       TakePart(setup, element_, *part);
     } else {

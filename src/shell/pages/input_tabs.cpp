@@ -6,6 +6,7 @@
 #include <algorithm>
 
 #include "shell/fields/icons.h"
+#include "shell/fields/number_field.h"
 #include "shell/fields/phrases.h"
 #include "shell/pages/base_element_page.h"
 #include "shell/pages/cavity_page.h"
@@ -56,9 +57,12 @@ void InputTabs::AddKeys() {
       const auto shown = TabsOf(*laid_out_);
       if (place < static_cast<int>(shown.size()))
         setCurrentIndex(static_cast<int>(shown.at(static_cast<std::size_t>(place)).tab));
+      FocusFirst();
     });
   }
 }
+
+void InputTabs::FocusFirst() { FocusFirstField(currentWidget()); }
 
 void InputTabs::ShowFirst() {
   if (laid_out_) setCurrentIndex(static_cast<int>(TabsOf(*laid_out_).front().tab));

@@ -12,8 +12,10 @@ namespace velmar::shell {
 class Page;
 
 /// The tab strip with the input pages (`SSTab1`). Each calculation shows its own tabs; Ctrl+1 to Ctrl+9 reach
-/// them in their order.
+/// their first fields, in their order.
 class InputTabs : public QTabWidget {
+  Q_OBJECT
+
  public:
   explicit InputTabs(PageContext& context, QWidget* parent = nullptr);
 
@@ -22,6 +24,8 @@ class InputTabs : public QTabWidget {
   /// The next Show() begins at the first tab, as after a choice of calculation.
   void LayOutAnew() { laid_out_.reset(); }
   void ShowFirst();
+  /// Puts the keys into the first field of the page that is shown.
+  void FocusFirst();
 
  private:
   void AddKeys();

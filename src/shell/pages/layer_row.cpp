@@ -6,11 +6,13 @@
 #include <QEvent>
 #include <QGridLayout>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMouseEvent>
 #include <QToolButton>
 
 #include "calculation/layer_edits.h"
 #include "foundation/decimal.h"
+#include "foundation/message_rows.h"
 #include "shell/fields/icons.h"
 #include "shell/fields/list_boxes.h"
 #include "shell/fields/material_box.h"
@@ -20,16 +22,6 @@
 namespace velmar::shell {
 namespace {
 
-constexpr MessageRow kMaterialRow{88};
-constexpr MessageRow kThicknessRow{85};
-constexpr MessageRow kSheetsRow{86};
-constexpr MessageRow kChooserTipRow{362};
-constexpr MessageRow kLeftSideRow{89};
-constexpr MessageRow kRightSideRow{90};
-constexpr MessageRow kDampingRow{122};
-constexpr MessageRow kThicknessTipRow{1340};
-constexpr MessageRow kSheetsTipRow{1341};
-constexpr int kMostSheetsOffered = 10;
 constexpr int kGroupsOfTwo = 2;
 
 bool Knows(const elements::MaterialLookup& materials, elements::MaterialFamily family,
@@ -65,9 +57,10 @@ LayerRow::LayerRow(const LayerRowPlan& plan, PageContext& context, QGridLayout& 
   MakeFields(page);
   MoveTo(grid, line);
   ForEachWidget([this](QWidget* widget) { widget->installEventFilter(this); });
-  context_.on_section_hover.emplace_back([this](const std::optional<presentation::LayerPlace>& place) {
-    Light(place == presentation::LayerPlace{plan_.group, plan_.index});
-  });
+  connect(&context_, &PageContext::SectionHovered, this,
+          [this](const std::optional<presentation::LayerPlace>& place) {
+            Light(place == presentation::LayerPlace{plan_.group, plan_.index});
+          });
 }
 
 void LayerRow::Light(bool lit) {
@@ -83,7 +76,7 @@ void LayerRow::MakeLead(QWidget* page) {
     check_ = new QCheckBox(Text(words, CheckCaption(plan_)), page);
     check_->setObjectName(ArrayName(plan_.check, plan_.index));
     connect(check_, &QCheckBox::clicked, this, [this](bool ticked) {
-      context_.open.Edit(
+      context_.Edit(
           [&](elements::Setup& setup) { calculation::TickDamping(setup, plan_.group, plan_.index, ticked); });
     });
     return;
@@ -101,23 +94,27 @@ void LayerRow::MakeFields(QWidget* page) {
   material_ = new MaterialBox(ArrayName(group.list, plan_.index), group.family,
                               context_.materials.NamesOf(plan_.group), page);
   material_->setAccessibleDescription(Text(words, kMaterialRow) + row);
-  material_->OnChoice([this](const std::string& name) { PutMaterial(name); });
+  connect(material_, &MaterialBox::Chosen, this, &LayerRow::PutMaterial);
+  context_.Watch(material_);
 
   thickness_ = new NumberField(ArrayName(group.thickness_box, plan_.index), NumberKind::kReal, page);
-  thickness_->setAccessibleName(Text(words, kThicknessRow) + row);
-  thickness_->setToolTip(Text(words, kThicknessTipRow));
-  thickness_->OnEdit([this](const std::string& text) {
-    context_.open.Edit([&](elements::Setup& setup) {
+  thickness_->setAccessibleName(Text(words, kLayerThicknessRow) + row);
+  thickness_->setToolTip(Text(words, kLayerThicknessTipRow));
+  connect(thickness_, &NumberField::Edited, this, [this](const std::string& text) {
+    context_.Edit([&](elements::Setup& setup) {
       calculation::EnterLayerThickness(setup, plan_.group, plan_.index, text);
     });
   });
+  connect(thickness_, &NumberField::Left, this, &LayerRow::LeaveThickness);
+  context_.Watch(thickness_);
 
   if (plan_.count_box != nullptr) {
-    sheets_ = new CountBox(ArrayName(plan_.count_box, plan_.index), 1, kMostSheetsOffered, page);
+    sheets_ = new CountBox(ArrayName(plan_.count_box, plan_.index), 1, calculation::kMostSheets, page);
     sheets_->setAccessibleDescription(Text(words, kSheetsRow) + row);
     sheets_->setToolTip(Text(words, kSheetsTipRow));
-    sheets_->OnEdit([this](const std::string& text) {
-      context_.open.Edit([&](elements::Setup& setup) {
+    context_.Watch(sheets_);
+    connect(sheets_, &CountBox::Edited, this, [this](const std::string& text) {
+      context_.Edit([&](elements::Setup& setup) {
         calculation::EnterMultiplicity(setup, plan_.group, plan_.index, text);
       });
     });
@@ -156,9 +153,16 @@ void LayerRow::ForEachWidget(Visit&& visit) const {
 
 void LayerRow::PutMaterial(const std::string& name) {
   if (!Knows(context_.services.materials, RowOf(plan_.group).family, name)) return;
-  context_.open.Edit([&](elements::Setup& setup) {
+  context_.Edit([&](elements::Setup& setup) {
     calculation::PutMaterial(setup, plan_.group, plan_.index, name, context_.services.materials);
   });
+}
+
+void LayerRow::LeaveThickness() {
+  elements::Setup left = context_.open.Setup();
+  if (!calculation::LeaveLayerThickness(left, plan_.group, plan_.index)) return;
+  context_.Edit([&](elements::Setup& setup) { setup = std::move(left); });
+  emit thickness_->Corrected(Correction::kNotPositive, 0);
 }
 
 void LayerRow::Show(const elements::Setup& setup, bool visible) {
@@ -166,6 +170,7 @@ void LayerRow::Show(const elements::Setup& setup, bool visible) {
   if (!visible) return;
   const calculation::LayerText row = calculation::LayerTextOf(setup, plan_.group, plan_.index);
   material_->Show(row.listed);
+  material_->lineEdit()->setPlaceholderText(Text(context_.Words(), kChooseMaterialRow));
   thickness_->Show(row.thickness_text);
   // An emptied box leaves the thickness as it was; the box says in grey what that is.
   const bool known = row.slot_thickness_mm > 0.0;
@@ -180,10 +185,10 @@ void LayerRow::Show(const elements::Setup& setup, bool visible) {
 }
 
 bool LayerRow::eventFilter(QObject* watched, QEvent* event) {
-  if (event->type() == QEvent::Enter && context_.on_hover) {
-    context_.on_hover(presentation::LayerPlace{plan_.group, plan_.index});
-  } else if (event->type() == QEvent::Leave && context_.on_hover) {
-    context_.on_hover(std::nullopt);
+  if (event->type() == QEvent::Enter) {
+    emit context_.RowHovered(presentation::LayerPlace{plan_.group, plan_.index});
+  } else if (event->type() == QEvent::Leave) {
+    emit context_.RowHovered(std::nullopt);
   } else if (event->type() == QEvent::MouseMove && watched == number_) {
     if (static_cast<QMouseEvent*>(event)->buttons() & Qt::LeftButton) Drag();
   }
@@ -207,7 +212,7 @@ std::vector<QWidget*> AddLayerHeads(QGridLayout& grid, int line, const PageConte
     grid.addWidget(heads.back(), line, column);
   };
   add(material, Qt::AlignLeft, LayerRow::kMaterialColumn);
-  add(Text(words, kThicknessRow), Qt::AlignRight, LayerRow::kThicknessColumn);
+  add(Text(words, kLayerThicknessRow), Qt::AlignRight, LayerRow::kThicknessColumn);
   if (with_sheets) add(Text(words, kSheetsRow), Qt::AlignRight, LayerRow::kSheetsColumn);
   grid.setColumnStretch(LayerRow::kMaterialColumn, 1);
   grid.setHorizontalSpacing(8);

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QObject>
-#include <functional>
 #include <vector>
 
 #include "elements/layer_groups.h"
@@ -31,6 +30,8 @@ struct LayerRowPlan {
 /// One row of a layer table, in one line of a grid: number or check, material, thickness, sheets, button of
 /// the material list. Columns: kLeadColumn to kChooserColumn.
 class LayerRow : public QObject {
+  Q_OBJECT
+
  public:
   static constexpr int kLeadColumn = 0;
   static constexpr int kMaterialColumn = 1;
@@ -53,6 +54,7 @@ class LayerRow : public QObject {
   void MakeLead(QWidget* page);
   void MakeFields(QWidget* page);
   void PutMaterial(const std::string& name);
+  void LeaveThickness();
   void Drag();
   void Light(bool lit);
   template <typename Visit>

@@ -43,8 +43,9 @@ LeafPage::LeafPage(Leaf leaf, PageContext& context, QWidget* parent)
                                       context, *column, this);
   count_ = head.count;
   filter_ = head.filter;
-  count_->OnEdit([this, controls](const std::string& text) {
-    context_.open.Edit([&](elements::Setup& setup) {
+  context_.Watch(count_);
+  connect(count_, &CountBox::Edited, this, [this, controls](const std::string& text) {
+    context_.Edit([&](elements::Setup& setup) {
       leaf_ == Leaf::kFirst ? calculation::EnterLeaf1Count(setup, text)
                             : calculation::EnterLeaf2Count(setup, text);
       calculation::ReloadLayers(setup, controls.group, context_.services.materials);

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "foundation/message_rows.h"
 #include "shell/fields/phrases.h"
 
 namespace velmar::shell {
@@ -10,8 +11,6 @@ namespace {
 using elements::LayerGroup;
 using elements::MaterialFamily;
 
-constexpr MessageRow kAllRow{367};
-constexpr MessageRow kNotSpecifiedRow{325};
 constexpr std::array kFamilies = {MaterialFamily::kStructural, MaterialFamily::kFibrous,
                                   MaterialFamily::kResilient};
 constexpr std::array kFilters = {FilterId::kLeaf1, FilterId::kLeaf2, FilterId::kResilient, FilterId::kCavity};
@@ -56,7 +55,7 @@ void Forget(QStringListModel& offered, const QString& name) {
 }  // namespace
 
 MaterialLists::MaterialLists(const WindowServices& services)
-    : services_(services), words_{services.words(kAllRow), services.words(kNotSpecifiedRow)} {
+    : services_(services), words_{services.words(kAllKeywordsRow), services.words(kNotSpecifiedRow)} {
   chosen_.fill(FromUtf8(words_.all));
   Reload();
 }

@@ -1,11 +1,13 @@
 #pragma once
 
-#include <functional>
+#include <QObject>
 #include <optional>
-#include <vector>
+#include <utility>
 
+#include "calculation/material_choice.h"
 #include "calculation/open_calculation.h"
 #include "presentation/drawing/section.h"
+#include "shell/fields/corrections.h"
 #include "shell/pages/material_lists.h"
 #include "shell/pages/window_services.h"
 
@@ -13,17 +15,49 @@ namespace velmar::shell {
 
 /// What an input page is given. A page shows the set-up and reports edits to the open calculation; it knows
 /// neither its window nor the other pages.
-struct PageContext {
+class PageContext : public QObject {
+  Q_OBJECT
+
+ public:
+  PageContext(calculation::OpenCalculation& open_calculation, const WindowServices& window_services,
+              MaterialLists& lists);
+
   calculation::OpenCalculation& open;
   const WindowServices& services;
   MaterialLists& materials;
-  /// Told which layer row is under the mouse, nothing when none is.
-  std::function<void(const std::optional<presentation::LayerPlace>&)> on_hover{};
-
-  /// Told which layer is under the mouse in the section drawing; layer rows listen.
-  std::vector<std::function<void(const std::optional<presentation::LayerPlace>&)>> on_section_hover{};
 
   const presentation::Words& Words() const { return services.words; }
+
+  /// The way of a page to change the set-up. Layer rows that come into use by it read their material.
+  template <typename Change>
+  void Edit(Change&& change) {
+    open.Edit([&](elements::Setup& setup) {
+      std::forward<Change>(change)(setup);
+      calculation::LoadRowsInUse(setup, services.materials);
+    });
+  }
+
+  /// What `field` corrects stands beside it from now on, and the field settles when the window asks for it.
+  /// @param Field has the signal Corrected; where it has a slot Settle, that is used too
+  template <typename Field>
+  void Watch(Field* field) {
+    if constexpr (requires { &Field::Corrected; }) {
+      connect(field, &Field::Corrected, this, [this, field](Correction correction, int limit) {
+        NoteCorrection(field, correction, limit, Words());
+      });
+    }
+    if constexpr (requires { &Field::Settle; })
+      connect(this, &PageContext::SettleAsked, field, &Field::Settle);
+  }
+
+ signals:
+  /// The mouse is over a layer row, or over none.
+  void RowHovered(const std::optional<velmar::presentation::LayerPlace>& place);
+  /// The mouse is over a layer of the section drawing, or over none.
+  void SectionHovered(const std::optional<velmar::presentation::LayerPlace>& place);
+  /// Whatever was typed and is not yet taken is to be taken now: before a run, or before the project is
+  /// saved.
+  void SettleAsked();
 };
 
 }  // namespace velmar::shell

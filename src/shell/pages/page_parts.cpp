@@ -4,16 +4,11 @@
 #include <QLabel>
 #include <QVBoxLayout>
 
+#include "foundation/message_rows.h"
 #include "shell/fields/list_boxes.h"
 #include "shell/fields/phrases.h"
 
 namespace velmar::shell {
-namespace {
-
-constexpr MessageRow kCountRow{83};
-
-}  // namespace
-
 QVBoxLayout* PageLayout(QWidget* page) {
   auto* column = new QVBoxLayout(page);
   column->setContentsMargins(kPageMargin, kPageMargin, kPageMargin, kPageMargin);
@@ -38,8 +33,8 @@ TableHead AddTableHead(const TableHeadPlan& plan, PageContext& context, QVBoxLay
   TableHead head;
   QHBoxLayout* line = AddLine(column);
   head.count = new CountBox(plan.count_name, plan.lowest, plan.highest, page);
-  head.count->setAccessibleDescription(Text(context.Words(), kCountRow));
-  head.count_label = LabelFor(head.count, kCountRow, context, page);
+  head.count->setAccessibleDescription(Text(context.Words(), kMaterialCountRow));
+  head.count_label = LabelFor(head.count, kMaterialCountRow, context, page);
   line->addWidget(head.count_label);
   line->addWidget(head.count);
   line->addSpacing(2 * kPageSpacing);
@@ -51,7 +46,8 @@ TableHead AddTableHead(const TableHeadPlan& plan, PageContext& context, QVBoxLay
     ChoiceBox* box = head.filter;
     MaterialLists* lists = &context.materials;
     const FilterId filter = plan.filter;
-    box->OnChoice([box, lists, filter](int index) { lists->Choose(filter, box->itemText(index)); });
+    QObject::connect(box, &QComboBox::activated, page,
+                     [box, lists, filter](int index) { lists->Choose(filter, box->itemText(index)); });
     line->addWidget(head.filter_label);
     line->addWidget(box);
   }

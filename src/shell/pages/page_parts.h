@@ -3,6 +3,7 @@
 #include <QString>
 
 #include "foundation/message.h"
+#include "foundation/message_rows.h"
 #include "shell/pages/material_lists.h"
 #include "shell/pages/page_context.h"
 
@@ -43,7 +44,7 @@ struct TableHeadPlan {
   int highest = 1;
   QString filter_name{};  ///< empty: the table has no filter
   FilterId filter = FilterId::kLeaf1;
-  MessageRow filter_label{87};
+  MessageRow filter_label = kMaterialTypeFilterRow;
 };
 TableHead AddTableHead(const TableHeadPlan& plan, PageContext& context, QVBoxLayout& column, QWidget* page);
 

@@ -23,8 +23,9 @@ ResilientLayersPage::ResilientLayersPage(PageContext& context, QWidget* parent)
                                       context, *column, this);
   count_ = head.count;
   filter_ = head.filter;
-  count_->OnEdit([this](const std::string& text) {
-    context_.open.Edit([&](elements::Setup& setup) {
+  context_.Watch(count_);
+  connect(count_, &CountBox::Edited, this, [this](const std::string& text) {
+    context_.Edit([&](elements::Setup& setup) {
       calculation::EnterResilientCount(setup, text);
       calculation::ReloadLayers(setup, elements::LayerGroup::kResilient, context_.services.materials);
     });

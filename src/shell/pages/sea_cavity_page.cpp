@@ -7,7 +7,7 @@
 
 #include "calculation/cavity_rules.h"
 #include "calculation/layer_edits.h"
-#include "calculation/select_calculation.h"
+#include "foundation/message_rows.h"
 #include "shell/fields/corrections.h"
 #include "shell/fields/list_boxes.h"
 #include "shell/fields/number_field.h"
@@ -19,29 +19,17 @@ namespace velmar::shell {
 namespace {
 
 using elements::LayerGroup;
+using elements::SeaCavityContent;
 using elements::SeaCavityType;
-
-constexpr MessageRow kLayersRow{120};
-constexpr MessageRow kThicknessRow{85};
-constexpr MessageRow kEmptyRow{156};
-constexpr MessageRow kFibreRow{157};
-constexpr MessageRow kMassRow{158};
-constexpr MessageRow kFibreLabelRow{119};
-constexpr MessageRow kMassLabelRow{121};
-constexpr MessageRow kDepthTipRow{1342};
-
-/// What stands in a cavity from its first side on; F a fibre, M a mass.
-constexpr std::array<const char*, elements::kSeaCavityTypeCount> kContents = {"",    "F",    "FM",   "MFM",
-                                                                              "FMF", "FMFM", "FMFMF"};
 
 }  // namespace
 
 QStringList SeaCavityTypeNames(const presentation::Words& words, int count) {
-  QStringList names = {Text(words, kEmptyRow)};
+  QStringList names = {Text(words, kEmptySeaCavityRow)};
   for (int type = 1; type < count; ++type) {
     QStringList pieces;
-    for (const char* content = kContents.at(static_cast<std::size_t>(type)); *content != '\0'; ++content)
-      pieces += Text(words, *content == 'F' ? kFibreRow : kMassRow);
+    for (const SeaCavityContent content : elements::ContentsOf(static_cast<SeaCavityType>(type)))
+      pieces += Text(words, content == SeaCavityContent::kFibre ? kFibreLayerRow : kMassLayerRow);
     names += pieces.join("+ ");
   }
   return names;
@@ -62,29 +50,30 @@ void SeaCavityPage::AddHead(QVBoxLayout& column) {
   fields->setColumnStretch(1, 1);
   column.addLayout(fields);
   type_ = new ChoiceBox("ComboTipoIntercSEA", this);
-  type_->setAccessibleDescription(Text(context_.Words(), kLayersRow));
-  type_->OnChoice([this](int index) {
-    context_.open.Edit([index](elements::Setup& setup) {
+  type_->setAccessibleDescription(Text(context_.Words(), kSeaCavityLayersRow));
+  connect(type_, &QComboBox::activated, this, [this](int index) {
+    context_.Edit([index](elements::Setup& setup) {
       calculation::ChooseSeaCavityType(setup, static_cast<SeaCavityType>(index));
     });
   });
   depth_ = new NumberField("TextSpessoreIntercSEA", NumberKind::kReal, this);
-  depth_->setAccessibleName(Text(context_.Words(), kThicknessRow));
+  depth_->setAccessibleName(Text(context_.Words(), kLayerThicknessRow));
   depth_->setToolTip(Text(context_.Words(), kDepthTipRow));
-  depth_->OnEdit([this](const std::string& text) {
-    context_.open.Edit([&](elements::Setup& setup) { setup.sea_cavity.depth_text = text; });
+  context_.Watch(depth_);
+  connect(depth_, &NumberField::Edited, this, [this](const std::string& text) {
+    context_.Edit([&](elements::Setup& setup) { setup.sea_cavity.depth_text = text; });
   });
-  depth_->OnLeave([this] {
+  connect(depth_, &NumberField::Left, this, [this] {
     if (!context_.open.IsTouched()) return;
     elements::Setup left = context_.open.Setup();
     calculation::LeaveSeaCavityDepth(left);
     if (left == context_.open.Setup()) return;
-    context_.open.Edit([&](elements::Setup& setup) { setup = std::move(left); });
+    context_.Edit([&](elements::Setup& setup) { setup = std::move(left); });
     NoteCorrection(depth_, Correction::kRaised, 0, context_.Words());
   });
-  fields->addWidget(LabelFor(type_, kLayersRow, context_, this), 0, 0);
+  fields->addWidget(LabelFor(type_, kSeaCavityLayersRow, context_, this), 0, 0);
   fields->addWidget(type_, 0, 1);
-  fields->addWidget(LabelFor(depth_, kThicknessRow, context_, this), 1, 0);
+  fields->addWidget(LabelFor(depth_, kLayerThicknessRow, context_, this), 1, 0);
   fields->addWidget(depth_, 1, 1, Qt::AlignLeft);
 }
 
@@ -106,8 +95,8 @@ void SeaCavityPage::Arrange(SeaCavityType type) {
   int line = 1;
   std::size_t fibre = 0;
   std::size_t mass = 0;
-  for (const char* content = kContents.at(static_cast<std::size_t>(type)); *content != '\0'; ++content) {
-    if (*content == 'F') {
+  for (const SeaCavityContent content : elements::ContentsOf(type)) {
+    if (content == SeaCavityContent::kFibre) {
       fibres_.at(fibre++)->MoveTo(*grid_, line++);
     } else {
       masses_.at(mass)->MoveTo(*grid_, line++);
@@ -119,7 +108,7 @@ void SeaCavityPage::Arrange(SeaCavityType type) {
 void SeaCavityPage::Show(const elements::Setup& setup) {
   if (!setup.calculation) return;
   const elements::SeaCavity& cavity = setup.sea_cavity;
-  const int offered = calculation::LayoutOf(*setup.calculation).cavity_types;
+  const int offered = RowOf(*setup.calculation).sea_cavity_types;
   type_->Offer(SeaCavityTypeNames(context_.Words(), std::max(offered, static_cast<int>(cavity.type) + 1)));
   type_->Show(static_cast<int>(cavity.type));
   depth_->Show(cavity.depth_text);

@@ -6,6 +6,7 @@
 
 #include "calculation/count_rules.h"
 #include "calculation/material_choice.h"
+#include "foundation/message_rows.h"
 #include "shell/fields/list_boxes.h"
 #include "shell/fields/phrases.h"
 #include "shell/pages/layer_row.h"
@@ -15,8 +16,6 @@ namespace velmar::shell {
 namespace {
 
 using elements::LayerGroup;
-
-constexpr MessageRow kDampingRow{122};
 
 struct SideControls {
   LayerGroup layers{};
@@ -45,8 +44,9 @@ SeaLeafPage::SeaLeafPage(Side side, PageContext& context, QWidget* parent)
   count_ =
       AddTableHead({.count_name = controls.count, .lowest = 1, .highest = kCapacity}, context, *column, this)
           .count;
-  count_->OnEdit([this, controls](const std::string& text) {
-    context_.open.Edit([&](elements::Setup& setup) {
+  context_.Watch(count_);
+  connect(count_, &CountBox::Edited, this, [this, controls](const std::string& text) {
+    context_.Edit([&](elements::Setup& setup) {
       calculation::EnterSeaCount(LeafOf(setup, side_), text);
       calculation::ReloadLayers(setup, controls.layers, context_.services.materials);
     });

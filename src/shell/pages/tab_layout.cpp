@@ -1,73 +1,74 @@
 #include "shell/pages/tab_layout.h"
 
-#include <string_view>
+#include "elements/parts.h"
+#include "foundation/message_rows.h"
 
 namespace velmar::shell {
 namespace {
 
 using elements::CalculationRow;
-using elements::ElementButton;
-using elements::Family;
-using enum TabId;
+using elements::Orientation;
+using elements::Stack;
 
-// Captions.
-constexpr MessageRow kWall1{160};
-constexpr MessageRow kWall2{161};
-constexpr MessageRow kCavityRow{219};
-constexpr MessageRow kFloorRow{226};
-constexpr MessageRow kScreedRow{175};
-constexpr MessageRow kResilientRow{167};
-constexpr MessageRow kOpaqueRow{174};
-constexpr MessageRow kComponentsRow{169};
-constexpr MessageRow kBaseWallRow{168};
-constexpr MessageRow kBaseFloorRow{228};
-constexpr MessageRow kLiningRow{176};
-constexpr MessageRow kSeaWall1{170};
-constexpr MessageRow kSeaWall2{172};
-constexpr MessageRow kSeaCavityRow{173};
-
-std::vector<ShownTab> SingleTabs(const CalculationRow& row) {
-  if (row.family == Family::kSeaSingle) return {{kSeaLeaf1, kSeaWall1, "wall"}};
-  if (row.orientation == elements::Orientation::kHorizontalSingle) return {{kLeaf1, kFloorRow, "floor"}};
-  return {{kLeaf1, kWall1, IsGlazing(row.calculation) ? "glass" : "wall"}};
+ShownTab FirstLeafTab(const CalculationRow& row) {
+  if (IsHorizontal(row.orientation)) return {Stack::kLeaf1, kFloorRow, "floor"};
+  const bool alone = row.stacks.size() == 1;
+  if (row.glazing) return {Stack::kLeaf1, kLeaf1Row, alone ? "glass" : "glass-first"};
+  return {Stack::kLeaf1, kLeaf1Row, alone ? "wall" : "leaf-first"};
 }
 
-std::vector<ShownTab> DoubleTabs(const CalculationRow& row) {
-  if (row.family == Family::kSea)
-    return {{kSeaLeaf1, kSeaWall1, "leaf-first"},
-            {kSeaLeaf2, kSeaWall2, "leaf-second"},
-            {kSeaCavity, kSeaCavityRow, "cavity"}};
-  const bool glass = IsGlazing(row.calculation);
-  return {{kLeaf1, kWall1, glass ? "glass-first" : "leaf-first"},
-          {kLeaf2, kWall2, glass ? "glass-second" : "leaf-second"},
-          {kCavity, kCavityRow, "cavity"}};
+ShownTab SecondLeafTab(const CalculationRow& row) {
+  if (row.stacks.Has(Stack::kResilient)) return {Stack::kLeaf2, kScreedRow, "screed"};
+  return {Stack::kLeaf2, kLeaf2Row, row.glazing ? "glass-second" : "leaf-second"};
+}
+
+ShownTab BaseTab(const CalculationRow& row) {
+  if (row.stacks.Has(Stack::kComponents)) return {Stack::kBase, kOpaquePartTabRow, "base"};
+  if (row.orientation == Orientation::kCeiling) return {Stack::kBase, kBaseFloorRow, "floor"};
+  return {Stack::kBase, kBaseWallTabRow, "base"};
+}
+
+ShownTab SecondSeaLeafTab(const CalculationRow& row) {
+  if (!row.stacks.Has(Stack::kBase)) return {Stack::kSeaLeaf2, kSeaLeaf2TabRow, "leaf-second"};
+  const bool ceiling = row.orientation == Orientation::kCeiling;
+  return {Stack::kSeaLeaf2, kLiningRow, ceiling ? "ceiling" : "lining"};
+}
+
+ShownTab TabOf(const CalculationRow& row, Stack stack) {
+  switch (stack) {
+    case Stack::kLeaf1:
+      return FirstLeafTab(row);
+    case Stack::kLeaf2:
+      return SecondLeafTab(row);
+    case Stack::kCavity:
+      return {stack, kCavityRow, "cavity"};
+    case Stack::kResilient:
+      return {stack, kResilientMaterialTabRow, "resilient"};
+    case Stack::kBase:
+      return BaseTab(row);
+    case Stack::kComponents:
+      return {stack, kComponentsTabRow, "components"};
+    case Stack::kSeaLeaf1:
+      return {stack, kSeaLeaf1TabRow, row.stacks.size() == 1 ? "wall" : "leaf-first"};
+    case Stack::kSeaLeaf2:
+      return SecondSeaLeafTab(row);
+    case Stack::kSeaCavity:
+      return {stack, kSeaCavityTabRow, "cavity"};
+  }
+  return {};
 }
 
 }  // namespace
 
 std::vector<ShownTab> TabsOf(elements::Calculation calculation) {
   const CalculationRow& row = RowOf(calculation);
-  switch (row.button) {
-    case ElementButton::kSingleWall:
-      return SingleTabs(row);
-    case ElementButton::kDoubleWall:
-      return DoubleTabs(row);
-    case ElementButton::kFloor:
-      return {{kLeaf1, kFloorRow, "floor"},
-              {kLeaf2, kScreedRow, "screed"},
-              {kResilient, kResilientRow, "resilient"}};
-    case ElementButton::kFacade:
-      return {{kBase, kOpaqueRow, "base"}, {kComponents, kComponentsRow, "components"}};
-    case ElementButton::kLining:
-      return {{kBase, kBaseWallRow, "base"},
-              {kSeaLeaf2, kLiningRow, "lining"},
-              {kSeaCavity, kSeaCavityRow, "cavity"}};
-    case ElementButton::kCeiling:
-      return {{kBase, kBaseFloorRow, "floor"},
-              {kSeaLeaf2, kLiningRow, "ceiling"},
-              {kSeaCavity, kSeaCavityRow, "cavity"}};
+  std::vector<ShownTab> tabs;
+  for (const bool between : {false, true}) {
+    for (const Stack stack : row.stacks) {
+      if (elements::LiesBetween(stack) == between) tabs.push_back(TabOf(row, stack));
+    }
   }
-  return {};
+  return tabs;
 }
 
 }  // namespace velmar::shell

@@ -8,19 +8,9 @@
 
 namespace velmar::shell {
 
-/// The tabs of `SSTab1`, by index.
-enum class TabId {
-  kLeaf1 = 0,
-  kLeaf2 = 1,
-  kCavity = 2,
-  kResilient = 3,
-  kBase = 4,
-  kComponents = 5,
-  kSeaLeaf1 = 6,
-  kSeaLeaf2 = 7,
-  kSeaCavity = 8,
-};
-inline constexpr int kTabCount = 9;
+/// The tabs of `SSTab1`, by index: one a stack.
+using TabId = elements::Stack;
+inline constexpr int kTabCount = elements::kStackCount;
 
 /// A tab that a calculation shows.
 struct ShownTab {
@@ -31,7 +21,7 @@ struct ShownTab {
   bool operator==(const ShownTab&) const = default;
 };
 
-/// The tabs of `calculation`, the first one first; all others are hidden.
+/// The tabs of `calculation`, the first one first, what lies between two others last; all others are hidden.
 std::vector<ShownTab> TabsOf(elements::Calculation calculation);
 
 }  // namespace velmar::shell

@@ -12,21 +12,11 @@
 #include <QWheelEvent>
 #include <algorithm>
 
+#include "foundation/message_rows.h"
 #include "shell/printing/page_picture.h"
 
 namespace velmar::printing {
 namespace {
-
-constexpr MessageRow kPreviewRow{7};
-constexpr MessageRow kPrintRow{6};
-constexpr MessageRow kCloseRow{369};
-constexpr MessageRow kChoosePrinterRow{1502};
-constexpr MessageRow kSavePdfRow{1480};
-constexpr MessageRow kFitRow{1481};
-constexpr MessageRow kZoomInRow{1482};
-constexpr MessageRow kZoomOutRow{1483};
-constexpr MessageRow kActualSizeRow{1484};
-constexpr MessageRow kPictureRow{1485};
 
 // What the buttons of the zoom show; their names say it in words.
 constexpr const char* kMinus = "\u2212";
@@ -54,7 +44,7 @@ PrintPreview::PrintPreview(PreviewOrder order, presentation::Words words, QWidge
   setWindowTitle(QString::fromStdString(words_(kPreviewRow)));
   setModal(true);
   picture_->setObjectName(QStringLiteral("Picture1"));
-  picture_->setAccessibleName(QString::fromStdString(words_(kPictureRow)));
+  picture_->setAccessibleName(QString::fromStdString(words_(kPrintedPageRow)));
   picture_->setAlignment(Qt::AlignCenter);
   picture_->setMargin(kMargin);
   room_->setWidget(picture_);
@@ -116,7 +106,7 @@ QToolBar* PrintPreview::MakeToolBar() {
   AddCommand(*bar, "zoom_in", kZoomInRow, {QKeySequence::ZoomIn, Qt::CTRL | Qt::Key_Equal, Qt::Key_Plus},
              [this] { ZoomTo(Zoom() * kZoomStep); })
       ->setIconText(kPlus);
-  AddCommand(*bar, "fit", kFitRow, {Qt::CTRL | Qt::Key_0}, [this] { ZoomTo(std::nullopt); });
+  AddCommand(*bar, "fit", kFitToWindowRow, {Qt::CTRL | Qt::Key_0}, [this] { ZoomTo(std::nullopt); });
   AddCommand(*bar, "actual_size", kActualSizeRow, {Qt::CTRL | Qt::Key_1}, [this] { ZoomTo(1.0); });
   bar->addSeparator();
   AddCommand(*bar, "close", kCloseRow, {QKeySequence::Close}, [this] { reject(); });

@@ -6,14 +6,10 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "foundation/message_rows.h"
+
 namespace velmar::printing {
 namespace {
-
-constexpr MessageRow kCaptionRow{370};
-constexpr MessageRow kCancelRow{365};
-constexpr MessageRow kOkRow{366};
-/// "No printer is installed."
-constexpr MessageRow kNoPrinterRow{1486};
 
 QString Text(const presentation::Words& words, MessageRow row) { return QString::fromStdString(words(row)); }
 
@@ -22,7 +18,7 @@ QString Text(const presentation::Words& words, MessageRow row) { return QString:
 PrinterChooser::PrinterChooser(PrinterChoice choice, presentation::Words words, QWidget* parent)
     : QDialog(parent), choice_(std::move(choice)), words_(std::move(words)), list_(new QListWidget(this)) {
   setObjectName(QStringLiteral("Dialog"));
-  setWindowTitle(Text(words_, kCaptionRow));
+  setWindowTitle(Text(words_, kPrinterCaptionRow));
   list_->setObjectName(QStringLiteral("List1"));
   list_->setAccessibleName(windowTitle());
   list_->addItems(choice_.printers);

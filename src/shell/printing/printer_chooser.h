@@ -12,9 +12,6 @@ class QListWidget;
 
 namespace velmar::printing {
 
-/// "Cannot print on the selected printer"
-inline constexpr MessageRow kCannotPrintRow{255};
-
 /// What the chooser is given.
 struct PrinterChoice {
   QStringList printers{};  ///< device names of the installed printers

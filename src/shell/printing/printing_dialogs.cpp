@@ -6,17 +6,12 @@
 #include <QPrinterInfo>
 
 #include "foundation/failure.h"
+#include "foundation/message_rows.h"
 #include "shell/printing/print_preview.h"
 #include "shell/printing/save_pdf.h"
 
 namespace velmar::printing {
 namespace {
-
-constexpr MessageRow kPrintRow{6};
-/// "The document has been saved."
-constexpr MessageRow kSavedRow{270};
-constexpr MessageRow kSaveAsRow{377};
-constexpr MessageRow kPdfRow{1487};
 
 QString Text(const presentation::Words& words, MessageRow row) { return QString::fromStdString(words(row)); }
 
@@ -36,7 +31,7 @@ bool AskWithSystemDialog(QWidget* parent, QPrinter& printer, const QString& titl
 
 std::optional<std::filesystem::path> ChooseWithFileDialog(QWidget* parent, const QString& start,
                                                           const presentation::Words& words) {
-  QFileDialog dialog(parent, Text(words, kSaveAsRow), start, Text(words, kPdfRow) + " (*.pdf)");
+  QFileDialog dialog(parent, Text(words, kSaveAsRow), start, Text(words, kPdfFilesRow) + " (*.pdf)");
   dialog.setAcceptMode(QFileDialog::AcceptSave);
   dialog.setDefaultSuffix(QStringLiteral("pdf"));
   if (dialog.exec() != QDialog::Accepted) return std::nullopt;
@@ -81,7 +76,7 @@ void SaveDocument(const PrintedDocument& document, const PrintingBoxes& boxes,
     boxes.tell_failure(parent, Text(words, failure.UserMessage()));
     return;
   }
-  boxes.tell_done(parent, Text(words, kSavedRow));
+  boxes.tell_done(parent, Text(words, kDocumentSavedRow));
 }
 
 void ShowPreview(const PrintedDocument& document, PagePrinter& printer, const PrintingBoxes& boxes,

@@ -6,6 +6,7 @@
 #include <QVBoxLayout>
 
 #include "calculation/dimensions.h"
+#include "foundation/message_rows.h"
 #include "shell/fields/boxes.h"
 #include "shell/fields/field_note.h"
 #include "shell/fields/number_field.h"
@@ -13,13 +14,6 @@
 
 namespace velmar::shell {
 namespace {
-
-constexpr MessageRow kFrameRow{409};
-constexpr MessageRow kSeaFrameRow{410};
-constexpr MessageRow kWidthRow{411};
-constexpr MessageRow kHeightRow{412};
-constexpr MessageRow kOkRow{366};
-constexpr MessageRow kNoDimensionRow{1357};
 
 bool IsSea(const elements::Setup& setup) {
   return setup.calculation && RowOf(*setup.calculation).family == elements::Family::kSea;
@@ -33,7 +27,8 @@ DimensionDialog::DimensionDialog(calculation::OpenCalculation& open, const prese
   setObjectName("Form3");
   setWindowTitle(kProductName);
   auto* column = new QVBoxLayout(this);
-  auto* frame = new QGroupBox(Text(words, IsSea(open.Setup()) ? kSeaFrameRow : kFrameRow), this);
+  auto* frame =
+      new QGroupBox(Text(words, IsSea(open.Setup()) ? kSeaDimensionsFrameRow : kDimensionsFrameRow), this);
   frame->setObjectName("Frame1");
   auto* form = new QFormLayout(frame);
   const auto add = [&](const char* name, MessageRow row, const std::string& text) {
@@ -41,12 +36,13 @@ DimensionDialog::DimensionDialog(calculation::OpenCalculation& open, const prese
     field->setAccessibleName(Text(words, row));
     field->Show(text);
     field->selectAll();
-    field->OnEdit([this](const std::string&) { open_.EditKeepingResult([](elements::Setup&) {}); });
+    connect(field, &NumberField::Edited, this,
+            [this](const std::string&) { open_.EditKeepingResult([](elements::Setup&) {}); });
     form->addRow(Text(words, row), field);
     return field;
   };
-  width_ = add("Text1", kWidthRow, open.Setup().width_text);
-  height_ = add("Text2", kHeightRow, open.Setup().height_text);
+  width_ = add("Text1", kElementWidthRow, open.Setup().width_text);
+  height_ = add("Text2", kElementHeightRow, open.Setup().height_text);
   column->addWidget(frame);
   auto* ok = new QPushButton(Text(words, kOkRow), this);
   ok->setObjectName("Command1");

@@ -3,19 +3,12 @@
 #include <algorithm>
 
 #include "foundation/failure.h"
+#include "foundation/message_rows.h"
 #include "shell/fields/phrases.h"
 
 namespace velmar::shell {
 namespace {
 
-constexpr MessageRow kSaveProjectRow{3};
-constexpr MessageRow kChooseProjectRow{230};
-constexpr MessageRow kApplicationRow{139};
-constexpr MessageRow kNewRow{140};
-constexpr MessageRow kUnexpectedRow{1023};
-constexpr MessageRow kRecoveryFirstRow{1306};
-constexpr MessageRow kRecoverySecondRow{1307};
-constexpr MessageRow kUnknownCalculationRow{1349};
 constexpr const char* kEnding = ".drav";
 constexpr const char* kFilter = "VELMARpro files (*.drav)";
 
@@ -35,14 +28,15 @@ ProjectFiles::ProjectFiles(const WindowServices& services, WindowMemory& memory,
     : services_(services), memory_(memory), recovery_(recovery) {}
 
 QString ProjectFiles::Caption() const {
-  const QString name =
-      project_.empty() ? Text(services_.words, kNewRow) : QString::fromStdString(project_.stem().string());
+  const QString name = project_.empty() ? Text(services_.words, kNewProjectRow)
+                                        : QString::fromStdString(project_.stem().string());
   return QString(kProductName) + " - " + Text(services_.words, kApplicationRow) + " - " + name;
 }
 
 bool ProjectFiles::LeaveUnsaved() {
   if (services_.open.IsSaved()) return true;
-  const Message question = {{MessageRow{135}}, {MessageRow{136}}, {MessageRow{137}}, {MessageRow{138}}};
+  const Message question = {
+      {kUnsavedProjectRow}, {kSaveBeforeGoingOnRow}, {kYesAndNoMeaningRow}, {kCancelMeaningRow}};
   const std::optional<bool> save = services_.boxes.ask_or_cancel(Text(services_.words, question));
   if (!save) return false;
   return !*save || Save();
@@ -78,7 +72,7 @@ bool ProjectFiles::Load(const std::filesystem::path& file) {
   memory_.Remember(file);
   Rename(file);
   if (!services_.open.Setup().calculation)
-    services_.boxes.tell(Tone::kInformation, Text(services_.words, kUnknownCalculationRow));
+    services_.boxes.tell(Tone::kInformation, Text(services_.words, kProjectOfUnknownCalculationRow));
   return true;
 }
 

@@ -8,15 +8,12 @@
 #include <QVBoxLayout>
 #include <functional>
 
+#include "foundation/message_rows.h"
 #include "shell/fields/phrases.h"
 
 namespace velmar::shell {
 namespace {
 
-constexpr MessageRow kCaptionRow{123};
-constexpr int kFirstLineRow = 124;
-constexpr MessageRow kOkRow{366};
-constexpr MessageRow kCancelRow{365};
 constexpr int kNotesHeightInLines = 5;
 constexpr int kWidth = 520;
 
@@ -47,16 +44,15 @@ ProjectInformationDialog::ProjectInformationDialog(calculation::OpenCalculation&
                                                    const presentation::Words& words, QWidget* parent)
     : QDialog(parent) {
   setObjectName("Form11");
-  setWindowTitle(Text(words, kCaptionRow));
+  setWindowTitle(Text(words, kProjectInformationRow));
   auto* column = new QVBoxLayout(this);
   auto* form = new QFormLayout;
   const elements::ProjectInformation& information = open.Setup().information;
   std::vector<TextOf> values;
   for (std::size_t row = 0; row < information.size(); ++row) {
     const elements::ProjectInformationRow& line = information.at(row);
-    const QString caption = line.caption.empty()
-                                ? Text(words, MessageRow{kFirstLineRow + static_cast<int>(row)})
-                                : FromUtf8(line.caption);
+    const QString caption =
+        line.caption.empty() ? Text(words, elements::kInformationCaptions.at(row)) : FromUtf8(line.caption);
     values.push_back(AddValue(*form, row, caption, FromUtf8(line.value), this));
   }
   column->addLayout(form);

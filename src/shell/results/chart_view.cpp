@@ -12,6 +12,7 @@
 
 #include "foundation/decimal.h"
 #include "foundation/failure.h"
+#include "foundation/message_rows.h"
 #include "presentation/drawing/chart_scale.h"
 #include "presentation/export/chart_svg.h"
 #include "shell/fields/phrases.h"
@@ -20,9 +21,6 @@
 namespace velmar::shell {
 namespace {
 
-constexpr MessageRow kCopyPictureRow{1320};
-constexpr MessageRow kSavePngRow{1321};
-constexpr MessageRow kSaveSvgRow{1322};
 constexpr double kPictureScale = 3.0;
 
 std::string Png(const QImage& picture) {

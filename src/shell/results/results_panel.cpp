@@ -6,27 +6,25 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QSplitter>
+#include <QToolButton>
 #include <QVBoxLayout>
 #include <tuple>
 
-#include "calculation/select_calculation.h"
+#include "elements/single_numbers.h"
 #include "foundation/decimal.h"
+#include "foundation/message_rows.h"
 #include "foundation/rounding.h"
 #include "presentation/drawing/curve_chart.h"
 #include "shell/fields/phrases.h"
 #include "shell/pages/page_parts.h"
 #include "shell/results/chart_view.h"
 #include "shell/results/section_view.h"
+#include "shell/results/single_numbers_panel.h"
 
 namespace velmar::shell {
 namespace {
 
-constexpr MessageRow kNoResultRow{232};
-constexpr MessageRow kAutoscaleRow{73};
-constexpr MessageRow kSectionRow{74};
 constexpr const char* kPanel = "prnFrame1";
-constexpr MessageRow kRatingsOnlyRow{1022};
-constexpr MessageRow kLiningTermsTipRow{1351};
 constexpr double kRatingScale = 2.4;
 constexpr double kTermScale = 1.25;
 // Symbols of the ratings, the same in every language.
@@ -41,6 +39,12 @@ QString Decibels(const std::optional<double>& value) {
 }
 QString Term(const char* name, const std::optional<double>& value) {
   return value ? QString(name) + "= " + Whole(*value) + " dB" : QString(name) + '=';
+}
+
+bool IsLining(const elements::Setup& setup) {
+  if (!setup.calculation) return false;
+  const elements::Family family = RowOf(*setup.calculation).family;
+  return family == elements::Family::kLining || family == elements::Family::kCeiling;
 }
 
 QLabel* Named(const char* name, QWidget* parent) {
@@ -78,6 +82,9 @@ ResultsPanel::ResultsPanel(const PageContext& context, QWidget* parent) : QWidge
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(kPageSpacing, kPageSpacing, kPageSpacing, kPageSpacing);
   column->addWidget(MakeRatings());
+  numbers_ = new SingleNumbersPanel(context_.Words(), this);
+  numbers_->hide();
+  column->addWidget(numbers_);
   splitter_ = new QSplitter(Qt::Vertical, this);
   splitter_->addWidget(MakeChart());
   splitter_->addWidget(MakeSection());
@@ -117,6 +124,15 @@ QWidget* ResultsPanel::MakeRatings() {
     line->addWidget(widget);
   }
   line->addStretch(1);
+  open_numbers_ = new QToolButton(frame);
+  open_numbers_->setObjectName("PulsanteIndici");
+  open_numbers_->setText(Text(context_.Words(), kAllNumbersRow));
+  open_numbers_->setToolTip(Text(context_.Words(), kAllNumbersTipRow));
+  open_numbers_->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+  open_numbers_->setAutoRaise(true);
+  open_numbers_->setCheckable(true);
+  connect(open_numbers_, &QToolButton::toggled, this, [this] { ShowNumbers(); });
+  line->addWidget(open_numbers_);
   return frame;
 }
 
@@ -183,14 +199,27 @@ void ResultsPanel::ShowRatings(const elements::Setup& setup, const elements::Res
   c_->setVisible(impact ? shown.ci.has_value() : shown.c.has_value());
   ctr_->setVisible(shown.ctr.has_value() && !impact);
   const elements::Family family = RowOf(calculation).family;
-  const bool lining = family == elements::Family::kLining || family == elements::Family::kCeiling;
+  const bool lining = IsLining(family);
   for (QLabel* term : {c_, ctr_})
     term->setToolTip(lining ? Text(context_.Words(), kLiningTermsTipRow) : QString());
-  const bool improves = calculation::LayoutOf(calculation).improvement_shown;
+  const bool improves = lining || RowOf(calculation).model == elements::Model::kFloatingScreedFloor;
   improvement_->setText(Decibels(shown.delta_rw));
   improvement_frame_->setVisible(improves && rated);
   impact_improvement_->setText(Decibels(shown.delta_lnw));
   impact_frame_->setVisible(impact && rated && shown.delta_lnw.has_value());
+  ShowNumbers();
+}
+
+void ResultsPanel::ShowNumbers() {
+  const elements::Setup& setup = context_.open.Setup();
+  const auto& result = context_.open.Result();
+  std::vector<elements::SingleNumber> numbers;
+  if (result && setup.calculation) numbers = elements::SingleNumbersOf(*result, *setup.calculation);
+  const bool open = open_numbers_->isChecked() && !numbers.empty();
+  open_numbers_->setEnabled(!numbers.empty());
+  open_numbers_->setArrowType(open ? Qt::DownArrow : Qt::RightArrow);
+  numbers_->Show(numbers, IsLining(setup));
+  numbers_->setVisible(open);
 }
 
 void ResultsPanel::ShowChart() {

@@ -10,11 +10,13 @@
 class QCheckBox;
 class QLabel;
 class QSplitter;
+class QToolButton;
 
 namespace velmar::shell {
 
 class ChartView;
 class SectionView;
+class SingleNumbersPanel;
 
 /// The right side of the window (`prnFrame1`): single-number results, curve chart, section drawing. Shows the
 /// open calculation and changes nothing of it.
@@ -37,6 +39,8 @@ class ResultsPanel : public QWidget {
   QWidget* MakeChart();
   QWidget* MakeSection();
   void ShowRatings(const elements::Setup& setup, const elements::ResultSet* result);
+  /// Shows every rating of the result in the table that the button opens.
+  void ShowNumbers();
   void ShowChart();
 
   const PageContext& context_;
@@ -49,6 +53,8 @@ class ResultsPanel : public QWidget {
   QLabel* improvement_ = nullptr;
   QWidget* impact_frame_ = nullptr;
   QLabel* impact_improvement_ = nullptr;
+  QToolButton* open_numbers_ = nullptr;
+  SingleNumbersPanel* numbers_ = nullptr;
   QCheckBox* autoscale_ = nullptr;
   ChartView* chart_ = nullptr;
   std::optional<presentation::CurveChart> shown_{};

@@ -11,15 +11,12 @@
 #include <QVBoxLayout>
 
 #include "acoustics/bands.h"
+#include "foundation/message_rows.h"
 #include "shell/fields/phrases.h"
 
 namespace velmar::shell {
 namespace {
 
-constexpr MessageRow kCaptionRow{291};
-constexpr MessageRow kSpectrumRow{292};
-constexpr MessageRow kCopyRow{293};
-constexpr MessageRow kCloseRow{369};
 constexpr int kRowPadding = 4;
 
 QTableWidgetItem* Cell(const std::string& text, bool strong) {
@@ -38,7 +35,7 @@ ResultsTableWindow::ResultsTableWindow(const presentation::ResultsTable& table,
                                        const presentation::Words& words, QWidget* parent)
     : QDialog(parent), table_(table) {
   setObjectName("Form4");
-  setWindowTitle(Text(words, kCaptionRow));
+  setWindowTitle(Text(words, kResultsTableRow));
   setAttribute(Qt::WA_DeleteOnClose);
   auto* column = new QVBoxLayout(this);
   auto* frame = new QGroupBox(Text(words, kSpectrumRow), this);
@@ -52,7 +49,7 @@ ResultsTableWindow::ResultsTableWindow(const presentation::ResultsTable& table,
   column->addWidget(frame, 1);
 
   auto* line = new QHBoxLayout;
-  copy_ = new QPushButton(Text(words, kCopyRow), this);
+  copy_ = new QPushButton(Text(words, kCopyDataRow), this);
   copy_->setObjectName("Command1_1");
   copy_->setShortcut(QKeySequence::Copy);
   connect(copy_, &QPushButton::clicked, this, [this] {

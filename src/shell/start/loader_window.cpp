@@ -7,6 +7,7 @@
 #include <QProgressBar>
 #include <QVBoxLayout>
 
+#include "foundation/message_rows.h"
 #include "shell/fields/boxes.h"
 #include "shell/fields/icons.h"
 #include "shell/fields/phrases.h"
@@ -14,11 +15,6 @@
 namespace velmar::shell {
 namespace {
 
-constexpr MessageRow kVersionRow{296};
-constexpr MessageRow kPurposeRow{297};
-constexpr MessageRow kProgressRow{418};
-constexpr MessageRow kLoadingRow{419};
-constexpr MessageRow kTermsRow{1310};
 constexpr int kPicture = 48;
 constexpr int kWidth = 440;
 
@@ -46,13 +42,13 @@ LoaderWindow::LoaderWindow(const presentation::Words& words, const QString& vers
   large.setPointSizeF(large.pointSizeF() * 1.6);
   name->setFont(large);
   add("Label1", Text(words_, kPurposeRow));
-  add("LabelAvanzamento", Text(words_, kProgressRow));
+  add("LabelAvanzamento", Text(words_, kLoadingProgressRow));
   bar_ = new QProgressBar(this);
   bar_->setObjectName("ProgressBarCaricamento");
   bar_->setTextVisible(false);
   column->addWidget(bar_);
   label_ = add("LabelLoader", QString());
-  add("lblCopyright", Text(words_, kTermsRow));
+  add("lblCopyright", Text(words_, kLiabilityNoticeRow));
 }
 
 void LoaderWindow::ShowProgress(MessageRow title_row, std::size_t count, int done, int all) {

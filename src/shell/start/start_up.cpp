@@ -13,6 +13,7 @@
 #include "application/projects.h"
 #include "calculation/material_choice.h"
 #include "foundation/failure.h"
+#include "foundation/message_rows.h"
 #include "shell/commands/material_commands.h"
 #include "shell/commands/paper_commands.h"
 #include "shell/commands/report_commands.h"
@@ -31,18 +32,15 @@ namespace {
 
 using elements::MaterialFamily;
 
-constexpr const char* kManual = "VELMARpro - Manuale d'uso.pdf";
 constexpr const char* kMaintenanceProgram = "DB_sperimentale.EXE";
-constexpr int kFirstInformationRow = 124;
-constexpr std::size_t kCaptionedInformationRows = 7;
 
 struct Family {
   MaterialFamily family{};
   MessageRow title{};
 };
-constexpr std::array kFamilies = {Family{MaterialFamily::kStructural, {132}},
-                                  Family{MaterialFamily::kFibrous, {133}},
-                                  Family{MaterialFamily::kResilient, {134}}};
+constexpr std::array kFamilies = {Family{MaterialFamily::kStructural, kStructuralMaterialsRow},
+                                  Family{MaterialFamily::kFibrous, kFibrousMaterialsRow},
+                                  Family{MaterialFamily::kResilient, kResilientMaterialsRow}};
 
 WindowPlaces Places() {
   const std::filesystem::path program = storage::ProgramFolder();
@@ -50,7 +48,7 @@ WindowPlaces Places() {
     return std::filesystem::path(QStandardPaths::writableLocation(location).toStdString());
   };
   WindowPlaces places;
-  places.manual = program / kManual;
+  places.manual = storage::ManualFile(program);
   places.maintenance_program = program / kMaintenanceProgram;
   if (const auto shipped = storage::ShippedDataFolder(program)) places.examples = *shipped / "Examples";
   places.settings = folder(QStandardPaths::AppConfigLocation) / "finestra.ini";
@@ -73,8 +71,8 @@ const Record* Pointer(const std::optional<Record>& record) {
 /// The set-up of a fresh start, without materials: captions of the project information.
 elements::Setup CaptionedSetup(const presentation::Words& words) {
   elements::Setup setup;
-  for (std::size_t row = 0; row < kCaptionedInformationRows; ++row)
-    setup.information.at(row).caption = words(MessageRow{kFirstInformationRow + static_cast<int>(row)});
+  for (std::size_t row = 0; row < elements::kCaptionedInformationRows; ++row)
+    setup.information.at(row).caption = words(elements::kInformationCaptions.at(row));
   return setup;
 }
 

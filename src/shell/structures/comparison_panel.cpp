@@ -11,14 +11,12 @@
 #include <QSplitter>
 #include <QVBoxLayout>
 
-#include "shell/structures/structure_rows.h"
+#include "foundation/message_rows.h"
 #include "shell/structures/test_chooser.h"
 
 namespace velmar::structures {
 namespace {
 
-constexpr MessageRow kNoStructureRow{1710};
-constexpr MessageRow kNoDatabaseRow{1711};
 constexpr double kRatingScale = 1.4;
 
 QLabel* MakeLabel(const char* name, QWidget* parent) {

@@ -7,21 +7,16 @@
 #include <QSplitter>
 #include <QVBoxLayout>
 
+#include "foundation/message_rows.h"
 #include "presentation/drawing/colours.h"
 #include "shell/structures/comparison_panel.h"
 #include "shell/structures/mnemonics.h"
-#include "shell/structures/structure_rows.h"
 #include "shell/structures/test_chooser.h"
 #include "shell/structures/tree_nodes.h"
 
 namespace velmar::structures {
 namespace {
 
-constexpr MessageRow kCaptionRow{405};
-constexpr MessageRow kInSituRow{71};
-constexpr MessageRow kLaboratoryRow{406};
-constexpr MessageRow kLaboratoryCheckRow{407};
-constexpr MessageRow kInSituCheckRow{408};
 constexpr const char* kMemoryName = "confronto-strutture";
 
 shell::RememberedSizes SizesOf(QWidget* window, QSplitter* sides) {
@@ -38,7 +33,7 @@ ComparisonPanel::Look LaboratoryLook() {
   look.description = "Text1";
   look.database = "Label7";
   look.rating = "Label2";
-  look.caption = kLaboratoryRow;
+  look.caption = kLaboratoryFrameRow;
   look.check_caption = kLaboratoryCheckRow;
   look.colour = presentation::kLaboratoryColour;
   return look;
@@ -73,7 +68,7 @@ ComparisonWindow::ComparisonWindow(shell::WindowTools tools, const LibrarySource
                                    elements::Family family, Draw draw, QWidget* parent)
     : QDialog(parent), tools_(std::move(tools)), draw_(std::move(draw)) {
   setObjectName(QStringLiteral("Form8"));
-  setWindowTitle(QStringLiteral("VELMARpro - ") + tools_.Text(kCaptionRow));
+  setWindowTitle(QStringLiteral("VELMARpro - ") + tools_.Text(kComparisonCaptionRow));
   const auto redraw = [this] {
     if (laboratory_ != nullptr && in_situ_ != nullptr) draw_(Current());
   };

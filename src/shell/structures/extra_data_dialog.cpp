@@ -10,17 +10,17 @@
 #include <QVBoxLayout>
 #include <array>
 
+#include "foundation/message_rows.h"
 #include "shell/structures/copied_table.h"
 #include "shell/structures/mnemonics.h"
-#include "shell/structures/structure_rows.h"
 
 namespace velmar::structures {
 namespace {
 
-constexpr MessageRow kCaptionRow{396};
-constexpr int kFirstFieldRow = 397;
-constexpr std::size_t kFieldCount = 8;
-constexpr MessageRow kCopyRow{376};
+constexpr std::array kCaptions = {
+    kFieldDateRow,      kFieldAreaRow,        kFieldSourceVolumeRow, kFieldReceivingVolumeRow,
+    kFieldThicknessRow, kFieldSurfaceMassRow, kFieldSiteRow,         kFieldPictureRow};
+constexpr std::size_t kFieldCount = kCaptions.size();
 constexpr const char* kNoDate = "01/01/2000";
 constexpr const char* kNoPicture = "senza";
 
@@ -42,13 +42,13 @@ std::array<storage::CopiedField, kFieldCount> FieldsOf(const MeasuredTest& test)
 ExtraDataDialog::ExtraDataDialog(const shell::WindowTools& tools, const MeasuredTest& test, QWidget* parent)
     : QDialog(parent) {
   setObjectName(QStringLiteral("Form10"));
-  setWindowTitle(tools.Text(kCaptionRow) + QStringLiteral(" - VELMARpro"));
+  setWindowTitle(tools.Text(kAdditionalDataRow) + QStringLiteral(" - VELMARpro"));
   auto* column = new QVBoxLayout(this);
   auto* form = new QFormLayout;
   const std::array<storage::CopiedField, kFieldCount> fields = FieldsOf(test);
   CopiedTable table;
   for (std::size_t i = 0; i < kFieldCount; ++i) {
-    const MessageRow caption{kFirstFieldRow + static_cast<int>(i)};
+    const MessageRow caption = kCaptions.at(i);
     auto* label = new QLabel(tools.Text(caption), this);
     label->setObjectName(QStringLiteral("Label1_%1").arg(i));
     auto* box = new QLineEdit(shell::ToQt(presentation::InWords(fields[i].text, tools.words)), this);

@@ -6,25 +6,16 @@
 #include <QSplitter>
 #include <QVBoxLayout>
 
+#include "foundation/message_rows.h"
 #include "shell/fields/button_row.h"
 #include "shell/structures/extra_data_dialog.h"
 #include "shell/structures/mnemonics.h"
-#include "shell/structures/structure_rows.h"
 #include "shell/structures/test_chooser.h"
 #include "shell/structures/test_details.h"
 
 namespace velmar::structures {
 namespace {
 
-constexpr MessageRow kImpactDataRow{14};
-constexpr MessageRow kAirborneDataRow{15};
-constexpr MessageRow kOpaquePartRow{260};
-constexpr MessageRow kComponentRow{378};
-constexpr MessageRow kCaptionRow{386};
-constexpr MessageRow kNoTestRow{390};
-constexpr MessageRow kConfirmRow{1707};
-constexpr MessageRow kConfirmTipRow{1708};
-constexpr MessageRow kExtraDataRow{1709};
 constexpr const char* kMemoryName = "database-sperimentale";
 
 shell::RememberedSizes SizesOf(QWidget* window, const TestChooser& chooser) {
@@ -68,16 +59,16 @@ MeasuredLibraryWindow::MeasuredLibraryWindow(shell::WindowTools tools, LibrarySo
 MeasuredLibraryWindow::~MeasuredLibraryWindow() { shell::SaveSizes(tools_.memory, SizesOf(this, *chooser_)); }
 
 QString MeasuredLibraryWindow::Caption() const {
-  QString caption = tools_.Text(kCaptionRow);
+  QString caption = tools_.Text(kMeasuredLibraryRow);
   switch (target_.purpose) {
     case LibraryPurpose::kOpaquePart:
       return tools_.Text(kOpaquePartRow) + QStringLiteral(": ") + caption;
     case LibraryPurpose::kComponents:
-      return tools_.Text(kComponentRow) + QStringLiteral(" %1: ").arg(target_.component) + caption;
+      return tools_.Text(kComponentOfCaptionRow) + QStringLiteral(" %1: ").arg(target_.component) + caption;
     case LibraryPurpose::kAirborneData:
-      return caption + QStringLiteral(" - ") + tools_.Text(kAirborneDataRow);
+      return caption + QStringLiteral(" - ") + tools_.Text(kAirborneDataMenuRow);
     case LibraryPurpose::kImpactData:
-      return caption + QStringLiteral(" - ") + tools_.Text(kImpactDataRow);
+      return caption + QStringLiteral(" - ") + tools_.Text(kImpactDataMenuRow);
   }
   return caption;
 }

@@ -14,17 +14,14 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "foundation/message_rows.h"
 #include "shell/fields/button_row.h"
 #include "shell/structures/copied_table.h"
 #include "shell/structures/mnemonics.h"
-#include "shell/structures/structure_rows.h"
 
 namespace velmar::structures {
 namespace {
 
-constexpr MessageRow kCaptionRow{374};
-constexpr MessageRow kDeleteQuestionRow{375};
-constexpr MessageRow kCopyRow{376};
 constexpr const char* kMemoryName = "database-risultati";
 constexpr int kNameColumnCharacters = 34;
 
@@ -40,10 +37,10 @@ SavedResultsWindow::SavedResultsWindow(shell::WindowTools tools, ResultSource so
       tools_(std::move(tools)),
       source_(std::move(source)),
       listener_(std::move(listener)),
-      model_({tools_.Text(kNameRow), tools_.Text(kDescriptionRow)}),
+      model_({tools_.Text(kNameHeadingRow), tools_.Text(kDescriptionRow)}),
       shown_(model_) {
   setObjectName(QStringLiteral("Form7"));
-  setWindowTitle(tools_.Text(kCaptionRow));
+  setWindowTitle(tools_.Text(kResultsDatabaseRow));
   auto* column = new QVBoxLayout(this);
   column->addWidget(MakeKinds());
   column->addWidget(MakeGrid(), 1);
@@ -71,8 +68,8 @@ QWidget* SavedResultsWindow::MakeKinds() {
   airborne_->setChecked(true);
   search_ = new QLineEdit(bar);
   search_->setObjectName(QStringLiteral("TextCerca"));
-  search_->setPlaceholderText(tools_.Text(kSearchRow));
-  search_->setAccessibleName(tools_.Text(kSearchRow));
+  search_->setPlaceholderText(tools_.Text(kStructureSearchRow));
+  search_->setAccessibleName(tools_.Text(kStructureSearchRow));
   search_->setClearButtonEnabled(true);
   row->addWidget(airborne_);
   row->addWidget(impact_);
@@ -90,7 +87,7 @@ QWidget* SavedResultsWindow::MakeKinds() {
 QWidget* SavedResultsWindow::MakeGrid() {
   grid_ = new QTableView(this);
   grid_->setObjectName(QStringLiteral("DBGrid1"));
-  grid_->setAccessibleName(tools_.Text(kCaptionRow));
+  grid_->setAccessibleName(tools_.Text(kResultsDatabaseRow));
   grid_->setModel(&shown_);
   grid_->setSelectionBehavior(QAbstractItemView::SelectRows);
   grid_->setSelectionMode(QAbstractItemView::SingleSelection);
@@ -116,7 +113,7 @@ QWidget* SavedResultsWindow::MakeDetails() {
   name_ = new QLineEdit(details);
   name_->setObjectName(QStringLiteral("Text2"));
   name_->setReadOnly(true);
-  name_->setAccessibleName(tools_.Text(kNameRow));
+  name_->setAccessibleName(tools_.Text(kNameHeadingRow));
   description_ = new QPlainTextEdit(details);
   description_->setObjectName(QStringLiteral("Text1"));
   description_->setReadOnly(true);
@@ -134,10 +131,10 @@ QWidget* SavedResultsWindow::MakeButtons() {
   const auto add = [&](const char* name, MessageRow text, std::function<void()> action) {
     return bar->Add(name, tools_.Text(text), std::move(action));
   };
-  delete_ = add("Elimina", kDeleteRow, [this] { Delete(); });
+  delete_ = add("Elimina", kDeleteResultRow, [this] { Delete(); });
   copy_ = add("Copia", kCopyRow, [this] { Copy(); });
   bar->AddStretch();
-  take_ = add("Seleziona", kTakeRow, [this] { Take(); });
+  take_ = add("Seleziona", kSelectStructureRow, [this] { Take(); });
   take_->setVisible(static_cast<bool>(listener_.take));
   take_->setDefault(static_cast<bool>(listener_.take));
   add("Chiudi", kCloseRow, [this] { reject(); });
@@ -208,7 +205,7 @@ void SavedResultsWindow::Delete() {
   const std::string name = SelectedName();
   if (name.empty()) return;
   const QString question =
-      tools_.Text(kDeleteQuestionRow) + QLatin1Char(' ') + shell::ToQt(name) + QLatin1Char('?');
+      tools_.Text(kDeleteResultQuestionRow) + QLatin1Char(' ') + shell::ToQt(name) + QLatin1Char('?');
   if (!tools_.ask(question)) return;
   const int row = grid_->currentIndex().row();
   bool removed = false;

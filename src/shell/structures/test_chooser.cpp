@@ -14,13 +14,11 @@
 #include <set>
 #include <utility>
 
-#include "shell/structures/structure_rows.h"
+#include "foundation/message_rows.h"
 
 namespace velmar::structures {
 namespace {
 
-constexpr MessageRow kTreeNameRow{1714};
-constexpr MessageRow kListNameRow{1715};
 /// Takes the width that the list has: what does not fit is left out in the middle of a name, where names
 /// differ least.
 class FittingNames : public QStyledItemDelegate {
@@ -42,7 +40,7 @@ TestChooser::TestChooser(const shell::WindowTools& tools, LibrarySource source, 
       tools_(tools),
       source_(std::move(source)),
       listener_(std::move(listener)),
-      model_({tools.Text(kNameRow)}),
+      model_({tools.Text(kNameHeadingRow)}),
       shown_(model_),
       nodes_(controls.nodes) {
   auto* row = new QHBoxLayout(this);
@@ -60,7 +58,7 @@ TestChooser::TestChooser(const shell::WindowTools& tools, LibrarySource source, 
 QWidget* TestChooser::MakeTree(const Controls& controls) {
   tree_ = new QTreeWidget(this);
   tree_->setObjectName(QLatin1String(controls.tree));
-  tree_->setAccessibleName(tools_.Text(kTreeNameRow));
+  tree_->setAccessibleName(tools_.Text(kDatabaseTreeRow));
   tree_->setHeaderHidden(true);
   tree_->setUniformRowHeights(true);
   tree_->setTextElideMode(Qt::ElideMiddle);
@@ -79,22 +77,22 @@ QWidget* TestChooser::MakeList(const Controls& controls) {
   column->setContentsMargins(0, 0, 0, 0);
   keywords_ = new QComboBox(side);
   keywords_->setObjectName(QLatin1String(controls.keywords));
-  keywords_->setAccessibleName(tools_.Text(kKeywordRow));
+  keywords_->setAccessibleName(tools_.Text(kKeywordFilterRow));
   keywords_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-  keywords_->addItem(tools_.Text(kAllRow));
-  auto* label = new QLabel(tools_.Text(kKeywordRow), side);
+  keywords_->addItem(tools_.Text(kAllKeywordsRow));
+  auto* label = new QLabel(tools_.Text(kKeywordFilterRow), side);
   label->setBuddy(keywords_);
   auto* filter = new QHBoxLayout;
   filter->addWidget(label);
   filter->addWidget(keywords_, 1);
   search_ = new QLineEdit(side);
   search_->setObjectName(QLatin1String(controls.list) + QStringLiteral("_cerca"));
-  search_->setPlaceholderText(tools_.Text(kSearchRow));
-  search_->setAccessibleName(tools_.Text(kSearchRow));
+  search_->setPlaceholderText(tools_.Text(kStructureSearchRow));
+  search_->setAccessibleName(tools_.Text(kStructureSearchRow));
   search_->setClearButtonEnabled(true);
   list_ = new QListView(side);
   list_->setObjectName(QLatin1String(controls.list));
-  list_->setAccessibleName(tools_.Text(kListNameRow));
+  list_->setAccessibleName(tools_.Text(kTestListRow));
   list_->setUniformItemSizes(true);
   list_->setTextElideMode(Qt::ElideMiddle);
   list_->setItemDelegate(new FittingNames(list_));
@@ -152,7 +150,7 @@ void TestChooser::OpenFile(const LibraryFile& file) {
   {
     const QSignalBlocker quiet(keywords_);
     keywords_->clear();
-    keywords_->addItem(tools_.Text(kAllRow));
+    keywords_->addItem(tools_.Text(kAllKeywordsRow));
     std::set<std::string> listed = {std::string()};
     for (const TestEntry& test : tests_) {
       if (listed.insert(test.keyword).second) keywords_->addItem(shell::ToQt(test.keyword));

@@ -9,14 +9,13 @@
 
 #include "acoustics/bands.h"
 #include "foundation/decimal.h"
-#include "shell/structures/structure_rows.h"
+#include "foundation/message_rows.h"
 
 namespace velmar::structures {
 namespace {
 
-constexpr MessageRow kMassRow{1706};
-constexpr std::array<MessageRow, 5> kCertificateRows = {MessageRow{387}, MessageRow{388}, MessageRow{389},
-                                                        MessageRow{393}, MessageRow{395}};
+constexpr std::array<MessageRow, 5> kCertificateRows = {kCertificateRow, kTestDateRow, kLaboratoryRow,
+                                                        kTestClientRow, kTestRemarksRow};
 constexpr std::array<const char*, 5> kCertificateNames = {"TextCertificato", "TextDataProva", "TextEnteProva",
                                                           "TextRichiedente", "TextInformazione"};
 constexpr std::size_t kBandsInARow = 7;
@@ -97,8 +96,8 @@ QWidget* TestDetails::MakeValues() {
   const std::array<QString, 5> names = {QStringLiteral("Text4"), QStringLiteral("Text5"),
                                         QStringLiteral("Text6"), QStringLiteral("Text3"),
                                         QStringLiteral("TextMassa")};
-  const std::array<QString, 5> captions = {QString(), QString(), QString(), tools_.Text(kAreaRow),
-                                           tools_.Text(kMassRow)};
+  const std::array<QString, 5> captions = {QString(), QString(), QString(), tools_.Text(kPartAreaRow),
+                                           tools_.Text(kTestSurfaceMassRow)};
   for (std::size_t i = 0; i < values_.size(); ++i) {
     captions_[i] = new QLabel(captions[i], values);
     values_[i] = Box(names[i], captions[i]);

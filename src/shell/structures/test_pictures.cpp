@@ -1,23 +1,17 @@
 #include <QPainter>
 
+#include "foundation/message_rows.h"
 #include "presentation/drawing/colours.h"
 #include "shell/structures/test_details.h"
 
 namespace velmar::structures {
-namespace {
-
-constexpr MessageRow kCurveNameRow{1717};
-constexpr MessageRow kNoBandsRow{1719};
-
-}  // namespace
-
 MeasuredCurveView::MeasuredCurveView(const shell::WindowTools& tools, QWidget* parent)
     : QWidget(parent),
       empty_(presentation::EmptyChart(tools.words)),
       chart_(empty_),
       no_bands_(tools.Text(kNoBandsRow)) {
   setObjectName(QStringLiteral("Picture1"));
-  setAccessibleName(tools.Text(kCurveNameRow));
+  setAccessibleName(tools.Text(kMeasuredCurveRow));
   setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
 }
 

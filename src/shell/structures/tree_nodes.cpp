@@ -1,23 +1,9 @@
 #include "shell/structures/tree_nodes.h"
 
-#include "shell/structures/structure_rows.h"
+#include "foundation/message_rows.h"
 
 namespace velmar::structures {
 namespace {
-
-constexpr MessageRow kLiningRow{176};
-constexpr MessageRow kCalculatedDataRow{286};
-constexpr MessageRow kCustomRow{379};
-constexpr MessageRow kTheoreticalRow{380};
-constexpr MessageRow kWallsRow{381};
-constexpr MessageRow kOpeningsRow{382};
-constexpr MessageRow kLiningsRow{383};
-constexpr MessageRow kFloorsRow{384};
-constexpr MessageRow kCoveringsRow{385};
-constexpr MessageRow kFieldDataRow{391};
-constexpr MessageRow kSmallElementsRow{392};
-constexpr MessageRow kFieldWallsRow{1712};
-constexpr MessageRow kFieldFloorsRow{1713};
 
 struct NodeRow {
   MessageRow caption{};
@@ -28,32 +14,28 @@ struct NodeRow {
 std::vector<NodeRow> RowsFor(LibraryPurpose purpose) {
   switch (purpose) {
     case LibraryPurpose::kOpaquePart:
-      return {{kWallsRow, Branch::kWalls},
+      return {{kStandardWallsRow, Branch::kWalls},
               {kCalculatedDataRow, Branch::kCalculatedWalls},
               {kFieldDataRow, Branch::kFieldWalls}};
     case LibraryPurpose::kComponents:
-      return {{kOpeningsRow, Branch::kOpenings},
+      return {{kWindowsAndDoorsRow, Branch::kOpenings},
               {kSmallElementsRow, Branch::kSmallElements},
               {kCalculatedDataRow, Branch::kCalculatedWalls},
               {kFieldDataRow, Branch::kFieldWalls}};
     case LibraryPurpose::kAirborneData:
-      return {{kWallsRow, Branch::kWalls},
-              {kLiningsRow, Branch::kLinings},
-              {kOpeningsRow, Branch::kOpenings},
+      return {{kStandardWallsRow, Branch::kWalls},
+              {kStandardLiningsRow, Branch::kLinings},
+              {kWindowsAndDoorsRow, Branch::kOpenings},
               {kSmallElementsRow, Branch::kSmallElements},
               {kCalculatedDataRow, Branch::kCalculatedWalls},
               {kFieldDataRow, Branch::kFieldWalls}};
     case LibraryPurpose::kImpactData:
-      return {{kFloorsRow, Branch::kFloors},
-              {kCoveringsRow, Branch::kCoverings},
+      return {{kStandardFloorsRow, Branch::kFloors},
+              {kStandardCoveringsRow, Branch::kCoverings},
               {kCalculatedDataRow, Branch::kCalculatedFloors},
               {kFieldDataRow, Branch::kFieldFloors}};
   }
   return {};
-}
-
-bool IsLining(elements::Family family) {
-  return family == elements::Family::kLining || family == elements::Family::kCeiling;
 }
 
 }  // namespace
@@ -70,17 +52,17 @@ std::vector<TreeNode> LaboratoryNodes(elements::Family family, const shell::Wind
   TreeNode custom{tools.Text(kCustomRow), {}, {}};
   if (family == elements::Family::kImpact) {
     theoretical.branches = {Branch::kCalculatedFloors};
-    custom.children.push_back({tools.Text(kFloorsRow), {Branch::kFloors}, {}});
-    custom.children.push_back({tools.Text(kCoveringsRow), {Branch::kCoverings}, {}});
+    custom.children.push_back({tools.Text(kStandardFloorsRow), {Branch::kFloors}, {}});
+    custom.children.push_back({tools.Text(kStandardCoveringsRow), {Branch::kCoverings}, {}});
     return {theoretical, custom};
   }
-  custom.children.push_back({tools.Text(kWallsRow), {Branch::kWalls, Branch::kOpenings}, {}});
+  custom.children.push_back({tools.Text(kStandardWallsRow), {Branch::kWalls, Branch::kOpenings}, {}});
   if (IsLining(family)) {
     theoretical.branches.clear();
     theoretical.children.push_back({tools.Text(kLiningRow), {Branch::kCalculatedLinings}, {}});
     theoretical.children.push_back({tools.Text(kAirborneResultsRow), {Branch::kCalculatedWalls}, {}});
-    custom.children.push_back({tools.Text(kLiningsRow), {Branch::kLinings}, {}});
-    custom.children.push_back({tools.Text(kCoveringsRow), {Branch::kCoverings}, {}});
+    custom.children.push_back({tools.Text(kStandardLiningsRow), {Branch::kLinings}, {}});
+    custom.children.push_back({tools.Text(kStandardCoveringsRow), {Branch::kCoverings}, {}});
   }
   return {theoretical, custom};
 }

@@ -12,13 +12,12 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include "foundation/message_rows.h"
+
 namespace velmar::storage {
 namespace {
 
 namespace fs = std::filesystem;
-
-constexpr MessageRow kNotReadRow{1109};
-constexpr MessageRow kNoReaderRow{1145};
 
 /// How the new process starts: in a group of its own, to be killed as one, and without our files.
 class Start {
@@ -88,12 +87,12 @@ void CopyAccessFile(const AccessReader& reader, const fs::path& source, const fs
                                                          fs::absolute(target).string(), process);
   if (error != 0) {
     throw AccessFailure(
-        {{kNoReaderRow, " " + source.string()}},
+        {{kNoAccessReaderRow, " " + source.string()}},
         "cannot start " + reader.program.string() + ": " + std::generic_category().message(error));
   }
   if (EndsWell(process, reader.time_limit)) return;
   RemoveRests(target);
-  throw AccessFailure({{kNotReadRow, " " + source.string()}},
+  throw AccessFailure({{kAccessNotReadRow, " " + source.string()}},
                       source.string() + ": not readable as an Access file");
 }
 

@@ -6,6 +6,7 @@
 
 #include <stdlib.h>
 
+#include "foundation/message_rows.h"
 #include "storage/database/file_kind.h"
 
 namespace velmar::storage {
@@ -23,7 +24,7 @@ fs::path AccessSession::Readable(const fs::path& file) {
   try {
     return CopyOf(file);
   } catch (const fs::filesystem_error& error) {
-    throw AccessFailure({{MessageRow{1109}, " " + file.string()}}, error.what());
+    throw AccessFailure({{kAccessNotReadRow, " " + file.string()}}, error.what());
   }
 }
 
@@ -32,7 +33,7 @@ fs::path AccessSession::CopyOf(const fs::path& file) {
   const auto known = copies_.find(key);
   if (known != copies_.end() && known->second && fs::exists(*known->second)) return *known->second;
   if (known != copies_.end() && !known->second) {
-    throw AccessFailure({{MessageRow{1109}, " " + file.string()}},
+    throw AccessFailure({{kAccessNotReadRow, " " + file.string()}},
                         file.string() + ": not readable before either");
   }
   if (folder_.empty()) {

@@ -7,6 +7,7 @@
 #include <SQLiteCpp/Statement.h>
 #include <unistd.h>
 
+#include "foundation/message_rows.h"
 #include "storage/database/connection.h"
 #include "storage/database/database_failure.h"
 #include "storage/database/file_kind.h"
@@ -18,11 +19,6 @@ namespace velmar::storage {
 namespace {
 
 namespace fs = std::filesystem;
-
-constexpr MessageRow kQuestionRow{1110};
-constexpr MessageRow kRowsRow{1111};
-constexpr MessageRow kFailedRow{1112};
-constexpr MessageRow kOriginalRow{1146};
 
 /// A second name for `file` that is not taken: a link, or a copy where the file system knows no links.
 fs::path KeepUnderOtherName(const fs::path& file) {
@@ -51,12 +47,12 @@ std::vector<ConvertedTable> TablesOf(const fs::path& file) {
 }
 
 AccessFailure Failed(const fs::path& file, const std::string& detail) {
-  return {{{kFailedRow}, {file.string()}}, file.string() + ": " + detail};
+  return {{{kConversionFailedRow}, {file.string()}}, file.string() + ": " + detail};
 }
 
 }  // namespace
 
-Message ConversionQuestion(const fs::path& file) { return {{kQuestionRow}, {file.string()}}; }
+Message ConversionQuestion(const fs::path& file) { return {{kConversionQuestionRow}, {file.string()}}; }
 
 Message ConversionQuestionWithoutCatalogue(const fs::path& file) {
   return {
@@ -71,11 +67,11 @@ Message ConversionQuestionWithoutCatalogue(const fs::path& file) {
 Message ConversionReport(const Conversion& conversion) {
   std::int64_t rows = 0;
   for (const ConvertedTable& table : conversion.tables) rows += table.rows;
-  Message report{{kRowsRow, " " + std::to_string(rows)}};
+  Message report{{kConvertedRowsRow, " " + std::to_string(rows)}};
   for (const ConvertedTable& table : conversion.tables) {
     report.push_back({table.name + ": " + std::to_string(table.rows)});
   }
-  report.push_back({kOriginalRow, " " + conversion.original.string()});
+  report.push_back({kOriginalKeptRow, " " + conversion.original.string()});
   return report;
 }
 

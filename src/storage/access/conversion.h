@@ -23,7 +23,7 @@ struct Conversion {
   std::vector<ConvertedTable> tables{};
 };
 
-/// The question before a conversion: row 1110 and the path.
+/// The question before a conversion, with the path.
 Message ConversionQuestion(const std::filesystem::path& file);
 /// The same in Italian and English words, for a message catalogue that is itself to be converted.
 Message ConversionQuestionWithoutCatalogue(const std::filesystem::path& file);

@@ -31,6 +31,11 @@ std::optional<fs::path> ShippedDataFolder(const fs::path& program) {
       "Databases");
 }
 
+fs::path ManualFile(const fs::path& program) {
+  constexpr const char* kName = "VELMARpro - Manuale d'uso.pdf";
+  return FirstThatHolds(program, {".", "../share/doc/velmarpro"}, kName).value_or(program) / kName;
+}
+
 std::optional<fs::path> AccessReaderProgram(const fs::path& program) {
   constexpr const char* kName = "velmar-access-reader";
   const auto folder =

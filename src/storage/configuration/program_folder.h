@@ -12,6 +12,10 @@ std::filesystem::path ProgramFolder();
 /// in the tree that built it; nothing when it is not there.
 std::optional<std::filesystem::path> ShippedDataFolder(const std::filesystem::path& program);
 
+/// The user's manual, as installed or as built beside `program`; the latter also where it is in neither
+/// place, so that its absence can be told by name.
+std::filesystem::path ManualFile(const std::filesystem::path& program);
+
 /// The program that reads genuine Access files, as installed or as built; nothing when it is not there.
 std::optional<std::filesystem::path> AccessReaderProgram(const std::filesystem::path& program);
 

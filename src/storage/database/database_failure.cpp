@@ -2,31 +2,23 @@
 
 #include <utility>
 
+#include "foundation/message_rows.h"
+
 namespace velmar::storage {
 namespace {
-
-constexpr MessageRow kDiskFullRow{1101};
-constexpr MessageRow kDamagedRow{1104};
-constexpr MessageRow kLockedRow{1107};
-constexpr MessageRow kReadOnlyRow{1108};
-constexpr MessageRow kUnreadableRow{1113};
-constexpr MessageRow kMissingTableRow{1116};
-constexpr MessageRow kMissingColumnRow{1117};
-constexpr MessageRow kNotChangedRow{1118};
-constexpr MessageRow kAccessFormatRow{1119};
 
 MessageRow RowOf(DatabaseProblem problem) {
   switch (problem) {
     case DatabaseProblem::kUnreadable:
       return kUnreadableRow;
     case DatabaseProblem::kDamaged:
-      return kDamagedRow;
+      return kDatabaseDamagedRow;
     case DatabaseProblem::kLocked:
-      return kLockedRow;
+      return kDatabaseLockedRow;
     case DatabaseProblem::kReadOnly:
-      return kReadOnlyRow;
+      return kFileReadOnlyRow;
     case DatabaseProblem::kDiskFull:
-      return kDiskFullRow;
+      return kDatabaseDiskFullRow;
     case DatabaseProblem::kAccessFormat:
       return kAccessFormatRow;
     case DatabaseProblem::kMissingTable:

@@ -2,18 +2,9 @@
 
 #include <cerrno>
 
+#include "foundation/message_rows.h"
+
 namespace velmar::storage {
-namespace {
-
-constexpr MessageRow kNotFoundRow{1134};
-constexpr MessageRow kNotAFileRow{1135};
-constexpr MessageRow kNotAllowedRow{1136};
-constexpr MessageRow kDiskFullRow{1137};
-constexpr MessageRow kTooLargeRow{1138};
-constexpr MessageRow kSystemRow{1139};
-
-}  // namespace
-
 MessageLine ReasonLine(StoreReason reason, const std::string& system_words) {
   switch (reason) {
     case StoreReason::kNotFound:
@@ -26,11 +17,11 @@ MessageLine ReasonLine(StoreReason reason, const std::string& system_words) {
     case StoreReason::kDiskFull:
       return {kDiskFullRow};
     case StoreReason::kTooLarge:
-      return {kTooLargeRow};
+      return {kTooLargeFileRow};
     case StoreReason::kSystem:
       break;
   }
-  return {kSystemRow, " " + system_words};
+  return {kSystemErrorRow, " " + system_words};
 }
 
 StoreFailure::StoreFailure(StoreAction action, StoreReason reason, const std::string& path,

@@ -18,11 +18,7 @@ enum class StoreReason {
   kSystem,      ///< anything else; the detail holds the system's words
 };
 
-/// "The file cannot be read:" and "The file cannot be written:".
-inline constexpr MessageRow kCannotReadRow{1132};
-inline constexpr MessageRow kCannotWriteRow{1133};
-
-/// The line that names `reason`: rows 1134 to 1139; for kIsFolder and kNotAFile the same one.
+/// The line that names `reason`; for kIsFolder and kNotAFile the same one.
 /// @param system_words what the system says of the failure; shown for kSystem only
 MessageLine ReasonLine(StoreReason reason, const std::string& system_words);
 

@@ -28,7 +28,7 @@ struct ListedTest {
 /// The folder with the tree key `key` ("Rw", "Infissi", "Piccoli elementi", ...); nothing for an unknown one.
 std::optional<LibraryFolder> FindLibraryFolder(std::string_view key);
 
-/// The entries of the keyword filter: `all` (row 367), then every keyword once in the order of appearance.
+/// The entries of the keyword filter: `all`, then every keyword once in the order of appearance.
 std::vector<std::string> TestKeywords(const std::vector<ListedTest>& tests, const std::string& all);
 /// The names of the tests whose keyword is `filter`, or of all under `all`.
 std::vector<std::string> TestsUnderFilter(const std::vector<ListedTest>& tests, std::string_view filter,

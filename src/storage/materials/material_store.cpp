@@ -6,6 +6,7 @@
 
 #include <SQLiteCpp/Database.h>
 
+#include "foundation/message_rows.h"
 #include "storage/database/connection.h"
 #include "storage/database/fold_case.h"
 #include "storage/database/table_rows.h"
@@ -107,7 +108,7 @@ std::optional<Message> MaterialStore::Change(std::string_view name,
   return ChangeDatabase(file_, [&](SQLite::Database& database) -> std::optional<Message> {
     TableRows table(database, TableOf<Material>());
     std::optional<StoredRow> stored = table.Find(name);
-    if (!stored) return Message{{kMaterialGoneRow, " " + std::string(name)}};
+    if (!stored) return Message{{kEditedMaterialGoneRow, " " + std::string(name)}};
     MaterialRow<Material> row = RowFromCells<Material>(stored->cells);
     const std::string old_name = row.record.values.name;
     change(row);

@@ -13,13 +13,6 @@
 
 namespace velmar::storage {
 
-/// "Enter the name of the material."
-inline constexpr MessageRow kMaterialWithoutNameRow{347};
-/// "The database already holds a material of this name."
-inline constexpr MessageRow kMaterialExistsRow{354};
-/// "The material is no longer in the database:" (the name follows)
-inline constexpr MessageRow kMaterialGoneRow{1140};
-
 /// The material database. Every operation opens the file, works and closes it; a change is one transaction.
 ///
 /// A name is unique without regard to case, also of accented letters (FoldCase()); a file that holds two such

@@ -21,16 +21,8 @@ struct StoredCalculation {
 /// The texts of `calculation`.
 StoredCalculation TextsOf(elements::Calculation calculation);
 
-/// The shapes of what follows the common part of a project file.
-enum class FamilyPart { kSingle, kSeaSingle, kSeaDouble, kDoubleWall, kFloor, kLining, kFacade };
-
-/// What stands in the closing lines of a double wall.
-enum class ClosingLines {
-  kFibre,           ///< one line: `Text31`
-  kFibreIfTyped,    ///< two lines: `Text31` unless it is "0", and a blank one
-  kSupportIfTyped,  ///< two lines: a blank one, and `Text8` unless it is "60"
-  kBlank,           ///< two blank lines
-};
+using elements::ClosingLines;
+using FamilyPart = elements::FilePart;
 
 /// The lines of a family part that come and go with the variant.
 struct PartLayout {

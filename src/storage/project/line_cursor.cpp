@@ -4,6 +4,7 @@
 #include <optional>
 
 #include "foundation/decimal.h"
+#include "foundation/message_rows.h"
 #include "foundation/rounding.h"
 #include "storage/files/windows_1252.h"
 #include "storage/project/project_failure.h"
@@ -38,19 +39,18 @@ void LineCursor::Fail(MessageLine what, const std::string& detail) const {
 
 std::string_view LineCursor::NextLine() {
   ++line_number_;
-  if (rest_.empty()) Fail({expected::kFileEndsRow}, "the file ends before this line");
+  if (rest_.empty()) Fail({kFileEndsRow}, "the file ends before this line");
   const std::string_view line = FirstLine(rest_);
   rest_.remove_prefix(line.size());
   rest_.remove_prefix(rest_.starts_with("\r\n") ? 2 : std::min<std::size_t>(1, rest_.size()));
-  if (line.find('\0') != std::string_view::npos)
-    Fail({expected::kNullCharacterRow}, "the line holds a null character");
+  if (line.find('\0') != std::string_view::npos) Fail({kNullCharacterRow}, "the line holds a null character");
   return line;
 }
 
 std::string LineCursor::Text() {
   const std::string_view line = NextLine();
   if (!utf8_) return Utf8FromWindows1252(line);
-  if (!IsUtf8(line)) Fail({expected::kNotUtf8Row}, "the line is not UTF-8");
+  if (!IsUtf8(line)) Fail({kLineNotUtf8Row}, "the line is not UTF-8");
   return std::string(line);
 }
 
@@ -58,13 +58,13 @@ std::string LineCursor::TrimmedText() { return std::string(Trimmed(Text())); }
 
 double LineCursor::Number() {
   const std::optional<double> value = ParseDecimal(NextLine());
-  if (!value) Fail({expected::kNumberRow}, "a number was expected");
+  if (!value) Fail({kNumberExpectedRow}, "a number was expected");
   return *value;
 }
 
 float LineCursor::Single() {
   const std::optional<float> value = ParseSingle(NextLine());
-  if (!value) Fail({expected::kNumberRow}, "a single-precision number was expected");
+  if (!value) Fail({kNumberExpectedRow}, "a single-precision number was expected");
   return *value;
 }
 
@@ -80,7 +80,7 @@ int LineCursor::Integer(int lowest, int highest, std::string& text) {
   if (!value || whole < lowest || whole > highest) {
     const std::string from = std::to_string(lowest);
     const std::string to = std::to_string(highest);
-    Fail({expected::kIntegerFromRow, " " + from + " ", expected::kIntegerToRow, " " + to},
+    Fail({kIntegerFromRow, " " + from + " ", kIntegerToRow, " " + to},
          "a whole number from " + from + " to " + to + " was expected");
   }
   return static_cast<int>(whole);
@@ -92,19 +92,19 @@ int LineCursor::Choice(std::initializer_list<std::string_view> words) {
   const std::string_view line = NextLine();
   const auto* found = std::ranges::find_if(words, [line](auto word) { return SameWord(word, line); });
   if (found == words.end())
-    Fail({expected::kOneOfRow, Listed(words)}, "one of these was expected:" + Listed(words));
+    Fail({kOneOfExpectedRow, Listed(words)}, "one of these was expected:" + Listed(words));
   return static_cast<int>(found - words.begin());
 }
 
 void LineCursor::Blank() {
-  if (!Trimmed(NextLine()).empty()) Fail({expected::kBlankRow}, "an empty line was expected");
+  if (!Trimmed(NextLine()).empty()) Fail({kBlankExpectedRow}, "an empty line was expected");
 }
 
 void LineCursor::Label(std::string_view beginning) {
   const std::string_view line = Trimmed(NextLine());
   if (!SameWord(line.substr(0, beginning.size()), beginning)) {
     const std::string quoted = " \"" + std::string(beginning) + "\"";
-    Fail({expected::kBeginningRow, quoted}, "a line that begins with" + quoted + " was expected");
+    Fail({kBeginningExpectedRow, quoted}, "a line that begins with" + quoted + " was expected");
   }
 }
 

@@ -2,11 +2,13 @@
 
 #include <utility>
 
+#include "foundation/message_rows.h"
+
 namespace velmar::storage {
 namespace {
 
 Message DamagedAt(int line_number, MessageLine what) {
-  MessageLine line = {expected::kLineRow, " " + std::to_string(line_number) + ": "};
+  MessageLine line = {kProjectLineRow, " " + std::to_string(line_number) + ": "};
   line.insert(line.end(), what.begin(), what.end());
   return {{kProjectDamagedRow}, std::move(line)};
 }

@@ -7,25 +7,11 @@
 
 namespace velmar::storage {
 
-/// "The project could not be read": the first line of what the user is told.
-inline constexpr MessageRow kProjectDamagedRow{394};
 /// What the user is told of a file that does not exist.
 inline constexpr const char* kProjectMissing = "Impossibile aprire il file: file non trovato";
 
 /// What a line of a project file should have been; rows of the program's own texts.
-namespace expected {
-inline constexpr MessageRow kLineRow{1120};
-inline constexpr MessageRow kFileEndsRow{1121};
-inline constexpr MessageRow kNumberRow{1122};
-inline constexpr MessageRow kIntegerFromRow{1123};
-inline constexpr MessageRow kIntegerToRow{1124};
-inline constexpr MessageRow kOneOfRow{1125};
-inline constexpr MessageRow kBlankRow{1126};
-inline constexpr MessageRow kBeginningRow{1127};
-inline constexpr MessageRow kNullCharacterRow{1128};
-inline constexpr MessageRow kNotUtf8Row{1129};
-inline constexpr MessageRow kForeignVariantRow{1130};
-}  // namespace expected
+namespace expected {}  // namespace expected
 
 /// A project file could not be read. Nothing of it was taken over.
 class ProjectFileFailure : public Failure {

@@ -3,6 +3,7 @@
 #include <optional>
 #include <string>
 
+#include "foundation/message_rows.h"
 #include "storage/files/store_failure.h"
 #include "storage/files/whole_file.h"
 #include "storage/project/common_part.h"
@@ -45,7 +46,7 @@ void Select(const ProjectReadContext& context, const LineCursor& lines, const St
   if (!calculation) return;
   const StoredCalculation known = TextsOf(*calculation);
   if (FindPartLayout(known.family, known.variant)->part != part)
-    throw ProjectFileFailure(lines.LineNumber() - 1, {expected::kForeignVariantRow},
+    throw ProjectFileFailure(lines.LineNumber() - 1, {kForeignVariantRow},
                              "the variant is not one of this family");
   setup.calculation = calculation;
   if (context.select_calculation) context.select_calculation(setup, *calculation);

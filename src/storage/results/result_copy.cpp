@@ -3,15 +3,11 @@
 #include <utility>
 
 #include "foundation/decimal.h"
+#include "foundation/message_rows.h"
 #include "foundation/rounding.h"
 
 namespace velmar::storage {
 namespace {
-
-constexpr MessageRow kNameRow{371};
-constexpr MessageRow kDescriptionRow{94};
-constexpr MessageRow kRatingRow{372};
-constexpr MessageRow kAreaRow{373};
 
 CopiedField BandField(const std::optional<double>& value) {
   if (!value) return {};
@@ -34,10 +30,10 @@ CopiedTable CopyOf(ResultTable table, const SavedResult& result) {
     centres.push_back(NumberField(acoustics::BandCentre(band)));
     values.push_back(BandField(result.bands.at(band)));
   }
-  return {{TextField({kNameRow}), TextField({result.name})},
+  return {{TextField({kNameHeadingRow}), TextField({result.name})},
           {TextField({kDescriptionRow}), TextField({result.description})},
-          {TextField({kRatingRow, " [dB]"}), NumberField(result.rating)},
-          {TextField({kAreaRow, " [m²]"}), NumberField(result.area_m2)},
+          {TextField({kRatingHeadingRow, " [dB]"}), NumberField(result.rating)},
+          {TextField({kAreaHeadingRow, " [m²]"}), NumberField(result.area_m2)},
           centres,
           values,
           {TextField({impact ? "Ci [dB]" : "C [dB]"}), TextField({impact ? "C50_5000 [dB]" : "Ctr [dB]"})},

@@ -24,8 +24,8 @@ CopiedField NumberField(const std::optional<double>& value);
 /// Row by row and field by field.
 using CopiedTable = std::vector<std::vector<CopiedField>>;
 
-/// What "Copia" gives of a stored result: name, description, rating and area with their headings (rows 371,
-/// 94, 372 and 373), the 21 bands under theirs, and the adaptation terms. Numbers have a decimal comma; bands
+/// What "Copia" gives of a stored result: name, description, rating and area with their headings, the 21
+/// bands under theirs, and the adaptation terms. Numbers have a decimal comma; bands
 /// are written with one decimal; a null is empty.
 CopiedTable CopyOf(ResultTable table, const SavedResult& result);
 

@@ -7,12 +7,10 @@
 #include <vector>
 
 #include "foundation/message.h"
+#include "foundation/message_rows.h"
 #include "storage/results/saved_result.h"
 
 namespace velmar::storage {
-
-/// "The database already holds a structure of this name."
-inline constexpr MessageRow kResultExistsRow{224};
 
 enum class SaveStatus {
   kSaved,

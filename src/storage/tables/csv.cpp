@@ -1,18 +1,13 @@
 #include "storage/tables/csv.h"
 
 #include <cstddef>
-#include <set>
-#include <utility>
+#include <string>
 
 #include "foundation/failure.h"
+#include "foundation/message_rows.h"
 
 namespace velmar::storage {
 namespace {
-
-Failure LineFailure(MessageRow row, size_t line, const char* what) {
-  const std::string number = std::to_string(line);
-  return Failure({{row, " " + number}}, std::string("CSV line ") + number + ": " + what);
-}
 
 /// The bytes that follow the lead byte of a UTF-8 sequence; -1 when it leads none.
 int FollowingBytes(unsigned char lead) {
@@ -34,159 +29,28 @@ bool IsUtf8(std::string_view text) {
   return true;
 }
 
-char SeparatorOf(std::string_view text) {
-  bool quoted = false;
-  for (const char c : text) {
-    if (c == '"') quoted = !quoted;
-    if (quoted) continue;
-    if (c == ';') return ';';
-    if (c == '\n') break;
+Message ToldOf(const CsvFailure& failure) {
+  const std::string line = " " + std::to_string(failure.Line());
+  switch (failure.Problem()) {
+    case CsvProblem::kQuotes:
+      return {{kCsvQuotesRow, line}};
+    case CsvProblem::kFieldCount:
+      return {{kCsvFieldCountRow, line}};
+    case CsvProblem::kHeading:
+      return {{kCsvHeaderRow}};
   }
-  return ',';
-}
-
-/// Reads the fields of one text from front to back.
-class Scanner {
- public:
-  explicit Scanner(std::string_view text) : text_(text), separator_(SeparatorOf(text)) {}
-
-  bool AtEnd() const { return at_ >= text_.size(); }
-  size_t Line() const { return line_; }
-
-  /// Passes a line that holds nothing at all. @return whether there was one
-  bool PassEmptyLine() {
-    if (AtEnd() || !AtLineEnd()) return false;
-    TakeLineEnd();
-    return true;
-  }
-
-  /// The fields up to the end of the line, which is passed.
-  std::vector<std::string> Row() {
-    std::vector<std::string> fields;
-    do {
-      fields.push_back(Field());
-    } while (TakeSeparator());
-    TakeLineEnd();
-    return fields;
-  }
-
- private:
-  bool AtLineEnd() const {
-    return AtEnd() || text_[at_] == '\n' || (text_[at_] == '\r' && text_.substr(at_ + 1, 1) == "\n");
-  }
-
-  std::string Field() {
-    if (!AtEnd() && text_[at_] == '"') return QuotedField();
-    const size_t begin = at_;
-    while (!AtLineEnd() && text_[at_] != separator_) ++at_;
-    return std::string(text_.substr(begin, at_ - begin));
-  }
-
-  std::string QuotedField() {
-    const size_t first_line = line_;
-    std::string field;
-    for (++at_; !AtEnd(); ++at_) {
-      if (text_[at_] == '\n') ++line_;
-      if (text_[at_] != '"') {
-        field += text_[at_];
-        continue;
-      }
-      if (text_.substr(at_ + 1, 1) != "\"") break;
-      field += text_[++at_];
-    }
-    if (AtEnd()) throw LineFailure(kCsvQuotesRow, first_line, "a quotation mark is not closed");
-    ++at_;
-    if (!AtLineEnd() && text_[at_] != separator_) {
-      throw LineFailure(kCsvQuotesRow, line_, "text follows a closing quotation mark");
-    }
-    return field;
-  }
-
-  bool TakeSeparator() {
-    if (AtEnd() || text_[at_] != separator_) return false;
-    ++at_;
-    return true;
-  }
-
-  void TakeLineEnd() {
-    if (AtEnd()) return;
-    if (text_[at_] == '\r') ++at_;
-    ++at_;
-    ++line_;
-  }
-
-  std::string_view text_;
-  char separator_;
-  size_t at_ = 0;
-  size_t line_ = 1;
-};
-
-bool IsLoneEmptyField(const std::vector<std::string>& fields) {
-  return fields.size() == 1 && fields[0].empty();
-}
-
-void CheckHeader(const std::vector<std::string>& header) {
-  const Message message{{kCsvHeaderRow}};
-  std::set<std::string_view> names;
-  for (const std::string& name : header) {
-    if (name.empty()) throw Failure(message, "CSV heading with an empty name");
-    if (!names.insert(name).second) throw Failure(message, "CSV heading twice: " + name);
-  }
-  if (header.empty()) throw Failure(message, "CSV table without a heading");
-}
-
-void AppendField(std::string& text, const std::string& field) {
-  if (field.find_first_of(",;\"\r\n") == std::string::npos) {
-    text += field;
-    return;
-  }
-  text += '"';
-  for (const char c : field) {
-    if (c == '"') text += '"';
-    text += c;
-  }
-  text += '"';
-}
-
-void AppendRow(std::string& text, const std::vector<std::string>& fields) {
-  // A lone empty field would read back as an empty line.
-  if (IsLoneEmptyField(fields)) text += "\"\"";
-  for (size_t i = 0; i < fields.size(); ++i) {
-    if (i > 0) text += ',';
-    AppendField(text, fields[i]);
-  }
-  text += '\n';
+  return {};
 }
 
 }  // namespace
 
 CsvTable ParseCsv(std::string_view text) {
-  constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
-  if (text.substr(0, kByteOrderMark.size()) == kByteOrderMark) text.remove_prefix(kByteOrderMark.size());
   if (!IsUtf8(text)) throw Failure({{kCsvEncodingRow}}, "CSV table is not UTF-8");
-  CsvTable table;
-  Scanner scanner(text);
-  while (scanner.PassEmptyLine()) {
+  try {
+    return velmar::ParseCsv(text);
+  } catch (const CsvFailure& failure) {
+    throw Failure(ToldOf(failure), failure.what());
   }
-  if (!scanner.AtEnd()) table.header = scanner.Row();
-  CheckHeader(table.header);
-  while (!scanner.AtEnd()) {
-    const size_t line = scanner.Line();
-    if (scanner.PassEmptyLine()) continue;
-    std::vector<std::string> fields = scanner.Row();
-    if (fields.size() != table.header.size()) {
-      throw LineFailure(kCsvFieldCountRow, line, "wrong number of fields");
-    }
-    table.rows.push_back(std::move(fields));
-  }
-  return table;
-}
-
-std::string FormatCsv(const CsvTable& table) {
-  std::string text;
-  AppendRow(text, table.header);
-  for (const std::vector<std::string>& row : table.rows) AppendRow(text, row);
-  return text;
 }
 
 }  // namespace velmar::storage

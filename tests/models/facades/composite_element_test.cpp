@@ -13,6 +13,7 @@
 
 #include "acoustics/airborne_rating.h"
 #include "foundation/failure.h"
+#include "foundation/message_rows.h"
 
 namespace velmar::models {
 namespace {

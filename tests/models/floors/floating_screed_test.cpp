@@ -8,7 +8,7 @@
 #include <gtest/gtest.h>
 
 #include "foundation/failure.h"
-#include "models/plates/failure_rows.h"
+#include "foundation/message_rows.h"
 #include "models/relations/relation.h"
 #include "tests/models/floors/plain_floating_screed.h"
 #include "tests/models/floors/sample_floors.h"

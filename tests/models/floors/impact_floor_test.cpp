@@ -10,7 +10,7 @@
 #include <gtest/gtest.h>
 
 #include "foundation/failure.h"
-#include "models/plates/failure_rows.h"
+#include "foundation/message_rows.h"
 #include "tests/models/floors/plain_impact_floor.h"
 #include "tests/models/floors/sample_floors.h"
 

@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include "foundation/failure.h"
+#include "foundation/message_rows.h"
 #include "models/floors/floor_mass.h"
 #include "tests/models/floors/sample_floors.h"
 

@@ -6,7 +6,7 @@
 #include <gtest/gtest.h>
 
 #include "foundation/failure.h"
-#include "models/sea/failure_causes.h"
+#include "foundation/message_rows.h"
 #include "models/sea/leaf_transmission.h"
 #include "tests/models/sea/constructions.h"
 
@@ -40,8 +40,8 @@ class CavityTypes : public testing::TestWithParam<Contents> {};
 
 TEST_P(CavityTypes, CountOnlyWhatTheyShow) {
   const auto [type, fills, masses] = GetParam();
-  EXPECT_EQ(ContentsOf(type).fills, fills);
-  EXPECT_EQ(ContentsOf(type).masses, masses);
+  EXPECT_EQ(static_cast<std::size_t>(acoustics::FibreCount(type)), fills);
+  EXPECT_EQ(static_cast<std::size_t>(acoustics::MassCount(type)), masses);
   EXPECT_DOUBLE_EQ(CavityContentsThickness(FullCavity(type)),
                    50.0 * static_cast<double>(fills) + 12.5 * static_cast<double>(masses));
   // What is hidden does not reach the result.
@@ -53,22 +53,22 @@ TEST_P(CavityTypes, CountOnlyWhatTheyShow) {
 }
 INSTANTIATE_TEST_SUITE_P(All, CavityTypes,
                          testing::Values(Contents{SeaCavityType::kEmpty, 0, 0},
-                                         Contents{SeaCavityType::kFill, 1, 0},
-                                         Contents{SeaCavityType::kFillMass, 1, 1},
-                                         Contents{SeaCavityType::kMassFillMass, 1, 2},
-                                         Contents{SeaCavityType::kFillMassFill, 2, 1},
-                                         Contents{SeaCavityType::kFillMassFillMass, 2, 2},
-                                         Contents{SeaCavityType::kFillMassFillMassFill, 3, 2}));
+                                         Contents{SeaCavityType::kFibre, 1, 0},
+                                         Contents{SeaCavityType::kFibreMass, 1, 1},
+                                         Contents{SeaCavityType::kMassFibreMass, 1, 2},
+                                         Contents{SeaCavityType::kFibreMassFibre, 2, 1},
+                                         Contents{SeaCavityType::kFibreMassFibreMass, 2, 2},
+                                         Contents{SeaCavityType::kFibreMassFibreMassFibre, 3, 2}));
 
 TEST(CavityContents, IncludeTheDampingSheetsOfTheMasses) {
-  SeaCavity cavity = FullCavity(SeaCavityType::kFillMass);
+  SeaCavity cavity = FullCavity(SeaCavityType::kFibreMass);
   cavity.masses[0]->damping = BitumenSheet();
   EXPECT_DOUBLE_EQ(CavityContentsThickness(cavity), 50.0 + 12.5 + 4.0);
   EXPECT_EQ(CavityContentsThickness({}), 0.0);
 }
 
 TEST(CavityContents, NameTheFillsWithoutAbsorption) {
-  SeaCavity cavity = FullCavity(SeaCavityType::kFillMassFill);
+  SeaCavity cavity = FullCavity(SeaCavityType::kFibreMassFibre);
   EXPECT_THAT(FillsWithoutAbsorption(cavity), IsEmpty());
   cavity.fills[0]->name = "Fibra A";
   cavity.fills[0]->absorption[18] = kNoAbsorption;
@@ -89,28 +89,28 @@ TEST(SeaCavityLayers, GiveAnEmptyCavityAQuarterOfADecibel) {
 
 TEST(SeaCavityLayers, HandTheMassesToTheSidesAsPowerOfAtLeastOne) {
   const auto levels =
-      SeaCavityLayers(FullCavity(SeaCavityType::kFillMassFillMass), kWallSize, kNothing, kNothing);
+      SeaCavityLayers(FullCavity(SeaCavityType::kFibreMassFibreMass), kWallSize, kNothing, kNothing);
   for (std::size_t f = 1; f <= kHighestHz; ++f) ASSERT_GE(levels.extra_power[f], 1.0);
   EXPECT_EQ(levels.extra_power[3], 1.0);  // both boards hold nothing back at 3 Hz
   EXPECT_DOUBLE_EQ(levels.fill_thickness_m, 0.1);
   // Two equal boards hand over twice what one does.
-  SeaCavity one = FullCavity(SeaCavityType::kFillMass);
+  SeaCavity one = FullCavity(SeaCavityType::kFibreMass);
   const auto single = SeaCavityLayers(one, kWallSize, kNothing, kNothing);
   EXPECT_NEAR(levels.extra_power[1000], 2.0 * single.extra_power[1000], 1e-9 * levels.extra_power[1000]);
 }
 
 TEST(SeaCavityLayers, RaiseTheLossesOfADampedMass) {
-  SeaCavity damped = FullCavity(SeaCavityType::kFillMass);
+  SeaCavity damped = FullCavity(SeaCavityType::kFibreMass);
   // A sheet of no thickness leaves the plate as it is and still counts as damping.
   damped.masses[0]->damping = SeaDampingSheet{0.0, 1500, 0.0};
-  SeaCavity lossy = FullCavity(SeaCavityType::kFillMass);
+  SeaCavity lossy = FullCavity(SeaCavityType::kFibreMass);
   lossy.masses[0]->loss_factor *= 1.5;
   EXPECT_EQ(SeaCavityLayers(damped, kWallSize, kNothing, kNothing).cavity_db,
             SeaCavityLayers(lossy, kWallSize, kNothing, kNothing).cavity_db);
 }
 
 TEST(SeaCavityLayers, KeepTheWholeModulusOfAMass) {
-  SeaCavity cavity = FullCavity(SeaCavityType::kFillMass);
+  SeaCavity cavity = FullCavity(SeaCavityType::kFibreMass);
   cavity.masses[0]->youngs_modulus_gpa = 5;  // a layer of a side would be calculated with 3 GPa
   SeaPlateInput board{.length_a_m = kWallSize.length_a_m,
                       .length_b_m = kWallSize.length_b_m,
@@ -125,10 +125,10 @@ TEST(SeaCavityLayers, KeepTheWholeModulusOfAMass) {
 }
 
 TEST(SeaCavityLayers, FailOnAMassOrAFillWithoutMass) {
-  SeaCavity cavity = FullCavity(SeaCavityType::kFillMass);
+  SeaCavity cavity = FullCavity(SeaCavityType::kFibreMass);
   cavity.fills[0]->thickness_mm = 0.0;
   EXPECT_THROW(SeaCavityLayers(cavity, kWallSize, kNothing, kNothing), ArithmeticFailure);
-  cavity = FullCavity(SeaCavityType::kFillMass);
+  cavity = FullCavity(SeaCavityType::kFibreMass);
   cavity.masses[0]->density_kg_m3 = 0.0;
   try {
     SeaCavityLayers(cavity, kWallSize, kNothing, kNothing);

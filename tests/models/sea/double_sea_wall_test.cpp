@@ -6,7 +6,7 @@
 #include <gtest/gtest.h>
 
 #include "foundation/failure.h"
-#include "models/sea/failure_causes.h"
+#include "foundation/message_rows.h"
 #include "tests/models/sea/constructions.h"
 
 namespace velmar::models {
@@ -25,7 +25,7 @@ DoubleSeaWallInput BoardWall(SeaConnectionKind kind = SeaConnectionKind::kLines)
           .total_thickness_mm = 125,
           .first_side = {Plasterboard(), Plasterboard(), {}},
           .second_side = {Plasterboard(), {}, {}},
-          .cavity = {.type = SeaCavityType::kFill, .depth_mm = 75, .fills = {MineralWool(), {}, {}}},
+          .cavity = {.type = SeaCavityType::kFibre, .depth_mm = 75, .fills = {MineralWool(), {}, {}}},
           .connection = {.kind = kind, .count = 5.0}};
 }
 
@@ -61,7 +61,7 @@ TEST(CheckDoubleSeaWall, AsksForMoreThanAMillimetreOfCavity) {
 
 TEST(CheckDoubleSeaWall, NamesTheFillsWithoutAbsorptionEachOnALine) {
   DoubleSeaWallInput wall = BoardWall();
-  wall.cavity.type = SeaCavityType::kFillMassFill;
+  wall.cavity.type = SeaCavityType::kFibreMassFibre;
   wall.cavity.fills[1] = MineralWool(kNoAbsorption);
   wall.cavity.fills[1]->name = "Fibra B";
   EXPECT_EQ(CheckDoubleSeaWall(wall), (Message{{MessageRow{252}}, {"Fibra B"}}));
@@ -167,7 +167,7 @@ TEST(DoubleSeaWall, InsulatesBetterWithWoolAndWithMassInItsCavity) {
   const auto wool = Bands(wall);
   wall.cavity.type = SeaCavityType::kEmpty;
   const auto empty = Bands(wall);
-  wall.cavity.type = SeaCavityType::kFillMass;
+  wall.cavity.type = SeaCavityType::kFibreMass;
   wall.cavity.masses[0] = HungBoard();
   const auto mass = Bands(wall);
   for (std::size_t i = 6; i < wool.size(); ++i) {

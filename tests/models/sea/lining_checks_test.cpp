@@ -19,7 +19,7 @@ LiningInput Sound(LiningVariant variant) {
       .base_rw_db = 50.0F,
       .base_mass_kg_m2 = 230.0F,
       .layers = {Plasterboard(), {}, {}},
-      .cavity = {.type = SeaCavityType::kFill, .depth_mm = 60, .fills = {MineralWool(), {}, {}}},
+      .cavity = {.type = SeaCavityType::kFibre, .depth_mm = 60, .fills = {MineralWool(), {}, {}}},
       .support_distance = 60.0};
   input.base_spectrum_db.fill(45.0);
   return input;

@@ -67,7 +67,7 @@ LiningInput Generic() {
           .base_rw_db = 50.0F,
           .base_mass_kg_m2 = 230.0F,
           .layers = {Plasterboard(), {}, {}},
-          .cavity = {.type = SeaCavityType::kFill, .depth_mm = 50, .fills = {MineralWool(), {}, {}}}};
+          .cavity = {.type = SeaCavityType::kFibre, .depth_mm = 50, .fills = {MineralWool(), {}, {}}}};
 }
 
 TEST(GenericLining, IsRatedWithoutASpectrum) {

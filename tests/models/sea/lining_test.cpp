@@ -18,7 +18,7 @@ LiningInput Lining(LiningVariant variant = LiningVariant::kDirectLining) {
       .base_rw_db = 50.0F,
       .base_mass_kg_m2 = 230.0F,
       .layers = {Plasterboard(), {}, {}},
-      .cavity = {.type = SeaCavityType::kFill, .depth_mm = 60, .fills = {MineralWool(), {}, {}}},
+      .cavity = {.type = SeaCavityType::kFibre, .depth_mm = 60, .fills = {MineralWool(), {}, {}}},
       .support_distance = 60.0};
   for (std::size_t i = 0; i < input.base_spectrum_db.size(); ++i) {
     input.base_spectrum_db[i] = 35.0 + static_cast<double>(i);
@@ -122,7 +122,7 @@ TEST(Lining, HandsTheMassesOfItsCavityToTheHeavierSide) {
   for (const float base_mass : {230.0F, 4.0F}) {
     LiningInput input = Lining();
     input.base_mass_kg_m2 = base_mass;
-    input.cavity.type = SeaCavityType::kFillMass;
+    input.cavity.type = SeaCavityType::kFibreMass;
     input.cavity.masses[0] = HungBoard();
     const auto bands = Bands(input);
     const auto expected = plain::Lining(input, CompleteBaseSpectrum(input.base_spectrum_db).level_db, 3.0);

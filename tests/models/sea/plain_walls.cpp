@@ -104,7 +104,7 @@ CavityLevels CavityLayers(const models::SeaCavity& cavity, const models::SeaElem
   auto in = std::make_unique<CavityCombineInput>();
   std::array<HzSpectrum, 2> r{};
   std::array<double, 2> m{};
-  for (std::size_t k = 0; k < models::ContentsOf(cavity.type).masses; ++k) {
+  for (std::size_t k = 0; k < static_cast<std::size_t>(acoustics::MassCount(cavity.type)); ++k) {
     const auto& mass = cavity.masses[k];
     if (!mass) continue;
     SeaLayer layer{mass->thickness_mm, mass->density_kg_m3, 0.0, mass->loss_factor, mass->poissons_ratio, {}};
@@ -125,7 +125,7 @@ CavityLevels CavityLayers(const models::SeaCavity& cavity, const models::SeaElem
   }
   for (std::size_t j = 0; j < 3; ++j) {
     const auto& fill = cavity.fills[j];
-    const bool present = j < models::ContentsOf(cavity.type).fills && fill;
+    const bool present = j < static_cast<std::size_t>(acoustics::FibreCount(cavity.type)) && fill;
     const HzSpectrum a = present
                              ? PorousLayerAttenuation(true, fill->thickness_mm / 1000, fill->density_kg_m3,
                                                       AbsorptionPerHz(fill->absorption))

@@ -5,8 +5,8 @@
 #include <gtest/gtest.h>
 
 #include "foundation/failure.h"
+#include "foundation/message_rows.h"
 #include "models/sea/band_average.h"
-#include "models/sea/failure_causes.h"
 #include "models/sea/leaf_transmission.h"
 #include "models/sea/power_ratio.h"
 #include "tests/models/sea/constructions.h"

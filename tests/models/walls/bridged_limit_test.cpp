@@ -5,8 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "foundation/failure.h"
-#include "models/plates/failure_rows.h"
-#include "models/walls/failure_rows.h"
+#include "foundation/message_rows.h"
 
 namespace velmar::models {
 namespace {

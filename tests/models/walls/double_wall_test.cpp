@@ -6,7 +6,7 @@
 #include <gtest/gtest.h>
 
 #include "foundation/failure.h"
-#include "models/plates/failure_rows.h"
+#include "foundation/message_rows.h"
 #include "models/plates/plate_stack.h"
 #include "models/plates/transmission.h"
 #include "models/walls/cavity_filling.h"
@@ -46,8 +46,8 @@ TEST(DoubleWall, LeavesItsLeavesAndItsResonance) {
                    (wall.leaf1.critical_frequency_hz + wall.leaf2.critical_frequency_hz) / 2);
   EXPECT_NEAR(CalculateDoubleWall(Wall(CavityKind::kFibrous)).resonance_hz / wall.resonance_hz, 60 / 84.0,
               1e-12);
-  EXPECT_NEAR(CalculateDoubleWall(Wall(CavityKind::kLayers)).resonance_hz / wall.resonance_hz, 60 / 84.0,
-              1e-12);
+  EXPECT_NEAR(CalculateDoubleWall(Wall(CavityKind::kGenericMaterial)).resonance_hz / wall.resonance_hz,
+              60 / 84.0, 1e-12);
 }
 
 TEST(DoubleWall, WithAnEmptyCavityKeepsEachLeafsLosses) {
@@ -68,7 +68,7 @@ TEST(DoubleWall, WithFibresHasNoGapAndSharesTheLosses) {
 // Wool of 40 mm with Rs = 200: 5000 Pa·s/m²; two sheets of 10 mm: t = 0.02 m, m3 = 14 kg/m²,
 // B3 = 3e9 * 0.0004 / 0.96 * 0.02 / 12 = 2083.333 N·m, eta t = 0.0006; gap 0.15 - 0.02 - 0.04 = 0.09 m.
 TEST(DoubleWall, WithCavityLayersHasAThirdPlate) {
-  DoubleWallInput input = Wall(CavityKind::kLayers, 0.15);
+  DoubleWallInput input = Wall(CavityKind::kGenericMaterial, 0.15);
   input.cavity_layers = {kWool, kSheet};
   const CavityFilling filling = FillCavity(input);
   EXPECT_NEAR(filling.cavity.flow_resistivity_pa_s_m2, 5000, 1e-9);
@@ -87,7 +87,7 @@ TEST(DoubleWall, WithCavityLayersHasAThirdPlate) {
 }
 
 TEST(DoubleWall, AddsTheFlowResistivitiesOfItsAbsorbingLayers) {
-  DoubleWallInput input = Wall(CavityKind::kLayers, 0.2);
+  DoubleWallInput input = Wall(CavityKind::kGenericMaterial, 0.2);
   CavityLayer felt = kWool;
   felt.multiplicity = 2;
   felt.thickness_mm = 5;
@@ -97,7 +97,7 @@ TEST(DoubleWall, AddsTheFlowResistivitiesOfItsAbsorbingLayers) {
 }
 
 TEST(DoubleWall, WithoutSolidLayerHasAThirdPlateOfNothing) {
-  DoubleWallInput input = Wall(CavityKind::kLayers, 0.1);
+  DoubleWallInput input = Wall(CavityKind::kGenericMaterial, 0.1);
   input.cavity_layers = {kWool};
   const CavityFilling filling = FillCavity(input);
   EXPECT_EQ(filling.solid.mass_kg_m2, 0);
@@ -200,7 +200,7 @@ TEST(DoubleWall, ReadsCavityLayersOnlyWhenTheyFillTheCavity) {
 
 TEST(DoubleWall, RefusesWhatIsNoWall) {
   EXPECT_THROW(CalculateDoubleWall(Wall(CavityKind::kEmpty, 0)), ArithmeticFailure);
-  DoubleWallInput input = Wall(CavityKind::kLayers);
+  DoubleWallInput input = Wall(CavityKind::kGenericMaterial);
   input.cavity_layers = {kWool};
   input.cavity_layers[0].thickness_mm = 0;
   try {

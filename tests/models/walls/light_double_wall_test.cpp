@@ -6,9 +6,8 @@
 #include <gtest/gtest.h>
 
 #include "foundation/failure.h"
-#include "models/plates/failure_rows.h"
+#include "foundation/message_rows.h"
 #include "models/walls/bridged_limit.h"
-#include "models/walls/failure_rows.h"
 #include "models/walls/light_leaf.h"
 
 namespace velmar::models {
@@ -73,7 +72,8 @@ TEST(LightDoubleWall, TakesTheSixDecibelsAtExactlyTheResonanceOfItsDepth) {
 TEST(LightDoubleWall, LosesFourDecibelsAboveItsResonanceWhenEmpty) {
   const auto filled = CalculateLightDoubleWall(Wall()).spectrum;
   const auto empty = CalculateLightDoubleWall(Wall(LightWallForm::kIsolated, CavityKind::kEmpty)).spectrum;
-  const auto layers = CalculateLightDoubleWall(Wall(LightWallForm::kIsolated, CavityKind::kLayers)).spectrum;
+  const auto layers =
+      CalculateLightDoubleWall(Wall(LightWallForm::kIsolated, CavityKind::kGenericMaterial)).spectrum;
   for (std::size_t band = 0; band < 2; ++band) EXPECT_EQ(empty[band], filled[band]);
   for (std::size_t band = 2; band < 21; ++band) EXPECT_NEAR(empty[band], filled[band] - 4, 1e-10);
   EXPECT_EQ(layers, filled);

@@ -5,7 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "foundation/failure.h"
-#include "models/walls/failure_rows.h"
+#include "foundation/message_rows.h"
 
 namespace velmar::models {
 namespace {
@@ -81,7 +81,7 @@ TEST(LightLeaf, OfTwoEqualSheetsGainsThreeDecibels) {
 TEST(LightLeaf, LosesTwoDecibelsStrictlyAboveTheResonanceOfAnEmptyCavity) {
   const LightLeaf filled = FindLightLeaf(Leaf(kBoard), 0.02, 80, CavityKind::kFibrous);
   const LightLeaf empty = FindLightLeaf(Leaf(kBoard), 0.02, 80, CavityKind::kEmpty);
-  const LightLeaf layers = FindLightLeaf(Leaf(kBoard), 0.02, 80, CavityKind::kLayers);
+  const LightLeaf layers = FindLightLeaf(Leaf(kBoard), 0.02, 80, CavityKind::kGenericMaterial);
   EXPECT_EQ(empty.bands[2], filled.bands[2]);  // 80 Hz is not above 80 Hz
   EXPECT_NEAR(empty.bands[3], filled.bands[3] - 2, 1e-12);
   EXPECT_EQ(layers.bands, filled.bands);

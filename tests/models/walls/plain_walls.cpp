@@ -49,7 +49,7 @@ acoustics::Spectrum PlainDoubleWall(const DoubleWallInput& input) {
     d = 0;
     l = input.cavity_depth_m;
   }
-  if (input.cavity_kind == CavityKind::kLayers) {
+  if (input.cavity_kind == CavityKind::kGenericMaterial) {
     sigma = 0;
     for (const CavityLayer& layer : input.cavity_layers) {
       const double t = layer.multiplicity * layer.thickness_mm * 0.001;
@@ -86,7 +86,7 @@ acoustics::Spectrum PlainDoubleWall(const DoubleWallInput& input) {
     if (f < f0 / 2) mass_r = PlainBandR(f, {&joint, 1}, {});
     std::array<Plate, 3> plates{Plate{leaf1.mass, leaf1.bending, eta1},
                                 Plate{leaf2.mass, leaf2.bending, eta2}, Plate{m3, b3, eta3}};
-    if (input.cavity_kind == CavityKind::kLayers) {
+    if (input.cavity_kind == CavityKind::kGenericMaterial) {
       for (Plate& plate : plates) plate.loss_factor = eta1 + eta2 + eta3;
       spectrum[i] = PlainBandR(f, plates, cavity);
     } else {

@@ -1,42 +1,26 @@
 #include "tests/presentation/drawing/catalogue_words.h"
 
+#include <algorithm>
 #include <fstream>
+#include <iterator>
 #include <map>
 #include <memory>
 #include <stdexcept>
 #include <string>
 #include <vector>
 
+#include "foundation/csv.h"
+
 namespace velmar::presentation {
 namespace {
 
-/// The fields of one line of comma-separated values; no field of the message files holds a line break.
-std::vector<std::string> FieldsOf(const std::string& line) {
-  std::vector<std::string> fields(1);
-  bool quoted = false;
-  for (std::size_t i = 0; i < line.size(); ++i) {
-    if (line[i] == '"' && quoted && i + 1 < line.size() && line[i + 1] == '"') {
-      fields.back() += line[++i];
-    } else if (line[i] == '"') {
-      quoted = !quoted;
-    } else if (line[i] == ',' && !quoted) {
-      fields.emplace_back();
-    } else if (line[i] != '\r') {
-      fields.back() += line[i];
-    }
-  }
-  return fields;
-}
-
 void Read(const std::string& path, std::map<int, std::string>& texts) {
-  std::ifstream file(path);
+  std::ifstream file(path, std::ios::binary);
   if (!file) throw std::runtime_error("cannot read " + path);
-  std::string line;
-  std::getline(file, line);
-  while (std::getline(file, line)) {
-    const std::vector<std::string> fields = FieldsOf(line);
-    if (fields.size() >= 3) texts[std::stoi(fields[0])] = fields[2];
-  }
+  const CsvTable table = ParseCsv(std::string(std::istreambuf_iterator<char>(file), {}));
+  const auto italian = std::ranges::find(table.header, "Italiano") - table.header.begin();
+  for (const std::vector<std::string>& fields : table.rows)
+    texts[std::stoi(fields.at(0))] = fields.at(static_cast<std::size_t>(italian));
 }
 
 }  // namespace

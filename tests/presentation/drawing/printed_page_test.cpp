@@ -82,6 +82,7 @@ TEST(PaginaDi, OfAFloorPrintsImpactSound) {
   const PaginaDiStampa page = PageOf(samples::FloatingFloor(), ImpactResult());
   EXPECT_EQ(page.title, "Calcolo previsionale del livello di rumore di calpestio");
   EXPECT_THAT(page.results, ElementsAre("Lnw(Ci)= 58,0 (1) dB"));
+  EXPECT_THAT(page.further_results, testing::StartsWith("CI,50-2500= "));
   EXPECT_EQ(page.bands.heads[1], "Li [dB]");
 }
 

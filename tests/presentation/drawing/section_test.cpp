@@ -128,11 +128,11 @@ INSTANTIATE_TEST_SUITE_P(
         CavityCase{"BlankDepth", kGenericWall, kRows, "", "0", {}, {}}),
     [](const auto& test) { return test.param.name; });
 
-TEST(SectionOf, LaysAFloorDownwards) {
+TEST(SectionOf, LaysAFloorDownwardsFromItsFinish) {
   const Section section = SectionOf(samples::FloatingFloor());
   ExpectWhole(section);
   EXPECT_TRUE(section.horizontal);
-  EXPECT_THAT(KindsOf(section), ElementsAre(kPlaster, kConcrete, kScreed, kResilient, kScreed, kStone));
+  EXPECT_THAT(KindsOf(section), ElementsAre(kStone, kScreed, kResilient, kScreed, kConcrete, kPlaster));
   EXPECT_EQ(NumberOf(section, {LayerGroup::kResilient, 0}), 4);
   EXPECT_EQ(NumberOf(section, {LayerGroup::kLeaf2, 1}), 6);
 }
@@ -185,8 +185,10 @@ TEST(SectionOf, BeginsALiningWithItsBase) {
   EXPECT_EQ(section.strips.front().name, setup.base.name);
   setup.base.thickness_mm = 0.0;
   EXPECT_DOUBLE_EQ(SectionOf(setup).strips.front().thickness_mm, 200.0);
-  setup.calculation = Calculation::kCeilingSea;
   EXPECT_FALSE(SectionOf(setup).horizontal);
+  setup.calculation = Calculation::kCeilingSea;
+  EXPECT_TRUE(SectionOf(setup).horizontal) << "the floor above, the ceiling below";
+  EXPECT_EQ(SectionOf(setup).strips.front().name, setup.base.name);
 }
 
 TEST(SectionOf, IsEmptyWithoutThicknessCalculationOrLayers) {

@@ -7,6 +7,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "foundation/message_rows.h"
 #include "presentation/reports/excel_report.h"
 #include "presentation/reports/template_failure.h"
 #include "presentation/reports/word_report.h"

@@ -34,14 +34,6 @@ TEST(Descriptions, WalkASeaSideWithItsDamping) {
             "Lana di roccia 40 (40 mm); Cartongesso standard (12,5 mm); Lana di roccia 40 (40 mm)");
 }
 
-TEST(MapCheckSmorzanteSea, LeadsToTheSlotsAndElseToTheFirst) {
-  const int slots[] = {0, 0, 1, 2, 0, 3, 4, 0, 5, 0};
-  for (int check = -1; check < 9; ++check) {
-    EXPECT_EQ(MapCheckSmorzanteSea(check), check < 0 ? 0 : slots[check]) << check;
-  }
-  EXPECT_EQ(MapCheckSmorzanteSea(100), 0);
-}
-
 TEST(ResultDescription, OfASingleWallIsItsLayers) {
   EXPECT_EQ(ResultDescription(samples::PlasteredBrickWall(), Say),
             CompilaDescrizioneParete1(samples::PlasteredBrickWall()));

@@ -73,8 +73,11 @@ TEST(Structure, FollowsTheOrderOfEachElement) {
   EXPECT_EQ(StructureOf(samples::PlasteredBrickWall(), Say).size(), 1U);
   const auto floor = StructureOf(samples::FloatingFloor(), Say);
   ASSERT_EQ(floor.size(), 3U);
+  EXPECT_EQ(floor[0].heading, "<175>");
+  EXPECT_EQ(floor[0].lines[0], (StructureLine{6, "Piastrella ceramica", "10mm"}));
   EXPECT_EQ(floor[1].heading, "<167>");
-  EXPECT_EQ(floor[2].lines[0].number, 5);
+  EXPECT_EQ(floor[2].heading, "<226>");
+  EXPECT_EQ(floor[2].lines[2], (StructureLine{1, "Intonaco di gesso", "15mm"}));
   const auto lining = StructureOf(samples::Lining(Calculation::kLiningFrame), Say);
   ASSERT_EQ(lining.size(), 3U);
   EXPECT_EQ(lining[0].lines[0], (StructureLine{1, "Muratura in laterizio intonacata 25 cm", "250mm"}));

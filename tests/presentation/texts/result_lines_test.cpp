@@ -19,6 +19,30 @@ TEST(ResultLine, NamesRatingAndTerms) {
   EXPECT_EQ(ResultLine(Family::kImpact, floor), "Lnw(Ci)= 58,0 (1) dB");
 }
 
+// A wall that takes 40 dB from every band, and a floor of 50 dB in every band.
+TEST(FurtherNumbersLine, SaysWhatLiesBeyondTheRatedBands) {
+  elements::ResultSet wall;
+  wall.spectrum.emplace().fill(40.0);
+  wall.rw = 44.0;
+  EXPECT_EQ(FurtherNumbersLine(elements::Calculation::kSingleWallGeneric, wall),
+            "C50-5000= -4; Ctr,50-5000= -4 dB; STC= 40; OITC= 40");
+  elements::ResultSet floor;
+  floor.spectrum.emplace().fill(50.0);
+  floor.lnw = 56.0;
+  EXPECT_EQ(FurtherNumbersLine(elements::Calculation::kImpactReinforcedConcrete, floor),
+            "CI,50-2500= -8 dB; IIC= 50");
+}
+
+TEST(FurtherNumbersLine, LeavesOutWhatHasNoBandsAndSaysNothingOfLinings) {
+  elements::ResultSet facade;
+  facade.spectrum.emplace().fill(40.0);
+  facade.rw = 44.0;
+  (*facade.spectrum)[0] = 0.0;
+  EXPECT_EQ(FurtherNumbersLine(elements::Calculation::kCompositeElement, facade), "STC= 40; OITC= 40");
+  EXPECT_EQ(FurtherNumbersLine(elements::Calculation::kLiningFrame, facade), "");
+  EXPECT_EQ(FurtherNumbersLine(elements::Calculation::kSingleWallGeneric, {}), "");
+}
+
 TEST(ResultLine, LeavesOutWhatWasNotCalculated) {
   elements::ResultSet lining;
   EXPECT_EQ(ResultLine(Family::kLining, lining), "");

@@ -5,6 +5,7 @@
 #include <QTabWidget>
 #include <QTest>
 
+#include "calculation/refusals.h"
 #include "shell/commands/refused_field.h"
 #include "shell/fields/field_note.h"
 #include "tests/shell/support/window_fixture.h"
@@ -26,6 +27,7 @@ class FieldNotesTest : public QObject {
   void aThicknessOfNoughtIsExplained() {
     fixture_->Choose("TIPO_PARETE_SINGOLA_0");
     fixture_->Type("Text5_0", "0");
+    QTest::keyClick(fixture_->Find<QWidget>("Text5_0"), Qt::Key_Return);
     QVERIFY2(NoteAt("Text5_0").contains("superare 0"), qPrintable(NoteAt("Text5_0")));
     QCOMPARE(fixture_->Find<QWidget>("Text5_0")->accessibleDescription(), NoteAt("Text5_0"));
     QTest::keyClick(fixture_->Find<QWidget>("Text5_0"), Qt::Key_5);
@@ -101,7 +103,7 @@ class FieldNotesTest : public QObject {
     box->lineEdit()->selectAll();
     QTest::keyClicks(box, "criptonite");
     fixture_->Find<QWidget>("Text5_0")->setFocus();
-    QVERIFY(NoteAt("Combo3_0").contains("Nessun materiale"));
+    QVERIFY(NoteAt("Combo3_0").contains("Nessun materiale ha"));
   }
 
   void aCavityThatIsRaisedSaysSo() {
@@ -118,6 +120,7 @@ class FieldNotesTest : public QObject {
   void aNoteGoesWithItsPage() {
     fixture_->Choose("TIPO_PARETE_DOPPIA_0");
     fixture_->Type("Text5_0", "0");
+    QTest::keyClick(fixture_->Find<QWidget>("Text5_0"), Qt::Key_Return);
     fixture_->Find<QTabWidget>("SSTab1")->setCurrentIndex(1);
     QTRY_COMPARE(NoteAt("Text5_0"), QString());
   }
@@ -174,15 +177,14 @@ class FieldNotesTest : public QObject {
         RequireField({MessageRow{number}});
       }
       for (int number = 1001; number < 1100; ++number) RequireField({MessageRow{number}});
-      RequireField({MessageRow{1012}, " \"" + fixture_->open.Setup().cavity.depth_text + '"'});
     }
   }
 
  private:
   QString NoteAt(const QString& control) const { return FieldNote::TextAt(fixture_->Find<QWidget>(control)); }
   void RequireField(const MessageLine& line) const {
-    const auto field = FieldToCorrect(fixture_->open.Setup(), {{line}});
-    if (field) fixture_->Find<QWidget>(field->control);
+    const auto refusal = calculation::FindRefusal(fixture_->open.Setup(), {{line}});
+    if (refusal) fixture_->Find<QWidget>(ControlOf(refusal->field));
   }
 
   std::unique_ptr<WindowFixture> fixture_;

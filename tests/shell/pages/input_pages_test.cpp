@@ -28,6 +28,7 @@ class InputPagesTest : public QObject {
   void aThicknessOfNoughtBecomesTen() {
     fixture_->Choose("TIPO_PARETE_SINGOLA_0");
     fixture_->Type("Text5_0", "0");
+    Leave("Text5_0");
     QCOMPARE(TextOf("Text5_0"), "10");
     fixture_->Type("Text5_0", "12.5");
     QCOMPARE(TextOf("Text5_0"), "12,5");

@@ -17,6 +17,7 @@
 #include "calculation/select_calculation.h"
 #include "shell/commands/material_commands.h"
 #include "shell/fields/material_box.h"
+#include "shell/fields/phrases.h"
 #include "shell/pages/layer_row.h"
 #include "storage/materials/material_store.h"
 #include "tests/shell/support/window_fixture.h"

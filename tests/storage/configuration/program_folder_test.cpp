@@ -23,6 +23,17 @@ TEST(ShippedDataFolder, IsFoundInstalledAndInTheBuildTree) {
   EXPECT_EQ(ShippedDataFolder(root / "apps/cli"), root / "share/velmarpro");
 }
 
+TEST(ManualFile, IsFoundBesideTheProgramAndWhereItIsInstalled) {
+  constexpr const char* kName = "VELMARpro - Manuale d'uso.pdf";
+  const TemporaryFolder root;
+  fs::create_directories(root / "bin");
+  EXPECT_EQ(ManualFile(root / "bin"), root / "bin" / kName) << "named even where it is missing";
+  WriteFile(root / "share/doc/velmarpro" / kName, "%PDF");
+  EXPECT_EQ(ManualFile(root / "bin"), root / "share/doc/velmarpro" / kName);
+  WriteFile(root / "bin" / kName, "%PDF");
+  EXPECT_EQ(ManualFile(root / "bin"), root / "bin" / kName);
+}
+
 TEST(AccessReaderProgram, IsFoundInstalledAndInTheBuildTree) {
   const TemporaryFolder root;
   EXPECT_EQ(AccessReaderProgram(root / "bin"), std::nullopt);

@@ -10,6 +10,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include "foundation/message_rows.h"
 #include "storage/files/store_failure.h"
 
 namespace velmar::storage {

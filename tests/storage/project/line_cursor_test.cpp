@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "foundation/message_rows.h"
 #include "storage/project/project_failure.h"
 
 namespace velmar::storage {
@@ -82,9 +83,8 @@ TEST(LineCursor, NamesTheLineThatIsWrong) {
     FAIL();
   } catch (const ProjectFileFailure& failure) {
     EXPECT_EQ(failure.LineNumber(), 3);
-    const Message expected = {
-        {kProjectDamagedRow},
-        {expected::kLineRow, " 3: ", expected::kIntegerFromRow, " 0 ", expected::kIntegerToRow, " 9"}};
+    const Message expected = {{kProjectDamagedRow},
+                              {kProjectLineRow, " 3: ", kIntegerFromRow, " 0 ", kIntegerToRow, " 9"}};
     EXPECT_EQ(failure.UserMessage(), expected);
   }
 }

@@ -129,8 +129,8 @@ void FillCavity(Setup& setup, RandomSource& random) {
   if (setup.cavity.kind == elements::CavityKind::kGenericMaterial)
     FillCavityLayers(setup.cavity.layers, random);
   setup.cavity.depth_text = random.Text();
-  const int relation = RowOf(*setup.calculation).relation;
-  if (relation >= 11 && relation <= 16) setup.cavity.fibre_text = "5" + random.Text();
+  const int mark = RowOf(*setup.calculation).mark;
+  if (mark >= 11 && mark <= 16) setup.cavity.fibre_text = "5" + random.Text();
   using enum Calculation;
   if (setup.calculation == kLightWallLineLine || setup.calculation == kLightWallLinePoint ||
       setup.calculation == kLightWallPointPoint) {

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 #include <unistd.h>
 
+#include "foundation/message_rows.h"
 #include "storage/files/store_failure.h"
 #include "storage/project/project_failure.h"
 #include "storage/project/project_reader.h"

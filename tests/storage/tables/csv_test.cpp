@@ -8,6 +8,7 @@
 #include <gtest/gtest.h>
 
 #include "foundation/failure.h"
+#include "foundation/message_rows.h"
 
 namespace velmar::storage {
 namespace {

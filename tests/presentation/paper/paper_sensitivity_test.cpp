@@ -1,0 +1,272 @@
+#include <QPainter>
+#include <array>
+#include <functional>
+#include <string>
+
+#include <gtest/gtest.h>
+
+#include "elements/parts.h"
+#include "presentation/drawing/printed_page.h"
+#include "presentation/reports/excel_report.h"
+#include "presentation/reports/word_report.h"
+#include "tests/presentation/drawing/catalogue_words.h"
+#include "tests/presentation/drawing/recording_device.h"
+#include "tests/presentation/reports/opened_report.h"
+#include "tests/presentation/sample_setups.h"
+
+// A consultant signs the paper: whatever the outcome depends on has to be read there. Results and totals are
+// masked, so that a paper can differ by its inputs alone.
+namespace velmar::presentation {
+namespace {
+
+using elements::Calculation;
+using elements::Field;
+using elements::LayerGroup;
+using elements::Stack;
+
+enum class Paper { kWord, kExcel, kPage };
+constexpr std::array kPapers = {Paper::kWord, Paper::kExcel, Paper::kPage};
+
+const elements::ResultSet& Masked() {
+  static const elements::ResultSet kResult = [] {
+    elements::ResultSet result = samples::Result();
+    result.lnw = 60.0;
+    result.ci = 1.0;
+    result.delta_rw = 5.0;
+    return result;
+  }();
+  return kResult;
+}
+
+ReportRecord RecordOfSetup(const elements::Setup& setup) {
+  return ReportRecordOf(setup, Masked(), {100.0, 100.0}, CatalogueWords());
+}
+
+std::string WordText(const elements::Setup& setup) {
+  const ReportRecord record = RecordOfSetup(setup);
+  return TextOf(Package(WriteWordReport(ShippedTemplate(WordTemplateName(record.family)), record).bytes),
+                "word/document.xml");
+}
+
+std::string ExcelText(const elements::Setup& setup) {
+  const Package package(WriteExcelReport(ShippedTemplate("Formato_drav.xlsx"), RecordOfSetup(setup)));
+  return package.Part("xl/worksheets/sheet1.xml");
+}
+
+std::string PageText(const elements::Setup& setup) {
+  constexpr double kDotsPerInch = 300.0;
+  const QSizeF paper(8.27, 11.69);
+  RecordingDevice device((paper * kDotsPerInch).toSize());
+  QPainter painter(&device);
+  ComponiPagina(painter, kDotsPerInch, paper, PaginaDi(setup, {100.0, 100.0}, &Masked(), CatalogueWords()));
+  painter.end();
+  std::string text;
+  for (const RecordedText& one : device.Texts()) text += one.text.toStdString() + '\n';
+  return text;
+}
+
+std::string TextOn(Paper paper, const elements::Setup& setup) {
+  switch (paper) {
+    case Paper::kWord:
+      return WordText(setup);
+    case Paper::kExcel:
+      return ExcelText(setup);
+    case Paper::kPage:
+      return PageText(setup);
+  }
+  return {};
+}
+
+const char* NameOf(Paper paper) {
+  constexpr std::array kNames = {"Word", "Excel", "page"};
+  return kNames.at(static_cast<std::size_t>(paper));
+}
+
+void SetSolid(elements::LayerRow<elements::StructuralMaterial>& row, const char* name, double thickness_mm) {
+  samples::SetRow(row, name, thickness_mm, 900.0);
+  row.slot.youngs_modulus_gpa = 3.0;
+  row.slot.loss_factor = 0.01;
+  row.slot.poissons_ratio = 0.2;
+}
+
+/// A set-up with something in every field.
+elements::Setup Full(Calculation calculation) {
+  elements::Setup setup;
+  setup.calculation = calculation;
+  setup.leaf1.count = 2;
+  SetSolid(setup.leaf1.rows[0], "Intonaco", 15.0);
+  SetSolid(setup.leaf1.rows[1], "Mattone", 120.0);
+  SetSolid(setup.leaf2.rows[0], "Forato", 80.0);
+  setup.cavity.kind = elements::CavityKind::kFibrous;
+  setup.cavity.depth_text = "100";
+  setup.cavity.fibre_text = "60";
+  samples::SetRow(setup.cavity.layers.rows[0], "Sughero", 30.0, 120.0);
+  samples::SetRow(setup.resilient.rows[0], "Gomma", 8.0, 700.0);
+  for (elements::SeaLeaf* leaf : {&setup.sea_leaf1, &setup.sea_leaf2}) {
+    leaf->count = 2;
+    SetSolid(leaf->rows[0], "Lastra", 12.5);
+    SetSolid(leaf->rows[1], "Seconda lastra", 12.5);
+    leaf->damping[1].ticked = true;
+    SetSolid(leaf->damping[1].row, "Lamina", 3.0);
+    SetSolid(leaf->damping[2].row, "Membrana", 4.0);
+  }
+  setup.sea_cavity.type = elements::SeaCavityType::kFibre;
+  setup.sea_cavity.depth_text = "90";
+  samples::SetRow(setup.sea_cavity.fibres[0], "Lana di vetro", 45.0, 24.0);
+  setup.support_distance_text = "3";
+  setup.hanger = 1;
+  setup.base.name = "Muro";
+  setup.base.area_text = "20";
+  setup.base.rating_text = "50";
+  setup.base.c_text = "-1";
+  setup.base.ctr_text = "-4";
+  setup.base.band_texts.fill("48");
+  setup.base.thickness_mm = 250.0;
+  setup.base.mass_kg_m2 = 310.0F;
+  elements::FacadeComponent& window = setup.facade.components[0];
+  window = {.name = "Finestra",
+            .area_text = "2",
+            .rating_text = "38",
+            .c_text = "-1",
+            .ctr_text = "-3",
+            .mass_kg_m2 = 30.0F,
+            .tightness_class = 1};
+  window.band_texts.fill("36");
+  return setup;
+}
+
+struct Change {
+  Field field{};
+  std::function<void(elements::Setup&)> apply{};
+};
+
+/// Another value in each field that a set-up has once.
+std::vector<Change> Changes(const elements::CalculationRow& row) {
+  std::vector<Change> changes = {
+      {Field::kWidth, [](auto& setup) { setup.width_text = "7,77"; }},
+      {Field::kHeight, [](auto& setup) { setup.height_text = "6,66"; }},
+      {Field::kCavityDepth, [](auto& setup) { setup.cavity.depth_text = "123"; }},
+      {Field::kCavityKind, [](auto& setup) { setup.cavity.kind = elements::CavityKind::kEmpty; }},
+      {Field::kFibreThickness, [](auto& setup) { setup.cavity.fibre_text = "35"; }},
+      {Field::kSeaCavityDepth, [](auto& setup) { setup.sea_cavity.depth_text = "234"; }},
+      {Field::kSeaCavityType, [](auto& setup) { setup.sea_cavity.type = elements::SeaCavityType::kEmpty; }},
+      {Field::kSupport, [](auto& setup) { setup.support_distance_text = "17"; }},
+      {Field::kHanger, [](auto& setup) { setup.hanger = 2; }},
+      {Field::kDecoupling, [](auto& setup) { setup.decoupled = true; }},
+      {Field::kArea, [](auto& setup) { setup.base.area_text = "33"; }},
+      {Field::kRating, [](auto& setup) { setup.base.rating_text = "57"; }},
+      {Field::kC, [](auto& setup) { setup.base.c_text = "-9"; }},
+      {Field::kCtr, [](auto& setup) { setup.base.ctr_text = "-11"; }},
+      {Field::kBand, [](auto& setup) { setup.base.band_texts[6] = "33,3"; }},
+      {Field::kMass, [](auto& setup) { setup.base.mass_kg_m2 = 555.0F; }},
+      {Field::kBaseThickness, [](auto& setup) { setup.base.thickness_mm = 333.0; }},
+      {Field::kSimplified, [](auto& setup) { setup.facade.simplified = true; }},
+      {Field::kTightness, [](auto& setup) { setup.facade.components[0].tightness_class = 3; }},
+  };
+  if (!row.stacks.Has(Stack::kComponents)) return changes;
+  const std::vector<Change> of_components = {
+      {Field::kArea, [](auto& setup) { setup.facade.components[0].area_text = "4,4"; }},
+      {Field::kRating, [](auto& setup) { setup.facade.components[0].rating_text = "41"; }},
+      {Field::kMass, [](auto& setup) { setup.facade.components[0].mass_kg_m2 = 44.0F; }},
+  };
+  changes.insert(changes.end(), of_components.begin(), of_components.end());
+  return changes;
+}
+
+/// What is read and not told yet. A line that is no longer true fails.
+bool IsStillMissing(const elements::CalculationRow& row, Field field, Paper paper) {
+  if (field == Field::kBand || field == Field::kC || field == Field::kCtr) return true;
+  return row.stacks.Has(Stack::kComponents) && field == Field::kMass && paper == Paper::kPage;
+}
+
+class PaperSensitivity : public testing::TestWithParam<int> {
+ protected:
+  const elements::CalculationRow& Row() const {
+    return elements::RowOf(static_cast<Calculation>(GetParam()));
+  }
+};
+
+TEST_P(PaperSensitivity, TellsEveryFieldThatTheCalculationReadsAndNoOther) {
+  const elements::CalculationRow& row = Row();
+  const elements::Setup before = Full(row.calculation);
+  for (const Paper paper : kPapers) {
+    const std::string text = TextOn(paper, before);
+    for (const Change& change : Changes(row)) {
+      elements::Setup after = before;
+      change.apply(after);
+      const bool told = row.Reads(change.field) && !IsStillMissing(row, change.field, paper);
+      EXPECT_EQ(TextOn(paper, after) != text, told)
+          << row.variant << ", " << NameOf(paper) << ", field " << static_cast<int>(change.field);
+    }
+  }
+}
+
+/// A layer row in which a change can be made.
+template <typename Edit>
+void EditSlot(elements::Setup& setup, const elements::Layer& layer, Edit&& edit) {
+  switch (RowOf(*layer.group).family) {
+    case elements::MaterialFamily::kStructural:
+      return edit(StructuralRow(setup, *layer.group, layer.row));
+    case elements::MaterialFamily::kFibrous:
+      return edit(FibrousRow(setup, *layer.group, layer.row));
+    case elements::MaterialFamily::kResilient:
+      return edit(setup.resilient.rows.at(static_cast<std::size_t>(layer.row)));
+  }
+}
+
+TEST_P(PaperSensitivity, TellsMaterialThicknessAndSheetsOfEveryLayer) {
+  const elements::CalculationRow& row = Row();
+  elements::Setup before = Full(row.calculation);
+  if (row.generic_cavity) before.cavity.kind = elements::CavityKind::kGenericMaterial;
+  for (const Paper paper : kPapers) {
+    const std::string text = TextOn(paper, before);
+    for (const elements::Part& part : elements::PartsOf(before)) {
+      for (const elements::Layer& layer : part.layers) {
+        if (!layer.group) continue;
+        const auto expect_told = [&](const char* what, const auto& edit) {
+          elements::Setup after = before;
+          EditSlot(after, layer, edit);
+          EXPECT_NE(TextOn(paper, after), text)
+              << row.variant << ", " << NameOf(paper) << ", " << what << " of " << layer.name;
+        };
+        expect_told("material", [](auto& one) { one.slot.name = "Altro"; });
+        expect_told("thickness", [](auto& one) { one.slot.thickness_mm += 7.0; });
+        expect_told("sheets", [](auto& one) { one.multiplicity += 1; });
+      }
+    }
+  }
+}
+
+TEST_P(PaperSensitivity, TellsADampingLayerOnceItIsTicked) {
+  const elements::Setup before = Full(Row().calculation);
+  elements::Setup after = before;
+  after.sea_leaf1.damping[2].ticked = true;
+  after.sea_leaf2.damping[2].ticked = true;
+  const bool has_checks = Row().stacks.Has(Stack::kSeaLeaf1) || Row().stacks.Has(Stack::kSeaLeaf2);
+  for (const Paper paper : kPapers)
+    EXPECT_EQ(TextOn(paper, after) != TextOn(paper, before), has_checks) << NameOf(paper);
+}
+
+// What no paper tells yet of a material that a model reads: Young's modulus, loss factor, Poisson's ratio,
+// flow resistance, dynamic stiffness, absorption. Whoever adds one takes it off here.
+TEST_P(PaperSensitivity, TellsNoValuesOfTheMaterialsYet) {
+  const elements::Setup before = Full(Row().calculation);
+  elements::Setup after = before;
+  for (auto* rows : {&after.leaf1.rows, &after.leaf2.rows}) {
+    for (auto& row : *rows) {
+      row.slot.youngs_modulus_gpa += 1.0;
+      row.slot.loss_factor += 0.01;
+      row.slot.poissons_ratio += 0.01;
+    }
+  }
+  for (auto& row : after.resilient.rows) row.slot.dynamic_stiffness_mn_m3 += 5.0;
+  for (auto& row : after.sea_cavity.fibres) row.slot.absorption.fill(0.5F);
+  for (auto& row : after.cavity.layers.rows) row.slot.flow_resistance_pa_s_m += 100.0;
+  for (const Paper paper : kPapers) EXPECT_EQ(TextOn(paper, after), TextOn(paper, before)) << NameOf(paper);
+}
+
+INSTANTIATE_TEST_SUITE_P(Catalogue, PaperSensitivity,
+                         testing::Range(0, static_cast<int>(elements::kCalculationCount)));
+
+}  // namespace
+}  // namespace velmar::presentation
