@@ -1,15 +1,18 @@
 #include <clocale>
 #include <iostream>
 #include <span>
+#include <stdexcept>
 #include <string>
 #include <vector>
 
+#include "application/accuracy_file.h"
 #include "application/environment.h"
 #include "application/projects.h"
 #include "cli/output/failure_report.h"
 #include "cli/output/outcome_table.h"
 #include "cli/output/report_format.h"
 #include "cli/parsing/command_line.h"
+#include "foundation/message_rows.h"
 #include "report_formats.h"
 #include "storage/configuration/program_folder.h"
 #include "storage/materials/material_store.h"
@@ -41,6 +44,19 @@ velmar::cli::Services OpenServices(const velmar::cli::Opening& opening) {
   services.library_folder = environment.configuration.CartellaLibreria();
   services.data_folder = environment.configuration.LeggiCartellaDati();
   services.shipped_data = environment.shipped;
+  if (environment.shipped) {
+    services.validation_folder = *environment.shipped / velmar::application::kValidationFolder;
+    services.accuracy = [file = services.validation_folder / velmar::application::kPredictionsFile,
+                         words = services.words] {
+      try {
+        return velmar::application::ReadAccuracy(file);
+      } catch (const std::runtime_error& failure) {
+        // A run is worth its result also where nothing can be said of its error.
+        std::cerr << words(velmar::kNoMeasurementsRow) << ' ' << failure.what() << '\n';
+        return velmar::validation::Accuracy();
+      }
+    };
+  }
   services.access_reader = velmar::storage::AccessReaderProgram(velmar::storage::ProgramFolder())
                                .value_or(std::filesystem::path());
   const auto tell = [words = services.words](const velmar::Failure& failure) {

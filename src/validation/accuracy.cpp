@@ -154,15 +154,23 @@ Accuracy::Accuracy(std::vector<Prediction> predictions) : predictions_(std::move
   for (const auto& [key, sum] : sums) observations_[key] = sum.Means();
 }
 
-std::vector<AccuracyRow> Accuracy::Table() const {
-  std::vector<AccuracyRow> table;
-  std::vector<std::vector<const Prediction*>> members;
+std::vector<const Prediction*> Accuracy::Compared() const {
   std::set<std::string_view> told_the_frame;  // models that were given more than a set-up says
   for (const Prediction& prediction : predictions_) {
     if (prediction.frame_known) told_the_frame.insert(prediction.model);
   }
+  std::vector<const Prediction*> compared;
   for (const Prediction& prediction : predictions_) {
-    if (!prediction.frame_known && told_the_frame.contains(prediction.model)) continue;
+    if (prediction.frame_known || !told_the_frame.contains(prediction.model)) compared.push_back(&prediction);
+  }
+  return compared;
+}
+
+std::vector<AccuracyRow> Accuracy::Table() const {
+  std::vector<AccuracyRow> table;
+  std::vector<std::vector<const Prediction*>> members;
+  for (const Prediction* compared : Compared()) {
+    const Prediction& prediction = *compared;
     const std::string quantity(PooledQuantity(prediction.quantity));
     auto at = std::ranges::find_if(table, [&](const AccuracyRow& row) {
       return row.group == prediction.group && row.model == prediction.model && row.quantity == quantity;
@@ -172,7 +180,7 @@ std::vector<AccuracyRow> Accuracy::Table() const {
       members.emplace_back();
       at = table.end() - 1;
     }
-    members[static_cast<std::size_t>(at - table.begin())].push_back(&prediction);
+    members[static_cast<std::size_t>(at - table.begin())].push_back(compared);
   }
   for (std::size_t i = 0; i < table.size(); ++i) {
     ByConstruction sum;

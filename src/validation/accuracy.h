@@ -86,8 +86,11 @@ class Accuracy {
 
   const std::vector<Prediction>& Predictions() const { return predictions_; }
 
-  /// One row a group of measured constructions, model and quantity, in the order of the data. The new models
-  /// are shown as they predict a construction of which the frame is known.
+  /// The predictions that the table compares: those of the new models as they predict a construction of which
+  /// the frame is known, those of calculations as a set-up tells them.
+  std::vector<const Prediction*> Compared() const;
+
+  /// One row a group of measured constructions, model and quantity, in the order of the data.
   std::vector<AccuracyRow> Table() const;
 
   /// The errors of `model` on elements of `kind`; nothing where it was not tried.

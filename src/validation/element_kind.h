@@ -5,6 +5,7 @@
 
 #include "elements/measured_construction.h"
 #include "elements/setup.h"
+#include "foundation/message.h"
 
 namespace velmar::validation {
 
@@ -45,6 +46,7 @@ enum class ElementKind {
 struct ElementKindRow {
   ElementKind kind{};
   std::string_view id{};  ///< stored text: tables and JSON
+  MessageRow name{};
   /// Names of the groups of measured constructions that a set-up of this kind may belong to.
   std::span<const std::string_view> groups{};
 };

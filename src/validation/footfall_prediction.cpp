@@ -55,11 +55,12 @@ void Predict(const MeasuredConstruction& construction, const MeasuredSetup& meas
 std::optional<models::FootfallPrediction> FootfallOf(const elements::Setup& setup) {
   if (!setup.calculation || RowOf(*setup.calculation).family != elements::Family::kImpact)
     return std::nullopt;
-  const auto outcome = models::PredictFootfall({.bearing = calculation::PlateLayers(setup.leaf1),
-                                                .floating = calculation::PlateLayers(setup.leaf2),
-                                                .resilient = calculation::ResilientMatsOf(setup.resilient),
-                                                .side_a_m = calculation::EnteredLength(setup.width_text, {elements::Field::kWidth}),
-                                                .side_b_m = calculation::EnteredLength(setup.height_text, {elements::Field::kHeight})});
+  const auto outcome = models::PredictFootfall(
+      {.bearing = calculation::PlateLayers(setup.leaf1),
+       .floating = calculation::PlateLayers(setup.leaf2),
+       .resilient = calculation::ResilientMatsOf(setup.resilient),
+       .side_a_m = calculation::EnteredLength(setup.width_text, {elements::Field::kWidth}),
+       .side_b_m = calculation::EnteredLength(setup.height_text, {elements::Field::kHeight})});
   const auto* prediction = std::get_if<models::FootfallPrediction>(&outcome);
   return prediction != nullptr ? std::optional(*prediction) : std::nullopt;
 }

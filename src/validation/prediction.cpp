@@ -5,10 +5,9 @@
 
 #include "acoustics/airborne_numbers.h"
 #include "acoustics/airborne_rating.h"
-#include "calculation/entered_numbers.h"
 #include "calculation/run.h"
 #include "calculation/totals.h"
-#include "foundation/failure.h"
+#include "foundation/decimal.h"
 
 namespace velmar::validation {
 namespace {
@@ -127,15 +126,13 @@ Features FeaturesOf(const elements::Setup& setup) {
     case elements::Family::kDouble:
     case elements::Family::kSharp:
       if (RowOf(*setup.calculation).orientation == elements::Orientation::kHorizontalDouble) break;
-      features.depth_mm =
-          calculation::EnteredNumberOrZero(setup.cavity.depth_text, {elements::Field::kCavityDepth});
+      features.depth_mm = ParseDecimal(setup.cavity.depth_text).value_or(0.0);
       features.filled = setup.cavity.kind != elements::CavityKind::kEmpty;
       break;
     case elements::Family::kSea:
     case elements::Family::kLining:
     case elements::Family::kCeiling:
-      features.depth_mm =
-          calculation::EnteredNumberOrZero(setup.sea_cavity.depth_text, {elements::Field::kSeaCavityDepth});
+      features.depth_mm = ParseDecimal(setup.sea_cavity.depth_text).value_or(0.0);
       features.filled = elements::FibreCount(setup.sea_cavity.type) > 0;
       break;
     default:

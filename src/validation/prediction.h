@@ -20,8 +20,7 @@ struct Features {
   bool operator==(const Features&) const = default;
 };
 
-/// The features of `setup` as its calculation reads it.
-/// @throws ArithmeticFailure when the depth of its cavity is no number
+/// The features of `setup` as its calculation reads it; a depth that is no number counts as none.
 Features FeaturesOf(const elements::Setup& setup);
 
 /// A level minus the measured one per octave, 63 Hz to 4000 Hz, where both are known.

@@ -8,6 +8,7 @@
 #include "storage/messages/message_table_reader.h"
 #include "tests/application/start_fixture.h"
 #include "tests/storage/support/databases.h"
+#include "foundation/message_rows.h"
 
 namespace velmar::application {
 namespace {
@@ -16,7 +17,6 @@ namespace fs = std::filesystem;
 using Said = std::vector<std::string>;
 using storage::WriteFile;
 
-constexpr MessageRow kMenuRow{9};
 constexpr const char* kNoFolder = "/proc/none/VELMARpro";
 
 class EnvironmentTest : public StartTest {
@@ -34,7 +34,7 @@ TEST_F(EnvironmentTest, AFirstStartCopiesTheShippedData) {
   EXPECT_TRUE(opened.results);
   EXPECT_EQ(recorded.said, Said());
   EXPECT_TRUE(environment.warnings.empty());
-  EXPECT_EQ(environment.messages.Text(kMenuRow), "Esci");
+  EXPECT_EQ(environment.messages.Text(kExitMenuRow), "Esci");
   EXPECT_GE(storage::MaterialStore(environment.configuration.PercorsoDatabase())
                 .List(elements::MaterialFamily::kStructural)
                 .size(),
@@ -46,7 +46,7 @@ TEST_F(EnvironmentTest, WhereNoDataFolderCanBeMadeTheShippedDataServe) {
   EXPECT_EQ(environment.warnings.size(), 1U);
   RecordedTalk recorded;
   OpenCatalogue(environment, recorded.talk);
-  EXPECT_EQ(environment.messages.Text(kMenuRow), "Esci");
+  EXPECT_EQ(environment.messages.Text(kExitMenuRow), "Esci");
   EXPECT_TRUE(OpenStores(environment, recorded.talk).materials);
 }
 
@@ -73,7 +73,7 @@ TEST_F(EnvironmentTest, AMissingOrDamagedCatalogueIsReplacedAndTold) {
   WriteFile(Catalogue(), "damaged");
   OpenCatalogue(environment, recorded.talk);
   EXPECT_EQ(recorded.said, Said({"warn 1152+1151", "warn 1115+1151"}));
-  EXPECT_EQ(environment.messages.Text(kMenuRow), "Esci");
+  EXPECT_EQ(environment.messages.Text(kExitMenuRow), "Esci");
 }
 
 /// A catalogue with one language and one text.
@@ -113,7 +113,7 @@ TEST_F(EnvironmentTest, AnAccessCatalogueLeavesTheShippedTextsToAProgramThatMend
   const Environment environment = OpenEnvironmentForReading(places_.data_folder);
   ASSERT_EQ(environment.warnings.size(), 1U);
   EXPECT_EQ(RowsOf(environment.warnings[0]), "1119+1149");
-  EXPECT_EQ(environment.messages.Text(kMenuRow), "Esci");
+  EXPECT_EQ(environment.messages.Text(kExitMenuRow), "Esci");
   EXPECT_EQ(storage::ReadFile(Catalogue()), head);
 }
 

@@ -7,6 +7,7 @@
 #include "cli/commands/project_run.h"
 #include "cli/output/outcome_json.h"
 #include "cli/output/outcome_table.h"
+#include "validation/second_opinion.h"
 
 namespace velmar::cli {
 
@@ -14,10 +15,17 @@ ExitCode Execute(const RunCommand& command, const Services& services, std::ostre
                  std::ostream& errors) {
   const ProjectRun run = RunProject(command.project, services.materials, command.go_on_outside_ranges);
   for (const Message& message : run.outcome.messages) WriteMessage(message, services.words, errors);
+  validation::IntervalOutcome interval;
+  if (run.outcome.result) {
+    interval = validation::IntervalOfResult(run.setup, *run.outcome.result, services.accuracy());
+  }
   if (command.json) {
-    WriteJson(OutcomeJson(run.texts, run.outcome, run.numbers, run.totals, services.words), out);
+    nlohmann::json json = OutcomeJson(run.texts, run.outcome, run.numbers, run.totals, services.words);
+    if (interval.interval) json["interval"] = IntervalJson(*interval.interval);
+    WriteJson(json, out);
   } else if (run.outcome.result) {
     WriteResult(run.texts, *run.outcome.result, run.numbers, run.totals, services.words, out);
+    WriteMessage({validation::IntervalLine(interval)}, services.words, out);
   }
   return CodeOf(run.outcome.status);
 }

@@ -1,12 +1,14 @@
 #pragma once
 
 #include <filesystem>
+#include <functional>
 #include <optional>
 #include <vector>
 
 #include "cli/output/report_format.h"
 #include "elements/material_record.h"
 #include "presentation/texts/words.h"
+#include "validation/accuracy.h"
 
 namespace velmar::cli {
 
@@ -19,7 +21,10 @@ struct Services {
   std::filesystem::path library_folder{};  ///< below which every kind of measured structure has its own
   std::filesystem::path data_folder{};
   std::optional<std::filesystem::path> shipped_data{};
-  std::filesystem::path access_reader{};       ///< the program that reads genuine Access files; may be empty
+  std::filesystem::path access_reader{};      ///< the program that reads genuine Access files; may be empty
+  std::filesystem::path validation_folder{};  ///< the measured constructions that came with the program
+  /// What is known of the errors of calculations and models.
+  std::function<validation::Accuracy()> accuracy = [] { return validation::Accuracy(); };
   std::vector<ReportFormat> report_formats{};  ///< each an option of `report`
 };
 

@@ -72,6 +72,11 @@ nlohmann::json ResultJson(const ResultSet& result, std::span<const elements::Sin
   return json;
 }
 
+nlohmann::json IntervalJson(const validation::Interval& interval) {
+  return {{"quantity", interval.quantity}, {"low", interval.low}, {"high", interval.high},
+          {"coverage", interval.coverage}, {"n", interval.count}, {"group", interval.group}};
+}
+
 nlohmann::json OutcomeJson(const CalculationTexts& texts, const calculation::RunOutcome& outcome,
                            std::span<const elements::SingleNumber> numbers, const calculation::Totals& totals,
                            const presentation::Words& words) {

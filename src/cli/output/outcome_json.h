@@ -11,6 +11,7 @@
 #include "elements/result_set.h"
 #include "elements/single_numbers.h"
 #include "presentation/texts/words.h"
+#include "validation/accuracy.h"
 
 namespace velmar::cli {
 
@@ -32,6 +33,9 @@ nlohmann::json OutcomeJson(const CalculationTexts& texts, const calculation::Run
 /// Only what the result holds, under the same keys; "ratings" holds `numbers` under their names and is
 /// absent when there are none.
 nlohmann::json ResultJson(const elements::ResultSet& result, std::span<const elements::SingleNumber> numbers);
+
+/// {"quantity", "low", "high", "coverage", "n", "group"}: what a laboratory would measure.
+nlohmann::json IntervalJson(const validation::Interval& interval);
 
 /// The lines of a box as an array of {"row", "text"}. Words of our own, and literals, have row 0; the line
 /// that asks whether to go on is left out, so a question counts once.

@@ -164,6 +164,18 @@ void AddDoctor(CLI::App& app, Parsed& parsed, const presentation::Words& words) 
   command->add_flag("--json", parsed.doctor.json, words(kJsonHelpRow));
 }
 
+void AddModels(CLI::App& app, Parsed& parsed, const presentation::Words& words) {
+  CLI::App* command = app.add_subcommand("models", words(kModelsHelpRow));
+  command->add_option("PROJECT", parsed.models.project, words(kProjectArgumentHelpRow))->required();
+  command->add_flag("--json", parsed.models.json, words(kJsonHelpRow));
+  AddAnswer(*command, parsed, words);
+}
+
+void AddValidate(CLI::App& app, Parsed& parsed, const presentation::Words& words) {
+  CLI::App* command = app.add_subcommand("validate", words(kValidateHelpRow));
+  command->add_flag("--json", parsed.validate.json, words(kJsonHelpRow));
+}
+
 }  // namespace
 
 void AddCommands(CLI::App& app, Parsed& parsed, const Services& services) {
@@ -183,6 +195,8 @@ void AddCommands(CLI::App& app, Parsed& parsed, const Services& services) {
   AddReport(app, parsed, services);
   AddFacade(app, parsed, words);
   AddDoctor(app, parsed, words);
+  AddModels(app, parsed, words);
+  AddValidate(app, parsed, words);
 }
 
 }  // namespace velmar::cli

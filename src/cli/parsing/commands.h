@@ -11,6 +11,7 @@
 #include "cli/commands/import_command.h"
 #include "cli/commands/library_command.h"
 #include "cli/commands/materials_command.h"
+#include "cli/commands/models_command.h"
 #include "cli/commands/rate_command.h"
 #include "cli/commands/report_command.h"
 #include "cli/commands/results_command.h"
@@ -18,6 +19,7 @@
 #include "cli/commands/save_command.h"
 #include "cli/commands/save_result_command.h"
 #include "cli/commands/services.h"
+#include "cli/commands/validate_command.h"
 
 namespace velmar::cli {
 
@@ -39,6 +41,8 @@ struct Parsed {
   SaveResultCommand save_result{};
   FacadeCommand facade{};
   DoctorCommand doctor{};
+  ModelsCommand models{};
+  ValidateCommand validate{};
 };
 
 /// The command that looks after the stores: it works where they are damaged or missing.

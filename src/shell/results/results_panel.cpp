@@ -141,7 +141,7 @@ QWidget* ResultsPanel::MakeNumbers() {
   open_numbers_->setCheckable(true);
   connect(open_numbers_, &QToolButton::toggled, this, [this] { ShowNumbers(); });
   column->addWidget(open_numbers_, 0, Qt::AlignLeft);
-  numbers_ = new SingleNumbersPanel(context_.Words(), frame);
+  numbers_ = new SingleNumbersPanel(speech_.words, frame);
   numbers_->hide();
   column->addWidget(numbers_);
   return frame;

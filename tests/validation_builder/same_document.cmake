@@ -1,0 +1,10 @@
+cmake_minimum_required(VERSION 3.25)
+execute_process(COMMAND ${PROGRAM} ${DATA} ${FOLDER} ${FOLDER}/validation.md RESULT_VARIABLE failed)
+if(failed)
+  message(FATAL_ERROR "the table of accuracy cannot be made")
+endif()
+execute_process(COMMAND ${CMAKE_COMMAND} -E compare_files --ignore-eol ${FOLDER}/validation.md ${DOCUMENT}
+                RESULT_VARIABLE differs)
+if(differs)
+  message(FATAL_ERROR "docs/validation.md is stale: build the target validation_document and commit what it writes")
+endif()
