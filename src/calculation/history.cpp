@@ -45,7 +45,7 @@ class Differences {
     // Everything else follows from a choice of calculation or a number of layers.
     if (first.kind == StepKind::kCalculation || first.kind == StepKind::kCount) return first;
     for (const Step& step : steps_) {
-      if (!FollowsFrom(step, first)) return Step{};
+      if (step != first && !FollowsFrom(step, first)) return Step{};
     }
     return first;
   }

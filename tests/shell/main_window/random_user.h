@@ -2,6 +2,7 @@
 
 #include <QList>
 #include <QTemporaryDir>
+#include <QTimer>
 #include <random>
 
 #include "tests/shell/support/window_fixture.h"
@@ -58,6 +59,7 @@ class RandomUser {
 
   WindowFixture& fixture_;
   std::mt19937 random_;
+  QTimer any_dialog_;  ///< a key on a focused button may open one as well
   QTemporaryDir folder_;
   QStringList examples_;
 };

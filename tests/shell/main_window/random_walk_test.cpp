@@ -13,15 +13,10 @@ namespace {
 
 constexpr int kSteps = 2500;
 
-/// What may change while a result stands: descriptions, areas, typed levels and ratings.
+/// What may change while a result stands: descriptions.
 template <typename Element>
 void Forget(Element& element) {
   element.description.clear();
-  element.area_text.clear();
-  element.rating_text.clear();
-  element.c_text.clear();
-  element.ctr_text.clear();
-  element.band_texts = {};
 }
 elements::Setup WithoutWhatMayChange(elements::Setup setup) {
   setup.information = {};

@@ -86,6 +86,7 @@ class TypingTest : public QObject {
     fixture_->services.materials.structural = [](std::string_view) {
       return std::optional<elements::StructuralRecord>();
     };
+    fixture_->window.reset();
     fixture_->window = std::make_unique<MainWindow>(fixture_->services);
     fixture_->window->show();
     auto* count = fixture_->Find<QComboBox>("Combo1");
