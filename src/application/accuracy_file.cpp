@@ -82,9 +82,9 @@ Prediction PredictionIn(const std::vector<std::string>& row) {
 }  // namespace
 
 void WritePredictions(const std::filesystem::path& file, const std::vector<Prediction>& predictions) {
-  storage::CsvTable table{.header = kColumns, .rows = {}};
+  CsvTable table{.header = kColumns, .rows = {}};
   for (const Prediction& prediction : predictions) table.rows.push_back(RowOf(prediction));
-  storage::WriteWhole(file, storage::FormatCsv(table));
+  storage::WriteWhole(file, FormatCsv(table));
 }
 
 validation::Accuracy ReadAccuracy(const std::filesystem::path& file) {
@@ -93,7 +93,7 @@ validation::Accuracy ReadAccuracy(const std::filesystem::path& file) {
   const std::string text{std::istreambuf_iterator<char>(stream), {}};
   std::vector<Prediction> predictions;
   try {
-    const storage::CsvTable table = storage::ParseCsv(text);
+    const CsvTable table = storage::ParseCsv(text);
     if (table.header != kColumns) throw std::runtime_error("other columns than this program's");
     for (const std::vector<std::string>& row : table.rows) predictions.push_back(PredictionIn(row));
   } catch (const Failure& failure) {
