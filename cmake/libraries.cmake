@@ -2,6 +2,7 @@
 find_package(Threads REQUIRED)
 find_package(PkgConfig REQUIRED)
 find_package(SQLite3 REQUIRED)
+find_package(ICU REQUIRED COMPONENTS uc)
 find_package(SQLiteCpp REQUIRED)
 find_package(pugixml REQUIRED)
 find_package(CLI11 REQUIRED)

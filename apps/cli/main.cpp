@@ -27,8 +27,10 @@ std::filesystem::path TemplateFolder(const velmar::application::Environment& env
   return *environment.shipped / "Templates";
 }
 
-velmar::cli::Services OpenServices(const std::optional<std::filesystem::path>& data_folder) {
-  velmar::application::Environment environment = velmar::application::OpenEnvironmentForReading(data_folder);
+velmar::cli::Services OpenServices(const velmar::cli::Opening& opening) {
+  velmar::application::Environment environment =
+      opening.mends ? velmar::application::OpenEnvironmentForMending(opening.data_folder)
+                    : velmar::application::OpenEnvironmentForReading(opening.data_folder);
   velmar::cli::Services services;
   services.words = [messages = std::move(environment.messages)](velmar::MessageRow row) {
     return messages.Text(row);
@@ -53,6 +55,8 @@ velmar::cli::Services OpenServices(const std::optional<std::filesystem::path>& d
       }
     };
   }
+  services.data_folder = environment.configuration.LeggiCartellaDati();
+  services.shipped_data = environment.shipped;
   services.access_reader = velmar::storage::AccessReaderProgram(velmar::storage::ProgramFolder())
                                .value_or(std::filesystem::path());
   const auto tell = [words = services.words](const velmar::Failure& failure) {

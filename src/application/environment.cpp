@@ -1,5 +1,8 @@
 #include "application/environment.h"
 
+#include <system_error>
+#include <utility>
+
 #include "foundation/failure.h"
 #include "foundation/message_rows.h"
 #include "storage/configuration/documents_folder.h"
@@ -24,15 +27,45 @@ Environment Configured(const std::optional<fs::path>& data_folder) {
           .shipped = storage::ShippedDataFolder(storage::ProgramFolder())};
 }
 
+/// The shipped data take the place of the data folder, for the reason that `told` gives.
+void UseShippedData(Environment& environment, Message told) {
+  environment.warnings.push_back(std::move(told));
+  environment.configuration =
+      storage::Configuration(environment.configuration.LeggiLingua(), environment.shipped->string());
+}
+
 void PrepareFolder(Environment& environment) {
   if (!environment.shipped) return;
   try {
     storage::PrepareDataFolder(environment.configuration.LeggiCartellaDati(), *environment.shipped);
   } catch (const Failure& failure) {
-    environment.warnings.push_back(failure.UserMessage());
-    environment.configuration =
-        storage::Configuration(environment.configuration.LeggiLingua(), environment.shipped->string());
+    UseShippedData(environment, failure.UserMessage());
   }
+}
+
+bool IsMissing(const fs::path& folder) {
+  std::error_code error;
+  return !fs::exists(fs::symlink_status(folder, error));
+}
+
+/// The folder that a command names is where the user said, or it is a mistake: nothing is made there.
+void RequireFolder(const storage::Configuration& configuration, bool named) {
+  const fs::path folder = configuration.LeggiCartellaDati();
+  if (!IsMissing(folder) || (!named && folder.is_absolute())) return;
+  const std::string path = folder.string();
+  throw Failure({{"La cartella dei dati non esiste: " + path},
+                 {"Controllare " +
+                  std::string(named ? "il percorso dell'opzione --data."
+                                    : "la voce CartellaDati del file Velmar.ini: il percorso è "
+                                      "relativo alla cartella in cui si lavora.") +
+                  " Per crearla con i dati forniti: velmar doctor --repair --data CARTELLA"},
+                 {"The data folder does not exist: " + path},
+                 {"Check " +
+                  std::string(named ? "the path of the option --data."
+                                    : "the entry CartellaDati of the file Velmar.ini: its path is "
+                                      "relative to the working folder.") +
+                  " To create it with the shipped data: velmar doctor --repair --data FOLDER"}},
+                "no data folder " + path);
 }
 
 fs::path ShippedCatalogue(const Environment& environment) {
@@ -62,14 +95,24 @@ StorePlaces PlacesOf(const Environment& environment) {
 
 }  // namespace
 
-Environment FindEnvironment(const std::optional<fs::path>& data_folder) {
+Environment FindEnvironment(const std::optional<fs::path>& data_folder, const AskWith& ask) {
   Environment environment = Configured(data_folder);
-  PrepareFolder(environment);
   try {
     environment.messages = ShippedMessages(environment);
   } catch (const storage::CatalogueFailure&) {
     environment.shipped.reset();  // an installation that is not whole
   }
+  const fs::path folder = environment.configuration.LeggiCartellaDati();
+  const bool doubtful = !data_folder && folder.is_relative() && IsMissing(folder);
+  if (doubtful && ask && environment.shipped) {
+    std::error_code ignored;
+    const std::string place = fs::absolute(folder, ignored).string();
+    if (!ask({{kRelativeFolderQuestionRow}, {place}}, environment.messages)) {
+      UseShippedData(environment, {{kShippedDataServeRow}});
+      return environment;
+    }
+  }
+  PrepareFolder(environment);
   return environment;
 }
 
@@ -94,6 +137,7 @@ OpenedStores OpenStores(const Environment& environment, const StartTalk& talk) {
 
 Environment OpenEnvironmentForReading(const std::optional<fs::path>& data_folder) {
   Environment environment = Configured(data_folder);
+  RequireFolder(environment.configuration, data_folder.has_value());
   PrepareFolder(environment);
   const fs::path catalogue = environment.configuration.PercorsoInterfMess();
   if (environment.shipped && storage::KindOf(catalogue) == storage::FileKind::kAccess) {
@@ -104,6 +148,12 @@ Environment OpenEnvironmentForReading(const std::optional<fs::path>& data_folder
   } else {
     environment.messages = OwnMessages(environment);
   }
+  return environment;
+}
+
+Environment OpenEnvironmentForMending(const std::optional<fs::path>& data_folder) {
+  Environment environment = Configured(data_folder);
+  environment.messages = environment.shipped ? ShippedMessages(environment) : OwnMessages(environment);
   return environment;
 }
 

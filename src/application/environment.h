@@ -1,6 +1,7 @@
 #pragma once
 
 #include <filesystem>
+#include <functional>
 #include <optional>
 #include <vector>
 
@@ -20,13 +21,19 @@ struct Environment {
   std::vector<Message> warnings{};
 };
 
+/// Asks `question`, whose words stand in `messages`.
+using AskWith = std::function<bool(const Message& question, const storage::MessageTable& messages)>;
+
 /// Reads "Velmar.ini" beside the program and makes the data folder on the first start out of the shipped
 /// default data. Where that cannot be done the shipped data serve in its place, with a warning. The messages
 /// are those of the shipped catalogue as long as the data folder's own is not opened; without a shipped one
 /// there are none.
 /// @param data_folder takes the place of the configured one
+/// @param ask whether a configured folder that is missing may be made although its path is relative: it would
+///        be another one for every place from which the program is started. Without it nothing is asked.
+///        Where the answer is no the shipped data serve.
 /// @throws Failure with words of its own when there is neither a data folder nor shipped data
-Environment FindEnvironment(const std::optional<std::filesystem::path>& data_folder);
+Environment FindEnvironment(const std::optional<std::filesystem::path>& data_folder, const AskWith& ask = {});
 
 /// Brings the message catalogue of the data folder into order and takes the messages from it; where that
 /// cannot be done those of the shipped one stay.
@@ -43,8 +50,15 @@ struct OpenedStores {
 OpenedStores OpenStores(const Environment& environment, const StartTalk& talk);
 
 /// The environment of a program that mends nothing: its catalogue is read as it stands. Where that is a
-/// genuine Access file the shipped one serves in its place, with a warning.
-/// @throws Failure with words of its own when the catalogue cannot be read, or it lacks the language
+/// genuine Access file the shipped one serves in its place, with a warning. A first start makes the
+/// configured data folder; one that `data_folder` names, or whose configured path is relative, must be there.
+/// @throws Failure with words of its own when the folder is not there, the catalogue cannot be read, or it
+///         lacks the language
 Environment OpenEnvironmentForReading(const std::optional<std::filesystem::path>& data_folder);
+
+/// The environment of a program that is to mend the data folder, which may be damaged or missing: nothing is
+/// made or read there; the messages are those of the shipped catalogue.
+/// @throws Failure with words of its own when no catalogue can be read
+Environment OpenEnvironmentForMending(const std::optional<std::filesystem::path>& data_folder);
 
 }  // namespace velmar::application

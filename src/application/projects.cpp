@@ -10,16 +10,29 @@
 namespace velmar::application {
 namespace {
 
+using Tell = std::function<void(const Failure&)>;
+
 template <typename Find>
-Find Forgiving(Find find, const std::shared_ptr<bool>& told,
-               const std::function<void(const Failure&)>& tell) {
+Find Forgiving(Find find, const Tell& tell) {
   return [=](std::string_view name) -> typename Find::result_type {
     try {
       return find(name);
     } catch (const Failure& failure) {
-      if (!std::exchange(*told, true)) tell(failure);
+      tell(failure);
       return std::nullopt;
     }
+  };
+}
+
+elements::MaterialLookup ForgivingEach(const elements::MaterialLookup& materials, const Tell& tell) {
+  return {Forgiving(materials.structural, tell), Forgiving(materials.fibrous, tell),
+          Forgiving(materials.resilient, tell)};
+}
+
+/// Hands the first failure of an operation on to `tell`.
+Tell TellingOnce(const Tell& tell) {
+  return [tell, told = std::make_shared<bool>(false)](const Failure& failure) {
+    if (!std::exchange(*told, true)) tell(failure);
   };
 }
 
@@ -27,18 +40,16 @@ Find Forgiving(Find find, const std::shared_ptr<bool>& told,
 
 storage::OpenedProject OpenProject(const std::filesystem::path& path, const elements::Setup& current,
                                    const elements::MaterialLookup& materials) {
-  return storage::OpenProject(
-      path,
-      {.current = current, .select_calculation = calculation::SelectCalculation, .materials = materials});
+  return storage::OpenProject(path, {.current = current,
+                                     .select_calculation = calculation::SelectCalculation,
+                                     .materials = elements::ForOneOperation(materials)});
 }
 
-elements::MaterialLookup ForgivingLookup(elements::MaterialLookup materials,
-                                         const std::function<void(const Failure&)>& tell) {
-  const auto told = std::make_shared<bool>(false);
-  elements::MaterialLookup forgiving;
-  forgiving.structural = Forgiving(std::move(materials.structural), told, tell);
-  forgiving.fibrous = Forgiving(std::move(materials.fibrous), told, tell);
-  forgiving.resilient = Forgiving(std::move(materials.resilient), told, tell);
+elements::MaterialLookup ForgivingLookup(elements::MaterialLookup materials, const Tell& tell) {
+  elements::MaterialLookup forgiving = ForgivingEach(materials, tell);
+  forgiving.for_one_operation = [materials = std::move(materials), tell] {
+    return ForgivingEach(elements::ForOneOperation(materials), TellingOnce(tell));
+  };
   return forgiving;
 }
 

@@ -13,13 +13,13 @@ namespace velmar::application {
 /// Opens the project file `path` over `current`: its calculation is chosen as by its menu entry, then takes
 /// the file's values.
 /// @param current what stands in fields that the file does not have
-/// @param materials today's material tables
+/// @param materials today's material tables, asked as one operation
 /// @throws ProjectFileFailure; nothing has changed then
 storage::OpenedProject OpenProject(const std::filesystem::path& path, const elements::Setup& current,
                                    const elements::MaterialLookup& materials);
 
 /// `materials` for a program that can do without: a table that cannot be read holds nothing, and `tell` is
-/// called the first time.
+/// called each time; for one operation once.
 elements::MaterialLookup ForgivingLookup(elements::MaterialLookup materials,
                                          const std::function<void(const Failure&)>& tell);
 

@@ -59,8 +59,15 @@ class Preparation {
         return Restored(AboutFile(kWasMissingRow), AboutFile(kMissingUnrestoredRow));
       case DatabaseCondition::kAccess:
         return Converted();
+      case DatabaseCondition::kIndex:
+        return Reindexed();
       case DatabaseCondition::kDamaged:
         return Replaced();
+      case DatabaseCondition::kNoFile: {
+        Message problem = AboutFile(kUnreadableRow);
+        problem.push_back({kNotAFileRow});
+        return Unusable(std::move(problem));
+      }
       case DatabaseCondition::kUnreadable:
         return Unusable(AboutFile(kUnreadableRow));
       case DatabaseCondition::kLocked:
@@ -102,6 +109,25 @@ class Preparation {
       return Restored(aside, aside);
     } catch (const storage::DatabaseFailure&) {
       return Unusable(AboutFile(kDatabaseDamagedRow));
+    }
+  }
+
+  /// An index can be made again of its table. Whoever declines works on: what the index hides is then
+  /// missing, and told as it is met.
+  bool Reindexed() const {
+    if (!talk_.ask(AboutFile(kRebuildIndexQuestionRow))) return true;
+    try {
+      fs::path copy;
+      talk_.work(AboutFile(kCheckingRow), [&] {
+        copy = storage::KeepDatedCopy(file_);
+        storage::RebuildIndexes(file_);
+      });
+      talk_.tell({{kIndexRebuiltRow, " " + copy.string()}});
+      return true;
+    } catch (const storage::DatabaseFailure& failure) {
+      if (failure.Problem() == storage::DatabaseProblem::kDamaged) return Replaced();
+      talk_.warn(failure.UserMessage());
+      return true;
     }
   }
 

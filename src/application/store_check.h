@@ -31,9 +31,10 @@ struct StorePlaces {
 /// Brings `store` into a state in which it can be used, and says what was done:
 /// - a genuine Access file is converted after a question, the original kept under another name; one that
 ///   cannot be read is left alone or, after a question, set aside;
+/// - an index that does not agree with its table is built anew after a question, a dated copy kept;
 /// - a damaged database is set aside under another name, unchanged, and the shipped one takes its place;
 /// - a missing one is restored from the shipped data;
-/// - one that another program holds, or that may not be read, is left alone.
+/// - one that another program holds, that may not be read or is no file at all, is left alone.
 /// Nothing is overwritten or deleted. At every moment a whole file stands under the name, or none: a start
 /// that was interrupted is taken up by the next one.
 /// @return whether the store can be read now; when it cannot, the user has been told what does not work

@@ -262,11 +262,13 @@ bool ChooseMaterial(Setup& setup, LayerGroup group, int index, const std::string
   return false;
 }
 
-void ReloadLayers(Setup& setup, LayerGroup group, const elements::MaterialLookup& materials) {
+void ReloadLayers(Setup& setup, LayerGroup group, const elements::MaterialLookup& tables) {
+  const elements::MaterialLookup materials = elements::ForOneOperation(tables);
   for (int i = 0; i < RowsInUse(setup, group); ++i) Reload(setup, group, i, materials);
 }
 
-void LoadRowsInUse(Setup& setup, const elements::MaterialLookup& materials) {
+void LoadRowsInUse(Setup& setup, const elements::MaterialLookup& tables) {
+  const elements::MaterialLookup materials = elements::ForOneOperation(tables);
   constexpr std::array kGroups = {LayerGroup::kLeaf1,         LayerGroup::kLeaf2,
                                   LayerGroup::kSeaLeaf1,      LayerGroup::kSeaLeaf2,
                                   LayerGroup::kSeaDamping1,   LayerGroup::kSeaDamping2,

@@ -30,6 +30,14 @@ struct MaterialLookup {
   std::function<std::optional<StructuralRecord>(std::string_view name)> structural;
   std::function<std::optional<FibrousRecord>(std::string_view name)> fibrous;
   std::function<std::optional<ResilientRecord>(std::string_view name)> resilient;
+  /// Gives the same look-ups for one operation that asks for many materials: over one connection, and after a
+  /// failure without trying again. Empty where nothing is gained by that.
+  std::function<MaterialLookup()> for_one_operation{};
 };
+
+/// `materials` for one operation that asks for many of them.
+inline MaterialLookup ForOneOperation(const MaterialLookup& materials) {
+  return materials.for_one_operation ? materials.for_one_operation() : materials;
+}
 
 }  // namespace velmar::elements

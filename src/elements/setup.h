@@ -6,6 +6,7 @@
 
 #include "acoustics/bands.h"
 #include "elements/catalogue.h"
+#include "elements/keyed_values.h"
 #include "elements/layers.h"
 #include "elements/project_information.h"
 
@@ -89,6 +90,8 @@ struct Setup {
 
   BaseElement base{};
   Facade facade{};
+
+  KeyedValues further{};  ///< what else the project holds; of no account for the calculation
 
   bool operator==(const Setup&) const = default;
 };

@@ -48,7 +48,21 @@ TEST_F(EnvironmentTest, WhereNoDataFolderCanBeMadeTheShippedDataServe) {
   OpenCatalogue(environment, recorded.talk);
   EXPECT_EQ(environment.messages.Text(kExitMenuRow), "Esci");
   EXPECT_TRUE(OpenStores(environment, recorded.talk).materials);
-  EXPECT_EQ(OpenEnvironmentForReading(fs::path(kNoFolder)).warnings.size(), 1U);
+}
+
+TEST_F(EnvironmentTest, AMistypedFolderIsNotMade) {
+  const fs::path mistyped = folder_ / "dtaa";
+  try {
+    OpenEnvironmentForReading(mistyped);
+    FAIL();
+  } catch (const Failure& failure) {
+    EXPECT_EQ(RowsOf(failure.UserMessage()), "0+0+0+0") << "no catalogue is there to take rows from";
+    EXPECT_NE(failure.UserMessage()[0], failure.UserMessage()[2]) << "in two languages";
+  }
+  EXPECT_FALSE(fs::exists(mistyped));
+  const Environment mending = OpenEnvironmentForMending(mistyped);
+  EXPECT_EQ(mending.messages.Text(kMenuRow), "Esci");
+  EXPECT_FALSE(fs::exists(mistyped));
 }
 
 TEST_F(EnvironmentTest, AMissingOrDamagedCatalogueIsReplacedAndTold) {
@@ -110,6 +124,16 @@ TEST_F(EnvironmentTest, DatabasesThatCanOnlyBeReadAreTold) {
   RecordedTalk recorded;
   EXPECT_TRUE(OpenStores(environment, recorded.talk).materials);
   EXPECT_EQ(recorded.said, Said({"tell 1159+0+0"}));
+}
+
+/// Null characters and line breaks in the texts: the shipped words serve.
+TEST_F(EnvironmentTest, BrokenTextsAreHelpedOutByTheShippedOnes) {
+  Environment environment = Find();
+  WriteFile(Catalogue(), storage::ReadFile(fs::path(DAMAGED_DATABASES) / "line-break-in-texts-messages.mdb"));
+  RecordedTalk recorded;
+  OpenCatalogue(environment, recorded.talk);
+  EXPECT_EQ(environment.messages.Text(kMenuRow), "Esci");
+  EXPECT_EQ(environment.messages.Text(MessageRow{1231}), "Opzioni");
 }
 
 }  // namespace

@@ -6,6 +6,7 @@
 
 #include "storage/database/file_kind.h"
 #include "storage/database/set_aside.h"
+#include "storage/files/unfinished.h"
 #include "tests/application/start_fixture.h"
 #include "tests/storage/support/databases.h"
 #include "tests/storage/support/ordinary_user.h"
@@ -128,15 +129,74 @@ TEST_F(StoreCheckTest, AStoreThatAnotherProgramHoldsIsLeftAlone) {
 TEST_F(StoreCheckTest, WhatAKilledStartLeftUnfinishedGoes) {
   const fs::path file = FileOf(storage::kMaterialDatabase);
   WriteFile(file, ShippedBytes(storage::kMaterialDatabase));
-  const fs::path old = file.parent_path() / ".velmar-1-2.tmp";
-  const fs::path fresh = file.parent_path() / ".velmar-3-4.tmp";
-  WriteFile(old, "half");
-  WriteFile(fresh, "half");
-  fs::last_write_time(old, fs::file_time_type::clock::now() - std::chrono::hours(2));
+  const fs::path left = file.parent_path() / ".velmar-1-2.tmp";
+  WriteFile(left, "half");
+  const storage::Unfinished at_work(file);
   RecordedTalk recorded;
   EXPECT_TRUE(PrepareStore(Store::kMaterials, places_, recorded.talk));
-  EXPECT_FALSE(fs::exists(old));
-  EXPECT_TRUE(fs::exists(fresh)) << "another program may be at work on it";
+  EXPECT_FALSE(fs::exists(left));
+  EXPECT_TRUE(fs::exists(at_work.Path().parent_path())) << "somebody is at work there";
+}
+
+std::string Fixture(const char* name) { return ReadFile(fs::path(DAMAGED_DATABASES) / name); }
+
+TEST_F(StoreCheckTest, AnIndexThatDoesNotAgreeIsBuiltAnewWhenAsked) {
+  const fs::path file = FileOf(storage::kMaterialDatabase);
+  const std::string damaged = Fixture("row-deleted-past-its-index-materials.mdb");
+  WriteFile(file, damaged);
+  EXPECT_EQ(storage::ConditionOf(file), storage::DatabaseCondition::kIndex);
+
+  RecordedTalk declined({{1163, false}});
+  EXPECT_TRUE(PrepareStore(Store::kMaterials, places_, declined.talk)) << "the tables are whole";
+  EXPECT_EQ(declined.said, Said({"ask 1163"}));
+  EXPECT_EQ(ReadFile(file), damaged);
+
+  RecordedTalk accepted({{1163, true}});
+  EXPECT_TRUE(PrepareStore(Store::kMaterials, places_, accepted.talk));
+  EXPECT_EQ(accepted.said, Said({"ask 1163", "tell 1164"}));
+  EXPECT_EQ(storage::ConditionOf(file), storage::DatabaseCondition::kGood);
+  std::vector<fs::path> copies;
+  for (const auto& entry : fs::directory_iterator(file.parent_path())) {
+    if (entry.path().filename().string().starts_with("Database.mdb.copia-")) copies.push_back(entry.path());
+  }
+  ASSERT_EQ(copies.size(), 1U);
+  EXPECT_EQ(ReadFile(copies[0]), damaged);
+  RecordedTalk second;
+  EXPECT_TRUE(PrepareStore(Store::kMaterials, places_, second.talk));
+  EXPECT_EQ(second.said, Said()) << "told once";
+}
+
+TEST_F(StoreCheckTest, AnIndexThatCannotBeBuiltAnewIsSetAside) {
+  // Two rows of one name, under an index that allows one.
+  const fs::path file = FileOf(storage::kResultDatabase);
+  fs::create_directories(file.parent_path());
+  storage::Execute(file,
+                   {"CREATE TABLE t (a TEXT)", "CREATE INDEX i ON t (a)", "INSERT INTO t VALUES ('x'), ('x')",
+                    "PRAGMA writable_schema = ON",
+                    "UPDATE sqlite_master SET sql = 'CREATE UNIQUE INDEX i ON t (a)' WHERE name = 'i'"});
+  ASSERT_EQ(storage::ConditionOf(file), storage::DatabaseCondition::kIndex);
+  const std::string damaged = ReadFile(file);
+  RecordedTalk recorded({{1163, true}});
+  EXPECT_TRUE(PrepareStore(Store::kResults, places_, recorded.talk));
+  EXPECT_EQ(ReadFile(file), ShippedBytes(storage::kResultDatabase));
+  EXPECT_EQ(ReadFile(With(file, ".danneggiato")), damaged);
+}
+
+TEST_F(StoreCheckTest, PagesThatDoNotFitTogetherAreSetAside) {
+  const fs::path file = FileOf(storage::kMaterialDatabase);
+  WriteFile(file, Fixture("pages-swapped-materials.mdb"));
+  RecordedTalk recorded;
+  EXPECT_TRUE(PrepareStore(Store::kMaterials, places_, recorded.talk));
+  EXPECT_EQ(recorded.said, Said({"warn 1115+1151"}));
+}
+
+TEST_F(StoreCheckTest, AFolderUnderTheNameIsLeftAloneAndNotCalledDamaged) {
+  const fs::path file = FileOf(storage::kMaterialDatabase);
+  fs::create_directories(file / "mine");
+  RecordedTalk recorded;
+  EXPECT_FALSE(PrepareStore(Store::kMaterials, places_, recorded.talk));
+  EXPECT_EQ(recorded.said, Said({"warn 1113+1135+1147"}));
+  EXPECT_TRUE(fs::exists(file / "mine"));
 }
 
 /// A folder in which nothing can be written, and a file that may not be read.

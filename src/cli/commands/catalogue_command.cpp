@@ -5,6 +5,7 @@
 
 #include <nlohmann/json.hpp>
 
+#include "cli/output/outcome_json.h"
 #include "elements/catalogue.h"
 
 namespace velmar::cli {
@@ -28,7 +29,7 @@ ExitCode Execute(const CatalogueCommand& command, const presentation::Words& wor
     if (row.mark != 0) entry["relation"] = row.mark;
     list.push_back(std::move(entry));
   }
-  if (command.json) out << list.dump() << '\n';
+  if (command.json) WriteJson(list, out);
   return ExitCode::kDone;
 }
 

@@ -39,6 +39,16 @@ std::optional<FacadePart> StoredPart(std::string_view name, const Services& serv
                     .origin = calculation::PartOrigin::kStoredResult};
 }
 
+/// Where in a facade a part is to stand.
+enum class Place { kOpaque, kComponent };
+
+/// Whether tests of `folder` can stand there: R anywhere, Dn,e of a small element as a component; levels and
+/// improvements nowhere.
+bool Fits(const storage::LibraryFolder& folder, Place place) {
+  constexpr std::string_view kReductionIndex = "Rw (dB)";
+  return folder.rating == kReductionIndex || (storage::IsSmallElement(folder) && place == Place::kComponent);
+}
+
 /// @param place "KIND/SERIES/NAME"; a series has no "/" in its name, a test may
 std::optional<FacadePart> MeasuredPart(const std::string& place, const Services& services) {
   const std::size_t first = place.find('/');
@@ -77,6 +87,15 @@ std::optional<FacadePart> FindPart(const std::string& where, const Services& ser
   return std::nullopt;
 }
 
+/// Why what `where` names cannot stand at `place`, when its kind is known.
+std::optional<Message> Unfit(std::string_view where, Place place) {
+  if (!where.starts_with(kLibrary)) return std::nullopt;
+  const std::string_view kind = where.substr(kLibrary.size(), where.find('/') - kLibrary.size());
+  const auto folder = storage::FindLibraryFolder(kind);
+  if (!folder || Fits(*folder, place)) return std::nullopt;
+  return Message{{kUnfitForFacadeRow, " " + std::string(where)}};
+}
+
 /// Puts what `component` ("N=WHERE") names into its place. @return the refusal, if any
 std::optional<Message> TakeComponent(elements::Setup& setup, const std::string& component,
                                      const Services& services) {
@@ -84,6 +103,9 @@ std::optional<Message> TakeComponent(elements::Setup& setup, const std::string& 
   const std::optional<double> number = ParseDecimal(component.substr(0, sign));
   const bool valid =
       sign != std::string::npos && number && *number >= 1 && *number <= elements::Facade::kCapacity;
+  if (valid) {
+    if (auto refusal = Unfit(component.substr(sign + 1), Place::kComponent)) return refusal;
+  }
   const auto part = valid ? FindPart(component.substr(sign + 1), services) : std::nullopt;
   if (!part) return Message{{kUnknownStructureRow, " " + component}};
   const int place = static_cast<int>(*number);
@@ -96,6 +118,7 @@ std::optional<Message> TakeParts(const FacadeCommand& command, elements::Setup& 
                                  const Services& services) {
   if (setup.calculation != elements::Calculation::kCompositeElement) return Message{{kNoFacadeRow}};
   if (!command.opaque.empty()) {
+    if (auto refusal = Unfit(command.opaque, Place::kOpaque)) return refusal;
     const auto part = FindPart(command.opaque, services);
     if (!part) return Message{{kUnknownStructureRow, " " + command.opaque}};
     calculation::TakeAsOpaquePart(setup, *part);

@@ -5,6 +5,7 @@
 #include <nlohmann/json.hpp>
 
 #include "cli/output/failure_report.h"
+#include "cli/output/outcome_json.h"
 #include "cli/output/outcome_table.h"
 #include "foundation/message_rows.h"
 #include "storage/access/conversion.h"
@@ -42,7 +43,7 @@ ExitCode Execute(const ImportCommand& command, const Services& services, std::os
       return ExitCode::kNoResult;
     }
     if (command.json) {
-      out << JsonOf(*conversion).dump() << '\n';
+      WriteJson(JsonOf(*conversion), out);
     } else {
       WriteMessage(storage::ConversionReport(*conversion), services.words, out);
     }

@@ -7,10 +7,11 @@
 #include <nlohmann/json.hpp>
 
 #include "cli/output/failure_report.h"
+#include "cli/output/outcome_json.h"
 #include "cli/output/outcome_table.h"
 #include "foundation/decimal.h"
 #include "foundation/message_rows.h"
-#include "storage/database/fold_case.h"
+#include "foundation/utf8.h"
 #include "storage/library/library_store.h"
 
 namespace velmar::cli {
@@ -83,7 +84,7 @@ std::optional<storage::LibraryFile> FindSeries(const storage::LibraryStore& stor
                                                const storage::LibraryFolder& folder,
                                                const std::string& name) {
   for (storage::LibraryFile& file : store.Files(folder)) {
-    if (storage::SameName(file.name, name)) return std::move(file);
+    if (SameName(file.name, name)) return std::move(file);
   }
   return std::nullopt;
 }
@@ -100,7 +101,7 @@ void ListFiles(const LibraryCommand& command, const storage::LibraryStore& store
       }
     }
   }
-  if (command.json) out << list.dump() << '\n';
+  if (command.json) WriteJson(list, out);
 }
 
 void ListTests(const LibraryCommand& command, const std::vector<storage::ListedTest>& tests,
@@ -113,7 +114,7 @@ void ListTests(const LibraryCommand& command, const std::vector<storage::ListedT
       out << test.name << '\t' << test.keyword << '\n';
     }
   }
-  if (command.json) out << list.dump() << '\n';
+  if (command.json) WriteJson(list, out);
 }
 
 /// @return what is to be told when the command names something that is not there
@@ -135,7 +136,7 @@ std::optional<Message> Run(const LibraryCommand& command, const Services& servic
   const auto test = store.Find(*folder, series->path, command.test);
   if (!test) return Message{{kUnknownStructureRow, " " + command.test}};
   if (command.json) {
-    out << JsonOf(*folder, *test).dump() << '\n';
+    WriteJson(JsonOf(*folder, *test), out);
   } else {
     WriteTest(out, *folder, *test);
   }

@@ -7,6 +7,7 @@
 
 #include "cli/output/failure_report.h"
 #include "cli/output/material_table.h"
+#include "cli/output/outcome_json.h"
 #include "cli/output/outcome_table.h"
 #include "foundation/message_rows.h"
 #include "materials/coupled_boxes.h"
@@ -69,7 +70,7 @@ ExitCode List(const Work& work) {
       }
     }
   }
-  if (work.command.json) work.out << list.dump() << '\n';
+  if (work.command.json) WriteJson(list, work.out);
   return ExitCode::kDone;
 }
 
@@ -83,7 +84,7 @@ bool ShowIn(const Work& work, MaterialFamily family) {
   if (work.command.json) {
     nlohmann::json json = RowJson(schema, cells);
     json["family"] = FamilyName(family);
-    work.out << json.dump() << '\n';
+    WriteJson(json, work.out);
   } else {
     work.out << RowLines(schema, cells);
   }

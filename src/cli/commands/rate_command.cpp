@@ -76,7 +76,7 @@ ExitCode Execute(const RateCommand& command, const presentation::Words& words, s
     const elements::ResultSet result = Rate(spectrum.levels, command.impact);
     const std::vector<elements::SingleNumber> numbers = Numbers(spectrum.known_levels, command.impact);
     if (command.json) {
-      out << ResultJson(result, numbers).dump() << '\n';
+      WriteJson(ResultJson(result, numbers), out);
     } else {
       WriteRatings(result, numbers, out);
     }

@@ -12,6 +12,7 @@
 #include "cli/output/outcome_table.h"
 #include "foundation/failure.h"
 #include "foundation/message_rows.h"
+#include "foundation/utf8.h"
 #include "storage/files/open_elsewhere.h"
 #include "storage/files/whole_file.h"
 
@@ -83,6 +84,11 @@ ExitCode WriteReports(const ReportCommand& command, const path& project, const R
 
 ExitCode ReportOne(const ReportCommand& command, const path& project, const Services& services,
                    std::ostream& errors) {
+  // The name stands in the report.
+  if (!IsUtf8(project.string())) {
+    WriteMessage({{kArgumentNotUtf8Row, " " + WithReplacements(project.string())}}, services.words, errors);
+    return ExitCode::kFailed;
+  }
   ProjectRun run = RunProject(project, services.materials, command.go_on_outside_ranges);
   for (const Message& message : run.outcome.messages) WriteMessage(message, services.words, errors);
   if (!run.outcome.result) return CodeOf(run.outcome.status);
@@ -94,6 +100,16 @@ ExitCode ReportOne(const ReportCommand& command, const path& project, const Serv
       .words = services.words,
       .tell = [&](const Message& message) { WriteMessage(message, services.words, errors); }};
   return WriteReports(command, project, content, services, errors);
+}
+
+/// ReportOne() for a batch: nothing that one project does keeps the others from their reports.
+ExitCode ReportWithin(const ReportCommand& command, const path& project, const Services& services,
+                      std::ostream& errors) {
+  try {
+    return ReportOne(command, project, services, errors);
+  } catch (const std::exception& exception) {
+    return TellException(exception, services.words, errors);
+  }
 }
 
 /// The graver of two codes; "failed" outweighs "no result".
@@ -112,9 +128,9 @@ ExitCode Execute(const ReportCommand& command, const Services& services, std::os
   ExitCode code = ExitCode::kDone;
   for (const path& project : command.projects) {
     std::ostringstream said;
-    code = Graver(code, ReportOne(command, project, services, said));
+    code = Graver(code, ReportWithin(command, project, services, said));
     if (said.view().empty()) continue;
-    if (command.projects.size() > 1) errors << project.string() << ":\n";
+    if (command.projects.size() > 1) errors << WithReplacements(project.string()) << ":\n";
     errors << said.view();
   }
   return code;

@@ -6,6 +6,7 @@
 
 #include "cli/output/failure_report.h"
 #include "cli/output/material_table.h"
+#include "cli/output/outcome_json.h"
 #include "cli/output/outcome_table.h"
 #include "foundation/message_rows.h"
 #include "storage/results/results_store.h"
@@ -46,7 +47,7 @@ ExitCode List(const ResultsCommand& command, const storage::ResultsStore& store,
       }
     }
   }
-  if (command.json) out << list.dump() << '\n';
+  if (command.json) WriteJson(list, out);
   return ExitCode::kDone;
 }
 
@@ -60,7 +61,7 @@ bool Show(const ResultsCommand& command, const storage::ResultsStore& store, std
     if (command.json) {
       nlohmann::json json = RowJson(storage::SchemaOf(table), cells);
       json["table"] = TableName(table);
-      out << json.dump() << '\n';
+      WriteJson(json, out);
     } else {
       out << RowLines(storage::SchemaOf(table), cells);
     }
@@ -71,7 +72,7 @@ bool Show(const ResultsCommand& command, const storage::ResultsStore& store, std
 
 bool Delete(const ResultsCommand& command, storage::ResultsStore& store, std::ostream& out) {
   if (!store.Delete(command.table.value(), command.name)) return false;
-  if (command.json) out << nlohmann::json{{"deleted", command.name}}.dump() << '\n';
+  if (command.json) WriteJson(nlohmann::json{{"deleted", command.name}}, out);
   return true;
 }
 

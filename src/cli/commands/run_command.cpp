@@ -22,7 +22,7 @@ ExitCode Execute(const RunCommand& command, const Services& services, std::ostre
   if (command.json) {
     nlohmann::json json = OutcomeJson(run.texts, run.outcome, run.numbers, run.totals, services.words);
     if (interval.interval) json["interval"] = IntervalJson(*interval.interval);
-    out << json.dump() << '\n';
+    WriteJson(json, out);
   } else if (run.outcome.result) {
     WriteResult(run.texts, *run.outcome.result, run.numbers, run.totals, services.words, out);
     WriteMessage({validation::IntervalLine(interval)}, services.words, out);

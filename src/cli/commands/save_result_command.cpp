@@ -7,6 +7,7 @@
 #include "application/projects.h"
 #include "calculation/open_calculation.h"
 #include "cli/output/failure_report.h"
+#include "cli/output/outcome_json.h"
 #include "cli/output/outcome_table.h"
 #include "foundation/message_rows.h"
 #include "presentation/texts/descriptions.h"
@@ -28,10 +29,13 @@ ExitCode Store(const SaveResultCommand& command, const Services& services,
   storage::ResultsStore store(services.result_database);
   switch (store.Save(storage::TableFor(RowOf(*setup.calculation).family), row)) {
     case storage::SaveStatus::kSaved:
-      if (command.json) out << nlohmann::json{{"saved", command.name}}.dump() << '\n';
+      if (command.json) WriteJson(nlohmann::json{{"saved", command.name}}, out);
       return ExitCode::kDone;
     case storage::SaveStatus::kNameExists:
       WriteMessage({{kResultExistsRow}}, services.words, errors);
+      return ExitCode::kNoResult;
+    case storage::SaveStatus::kBadName:
+      WriteMessage({{kBadResultNameRow}}, services.words, errors);
       return ExitCode::kNoResult;
     case storage::SaveStatus::kNoName:
       WriteMessage({{kSavePromptRow}}, services.words, errors);

@@ -2,6 +2,7 @@
 
 #include <filesystem>
 #include <functional>
+#include <optional>
 #include <vector>
 
 #include "cli/output/report_format.h"
@@ -22,6 +23,8 @@ struct Services {
   std::filesystem::path validation_folder{};  ///< the measured constructions that came with the program
   /// What is known of the errors of calculations and models.
   std::function<validation::Accuracy()> accuracy = [] { return validation::Accuracy(); };
+  std::filesystem::path data_folder{};
+  std::optional<std::filesystem::path> shipped_data{};
   std::vector<ReportFormat> report_formats{};  ///< each an option of `report`
 };
 

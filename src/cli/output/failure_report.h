@@ -1,5 +1,6 @@
 #pragma once
 
+#include <exception>
 #include <filesystem>
 #include <iosfwd>
 
@@ -17,5 +18,9 @@ Message ConversionAdvice(const std::filesystem::path& file);
 /// Writes what failed to `errors`, and for a database in Access format the command that converts it.
 /// @return the exit code of a command that failed
 ExitCode TellFailure(const Failure& failure, const presentation::Words& words, std::ostream& errors);
+
+/// The same for anything that was thrown. What comes from the system is told in the user's language.
+ExitCode TellException(const std::exception& exception, const presentation::Words& words,
+                       std::ostream& errors);
 
 }  // namespace velmar::cli

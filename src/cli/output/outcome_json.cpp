@@ -1,6 +1,7 @@
 #include "cli/output/outcome_json.h"
 
 #include <optional>
+#include <ostream>
 
 #include <nlohmann/json.hpp>
 
@@ -91,6 +92,10 @@ nlohmann::json OutcomeJson(const CalculationTexts& texts, const calculation::Run
   json["thickness"] = totals.thickness_mm;
   json["surface_mass"] = totals.surface_mass_kg_m2;
   return json;
+}
+
+void WriteJson(const nlohmann::json& json, std::ostream& out) {
+  out << json.dump(-1, ' ', false, nlohmann::json::error_handler_t::replace) << '\n';
 }
 
 }  // namespace velmar::cli

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <iosfwd>
 #include <span>
 #include <string>
 
@@ -39,6 +40,10 @@ nlohmann::json IntervalJson(const validation::Interval& interval);
 /// The lines of a box as an array of {"row", "text"}. Words of our own, and literals, have row 0; the line
 /// that asks whether to go on is left out, so a question counts once.
 nlohmann::json MessageJson(const Message& message, const presentation::Words& words);
+
+/// Writes `json` as one line. Texts that are not UTF-8, which older databases may hold, are written with
+/// U+FFFD in place of what is wrong.
+void WriteJson(const nlohmann::json& json, std::ostream& out);
 
 /// "ok", "declined", "refused" or "failed".
 std::string StatusText(calculation::RunStatus status);

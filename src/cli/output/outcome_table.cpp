@@ -8,14 +8,15 @@
 #include "acoustics/bands.h"
 #include "foundation/decimal.h"
 #include "foundation/message_rows.h"
+#include "foundation/utf8.h"
 
 namespace velmar::cli {
 namespace {
 
 using elements::ResultSet;
 
-constexpr int kNameWidth = 13;
-constexpr int kNumberWidth = 9;
+constexpr std::size_t kNameWidth = 13;
+constexpr std::size_t kNumberWidth = 9;
 
 struct Rating {
   const char* name;
@@ -29,11 +30,9 @@ constexpr Rating kRatings[] = {
     {"ΔLn,w", &ResultSet::delta_lnw, 1},
 };
 
-/// `text` with blanks before it up to `width` characters; a UTF-8 sequence counts once.
-std::string RightAligned(const std::string& text, int width) {
-  int characters = 0;
-  for (const char c : text) characters += (static_cast<unsigned char>(c) & 0xC0U) != 0x80U ? 1 : 0;
-  return std::string(static_cast<std::size_t>(std::max(0, width - characters)), ' ') + text;
+/// `text` with blanks before it up to `width` characters.
+std::string RightAligned(const std::string& text, std::size_t width) {
+  return std::string(width - std::min(width, CountCharacters(text)), ' ') + text;
 }
 
 void WriteNumber(const std::string& name, double value, int decimals, const char* unit, std::ostream& out) {

@@ -170,6 +170,12 @@ void AddValidate(CLI::App& app, Parsed& parsed, const presentation::Words& words
   command->add_flag("--json", parsed.validate.json, words(kJsonHelpRow));
 }
 
+void AddDoctor(CLI::App& app, Parsed& parsed, const presentation::Words& words) {
+  CLI::App* command = app.add_subcommand(kDoctorCommand, words(kDoctorHelpRow));
+  command->add_flag("--repair", parsed.doctor.repair, words(kRepairHelpRow));
+  command->add_flag("--json", parsed.doctor.json, words(kJsonHelpRow));
+}
+
 }  // namespace
 
 void AddCommands(CLI::App& app, Parsed& parsed, const Services& services) {
@@ -190,6 +196,7 @@ void AddCommands(CLI::App& app, Parsed& parsed, const Services& services) {
   AddFacade(app, parsed, words);
   AddModels(app, parsed, words);
   AddValidate(app, parsed, words);
+  AddDoctor(app, parsed, words);
 }
 
 }  // namespace velmar::cli

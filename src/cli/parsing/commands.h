@@ -6,6 +6,7 @@
 #include <CLI/App.hpp>
 
 #include "cli/commands/catalogue_command.h"
+#include "cli/commands/doctor_command.h"
 #include "cli/commands/facade_command.h"
 #include "cli/commands/import_command.h"
 #include "cli/commands/library_command.h"
@@ -41,7 +42,11 @@ struct Parsed {
   FacadeCommand facade{};
   ModelsCommand models{};
   ValidateCommand validate{};
+  DoctorCommand doctor{};
 };
+
+/// The command that looks after the stores: it works where they are damaged or missing.
+inline constexpr const char* kDoctorCommand = "doctor";
 
 /// Tells `app` every command with its arguments and options; what is typed goes into `parsed`, which
 /// outlives the parsing.

@@ -5,16 +5,13 @@
 #include <cstddef>
 #include <string_view>
 
+#include "foundation/utf8.h"
+
 namespace velmar::presentation {
 namespace {
 
 constexpr double kFirstLinePoints = 15.0;
 constexpr double kFurtherLinePoints = 12.5;
-
-std::size_t CharactersIn(std::string_view text) {
-  return static_cast<std::size_t>(std::ranges::count_if(
-      text, [](char byte) { return (static_cast<unsigned char>(byte) & 0xC0U) != 0x80U; }));
-}
 
 }  // namespace
 
@@ -23,7 +20,7 @@ int LinesOf(const std::string& text, double width) {
   for (std::size_t begin = 0; begin <= text.size();) {
     const std::size_t end = std::min(text.find('\n', begin), text.size());
     const auto characters =
-        static_cast<double>(CharactersIn(std::string_view(text).substr(begin, end - begin)));
+        static_cast<double>(CountCharacters(std::string_view(text).substr(begin, end - begin)));
     lines += std::max(1, static_cast<int>(std::ceil(characters / width)));
     begin = end + 1;
   }

@@ -3,6 +3,7 @@
 #include <cstdint>
 
 #include "foundation/message_rows.h"
+#include "foundation/utf8.h"
 #include "presentation/reports/template_failure.h"
 
 namespace velmar::presentation {
@@ -27,30 +28,7 @@ class Inspection : public pugi::xml_tree_walker {
   }
 };
 
-std::size_t SequenceLength(unsigned char lead) {
-  if (lead < 0x80) return 1;
-  if (lead >= 0xC2 && lead < 0xE0) return 2;
-  if (lead >= 0xE0 && lead < 0xF0) return 3;
-  if (lead >= 0xF0 && lead < 0xF5) return 4;
-  return 0;
-}
-
-/// The character that begins at `text[at]` and takes `length` bytes; 0 when they are no UTF-8.
-std::uint32_t CharacterAt(std::string_view text, std::size_t at, std::size_t length) {
-  const auto lead = static_cast<unsigned char>(text[at]);
-  if (length == 1) return lead;
-  if (length == 0 || at + length > text.size()) return 0;
-  std::uint32_t character = lead & (0xFFU >> (length + 1));
-  for (std::size_t i = 1; i < length; ++i) {
-    const auto byte = static_cast<unsigned char>(text[at + i]);
-    if ((byte & 0xC0U) != 0x80U) return 0;
-    character = (character << 6U) | (byte & 0x3FU);
-  }
-  constexpr std::uint32_t kShortest[] = {0, 0, 0x80, 0x800, 0x10000};
-  return character < kShortest[length] ? 0 : character;
-}
-
-bool IsLegal(std::uint32_t character) {
+bool IsLegal(char32_t character) {
   return character == '\t' || character == '\n' || (character >= 0x20 && character <= 0xD7FF) ||
          (character >= 0xE000 && character <= 0xFFFD) || (character >= 0x10000 && character <= 0x10FFFF);
 }
@@ -90,20 +68,12 @@ std::string_view LocalName(pugi::xml_node node) {
 std::string LegalText(std::string_view text) {
   std::string legal;
   legal.reserve(text.size());
-  for (std::size_t at = 0; at < text.size();) {
-    const auto lead = static_cast<unsigned char>(text[at]);
-    if (lead == '\r') {
-      if (at + 1 >= text.size() || text[at + 1] != '\n') legal += '\n';
-      ++at;
-      continue;
-    }
-    const std::size_t length = SequenceLength(lead);
-    const std::uint32_t character = CharacterAt(text, at, length);
-    if (character != 0 && IsLegal(character)) {
-      legal.append(text, at, length);
-      at += length;
-    } else {
-      ++at;
+  while (!text.empty()) {
+    const char32_t character = TakeCharacter(text);
+    if (character == '\r') {
+      if (!text.starts_with('\n')) legal += '\n';
+    } else if (IsLegal(character)) {
+      AppendCharacter(legal, character);
     }
   }
   return legal;

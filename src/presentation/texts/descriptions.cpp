@@ -7,6 +7,7 @@
 #include "elements/parts.h"
 #include "foundation/decimal.h"
 #include "foundation/message_rows.h"
+#include "foundation/utf8.h"
 
 namespace velmar::presentation {
 namespace {

@@ -106,9 +106,9 @@ class StructureCommands::Windows {
                                  .thickness_mm = open.CurrentTotals().thickness_mm,
                                  .mass_kg_m2 = open.CurrentTotals().surface_mass_kg_m2});
       storage::ResultsStore store(results_file_);
-      if (store.Save(storage::TableFor(RowOf(*setup.calculation).family), row) ==
-          storage::SaveStatus::kNameExists)
-        tools_.tell(Text(services_.words, kResultExistsRow));
+      const storage::SaveStatus status = store.Save(storage::TableFor(RowOf(*setup.calculation).family), row);
+      if (status == storage::SaveStatus::kNameExists) tools_.tell(Text(services_.words, kResultExistsRow));
+      if (status == storage::SaveStatus::kBadName) tools_.tell(Text(services_.words, kBadResultNameRow));
     });
   }
 

@@ -74,7 +74,11 @@ presentation::Words WordsOf(const application::Environment& environment) {
 }  // namespace
 
 application::Environment OpenEnvironmentOnScreen(const QString& version) {
-  application::Environment environment = application::FindEnvironment(std::nullopt);
+  const auto ask = [](const Message& question, const storage::MessageTable& messages) {
+    const presentation::Words words = [&messages](MessageRow row) { return messages.Text(row); };
+    return ScreenBoxes(words).ask(Text(words, question));
+  };
+  application::Environment environment = application::FindEnvironment(std::nullopt, ask);
   const presentation::Words words = WordsOf(environment);
   LoaderWindow loader(words, version);  // shown when something takes long
   application::OpenCatalogue(environment, TalkOnScreen(words, ScreenBoxes(words), loader));

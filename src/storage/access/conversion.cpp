@@ -80,6 +80,7 @@ std::optional<Conversion> ConvertAccessFile(const AccessReader& reader, const fs
   if (KindOf(file) != FileKind::kAccess || !ask()) return std::nullopt;
   try {
     const fs::path path = fs::canonical(file);
+    RemoveAbandoned(path.parent_path());
     const Unfinished unfinished(path);
     CopyAccessFile(reader, path, unfinished.Path());
     Conversion conversion{{}, TablesOf(unfinished.Path())};

@@ -4,6 +4,7 @@
 
 #include "foundation/failure.h"
 #include "storage/database/rename.h"
+#include "storage/files/store_failure.h"
 #include "storage/files/unfinished.h"
 
 namespace velmar::storage {
@@ -12,13 +13,14 @@ namespace {
 namespace fs = std::filesystem;
 
 /// Without a catalogue both languages are said.
-Failure NotMade(const fs::path& folder, const std::string& reason) {
-  return {{{"Impossibile creare la cartella dei dati: " + folder.string()},
-           {"Controllare la voce CartellaDati del file Velmar.ini e i permessi della cartella."},
-           {"The data folder cannot be created: " + folder.string()},
-           {"Check the entry CartellaDati of the file Velmar.ini and the permissions of the folder."},
-           {reason}},
-          "cannot create " + folder.string() + ": " + reason};
+Failure NotMade(const fs::path& folder, const fs::filesystem_error& error) {
+  const int number = error.code().value();
+  const auto [italian, english] = ReasonWords(ReasonOfErrorNumber(number), number);
+  return {{{"Impossibile creare nella cartella dei dati: " + folder.string()},
+           {italian + " La cartella è quella della voce CartellaDati del file Velmar.ini."},
+           {"Cannot be created in the data folder: " + folder.string()},
+           {english + " The folder is that of the entry CartellaDati of the file Velmar.ini."}},
+          "cannot create " + folder.string() + ": " + error.what()};
 }
 
 /// Makes what was copied writable (an installed program's files are not) and sends it to the disk.
@@ -58,7 +60,7 @@ DataFolderState PrepareDataFolder(const fs::path& data_folder, const fs::path& s
     RemoveAbandoned(folder.parent_path());
     return CopyTo(shipped, folder) ? DataFolderState::kCreated : DataFolderState::kThere;
   } catch (const fs::filesystem_error& error) {
-    throw NotMade(folder, error.what());
+    throw NotMade(folder, error);
   }
 }
 
@@ -67,7 +69,7 @@ bool RestoreShippedFile(const fs::path& data_folder, const fs::path& shipped, co
     if (fs::exists(fs::symlink_status(data_folder / name))) return false;
     return CopyTo(shipped / name, data_folder / name);
   } catch (const fs::filesystem_error& error) {
-    throw NotMade(data_folder / name, error.what());
+    throw NotMade(data_folder / name, error);
   }
 }
 

@@ -8,6 +8,7 @@
 
 #include <INIReader.h>
 
+#include "foundation/utf8.h"
 #include "storage/files/windows_1252.h"
 
 namespace velmar::storage {
@@ -28,8 +29,6 @@ std::string_view Trimmed(std::string_view text) {
   if (first == std::string_view::npos) return {};
   return text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
 }
-
-bool IsContinuation(char byte) { return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U; }
 
 std::string TextOf(const fs::path& file) {
   // Opening a pipe would wait for its other end.
@@ -85,14 +84,6 @@ std::string Unquoted(std::string value) {
   const bool quoted =
       value.size() >= 2 && value.front() == value.back() && (value.front() == '"' || value.front() == '\'');
   return quoted ? value.substr(1, value.size() - 2) : value;
-}
-
-std::string FirstCharacters(const std::string& text, std::size_t count) {
-  std::size_t characters = 0;
-  for (std::size_t i = 0; i < text.size(); ++i) {
-    if (!IsContinuation(text[i]) && characters++ == count) return text.substr(0, i);
-  }
-  return text;
 }
 
 }  // namespace

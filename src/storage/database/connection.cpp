@@ -1,6 +1,9 @@
 #include "storage/database/connection.h"
 
+#include <cerrno>
+#include <optional>
 #include <string>
+#include <utility>
 
 #include <SQLiteCpp/Database.h>
 #include <SQLiteCpp/Exception.h>
@@ -18,10 +21,17 @@ namespace fs = std::filesystem;
 
 enum class Purpose { kRead, kChange };
 
-DatabaseProblem ProblemOf(int code, Purpose purpose) {
+bool IsFullDisk(int system_error) { return system_error == ENOSPC || system_error == EDQUOT; }
+
+/// @param system_error what the system said to the library when it last failed there; 0 for nothing
+DatabaseProblem ProblemOf(int code, int system_error, Purpose purpose) {
   const bool change = purpose == Purpose::kChange;
   constexpr int kPrimaryCode = 0xFF;
-  switch (code & kPrimaryCode) {
+  const int primary = code & kPrimaryCode;
+  // A journal that a full disk does not take cannot be opened: that is no matter of permissions.
+  if ((primary == SQLITE_CANTOPEN || primary == SQLITE_IOERR) && IsFullDisk(system_error))
+    return DatabaseProblem::kDiskFull;
+  switch (primary) {
     case SQLITE_CORRUPT:
     case SQLITE_NOTADB:
     case SQLITE_FORMAT:
@@ -51,6 +61,8 @@ void RequireOwnFormat(const fs::path& file) {
       throw DatabaseFailure(DatabaseProblem::kUnreadable, file, "missing or not permitted");
     case FileKind::kAccess:
       throw DatabaseFailure(DatabaseProblem::kAccessFormat, file, "an Access file");
+    case FileKind::kNoFile:
+      throw DatabaseFailure(DatabaseProblem::kNoFile, file, "no regular file");
     case FileKind::kOther:
       throw DatabaseFailure(DatabaseProblem::kDamaged, file, "no database");
     case FileKind::kSqlite:
@@ -88,34 +100,81 @@ void JournalBesideTheFile(SQLite::Database& database) {
   database.exec("PRAGMA synchronous = EXTRA");
 }
 
+/// What the library was last told by the system over `database`.
+int SystemErrorOf(const std::unique_ptr<SQLite::Database>& database) {
+  return database ? sqlite3_system_errno(database->getHandle()) : 0;
+}
+
+DatabaseFailure FailureOf(const SQLite::Exception& error, const std::unique_ptr<SQLite::Database>& database,
+                          Purpose purpose, const fs::path& file) {
+  return {ProblemOf(error.getErrorCode(), SystemErrorOf(database), purpose), file, error.what()};
+}
+
+/// Whether the next question would meet the same.
+bool IsAboutTheFile(DatabaseProblem problem) {
+  switch (problem) {
+    case DatabaseProblem::kDamaged:  // perhaps a single row
+    case DatabaseProblem::kMissingTable:
+    case DatabaseProblem::kMissingColumn:
+      return false;
+    default:
+      return true;
+  }
+}
+
 }  // namespace
 
-void ReadDatabaseWith(const fs::path& file, const std::function<void(SQLite::Database&)>& work) {
-  RequireOwnFormat(file);
+struct DatabaseReading::State {
+  std::unique_ptr<SQLite::Database> database{};
+  std::optional<DatabaseFailure> failure{};
+};
+
+DatabaseReading::DatabaseReading(fs::path file) : file_(std::move(file)), state_(std::make_unique<State>()) {}
+
+DatabaseReading::~DatabaseReading() = default;
+
+void DatabaseReading::With(const std::function<void(SQLite::Database&)>& work) {
+  if (state_->failure) throw DatabaseFailure(*state_->failure);
+  std::unique_ptr<SQLite::Database>& database = state_->database;
   try {
-    // Not opened read-only, so that what a killed program left can be undone.
-    SQLite::Database database(file.string(), SQLite::OPEN_READWRITE, kBusyTimeoutMs);
-    Configure(database);
-    database.exec("PRAGMA query_only = ON");
-    work(database);
+    if (!database) {
+      RequireOwnFormat(file_);
+      // Not opened read-only, so that what a killed program left can be undone.
+      database = std::make_unique<SQLite::Database>(file_.string(), SQLite::OPEN_READWRITE, kReadPatienceMs);
+      Configure(*database);
+      database->exec("PRAGMA query_only = ON");
+    }
+    work(*database);
   } catch (const SQLite::Exception& error) {
-    throw DatabaseFailure(ProblemOf(error.getErrorCode(), Purpose::kRead), file, error.what());
+    Fail(FailureOf(error, database, Purpose::kRead, file_));
+  } catch (const DatabaseFailure& failure) {
+    Fail(failure);
   }
+}
+
+void DatabaseReading::Fail(const DatabaseFailure& failure) {
+  if (IsAboutTheFile(failure.Problem())) state_->failure = failure;
+  throw DatabaseFailure(failure);
+}
+
+void ReadDatabaseWith(const fs::path& file, const std::function<void(SQLite::Database&)>& work) {
+  DatabaseReading(file).With(work);
 }
 
 void ChangeDatabaseWith(const fs::path& file, const std::function<void(SQLite::Database&)>& work) {
   RequireOwnFormat(file);
   RequireWritable(file);
+  std::unique_ptr<SQLite::Database> database;
   try {
-    SQLite::Database database(file.string(), SQLite::OPEN_READWRITE, kBusyTimeoutMs);
-    Configure(database);
-    JournalBesideTheFile(database);
+    database = std::make_unique<SQLite::Database>(file.string(), SQLite::OPEN_READWRITE, kChangePatienceMs);
+    Configure(*database);
+    JournalBesideTheFile(*database);
     // Taken for writing at once: two programs that both read first would block each other.
-    SQLite::Transaction transaction(database, SQLite::TransactionBehavior::IMMEDIATE);
-    work(database);
+    SQLite::Transaction transaction(*database, SQLite::TransactionBehavior::IMMEDIATE);
+    work(*database);
     transaction.commit();
   } catch (const SQLite::Exception& error) {
-    throw DatabaseFailure(ProblemOf(error.getErrorCode(), Purpose::kChange), file, error.what());
+    throw FailureOf(error, database, Purpose::kChange, file);
   }
 }
 

@@ -2,6 +2,7 @@
 
 #include <filesystem>
 #include <functional>
+#include <memory>
 #include <optional>
 #include <type_traits>
 #include <utility>
@@ -12,8 +13,44 @@ class Database;
 
 namespace velmar::storage {
 
-/// How long a program waits for another one that is changing the same file.
-inline constexpr int kBusyTimeoutMs = 5000;
+class DatabaseFailure;
+
+/// How long a change waits for another program that is changing the same file.
+inline constexpr int kChangePatienceMs = 5000;
+/// How long reading waits. Another program's change keeps readers out only while it reaches the disk; a file
+/// that is held for longer is held for good, and a window must not stand still for it.
+inline constexpr int kReadPatienceMs = 800;
+
+/// One connection for an operation that asks a database several times; it is opened when it is first used.
+/// After a failure that is about the file as a whole every further question fails in the same way and at
+/// once: a file that is locked is waited for once, not once a question.
+class DatabaseReading {
+ public:
+  explicit DatabaseReading(std::filesystem::path file);
+  DatabaseReading(const DatabaseReading&) = delete;
+  DatabaseReading& operator=(const DatabaseReading&) = delete;
+  ~DatabaseReading();
+
+  /// Hands the connection to `work`, which cannot change the file.
+  /// @throws DatabaseFailure as ReadDatabaseWith()
+  void With(const std::function<void(SQLite::Database&)>& work);
+
+  /// With() for work that gives a value.
+  template <typename Work>
+  auto Read(Work&& work) {
+    std::optional<std::invoke_result_t<Work, SQLite::Database&>> outcome;
+    With([&](SQLite::Database& database) { outcome.emplace(work(database)); });
+    return *std::move(outcome);
+  }
+
+ private:
+  struct State;
+
+  [[noreturn]] void Fail(const DatabaseFailure& failure);
+
+  std::filesystem::path file_;
+  std::unique_ptr<State> state_;
+};
 
 /// Opens `file`, hands it to `work` and closes it: no connection outlives an operation. `work` cannot change
 /// the file; only what an interrupted change left behind is undone.

@@ -10,6 +10,7 @@ namespace {
 MessageRow RowOf(DatabaseProblem problem) {
   switch (problem) {
     case DatabaseProblem::kUnreadable:
+    case DatabaseProblem::kNoFile:
       return kUnreadableRow;
     case DatabaseProblem::kDamaged:
       return kDatabaseDamagedRow;
@@ -39,6 +40,8 @@ Message MessageOf(DatabaseProblem problem, const std::filesystem::path& file, co
       return {{RowOf(problem), " " + missing}, {path}};
     case DatabaseProblem::kNotChanged:
       return {{kNotChangedRow}, {path}};
+    case DatabaseProblem::kNoFile:
+      return {{kUnreadableRow, " " + path}, {kNotAFileRow}};
     default:
       return {{RowOf(problem), " " + path}};
   }

@@ -11,6 +11,7 @@ namespace velmar::storage {
 /// Why a database could not be read or changed.
 enum class DatabaseProblem {
   kUnreadable,     ///< missing, or not permitted
+  kNoFile,         ///< a folder, a pipe or a device
   kDamaged,        ///< no database, or a damaged one
   kLocked,         ///< another program holds it for longer than the program waits
   kReadOnly,       ///< it may not be changed

@@ -12,7 +12,7 @@ FileKind KindOf(const std::filesystem::path& file) {
   const std::filesystem::file_status status = std::filesystem::status(file, error);
   if (!std::filesystem::exists(status)) return FileKind::kMissing;
   // Opening a pipe would wait for its other end.
-  if (!std::filesystem::is_regular_file(status)) return FileKind::kOther;
+  if (!std::filesystem::is_regular_file(status)) return FileKind::kNoFile;
   std::ifstream stream(file, std::ios::binary);
   if (!stream) return FileKind::kMissing;
 

@@ -9,7 +9,8 @@ enum class FileKind {
   kMissing,  ///< there is no such file, or it may not be read
   kSqlite,   ///< the program's own format
   kAccess,   ///< Jet 3, Jet 4 or ACE
-  kOther,    ///< none of these; also an empty file or a folder
+  kOther,    ///< none of these; also an empty file
+  kNoFile,   ///< a folder, a pipe or a device
 };
 
 /// The kind of `file`, told by its first bytes. Throws nothing.

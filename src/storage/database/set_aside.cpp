@@ -1,5 +1,7 @@
 #include "storage/database/set_aside.h"
 
+#include <array>
+#include <ctime>
 #include <string>
 #include <system_error>
 
@@ -11,6 +13,7 @@
 #include "storage/database/database_failure.h"
 #include "storage/database/file_kind.h"
 #include "storage/database/rename.h"
+#include "storage/files/unfinished.h"
 
 namespace velmar::storage {
 
@@ -40,6 +43,30 @@ void MoveCompanions(const fs::path& file, const fs::path& name) {
   }
 }
 
+/// After the whole check: the quick one does not compare an index with its table.
+DatabaseCondition ConditionIn(SQLite::Database& database) {
+  SQLite::Statement check(database, "PRAGMA integrity_check");
+  DatabaseCondition condition = DatabaseCondition::kGood;
+  while (check.executeStep()) {
+    const std::string said = check.getColumn(0).getString();
+    if (said == "ok") return DatabaseCondition::kGood;
+    // "row 3 missing from index i", "wrong # of entries in index i", "non-unique entry in index i"
+    if (said.find(" index ") == std::string::npos || said.find('\n') != std::string::npos)
+      return DatabaseCondition::kDamaged;
+    condition = DatabaseCondition::kIndex;
+  }
+  return condition == DatabaseCondition::kGood ? DatabaseCondition::kDamaged : condition;
+}
+
+/// The day as the user's clock tells it.
+std::string Today() {
+  const std::time_t now = std::time(nullptr);
+  std::tm day{};
+  ::localtime_r(&now, &day);
+  std::array<char, 16> text{};
+  return {text.data(), std::strftime(text.data(), text.size(), "%Y-%m-%d", &day)};
+}
+
 }  // namespace
 
 DatabaseCondition ConditionOf(const fs::path& file) {
@@ -48,17 +75,15 @@ DatabaseCondition ConditionOf(const fs::path& file) {
       return IsThere(file) ? DatabaseCondition::kUnreadable : DatabaseCondition::kMissing;
     case FileKind::kAccess:
       return DatabaseCondition::kAccess;
+    case FileKind::kNoFile:
+      return DatabaseCondition::kNoFile;
     case FileKind::kOther:
       return DatabaseCondition::kDamaged;
     case FileKind::kSqlite:
       break;
   }
   try {
-    return ReadDatabase(file, [](SQLite::Database& database) {
-      SQLite::Statement check(database, "PRAGMA quick_check(1)");
-      const bool good = check.executeStep() && check.getColumn(0).getString() == "ok";
-      return good ? DatabaseCondition::kGood : DatabaseCondition::kDamaged;
-    });
+    return ReadDatabase(file, [](SQLite::Database& database) { return ConditionIn(database); });
   } catch (const DatabaseFailure& failure) {
     switch (failure.Problem()) {
       case DatabaseProblem::kDamaged:
@@ -69,6 +94,36 @@ DatabaseCondition ConditionOf(const fs::path& file) {
         return DatabaseCondition::kUnreadable;
     }
   }
+}
+
+fs::path KeepDatedCopy(const fs::path& file) {
+  try {
+    const Unfinished unfinished(file);
+    // A change that a crash left half done is undone first: its journal does not come with the copy.
+    if (KindOf(file) == FileKind::kSqlite)
+      ReadDatabaseWith(file, [](SQLite::Database& database) { database.execAndGet("PRAGMA user_version"); });
+    fs::copy_file(file, unfinished.Path());
+    SyncToDisk(unfinished.Path());
+    for (int number = 1;; ++number) {
+      fs::path name = file;
+      name += ".copia-" + Today();
+      if (number > 1) name += "-" + std::to_string(number);
+      if (!RenameToFreeName(unfinished.Path(), name)) continue;
+      SyncToDisk(file.parent_path());
+      return name;
+    }
+  } catch (const fs::filesystem_error& error) {
+    const bool full = error.code() == std::errc::no_space_on_device;
+    throw DatabaseFailure(full ? DatabaseProblem::kDiskFull : DatabaseProblem::kReadOnly, file, error.what());
+  }
+}
+
+void RebuildIndexes(const fs::path& file) {
+  ChangeDatabaseWith(file, [&](SQLite::Database& database) {
+    database.exec("REINDEX");
+    if (ConditionIn(database) != DatabaseCondition::kGood)
+      throw DatabaseFailure(DatabaseProblem::kDamaged, file, "not whole after its indexes were built anew");
+  });
 }
 
 fs::path SetAside(const fs::path& file) {

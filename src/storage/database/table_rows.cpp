@@ -8,8 +8,8 @@
 #include <SQLiteCpp/Database.h>
 #include <SQLiteCpp/Statement.h>
 
+#include "foundation/utf8.h"
 #include "storage/database/database_failure.h"
-#include "storage/database/fold_case.h"
 
 namespace velmar::storage {
 namespace {
@@ -25,6 +25,15 @@ std::vector<std::string> Texts(SQLite::Statement& query) {
   std::vector<std::string> texts;
   while (query.executeStep()) texts.push_back(query.getColumn(0).getString());
   return texts;
+}
+
+/// The name that SQL gives the number of a row, in a table with `columns` of its own; empty when they hide
+/// all.
+std::string RowIdBeside(const std::vector<std::string>& columns) {
+  for (const char* name : {"rowid", "_rowid_", "oid"}) {
+    if (!FoldedIn(columns, name)) return name;
+  }
+  return {};
 }
 
 Cell FiniteOrNull(double number) { return std::isfinite(number) ? Cell{number} : Cell{}; }
@@ -89,12 +98,15 @@ TableRows::TableRows(SQLite::Database& database, const TableSchema& schema)
   SQLite::Statement names(database, "SELECT name FROM pragma_table_info(?)");
   names.bind(1, *table);
   const std::vector<std::string> columns = Texts(names);
+  row_id_ = RowIdBeside(columns);
+  if (row_id_.empty())
+    throw DatabaseFailure(DatabaseProblem::kDamaged, database.getFilename(), "columns hide the row number");
   if (!schema.key.empty()) {
     const std::optional<std::string> key = FoldedIn(columns, schema.key);
     if (!key) throw DatabaseFailure(DatabaseProblem::kMissingColumn, database.getFilename(), schema.key);
     key_ = QuotedName(*key);
   }
-  selection_ = "SELECT rowid";
+  selection_ = "SELECT " + row_id_;
   for (const ColumnSchema& column : schema.columns) {
     stored_.push_back(FoldedIn(columns, column.name).value_or(std::string()));
     selection_ += ", " + (stored_.back().empty() ? std::string("NULL") : QuotedName(stored_.back()));
@@ -126,37 +138,44 @@ std::vector<StoredRow> TableRows::All(const std::string& column) const {
   return Select(" ORDER BY " + column, "");
 }
 
+StoredRow TableRows::At(std::int64_t id) const {
+  std::vector<StoredRow> rows = Select(" WHERE " + row_id_ + " = " + std::to_string(id), "");
+  if (rows.empty())
+    throw DatabaseFailure(DatabaseProblem::kDamaged, database_->getFilename(),
+                          "row " + std::to_string(id) + " of " + table_ + " is missing");
+  return std::move(rows.front());
+}
+
 std::optional<StoredRow> TableRows::First() const {
-  std::vector<StoredRow> rows = Select(" ORDER BY rowid LIMIT 1", "");
+  std::vector<StoredRow> rows = Select(" ORDER BY " + row_id_ + " LIMIT 1", "");
   if (rows.empty()) return std::nullopt;
   return std::move(rows.front());
 }
 
 std::optional<StoredRow> TableRows::Find(std::string_view name) const {
-  if (const auto id = FindExactly(name)) {
-    return std::move(Select(" WHERE rowid = " + std::to_string(*id), "").front());
-  }
+  if (const auto id = FindExactly(name)) return At(*id);
   // The index folds ASCII letters only.
   if (IsAscii(name)) {
     std::vector<StoredRow> rows =
-        Select(" WHERE " + key_ + " = ? COLLATE NOCASE ORDER BY rowid LIMIT 1", name);
+        Select(" WHERE " + key_ + " = ? COLLATE NOCASE ORDER BY " + row_id_ + " LIMIT 1", name);
     if (rows.empty()) return std::nullopt;
     return std::move(rows.front());
   }
   const std::string folded = FoldCase(name);
-  SQLite::Statement query(*database_, "SELECT rowid, " + key_ + " FROM " + table_ + " ORDER BY rowid");
+  SQLite::Statement query(*database_,
+                          "SELECT " + row_id_ + ", " + key_ + " FROM " + table_ + " ORDER BY " + row_id_);
   while (query.executeStep()) {
     if (FoldCase(query.getColumn(1).getString()) != folded) continue;
-    return std::move(Select(" WHERE rowid = " + query.getColumn(0).getString(), "").front());
+    return At(query.getColumn(0).getInt64());
   }
   return std::nullopt;
 }
 
 std::optional<std::int64_t> TableRows::FindExactly(std::string_view name) const {
   // The second comparison is the answer, the first one lets the index find it.
-  SQLite::Statement query(*database_, "SELECT rowid FROM " + table_ + " WHERE " + key_ +
+  SQLite::Statement query(*database_, "SELECT " + row_id_ + " FROM " + table_ + " WHERE " + key_ +
                                           " = ?1 COLLATE NOCASE AND " + key_ +
-                                          " = ?1 COLLATE BINARY ORDER BY rowid LIMIT 1");
+                                          " = ?1 COLLATE BINARY ORDER BY " + row_id_ + " LIMIT 1");
   query.bind(1, std::string(name));
   if (!query.executeStep()) return std::nullopt;
   return query.getColumn(0).getInt64();
@@ -185,7 +204,8 @@ void TableRows::Update(const StoredRow& row) {
     if (column.empty()) continue;
     assignments += (assignments.empty() ? "" : ", ") + QuotedName(column) + " = ?";
   }
-  SQLite::Statement update(*database_, "UPDATE " + table_ + " SET " + assignments + " WHERE rowid = ?");
+  SQLite::Statement update(*database_,
+                           "UPDATE " + table_ + " SET " + assignments + " WHERE " + row_id_ + " = ?");
   int parameter = 0;
   for (std::size_t i = 0; i < stored_.size(); ++i) {
     if (!stored_[i].empty()) Bind(update, ++parameter, row.cells.at(i));
@@ -195,7 +215,7 @@ void TableRows::Update(const StoredRow& row) {
 }
 
 void TableRows::Delete(std::int64_t id) {
-  SQLite::Statement remove(*database_, "DELETE FROM " + table_ + " WHERE rowid = ?");
+  SQLite::Statement remove(*database_, "DELETE FROM " + table_ + " WHERE " + row_id_ + " = ?");
   remove.bind(1, id);
   remove.exec();
 }

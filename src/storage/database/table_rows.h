@@ -29,18 +29,20 @@ TableSchema Only(const TableSchema& schema, const std::vector<std::string_view>&
 /// does not know are left alone. A number written as text is read as a number, and a value that is none as
 /// null.
 ///
-/// Every member throws SQLite::Exception; inside ReadDatabase() and ChangeDatabase() it becomes a
+/// Every member throws SQLite::Exception, and DatabaseFailure where the file contradicts itself (an index
+/// that names a row that the table lacks); inside ReadDatabase() and ChangeDatabase() it becomes a
 /// DatabaseFailure.
 class TableRows {
  public:
-  /// @throws DatabaseFailure when the file has no such table, or the table no key column
+  /// @throws DatabaseFailure when the file has no such table, the table no key column, or its columns hide
+  ///         every name of the row number
   TableRows(SQLite::Database& database, const TableSchema& schema);
 
   /// Whether the table has a column for `column` of the schema.
   bool Has(std::string_view column) const;
 
   /// All rows in the order of insertion.
-  std::vector<StoredRow> All() const { return All("rowid"); }
+  std::vector<StoredRow> All() const { return All(row_id_); }
   /// All rows in the order of a column.
   /// @param column quoted, as the file spells it
   std::vector<StoredRow> All(const std::string& column) const;
@@ -57,12 +59,16 @@ class TableRows {
 
  private:
   std::vector<StoredRow> Select(const std::string& condition, std::string_view name) const;
+  /// The row of that id, which an index or another query named.
+  /// @throws DatabaseFailure when the table lacks it: the file contradicts itself
+  StoredRow At(std::int64_t id) const;
 
   SQLite::Database* database_;
   TableSchema schema_;
   std::string table_;                ///< as the file spells it
   std::vector<std::string> stored_;  ///< the file's spelling of each column; empty where it has none
   std::string key_;                  ///< quoted
+  std::string row_id_;               ///< the name of the row number that no column of the table hides
   std::string selection_;            ///< SELECT up to the condition
 };
 

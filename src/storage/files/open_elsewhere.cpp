@@ -3,7 +3,10 @@
 #include <algorithm>
 #include <array>
 #include <string>
+#include <string_view>
 #include <system_error>
+
+#include "foundation/utf8.h"
 
 namespace velmar::storage {
 namespace {
@@ -13,17 +16,23 @@ namespace {
 constexpr std::size_t kLongestWholeStem = 6;
 constexpr std::size_t kMostDropped = 2;
 
-std::size_t DroppedByWord(const std::u32string& stem) {
-  return std::min(kMostDropped, stem.size() - std::min(stem.size(), kLongestWholeStem));
+/// `name` as Word shortens it in the name of its owner's file.
+std::string ShortenedByWord(const std::string& name, const std::string& stem) {
+  const std::size_t length = CountCharacters(stem);
+  std::string_view rest = name;
+  for (std::size_t drop = std::min(kMostDropped, length - std::min(length, kLongestWholeStem)); drop > 0;
+       --drop)
+    TakeCharacter(rest);
+  return std::string(rest);
 }
 
 }  // namespace
 
 bool IsOpenElsewhere(const std::filesystem::path& path) {
-  const std::u32string name = path.filename().u32string();
-  const std::array owners = {U".~lock." + name + U"#", U"~$" + name,
-                             U"~$" + name.substr(DroppedByWord(path.stem().u32string()))};
-  return std::ranges::any_of(owners, [&](const std::u32string& owner) {
+  const std::string name = path.filename().string();
+  const std::array owners = {".~lock." + name + "#", "~$" + name,
+                             "~$" + ShortenedByWord(name, path.stem().string())};
+  return std::ranges::any_of(owners, [&](const std::string& owner) {
     std::error_code error;
     return std::filesystem::is_regular_file(path.parent_path() / owner, error);
   });

@@ -4,7 +4,6 @@
 #include <array>
 #include <cerrno>
 #include <optional>
-#include <random>
 #include <string>
 #include <system_error>
 #include <utility>
@@ -14,16 +13,16 @@
 #include <unistd.h>
 
 #include "storage/files/store_failure.h"
+#include "storage/files/unfinished.h"
 
 namespace velmar::storage {
 namespace {
 
 namespace fs = std::filesystem;
 
-std::string WordsOf(int error) { return std::generic_category().message(error); }
-
-[[noreturn]] void Fail(StoreAction action, const fs::path& path, int error) {
-  throw StoreFailure(action, ReasonOfErrorNumber(error), path.string(), WordsOf(error));
+[[noreturn]] void Fail(StoreAction action, const fs::path& path, int error,
+                       PreviousFile previous = PreviousFile::kNone) {
+  throw StoreFailure(action, error, path.string(), previous);
 }
 
 /// A file descriptor that closes itself.
@@ -97,27 +96,25 @@ fs::path FolderOf(const fs::path& path) {
   return folder.empty() ? fs::path(".") : folder;
 }
 
-fs::path TemporaryName(const fs::path& folder) {
-  std::random_device random;
-  return folder / (".velmar-" + std::to_string(random()) + ".tmp");
-}
-
-void WriteAll(int descriptor, std::string_view bytes, const fs::path& path) {
+/// @return false when the system refuses; errno says why
+bool WriteAll(int descriptor, std::string_view bytes) {
   while (!bytes.empty()) {
     const ssize_t written = ::write(descriptor, bytes.data(), bytes.size());
-    if (written < 0) {
-      if (errno == EINTR) continue;
-      Fail(StoreAction::kWrite, path, errno);
-    }
-    bytes.remove_prefix(static_cast<std::size_t>(written));
+    if (written < 0 && errno != EINTR) return false;
+    if (written > 0) bytes.remove_prefix(static_cast<std::size_t>(written));
   }
+  return true;
 }
 
-/// Makes a rename in `folder` outlive a power failure. File systems that cannot do so are passed over: the
-/// file itself is already complete.
-void SyncFolder(const fs::path& folder) {
-  const Descriptor descriptor(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-  if (descriptor.IsOpen()) ::fsync(descriptor.Number());
+/// A new file in `folder`, held by this program, and its name; no file when the system refuses.
+std::pair<int, fs::path> NewFile(const fs::path& folder) {
+  constexpr mode_t kNewFile = S_IRUSR | S_IWUSR | S_IRGRP | S_IWGRP | S_IROTH | S_IWOTH;
+  for (;;) {
+    const fs::path name = UnfinishedName(folder);
+    const int descriptor = ::open(name.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, kNewFile);
+    if (descriptor < 0 || Hold(descriptor, name)) return {descriptor, name};
+    ::close(descriptor);
+  }
 }
 
 }  // namespace
@@ -126,24 +123,29 @@ void WriteWhole(const fs::path& path, std::string_view bytes) {
   const fs::path target = Followed(path);
   const std::optional<struct stat> old = Replaceable(target);
   const fs::path folder = FolderOf(target);
+  RemoveAbandoned(folder);
+  const auto fail = [&] {
+    Fail(StoreAction::kWrite, path, errno, old ? PreviousFile::kIntact : PreviousFile::kNone);
+  };
 
-  const fs::path temporary_path = TemporaryName(folder);
-  constexpr mode_t kNewFile = S_IRUSR | S_IWUSR | S_IRGRP | S_IWGRP | S_IROTH | S_IWOTH;
-  Descriptor file(::open(temporary_path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, kNewFile));
-  if (!file.IsOpen()) Fail(StoreAction::kWrite, path, errno);
-  Temporary temporary(temporary_path);
+  auto [descriptor, name] = NewFile(folder);
+  Descriptor file(descriptor);
+  if (!file.IsOpen()) fail();
+  Temporary temporary(name);
   if (old) {
     // An owner that may not be given is no reason to lose the work.
     [[maybe_unused]] const int ignored = ::fchown(file.Number(), old->st_uid, old->st_gid);
     constexpr mode_t kPermissions = 07777;
-    if (::fchmod(file.Number(), old->st_mode & kPermissions) != 0) Fail(StoreAction::kWrite, path, errno);
+    if (::fchmod(file.Number(), old->st_mode & kPermissions) != 0) fail();
   }
-  WriteAll(file.Number(), bytes, path);
-  if (::fsync(file.Number()) != 0) Fail(StoreAction::kWrite, path, errno);
-  if (!file.Close()) Fail(StoreAction::kWrite, path, errno);
-  if (::rename(temporary.Path().c_str(), target.c_str()) != 0) Fail(StoreAction::kWrite, path, errno);
+  if (!WriteAll(file.Number(), bytes)) fail();
+  if (::fsync(file.Number()) != 0) fail();
+  // Closing tells a late error; the duplicate holds the file until it has its name.
+  const Descriptor held(::fcntl(file.Number(), F_DUPFD_CLOEXEC, 0));
+  if (!file.Close()) fail();
+  if (::rename(temporary.Path().c_str(), target.c_str()) != 0) fail();
   temporary.Keep();
-  SyncFolder(folder);
+  SyncToDisk(folder);
 }
 
 std::string ReadWhole(const fs::path& path, std::size_t size_limit) {

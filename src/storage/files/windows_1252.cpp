@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <optional>
 
+#include "foundation/utf8.h"
 #include "storage/files/windows_1252_equivalents.h"
 
 namespace velmar::storage {
@@ -17,43 +18,6 @@ constexpr std::array<char32_t, 32> kSpecial = {
     0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
 constexpr char32_t kFirstSpecial = 0x80;
 constexpr char32_t kLastSpecial = 0x9F;
-constexpr char32_t kNotUtf8 = 0xFFFFFFFF;
-
-void AppendUtf8(std::string& text, char32_t c) {
-  const auto put = [&text](char32_t bits) { text.push_back(static_cast<char>(bits)); };
-  // The code page holds nothing beyond three bytes.
-  if (c < 0x80) {
-    put(c);
-  } else if (c < 0x800) {
-    put(0xC0 | (c >> 6));
-    put(0x80 | (c & 0x3F));
-  } else {
-    put(0xE0 | (c >> 12));
-    put(0x80 | ((c >> 6) & 0x3F));
-    put(0x80 | (c & 0x3F));
-  }
-}
-
-/// The first character of `text`, taken off it; kNotUtf8 (and one byte taken) where the bytes are no UTF-8.
-char32_t TakeCharacter(std::string_view& text) {
-  const auto byte = [&text](std::size_t i) { return static_cast<std::uint8_t>(text[i]); };
-  const std::uint8_t lead = byte(0);
-  const std::size_t length = lead < 0x80 ? 1 : lead < 0xC2 ? 0 : lead < 0xE0 ? 2 : lead < 0xF0 ? 3 : 4;
-  char32_t c = length == 1 ? lead : lead & (0xFFU >> (length + 1));
-  bool valid = length != 0 && lead < 0xF5 && text.size() >= length;
-  for (std::size_t i = 1; valid && i < length; ++i) {
-    valid = (byte(i) & 0xC0U) == 0x80U;
-    c = (c << 6) | (byte(i) & 0x3FU);
-  }
-  const bool overlong = (length == 3 && c < 0x800) || (length == 4 && c < 0x10000);
-  const bool surrogate = c >= 0xD800 && c <= 0xDFFF;
-  if (!valid || overlong || surrogate || c > 0x10FFFF) {
-    text.remove_prefix(1);
-    return kNotUtf8;
-  }
-  text.remove_prefix(length);
-  return c;
-}
 
 /// The byte of `c`, where the code page has the character.
 std::optional<char> ByteOf(char32_t c) {
@@ -68,13 +32,15 @@ bool IsCombiningAccent(char32_t c) { return c >= 0x0300 && c <= 0x036F; }
 
 }  // namespace
 
+bool IsInWindows1252(char32_t character) { return ByteOf(character).has_value(); }
+
 std::string Utf8FromWindows1252(std::string_view bytes) {
   std::string text;
   text.reserve(bytes.size() + bytes.size() / 8);
   for (const char byte : bytes) {
     const char32_t code = static_cast<std::uint8_t>(byte);
     const bool special = code >= kFirstSpecial && code <= kLastSpecial;
-    AppendUtf8(text, special ? kSpecial.at(code - kFirstSpecial) : code);
+    AppendCharacter(text, special ? kSpecial.at(code - kFirstSpecial) : code);
   }
   return text;
 }
@@ -100,13 +66,6 @@ std::string Windows1252FromUtf8(std::string_view text) {
     }
   }
   return bytes;
-}
-
-bool IsUtf8(std::string_view text) {
-  while (!text.empty()) {
-    if (TakeCharacter(text) == kNotUtf8) return false;
-  }
-  return true;
 }
 
 }  // namespace velmar::storage

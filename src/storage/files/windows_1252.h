@@ -15,7 +15,7 @@ std::string Utf8FromWindows1252(std::string_view bytes);
 /// "?". A letter followed by a combining accent becomes the accented letter.
 std::string Windows1252FromUtf8(std::string_view text);
 
-/// Whether `text` is well-formed UTF-8: no overlong form, no surrogate, nothing above U+10FFFF.
-bool IsUtf8(std::string_view text);
+/// Whether the code page has `character` itself, so that it comes back from its byte.
+bool IsInWindows1252(char32_t character);
 
 }  // namespace velmar::storage

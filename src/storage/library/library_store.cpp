@@ -6,8 +6,8 @@
 
 #include <SQLiteCpp/Database.h>
 
+#include "foundation/utf8.h"
 #include "storage/database/connection.h"
-#include "storage/database/fold_case.h"
 #include "storage/database/table_rows.h"
 
 namespace velmar::storage {

@@ -4,7 +4,7 @@
 #include <optional>
 #include <system_error>
 
-#include "storage/database/fold_case.h"
+#include "foundation/utf8.h"
 
 namespace velmar::storage {
 namespace {

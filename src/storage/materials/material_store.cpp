@@ -1,5 +1,6 @@
 #include "storage/materials/material_store.h"
 
+#include <memory>
 #include <string>
 #include <unordered_set>
 #include <variant>
@@ -7,8 +8,8 @@
 #include <SQLiteCpp/Database.h>
 
 #include "foundation/message_rows.h"
+#include "foundation/utf8.h"
 #include "storage/database/connection.h"
-#include "storage/database/fold_case.h"
 #include "storage/database/table_rows.h"
 
 namespace velmar::storage {
@@ -38,11 +39,22 @@ std::unordered_set<std::string> NamesIn(const TableRows& table) {
 }
 
 template <typename Material>
-std::optional<elements::MaterialRecord<Material>> RecordOf(const std::filesystem::path& file,
+std::optional<elements::MaterialRecord<Material>> RecordIn(SQLite::Database& database,
                                                            std::string_view name) {
-  auto row = MaterialStore(file).Find<Material>(name);
+  auto row = Converted<Material>(TableRows(database, TableOf<Material>()).Find(name));
   if (!row) return std::nullopt;
   return std::move(row->record);
+}
+
+/// The look-ups over what `reading` gives: a DatabaseReading, kept or made for each.
+template <typename Reading>
+elements::MaterialLookup LookupOver(const Reading& reading) {
+  const auto of = [reading]<typename Material>(std::string_view name, const Material*) {
+    return reading()->Read([name](SQLite::Database& database) { return RecordIn<Material>(database, name); });
+  };
+  return {[of](std::string_view name) { return of(name, static_cast<const StructuralMaterial*>(nullptr)); },
+          [of](std::string_view name) { return of(name, static_cast<const FibrousMaterial*>(nullptr)); },
+          [of](std::string_view name) { return of(name, static_cast<const ResilientMaterial*>(nullptr)); }};
 }
 
 }  // namespace
@@ -131,9 +143,11 @@ bool MaterialStore::Delete(MaterialFamily family, std::string_view name) {
 }
 
 elements::MaterialLookup MaterialLookupIn(const std::filesystem::path& file) {
-  return {[file](std::string_view name) { return RecordOf<StructuralMaterial>(file, name); },
-          [file](std::string_view name) { return RecordOf<FibrousMaterial>(file, name); },
-          [file](std::string_view name) { return RecordOf<ResilientMaterial>(file, name); }};
+  elements::MaterialLookup lookup = LookupOver([file] { return std::make_unique<DatabaseReading>(file); });
+  lookup.for_one_operation = [file] {
+    return LookupOver([reading = std::make_shared<DatabaseReading>(file)] { return reading; });
+  };
+  return lookup;
 }
 
 template std::vector<StructuralRow> MaterialStore::Rows() const;

@@ -56,7 +56,8 @@ class MaterialStore {
   std::filesystem::path file_;
 };
 
-/// The look-ups that the rules of a set-up are given; each reads `file` anew.
+/// The look-ups that the rules of a set-up are given. Each reads `file` anew; those for one operation share a
+/// connection, which goes with the last of them.
 elements::MaterialLookup MaterialLookupIn(const std::filesystem::path& file);
 
 }  // namespace velmar::storage

@@ -1,5 +1,6 @@
 #include "storage/messages/message_table_reader.h"
 
+#include <algorithm>
 #include <map>
 #include <optional>
 #include <string_view>
@@ -9,6 +10,7 @@
 #include <SQLiteCpp/Database.h>
 #include <SQLiteCpp/Statement.h>
 
+#include "foundation/utf8.h"
 #include "storage/database/connection.h"
 #include "storage/database/database_failure.h"
 #include "storage/database/file_kind.h"
@@ -39,6 +41,7 @@ CatalogueFailure FailureWith(const Words& words, const std::string& detail) {
 Words WordsFor(DatabaseProblem problem) {
   switch (problem) {
     case DatabaseProblem::kUnreadable:
+    case DatabaseProblem::kNoFile:
       return {
           "Il catalogo dei messaggi non è stato trovato o non è leggibile. Reinstallare il programma o "
           "ripristinare il file:",
@@ -64,6 +67,25 @@ std::string TextOf(const Cell& cell) {
   return text == nullptr ? std::string() : *text;
 }
 
+/// Whether `text` can be shown. One that is no UTF-8, or holds a null character, came from a damaged file.
+bool IsWhole(const std::string& text) {
+  return !text.empty() && IsUtf8(text) && text.find('\0') == std::string::npos;
+}
+
+/// `text` in UTF-8, with a blank in place of every null character.
+std::string Mended(const std::string& text) {
+  std::string mended = WithReplacements(text);
+  std::ranges::replace(mended, '\0', ' ');
+  return mended;
+}
+
+/// `text` as one line, which is what the places of the further texts take.
+std::string OneLine(std::string text) {
+  std::ranges::replace_if(
+      text, [](char c) { return static_cast<unsigned char>(c) < ' '; }, ' ');
+  return text;
+}
+
 /// A table that came out of an Access file may have lost the order of its rows; the numbers of its unique
 /// index tell it. Any other table stands as it was filled.
 std::string OrderOfCatalogue(SQLite::Database& database) {
@@ -73,7 +95,7 @@ std::string OrderOfCatalogue(SQLite::Database& database) {
                           "WHERE list.[unique] AND columns.name = entry.name AND columns.type = 'INTEGER' "
                           "GROUP BY list.name HAVING count(*) = 1 AND (SELECT count(*) FROM "
                           "pragma_index_info(list.name)) = 1 LIMIT 1");
-  if (!query.executeStep() || query.getColumn(0).isNull()) return "rowid";
+  if (!query.executeStep() || query.getColumn(0).isNull()) return {};
   return QuotedName(query.getColumn(0).getString());
 }
 
@@ -89,7 +111,9 @@ std::vector<std::string> ReadCatalogue(SQLite::Database& database, const fs::pat
         language);
   }
   std::vector<std::string> texts;
-  for (const StoredRow& row : table.All(OrderOfCatalogue(database))) texts.push_back(TextOf(row.cells[0]));
+  const std::string order = OrderOfCatalogue(database);
+  for (const StoredRow& row : order.empty() ? table.All() : table.All(order))
+    texts.push_back(Mended(TextOf(row.cells[0])));
   if (texts.size() > kCatalogueRows) {
     throw FailureWith({"Il catalogo dei messaggi contiene più di 419 righe. Ripristinare il file:",
                        "The message catalogue holds more than 419 rows. Restore the file:"},
@@ -108,8 +132,9 @@ void AddFurther(SQLite::Database& database, const std::string& language, std::ma
     const auto* number = std::get_if<double>(&row.cells[0]);
     if (number == nullptr || *number < kFirstFurtherRow || *number > 1e6) continue;
     std::string text = TextOf(row.cells[1]);
-    if (text.empty()) text = TextOf(row.cells[2]);
-    if (!text.empty()) texts.emplace(static_cast<int>(*number), std::move(text));
+    if (!IsWhole(text)) text = TextOf(row.cells[2]);
+    // Else the shipped text is better.
+    if (IsWhole(text)) texts.emplace(static_cast<int>(*number), OneLine(std::move(text)));
   }
 }
 

@@ -6,6 +6,7 @@
 #include "foundation/decimal.h"
 #include "foundation/message_rows.h"
 #include "foundation/rounding.h"
+#include "foundation/utf8.h"
 #include "storage/files/windows_1252.h"
 #include "storage/project/project_failure.h"
 #include "storage/project/text_rules.h"
@@ -106,6 +107,10 @@ void LineCursor::Label(std::string_view beginning) {
     const std::string quoted = " \"" + std::string(beginning) + "\"";
     Fail({kBeginningExpectedRow, quoted}, "a line that begins with" + quoted + " was expected");
   }
+}
+
+bool LineCursor::OnlyBlankLinesFollow() const {
+  return rest_.find_first_not_of(" \r\n") == std::string_view::npos;
 }
 
 bool LineCursor::NextIsOneOf(std::initializer_list<std::string_view> words) const {

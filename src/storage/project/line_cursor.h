@@ -39,6 +39,9 @@ class LineCursor {
   /// Whether the next line is one of `words`, in any case. The line stays to be read.
   bool NextIsOneOf(std::initializer_list<std::string_view> words) const;
 
+  /// Whether nothing but empty lines is left.
+  bool OnlyBlankLinesFollow() const;
+
   /// The number of the line read last, from 1; 0 before the first.
   int LineNumber() const { return line_number_; }
 

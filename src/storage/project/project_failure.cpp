@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "foundation/message_rows.h"
+#include "foundation/utf8.h"
 
 namespace velmar::storage {
 namespace {
@@ -21,5 +22,13 @@ ProjectFileFailure::ProjectFileFailure(int line_number, MessageLine what, const 
 
 ProjectFileFailure::ProjectFileFailure(Message message, std::string detail)
     : Failure(std::move(message), std::move(detail)) {}
+
+ProjectFileFailure ProjectFileFailure::In(const std::filesystem::path& file) const {
+  Message message = UserMessage();
+  message.back().push_back("\n" + WithReplacements(file.string()));
+  ProjectFileFailure named(std::move(message), file.string() + ": " + what());
+  named.line_number_ = line_number_;
+  return named;
+}
 
 }  // namespace velmar::storage

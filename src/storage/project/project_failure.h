@@ -1,5 +1,6 @@
 #pragma once
 
+#include <filesystem>
 #include <string>
 
 #include "foundation/failure.h"
@@ -9,9 +10,6 @@ namespace velmar::storage {
 
 /// What the user is told of a file that does not exist.
 inline constexpr const char* kProjectMissing = "Impossibile aprire il file: file non trovato";
-
-/// What a line of a project file should have been; rows of the program's own texts.
-namespace expected {}  // namespace expected
 
 /// A project file could not be read. Nothing of it was taken over.
 class ProjectFileFailure : public Failure {
@@ -23,6 +21,9 @@ class ProjectFileFailure : public Failure {
 
   /// The file as a whole cannot be read.
   ProjectFileFailure(Message message, std::string detail);
+
+  /// The same failure with the name of the file behind its words.
+  ProjectFileFailure In(const std::filesystem::path& file) const;
 
   /// The line that stopped the reading; 0 when none did.
   int LineNumber() const noexcept { return line_number_; }

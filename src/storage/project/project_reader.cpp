@@ -8,6 +8,7 @@
 #include "storage/files/whole_file.h"
 #include "storage/project/common_part.h"
 #include "storage/project/family_parts.h"
+#include "storage/project/keyed_block.h"
 #include "storage/project/line_cursor.h"
 #include "storage/project/project_failure.h"
 #include "storage/project/version_code.h"
@@ -63,11 +64,13 @@ OpenedProject ReadProject(std::string_view bytes, const ProjectReadContext& cont
   opened.setup.calculation.reset();
 
   const std::optional<PartLayout> layout = FindPartLayout(opened.stored.family, opened.stored.variant);
-  if (!layout) return opened;
-  Select(context, lines, opened.stored, layout->part, opened.setup);
-  PartInput in{
-      .lines = lines, .materials = context.materials, .version_code = version_code, .layout = *layout};
-  ReadFamilyPart(in, opened.setup);
+  if (layout) {
+    Select(context, lines, opened.stored, layout->part, opened.setup);
+    PartInput in{
+        .lines = lines, .materials = context.materials, .version_code = version_code, .layout = *layout};
+    ReadFamilyPart(in, opened.setup);
+  }
+  opened.setup.further = ReadKeyedBlock(lines);
   return opened;
 }
 
@@ -78,9 +81,13 @@ OpenedProject OpenProject(const std::filesystem::path& path, const ProjectReadCo
   } catch (const StoreFailure& failure) {
     if (failure.Reason() == StoreReason::kNotFound)
       throw ProjectFileFailure({{std::string(kProjectMissing)}}, failure.what());
-    throw ProjectFileFailure({{kProjectDamagedRow}, failure.UserMessage().back()}, failure.what());
+    throw ProjectFileFailure(failure.UserMessage(), failure.what());
   }
-  return ReadProject(bytes, context);
+  try {
+    return ReadProject(bytes, context);
+  } catch (const ProjectFileFailure& failure) {
+    throw failure.In(path);
+  }
 }
 
 }  // namespace velmar::storage

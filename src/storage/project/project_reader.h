@@ -34,12 +34,14 @@ struct OpenedProject {
 inline constexpr std::size_t kProjectSizeLimit = std::size_t{16} * 1024 * 1024;
 
 /// Reads the bytes of a project file of any version. All or nothing: a file that ends early, a number that is
-/// none, a count that no list can hold, or a line of another kind than the one due is refused.
+/// none, a count that no list can hold, or a line of another kind than the one due is refused. Text behind
+/// the last line is ignored, but for a keyed block.
 /// @throws ProjectFileFailure
 OpenedProject ReadProject(std::string_view bytes, const ProjectReadContext& context);
 
 /// `LeggiProgetto`: reads the project file `path`.
-/// @throws ProjectFileFailure also for a missing file, a folder, or a file larger than kProjectSizeLimit
+/// @throws ProjectFileFailure also for a file that is missing, may not be read, is none, or is larger than
+///         kProjectSizeLimit; it names the file
 OpenedProject OpenProject(const std::filesystem::path& path, const ProjectReadContext& context);
 
 }  // namespace velmar::storage

@@ -5,6 +5,7 @@
 #include "storage/files/whole_file.h"
 #include "storage/project/common_part.h"
 #include "storage/project/family_parts.h"
+#include "storage/project/keyed_block.h"
 #include "storage/project/line_writer.h"
 
 namespace velmar::storage {
@@ -41,6 +42,7 @@ std::string WriteProject(const Setup& setup, const StoredCalculation& unknown) {
   WriteStoredCalculation(out, stored);
   if (const std::optional<PartLayout> layout = FindPartLayout(stored.family, stored.variant))
     WriteFamilyPart(out, setup, *layout);
+  WriteKeyedBlock(out, setup.further);
   return out.Bytes();
 }
 

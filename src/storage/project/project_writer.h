@@ -12,7 +12,8 @@ namespace velmar::storage {
 /// them; reading and writing again gives the same bytes once more.
 ///
 /// Line 1 is "VELMAR " and the program's version; lines 2 to 17 are the project information, 18 to 20 the
-/// calculation; then the family part, whose lines stand in the source of each family.
+/// calculation; then the family part, whose lines stand in the source of each family; then, when `setup`
+/// holds further values, their keyed block.
 ///
 /// @param unknown what stands in lines 18 to 20 when `setup` has no calculation: the texts of an opened file
 ///        whose calculation this program does not know. Its family part is written by the family's text; an

@@ -4,6 +4,7 @@
 
 #include <SQLiteCpp/Database.h>
 
+#include "foundation/utf8.h"
 #include "storage/database/connection.h"
 #include "storage/database/table_rows.h"
 
@@ -37,11 +38,13 @@ std::optional<SavedResult> ResultsStore::Find(ResultTable table, std::string_vie
 
 SaveStatus ResultsStore::Save(ResultTable table, const SavedResult& result) {
   if (result.name.empty()) return SaveStatus::kNoName;
+  if (IsBlank(result.name) || HoldsControlCharacter(result.name) || !IsUtf8(result.name))
+    return SaveStatus::kBadName;
   return ChangeDatabase(file_, [&](SQLite::Database& database) {
     TableRows rows(database, SchemaOf(table));
     if (rows.Find(result.name)) return SaveStatus::kNameExists;
     SavedResult row = result;
-    row.description = CutDescription(row.description);
+    row.description = CutDescription(WithReplacements(row.description));
     rows.Insert(CellsFromResult(table, row));
     return SaveStatus::kSaved;
   });

@@ -14,8 +14,9 @@ namespace velmar::storage {
 
 enum class SaveStatus {
   kSaved,
-  kNoName,     ///< nothing to tell: an empty name gives the saving up
-  kNameExists  ///< told with kResultExistsRow
+  kNoName,      ///< nothing to tell: an empty name gives the saving up
+  kBadName,     ///< told with kBadResultNameRow: the name shows nothing, holds a line break or is not UTF-8
+  kNameExists,  ///< told with kResultExistsRow
 };
 
 /// What the grid of the results window shows of a row.

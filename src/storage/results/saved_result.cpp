@@ -2,6 +2,8 @@
 
 #include <variant>
 
+#include "foundation/utf8.h"
+
 namespace velmar::storage {
 namespace {
 
@@ -48,26 +50,16 @@ void ForEachText(Result& result, Visit visit) {
   visit("Immagine", result.picture);
 }
 
-/// The place behind the first `count` characters.
-std::size_t EndOfCharacters(const std::string& text, std::size_t count) {
-  std::size_t characters = 0;
-  for (std::size_t i = 0; i < text.size(); ++i) {
-    const bool starts = (static_cast<unsigned char>(text[i]) & 0xC0U) != 0x80U;
-    if (starts && characters++ == count) return i;
-  }
-  return text.size();
-}
-
 }  // namespace
 
 std::string CutDescription(const std::string& description) {
-  return description.substr(0, EndOfCharacters(description, kDescriptionLength));
+  return FirstCharacters(description, kDescriptionLength);
 }
 
 std::string CutFacadeDescription(const std::string& description) {
-  if (EndOfCharacters(description, kDescriptionLength) == description.size()) return description;
+  if (CountCharacters(description) <= kDescriptionLength) return description;
   const std::string dots = "...";
-  return description.substr(0, EndOfCharacters(description, kDescriptionLength - dots.size())) + dots;
+  return FirstCharacters(description, kDescriptionLength - dots.size()) + dots;
 }
 
 TableSchema SchemaOf(ResultTable table) {

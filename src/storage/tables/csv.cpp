@@ -5,29 +5,10 @@
 
 #include "foundation/failure.h"
 #include "foundation/message_rows.h"
+#include "foundation/utf8.h"
 
 namespace velmar::storage {
 namespace {
-
-/// The bytes that follow the lead byte of a UTF-8 sequence; -1 when it leads none.
-int FollowingBytes(unsigned char lead) {
-  if (lead < 0x80) return 0;
-  if (lead >= 0xC2 && lead < 0xE0) return 1;
-  if (lead >= 0xE0 && lead < 0xF0) return 2;
-  if (lead >= 0xF0 && lead < 0xF5) return 3;
-  return -1;
-}
-
-bool IsUtf8(std::string_view text) {
-  for (size_t at = 0; at < text.size();) {
-    int following = FollowingBytes(static_cast<unsigned char>(text[at++]));
-    if (following < 0) return false;
-    for (; following > 0; --following, ++at) {
-      if (at >= text.size() || (static_cast<unsigned char>(text[at]) & 0xC0) != 0x80) return false;
-    }
-  }
-  return true;
-}
 
 Message ToldOf(const CsvFailure& failure) {
   const std::string line = " " + std::to_string(failure.Line());

@@ -73,5 +73,28 @@ TEST_F(StoredPartsTest, AFacadeRefusesWhatIsNotThereAndSavesNothing) {
   EXPECT_FALSE(std::filesystem::exists(out));
 }
 
+/// Levels and improvements are no sound reduction indices, and a small element has no area to be the wall.
+TEST_F(StoredPartsTest, AFacadeRefusesMeasurementsOfAnotherKind) {
+  const std::string out = (folder_ / "facade.drav").string();
+  const auto first_of = [this](const std::string& kind) {
+    const std::string series = Say({"library", "list", kind, "--json"}).Json().at(0)["series"];
+    const std::string test = Say({"library", "list", kind, series, "--json"}).Json().at(0)["name"];
+    return "library:" + kind + "/" + series + "/" + test;
+  };
+  for (const char* kind : {"Lnw", "DLw", "DRw"}) {
+    const std::string where = std::string("library:") + kind + "/serie/prova";
+    EXPECT_EQ(Say({"facade", Example("facciata"), out, "--opaque", where}).errors,
+              "row 1222 " + where + "\n");
+    EXPECT_EQ(Say({"facade", Example("facciata"), out, "--component", "1=" + where}).code, 3) << kind;
+  }
+  const std::string small = first_of("Piccoli elementi");
+  const Said opaque = Say({"facade", Example("facciata"), out, "--opaque", small});
+  EXPECT_EQ(opaque.code, 3);
+  EXPECT_EQ(opaque.errors, "row 1222 " + small + "\n");
+  EXPECT_FALSE(std::filesystem::exists(out));
+  EXPECT_EQ(Say({"facade", Example("facciata"), out, "--component", "1=" + small}).code, 0);
+  EXPECT_EQ(Say({"facade", Example("facciata"), out, "--opaque", first_of("Rw")}).code, 0);
+}
+
 }  // namespace
 }  // namespace velmar::cli

@@ -98,6 +98,88 @@ TEST_F(ProgramTest, WithoutAPlaceForTheDataFolderTheShippedDataServe) {
   EXPECT_FALSE(said.out.empty());
 }
 
+TEST_F(ProgramTest, AMistypedOrRelativeDataFolderIsNotMade) {
+  const Said mistyped = Shell("cd \"$HOME\"; velmar --data Docments/VELMARpro materials list");
+  EXPECT_EQ(mistyped.code, 1);
+  EXPECT_TRUE(Holds(mistyped.errors, "Docments/VELMARpro")) << mistyped.errors;
+  EXPECT_EQ(mistyped.out, "");
+  EXPECT_TRUE(fs::is_empty(Data().parent_path().parent_path()));
+  Configure("CartellaDati=dati");
+  EXPECT_EQ(Shell("cd \"$HOME\"; velmar materials list").code, 1);
+  EXPECT_TRUE(fs::is_empty(Data().parent_path().parent_path()));
+  EXPECT_EQ(Shell("cd \"$HOME\"; velmar doctor --repair").code, 0);
+  EXPECT_EQ(Shell("cd \"$HOME\"; velmar materials list").code, 0) << "where it stands it is used";
+}
+
+TEST_F(ProgramTest, AWorkingFolderThatIsGoneEndsInACode) {
+  Start();
+  for (const char* command : {"velmar materials list", "velmar run a.drav", "velmar save a.drav b.drav",
+                              "velmar --data dati materials list", "velmar report a.drav --csv b.csv",
+                              "velmar import a.mdb", "velmar doctor"}) {
+    const Said said =
+        Shell("mkdir \"$HOME/gone\"; cd \"$HOME/gone\"; rmdir \"$HOME/gone\"; " + std::string(command));
+    EXPECT_LE(said.code, 3) << command << ": " << said.errors;
+    EXPECT_FALSE(Holds(said.errors, "terminate")) << command << ": " << said.errors;
+  }
+}
+
+TEST_F(ProgramTest, OutputToAFullDeviceIsAFailure) {
+  Start();
+  const std::string project = cli::Quoted(Example("parete-forato-intonacata"));
+  for (const std::string& command : {std::string("catalogue"), std::string("materials list --json"),
+                                     "run " + project, std::string("--help")}) {
+    EXPECT_EQ(Shell("velmar " + command + " > /dev/full").code, 1) << command;
+  }
+}
+
+/// No display, no session: nothing is said of either.
+TEST_F(ProgramTest, RunsWithoutASession) {
+  Start();
+  const std::string bare = "unset DISPLAY WAYLAND_DISPLAY XDG_RUNTIME_DIR QT_QPA_PLATFORM; velmar ";
+  const std::string project = cli::Quoted(Example("parete-forato-intonacata"));
+  EXPECT_EQ(Shell(bare + "run " + project).errors, "");
+  const Said report = Shell(bare + "report " + project + " --csv \"$HOME/a.csv\"");
+  EXPECT_EQ(report.code, 0);
+  EXPECT_EQ(report.errors, "");
+}
+
+TEST_F(ProgramTest, ABrokenTextOfTheCatalogueEndsNoCommand) {
+  Start();
+  WriteFile(FileOf(storage::kMessageDatabase),
+            ReadFile(fs::path(DAMAGED_DATABASES) / "line-break-in-texts-messages.mdb"));
+  for (const char* command : {"velmar --help", "velmar catalogue", "velmar materials list"})
+    EXPECT_EQ(Shell(command).code, 0) << command;
+  EXPECT_TRUE(Holds(Shell("velmar --help").out, "Opzioni"));
+}
+
+TEST_F(ProgramTest, ADamagedMaterialTableEndsNoCommandByASignal) {
+  Start();
+  const std::string project = cli::Quoted(Example("doppia-forati-lana"));
+  for (const char* name : {"pages-swapped-materials.mdb", "row-deleted-past-its-index-materials.mdb"}) {
+    WriteFile(FileOf(storage::kMaterialDatabase), ReadFile(fs::path(DAMAGED_DATABASES) / name));
+    for (const std::string& command : {"run " + project, std::string("materials show 'Mattone pieno'"),
+                                       std::string("materials list --json"),
+                                       std::string("materials delete --family structural 'Mattone pieno'"),
+                                       std::string("materials export --family structural")}) {
+      const Said said = Shell("velmar " + command);
+      EXPECT_LE(said.code, 3) << name << ' ' << command << ": " << said.errors;
+    }
+  }
+}
+
+TEST_F(ProgramTest, TheDoctorWorksWhereNothingElseDoes) {
+  Start();
+  WriteFile(FileOf(storage::kMessageDatabase), "damaged");
+  WriteFile(FileOf(storage::kMaterialDatabase), "damaged");
+  EXPECT_EQ(Shell("velmar catalogue").code, 1);
+  const Said found = Shell("velmar doctor");
+  EXPECT_EQ(found.code, 1);
+  EXPECT_TRUE(Holds(found.out, "danneggiato")) << found.out;
+  EXPECT_EQ(Shell("velmar doctor --repair").code, 0);
+  EXPECT_EQ(Shell("velmar doctor").code, 0);
+  EXPECT_EQ(Shell("velmar catalogue").code, 0);
+}
+
 TEST_F(ProgramTest, AWrongLanguageIsToldInBothLanguages) {
   Configure("Lingua=Klingon");
   const Said said = Shell("velmar catalogue");

@@ -45,7 +45,6 @@ TEST_F(FirstStartTest, NeverTouchesAFolderThatIsThere) {
 TEST_F(FirstStartTest, RemovesWhatAnEarlierOneLeftUnfinished) {
   const fs::path abandoned = data_.parent_path() / ".velmar-1-2.tmp";
   WriteFile(abandoned / "Databases/InterfMess.mdb", "half");
-  fs::last_write_time(abandoned, fs::file_time_type::clock::now() - std::chrono::hours(2));
   PrepareDataFolder(data_, shipped_);
   EXPECT_FALSE(fs::exists(abandoned));
 }
@@ -67,6 +66,22 @@ TEST_F(FirstStartTest, AFailureHasWordsAndLeavesNothing) {
   }
   EXPECT_THROW(PrepareDataFolder(folder_ / "other", folder_ / "no share"), Failure);
   EXPECT_FALSE(fs::exists(folder_ / "other"));
+}
+
+/// The reason is said in both languages, and only what it is.
+TEST_F(FirstStartTest, AFailureNamesItsReason) {
+  WriteFile(folder_ / "home/Documenti", "a file where a folder is due");
+  try {
+    PrepareDataFolder(data_, shipped_);
+    FAIL();
+  } catch (const Failure& failure) {
+    std::string said;
+    for (const MessageLine& line : failure.UserMessage()) said += std::get<std::string>(line.at(0)) + "\n";
+    EXPECT_NE(said.find("non esiste"), std::string::npos) << said;
+    EXPECT_NE(said.find("does not exist"), std::string::npos) << said;
+    EXPECT_EQ(said.find("permessi"), std::string::npos) << said;
+    EXPECT_EQ(said.find("filesystem error"), std::string::npos) << said;
+  }
 }
 
 TEST_F(FirstStartTest, RestoresAFileOnlyWhenAskedAndMissing) {

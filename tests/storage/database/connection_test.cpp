@@ -1,9 +1,12 @@
 #include "storage/database/connection.h"
 
+#include <csignal>
+
 #include <SQLiteCpp/Database.h>
 #include <SQLiteCpp/Transaction.h>
 #include <gtest/gtest.h>
 #include <sqlite3.h>
+#include <sys/resource.h>
 
 #include "storage/database/database_failure.h"
 #include "tests/storage/support/databases.h"
@@ -59,7 +62,7 @@ TEST_F(ConnectionTest, TellsEveryKindOfUnusableFile) {
   EXPECT_EQ(ProblemOfReading(folder_ / "text.mdb"), DatabaseProblem::kDamaged);
   EXPECT_EQ(ProblemOfReading(folder_ / "head.mdb"), DatabaseProblem::kDamaged);
   EXPECT_EQ(ProblemOfReading(folder_ / "access.mdb"), DatabaseProblem::kAccessFormat);
-  EXPECT_EQ(ProblemOfReading(folder_.Path()), DatabaseProblem::kDamaged);
+  EXPECT_EQ(ProblemOfReading(folder_.Path()), DatabaseProblem::kNoFile);
   EXPECT_FALSE(fs::exists(folder_ / "none.mdb")) << "reading makes no file";
   EXPECT_EQ(ReadFile(folder_ / "text.mdb"), "Caro diario");
 }
@@ -116,7 +119,51 @@ TEST_F(ConnectionTest, TellsAFileThatAnotherProgramHolds) {
   SQLite::Database other(file_.string(), SQLite::OPEN_READWRITE);
   other.exec("BEGIN EXCLUSIVE");
   EXPECT_EQ(ProblemOfChanging(file_, "DELETE FROM t"), DatabaseProblem::kLocked);
+  EXPECT_EQ(ProblemOfReading(file_), DatabaseProblem::kLocked);
   other.exec("ROLLBACK");
+  EXPECT_EQ(Count(), 1);
+}
+
+/// A file that is held is waited for once: whoever asks again is refused at once, also when it is free by
+/// then.
+TEST_F(ConnectionTest, ALockEndsAReadingOfManyQuestions) {
+  const auto count = [](SQLite::Database& database) {
+    return database.execAndGet("SELECT count(*) FROM t").getInt();
+  };
+  SQLite::Database other(file_.string(), SQLite::OPEN_READWRITE);
+  other.exec("BEGIN EXCLUSIVE");
+  DatabaseReading reading(file_);
+  EXPECT_THROW(reading.Read(count), DatabaseFailure);
+  other.exec("ROLLBACK");
+  EXPECT_THROW(reading.Read(count), DatabaseFailure);
+  EXPECT_EQ(DatabaseReading(file_).Read(count), 1);
+}
+
+/// What is wrong with one row says nothing of the next.
+TEST_F(ConnectionTest, AReadingGoesOnBehindADamagedRow) {
+  DatabaseReading reading(file_);
+  EXPECT_THROW(reading.With([&](SQLite::Database&) {
+    throw DatabaseFailure(DatabaseProblem::kDamaged, file_, "row 7 is missing");
+  }),
+               DatabaseFailure);
+  EXPECT_EQ(reading.Read([](SQLite::Database& database) {
+    return database.execAndGet("SELECT count(*) FROM t").getInt();
+  }),
+            1);
+}
+
+/// A limit on the size of files takes the place of a full disk.
+TEST_F(ConnectionTest, AFullDiskIsNotBlamedOnPermissions) {
+  rlimit before{};
+  ASSERT_EQ(::getrlimit(RLIMIT_FSIZE, &before), 0);
+  const auto handler = std::signal(SIGXFSZ, SIG_IGN);
+  rlimit small = before;
+  small.rlim_cur = 100;
+  ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &small), 0);
+  const DatabaseProblem problem = ProblemOfChanging(file_, "INSERT INTO t VALUES (zeroblob(100000))");
+  ::setrlimit(RLIMIT_FSIZE, &before);
+  std::signal(SIGXFSZ, handler);
+  EXPECT_TRUE(problem == DatabaseProblem::kDiskFull || problem == DatabaseProblem::kNotChanged);
   EXPECT_EQ(Count(), 1);
 }
 

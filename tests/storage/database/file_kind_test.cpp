@@ -24,7 +24,7 @@ TEST(FileKind, IsToldByTheFirstBytesWhateverTheName) {
     EXPECT_EQ(KindOf(folder / "a.mdb"), test.kind) << test.bytes;
   }
   EXPECT_EQ(KindOf(folder / "none.mdb"), FileKind::kMissing);
-  EXPECT_EQ(KindOf(folder.Path()), FileKind::kOther);
+  EXPECT_EQ(KindOf(folder.Path()), FileKind::kNoFile);
 }
 
 }  // namespace

@@ -1,6 +1,8 @@
 #include "storage/database/table_rows.h"
 
+#include <SQLiteCpp/Column.h>
 #include <SQLiteCpp/Database.h>
+#include <SQLiteCpp/Statement.h>
 #include <gtest/gtest.h>
 
 #include "storage/database/connection.h"
@@ -53,6 +55,54 @@ TEST_F(TableRowsTest, TakeForeignTypesForWhatTheyStandFor) {
   const std::vector<StoredRow> rows = All();
   EXPECT_EQ(rows[0].cells, (std::vector<Cell>{Cell{"12"}, Cell{12.5}, Cell{}, Cell{true}}));
   EXPECT_EQ(rows[1].cells, (std::vector<Cell>{Cell{"1.5"}, Cell{}, Cell{}, Cell{true}}));
+}
+
+/// A column of the file may have the name under which SQL gives the number of a row.
+TEST_F(TableRowsTest, ReadATableWithAColumnNamedRowid) {
+  Execute(file_, {"CREATE TABLE Prova (Nome TEXT, rowid TEXT, OID INTEGER)",
+                  "INSERT INTO Prova VALUES ('a', 'x', 7), ('b', 'y', 7), ('è', 'z', 7)"});
+  EXPECT_EQ(All().size(), 3U);
+  EXPECT_EQ(Found("B"), "b");
+  EXPECT_EQ(Found("È"), "è");
+  ChangeDatabaseWith(file_, [](SQLite::Database& database) {
+    TableRows table(database, kSchema);
+    table.Delete(*table.FindExactly("a"));
+    StoredRow row = table.Find("b").value();
+    row.cells[0] = std::string("c");
+    table.Update(row);
+  });
+  EXPECT_EQ(Found("a"), "-");
+  EXPECT_EQ(Found("c"), "c");
+}
+
+TEST_F(TableRowsTest, RefuseATableWhoseColumnsHideTheRowNumber) {
+  Execute(file_, {"CREATE TABLE Prova (Nome TEXT, rowid TEXT, oid TEXT, _rowid_ TEXT)"});
+  EXPECT_THROW(All(), DatabaseFailure);
+}
+
+/// Whatever is asked of a damaged file, the answer is a row, none, or a failure that calls it damaged.
+TEST_F(TableRowsTest, ADamagedFileEndsInAFailure) {
+  for (const char* name : {"pages-swapped-materials.mdb", "row-deleted-past-its-index-materials.mdb"}) {
+    std::filesystem::copy_file(std::filesystem::path(DAMAGED_DATABASES) / name, file_,
+                               std::filesystem::copy_options::overwrite_existing);
+    int damaged = 0;
+    std::vector<std::string> names = {"Mattone pieno", "mattone PIENO", "nessuno", "È"};
+    ReadDatabaseWith(file_, [&](SQLite::Database& database) {
+      SQLite::Statement query(database, "SELECT Materiale FROM Modulo_A1 NOT INDEXED");
+      while (query.executeStep()) names.push_back(query.getColumn(0).getString());
+    });
+    for (const std::string& asked : names) {
+      try {
+        ReadDatabaseWith(file_, [&](SQLite::Database& database) {
+          TableRows(database, StructuralMaterialTable()).Find(asked);
+        });
+      } catch (const DatabaseFailure& failure) {
+        EXPECT_EQ(failure.Problem(), DatabaseProblem::kDamaged);
+        ++damaged;
+      }
+    }
+    EXPECT_GT(damaged, 0) << name;
+  }
 }
 
 TEST_F(TableRowsTest, LeaveUnknownColumnsAloneAndPassOverMissingOnes) {

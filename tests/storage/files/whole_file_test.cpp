@@ -1,9 +1,12 @@
 #include "storage/files/whole_file.h"
 
+#include <cerrno>
 #include <csignal>
 #include <fstream>
 #include <iterator>
 #include <optional>
+#include <string>
+#include <vector>
 
 #include <gtest/gtest.h>
 #include <sys/resource.h>
@@ -12,6 +15,8 @@
 
 #include "foundation/message_rows.h"
 #include "storage/files/store_failure.h"
+#include "tests/storage/support/ordinary_user.h"
+#include "tests/storage/support/temporary_folder.h"
 
 namespace velmar::storage {
 namespace {
@@ -92,7 +97,7 @@ TEST_F(WholeFileTest, FollowsLinks) {
   EXPECT_EQ(Content(At("not-yet")), "made");
 
   fs::create_symlink("loop", At("loop"));
-  EXPECT_EQ(WriteFailure(At("loop")), StoreReason::kSystem);
+  EXPECT_EQ(WriteFailure(At("loop")), StoreReason::kLinkLoop);
 }
 
 TEST_F(WholeFileTest, WritesIntoTheCurrentFolder) {
@@ -146,6 +151,42 @@ TEST_F(WholeFileTest, AFullDiskLeavesTheOldFileAndNothingElse) {
   EXPECT_EQ(reason, StoreReason::kDiskFull);
   EXPECT_EQ(Content(At("a")), "old");
   EXPECT_EQ(FileCount(), 1U);
+}
+
+/// The rows of what a failed write tells.
+std::vector<int> RowsToldOf(const fs::path& path) {
+  try {
+    WriteWhole(path, "new");
+  } catch (const StoreFailure& failure) {
+    std::vector<int> rows;
+    for (const MessageLine& line : failure.UserMessage()) rows.push_back(LeadingRow(line).number);
+    return rows;
+  }
+  return {};
+}
+
+TEST(WriteWhole, SpeaksOfAFileBeforeOnlyWhereThereWasOne) {
+  const OrdinaryUser user;
+  const TemporaryFolder folder;
+  WriteWhole(folder / "old", "old");
+  fs::permissions(folder.Path(), fs::perms::owner_read | fs::perms::owner_exec);
+  EXPECT_EQ(RowsToldOf(folder / "old"), (std::vector<int>{1133, 1136, 1165}));
+  EXPECT_EQ(RowsToldOf(folder / "new"), (std::vector<int>{1133, 1136}));
+  fs::permissions(folder.Path(), fs::perms::owner_all);
+}
+
+TEST(StoreFailure, TellsWhatTheSystemSaysWithoutItsEnglish) {
+  const struct {
+    int error;
+    int row;
+  } cases[] = {{ENOSPC, 1137}, {EDQUOT, 1137}, {EACCES, 1136}, {EROFS, 1136},  {ELOOP, 1166},
+               {EIO, 1169},    {EMFILE, 1170}, {EBUSY, 1168},  {EISDIR, 1135}, {ENAMETOOLONG, 1167}};
+  for (const auto& test : cases) {
+    const StoreFailure failure(StoreAction::kWrite, test.error, "a", PreviousFile::kNone);
+    EXPECT_EQ(failure.UserMessage().at(1), MessageLine{MessageRow{test.row}}) << test.error;
+  }
+  const StoreFailure other(StoreAction::kRead, EOVERFLOW, "a", PreviousFile::kNone);
+  EXPECT_EQ(other.UserMessage().at(1), (MessageLine{MessageRow{1139}, " " + std::to_string(EOVERFLOW)}));
 }
 
 TEST_F(WholeFileTest, ReadsNothingAboveItsLimit) {

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "foundation/utf8.h"
+
 namespace velmar::storage {
 namespace {
 
@@ -54,15 +56,6 @@ INSTANTIATE_TEST_SUITE_P(Characters, NearestTest,
                                          Pair{"\xC2\x80", "?"},  // the control character, not the euro sign
                                          Pair{"a\xFF", "a?"}, Pair{"\xE2\x82", "??"}, Pair{"\xC0\x80", "??"},
                                          Pair{"\xED\xA0\x80", "???"}));  // bytes that are not UTF-8
-
-TEST(IsUtf8, KnowsWhatIsNot) {
-  EXPECT_TRUE(IsUtf8(""));
-  EXPECT_TRUE(IsUtf8("é€😀"));
-  for (const char* text : {"\x80", "\xC1\xBF", "\xE0\x80\x80", "\xED\xA0\x80", "\xF0\x80\x80\x80",
-                           "\xF4\x90\x80\x80", "\xF5\x80\x80\x80", "\xE2\x82", "a\xE9"}) {
-    EXPECT_FALSE(IsUtf8(text)) << testing::PrintToString(text);
-  }
-}
 
 }  // namespace
 }  // namespace velmar::storage

@@ -1,5 +1,6 @@
 #include "storage/materials/material_store.h"
 
+#include <SQLiteCpp/Database.h>
 #include <gtest/gtest.h>
 
 #include "storage/database/database_failure.h"
@@ -119,6 +120,20 @@ TEST_F(MaterialStoreTest, GivesSetUpsTheirLookUps) {
   EXPECT_FALSE(lookup.structural("altro"));
   EXPECT_FALSE(lookup.fibrous("Mattone"));
   EXPECT_FALSE(lookup.resilient("Mattone"));
+}
+
+/// A set-up of many layers asks many times: a file that another program holds is waited for once.
+TEST_F(MaterialStoreTest, LookUpsOfOneOperationStopAtTheFirstLock) {
+  const elements::MaterialLookup each = MaterialLookupIn(store_.File());
+  SQLite::Database other(store_.File().string(), SQLite::OPEN_READWRITE);
+  other.exec("BEGIN EXCLUSIVE");
+  const elements::MaterialLookup once = elements::ForOneOperation(each);
+  EXPECT_THROW(once.structural("a"), DatabaseFailure);
+  other.exec("ROLLBACK");
+  EXPECT_THROW(once.structural("a"), DatabaseFailure) << "not tried again";
+  EXPECT_THROW(once.fibrous("a"), DatabaseFailure) << "in no table";
+  EXPECT_NO_THROW(each.structural("a"));
+  EXPECT_NO_THROW(elements::ForOneOperation(each).structural("a"));
 }
 
 }  // namespace

@@ -226,6 +226,19 @@ std::string RandomSource::Text() {
   return text;
 }
 
+elements::KeyedValues RandomKeyedValues(RandomSource& random) {
+  constexpr std::array<const char*, 12> kPieces = {"x",  " ", "\\",      "\n", "\r", "€",
+                                                   "漢", "😀", "e\u0300", "\t", "=",  "\\u{41}"};
+  elements::KeyedValues values;
+  for (int count = random.Below(6); count > 0; --count) {
+    std::string text;
+    for (int pieces = random.Below(8); pieces > 0; --pieces)
+      text += kPieces.at(static_cast<std::size_t>(random.Below(static_cast<int>(kPieces.size()))));
+    values.Set<std::string>({"nome." + std::to_string(random.Below(100))}, text);
+  }
+  return values;
+}
+
 Setup RandomSetup(Calculation calculation, RandomSource& random) {
   Setup setup;
   setup.calculation = calculation;
@@ -242,6 +255,7 @@ Setup RandomSetup(Calculation calculation, RandomSource& random) {
     setup.height_text = random.Text();
   }
   FillFamily(setup, family, random);
+  setup.further = RandomKeyedValues(random);
   return setup;
 }
 

@@ -25,6 +25,9 @@ class RandomSource {
   std::mt19937_64 engine_;
 };
 
+/// None to five values under random names, of any characters.
+elements::KeyedValues RandomKeyedValues(RandomSource& random);
+
 /// A set-up for `calculation` in which everything the project file holds is random, and the rest is as in a
 /// new set-up: reading the file again must give the same.
 elements::Setup RandomSetup(elements::Calculation calculation, RandomSource& random);

@@ -10,6 +10,7 @@
 #include "storage/project/project_reader.h"
 #include "storage/project/project_writer.h"
 #include "tests/storage/project/sample_setup.h"
+#include "tests/storage/support/ordinary_user.h"
 
 namespace velmar::storage {
 namespace {
@@ -57,12 +58,35 @@ TEST_F(SaveProjectTest, AMissingFileIsSaidInItsOwnWords) {
   EXPECT_EQ(FailureOf(folder_ / "none.drav"), (Message{{std::string(kProjectMissing)}}));
 }
 
-TEST_F(SaveProjectTest, AFolderAndAHugeFileAreRefused) {
+/// Nothing is said of damage where nothing could be read.
+TEST_F(SaveProjectTest, WhatCannotBeReadIsNotCalledDamaged) {
   const Message folder = FailureOf(folder_);
   ASSERT_EQ(folder.size(), 2U);
-  EXPECT_EQ(LeadingRow(folder[0]), kProjectDamagedRow);
+  EXPECT_EQ(folder[0], (MessageLine{MessageRow{1132}, " " + folder_.string()}));
   EXPECT_EQ(LeadingRow(folder[1]), MessageRow{1135});
 
+  fs::create_symlink(folder_ / "loop.drav", folder_ / "loop.drav");
+  EXPECT_EQ(LeadingRow(FailureOf(folder_ / "loop.drav").at(1)), MessageRow{1166});
+
+  const fs::path secret = folder_ / "secret.drav";
+  SaveProject(secret, SampleSetup(kCeilingSea));
+  fs::permissions(secret, fs::perms::none);
+  const OrdinaryUser user;
+  const Message refused = FailureOf(secret);
+  EXPECT_EQ(LeadingRow(refused.at(0)), MessageRow{1132});
+  EXPECT_EQ(LeadingRow(refused.at(1)), MessageRow{1136});
+}
+
+TEST_F(SaveProjectTest, ADamagedProjectIsNamed) {
+  std::ofstream(folder_ / "a.drav") << "VELMAR 2.0.0\r\n";
+  const Message damaged = FailureOf(folder_ / "a.drav");
+  ASSERT_EQ(damaged.size(), 2U);
+  EXPECT_EQ(LeadingRow(damaged[0]), kProjectDamagedRow);
+  EXPECT_EQ(LeadingRow(damaged[1]), MessageRow{1120});
+  EXPECT_EQ(damaged[1].back(), MessagePiece("\n" + (folder_ / "a.drav").string()));
+}
+
+TEST_F(SaveProjectTest, AHugeFileIsRefused) {
   const fs::path huge = folder_ / "huge.drav";
   std::ofstream(huge).put('x');
   fs::resize_file(huge, std::uintmax_t{100} << 20);

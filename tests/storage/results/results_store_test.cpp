@@ -55,6 +55,29 @@ TEST_F(ResultsStoreTest, AnEmptyNameSavesNothing) {
   EXPECT_EQ(Names(), "");
 }
 
+/// Lists and tables show a name in one line, and look-ups ask for it.
+TEST_F(ResultsStoreTest, ANameThatCannotBeShownSavesNothing) {
+  for (const char* name : {" ", "\t", "\u00A0", "Parete\nest", "Parete\r", "a\x01", "citt\xE0"}) {
+    EXPECT_EQ(store_.Save(ResultTable::kAirborne, Wall(name)), SaveStatus::kBadName)
+        << testing::PrintToString(name);
+  }
+  EXPECT_EQ(Names(), "");
+}
+
+TEST_F(ResultsStoreTest, ATableWithAColumnNamedRowidIsReadAndChanged) {
+  std::filesystem::copy_file(std::filesystem::path(DAMAGED_DATABASES) / "own-rowid-column-results.mdb", file_,
+                             std::filesystem::copy_options::overwrite_existing);
+  for (const ResultTable table : {ResultTable::kAirborne, ResultTable::kImpact, ResultTable::kLining}) {
+    const auto listed = store_.List(table);
+    ASSERT_FALSE(listed.empty());
+    for (const ListedResult& result : listed) EXPECT_TRUE(store_.Find(table, result.name)) << result.name;
+    EXPECT_EQ(store_.Save(table, Wall("Nuovo")), SaveStatus::kSaved);
+    EXPECT_TRUE(store_.Delete(table, listed.front().name));
+    EXPECT_EQ(store_.List(table).size(), listed.size());
+    EXPECT_FALSE(store_.Find(table, listed.front().name));
+  }
+}
+
 TEST_F(ResultsStoreTest, ALongDescriptionIsStoredCut) {
   SavedResult wall = Wall("a");
   wall.description.assign(300, 'x');
