@@ -62,7 +62,7 @@ ExitCode Execute(const ModelsCommand& command, const Services& services, std::os
       models.push_back(OpinionJson(model, opinion.kind, services.words));
     nlohmann::json json = {{"calculation", run.texts.variant}, {"models", std::move(models)}};
     if (opinion.note) json["note"] = presentation::InWords(NoteLines(*opinion.note).front(), services.words);
-    out << json.dump() << '\n';
+    WriteJson(json, out);
   } else {
     for (const ModelOpinion& model : opinion.models) WriteOpinion(model, services.words, out);
     if (opinion.note) WriteMessage(NoteLines(*opinion.note), services.words, out);

@@ -7,6 +7,7 @@
 
 #include <nlohmann/json.hpp>
 
+#include "cli/output/outcome_json.h"
 #include "foundation/decimal.h"
 #include "foundation/message_rows.h"
 #include "storage/validation/measured_data.h"
@@ -118,7 +119,7 @@ ExitCode Execute(const ValidateCommand& command, const Services& services, std::
     const elements::MeasuredData data = storage::ReadMeasuredData(services.validation_folder);
     const validation::PredictionOutcome outcome = validation::PredictWithAllModels(data);
     if (command.json) {
-      out << ValidationJson(data, outcome).dump() << '\n';
+      WriteJson(ValidationJson(data, outcome), out);
     } else {
       WriteTable(data, outcome, services.words, out);
     }
