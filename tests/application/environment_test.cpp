@@ -61,7 +61,7 @@ TEST_F(EnvironmentTest, AMistypedFolderIsNotMade) {
   }
   EXPECT_FALSE(fs::exists(mistyped));
   const Environment mending = OpenEnvironmentForMending(mistyped);
-  EXPECT_EQ(mending.messages.Text(kMenuRow), "Esci");
+  EXPECT_EQ(mending.messages.Text(kExitMenuRow), "Esci");
   EXPECT_FALSE(fs::exists(mistyped));
 }
 
@@ -132,7 +132,7 @@ TEST_F(EnvironmentTest, BrokenTextsAreHelpedOutByTheShippedOnes) {
   WriteFile(Catalogue(), storage::ReadFile(fs::path(DAMAGED_DATABASES) / "line-break-in-texts-messages.mdb"));
   RecordedTalk recorded;
   OpenCatalogue(environment, recorded.talk);
-  EXPECT_EQ(environment.messages.Text(kMenuRow), "Esci");
+  EXPECT_EQ(environment.messages.Text(kExitMenuRow), "Esci");
   EXPECT_EQ(environment.messages.Text(MessageRow{1231}), "Opzioni");
 }
 

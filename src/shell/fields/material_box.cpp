@@ -98,12 +98,6 @@ void MaterialBox::OfferHits(const QString& typed) {
   completer()->complete();
 }
 
-bool MaterialBox::event(QEvent* event) {
-  if (event->type() != PutMaterialEvent::Kind()) return QuietBox::event(event);
-  event->setAccepted(Put(static_cast<PutMaterialEvent*>(event)->Material()));
-  return true;
-}
-
 void MaterialBox::focusInEvent(QFocusEvent* event) {
   QuietBox::focusInEvent(event);
   if (completer() == nullptr) {
@@ -125,6 +119,10 @@ void MaterialBox::focusOutEvent(QFocusEvent* event) {
 }
 
 bool MaterialBox::event(QEvent* event) {
+  if (event->type() == PutMaterialEvent::Kind()) {
+    event->setAccepted(Put(static_cast<PutMaterialEvent*>(event)->Material()));
+    return true;
+  }
   // Tab would leave a text that means nothing behind.
   if (event->type() == QEvent::KeyPress) {
     const int key = static_cast<QKeyEvent*>(event)->key();
