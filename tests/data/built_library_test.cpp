@@ -115,7 +115,9 @@ TEST(Library, EveryRatingFollowsFromItsBands) {
     if (check.basis == storage::RatingBasis::kNone) return;
     EXPECT_FALSE(check.differs) << test.name << ": " << *test.rating << " stated, " << *check.rating;
     EXPECT_TRUE(test.rating) << test.name;
-    if (test.other_adaptation) EXPECT_EQ(check.adaptation, test.adaptation) << test.name;
+    if (test.other_adaptation) {
+      EXPECT_EQ(check.adaptation, test.adaptation) << test.name;
+    }
     (check.basis == storage::RatingBasis::kThirds ? of_thirds : of_octaves) += 1;
   });
   EXPECT_EQ(of_thirds, 19);
@@ -134,7 +136,9 @@ TEST(Library, NoConstructionStandsTwiceAndNoneSaysNothing) {
     for (const auto& octave : test.octaves) {
       if (octave) bands.push_back(*octave);
     }
-    if (!bands.empty()) EXPECT_TRUE(spectra.insert(bands).second) << test.name;
+    if (!bands.empty()) {
+      EXPECT_TRUE(spectra.insert(bands).second) << test.name;
+    }
     EXPECT_TRUE(!bands.empty() || test.rating || test.index_value) << test.name;
     if (!test.index_kind.empty()) {
       EXPECT_THAT(storage::kIndexKinds, testing::Contains(test.index_kind)) << test.name;
