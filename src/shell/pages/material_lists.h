@@ -8,6 +8,7 @@
 
 #include "elements/layer_groups.h"
 #include "materials/keywords.h"
+#include "presentation/texts/words.h"
 #include "shell/fields/material_change.h"
 #include "shell/pages/page_services.h"
 

@@ -13,6 +13,7 @@
 #include <QTimer>
 #include <filesystem>
 
+#include "shell/start/desktop_application.h"
 #include "storage/configuration/configuration.h"
 #include "tests/storage/support/temporary_folder.h"
 
@@ -47,7 +48,7 @@ struct Start {
     QTimer driver;
     QObject::connect(&driver, &QTimer::timeout, [this] { Drive(); });
     driver.start(10);
-    code = RunDesktop(*qApp);
+    code = RunDesktop(static_cast<DesktopApplication&>(*qApp));
   }
 
   QStringList boxes;    ///< what was asked and told, in order
@@ -209,5 +210,10 @@ class StartUpTest : public QObject {
 
 }  // namespace velmar::shell
 
-QTEST_MAIN(velmar::shell::StartUpTest)
+int main(int argc, char** argv) {
+  velmar::shell::DesktopApplication application(argc, argv);
+  velmar::shell::StartUpTest test;
+  return QTest::qExec(&test, argc, argv);
+}
+
 #include "start_up_test.moc"
