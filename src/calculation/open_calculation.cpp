@@ -2,6 +2,24 @@
 
 namespace velmar::calculation {
 
+void OpenCalculation::Take(elements::Setup changed, bool keep_result) {
+  history_.Note(setup_, changed);
+  setup_ = std::move(changed);
+  AfterChange(keep_result);
+}
+
+void OpenCalculation::Undo() {
+  if (!history_.ToUndo()) return;
+  setup_ = history_.Undo(setup_);
+  AfterChange(/*keep_result=*/false);
+}
+
+void OpenCalculation::Redo() {
+  if (!history_.ToRedo()) return;
+  setup_ = history_.Redo(setup_);
+  AfterChange(/*keep_result=*/false);
+}
+
 void OpenCalculation::AfterChange(bool keep_result) {
   if (!keep_result) result_.reset();
   totals_ = ComputeTotals(setup_);
@@ -12,6 +30,7 @@ void OpenCalculation::AfterChange(bool keep_result) {
 
 void OpenCalculation::Replace(elements::Setup setup) {
   setup_ = std::move(setup);
+  history_.Clear();
   result_.reset();
   totals_ = ComputeTotals(setup_);
   is_saved_ = true;

@@ -4,6 +4,7 @@
 #include <optional>
 #include <utility>
 
+#include "calculation/history.h"
 #include "calculation/run.h"
 #include "calculation/totals.h"
 #include "elements/result_set.h"
@@ -23,19 +24,30 @@ class OpenCalculation {
   /// `InputTouched`: there was an input since the last run.
   bool IsTouched() const { return is_touched_; }
 
-  /// The way to change the set-up. Drops the result (`Nuovo_modifica`(1)), then tells the listener.
+  /// The way to change the set-up. Drops the result (`Nuovo_modifica`(1)), then tells the listener. A change
+  /// that throws leaves everything as it was.
   template <typename Change>
   void Edit(Change&& change) {
-    std::forward<Change>(change)(setup_);
-    AfterChange(/*keep_result=*/false);
+    elements::Setup changed = setup_;
+    std::forward<Change>(change)(changed);
+    Take(std::move(changed), /*keep_result=*/false);
   }
 
   /// The exception: what no result depends on, the project's information and the description of an element.
   template <typename Change>
   void EditKeepingResult(Change&& change) {
-    std::forward<Change>(change)(setup_);
-    AfterChange(/*keep_result=*/true);
+    elements::Setup changed = setup_;
+    std::forward<Change>(change)(changed);
+    Take(std::move(changed), /*keep_result=*/true);
   }
+
+  /// The steps back and forth through what the set-up has been since the project was begun or opened.
+  const History& Steps() const { return history_; }
+  /// Takes the last step back, or does the one taken back again; nothing where there is none.
+  void Undo();
+  void Redo();
+  /// The field that was edited is left: the next change is a step of its own.
+  void EndStep() { history_.EndStep(); }
 
   /// A new or opened project takes the place of the old one (`Nuovo_modifica`(0)).
   void Replace(elements::Setup setup);
@@ -53,10 +65,12 @@ class OpenCalculation {
   void OnChange(std::function<void()> listener) { listener_ = std::move(listener); }
 
  private:
+  void Take(elements::Setup changed, bool keep_result);
   void AfterChange(bool keep_result);
   void Tell();
 
   elements::Setup setup_;
+  History history_;
   std::optional<elements::ResultSet> result_;
   Totals totals_;
   bool is_saved_ = true;

@@ -51,9 +51,9 @@ TEST(KeyedValues, RefuseWhatNoFileCouldHold) {
   }
   EXPECT_THROW(values.Set<double>(kLimit, std::numeric_limits<double>::infinity()), std::invalid_argument);
   EXPECT_TRUE(values.IsEmpty());
-  EXPECT_THROW(KeyedValues({{"a", "1"}, {"a", "2"}}), std::invalid_argument);
-  EXPECT_THROW(KeyedValues({{"a b", "1"}}), std::invalid_argument);
-  EXPECT_EQ(KeyedValues({{"nota", "1"}}).Get(kNote), "1");
+  EXPECT_THROW(KeyedValues(std::vector<KeyedValues::Entry>{{"a", "1"}, {"a", "2"}}), std::invalid_argument);
+  EXPECT_THROW(KeyedValues(std::vector<KeyedValues::Entry>{{"a b", "1"}}), std::invalid_argument);
+  EXPECT_EQ(KeyedValues(std::vector<KeyedValues::Entry>{{"nota", "1"}}).Get(kNote), "1");
 }
 
 }  // namespace

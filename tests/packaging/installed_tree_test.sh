@@ -10,17 +10,17 @@ export HOME=$tree/home XDG_CONFIG_HOME=$tree/home/.config
 mkdir -p "$HOME"
 
 missing=0
-for file in bin/velmar bin/velmarpro lib/velmarpro/velmar-access-reader \
-  "share/doc/velmarpro/VELMARpro - Manuale d'uso.pdf" share/doc/velmarpro/copyright share/doc/velmarpro/changelog.gz \
-  share/velmarpro/Databases/InterfMess.mdb share/velmarpro/Templates/Formato_drav.xlsx \
-  share/velmarpro/Examples/parete-forato-intonacata.drav \
-  share/applications/velmarpro.desktop share/mime/packages/velmarpro.xml share/metainfo/velmarpro.metainfo.xml \
-  share/icons/hicolor/16x16/apps/velmarpro.png share/icons/hicolor/512x512/apps/velmarpro.png \
-  share/icons/hicolor/scalable/apps/velmarpro.svg \
-  share/icons/hicolor/48x48/mimetypes/application-x-velmarpro-project.png \
-  share/man/man1/velmar.1.gz share/man/man1/velmarpro.1.gz share/man/it/man1/velmar.1.gz share/man/it/man1/velmarpro.1.gz \
-  share/bash-completion/completions/velmar share/zsh/vendor-completions/_velmar \
-  share/fish/vendor_completions.d/velmar.fish; do
+for file in "bin/velmar" "bin/velmarpro" "lib/velmarpro/velmar-access-reader" \
+  "share/doc/velmarpro/VELMARpro - Manuale d'uso.pdf" "share/doc/velmarpro/copyright" \
+  "share/doc/velmarpro/changelog.gz" "share/velmarpro/Databases/InterfMess.mdb" \
+  "share/velmarpro/Templates/Formato_drav.xlsx" "share/velmarpro/Examples/parete-forato-intonacata.drav" \
+  "share/applications/velmarpro.desktop" "share/mime/packages/velmarpro.xml" \
+  "share/metainfo/velmarpro.metainfo.xml" "share/icons/hicolor/16x16/apps/velmarpro.png" \
+  "share/icons/hicolor/512x512/apps/velmarpro.png" "share/icons/hicolor/scalable/apps/velmarpro.svg" \
+  "share/icons/hicolor/48x48/mimetypes/application-x-velmarpro-project.png" "share/man/man1/velmar.1.gz" \
+  "share/man/man1/velmarpro.1.gz" "share/man/it/man1/velmar.1.gz" "share/man/it/man1/velmarpro.1.gz" \
+  "share/bash-completion/completions/velmar" "share/zsh/vendor-completions/_velmar" \
+  "share/fish/vendor_completions.d/velmar.fish"; do
   [[ -s $file ]] || { echo "not installed: $file"; missing=1; }
 done
 [[ $missing -eq 0 ]]
@@ -30,5 +30,5 @@ grep -q 'Rw *44' <<<"$said" || { echo "$said"; exit 1; }
 [[ -f $HOME/Documents/VELMARpro/Databases/Database/Database.mdb ]] || { echo "no data folder was made"; exit 1; }
 for command in $(bin/velmar --help | sed -n '/^Comandi:/,/^$/s/^  \([a-z]*\) .*/\1/p'); do
   grep -q "$command" share/bash-completion/completions/velmar || { echo "bash does not know: $command"; exit 1; }
-  zcat share/man/it/man1/velmar.1.gz | grep -q "^.SS velmar $command" || { echo "no manual page for: $command"; exit 1; }
+  zcat "share/man/it/man1/velmar.1.gz" | grep -q "^.SS velmar $command" || { echo "no manual page for: $command"; exit 1; }
 done

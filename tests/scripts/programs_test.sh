@@ -1,72 +1,65 @@
 #!/usr/bin/env bash
-# programs_test.sh tests|checks: every program that the scripts name is on every Debian machine, or comes with a
-# package that scripts/install-deps lists. A word counts as a program when a program of that name is installed
-# here. "checks" are the scripts for which a build and its tests need nothing.
+# programs_test.sh tests|checks [ROOT]: every program that the scripts under ROOT call comes with a package that
+# scripts/install-deps lists, or is on every Debian machine. programs.txt says which package brings which program;
+# nothing is asked of this machine, which may have more or less than another. "checks" are the scripts for which
+# a build and its tests need nothing.
 set -euo pipefail
-cd "$(dirname "$0")/../.."
+here=$(cd "$(dirname "$0")" && pwd)
+cd "${2:-$here/../..}"
 
 # install-deps itself names packages, which are called like their programs.
-others=(scripts/check* scripts/report-pictures scripts/install-deps)
+others=(scripts/check* scripts/report-pictures scripts/package scripts/try-package scripts/install-deps)
 if [[ $1 == tests ]]; then
   mapfile -t scripts < <(find run test .ci scripts tests -type f \( ! -path 'tests/*' -o -name '*.sh' \) |
-    grep -vxFf <(printf '%s\n' "${others[@]}"))
+    grep -vxFf <(printf '%s\n' "${others[@]}" tests/scripts/programs_sabotage_test.sh))
   mapfile -t listed < <(scripts/install-deps list)
 else
   scripts=("${others[@]}")
   mapfile -t listed < <(scripts/install-deps list all)
 fi
 
-# The listed packages and what they bring along, and what no machine is without.
-allowed=$(
-  {
-    printf 'want\t%s\n' "${listed[@]}"
-    dpkg-query -W -f 'have\t${Package}\t${Essential}\t${Priority}\t${Pre-Depends}, ${Depends}\n'
-  } | awk -F'\t' '
-    $1 == "want" { want[$2]; next }
-    $3 == "yes" || $4 == "required" { want[$2] }
-    { needs[$2] = $5 }
-    END {
-      do {
-        grown = 0
-        for (package in want) {
-          count = split(needs[package], parts, /[,|] */)
-          needs[package] = ""
-          for (i = 1; i <= count; ++i) {
-            name = parts[i]
-            sub(/[ :(].*/, "", name)
-            if (name != "" && !(name in want)) { want[name]; grown = 1 }
-          }
-        }
-      } while (grown)
-      for (package in want) print package
-    }'
-)
+without_comments() { sed -E 's/(^|[[:space:]])#.*//' "${scripts[@]}"; }
 
-words() { # without comments, texts, variables and the scripts' own functions
-  sed -E -e 's/(^|[[:space:]])#.*//' -e 's/"([^"$]|\$[^(])*"//g' -e 's/\bfor [a-z_]+ in\b//' \
-    -e 's/\$\{?[A-Za-z_]+//g' -e 's/\b[A-Za-z_]+=//g' "${scripts[@]}" |
-    grep -oE '[A-Za-z][A-Za-z0-9_.+-]+' | sort -u |
+# Every word, wherever it stands.
+words() { without_comments | grep -oE '[A-Za-z][A-Za-z0-9_.+-]+' | sort -u; }
+
+# What stands where a command may stand: texts, variables and redirections are taken out, then lines end wherever
+# a command can begin. What is no small word, or belongs to the shell or to the scripts themselves, is no program.
+commands() {
+  without_comments | tr '\n' '\001' |
+    sed -E -e 's/\\\x01/ /g' -e "s/\"([^\"\$]|\\\$[^(])*\"|\\\$?'[^']*'/_/g" -e 's/[a-z_]+\+?=\([^()]*\)/_/g' \
+      -e 's/\$\(\(([^()]|\([^()]*\))*\)\)/_/g' | tr '\001' '\n' |
+    sed -E -e 's/\$\{[^}]*\}/_/g' -e 's/\$[A-Za-z_0-9@*#?!]+/_/g' \
+      -e 's/[0-9]?[<>]+&?[0-9-]?[[:space:]]*[^[:space:];|&()<>]*//g' \
+      -e 's/\$\(|[;|&({}!"`]|\]\]|\b(then|do|else|if|elif|while|until|exec|nice|setsid|timeout [0-9]+)\b/\n/g' \
+      -e 's/\)/ _/g' |
+    sed -nE -e 's/^[[:space:]]*//' -e 's/^([A-Za-z_]+=[^[:space:]]*[[:space:]]+)+//' \
+      -e 's/^([a-z][a-z0-9.-]+)([[:space:]].*|$)/\1/p' | sort -u |
+    grep -vxFf <(compgen -b; compgen -k) |
     grep -vxFf <(sed -nE 's/^([a-z_]+)\(\).*/\1/p' "${scripts[@]}")
 }
 
-declare -A word_of # each path under which a package may know the program
-while read -r word; do
-  program=$(type -P -- "$word") || continue
-  for path in "$program" "${program#/usr}" "$(realpath "$program")"; do word_of[$path]=$word; done
-done < <(words)
+declare -A package_of
+while read -r program package; do package_of[$program]=$package; done < <(grep -vE '^#|^$' "$here/programs.txt")
 
 failed=0
 looked=0
-while IFS=: read -r owner path; do
-  path=${path##* }
-  word=${word_of[$path]}
+while read -r word; do
+  package=${package_of[$word]:-}
+  [[ -n $package ]] || continue
   looked=$((looked + 1))
-  grep -qxF -- "$owner" <<<"$allowed" && continue
-  echo "$word comes with $owner, which scripts/install-deps does not list. Named in:"
+  [[ $package == - ]] && continue
+  printf '%s\n' "${listed[@]}" | grep -qxF -- "$package" && continue
+  echo "$word comes with $package, which scripts/install-deps does not list. Named in:"
   grep -lw -- "$word" "${scripts[@]}"
   failed=1
-done < <(dpkg-query -S "${!word_of[@]}" 2>/dev/null | grep -v '^diversion')
+done < <(words)
+while read -r command; do
+  [[ -n ${package_of[$command]:-} ]] && continue
+  echo "$command is called, but tests/scripts/programs.txt does not say which package brings it. Named in:"
+  grep -lw -- "$command" "${scripts[@]}"
+  failed=1
+done < <(commands)
 
-[[ $looked -ge 10 ]] || { echo "only $looked programs found: the test sees nothing"; exit 1; }
 echo "$looked programs looked at"
 exit $failed

@@ -7,6 +7,7 @@
 #include <CLI/CLI.hpp>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 #include "usage_builder/completions.h"
 #include "usage_builder/manual_page.h"
@@ -38,7 +39,7 @@ class Kitchen : public testing::Test {
   std::string Offered(const std::string& words) const {
     std::string script = BashCompletion(Usage()) + "COMP_WORDS=(" + words + ")\n" +
                          "COMP_CWORD=$((${#COMP_WORDS[@]} - 1))\n_kitchen\necho \"${COMPREPLY[*]}\"\n";
-    const std::string file = testing::TempDir() + "completion.bash";
+    const std::string file = testing::TempDir() + "completion-" + std::to_string(getpid()) + ".bash";
     std::ofstream(file) << script;
     const std::unique_ptr<std::FILE, int (*)(std::FILE*)> bash(popen(("bash " + file).c_str(), "r"), pclose);
     std::string said;

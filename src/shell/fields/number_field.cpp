@@ -125,7 +125,9 @@ void NumberField::Show(const std::string& text) {
   if (decimals_ >= 0 && number && wanted.section(',', 1).size() > decimals_)
     wanted = FromUtf8(FormatFixed(*number, decimals_));
   if (unfinished_ && (wanted == shown_ || wanted == this->text())) return;
-  const bool same_number = number && number == ParseDecimal(ToUtf8(this->text()));
+  // An unknown number of the set-up is 0 and has no text.
+  const std::optional<double> typed = ParseDecimal(ToUtf8(this->text()));
+  const bool same_number = typed && (number || wanted.isEmpty()) && *typed == number.value_or(0.0);
   if (edited_ && same_number) return;
   unfinished_ = false;
   shown_ = wanted;

@@ -1,5 +1,6 @@
 #include "shell/main_window/main_window.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QMenu>
 #include <QMenuBar>
@@ -10,6 +11,7 @@
 
 #include "calculation/select_calculation.h"
 #include "foundation/message_rows.h"
+#include "shell/commands/edit_menu.h"
 #include "shell/commands/help_commands.h"
 #include "shell/commands/menus.h"
 #include "shell/commands/run_command.h"
@@ -64,6 +66,9 @@ MainWindow::MainWindow(const WindowServices& services, QWidget* parent)
   setWindowIcon(ProductIcon());
   setAcceptDrops(true);
   recent_ = FillMenuBar(*menuBar(), commands_, calculations_, services.words);
+  edit_menu_ = new EditMenu(services.open, services.words, this);
+  menuBar()->insertMenu(menuBar()->actions().at(1), edit_menu_);
+  connect(qApp, &QApplication::focusChanged, this, [this] { services_.open.EndStep(); });
   tool_bar_ = new CommandToolBar(commands_, calculations_, services.words, this);
   addToolBar(tool_bar_);
   // Shortcuts work whether or not their menu was ever open.
@@ -188,6 +193,7 @@ void MainWindow::ShowAll() {
   recovery_.Follow();
   const Needs state = StateOf(services_.open);
   commands_.Enable(state, table_.IsOpen());
+  edit_menu_->Follow();
   tool_bar_->ShowRunDue(state == Needs::kCalculation);
   centre_->setCurrentWidget(setup.calculation ? static_cast<QWidget*>(sides_) : start_);
   if (!setup.calculation) return;

@@ -18,6 +18,7 @@ class QStackedWidget;
 namespace velmar::shell {
 
 class CommandToolBar;
+class EditMenu;
 class ElementHeader;
 class InputTabs;
 class ResultsPanel;
@@ -63,6 +64,7 @@ class MainWindow : public QMainWindow {
   CommandSet commands_;
   CalculationActions calculations_;
   CommandToolBar* tool_bar_ = nullptr;
+  EditMenu* edit_menu_ = nullptr;
   QMenu* recent_ = nullptr;
   QStackedWidget* centre_ = nullptr;
   StartScreen* start_ = nullptr;

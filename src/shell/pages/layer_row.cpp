@@ -170,7 +170,7 @@ void LayerRow::Show(const elements::Setup& setup, bool visible) {
   if (!visible) return;
   const calculation::LayerText row = calculation::LayerTextOf(setup, plan_.group, plan_.index);
   material_->Show(row.listed);
-  material_->lineEdit()->setPlaceholderText(Text(context_.Words(), kChooseMaterialRow));
+  material_->setPlaceholderText(Text(context_.Words(), kChooseMaterialRow));
   thickness_->Show(row.thickness_text);
   // An emptied box leaves the thickness as it was; the box says in grey what that is.
   const bool known = row.slot_thickness_mm > 0.0;

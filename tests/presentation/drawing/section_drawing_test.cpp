@@ -118,10 +118,10 @@ TEST(LayerAt, FindsTheRowUnderTheMouse) {
   const QRectF area(0, 0, 500, 300);
   const SectionLayout layout = LayoutOf(area, section, QFont(), {});
   const LayerPlace resilient{elements::LayerGroup::kResilient, 0};
-  EXPECT_EQ(LayerAt(layout.strips[3].center(), area, section, QFont()), resilient);
-  EXPECT_EQ(LayerAt(layout.labels[3].box.center(), area, section, QFont()), resilient);
+  EXPECT_EQ(LayerAt(layout.strips[2].center(), area, section, QFont()), resilient);
+  EXPECT_EQ(LayerAt(layout.labels[2].box.center(), area, section, QFont()), resilient);
   ASSERT_EQ(layout.list.size(), 6U);
-  EXPECT_EQ(LayerAt(layout.list[3].box.center(), area, section, QFont()), resilient);
+  EXPECT_EQ(LayerAt(layout.list[2].box.center(), area, section, QFont()), resilient);
   EXPECT_EQ(LayerAt({1.0, 1.0}, area, section, QFont()), std::nullopt);
 }
 

@@ -43,8 +43,8 @@ class KeysTest : public QObject {
                                 << "12";
     QTest::newRow("no minus") << "-5"
                               << "5";
-    QTest::newRow("nought becomes ten") << "0"
-                                        << "10";
+    QTest::newRow("nought may begin a number") << "0,5"
+                                               << "0,5";
   }
 
   void keysOfNumbersPass() {

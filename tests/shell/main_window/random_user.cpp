@@ -65,6 +65,8 @@ const std::vector<RandomUser::Action>& RandomUser::Actions() {
       {"resize", &RandomUser::Resize},
       {"use a dialog", &RandomUser::UseDialog},
       {"drop a material", &RandomUser::DropMaterial},
+      {"go back and forth", &RandomUser::GoBackAndForth, 2},
+      {"go back", &RandomUser::GoBack},
   };
   return actions;
 }
@@ -102,6 +104,18 @@ Widget* RandomUser::AnyShown() {
   }
   return shown.isEmpty() ? nullptr : OneOf(shown);
 }
+
+// As many steps back as forth lead to where they began.
+void RandomUser::GoBackAndForth() {
+  const elements::Setup before = fixture_.open.Setup();
+  int steps = 0;
+  for (const int most = 1 + Pick(20); steps < most && fixture_.open.Steps().ToUndo(); ++steps)
+    fixture_.Find<QAction>("annulla")->trigger();
+  for (; steps > 0; --steps) fixture_.Find<QAction>("ripeti")->trigger();
+  if (fixture_.open.Setup() != before) qFatal("the steps back and forth do not lead to where they began");
+}
+
+void RandomUser::GoBack() { fixture_.Find<QAction>("annulla")->trigger(); }
 
 void RandomUser::ChooseCalculation() {
   fixture_.Choose(

@@ -53,6 +53,8 @@ class RandomUser {
   void UseDialog();
   void DropMaterial();
   void AnswerDialog();
+  void GoBackAndForth();
+  void GoBack();
 
   WindowFixture& fixture_;
   std::mt19937 random_;

@@ -85,9 +85,9 @@ class WindowRulesTest : public QObject {
     QTest::newRow("lines") << "TIPO_PARETE_SEA_1"
                            << "1"
                            << "455";
-    QTest::newRow("studs") << "mnuCalcoloControplaccaggiScelta_2"
-                           << "1"
-                           << "45,5";
+    QTest::newRow("lining on a frame") << "mnuCalcoloControplaccaggiScelta_2"
+                                       << "1"
+                                       << "455";
   }
   void connectionsHaveTheirDefaults() {
     QFETCH(const QString, entry);

@@ -1,0 +1,108 @@
+#include "shell/commands/step_words.h"
+
+#include "elements/parts.h"
+#include "foundation/message_rows.h"
+#include "shell/fields/phrases.h"
+
+namespace velmar::shell {
+namespace {
+
+using calculation::StepKind;
+using elements::Field;
+using elements::FieldId;
+
+MessageRow RowFor(Field field) {
+  switch (field) {
+    case Field::kWidth:
+      return kStepWidthRow;
+    case Field::kHeight:
+      return kStepHeightRow;
+    case Field::kMaterial:
+      return kStepMaterialRow;
+    case Field::kThickness:
+      return kStepThicknessRow;
+    case Field::kSheets:
+      return kStepSheetsRow;
+    case Field::kTick:
+      return kStepDampingRow;
+    case Field::kCavityDepth:
+    case Field::kSeaCavityDepth:
+      return kStepCavityDepthRow;
+    case Field::kCavityKind:
+    case Field::kSeaCavityType:
+      return kStepCavityKindRow;
+    case Field::kFibreThickness:
+      return kStepFibreRow;
+    case Field::kSupport:
+      return kStepSupportRow;
+    case Field::kHanger:
+      return kStepHangerRow;
+    case Field::kDecoupling:
+      return kStepDecouplingRow;
+    case Field::kArea:
+      return kStepAreaRow;
+    case Field::kRating:
+      return kStepRatingRow;
+    case Field::kC:
+    case Field::kCtr:
+      return kStepTermRow;
+    case Field::kBand:
+      return kStepBandRow;
+    case Field::kMass:
+      return kStepMassRow;
+    case Field::kTightness:
+      return kStepTightnessRow;
+    case Field::kBaseThickness:
+      return kStepBaseThicknessRow;
+    case Field::kSimplified:
+      return kStepSimplifiedRow;
+    default:
+      return kStepSeveralRow;
+  }
+}
+
+/// The number of a layer row in its element; counted within its group where it is not in use any longer.
+int NumberOf(const FieldId& field, const elements::Setup& setup) {
+  for (const elements::Part& part : PartsOf(setup)) {
+    for (const elements::Layer& layer : part.layers) {
+      if (layer.group == field.group && layer.row == field.index) return layer.number;
+    }
+  }
+  return field.index + 1;
+}
+
+}  // namespace
+
+QString StepWords(const calculation::Step& step, const elements::Setup& setup,
+                  const presentation::Words& words) {
+  const auto of_element = [&](MessageRow row) {
+    QString text = Text(words, row);
+    if (step.field.index > 0)
+      text += ' ' + Text(words, kStepOfComponentRow) + ' ' + QString::number(step.field.index);
+    return text;
+  };
+  switch (step.kind) {
+    case StepKind::kField: {
+      const MessageRow row = RowFor(step.field.field);
+      if (!step.field.group) return of_element(row);
+      return Text(words, row) + ' ' + QString::number(NumberOf(step.field, setup));
+    }
+    case StepKind::kCount:
+      return Text(words, step.field.group ? kStepLayerCountRow : kStepComponentCountRow);
+    case StepKind::kCalculation:
+      return Text(words, kStepCalculationRow);
+    case StepKind::kName:
+      return of_element(kStepNameRow);
+    case StepKind::kDescription:
+      return of_element(kStepDescriptionRow);
+    case StepKind::kBands:
+      return of_element(kStepBandsRow);
+    case StepKind::kInformation:
+      return Text(words, kStepInformationRow);
+    case StepKind::kSeveral:
+      return Text(words, kStepSeveralRow);
+  }
+  return {};
+}
+
+}  // namespace velmar::shell
