@@ -8,6 +8,7 @@
 #include <SQLiteCpp/Database.h>
 #include <SQLiteCpp/Exception.h>
 #include <SQLiteCpp/Statement.h>
+#include <sqlite3.h>
 
 #include "storage/database/connection.h"
 #include "storage/database/database_failure.h"
@@ -120,7 +121,14 @@ fs::path KeepDatedCopy(const fs::path& file) {
 
 void RebuildIndexes(const fs::path& file) {
   ChangeDatabaseWith(file, [&](SQLite::Database& database) {
-    database.exec("REINDEX");
+    try {
+      database.exec("REINDEX");
+    } catch (const SQLite::Exception& error) {
+      // Two rows of one name under an index that allows one: the table itself is wrong.
+      constexpr int kPrimaryCode = 0xFF;
+      if ((error.getErrorCode() & kPrimaryCode) != SQLITE_CONSTRAINT) throw;
+      throw DatabaseFailure(DatabaseProblem::kDamaged, file, error.what());
+    }
     if (ConditionIn(database) != DatabaseCondition::kGood)
       throw DatabaseFailure(DatabaseProblem::kDamaged, file, "not whole after its indexes were built anew");
   });

@@ -4,7 +4,10 @@
 
 #include <gtest/gtest.h>
 
+#include "storage/library/library_store.h"
+#include "storage/tables/schema.h"
 #include "tests/cli/spoken_command.h"
+#include "tests/storage/support/databases.h"
 #include "tests/storage/support/temporary_folder.h"
 
 namespace velmar::cli {
@@ -20,11 +23,12 @@ class StoredPartsTest : public testing::Test {
   Said Say(const std::vector<std::string>& arguments) {
     Services services = BareServices();
     services.result_database = folder_ / "results.mdb";
-    services.library_folder = SHIPPED "/Databases/Database";
+    services.library_folder = library_;
     return Speak(arguments, services);
   }
 
   storage::TemporaryFolder folder_;
+  std::filesystem::path library_ = SHIPPED "/Databases/Database";
 };
 
 TEST_F(StoredPartsTest, AResultIsStoredOnceUnderAName) {
@@ -85,10 +89,15 @@ TEST_F(StoredPartsTest, AFacadeRefusesWhatIsNotThereAndSavesNothing) {
 /// Levels and improvements are no sound reduction indices, and a small element has no area to be the wall.
 TEST_F(StoredPartsTest, AFacadeRefusesMeasurementsOfAnotherKind) {
   const std::string out = (folder_ / "facade.drav").string();
-  const auto first_of = [this](const std::string& kind) {
-    const std::string series = Say({"library", "list", kind, "--json"}).Json().at(0)["series"];
-    const std::string test = Say({"library", "list", kind, series, "--json"}).Json().at(0)["name"];
-    return "library:" + kind + "/" + series + "/" + test;
+  library_ = folder_ / "Database";
+  const auto make = [this](const char* kind) {
+    const storage::LibraryFolder folder = *storage::FindLibraryFolder(kind);
+    std::filesystem::create_directories(library_ / folder.folder);
+    storage::MakeTables(library_ / folder.folder / "serie.mdb", {folder.table});
+    storage::Execute(library_ / folder.folder / "serie.mdb",
+                     {"INSERT INTO " + storage::QuotedName(folder.table.name) + " (Nome, " +
+                      storage::QuotedName(folder.rating) + ") VALUES ('prova', 42)"});
+    return std::string("library:") + kind + "/serie/prova";
   };
   for (const char* kind : {"Lnw", "DLw", "DRw"}) {
     const std::string where = std::string("library:") + kind + "/serie/prova";
@@ -96,13 +105,13 @@ TEST_F(StoredPartsTest, AFacadeRefusesMeasurementsOfAnotherKind) {
               "row 1222 " + where + "\n");
     EXPECT_EQ(Say({"facade", Example("facciata"), out, "--component", "1=" + where}).code, 3) << kind;
   }
-  const std::string small = first_of("Piccoli elementi");
+  const std::string small = make("Piccoli elementi");
   const Said opaque = Say({"facade", Example("facciata"), out, "--opaque", small});
   EXPECT_EQ(opaque.code, 3);
   EXPECT_EQ(opaque.errors, "row 1222 " + small + "\n");
   EXPECT_FALSE(std::filesystem::exists(out));
   EXPECT_EQ(Say({"facade", Example("facciata"), out, "--component", "1=" + small}).code, 0);
-  EXPECT_EQ(Say({"facade", Example("facciata"), out, "--opaque", first_of("Rw")}).code, 0);
+  EXPECT_EQ(Say({"facade", Example("facciata"), out, "--opaque", make("Rw")}).code, 0);
 }
 
 }  // namespace
