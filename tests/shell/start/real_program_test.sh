@@ -47,7 +47,7 @@ await table_copied
 
 # What the table shows: whole ratings, levels with one decimal.
 shown=$(cut -f2 <<<"$copied" | sed -n '2,23p')
-json=$("$command" run "$project" --json --data "$home/VELMARpro")
+json=$("$command" run "$project" --json --data "$home/Documents/VELMARpro")
 expected=$({ grep -oP '"spectrum":\[\K[^]]*' <<<"$json" | tr ',' '\n'; grep -oP '"Rw":\K[-0-9.]+' <<<"$json" | head -1; } |
   LC_ALL=C awk '{ printf "%.1f\n", $1 }' | tr . ,)
 if [[ $shown != "$expected" ]]; then
