@@ -13,10 +13,10 @@ namespace velmar::presentation {
 enum class StructureKind {
   kHeading,  ///< names the stack whose layers follow
   kLayer,
-  kCavity,      ///< air, or a cavity described as a whole
-  kWords,  ///< an input that is no layer: the connections, the rating of a base element
-  kBase,   ///< the wall or floor under a lining
-  kPart,        ///< a part of a facade
+  kCavity,  ///< air, or a cavity described as a whole
+  kWords,   ///< an input that is no layer: the connections, the rating of a base element
+  kBase,    ///< the wall or floor under a lining
+  kPart,    ///< a part of a facade
 };
 
 /// A row of a report's table of layers or components. A number that the kind does not have is absent.
