@@ -10,6 +10,9 @@ inline constexpr QColor kReferenceColour{0x16, 0x25, 0x4B};
 inline constexpr QColor kBaseColour{0xA0, 0xA0, 0xA0};
 inline constexpr QColor kLaboratoryColour{0xE7, 0x74, 0x27};
 inline constexpr QColor kInSituColour{0x00, 0xC0, 0x00};
+inline constexpr QColor kFormerColour{0xD9, 0x8F, 0xC9};
+inline constexpr QColor kRequirementColour{0x00, 0x7A, 0x87};
+inline constexpr QColor kDeviationColour{0xD0, 0x3A, 0x2B, 0x46};
 inline constexpr QColor kVerticalGridColour{0xE0, 0xE0, 0xE0};
 inline constexpr QColor kHorizontalGridColour{0xE9, 0xE9, 0xE9};
 

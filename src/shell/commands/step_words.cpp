@@ -99,6 +99,8 @@ QString StepWords(const calculation::Step& step, const elements::Setup& setup,
       return of_element(kStepBandsRow);
     case StepKind::kInformation:
       return Text(words, kStepInformationRow);
+    case StepKind::kRequirement:
+      return Text(words, kStepRequirementRow);
     case StepKind::kSeveral:
       return Text(words, kStepSeveralRow);
   }

@@ -18,9 +18,11 @@
 #include "shell/fields/icons.h"
 #include "shell/fields/material_change.h"
 #include "shell/fields/phrases.h"
+#include "shell/main_window/continuous_switch.h"
 #include "shell/main_window/start_screen.h"
 #include "shell/pages/element_header.h"
 #include "shell/pages/input_tabs.h"
+#include "shell/results/requirement_line.h"
 #include "shell/results/results_panel.h"
 
 namespace velmar::shell {
@@ -54,6 +56,7 @@ MainWindow::MainWindow(const WindowServices& services, QWidget* parent)
       context_(services.open, services, services, materials_),
       work_(services.open),
       memory_(services.places.settings),
+      continuous_(services.open),
       recovery_(services.open, services, services.places.recovery, kRecoveryDelayMs),
       files_(services.open, services, services, memory_, recovery_),
       table_(services.open, services.words),
@@ -78,9 +81,13 @@ MainWindow::MainWindow(const WindowServices& services, QWidget* parent)
   recent_ = FillMenuBar(*menuBar(), commands_, calculations_, services.words);
   edit_menu_ = new EditMenu(services.open, services.words, this);
   menuBar()->insertMenu(menuBar()->actions().at(1), edit_menu_);
-  connect(qApp, &QApplication::focusChanged, this, [this] { services_.open.EndStep(); });
+  connect(qApp, &QApplication::focusChanged, this, [this] {
+    services_.open.EndStep();
+    continuous_.FollowLeftField();
+  });
   tool_bar_ = new CommandToolBar(commands_, calculations_, services.words, this);
   addToolBar(tool_bar_);
+  AddContinuousSwitch();
   // Shortcuts work whether or not their menu was ever open.
   for (const Command& command : Commands()) addAction(commands_.Of(command.id));
   MakeCentre();
@@ -115,6 +122,15 @@ void MainWindow::MakeCentre() {
   setCentralWidget(centre_);
 }
 
+void MainWindow::AddContinuousSwitch() {
+  auto* on = new ContinuousSwitch(continuous_, memory_, services_.words, this);
+  addAction(on);
+  tool_bar_->AddBehindRun(on);
+  menuBar()->findChild<QMenu*>("calcolo")->insertAction(commands_.Of(CommandId::kCompareBeside), on);
+  results_->Follow(continuous_);
+  connect(&work_, &OpenWork::AboutToTell, &continuous_, &ContinuousCalculation::Follow);
+}
+
 void MainWindow::Connect() {
   connect(&work_, &OpenWork::Changed, this, &MainWindow::ShowAll);
   connect(&files_, &ProjectFiles::Renamed, this, &MainWindow::ShowName);
@@ -125,6 +141,7 @@ void MainWindow::Connect() {
   connect(start_, &StartScreen::KindChosen, this, &MainWindow::Begin);
   connect(start_, &StartScreen::ProjectChosen, this, &MainWindow::OpenProject);
   connect(&commands_, &CommandSet::AboutToAct, &context_, &PageContext::SettleAsked);
+  connect(&commands_, &CommandSet::AboutToAct, results_->Requirement(), &RequirementLine::Settle);
   connect(&files_, &ProjectFiles::Opened, tabs_, &InputTabs::FocusFirst);
   connect(&context_, &PageContext::RowHovered, results_, &ResultsPanel::Highlight);
   connect(results_, &ResultsPanel::LayerHovered, &context_, &PageContext::SectionHovered);

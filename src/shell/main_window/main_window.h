@@ -12,6 +12,7 @@
 #include "shell/project/project_files.h"
 #include "shell/project/recovery.h"
 #include "shell/project/window_memory.h"
+#include "shell/results/continuous_calculation.h"
 #include "shell/results/open_table.h"
 
 class QMenu;
@@ -50,6 +51,7 @@ class MainWindow : public QMainWindow {
 
  private:
   void MakeCentre();
+  void AddContinuousSwitch();
   void Connect();
   void Choose(elements::Calculation calculation);
   void Begin(elements::ElementButton kind);
@@ -65,6 +67,7 @@ class MainWindow : public QMainWindow {
   PageContext context_;
   OpenWork work_;
   WindowMemory memory_;
+  ContinuousCalculation continuous_;
   Recovery recovery_;
   ProjectFiles files_;
   OpenTable table_;

@@ -12,6 +12,7 @@ constexpr const char* kRecentKey = "recenti";
 constexpr const char* kGeometryKey = "finestra/posizione";
 constexpr const char* kSidesKey = "finestra/lati";
 constexpr const char* kResultsKey = "finestra/risultati";
+constexpr const char* kContinuousKey = "calcolo/continuo";
 constexpr int kMostRemembered = 10;
 
 QString ToQt(const std::filesystem::path& path) { return QString::fromStdString(path.string()); }
@@ -42,6 +43,14 @@ void WindowMemory::Remember(const std::filesystem::path& project) {
 
 void WindowMemory::ForgetProjects() {
   if (!file_.empty()) QSettings(ToQt(file_), QSettings::IniFormat).remove(kRecentKey);
+}
+
+bool WindowMemory::IsContinuous() const {
+  return !file_.empty() && QSettings(ToQt(file_), QSettings::IniFormat).value(kContinuousKey, false).toBool();
+}
+
+void WindowMemory::RememberContinuous(bool on) {
+  if (!file_.empty()) QSettings(ToQt(file_), QSettings::IniFormat).setValue(kContinuousKey, on);
 }
 
 void WindowMemory::SaveSizes(const QMainWindow& window, const QSplitter& sides,

@@ -9,8 +9,8 @@ class QSplitter;
 
 namespace velmar::shell {
 
-/// What the window remembers from one start to the next, in a file of the user's own: sizes and recent
-/// projects. An empty path remembers nothing.
+/// What the window remembers from one start to the next, in a file of the user's own: sizes, recent
+/// projects and the switch of the continuous calculation. An empty path remembers nothing.
 class WindowMemory {
  public:
   explicit WindowMemory(std::filesystem::path file) : file_(std::move(file)) {}
@@ -19,6 +19,10 @@ class WindowMemory {
   /// `project` is the most recent one now.
   void Remember(const std::filesystem::path& project);
   void ForgetProjects();
+
+  /// Whether each change is calculated at once; at first it is not.
+  bool IsContinuous() const;
+  void RememberContinuous(bool on);
 
   void SaveSizes(const QMainWindow& window, const QSplitter& sides, const QSplitter& results) const;
   /// @return whether sizes were remembered

@@ -17,18 +17,24 @@ class QToolButton;
 namespace velmar::shell {
 
 class ChartView;
+class ContinuousCalculation;
+class DifferenceLine;
+class RequirementLine;
 class SectionView;
 class SingleNumbersPanel;
 
 /// The right side of the window (`prnFrame1`): single-number results, curve chart, section drawing. Shows the
-/// open calculation and changes nothing of it.
+/// open calculation; of it only the required rating is entered here.
 class ResultsPanel : public QWidget {
   Q_OBJECT
  public:
   /// @param open and what follows outlive the panel
   /// @param overlay further curves; none: the chart shows the result alone
-  ResultsPanel(const calculation::OpenCalculation& open, const Speech& speech, ChartOverlay* overlay,
+  ResultsPanel(calculation::OpenCalculation& open, const Speech& speech, ChartOverlay* overlay,
                QWidget* parent = nullptr);
+
+  /// Shows what `continuous` says too, from now on; it outlives the panel.
+  void Follow(const ContinuousCalculation& continuous);
 
   /// Shows set-up and result as they are now.
   void Show();
@@ -36,6 +42,9 @@ class ResultsPanel : public QWidget {
 
   /// The chart as it is shown, with its scale and overlays; nothing without a result or a curve.
   const std::optional<presentation::CurveChart>& Chart() const { return shown_; }
+
+  /// Where the required rating is entered.
+  RequirementLine* Requirement() const { return requirement_; }
 
   QSplitter* Splitter() const { return splitter_; }
 
@@ -53,8 +62,10 @@ class ResultsPanel : public QWidget {
   /// Shows every rating of the result in the table that the button opens.
   void ShowNumbers();
   void ShowChart();
+  /// What the screen shows of `chart` besides its curves.
+  void AddMarks(presentation::CurveChart& chart) const;
 
-  const calculation::OpenCalculation& open_;
+  calculation::OpenCalculation& open_;
   const Speech& speech_;
   ChartOverlay* overlay_ = nullptr;
   QLabel* rating_name_ = nullptr;
@@ -70,6 +81,10 @@ class ResultsPanel : public QWidget {
   SingleNumbersPanel* numbers_ = nullptr;
   QCheckBox* autoscale_ = nullptr;
   ChartView* chart_ = nullptr;
+  QLabel* values_ = nullptr;
+  RequirementLine* requirement_ = nullptr;
+  DifferenceLine* difference_ = nullptr;
+  const ContinuousCalculation* continuous_ = nullptr;
   std::optional<presentation::CurveChart> shown_{};
   QWidget* section_frame_ = nullptr;
   SectionView* section_ = nullptr;
