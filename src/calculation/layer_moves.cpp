@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <stdexcept>
-#include <type_traits>
 
 #include "calculation/cavity_rules.h"
 #include "elements/catalogue.h"
@@ -60,31 +59,6 @@ void Reverse(Setup& setup, LayerGroup group) {
             [&](auto& rows, int each) { std::reverse(rows.begin(), rows.begin() + count * each); });
 }
 
-void SetCount(Setup& setup, LayerGroup group, int count) {
-  switch (group) {
-    case LayerGroup::kLeaf1:
-      setup.leaf1.count = count;
-      return;
-    case LayerGroup::kLeaf2:
-      setup.leaf2.count = count;
-      return;
-    case LayerGroup::kSeaLeaf1:
-      setup.sea_leaf1.count = count;
-      return;
-    case LayerGroup::kSeaLeaf2:
-      setup.sea_leaf2.count = count;
-      return;
-    case LayerGroup::kCavity:
-      setup.cavity.layers.count = count;
-      return;
-    case LayerGroup::kResilient:
-      setup.resilient.count = count;
-      return;
-    default:
-      throw std::out_of_range("the number of these layers is not free");
-  }
-}
-
 void Follow(Setup& setup, LayerGroup group) {
   if (group == LayerGroup::kCavity) RaiseCavityDepthToLayers(setup);
 }
@@ -129,100 +103,6 @@ void MirrorRows(const SeaLeaf& from, SeaLeaf& to) {
   std::reverse_copy(from.damping.begin(), from.damping.begin() + 2 * from.count, to.damping.begin());
 }
 
-const SeaLeaf& SeaLeafOf(const Setup& setup, LayerGroup group) {
-  return group == LayerGroup::kSeaLeaf1 ? setup.sea_leaf1 : setup.sea_leaf2;
-}
-
-bool IsSeaLeaf(LayerGroup group) { return group == LayerGroup::kSeaLeaf1 || group == LayerGroup::kSeaLeaf2; }
-
-CopiedLeafLayer LeafLayerOf(const Setup& setup, LayerGroup group, int index) {
-  CopiedLeafLayer layer{.row = StructuralRow(setup, group, index)};
-  if (IsSeaLeaf(group)) {
-    const auto left = static_cast<std::size_t>(2 * index);
-    const SeaLeaf& leaf = SeaLeafOf(setup, group);
-    layer.damping = {leaf.damping.at(left), leaf.damping.at(left + 1)};
-  }
-  return layer;
-}
-
-/// The layers as a SEA leaf holds them: one sheet each, damping on the outer sheets.
-std::vector<CopiedLeafLayer> AsSeaLayers(const std::vector<CopiedLeafLayer>& layers) {
-  std::vector<CopiedLeafLayer> sheets;
-  for (const CopiedLeafLayer& layer : layers) {
-    for (int sheet = 0; sheet < layer.row.multiplicity; ++sheet) {
-      CopiedLeafLayer one = layer;
-      one.row.multiplicity = 1;
-      if (sheet > 0) one.damping[0].ticked = false;
-      if (sheet + 1 < layer.row.multiplicity) one.damping[1].ticked = false;
-      sheets.push_back(std::move(one));
-    }
-  }
-  return sheets;
-}
-
-/// The layers as a leaf holds them: damping that is there is a layer like any other.
-std::vector<CopiedLeafLayer> AsLeafLayers(const std::vector<CopiedLeafLayer>& layers) {
-  std::vector<CopiedLeafLayer> flat;
-  const auto add_damping = [&](const elements::DampingRow& damping) {
-    if (damping.ticked) flat.push_back({.row = damping.row});
-  };
-  for (const CopiedLeafLayer& layer : layers) {
-    add_damping(layer.damping[0]);
-    flat.push_back({.row = layer.row});
-    add_damping(layer.damping[1]);
-  }
-  return flat;
-}
-
-void Put(Setup& setup, LayerGroup group, int index, const CopiedLeafLayer& layer) {
-  StructuralRow(setup, group, index) = layer.row;
-  if (!IsSeaLeaf(group)) return;
-  SeaLeaf& leaf = group == LayerGroup::kSeaLeaf1 ? setup.sea_leaf1 : setup.sea_leaf2;
-  const auto left = static_cast<std::size_t>(2 * index);
-  leaf.damping.at(left) = layer.damping[0];
-  leaf.damping.at(left + 1) = layer.damping[1];
-}
-void Put(Setup& setup, LayerGroup group, int index, const CopiedFibrousLayer& layer) {
-  FibrousRow(setup, group, index) = layer;
-}
-void Put(Setup& setup, LayerGroup /*group*/, int index, const CopiedResilientLayer& layer) {
-  setup.resilient.rows.at(static_cast<std::size_t>(index)) = layer;
-}
-
-template <typename Layer>
-constexpr elements::MaterialFamily FamilyOf() {
-  if (std::is_same_v<Layer, CopiedFibrousLayer>) return elements::MaterialFamily::kFibrous;
-  if (std::is_same_v<Layer, CopiedResilientLayer>) return elements::MaterialFamily::kResilient;
-  return elements::MaterialFamily::kStructural;
-}
-
-/// Puts `layers` in place of the rows [first, first + replaced) of `group`.
-bool PutIn(Setup& setup, LayerGroup group, int first, int replaced, const CopiedLayers& layers) {
-  if (!HasFreeCount(group)) throw std::out_of_range("the number of these layers is not free");
-  const int in_use = RowsInUse(setup, group);
-  if (first < 0 || first + replaced > in_use) throw std::out_of_range("no layers to put others there");
-  return std::visit(
-      [&](auto fitting) {
-        using Layer = typename decltype(fitting)::value_type;
-        if (RowOf(group).family != FamilyOf<Layer>()) return false;
-        if constexpr (std::is_same_v<Layer, CopiedLeafLayer>)
-          fitting = IsSeaLeaf(group) ? AsSeaLayers(fitting) : AsLeafLayers(fitting);
-        const int count = static_cast<int>(fitting.size());
-        if (count == 0) return false;
-        if (in_use - replaced + count > RowOf(group).capacity) return false;
-        for (int i = 0; i < replaced; ++i) Rotate(setup, group, first, first + 1, in_use - i);
-        int now = in_use - replaced;
-        for (int i = 0; i < count; ++i, ++now) {
-          Rotate(setup, group, first + i, now, now + 1);
-          Put(setup, group, first + i, fitting.at(static_cast<std::size_t>(i)));
-        }
-        SetCount(setup, group, now);
-        Follow(setup, group);
-        return true;
-      },
-      layers);
-}
-
 }  // namespace
 
 bool HasFreeCount(LayerGroup group) {
@@ -236,6 +116,31 @@ bool HasFreeCount(LayerGroup group) {
       return true;
     default:
       return false;
+  }
+}
+
+void SetLayerCount(Setup& setup, LayerGroup group, int count) {
+  switch (group) {
+    case LayerGroup::kLeaf1:
+      setup.leaf1.count = count;
+      return;
+    case LayerGroup::kLeaf2:
+      setup.leaf2.count = count;
+      return;
+    case LayerGroup::kSeaLeaf1:
+      setup.sea_leaf1.count = count;
+      return;
+    case LayerGroup::kSeaLeaf2:
+      setup.sea_leaf2.count = count;
+      return;
+    case LayerGroup::kCavity:
+      setup.cavity.layers.count = count;
+      return;
+    case LayerGroup::kResilient:
+      setup.resilient.count = count;
+      return;
+    default:
+      throw std::out_of_range("the number of these layers is not free");
   }
 }
 
@@ -259,7 +164,7 @@ void InsertLayer(Setup& setup, LayerGroup group, int at) {
   const int count = RowsInUse(setup, group);
   RequireRow(at, count + 1);
   Rotate(setup, group, at, count, count + 1);
-  SetCount(setup, group, count + 1);
+  SetLayerCount(setup, group, count + 1);
   Follow(setup, group);
 }
 
@@ -277,7 +182,7 @@ void RemoveLayer(Setup& setup, LayerGroup group, int index) {
   const int count = RowsInUse(setup, group);
   RequireRow(index, count);
   Rotate(setup, group, index, index + 1, count);
-  SetCount(setup, group, count - 1);
+  SetLayerCount(setup, group, count - 1);
 }
 
 void MoveLayer(Setup& setup, LayerGroup group, int from, int to) {
@@ -338,38 +243,6 @@ void TurnElement(Setup& setup) {
         break;
     }
   }
-}
-
-int CountOf(const CopiedLayers& layers) {
-  return std::visit([](const auto& rows) { return static_cast<int>(rows.size()); }, layers);
-}
-
-CopiedLayers CopyLayers(const Setup& setup, LayerGroup group, int first, int count) {
-  if (!HasFreeCount(group)) throw std::out_of_range("the number of these layers is not free");
-  if (count < 0 || first < 0 || first + count > RowsInUse(setup, group))
-    throw std::out_of_range("no layers to copy");
-  const auto collect = [&](auto layers, auto layer_of) -> CopiedLayers {
-    for (int i = first; i < first + count; ++i) layers.push_back(layer_of(i));
-    return layers;
-  };
-  switch (RowOf(group).family) {
-    case elements::MaterialFamily::kStructural:
-      return collect(std::vector<CopiedLeafLayer>(), [&](int i) { return LeafLayerOf(setup, group, i); });
-    case elements::MaterialFamily::kFibrous:
-      return collect(std::vector<CopiedFibrousLayer>(), [&](int i) { return FibrousRow(setup, group, i); });
-    case elements::MaterialFamily::kResilient:
-      return collect(std::vector<CopiedResilientLayer>(),
-                     [&](int i) { return setup.resilient.rows.at(static_cast<std::size_t>(i)); });
-  }
-  throw std::out_of_range("no layer group");
-}
-
-bool PasteLayers(Setup& setup, LayerGroup group, int at, const CopiedLayers& layers) {
-  return PutIn(setup, group, at, 0, layers);
-}
-
-bool ReplaceLayers(Setup& setup, LayerGroup group, const CopiedLayers& layers) {
-  return PutIn(setup, group, 0, RowsInUse(setup, group), layers);
 }
 
 }  // namespace velmar::calculation

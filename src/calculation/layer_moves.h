@@ -1,15 +1,11 @@
 #pragma once
 
-#include <array>
-#include <variant>
-#include <vector>
-
 #include "elements/layer_groups.h"
 #include "elements/setup.h"
 
 namespace velmar::calculation {
 
-// What a hand does to whole layers of a table: put in, take out, double, move, mirror, turn, copy. Rows keep
+// What a hand does to whole layers of a table: put in, take out, double, move, mirror, turn. Rows keep
 // all they hold, and the rows behind the last one in use are a reserve: a layer that is taken out goes there,
 // one that is put in comes from there, so that taking out what was put in leaves everything as it was. A
 // cavity follows its contents, as everywhere.
@@ -25,6 +21,9 @@ bool CanInsertLayer(const elements::Setup& setup, elements::LayerGroup group);
 bool CanRemoveLayer(const elements::Setup& setup, elements::LayerGroup group);
 /// Whether the layers of `group` can change places: there are two of them, and they are no damping layers.
 bool CanMoveLayers(const elements::Setup& setup, elements::LayerGroup group);
+/// The number of rows of `group` in use becomes `count`, which CanInsertLayer() and CanRemoveLayer() allow.
+/// @throws std::out_of_range for a group whose count is not free
+void SetLayerCount(elements::Setup& setup, elements::LayerGroup group, int count);
 
 /// A layer from the reserve stands in row `at` (0 to the number in use), and those from there on move down.
 /// @throws std::out_of_range where CanInsertLayer() says no, or for another row
@@ -54,37 +53,5 @@ bool CanTurn(const elements::Setup& setup);
 /// The element stands the other way round: the leaves change places, and all layers their order.
 /// @throws std::logic_error where CanTurn() says no
 void TurnElement(elements::Setup& setup);
-
-/// A layer of a leaf, with the damping layers on its left and right where it lies in a SEA leaf.
-struct CopiedLeafLayer {
-  elements::LayerRow<elements::StructuralMaterial> row{};
-  std::array<elements::DampingRow, 2> damping{};
-
-  bool operator==(const CopiedLeafLayer&) const = default;
-};
-using CopiedFibrousLayer = elements::LayerRow<elements::FibrousMaterial>;
-using CopiedResilientLayer = elements::LayerRow<elements::ResilientMaterial>;
-
-/// Layers on their way to another table, tab, variant or project, with all values of their materials.
-using CopiedLayers = std::variant<std::vector<CopiedLeafLayer>, std::vector<CopiedFibrousLayer>,
-                                  std::vector<CopiedResilientLayer>>;
-
-/// The number of layers in `layers`.
-int CountOf(const CopiedLayers& layers);
-
-/// The `count` rows of `group` from row `first` on.
-/// @throws std::out_of_range for a group whose count is not free, or rows that are not in use
-CopiedLayers CopyLayers(const elements::Setup& setup, elements::LayerGroup group, int first, int count);
-
-/// Puts `layers` into `group`, the first of them as row `at`. A leaf takes ticked damping layers as layers of
-/// their own, in the order in which they lie; a SEA leaf, which has no number of sheets, takes each sheet as
-/// a layer.
-/// @return false when they are of another family than the group, none at all, or more than it has room for;
-///         nothing has changed then
-/// @throws std::out_of_range for a group whose count is not free, or `at` beyond the rows in use
-bool PasteLayers(elements::Setup& setup, elements::LayerGroup group, int at, const CopiedLayers& layers);
-
-/// The same in place of all rows that are in use.
-bool ReplaceLayers(elements::Setup& setup, elements::LayerGroup group, const CopiedLayers& layers);
 
 }  // namespace velmar::calculation

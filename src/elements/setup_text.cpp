@@ -180,6 +180,45 @@ void VisitSetup(AnySetup& setup, Visit& visit) {
   }
 }
 
+template <typename Material>
+std::string MaterialText(const Material& material) {
+  std::vector<std::string> values;
+  VisitMaterial(material, [&](const auto& value) { values.push_back(TextOf(value)); });
+  return JoinTexts(values);
+}
+
+template <typename Material>
+bool TakeMaterial(const std::string& text, Material& material) {
+  const auto values = PartTexts(text);
+  if (!values) return false;
+  std::size_t i = 0;
+  bool all = true;
+  VisitMaterial(material, [&](auto& value) {
+    all = all && i < values->size() && Take(values->at(i), value);
+    ++i;
+  });
+  return all && i == values->size();
+}
+
+/// A row whose material is `material`, which may be the material or what stands for it.
+template <typename Material>
+std::string RowText(const LayerRow<Material>& row, const std::string& material) {
+  return JoinTexts({material, row.listed, row.thickness_text, std::to_string(row.multiplicity)});
+}
+
+/// Takes a row but for its material. @return the text of the material; nothing when `text` is no row
+template <typename Material>
+std::optional<std::string> TakeRow(std::string_view text, LayerRow<Material>& row) {
+  constexpr double kMostSheets = 999.0;
+  const auto parts = PartTexts(text);
+  if (!parts || parts->size() != 4 || !Take(parts->at(3), row.multiplicity) || row.multiplicity < 0 ||
+      row.multiplicity > kMostSheets)
+    return std::nullopt;
+  row.listed = parts->at(1);
+  row.thickness_text = parts->at(2);
+  return parts->at(0);
+}
+
 /// The materials of a text, each once, in the order of their numbers from 1.
 class Materials {
  public:
@@ -211,10 +250,7 @@ struct Collect {
       texts.emplace_back(std::move(name), std::string());
       return;
     }
-    std::vector<std::string> parts;
-    VisitMaterial(row.slot, [&](const auto& value) { parts.push_back(TextOf(value)); });
-    texts.emplace_back(std::move(name), JoinTexts({materials.NameOf(JoinTexts(parts)), row.listed,
-                                                   row.thickness_text, std::to_string(row.multiplicity)}));
+    texts.emplace_back(std::move(name), RowText(row, materials.NameOf(MaterialText(row.slot))));
   }
 };
 
@@ -238,25 +274,9 @@ struct Restore {
   }
   template <typename Material>
   bool TakeValue(const std::string& text, LayerRow<Material>& row) {
-    const auto parts = PartTexts(text);
-    if (!parts || parts->size() != 4) return false;
-    const auto material = texts.find(parts->at(0));
-    if (material == texts.end() || !Take(parts->at(3), row.multiplicity)) return false;
-    row.listed = parts->at(1);
-    row.thickness_text = parts->at(2);
-    return TakeMaterial(material->second, row.slot);
-  }
-  template <typename Material>
-  bool TakeMaterial(const std::string& text, Material& material) {
-    const auto values = PartTexts(text);
-    if (!values) return false;
-    std::size_t i = 0;
-    bool all = true;
-    VisitMaterial(material, [&](auto& value) {
-      all = all && i < values->size() && Take(values->at(i), value);
-      ++i;
-    });
-    return all && i == values->size();
+    const auto name = TakeRow(text, row);
+    const auto material = name ? texts.find(*name) : texts.end();
+    return material != texts.end() && TakeMaterial(material->second, row.slot);
   }
 };
 
@@ -270,18 +290,10 @@ const Setup& Blank() {
 bool IsWithinLimits(const Setup& setup) {
   constexpr int kMostTyped = 999;
   const auto within = [](int count, int lowest, int highest) { return count >= lowest && count <= highest; };
-  bool rows = true;
-  const auto sheets = [&](const auto& table) {
-    for (const auto& row : table) rows = rows && within(row.multiplicity, 0, kMostTyped);
-  };
-  sheets(setup.leaf1.rows);
-  sheets(setup.leaf2.rows);
-  sheets(setup.cavity.layers.rows);
-  sheets(setup.resilient.rows);
   const bool classes = std::ranges::all_of(setup.facade.components, [&](const FacadeComponent& component) {
     return within(component.tightness_class, 0, 4);
   });
-  return rows && classes && within(setup.leaf1.count, 1, LeafLayers::kCapacity) &&
+  return classes && within(setup.leaf1.count, 1, LeafLayers::kCapacity) &&
          within(setup.leaf2.count, 1, LeafLayers::kCapacity) &&
          within(setup.cavity.layers.count, 1, kMostTyped) &&
          within(setup.resilient.count, 0, ResilientLayers::kCapacity) &&
@@ -336,5 +348,23 @@ std::optional<Setup> ReadSetupText(std::string_view text) {
   if (!restore.whole || !all_known || !IsWithinLimits(setup)) return std::nullopt;
   return setup;
 }
+
+template <typename Material>
+std::string WriteRowText(const LayerRow<Material>& row) {
+  return RowText(row, MaterialText(row.slot));
+}
+
+template <typename Material>
+bool ReadRowText(std::string_view text, LayerRow<Material>& row) {
+  const auto material = TakeRow(text, row);
+  return material && TakeMaterial(*material, row.slot);
+}
+
+template std::string WriteRowText(const LayerRow<StructuralMaterial>&);
+template std::string WriteRowText(const LayerRow<FibrousMaterial>&);
+template std::string WriteRowText(const LayerRow<ResilientMaterial>&);
+template bool ReadRowText(std::string_view, LayerRow<StructuralMaterial>&);
+template bool ReadRowText(std::string_view, LayerRow<FibrousMaterial>&);
+template bool ReadRowText(std::string_view, LayerRow<ResilientMaterial>&);
 
 }  // namespace velmar::elements

@@ -21,4 +21,11 @@ std::string WriteSetupText(const Setup& setup);
 /// has a field that this program does not know.
 std::optional<Setup> ReadSetupText(std::string_view text);
 
+/// One row with all values of its material as a text that gives it back exactly.
+template <typename Material>
+std::string WriteRowText(const LayerRow<Material>& row);
+/// Takes the row of which `text` was written. @return false when it is none; `row` is then of no use
+template <typename Material>
+bool ReadRowText(std::string_view text, LayerRow<Material>& row);
+
 }  // namespace velmar::elements

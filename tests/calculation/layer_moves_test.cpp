@@ -6,8 +6,10 @@
 
 #include <gtest/gtest.h>
 
+#include "calculation/copied_layers.h"
 #include "elements/catalogue.h"
 #include "elements/parts.h"
+#include "elements/setup_text.h"
 #include "tests/support/random_setup.h"
 
 namespace velmar::calculation {
@@ -204,6 +206,33 @@ TEST_F(AnySetup, WhatIsCopiedReplacesItself) {
           << sea;
     }
   });
+}
+
+TEST_F(AnySetup, WhatIsCopiedReadsBackFromItsText) {
+  ForEach([](const elements::Setup& setup, std::mt19937_64& /*random*/) {
+    for (const LayerGroup group : kFreeGroups) {
+      CopiedLayers layers = CopyLayers(setup, group, 0, RowsInUse(setup, group));
+      if (auto* leaf = std::get_if<std::vector<CopiedLeafLayer>>(&layers)) {
+        // Damping that is not there is not told.
+        for (CopiedLeafLayer& layer : *leaf) {
+          for (elements::DampingRow& damping : layer.damping) {
+            if (!damping.ticked) damping = {};
+          }
+        }
+      }
+      EXPECT_EQ(ReadLayers(WriteLayers(layers)), layers);
+    }
+  });
+}
+
+TEST(CopiedLayers, AreRefusedAsAWhole) {
+  const CopiedLayers layers = CopyLayers(DoubleWall({"a", "b"}, {"x"}), LayerGroup::kLeaf1, 0, 2);
+  const std::string text = WriteLayers(layers);
+  ASSERT_EQ(ReadLayers(text), layers);
+  for (const std::string& wrong : {std::string(), std::string("famiglia=3\n"), "strato=\n" + text,
+                                   text + "strato=a\tb\tc\t1\n", text.substr(0, text.size() / 2)})
+    EXPECT_NE(ReadLayers(wrong), layers) << wrong;
+  EXPECT_FALSE(ReadLayers("famiglia=0\nsx=" + elements::WriteRowText(CopiedResilientLayer()) + '\n'));
 }
 
 TEST(Mirror, IsForTwoLeavesWithACavity) {
