@@ -25,7 +25,7 @@ struct TreeLine {
   MessageRow heading{};  ///< none: the entries of the handler `control`
 };
 
-constexpr std::array<TreeLine, 25> kTree = {{
+constexpr std::array<TreeLine, 27> kTree = {{
     {0, "tipo_calcolo_potere_fonoisolante", kSoundReductionIndexRow},
     {1, "cal_parete_singola", kSingleWallMenuRow},
     {2, "TIPO_PARETE_SINGOLA", {}},
@@ -51,6 +51,8 @@ constexpr std::array<TreeLine, 25> kTree = {{
     {0, "tipo_calcolo_calpestio", kImpactSoundPressureLevelRow},
     {1, "cal_solaio", {}},
     {1, "cal_solaio_new", {}},
+    {0, "ALTRI_MODELLI", kOtherModelsMenuRow},
+    {1, "MULTISTRATO", {}},
 }};
 
 QString ControlName(const CalculationRow& row) {

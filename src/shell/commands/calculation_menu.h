@@ -12,7 +12,7 @@ class QMenu;
 
 namespace velmar::shell {
 
-/// The actions of the 47 calculations, one each, shared by the calculation tree, the menus of the element
+/// The actions of all calculations, one each, shared by the calculation tree, the menus of the element
 /// buttons and the start screen. Each is called after its menu handler, with its index where that has
 /// several.
 class CalculationActions : public QObject {

@@ -139,10 +139,10 @@ void LayerRow::MakeFields(QWidget* page) {
 void LayerRow::MoveTo(QGridLayout& grid, int line) {
   if (check_ != nullptr) grid.addWidget(check_, line, kLeadColumn);
   if (number_ != nullptr) grid.addWidget(number_, line, kLeadColumn);
-  grid.addWidget(material_, line, kMaterialColumn);
-  grid.addWidget(thickness_, line, kThicknessColumn);
-  if (sheets_ != nullptr) grid.addWidget(sheets_, line, kSheetsColumn);
-  grid.addWidget(chooser_, line, kChooserColumn);
+  grid.addWidget(material_, line, kMaterialColumn + plan_.shift);
+  grid.addWidget(thickness_, line, kThicknessColumn + plan_.shift);
+  if (sheets_ != nullptr) grid.addWidget(sheets_, line, kSheetsColumn + plan_.shift);
+  grid.addWidget(chooser_, line, kChooserColumn + plan_.shift);
 }
 
 template <typename Visit>
@@ -151,6 +151,12 @@ void LayerRow::ForEachWidget(Visit&& visit) const {
   for (QWidget* widget : widgets) {
     if (widget != nullptr) visit(widget);
   }
+}
+
+bool LayerRow::Holds(const QWidget* widget) const {
+  bool holds = false;
+  ForEachWidget([&](const QWidget* one) { holds = holds || one == widget || one->isAncestorOf(widget); });
+  return holds;
 }
 
 void LayerRow::PutMaterial(const std::string& name) {
@@ -207,19 +213,19 @@ void LayerRow::Drag() {
 }
 
 std::vector<QWidget*> AddLayerHeads(QGridLayout& grid, int line, const PageContext& context, bool with_sheets,
-                                    QWidget* page) {
+                                    QWidget* page, int shift) {
   const auto& words = context.Words();
   QString material = Text(words, kMaterialRow);
   if (material.endsWith(':')) material.chop(1);
   std::vector<QWidget*> heads;
   const auto add = [&](const QString& text, Qt::Alignment alignment, int column) {
     heads.push_back(Head(text, alignment, page));
-    grid.addWidget(heads.back(), line, column);
+    grid.addWidget(heads.back(), line, column + shift);
   };
   add(material, Qt::AlignLeft, LayerRow::kMaterialColumn);
   add(Text(words, kLayerThicknessRow), Qt::AlignRight, LayerRow::kThicknessColumn);
   if (with_sheets) add(Text(words, kSheetsRow), Qt::AlignRight, LayerRow::kSheetsColumn);
-  grid.setColumnStretch(LayerRow::kMaterialColumn, 1);
+  grid.setColumnStretch(LayerRow::kMaterialColumn + shift, 1);
   grid.setHorizontalSpacing(8);
   grid.setVerticalSpacing(6);
   return heads;

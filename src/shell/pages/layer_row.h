@@ -25,6 +25,7 @@ struct LayerRowPlan {
   const char* count_box = nullptr;  ///< control name of the number of sheets; none: the row has no such box
   const char* check = nullptr;      ///< control name of the damping check; none: no check
   QString label{};                  ///< what stands before the list; empty: the row's number
+  int shift = 0;                    ///< columns between the lead and the material
 };
 
 /// One row of a layer table, in one line of a grid: number or check, material, thickness, sheets, button of
@@ -46,6 +47,9 @@ class LayerRow : public QObject {
 
   /// Shows the row, or hides it.
   void Show(const elements::Setup& setup, bool visible);
+
+  /// Whether `widget` is one of the row's fields.
+  bool Holds(const QWidget* widget) const;
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
@@ -71,8 +75,9 @@ class LayerRow : public QObject {
 };
 
 /// The heads over the columns of layer rows: material, thickness, and sheets where the rows have them.
+/// @param shift as the rows have it
 /// @return the heads, to be hidden where there is no row
 std::vector<QWidget*> AddLayerHeads(QGridLayout& grid, int line, const PageContext& context, bool with_sheets,
-                                    QWidget* page);
+                                    QWidget* page, int shift = 0);
 
 }  // namespace velmar::shell

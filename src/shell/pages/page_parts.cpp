@@ -33,8 +33,8 @@ TableHead AddTableHead(const TableHeadPlan& plan, PageContext& context, QVBoxLay
   TableHead head;
   QHBoxLayout* line = AddLine(column);
   head.count = new CountBox(plan.count_name, plan.lowest, plan.highest, page);
-  head.count->setAccessibleDescription(Text(context.Words(), kMaterialCountRow));
-  head.count_label = LabelFor(head.count, kMaterialCountRow, context, page);
+  head.count->setAccessibleDescription(Text(context.Words(), plan.count_label));
+  head.count_label = LabelFor(head.count, plan.count_label, context, page);
   line->addWidget(head.count_label);
   line->addWidget(head.count);
   line->addSpacing(2 * kPageSpacing);

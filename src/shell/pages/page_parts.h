@@ -42,6 +42,7 @@ struct TableHeadPlan {
   const char* count_name = "";
   int lowest = 1;
   int highest = 1;
+  MessageRow count_label = kMaterialCountRow;
   QString filter_name{};  ///< empty: the table has no filter
   FilterId filter = FilterId::kLeaf1;
   MessageRow filter_label = kMaterialTypeFilterRow;

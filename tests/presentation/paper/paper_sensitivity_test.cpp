@@ -144,6 +144,15 @@ elements::Setup Full(Calculation calculation) {
             .mass_kg_m2 = 30.0F,
             .tightness_class = 1};
   window.band_texts.fill("36");
+  auto& strata = setup.multilayer.strata;
+  setup.multilayer.count = 5;
+  SetSolid(strata[0].solid, "Lamiera", 1.0);
+  strata[0].kind = elements::StratumKind::kProfiledSheet;
+  strata[1].connection = elements::CavityConnection::kSteelStuds;
+  strata[2].kind = elements::StratumKind::kFibre;
+  samples::SetRow(strata[2].fibre, "Lana di roccia", 60.0, 40.0);
+  SetSolid(strata[3].solid, "Gesso", 12.5);
+  SetSolid(strata[4].solid, "Fibrogesso", 12.5);
   return setup;
 }
 
@@ -174,6 +183,15 @@ std::vector<Change> Changes(const elements::CalculationRow& row) {
       {Field::kBaseThickness, [](auto& setup) { setup.base.thickness_mm = 333.0; }},
       {Field::kSimplified, [](auto& setup) { setup.facade.simplified = true; }},
       {Field::kTightness, [](auto& setup) { setup.facade.components[0].tightness_class = 3; }},
+      {Field::kStratumKind,
+       [](auto& setup) { setup.multilayer.strata[4].kind = elements::StratumKind::kBondedPlate; }},
+      {Field::kStratumThickness, [](auto& setup) { setup.multilayer.strata[1].thickness_text = "71"; }},
+      {Field::kConnection,
+       [](auto& setup) { setup.multilayer.strata[1].connection = elements::CavityConnection::kWoodStuds; }},
+      {Field::kConnectionNumber, [](auto& setup) { setup.multilayer.strata[1].connection_text = "43"; }},
+      {Field::kProfileHeight, [](auto& setup) { setup.multilayer.strata[0].profile_height_text = "57"; }},
+      {Field::kProfilePitch, [](auto& setup) { setup.multilayer.strata[0].profile_pitch_text = "207"; }},
+      {Field::kTracks, [](auto& setup) { setup.multilayer.framed = true; }},
   };
   if (!row.stacks.Has(Stack::kComponents)) return changes;
   const std::vector<Change> of_components = {
