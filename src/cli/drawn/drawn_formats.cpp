@@ -33,7 +33,7 @@ std::string Svg(const ReportContent& content) {
 presentation::PaginaDiStampa PageOf(const ReportContent& content) {
   return presentation::PaginaDi(content.setup,
                                 {content.totals.thickness_mm, content.totals.surface_mass_kg_m2},
-                                &content.result, content.words, WholeChart(content));
+                                &content.result, content.words, WholeChart(content), content.confidence);
 }
 
 std::vector<ReportFormat> DrawnFormats(const std::filesystem::path& templates) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QColor>
+#include <array>
 
 namespace velmar::presentation {
 
@@ -10,6 +11,9 @@ inline constexpr QColor kReferenceColour{0x16, 0x25, 0x4B};
 inline constexpr QColor kBaseColour{0xA0, 0xA0, 0xA0};
 inline constexpr QColor kLaboratoryColour{0xE7, 0x74, 0x27};
 inline constexpr QColor kInSituColour{0x00, 0xC0, 0x00};
+/// What other models say, one colour each.
+inline constexpr std::array kOpinionColours = {QColor{0x1F, 0x77, 0xB4}, QColor{0x8C, 0x56, 0x4B},
+                                               QColor{0xB8, 0x86, 0x0B}, QColor{0x2F, 0x4F, 0x4F}};
 inline constexpr QColor kVerticalGridColour{0xE0, 0xE0, 0xE0};
 inline constexpr QColor kHorizontalGridColour{0xE9, 0xE9, 0xE9};
 

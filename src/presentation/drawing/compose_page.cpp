@@ -12,8 +12,6 @@
 namespace velmar::presentation {
 namespace {
 
-/// A line of small text under the results, in heights of its letters.
-constexpr double kNoteLine = 1.2;
 constexpr double kFrameInset = 0.3 * kPageInch;
 constexpr double kContentInset = 0.55 * kPageInch;
 constexpr double kGap = 0.08 * kPageInch;
@@ -23,6 +21,13 @@ constexpr double kTallestChart = 3.8 * kPageInch;
 constexpr double kLargestChartPart = 0.44;
 constexpr std::size_t kLongLayerList = 14;
 constexpr double kDrawingPixels = kTextPoints * 96.0 / 72.0;
+
+/// The height of small text under the results, with a little air below it.
+double NoteHeight(const std::string& text, double width) {
+  if (text.empty()) return 0.0;
+  const QFont font = PageFont(kTextPoints);
+  return WrappedHeight(FromWords(text), font, width) + 0.2 * LineHeight(font);
+}
 
 /// What is left of the page; blocks take their room from its top.
 class Composer {
@@ -96,12 +101,12 @@ class Composer {
   /// Chart and result at the left, the bands at the right.
   void DrawResult() {
     const double line = 1.35 * LineHeight(PageFont(kResultPoints, true));
-    double note = 0.0;
-    for (const std::string* text : {&page_.further_results, &page_.results_note}) {
-      if (!text->empty()) note += kNoteLine * LineHeight(PageFont(kTextPoints));
-    }
-    const double results = line * static_cast<double>(page_.results.size()) + note;
-    if (!page_.chart && page_.bands.heads.empty()) {
+    const bool beside = page_.chart || !page_.bands.heads.empty();
+    const double width =
+        room_.width() - (beside && !page_.bands.heads.empty() ? kBandTableWidth + 2.0 * kGap : 0.0);
+    const double results = line * static_cast<double>(page_.results.size()) +
+                           NoteHeight(page_.further_results, width) + NoteHeight(page_.results_note, width);
+    if (!beside) {
       DrawResultLines(room_, line);
       Take(results + (page_.results.empty() ? 0.0 : kGap));
       return;
@@ -137,10 +142,10 @@ class Composer {
     }
     for (const std::string* text : {&page_.further_results, &page_.results_note}) {
       if (text->empty()) continue;
-      const double height = LineHeight(PageFont(kTextPoints));
+      const double height = NoteHeight(*text, area.width());
       DrawWrapped(painter_, {area.topLeft(), QSizeF(area.width(), height)}, PageFont(kTextPoints),
-                  FromWords(*text), Qt::AlignLeft | Qt::AlignVCenter);
-      area.setTop(area.top() + kNoteLine * height);
+                  FromWords(*text), Qt::AlignLeft | Qt::AlignTop);
+      area.setTop(area.top() + height);
     }
   }
 

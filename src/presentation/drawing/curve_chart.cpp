@@ -99,11 +99,11 @@ void DrawDot(QPainter& painter, const QPointF& centre, const QColor& colour) {
 }
 
 void DrawCurve(QPainter& painter, const ChartLayout& layout, const CurveChart& chart, const ChartRange& range,
-               const acoustics::Spectrum& values, const QColor& colour) {
+               const acoustics::Spectrum& values, const QColor& colour, Qt::PenStyle style = Qt::SolidLine) {
   const auto at = [&](std::size_t band) {
     return layout.At(static_cast<double>(band), LogicalY(values[band], range));
   };
-  painter.setPen(QPen(colour, kCurveWidth, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+  painter.setPen(QPen(colour, kCurveWidth, style, Qt::RoundCap, Qt::RoundJoin));
   for (const ChartSegment& segment : CurveSegments(values, chart.first_band, chart.last_band)) {
     painter.drawLine(at(segment.from), at(segment.to));
   }
@@ -136,6 +136,8 @@ void DrawCurves(QPainter& painter, const ChartLayout& layout, const CurveChart& 
   DrawCurve(painter, layout, chart, range, chart.values, kCalculatedColour);
   if (chart.laboratory) DrawCurve(painter, layout, chart, range, *chart.laboratory, kLaboratoryColour);
   if (chart.in_situ) DrawCurve(painter, layout, chart, range, *chart.in_situ, kInSituColour);
+  for (const FurtherCurve& curve : chart.further)
+    DrawCurve(painter, layout, chart, range, curve.values, curve.colour, Qt::DotLine);
   painter.restore();
 }
 

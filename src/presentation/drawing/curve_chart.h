@@ -1,11 +1,13 @@
 #pragma once
 
+#include <QColor>
 #include <QFont>
 #include <QRectF>
 #include <array>
 #include <cstddef>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "acoustics/airborne_rating.h"
 #include "acoustics/bands.h"
@@ -30,6 +32,13 @@ struct ChartWords {
   std::string note{};  ///< in the middle of the plot, as where there is no curve
 };
 
+/// A curve beside the calculated one, drawn with dashes.
+struct FurtherCurve {
+  std::string name{};  ///< in the legend
+  acoustics::Spectrum values{};
+  QColor colour{};
+};
+
 /// A result as curves over the bands. A value of exactly 0 is a band without a value. Levels in dB.
 struct CurveChart {
   acoustics::Spectrum values{};
@@ -38,6 +47,7 @@ struct CurveChart {
   std::optional<acoustics::Spectrum> base;        ///< the element under a lining
   std::optional<acoustics::Spectrum> laboratory;  ///< compared with, measured in the laboratory
   std::optional<acoustics::Spectrum> in_situ;     ///< compared with, measured in a building
+  std::vector<FurtherCurve> further{};            ///< what other models say
   std::string laboratory_name{};                  ///< of the structure compared with; empty: none is chosen
   std::string in_situ_name{};
   bool autoscale = false;    ///< false: 10 to 80 dB

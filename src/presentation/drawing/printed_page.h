@@ -36,7 +36,7 @@ struct PaginaDiStampa {
   std::optional<CurveChart> chart{};
   std::vector<std::string> results{};  ///< bold lines
   std::string further_results{};       ///< terms and classes beyond the rated bands, in small
-  std::string results_note{};          ///< what there is to know of them, in small
+  std::string results_note{};          ///< what there is to know of them, in small, with line breaks
   PageTable bands{};                   ///< frequency, level, reference; no heads: no table
   PageTable elements{};                ///< parts of a facade, or a lining with its base
   std::string structure_heading{};
@@ -53,9 +53,10 @@ struct PageTotals {
 
 /// The page of a calculation. @param result nothing before a run: the page then shows the set-up alone.
 /// @param chart the chart as shown, with its overlays; without one it is made of `result`
+/// @param confidence what is known of the error of `result`
 PaginaDiStampa PaginaDi(const elements::Setup& setup, const PageTotals& totals,
                         const elements::ResultSet* result, const Words& words,
-                        std::optional<CurveChart> chart = std::nullopt);
+                        std::optional<CurveChart> chart = std::nullopt, const Message& confidence = {});
 
 /// `ComponiPagina`: draws `page` on a paper of `paper_inches` whose corner is the painter's origin; one inch
 /// of paper takes `units_per_inch` of the painter's units (the target's resolution times the factor of

@@ -4,12 +4,14 @@
 #include "presentation/export/report_chart.h"
 #include "shell/project/project_files.h"
 #include "shell/results/results_panel.h"
+#include "validation/second_opinion.h"
 
 namespace velmar::shell {
 namespace {
 
 printing::PrintedDocument DocumentOn(const Desk& desk) {
-  return DocumentOf(desk.open, desk.speech.words, desk.results.Chart(), desk.files.File());
+  return DocumentOf(desk.open, desk.speech.words, desk.results.Chart(), desk.files.File(),
+                    validation::ConfidenceOf(desk.open.Setup(), desk.open.Result(), desk.accuracy.Get()));
 }
 
 }  // namespace
@@ -17,14 +19,14 @@ printing::PrintedDocument DocumentOn(const Desk& desk) {
 printing::PrintedDocument DocumentOf(const calculation::OpenCalculation& open,
                                      const presentation::Words& words,
                                      const std::optional<presentation::CurveChart>& chart,
-                                     const std::filesystem::path& project) {
+                                     const std::filesystem::path& project, const Message& confidence) {
   const elements::Setup& setup = open.Setup();
   const calculation::Totals& totals = open.CurrentTotals();
   const auto& result = open.Result();
   printing::PrintedDocument document;
   document.page = presentation::PaginaDi(
       setup, {totals.thickness_mm, totals.surface_mass_kg_m2}, result ? &*result : nullptr, words,
-      result ? presentation::WholeChartOf(setup, *result, words, chart) : std::nullopt);
+      result ? presentation::WholeChartOf(setup, *result, words, chart) : std::nullopt, confidence);
   document.title = document.page.title;
   document.pdf_start = BesideProject(project, QStringLiteral(".pdf"));
   return document;

@@ -15,11 +15,12 @@ namespace velmar::shell {
 /// The page of the open calculation, with its result where there is one.
 /// @param chart as the screen shows it, with scale and overlays: a curve that leaves the scale is printed
 ///              whole; none: the chart is made of the result
+/// @param confidence what is known of the error of the result
 /// @param project the file beside which a PDF is offered; empty: none
 printing::PrintedDocument DocumentOf(const calculation::OpenCalculation& open,
                                      const presentation::Words& words,
                                      const std::optional<presentation::CurveChart>& chart,
-                                     const std::filesystem::path& project);
+                                     const std::filesystem::path& project, const Message& confidence);
 
 /// Print preview, print and the choice of a printer, which is kept while the program runs.
 class PaperCommands : public QObject {

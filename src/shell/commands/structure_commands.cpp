@@ -8,6 +8,7 @@
 #include "foundation/failure.h"
 #include "foundation/message_rows.h"
 #include "presentation/texts/descriptions.h"
+#include "presentation/texts/result_notes.h"
 #include "shell/fields/phrases.h"
 #include "shell/pages/element_parts.h"
 #include "shell/structures/saved_results_window.h"
@@ -119,7 +120,9 @@ void StructureCommands::Store(QWidget* /*parent*/) {
                               {.name = ToUtf8(name.trimmed()),
                                .description = presentation::ResultDescription(setup, speech_.words),
                                .thickness_mm = open_.CurrentTotals().thickness_mm,
-                               .mass_kg_m2 = open_.CurrentTotals().surface_mass_kg_m2});
+                               .mass_kg_m2 = open_.CurrentTotals().surface_mass_kg_m2,
+                               .messages = presentation::Joined(presentation::RangeNotes(
+                                   *setup.calculation, *open_.Result(), speech_.words))});
     storage::ResultsStore store(results_file_);
     const storage::SaveStatus status = store.Save(storage::TableFor(RowOf(*setup.calculation).family), row);
     if (status == storage::SaveStatus::kNameExists) own_.tools.tell(Text(speech_.words, kResultExistsRow));

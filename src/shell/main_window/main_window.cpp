@@ -22,6 +22,7 @@
 #include "shell/pages/element_header.h"
 #include "shell/pages/input_tabs.h"
 #include "shell/results/results_panel.h"
+#include "shell/second_opinion/second_opinion_panel.h"
 
 namespace velmar::shell {
 namespace {
@@ -58,13 +59,14 @@ MainWindow::MainWindow(const WindowServices& services, QWidget* parent)
       files_(services.open, services, services, memory_, recovery_),
       table_(services.open, services.words),
       help_(services, services, services.places),
-      results_(new ResultsPanel(services.open, services, services.overlay, this)),
+      results_(new ResultsPanel(services.open, services, services.accuracy, services.overlay, this)),
       commands_({.window = *this,
                  .open = services.open,
                  .speech = services,
                  .files = files_,
                  .table = table_,
                  .results = *results_,
+                 .accuracy = services.accuracy,
                  .help = &help_,
                  .structures = services.structure_commands,
                  .materials = services.material_commands,
@@ -83,6 +85,9 @@ MainWindow::MainWindow(const WindowServices& services, QWidget* parent)
   addToolBar(tool_bar_);
   // Shortcuts work whether or not their menu was ever open.
   for (const Command& command : Commands()) addAction(commands_.Of(command.id));
+  opinion_ = new SecondOpinionPanel(services.open, services, services.accuracy, this);
+  results_->AddOverlay(opinion_->Curves());
+  results_->AddFoot(opinion_);
   MakeCentre();
   Connect();
   sides_->setSizes({kInputsWidth, kFirstSize.width() - kInputsWidth});
@@ -164,6 +169,7 @@ void MainWindow::ShowAll() {
   header_->Show();
   tabs_->Show(setup);
   results_->Show();
+  opinion_->Follow();
 }
 
 // Only once they have their place on the screen do the sides keep what they are given; what the inputs leave

@@ -25,6 +25,7 @@ class EditMenu;
 class ElementHeader;
 class InputTabs;
 class ResultsPanel;
+class SecondOpinionPanel;
 class StartScreen;
 
 /// The main window (`Form1`): composes commands, pages and results around the one open calculation, and owns
@@ -70,6 +71,7 @@ class MainWindow : public QMainWindow {
   OpenTable table_;
   HelpCommands help_;
   ResultsPanel* results_ = nullptr;
+  SecondOpinionPanel* opinion_ = nullptr;
   CommandSet commands_;
   CalculationActions calculations_;
   CommandToolBar* tool_bar_ = nullptr;

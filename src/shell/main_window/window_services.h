@@ -12,6 +12,7 @@
 #include "shell/pages/page_services.h"
 #include "shell/project/project_services.h"
 #include "shell/results/chart_overlay.h"
+#include "validation/known_accuracy.h"
 
 namespace velmar::shell {
 
@@ -39,6 +40,7 @@ struct WindowServices : Speech, PageServices, ProjectServices, HelpServices {
   }
 
   calculation::OpenCalculation& open;
+  validation::KnownAccuracy accuracy{};  ///< of the errors of the models
   WindowPlaces places{};
   ChartOverlay* overlay = nullptr;
   // A window that this program does not have is null; its command says so.

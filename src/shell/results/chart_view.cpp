@@ -89,6 +89,7 @@ QString ChartView::BandText(std::size_t band) const {
   add(chart_.base, chart_.words.base);
   add(chart_.laboratory, chart_.words.laboratory);
   add(chart_.in_situ, chart_.words.in_situ);
+  for (const presentation::FurtherCurve& curve : chart_.further) add(curve.values, curve.name);
   return lines.join('\n');
 }
 

@@ -18,6 +18,7 @@
 #include "shell/fields/phrases.h"
 #include "shell/pages/page_parts.h"
 #include "shell/results/chart_view.h"
+#include "shell/results/result_notes_view.h"
 #include "shell/results/section_view.h"
 #include "shell/results/single_numbers_panel.h"
 
@@ -77,12 +78,14 @@ std::pair<QWidget*, QLabel*> MakePair(const char* frame_name, const std::pair<co
 }  // namespace
 
 ResultsPanel::ResultsPanel(const calculation::OpenCalculation& open, const Speech& speech,
-                           ChartOverlay* overlay, QWidget* parent)
-    : QWidget(parent), open_(open), speech_(speech), overlay_(overlay) {
+                           const validation::KnownAccuracy& accuracy, ChartOverlay* overlay, QWidget* parent)
+    : QWidget(parent), open_(open), speech_(speech), accuracy_(accuracy) {
   setObjectName("prnFrame1");
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(kPageSpacing, kPageSpacing, kPageSpacing, kPageSpacing);
   column->addWidget(MakeRatings());
+  notes_ = new ResultNotesView(speech_, this);
+  column->addWidget(notes_);
   column->addWidget(MakeNumbers());
   splitter_ = new QSplitter(Qt::Vertical, this);
   splitter_->addWidget(MakeChart());
@@ -91,8 +94,15 @@ ResultsPanel::ResultsPanel(const calculation::OpenCalculation& open, const Speec
   splitter_->setStretchFactor(1, 2);
   splitter_->setChildrenCollapsible(false);
   column->addWidget(splitter_, 1);
-  if (overlay_ != nullptr) connect(overlay_, &ChartOverlay::Changed, this, &ResultsPanel::Show);
+  if (overlay != nullptr) AddOverlay(*overlay);
 }
+
+void ResultsPanel::AddOverlay(ChartOverlay& overlay) {
+  overlays_.push_back(&overlay);
+  connect(&overlay, &ChartOverlay::Changed, this, &ResultsPanel::Show);
+}
+
+void ResultsPanel::AddFoot(QWidget* widget) { layout()->addWidget(widget); }
 
 QWidget* ResultsPanel::MakeRatings() {
   auto* frame = new QWidget(this);
@@ -213,6 +223,7 @@ void ResultsPanel::ShowRatings(const elements::Setup& setup, const elements::Res
   improvement_frame_->setVisible(improves && rated);
   impact_improvement_->setText(Decibels(shown.delta_lnw));
   impact_frame_->setVisible(impact && rated && shown.delta_lnw.has_value());
+  notes_->Show(setup, result, accuracy_.Get());
   ShowNumbers();
 }
 
@@ -234,7 +245,7 @@ void ResultsPanel::ShowChart() {
   autoscale_->setEnabled(result.has_value());
   if (shown_) {
     shown_->autoscale = autoscale_->isChecked();
-    if (overlay_ != nullptr) overlay_->LayOver(*shown_);
+    for (ChartOverlay* overlay : overlays_) overlay->LayOver(*shown_);
   }
   // A result without a curve says so in its place.
   const std::string note = result && !shown_ ? speech_.words(kRatingsOnlyRow) : std::string();

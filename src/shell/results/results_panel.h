@@ -2,12 +2,14 @@
 
 #include <QWidget>
 #include <optional>
+#include <vector>
 
 #include "calculation/open_calculation.h"
 #include "presentation/drawing/curve_chart.h"
 #include "presentation/drawing/section.h"
 #include "shell/fields/boxes.h"
 #include "shell/results/chart_overlay.h"
+#include "validation/known_accuracy.h"
 
 class QCheckBox;
 class QLabel;
@@ -17,6 +19,7 @@ class QToolButton;
 namespace velmar::shell {
 
 class ChartView;
+class ResultNotesView;
 class SectionView;
 class SingleNumbersPanel;
 
@@ -27,8 +30,14 @@ class ResultsPanel : public QWidget {
  public:
   /// @param open and what follows outlive the panel
   /// @param overlay further curves; none: the chart shows the result alone
-  ResultsPanel(const calculation::OpenCalculation& open, const Speech& speech, ChartOverlay* overlay,
-               QWidget* parent = nullptr);
+  /// @param accuracy what is known of the errors of the models
+  ResultsPanel(const calculation::OpenCalculation& open, const Speech& speech,
+               const validation::KnownAccuracy& accuracy, ChartOverlay* overlay, QWidget* parent = nullptr);
+
+  /// Lays the curves of `overlay`, which outlives the panel, over those that are there.
+  void AddOverlay(ChartOverlay& overlay);
+  /// Puts `widget` below everything, across the whole width.
+  void AddFoot(QWidget* widget);
 
   /// Shows set-up and result as they are now.
   void Show();
@@ -56,7 +65,8 @@ class ResultsPanel : public QWidget {
 
   const calculation::OpenCalculation& open_;
   const Speech& speech_;
-  ChartOverlay* overlay_ = nullptr;
+  const validation::KnownAccuracy& accuracy_;
+  std::vector<ChartOverlay*> overlays_{};
   QLabel* rating_name_ = nullptr;
   QLabel* rating_ = nullptr;
   QLabel* due_ = nullptr;
@@ -66,6 +76,7 @@ class ResultsPanel : public QWidget {
   QLabel* improvement_ = nullptr;
   QWidget* impact_frame_ = nullptr;
   QLabel* impact_improvement_ = nullptr;
+  ResultNotesView* notes_ = nullptr;
   QToolButton* open_numbers_ = nullptr;
   SingleNumbersPanel* numbers_ = nullptr;
   QCheckBox* autoscale_ = nullptr;

@@ -8,7 +8,9 @@
 #include <QUrl>
 #include <array>
 #include <memory>
+#include <stdexcept>
 
+#include "application/accuracy_file.h"
 #include "application/environment.h"
 #include "application/projects.h"
 #include "calculation/material_choice.h"
@@ -55,6 +57,19 @@ WindowPlaces Places() {
   places.settings = folder(QStandardPaths::AppConfigLocation) / "finestra.ini";
   places.recovery = folder(QStandardPaths::AppDataLocation) / "recupero";
   return places;
+}
+
+/// What came with the program; where it cannot be read nothing is known, and nothing is claimed.
+validation::Accuracy ShippedAccuracy() {
+  const auto shipped = storage::ShippedDataFolder(storage::ProgramFolder());
+  if (!shipped) return {};
+  try {
+    return application::ReadAccuracy(*shipped / application::kValidationFolder /
+                                     application::kPredictionsFile);
+  } catch (const std::runtime_error& failure) {
+    qWarning("%s", failure.what());
+    return {};
+  }
 }
 
 template <typename Material>
@@ -112,6 +127,7 @@ struct Desktop {
     services.write_project = [this](const std::filesystem::path& file, const elements::Setup& setup) {
       storage::SaveProject(file, setup, unknown);
     };
+    services.accuracy = validation::KnownAccuracy([] { return ShippedAccuracy(); });
     structure_commands = std::make_unique<StructureCommands>(
         open, services, services.places.settings,
         structures::LibraryPlaces{environment.configuration.CartellaLibreria(),

@@ -105,7 +105,9 @@ void ComparisonPanel::Show(const std::optional<MeasuredTest>& test) {
   const QString none = test ? QStringLiteral("-") : tools_.Text(kNoStructureRow);
   rating_->setText(rating.isEmpty() ? none : rating + QStringLiteral(" dB"));
   rating_->setEnabled(test.has_value());
-  description_->setPlainText(shell::ToQt(shown.part.description));
+  QString description = shell::ToQt(shown.part.description);
+  if (!shown.notes.empty()) description += (description.isEmpty() ? "" : "\n") + shell::ToQt(shown.notes);
+  description_->setPlainText(description);
   if (IsTicked()) changed_();
 }
 

@@ -4,6 +4,7 @@
 #include <QClipboard>
 #include <QHBoxLayout>
 #include <QHeaderView>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMimeData>
 #include <QPlainTextEdit>
@@ -123,6 +124,13 @@ QWidget* SavedResultsWindow::MakeDetails() {
   description_->setFixedHeight(fontMetrics().height() * 5);
   column->addWidget(name_);
   column->addWidget(description_);
+  messages_ = new QLabel(details);
+  messages_->setObjectName(QStringLiteral("Messaggi"));
+  messages_->setWordWrap(true);
+  messages_->setTextInteractionFlags(Qt::TextSelectableByMouse);
+  messages_->setAccessibleName(tools_.Text(kStoredMessagesRow));
+  messages_->hide();
+  column->addWidget(messages_);
   return details;
 }
 
@@ -186,6 +194,10 @@ void SavedResultsWindow::ShowSelected() {
   name_->setCursorPosition(0);
   description_->setPlainText(current.siblingAtColumn(1).data().toString());
   const bool any = current.isValid();
+  QString messages;
+  if (any) tools_.Try([&] { messages = shell::ToQt(source_.messages(Kind(), SelectedName())); });
+  messages_->setText(messages);
+  messages_->setVisible(!messages.isEmpty());
   copy_->setEnabled(any);
   delete_->setEnabled(any);
   // A level of impact sound is no reduction index: a facade would be wrong with it.

@@ -109,6 +109,7 @@ class Library {
       if (!result) return std::nullopt;
       MeasuredTest shown;
       shown.part = PartOf(*result);
+      shown.notes = result->messages;
       return shown;
     }
     const storage::LibraryFolder folder = FolderOf(file.branch);
@@ -157,6 +158,10 @@ ResultSource StoredResults(const std::filesystem::path& file) {
   source.copy = [store](ResultKind kind, const std::string& name) {
     const auto result = store->Find(TableOf(kind), name);
     return result ? storage::CopyOf(TableOf(kind), *result) : CopiedTable();
+  };
+  source.messages = [store](ResultKind kind, const std::string& name) {
+    const auto result = store->Find(TableOf(kind), name);
+    return result ? result->messages : std::string();
   };
   source.remove = [store](ResultKind kind, const std::string& name) {
     return store->Delete(TableOf(kind), name);

@@ -29,6 +29,8 @@ struct ResultSource {
   std::function<std::optional<calculation::FacadePart>(ResultKind, const std::string& name)> find;
   /// The fields of a stored result as they go to the clipboard; empty when there is none of that name.
   std::function<CopiedTable(ResultKind, const std::string& name)> copy;
+  /// What the run of a stored result told, a line each; empty when it told nothing.
+  std::function<std::string(ResultKind, const std::string& name)> messages;
   /// @return false when there was none of exactly that name
   std::function<bool(ResultKind, const std::string& name)> remove;
 };

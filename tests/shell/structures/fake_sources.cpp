@@ -32,6 +32,7 @@ ResultSource FakeResults::Source() {
     const auto found = place(kind, name);
     return found == tables[kind].end() ? std::nullopt : std::optional(*found);
   };
+  source.messages = [this](ResultKind /*kind*/, const std::string& name) { return messages[name]; };
   source.copy = [this, place](ResultKind kind, const std::string& name) {
     const auto found = place(kind, name);
     if (found == tables[kind].end()) return CopiedTable();

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QHeaderView>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMimeData>
 #include <QPlainTextEdit>
@@ -63,6 +64,15 @@ TEST_F(SavedResultsWindowTest, TheOptionShowsTheImpactResults) {
   Child<QRadioButton>(*window_, "Option1_1").click();
   ASSERT_EQ(Grid().model()->rowCount(), 1);
   EXPECT_EQ(Child<QLineEdit>(*window_, "Text2").text(), "Solaio x");
+}
+
+TEST_F(SavedResultsWindowTest, WhatTheRunOfAResultToldStandsBelowIt) {
+  results_.messages["Tramezzo"] = "Fuori dal campo di validità";
+  Open();
+  EXPECT_FALSE(Child<QLabel>(*window_, "Messaggi").isVisible());
+  Grid().selectRow(1);
+  EXPECT_TRUE(Child<QLabel>(*window_, "Messaggi").isVisible());
+  EXPECT_EQ(Child<QLabel>(*window_, "Messaggi").text(), "Fuori dal campo di validità");
 }
 
 TEST_F(SavedResultsWindowTest, LiningsAreNotOffered) {

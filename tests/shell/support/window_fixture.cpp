@@ -7,6 +7,7 @@
 #include <QTest>
 #include <clocale>
 
+#include "application/accuracy_file.h"
 #include "application/projects.h"
 #include "calculation/material_choice.h"
 #include "storage/materials/material_store.h"
@@ -63,6 +64,12 @@ std::vector<storage::ListedMaterial> ListOf(MaterialFamily family) {
   return {};
 }
 
+validation::Accuracy Known() {
+  static const validation::Accuracy accuracy = application::ReadAccuracy(
+      std::filesystem::path(SHARE) / application::kValidationFolder / application::kPredictionsFile);
+  return accuracy;
+}
+
 elements::Setup FirstSetup() {
   elements::Setup setup;
   calculation::SelectFirstMaterials(setup, &Rows<elements::StructuralMaterial>().front().record,
@@ -98,6 +105,7 @@ WindowFixture::WindowFixture() {
   services.boxes.choose_file_to_open = [this](const FileQuestion&) { return file; };
   services.boxes.choose_file_to_save = [this](const FileQuestion&) { return file; };
   services.version = "2.0.0";
+  services.accuracy = validation::KnownAccuracy(Known);
   open.Replace(FirstSetup());
   services.overlay = &overlay;
   MakeWindow();
