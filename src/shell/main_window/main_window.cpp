@@ -11,6 +11,7 @@
 #include <QVBoxLayout>
 
 #include "calculation/select_calculation.h"
+#include "calculation/usual_layers.h"
 #include "foundation/message_rows.h"
 #include "shell/commands/edit_menu.h"
 #include "shell/commands/menus.h"
@@ -145,8 +146,14 @@ void MainWindow::Begin(elements::ElementButton kind) {
 
 void MainWindow::Choose(elements::Calculation calculation) {
   tabs_->LayOutAnew();
-  context_.Edit(
-      [calculation](elements::Setup& setup) { calculation::SelectCalculation(setup, calculation); });
+  const bool begins = !services_.open.Setup().calculation && files_.File().empty();
+  context_.Edit([this, begins, calculation](elements::Setup& setup) {
+    if (begins) {
+      calculation::BeginElement(setup, calculation, services_.materials);
+    } else {
+      calculation::SelectCalculation(setup, calculation);
+    }
+  });
 }
 
 void MainWindow::ShowAll() {
