@@ -4,6 +4,7 @@
 #include <QActionGroup>
 #include <QFont>
 #include <QMenu>
+#include <QPalette>
 #include <algorithm>
 #include <array>
 #include <iterator>
@@ -76,8 +77,17 @@ MessageRow HeadingOf(Calculation calculation) {
   return {};
 }
 
+/// Of the letters of a heading: quieter than an entry, and legible all the same.
+constexpr float kHeadingStrength = 0.75F;
+
 /// A line that names what follows it; not to be chosen.
 void AddHeading(QMenu& menu, const QString& text) {
+  QPalette colours = menu.palette();
+  QColor quiet = colours.color(QPalette::Active, QPalette::Text);
+  quiet.setAlphaF(kHeadingStrength);
+  for (const QPalette::ColorRole role : {QPalette::Text, QPalette::WindowText, QPalette::ButtonText})
+    colours.setColor(QPalette::Disabled, role, quiet);
+  menu.setPalette(colours);
   if (!menu.isEmpty()) menu.addSeparator();
   QAction* heading = menu.addAction(text);
   heading->setEnabled(false);

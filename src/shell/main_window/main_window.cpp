@@ -129,6 +129,7 @@ void MainWindow::Connect() {
   connect(&files_, &ProjectFiles::Opened, tabs_, &InputTabs::FocusFirst);
   connect(&context_, &PageContext::RowHovered, results_, &ResultsPanel::Highlight);
   connect(results_, &ResultsPanel::LayerHovered, &context_, &PageContext::SectionHovered);
+  connect(results_, &ResultsPanel::LayerChosen, tabs_, &InputTabs::GoTo);
   if (services_.structure_commands != nullptr)
     connect(&work_, &OpenWork::ResultGone, &services_.structure_commands->Comparison(),
             &ComparisonCommand::ResultGone);

@@ -24,7 +24,7 @@ struct LayerRowPlan {
   int index = 0;                    ///< row of the group, from 0
   const char* count_box = nullptr;  ///< control name of the number of sheets; none: the row has no such box
   const char* check = nullptr;      ///< control name of the damping check; none: no check
-  QString label{};                  ///< what stands before the list; empty: the row's number
+  QString label{};                  ///< what stands before the list behind the row's number
 };
 
 /// One row of a layer table, in one line of a grid: number or check, material, thickness, sheets, button of
@@ -54,6 +54,8 @@ class LayerRow : public QObject {
   void MakeLead(QWidget* page);
   void MakeFields(QWidget* page);
   void PutMaterial(const std::string& name);
+  /// A table was pasted over this row and those below it.
+  void PutTable(const QString& text);
   void LeaveThickness();
   void Drag();
   void Light(bool lit);
