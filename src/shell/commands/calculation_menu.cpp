@@ -2,11 +2,15 @@
 
 #include <QAction>
 #include <QActionGroup>
+#include <QFont>
 #include <QMenu>
+#include <QPalette>
 #include <algorithm>
 #include <array>
+#include <iterator>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "foundation/message_rows.h"
 #include "shell/commands/calculation_captions.h"
@@ -63,6 +67,37 @@ QString ControlName(const CalculationRow& row) {
   return members == 1 ? group : ArrayName(row.menu_group, row.menu_index);
 }
 
+/// The heading that `calculation` stands under in the tree.
+MessageRow HeadingOf(Calculation calculation) {
+  std::array<MessageRow, 4> path{};
+  for (const TreeLine& line : kTree) {
+    const auto depth = static_cast<std::size_t>(line.depth);
+    if (line.heading != MessageRow{}) path.at(depth) = line.heading;
+    if (line.heading == MessageRow{} && RowOf(calculation).menu_group == line.control)
+      return path.at(depth - 1);
+  }
+  return {};
+}
+
+/// Of the letters of a heading: quieter than an entry, and legible all the same.
+constexpr float kHeadingStrength = 0.75F;
+
+/// A line that names what follows it; not to be chosen.
+void AddHeading(QMenu& menu, const QString& text) {
+  QPalette colours = menu.palette();
+  QColor quiet = colours.color(QPalette::Active, QPalette::Text);
+  quiet.setAlphaF(kHeadingStrength);
+  for (const QPalette::ColorRole role : {QPalette::Text, QPalette::WindowText, QPalette::ButtonText})
+    colours.setColor(QPalette::Disabled, role, quiet);
+  menu.setPalette(colours);
+  if (!menu.isEmpty()) menu.addSeparator();
+  QAction* heading = menu.addAction(text);
+  heading->setEnabled(false);
+  QFont letters = menu.font();
+  letters.setBold(true);
+  heading->setFont(letters);
+}
+
 }  // namespace
 
 CalculationActions::CalculationActions(const presentation::Words& words, QObject* parent) : QObject(parent) {
@@ -101,13 +136,21 @@ void CalculationActions::FillTree(QMenu& menu, const presentation::Words& words)
   }
 }
 
-void CalculationActions::FillKind(QMenu& menu, elements::ElementButton button) const {
-  std::string_view group;
-  for (const Calculation calculation : InMenuOrder()) {
-    const CalculationRow& row = RowOf(calculation);
-    if (row.button != button) continue;
-    if (!group.empty() && row.menu_group != group) menu.addSeparator();
-    group = row.menu_group;
+void CalculationActions::FillKind(QMenu& menu, elements::ElementButton button,
+                                  const presentation::Words& words) const {
+  std::vector<Calculation> of_button;
+  const MessageRow first = HeadingOf(FirstOf(button));
+  std::ranges::copy_if(InMenuOrder(), std::back_inserter(of_button),
+                       [button](Calculation one) { return RowOf(one).button == button; });
+  // What the button itself begins stands in the first section.
+  std::ranges::stable_partition(of_button, [first](Calculation one) { return HeadingOf(one) == first; });
+  const bool sections = HeadingOf(of_button.front()) != HeadingOf(of_button.back());
+  MessageRow heading{};
+  for (const Calculation calculation : of_button) {
+    if (sections && HeadingOf(calculation) != heading) {
+      heading = HeadingOf(calculation);
+      AddHeading(menu, Text(words, heading));
+    }
     menu.addAction(Of(calculation));
   }
 }
@@ -115,9 +158,21 @@ void CalculationActions::FillKind(QMenu& menu, elements::ElementButton button) c
 void CalculationActions::Mark(Calculation calculation) { Of(calculation)->setChecked(true); }
 
 elements::Calculation FirstOf(elements::ElementButton button) {
-  const auto order = InMenuOrder();
-  const auto first = std::ranges::find(order, button, [](Calculation one) { return RowOf(one).button; });
-  return first == order.end() ? order.front() : *first;
+  switch (button) {
+    case elements::ElementButton::kSingleWall:
+      return Calculation::kSingleWallGeneric;
+    case elements::ElementButton::kDoubleWall:
+      return Calculation::kDoubleWallGeneric;
+    case elements::ElementButton::kFloor:
+      return Calculation::kFloorWithFloatingScreed;
+    case elements::ElementButton::kFacade:
+      return Calculation::kCompositeElement;
+    case elements::ElementButton::kLining:
+      return Calculation::kLiningGeneric;
+    case elements::ElementButton::kCeiling:
+      return Calculation::kCeilingGeneric;
+  }
+  return Calculation::kSingleWallGeneric;
 }
 
 }  // namespace velmar::shell

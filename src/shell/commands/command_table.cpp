@@ -106,7 +106,7 @@ constexpr std::array<Command, kCommandCount> kCommands = {{
     Command{kMaterialList,       0,  "mnuDatabaseVediMateriali",  kMaterialListMenuRow, {}, "",           "Ctrl+L", N::kNothing,
             Of<&Desk::materials, &MaterialCommands::ShowList>},
     Command{kCompareBeside,      0,  "confronta_risultati",       kCompareMenuRow, {}, "compare",    "F7",     N::kSpectrum,
-            Of<&Desk::structures, &StructureCommands::CompareBeside>},
+            Of<&Desk::structures, &StructureCommands::Compare>},
     Command{kTutorial,           0,  "tutorial",                  kTutorialMenuRow, {}, "",           "F1",     N::kNothing,
             Of<&Desk::help, &HelpCommands::ShowManual>},
     Command{kContact,            0,  "Contatta_m",                kContactMenuRow, {}, "",           "",       N::kNothing,

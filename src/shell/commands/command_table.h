@@ -38,7 +38,7 @@ enum class CommandId {
   kMeasuredRw,
   kBaseMaterials,
   kMaterialList,
-  kCompareBeside,  ///< the comparison stays open beside the main window
+  kCompareBeside,  ///< its entry in the menu
   kTutorial,
   kContact,
   kAbout,

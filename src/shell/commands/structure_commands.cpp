@@ -103,9 +103,7 @@ void StructureCommands::ShowImpactData(QWidget* parent) {
   ShowLibrary(parent, {.purpose = LibraryPurpose::kImpactData});
 }
 
-void StructureCommands::Compare(QWidget* parent) { comparison_.Show(parent, Qt::WindowModal); }
-
-void StructureCommands::CompareBeside(QWidget* parent) { comparison_.Show(parent, Qt::NonModal); }
+void StructureCommands::Compare(QWidget* parent) { comparison_.Show(parent); }
 
 void StructureCommands::Store(QWidget* /*parent*/) {
   const elements::Setup& setup = open_.Setup();

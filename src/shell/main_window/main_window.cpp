@@ -11,6 +11,7 @@
 #include <QVBoxLayout>
 
 #include "calculation/select_calculation.h"
+#include "calculation/usual_layers.h"
 #include "foundation/message_rows.h"
 #include "shell/commands/edit_menu.h"
 #include "shell/commands/menus.h"
@@ -133,6 +134,7 @@ void MainWindow::Connect() {
   connect(&files_, &ProjectFiles::Opened, tabs_, &InputTabs::FocusFirst);
   connect(&context_, &PageContext::RowHovered, results_, &ResultsPanel::Highlight);
   connect(results_, &ResultsPanel::LayerHovered, &context_, &PageContext::SectionHovered);
+  connect(results_, &ResultsPanel::LayerChosen, tabs_, &InputTabs::GoTo);
   if (services_.structure_commands != nullptr)
     connect(&work_, &OpenWork::ResultGone, &services_.structure_commands->Comparison(),
             &ComparisonCommand::ResultGone);
@@ -150,8 +152,14 @@ void MainWindow::Begin(elements::ElementButton kind) {
 
 void MainWindow::Choose(elements::Calculation calculation) {
   tabs_->LayOutAnew();
-  context_.Edit(
-      [calculation](elements::Setup& setup) { calculation::SelectCalculation(setup, calculation); });
+  const bool begins = !services_.open.Setup().calculation && files_.File().empty();
+  context_.Edit([this, begins, calculation](elements::Setup& setup) {
+    if (begins) {
+      calculation::BeginElement(setup, calculation, services_.materials);
+    } else {
+      calculation::SelectCalculation(setup, calculation);
+    }
+  });
 }
 
 void MainWindow::ShowAll() {

@@ -66,6 +66,19 @@ void InputTabs::AddKeys() {
 
 void InputTabs::FocusFirst() { FocusFirstField(currentWidget()); }
 
+void InputTabs::GoTo(const presentation::LayerPlace& place) {
+  const QString name = place.group ? ArrayName(RowOf(*place.group).list, place.row) : QString("Combo14");
+  for (int tab = 0; tab < count(); ++tab) {
+    auto* field = isTabVisible(tab) ? widget(tab)->findChild<QWidget*>(name) : nullptr;
+    if (field == nullptr) continue;
+    setCurrentIndex(tab);
+    if (!field->isVisible()) return FocusFirst();
+    field->setFocus(Qt::OtherFocusReason);
+    static_cast<QScrollArea*>(widget(tab))->ensureWidgetVisible(field);
+    return;
+  }
+}
+
 void InputTabs::ShowFirst() {
   if (laid_out_) setCurrentIndex(static_cast<int>(TabsOf(*laid_out_).front().tab));
 }

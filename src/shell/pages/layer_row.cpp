@@ -11,13 +11,16 @@
 #include <QToolButton>
 
 #include "calculation/layer_edits.h"
+#include "calculation/pasted_layers.h"
 #include "elements/parts.h"
 #include "foundation/decimal.h"
 #include "foundation/message_rows.h"
+#include "shell/fields/field_note.h"
 #include "shell/fields/icons.h"
 #include "shell/fields/list_boxes.h"
 #include "shell/fields/material_box.h"
 #include "shell/fields/number_field.h"
+#include "shell/fields/pasted_bands.h"
 #include "shell/fields/phrases.h"
 
 namespace velmar::shell {
@@ -97,6 +100,7 @@ void LayerRow::MakeFields(QWidget* page) {
                               context_.materials.NamesOf(plan_.group), page);
   material_->setAccessibleDescription(Text(words, kMaterialRow) + row);
   connect(material_, &MaterialBox::Chosen, this, &LayerRow::PutMaterial);
+  connect(material_, &MaterialBox::TablePasted, this, &LayerRow::PutTable);
   context_.Watch(material_);
 
   thickness_ = new NumberField(ArrayName(group.thickness_box, plan_.index), NumberKind::kReal, page);
@@ -166,6 +170,17 @@ void LayerRow::PutMaterial(const std::string& name) {
   });
 }
 
+void LayerRow::PutTable(const QString& text) {
+  elements::Setup pasted = context_.open.Setup();
+  const auto refusal = calculation::PutTable(pasted, plan_.group, plan_.index, CellsOfTable(text),
+                                             context_.services.materials);
+  if (refusal) {
+    FieldNote::Put(material_, Text(context_.Words(), *refusal), NoteLife::kWhileRead);
+    return;
+  }
+  context_.Edit([&](elements::Setup& setup) { setup = std::move(pasted); });
+}
+
 void LayerRow::LeaveThickness() {
   elements::Setup left = context_.open.Setup();
   if (!calculation::LeaveLayerThickness(left, plan_.group, plan_.index)) return;
@@ -178,8 +193,10 @@ void LayerRow::Show(const elements::Setup& setup, bool visible) {
   if (!visible) return;
   const calculation::LayerText row = calculation::LayerTextOf(setup, plan_.group, plan_.index);
   // The number of the layer in the element, as the section and every paper have it.
-  if (number_ != nullptr && plan_.label.isEmpty())
-    number_->setText(QString::number(elements::NumberOf(setup, plan_.group, plan_.index)));
+  if (number_ != nullptr) {
+    const QString number = QString::number(elements::NumberOf(setup, plan_.group, plan_.index));
+    number_->setText(plan_.label.isEmpty() ? number : number + ' ' + plan_.label);
+  }
   material_->Show(row.listed);
   material_->setPlaceholderText(Text(context_.Words(), kChooseMaterialRow));
   thickness_->Show(row.thickness_text);
@@ -223,6 +240,7 @@ std::vector<QWidget*> AddLayerHeads(QGridLayout& grid, int line, const PageConte
     grid.addWidget(heads.back(), line, column + shift);
   };
   add(material, Qt::AlignLeft, LayerRow::kMaterialColumn);
+  heads.back()->setToolTip(Text(words, kPasteLayersTipRow));
   add(Text(words, kLayerThicknessRow), Qt::AlignRight, LayerRow::kThicknessColumn);
   if (with_sheets) add(Text(words, kSheetsRow), Qt::AlignRight, LayerRow::kSheetsColumn);
   grid.setColumnStretch(LayerRow::kMaterialColumn + shift, 1);

@@ -24,7 +24,7 @@ struct LayerRowPlan {
   int index = 0;                    ///< row of the group, from 0
   const char* count_box = nullptr;  ///< control name of the number of sheets; none: the row has no such box
   const char* check = nullptr;      ///< control name of the damping check; none: no check
-  QString label{};                  ///< what stands before the list; empty: the row's number
+  QString label{};                  ///< what stands before the list behind the row's number
   int shift = 0;                    ///< columns between the lead and the material
 };
 
@@ -58,6 +58,8 @@ class LayerRow : public QObject {
   void MakeLead(QWidget* page);
   void MakeFields(QWidget* page);
   void PutMaterial(const std::string& name);
+  /// A table was pasted over this row and those below it.
+  void PutTable(const QString& text);
   void LeaveThickness();
   void Drag();
   void Light(bool lit);

@@ -180,7 +180,11 @@ QWidget* ResultsPanel::MakeSection() {
   heading->setObjectName("Label10_0");
   heading->setForegroundRole(QPalette::PlaceholderText);
   section_ = new SectionView(section_frame_);
+  section_->setAccessibleName(heading->text());
+  section_->setAccessibleDescription(Text(speech_.words, kSectionKeysRow));
+  section_->setToolTip(Text(speech_.words, kSectionKeysRow));
   connect(section_, &SectionView::LayerHovered, this, &ResultsPanel::LayerHovered);
+  connect(section_, &SectionView::LayerChosen, this, &ResultsPanel::LayerChosen);
   column->addWidget(heading);
   column->addWidget(section_, 1);
   return section_frame_;

@@ -51,6 +51,8 @@ class ResultsPanel : public QWidget {
  signals:
   /// The layer of the section under the mouse; nothing: none.
   void LayerHovered(const std::optional<velmar::presentation::LayerPlace>& place);
+  /// A layer of the section was clicked, or chosen by the keyboard.
+  void LayerChosen(const velmar::presentation::LayerPlace& place);
 
  private:
   QWidget* MakeRatings();

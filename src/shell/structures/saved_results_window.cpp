@@ -25,6 +25,12 @@ namespace {
 
 constexpr const char* kMemoryName = "database-risultati";
 constexpr int kNameColumnCharacters = 34;
+constexpr int kRatingColumnCharacters = 12;
+
+// Columns of the grid.
+constexpr int kName = 0;
+constexpr int kRating = 1;
+constexpr int kDescription = 2;
 
 shell::RememberedSizes SizesOf(QWidget* window, QTableView* grid) {
   return {QLatin1String(kMemoryName), window, grid->horizontalHeader(), nullptr};
@@ -38,7 +44,7 @@ SavedResultsWindow::SavedResultsWindow(shell::WindowTools tools, ResultSource so
       tools_(std::move(tools)),
       source_(std::move(source)),
       listener_(std::move(listener)),
-      model_({tools_.Text(kNameHeadingRow), tools_.Text(kDescriptionRow)}),
+      model_({tools_.Text(kNameHeadingRow), QString(), tools_.Text(kDescriptionRow)}),
       shown_(model_) {
   setObjectName(QStringLiteral("Form7"));
   setWindowTitle(tools_.Text(kResultsDatabaseRow));
@@ -99,7 +105,8 @@ QWidget* SavedResultsWindow::MakeGrid() {
   grid_->horizontalHeader()->setSortIndicator(-1, Qt::AscendingOrder);
   grid_->horizontalHeader()->setStretchLastSection(true);
   grid_->horizontalHeader()->setHighlightSections(false);
-  grid_->setColumnWidth(0, fontMetrics().averageCharWidth() * kNameColumnCharacters);
+  grid_->setColumnWidth(kName, fontMetrics().averageCharWidth() * kNameColumnCharacters);
+  grid_->setColumnWidth(kRating, fontMetrics().averageCharWidth() * kRatingColumnCharacters);
   grid_->verticalHeader()->hide();
   grid_->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 8);
   connect(grid_->selectionModel(), &QItemSelectionModel::currentRowChanged, this, [this] { ShowSelected(); });
@@ -180,8 +187,11 @@ void SavedResultsWindow::Refresh() {
   std::vector<QStringList> rows;
   tools_.Try([&] {
     for (const ResultEntry& entry : source_.list(Kind()))
-      rows.push_back({shell::ToQt(entry.name), shell::ToQt(entry.description)});
+      rows.push_back({shell::ToQt(entry.name), shell::ToQt(calculation::BoxText(entry.rating_db)),
+                      shell::ToQt(entry.description)});
   });
+  const char* rating = Kind() == ResultKind::kAirborne ? "Rw (dB)" : "Ln,w (dB)";
+  model_.Name(kRating, QLatin1String(rating));
   model_.Fill(std::move(rows));
   const QModelIndexList again =
       shown_.match(shown_.index(0, 0), Qt::DisplayRole, before, 1, Qt::MatchExactly | Qt::MatchCaseSensitive);
@@ -190,9 +200,9 @@ void SavedResultsWindow::Refresh() {
 
 void SavedResultsWindow::ShowSelected() {
   const QModelIndex current = grid_->currentIndex();
-  name_->setText(current.siblingAtColumn(0).data().toString());
+  name_->setText(current.siblingAtColumn(kName).data().toString());
   name_->setCursorPosition(0);
-  description_->setPlainText(current.siblingAtColumn(1).data().toString());
+  description_->setPlainText(current.siblingAtColumn(kDescription).data().toString());
   const bool any = current.isValid();
   QString messages;
   if (any) tools_.Try([&] { messages = shell::ToQt(source_.messages(Kind(), SelectedName())); });

@@ -147,7 +147,7 @@ ResultSource StoredResults(const std::filesystem::path& file) {
   source.list = [store](ResultKind kind) {
     std::vector<ResultEntry> entries;
     for (storage::ListedResult& result : store->List(TableOf(kind)))
-      entries.push_back({std::move(result.name), std::move(result.description)});
+      entries.push_back({std::move(result.name), result.rating, std::move(result.description)});
     return entries;
   };
   source.find = [store](ResultKind kind, const std::string& name) -> std::optional<calculation::FacadePart> {

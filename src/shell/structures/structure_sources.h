@@ -18,6 +18,7 @@ enum class ResultKind { kAirborne = 0, kImpact = 1 };
 /// A line of the grid of stored results.
 struct ResultEntry {
   std::string name{};
+  std::optional<double> rating_db{};  ///< Rw, or Ln,w
   std::string description{};
 };
 

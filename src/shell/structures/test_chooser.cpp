@@ -19,8 +19,7 @@
 namespace velmar::structures {
 namespace {
 
-/// Takes the width that the list has: what does not fit is left out in the middle of a name, where names
-/// differ least.
+/// Takes the width that the list has: what does not fit is left out at the end of a name, and its tip has it.
 class FittingNames : public QStyledItemDelegate {
  public:
   using QStyledItemDelegate::QStyledItemDelegate;
@@ -61,7 +60,7 @@ QWidget* TestChooser::MakeTree(const Controls& controls) {
   tree_->setAccessibleName(tools_.Text(kDatabaseTreeRow));
   tree_->setHeaderHidden(true);
   tree_->setUniformRowHeights(true);
-  tree_->setTextElideMode(Qt::ElideMiddle);
+  tree_->setTextElideMode(Qt::ElideRight);
   tree_->setIndentation(fontMetrics().averageCharWidth() * 2);
   tree_->setMinimumWidth(fontMetrics().averageCharWidth() * kTreeCharacters / 2);
   FillTree();
@@ -94,7 +93,7 @@ QWidget* TestChooser::MakeList(const Controls& controls) {
   list_->setObjectName(QLatin1String(controls.list));
   list_->setAccessibleName(tools_.Text(kTestListRow));
   list_->setUniformItemSizes(true);
-  list_->setTextElideMode(Qt::ElideMiddle);
+  list_->setTextElideMode(Qt::ElideRight);
   list_->setItemDelegate(new FittingNames(list_));
   list_->setEditTriggers(QAbstractItemView::NoEditTriggers);
   list_->setModel(&shown_);

@@ -59,7 +59,7 @@ class CommandsTest : public QObject {
     QVERIFY(fixture.told.join(' ').contains(manual));
   }
 
-  void theKindButtonsBeginWithTheirFirstCalculation() {
+  void theKindButtonsAllowToSave() {
     WindowFixture fixture;
     for (int button = 17; button <= 22; ++button) {
       fixture.Find<QAction>("Button_" + QString::number(button))->trigger();

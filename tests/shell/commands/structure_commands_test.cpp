@@ -1,6 +1,7 @@
 #include <QAction>
 #include <QCheckBox>
 #include <QDialog>
+#include <QDockWidget>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTest>
@@ -34,6 +35,19 @@ struct Program : StoresProgram {
     });
   }
 };
+
+/// The curve and the rating are seen whole beside the window `name`, which blocks nothing.
+void CoversNothing(const WindowFixture& fixture, const char* name) {
+  QCoreApplication::processEvents();
+  const auto* beside = fixture.Find<QDialog>(name);
+  QVERIFY(beside->isVisible());
+  QCOMPARE(beside->windowModality(), Qt::NonModal);
+  const QRect covered(beside->mapToGlobal(QPoint(0, 0)), beside->size());
+  for (const char* seen : {"Picture1", "Label4", "SSTab1"}) {
+    const auto* widget = fixture.Find<QWidget>(seen);
+    QVERIFY2(!covered.intersects(QRect(widget->mapToGlobal(QPoint(0, 0)), widget->size())), seen);
+  }
+}
 
 }  // namespace
 
@@ -98,23 +112,43 @@ class StructureCommandsTest : public QObject {
     QVERIFY(!chart.laboratory.has_value());
   }
 
-  void theComparisonIsModalFromTheToolBarAlone() {
+  void theComparisonStandsBesideTheResultAndBlocksNothing() {
     Program program;
+    program.fixture.window->resize(1366, 768);
+    program.fixture.window->show();
     program.fixture.Choose("TIPO_PARETE_SINGOLA_0");
     QVERIFY(!program.fixture.Find<QAction>("confronta_risultati")->isEnabled());
     QVERIFY(!program.fixture.Find<QToolButton>("Toolbar1_13")->isEnabled());
     program.fixture.Run();
     program.fixture.Find<QAction>("confronta_risultati")->trigger();
-    auto* beside = program.fixture.Find<QDialog>("Form8");
-    QCOMPARE(beside->windowModality(), Qt::NonModal);
-    beside->close();
+    CoversNothing(program.fixture, "Form8");
+    program.fixture.Find<QDialog>("Form8")->close();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QVERIFY(program.fixture.window->findChildren<QDockWidget*>().isEmpty());
     program.fixture.Find<QToolButton>("Toolbar1_13")->click();
-    QCOMPARE(program.fixture.Find<QDialog>("Form8")->windowModality(), Qt::WindowModal);
+    CoversNothing(program.fixture, "Form8");
+    // A changed input closes it with the result.
+    program.fixture.Type("Text5_0", "80");
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QVERIFY(program.fixture.window->findChildren<QDockWidget*>().isEmpty());
+  }
+
+  void theResultsTableStandsBesideTheCurve() {
+    Program program;
+    program.fixture.window->resize(1366, 768);
+    program.fixture.window->show();
+    program.fixture.Choose("TIPO_PARETE_SINGOLA_0");
+    program.fixture.Run();
+    program.fixture.Find<QAction>("tab_risultati")->trigger();
+    CoversNothing(program.fixture, "Form4");
+    QTest::keyClick(program.fixture.Find<QDialog>("Form4"), Qt::Key_Escape);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QVERIFY(program.fixture.window->findChildren<QDockWidget*>().isEmpty());
   }
 
   void aClosedComparisonStaysInTheDrawingUntilTheNextOne() {
     Program program;
+    program.fixture.window->show();
     program.fixture.Choose("TIPO_PARETE_SINGOLA_0");
     program.fixture.Run();
     program.fixture.Find<QToolButton>("Toolbar1_13")->click();

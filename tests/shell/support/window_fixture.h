@@ -32,9 +32,12 @@ struct WindowFixture {
   void MakeWindow();
   /// The results as they are shown.
   const ResultsPanel& Results() const { return *window->findChild<ResultsPanel*>(); }
-  /// Chooses the calculation of the menu entry `control`.
+  /// Chooses the calculation of the menu entry `control` for the set-up as it stands: that of the first
+  /// materials where none was chosen before.
   void Choose(const char* control);
   void Choose(elements::Calculation calculation);
+  /// The menu entry of `calculation`.
+  QString ControlOf(elements::Calculation calculation) const;
   /// Presses F5 at the window.
   void Run();
   /// The control called `name`. Aborts the test program when there is none.
