@@ -8,6 +8,7 @@
 #include "foundation/decimal.h"
 #include "foundation/message_rows.h"
 #include "materials/coupled_boxes.h"
+#include "materials/judged_values.h"
 #include "storage/materials/material_store.h"
 
 namespace velmar::materials {
@@ -98,6 +99,15 @@ std::optional<EntryRefusal> TakeAbsorption(const FibrousEntry& entry, FibrousMat
   return std::nullopt;
 }
 
+/// The refusal that names every impossible value and leads to the first, or nothing.
+template <typename Material>
+std::optional<EntryRefusal> Impossible(const storage::MaterialRow<Material>& row) {
+  const auto findings = elements::Only(elements::FindingsOf(row.record), elements::Plausibility::kImpossible);
+  auto message = ImpossibleValues(findings);
+  if (!message) return std::nullopt;
+  return EntryRefusal{*std::move(message), BoxOf(findings.front().kind, findings.front().property)};
+}
+
 template <typename Material>
 std::string TextOf(const storage::MaterialRow<Material>& row, double Material::*field) {
   return row.record.Holds(field) ? FormatShortest(row.record.values.*field) : std::string();
@@ -129,6 +139,7 @@ std::variant<storage::StructuralRow, EntryRefusal> RowOf(StructuralEntry entry, 
   }
   row.record.nulls = {&M::thermal_conductivity_w_mk, &M::thermal_conductance_w_m2k,
                       &M::vapour_permeability_dry, &M::vapour_permeability_wet, &M::thermal_resistance_m2k_w};
+  if (auto refusal = Impossible(row)) return *std::move(refusal);
   return row;
 }
 
@@ -162,10 +173,12 @@ std::variant<storage::FibrousRow, EntryRefusal> RowOf(FibrousEntry entry, const 
   if (refusal) return *std::move(refusal);
   // The columns of the other kind are emptied.
   if (entry.porous) {
+    row.source = entry.computation;
     row.record.nulls = {&M::youngs_modulus_gpa, &M::loss_factor, &M::poissons_ratio};
   } else {
     row.record.nulls = {&M::flow_resistance_pa_s_m};
   }
+  if (auto impossible = Impossible(row)) return *std::move(impossible);
   return row;
 }
 
@@ -203,6 +216,7 @@ std::variant<storage::ResilientRow, EntryRefusal> RowOf(ResilientEntry entry, co
   }
   if (boxes.impact_improvement_db.empty()) row.record.nulls.push_back(&M::impact_improvement_db);
   if (boxes.resonance_frequency_hz.empty()) row.record.nulls.push_back(&M::resonance_frequency_hz);
+  if (auto refusal = Impossible(row)) return *std::move(refusal);
   return row;
 }
 
@@ -232,6 +246,7 @@ FibrousEntry EntryOf(const storage::FibrousRow& row) {
                      TextOf(row, &M::loss_factor),
                      TextOf(row, &M::poissons_ratio),
                      TextOf(row, &M::flow_resistance_pa_s_m),
+                     {},
                      {}};
   for (std::size_t band = 0; band < entry.absorption.size(); ++band) {
     const float value = row.record.values.absorption.at(band);

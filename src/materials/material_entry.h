@@ -41,6 +41,7 @@ struct FibrousEntry {
   std::string poissons_ratio{};             ///< `Text13`; not of a porous one; empty is 0
   std::string flow_resistance = "4000";     ///< `Text14`, Pa s/m; of a porous one
   std::array<std::string, elements::kAbsorptionBandCount> absorption{};  ///< `TextAlfa`; of a porous one
+  std::string computation{};  ///< what was computed and how, for the source; in no box
 
   bool operator==(const FibrousEntry&) const = default;
 };
@@ -69,8 +70,9 @@ struct EntryRefusal {
 /// Decimal comma or point. Name, description and keyword end at their first line break.
 ///
 /// An entry is refused when its name is empty, when a value it needs is missing (all missing ones are named),
-/// when a value is no number, and when an absorption coefficient is not from 0 to 1.5: measured ones may
-/// exceed 1. A resilient material needs one of s', Delta Ln,w and f0; s' follows from the others.
+/// when a value is no number, when one is impossible (elements::Judge()), and when an absorption coefficient
+/// is not from 0 to 1.5: measured ones may exceed 1. A resilient material needs one of s', Delta Ln,w and f0;
+/// s' follows from the others.
 std::variant<storage::StructuralRow, EntryRefusal> RowOf(StructuralEntry entry, const KeywordTexts& texts);
 std::variant<storage::FibrousRow, EntryRefusal> RowOf(FibrousEntry entry, const KeywordTexts& texts);
 std::variant<storage::ResilientRow, EntryRefusal> RowOf(ResilientEntry entry, const KeywordTexts& texts);

@@ -6,29 +6,59 @@
 #include <variant>
 
 #include "foundation/message_rows.h"
+#include "materials/derived_values.h"
 #include "storage/database/database_failure.h"
 
 namespace velmar::materials {
+
+template <typename Material>
+bool ValuesDiffer(storage::MaterialRow<Material> row, const storage::MaterialRow<Material>& stored) {
+  row.record.values.name = stored.record.values.name;
+  row.record.values.description = stored.record.values.description;
+  row.keyword = stored.keyword;
+  row.picture = stored.picture;
+  row.source = stored.source;
+  return storage::CellsFromRow(row) != storage::CellsFromRow(stored);
+}
+
+template bool ValuesDiffer(storage::StructuralRow, const storage::StructuralRow&);
+template bool ValuesDiffer(storage::FibrousRow, const storage::FibrousRow&);
+template bool ValuesDiffer(storage::ResilientRow, const storage::ResilientRow&);
+
 namespace {
 
 using elements::StructuralMaterial;
 
 /// Takes over from the stored row what no editor shows.
 template <typename Material>
-void KeepHidden(storage::MaterialRow<Material>& row, const storage::MaterialRow<Material>& stored) {
-  row.source = stored.source;
+void KeepColumns(storage::MaterialRow<Material>& row, const storage::MaterialRow<Material>& stored) {
+  row.picture = stored.picture;
 }
 
 template <>
-void KeepHidden(storage::StructuralRow& row, const storage::StructuralRow& stored) {
+void KeepColumns(storage::StructuralRow& row, const storage::StructuralRow& stored) {
   using M = StructuralMaterial;
-  row.source = stored.source;
   row.record.nulls.clear();
   for (double M::*field :
        {&M::thermal_conductivity_w_mk, &M::thermal_conductance_w_m2k, &M::vapour_permeability_dry,
         &M::vapour_permeability_wet, &M::thermal_resistance_m2k_w}) {
     row.record.values.*field = stored.record.values.*field;
     if (!stored.record.Holds(field)) row.record.nulls.push_back(field);
+  }
+}
+
+/// What no editor shows stays as it is stored; the source tells where the values come from now. What was
+/// computed stands in `row.source` already.
+template <typename Material>
+void KeepHidden(storage::MaterialRow<Material>& row, const storage::MaterialRow<Material>& stored) {
+  KeepColumns(row, stored);
+  const std::string computation = row.source;
+  if (!ValuesDiffer(row, stored)) {
+    row.source = stored.source;
+  } else if (computation.empty()) {
+    row.source = stored.source.empty() ? std::string() : kUserValueSource;
+  } else {
+    row.source = stored.source.empty() ? computation : stored.source + "; " + computation;
   }
 }
 

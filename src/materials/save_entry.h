@@ -9,8 +9,15 @@
 
 namespace velmar::materials {
 
+/// Whether a number of `row` is another than in `stored`; words, keyword, picture and source do not count.
+/// `Material` is StructuralMaterial, FibrousMaterial or ResilientMaterial.
+template <typename Material>
+bool ValuesDiffer(storage::MaterialRow<Material> row, const storage::MaterialRow<Material>& stored);
+
 /// Stores what an editor holds: a new row when `old_name` is empty, else the row of that name is changed. The
-/// columns that the editors do not show stay as they are, and are empty in a new row.
+/// columns that the editors do not show stay as they are, and are empty in a new row. A row whose numbers
+/// change and that had a source has kUserValueSource from then on; one whose missing absorption was computed
+/// keeps its source and gains that.
 ///
 /// Nothing is changed when it is refused: by the checks of RowOf(), by a name that exists (case ignored), or
 /// by a failure of the database, which is told behind kMaterialNotSavedRow.

@@ -82,15 +82,19 @@ void AddMaterials(CLI::App& app, Parsed& parsed, const presentation::Words& word
     command->add_option("NAME", parsed.materials.name, words(kMaterialNameHelpRow))->required();
     return command;
   };
+  const auto add_force = [&](CLI::App* command) {
+    command->add_flag("--force", parsed.materials.force, words(kForceHelpRow));
+    return command;
+  };
   add_name(add("show", kMaterialsShowHelpRow, MaterialsAction::kShow));
-  add("add", kMaterialsAddHelpRow, MaterialsAction::kAdd)
+  add_force(add("add", kMaterialsAddHelpRow, MaterialsAction::kAdd))
       ->add_option("SETTINGS", parsed.materials.settings, settings)
       ->required();
-  add_name(add("edit", kMaterialsEditHelpRow, MaterialsAction::kEdit))
+  add_force(add_name(add("edit", kMaterialsEditHelpRow, MaterialsAction::kEdit)))
       ->add_option("SETTINGS", parsed.materials.settings, settings)
       ->required();
   add_name(add("delete", kMaterialsDeleteHelpRow, MaterialsAction::kDelete));
-  add("import", kMaterialsImportHelpRow, MaterialsAction::kImport)
+  add_force(add("import", kMaterialsImportHelpRow, MaterialsAction::kImport))
       ->add_option("FILE", parsed.materials.file, words(kImportFileHelpRow))
       ->required();
   add("export", kMaterialsExportHelpRow, MaterialsAction::kExport)

@@ -6,6 +6,7 @@
 #include <variant>
 
 #include "foundation/message_rows.h"
+#include "materials/judged_values.h"
 #include "materials/save_entry.h"
 #include "storage/database/database_failure.h"
 
@@ -43,6 +44,13 @@ SaveOutcome EditedMaterial<Material>::Save(const Entry& entry, bool touched, con
   auto checked = materials::RowOf(entry, texts_);
   if (auto* refusal = std::get_if<EntryRefusal>(&checked)) return Refused(std::move(*refusal));
   const Row& row = std::get<Row>(checked);
+
+  if (touched || !opened_) {
+    if (auto question = materials::ImprobableValues(elements::FindingsOf(row.record))) {
+      question->push_back({kStoreAllTheSameRow});
+      if (!ask(*question)) return {};
+    }
+  }
 
   const std::string opened_name = opened_ ? opened_->record.values.name : std::string();
   std::string stored_name = opened_name;

@@ -38,9 +38,9 @@ class EditedMaterial {
 
   const std::optional<Row>& Opened() const { return opened_; }
 
-  /// Checks and stores `entry`. A row that nobody touched is not written, so that its numbers stay to the
-  /// last digit. `ask` decides about a row that another program has deleted, renamed or changed meanwhile;
-  /// "no" stores nothing.
+  /// Checks and stores `entry`; `ask` decides first about values that are improbable. A row that nobody
+  /// touched is not written, so that its numbers stay to the last digit. `ask` decides about a row that
+  /// another program has deleted, renamed or changed meanwhile; "no" stores nothing.
   /// @param touched whether the user changed anything since the editor opened
   SaveOutcome Save(const Entry& entry, bool touched, const AskUser& ask);
 

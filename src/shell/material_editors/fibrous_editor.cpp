@@ -2,10 +2,12 @@
 
 #include <QHBoxLayout>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QRadioButton>
 #include <QVBoxLayout>
 
 #include "foundation/message_rows.h"
+#include "materials/computed_absorption.h"
 #include "shell/material_editors/absorption_panel.h"
 #include "shell/material_editors/field_grid.h"
 #include "shell/material_editors/keyword_box.h"
@@ -26,8 +28,9 @@ FibrousEditor::FibrousEditor(shell::WindowTools tools, EditedMaterial<elements::
                              QWidget* parent)
     : EditorDialog(std::move(tools), QStringLiteral("Form6"), QStringLiteral("materiale-fibroso"), parent),
       material_(std::move(material)) {
-  setWindowTitle(Tools().Text(kFibrousMaterialsRow));
+  setWindowTitle(Tools().Text(kFibrousMaterialRow));
   MakeControls(keywords, picture);
+  connect(absorption_->ComputeButton(), &QPushButton::clicked, this, [this] { ComputeAbsorption(); });
   connect(porous_, &QRadioButton::toggled, this, [this] { EnableWhatCounts(); });
   Show(material_.Opened() ? materials::EntryOf(*material_.Opened()) : FibrousEntry{});
   EnableWhatCounts();
@@ -101,7 +104,8 @@ FibrousEntry FibrousEditor::Entry() const {
           .loss_factor = loss_factor_->Number(),
           .poissons_ratio = poissons_ratio_->Number(),
           .flow_resistance = flow_resistance_->Number(),
-          .absorption = absorption_->Entered()};
+          .absorption = absorption_->Entered(),
+          .computation = materials::ComputationOf(computed_from_, absorption_->ComputedBands())};
 }
 
 void FibrousEditor::EnableWhatCounts() {
@@ -109,6 +113,18 @@ void FibrousEditor::EnableWhatCounts() {
   flow_resistance_->setEnabled(porous);
   absorption_->setEnabled(porous);
   for (NumberBox* box : {youngs_modulus_, loss_factor_, poissons_ratio_}) box->setEnabled(!porous);
+}
+
+void FibrousEditor::ComputeAbsorption() {
+  for (NumberBox* box : {thickness_, flow_resistance_}) box->Leave();
+  const FibrousEntry entry = Entry();
+  const materials::ComputedAbsorption computed = materials::ComputeMissing(entry);
+  if (computed.bands.empty()) {
+    Tools().tell(Tools().Text(kNothingToComputeRow));
+    return;
+  }
+  computed_from_ = entry;
+  absorption_->ShowComputed(computed.coefficients, computed.bands);
 }
 
 bool FibrousEditor::Changed() const { return Entry() != shown_first_; }

@@ -1,5 +1,6 @@
 #include "shell/material_editors/resilient_editor.h"
 
+#include <QLabel>
 #include <QLineEdit>
 #include <QVBoxLayout>
 
@@ -32,6 +33,8 @@ ResilientEditor::ResilientEditor(shell::WindowTools tools,
   resonance_->OnLeave([this](bool edited) { Couple(ResilientBox::kResonance, edited); });
   Show(material_.Opened() ? materials::EntryOf(*material_.Opened()) : ResilientEntry{});
   shown_first_ = Entry();
+  connect(stiffness_, &QLineEdit::textChanged, this, [this] { ShowStandard(); });
+  ShowStandard();
   Finish(name_);
 }
 
@@ -47,6 +50,8 @@ void ResilientEditor::MakeControls(const std::vector<std::string>& keywords,
   resonance_ = fields.AddNumber("Text5", kResonanceRow, kResonanceTipRow);
   fields.AddPicture(picture, first_row_beside);
   fields.AddRemark(kOneOfThreeRow);
+  standard_ = fields.AddRemark(kStandardImprovementRow);
+  standard_->setObjectName(QStringLiteral("LabelDLw12354"));
   fields.AddGap();
   thickness_ = fields.AddNumber("Text6", kMaterialThicknessRow);
   density_ = fields.AddNumber("Text7", kMaterialDensityRow);
@@ -90,6 +95,12 @@ void ResilientEditor::Couple(ResilientBox left, bool edited) {
   stiffness_->Fill(coupled.dynamic_stiffness_mn_m3, edited);
   improvement_->Fill(coupled.impact_improvement_db, edited);
   resonance_->Fill(coupled.resonance_frequency_hz, edited);
+}
+
+void ResilientEditor::ShowStandard() {
+  const QString value = shell::ToQt(materials::StandardImprovement(stiffness_->Number()));
+  standard_->setText(Tools().Text(kStandardImprovementRow) +
+                     (value.isEmpty() ? QStringLiteral(" -") : ' ' + value + " dB"));
 }
 
 bool ResilientEditor::Changed() const { return Entry() != shown_first_; }

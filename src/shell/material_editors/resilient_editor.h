@@ -8,6 +8,7 @@
 #include "materials/coupled_boxes.h"
 #include "shell/material_editors/editor_dialog.h"
 
+class QLabel;
 class QLineEdit;
 
 namespace velmar::material_editors {
@@ -33,6 +34,7 @@ class ResilientEditor : public EditorDialog {
   void Show(const materials::ResilientEntry& entry);
   materials::ResilientEntry Entry() const;
   void Couple(materials::ResilientBox left, bool edited);
+  void ShowStandard();
 
   EditedMaterial<elements::ResilientMaterial> material_;
   materials::ResilientEntry shown_first_;
@@ -41,6 +43,7 @@ class ResilientEditor : public EditorDialog {
   NumberBox* stiffness_ = nullptr;    ///< `Text3`
   NumberBox* improvement_ = nullptr;  ///< `Text4`
   NumberBox* resonance_ = nullptr;    ///< `Text5`
+  QLabel* standard_ = nullptr;        ///< what EN ISO 12354-2 gives
   NumberBox* thickness_ = nullptr;    ///< `Text6`
   NumberBox* density_ = nullptr;      ///< `Text7`
   KeywordBox* keyword_ = nullptr;     ///< `Text8`

@@ -175,7 +175,7 @@ TEST_F(StructuralEditorTest, ChangingOneBoxKeepsTheOtherNumbersToTheLastDigit) {
   EXPECT_EQ(row->record.values.density_kg_m3, 1799.999987654321);
   EXPECT_EQ(row->record.values.loss_factor, 1.0 / 3.0);
   EXPECT_EQ(row->record.values.thermal_conductivity_w_mk, 0.8);
-  EXPECT_EQ(row->source, "tabella");
+  EXPECT_EQ(row->source, "valore utente");
 }
 
 TEST_F(StructuralEditorTest, ModifyRenames) {
