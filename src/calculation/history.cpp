@@ -188,9 +188,9 @@ std::optional<Step> StepBetween(const Setup& before, const Setup& after) {
   return Differences(before, after).AsOne();
 }
 
-void History::Note(const Setup& before, const Setup& after) {
-  const std::optional<Step> step = StepBetween(before, after);
-  if (!step) return;
+void History::Note(const Setup& before, const Setup& after, const std::optional<Step>& named) {
+  if (before == after) return;
+  const std::optional<Step> step = named ? named : StepBetween(before, after);
   redone_from_.clear();
   const bool goes_on = open_ && !undone_from_.empty() && undone_from_.back().step == *step && IsTyped(*step);
   open_ = true;

@@ -48,10 +48,10 @@ const Named& Of(MaterialProperty property) {
 MessageLine LineOf(const PropertyFinding& finding, double lowest, double highest) {
   MessageLine line = {"- ", Of(finding.property).name, ": " + FormatShortest(finding.value) + " ("};
   if (std::isfinite(highest)) {
-    line.insert(line.end(), {kRangeFromRow, " " + FormatShortest(lowest) + " ", kRangeToRow,
+    line.insert(line.end(), {kUsualRangeFromRow, " " + FormatShortest(lowest) + " ", kUsualRangeToRow,
                              " " + FormatShortest(highest) + ")"});
   } else {
-    line.insert(line.end(), {kRangeAtLeastRow, " " + FormatShortest(lowest) + ")"});
+    line.insert(line.end(), {kUsualRangeAtLeastRow, " " + FormatShortest(lowest) + ")"});
   }
   return line;
 }

@@ -6,7 +6,7 @@
 
 #include "elements/materials.h"
 #include "foundation/message.h"
-#include "foundation/message_rows.h"
+#include "foundation/catalogue_rows.h"
 #include "materials/keywords.h"
 #include "storage/materials/material_row.h"
 

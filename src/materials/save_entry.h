@@ -3,7 +3,7 @@
 #include <optional>
 #include <string>
 
-#include "foundation/message_rows.h"
+#include "foundation/catalogue_rows.h"
 #include "materials/material_entry.h"
 #include "storage/materials/material_store.h"
 

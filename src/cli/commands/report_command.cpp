@@ -15,6 +15,7 @@
 #include "foundation/utf8.h"
 #include "storage/files/open_elsewhere.h"
 #include "storage/files/whole_file.h"
+#include "validation/second_opinion.h"
 
 namespace velmar::cli {
 namespace {
@@ -92,11 +93,13 @@ ExitCode ReportOne(const ReportCommand& command, const path& project, const Serv
   ProjectRun run = RunProject(project, services.materials, command.go_on_outside_ranges);
   for (const Message& message : run.outcome.messages) WriteMessage(message, services.words, errors);
   if (!run.outcome.result) return CodeOf(run.outcome.status);
+  Message confidence = validation::ConfidenceOf(run.setup, run.outcome.result, services.accuracy());
   const ReportContent content{
       .name = project.stem().string(),
       .setup = std::move(run.setup),
       .result = *run.outcome.result,
       .totals = run.totals,
+      .confidence = std::move(confidence),
       .words = services.words,
       .tell = [&](const Message& message) { WriteMessage(message, services.words, errors); }};
   return WriteReports(command, project, content, services, errors);

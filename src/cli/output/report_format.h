@@ -17,6 +17,7 @@ struct ReportContent {
   elements::Setup setup{};
   elements::ResultSet result{};
   calculation::Totals totals{};
+  Message confidence{};  ///< what is known of the error of the result
   presentation::Words words{};
   std::function<void(const Message&)> tell{};  ///< what the user is to know of a report that was written
 };

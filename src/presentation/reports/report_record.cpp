@@ -26,10 +26,7 @@ MessageRow StandardRow(Family family) {
 
 /// The improvement that the main window shows beside the rating.
 std::string Improvement(Family family, const elements::ResultSet& result) {
-  if (family == Family::kImpact) {
-    return result.delta_lnw ? "DLw= " + FormatLevel(result.delta_lnw) + " dB" : std::string();
-  }
-  if (!IsLining(family) && result.delta_rw && *result.delta_rw != 0.0) {
+  if (family != Family::kImpact && !IsLining(family) && result.delta_rw && *result.delta_rw != 0.0) {
     return "DRw= " + FormatLevel(result.delta_rw) + " dB";
   }
   return ImprovementLine(family, result);

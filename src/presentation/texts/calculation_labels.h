@@ -7,7 +7,7 @@
 #include "elements/catalogue.h"
 #include "elements/layers.h"
 #include "elements/setup.h"
-#include "foundation/message_rows.h"
+#include "foundation/catalogue_rows.h"
 #include "presentation/texts/words.h"
 
 namespace velmar::presentation {

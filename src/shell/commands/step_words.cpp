@@ -81,11 +81,16 @@ QString StepWords(const calculation::Step& step, const elements::Setup& setup,
       text += ' ' + Text(words, kStepOfComponentRow) + ' ' + QString::number(step.field.index);
     return text;
   };
+  const auto of_layer = [&](MessageRow row) {
+    return Text(words, row) + ' ' + QString::number(NumberOf(step.field, setup));
+  };
+  const auto of_component = [&](MessageRow row) {
+    return Text(words, row) + ' ' + QString::number(step.field.index);
+  };
   switch (step.kind) {
     case StepKind::kField: {
       const MessageRow row = RowFor(step.field.field);
-      if (!step.field.group) return of_element(row);
-      return Text(words, row) + ' ' + QString::number(NumberOf(step.field, setup));
+      return step.field.group ? of_layer(row) : of_element(row);
     }
     case StepKind::kCount:
       return Text(words, step.field.group ? kStepLayerCountRow : kStepComponentCountRow);
@@ -99,6 +104,38 @@ QString StepWords(const calculation::Step& step, const elements::Setup& setup,
       return of_element(kStepBandsRow);
     case StepKind::kInformation:
       return Text(words, kStepInformationRow);
+    case StepKind::kLayerInserted:
+      return of_layer(kStepLayerInsertedRow);
+    case StepKind::kLayerDuplicated:
+      return of_layer(kStepLayerDuplicatedRow);
+    case StepKind::kLayerRemoved:
+      return Text(words, kStepLayerRemovedRow);
+    case StepKind::kLayerMoved:
+      return of_layer(kStepLayerMovedRow);
+    case StepKind::kLayersPasted:
+      return Text(words, kStepLayersPastedRow);
+    case StepKind::kLeafMirrored:
+      return Text(words, kStepMirroredRow);
+    case StepKind::kElementTurned:
+      return Text(words, kStepTurnedRow);
+    case StepKind::kComponentAdded:
+      return of_component(kStepComponentAddedRow);
+    case StepKind::kComponentDuplicated:
+      return of_component(kStepComponentDuplicatedRow);
+    case StepKind::kComponentRemoved:
+      return Text(words, kStepComponentRemovedRow);
+    case StepKind::kComponentMoved:
+      return of_component(kStepComponentMovedRow);
+    case StepKind::kVariantFixed:
+      return Text(words, kStepVariantFixedRow);
+    case StepKind::kVariantRenamed:
+      return Text(words, kStepVariantRenamedRow);
+    case StepKind::kVariantMoved:
+      return Text(words, kStepVariantMovedRow);
+    case StepKind::kVariantRemoved:
+      return Text(words, kStepVariantRemovedRow);
+    case StepKind::kVariantTaken:
+      return Text(words, kStepVariantTakenRow);
     case StepKind::kSeveral:
       return Text(words, kStepSeveralRow);
   }

@@ -3,7 +3,7 @@
 #include <QString>
 
 #include "foundation/message.h"
-#include "foundation/message_rows.h"
+#include "foundation/catalogue_rows.h"
 #include "shell/pages/material_lists.h"
 #include "shell/pages/page_context.h"
 

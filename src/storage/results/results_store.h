@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "foundation/message.h"
-#include "foundation/message_rows.h"
+#include "foundation/catalogue_rows.h"
 #include "storage/results/saved_result.h"
 
 namespace velmar::storage {
