@@ -28,7 +28,8 @@ std::string FirstLine(const std::string& text) {
 
 template <typename Entry>
 void Clean(Entry& entry, const KeywordTexts& texts) {
-  for (std::string* text : {&entry.name, &entry.description, &entry.keyword}) *text = FirstLine(*text);
+  for (std::string* text : {&entry.name, &entry.description, &entry.keyword, &entry.source})
+    *text = FirstLine(*text);
   if (entry.keyword.empty()) entry.keyword = texts.not_specified;
 }
 
@@ -115,6 +116,11 @@ std::string TextOf(const storage::MaterialRow<Material>& row, double Material::*
 
 }  // namespace
 
+std::string WithComputation(const std::string& source, const std::string& computation) {
+  if (source.empty() || computation.empty()) return source + computation;
+  return source + "; " + computation;
+}
+
 std::variant<storage::StructuralRow, EntryRefusal> RowOf(StructuralEntry entry, const KeywordTexts& texts) {
   using M = StructuralMaterial;
   Clean(entry, texts);
@@ -137,6 +143,7 @@ std::variant<storage::StructuralRow, EntryRefusal> RowOf(StructuralEntry entry, 
                                     row.record.values)) {
     return *std::move(refusal);
   }
+  row.source = entry.source;
   row.record.nulls = {&M::thermal_conductivity_w_mk, &M::thermal_conductance_w_m2k,
                       &M::vapour_permeability_dry, &M::vapour_permeability_wet, &M::thermal_resistance_m2k_w};
   if (auto refusal = Impossible(row)) return *std::move(refusal);
@@ -171,9 +178,9 @@ std::variant<storage::FibrousRow, EntryRefusal> RowOf(FibrousEntry entry, const 
                              material);
   }
   if (refusal) return *std::move(refusal);
+  row.source = entry.porous ? WithComputation(entry.source, entry.computation) : entry.source;
   // The columns of the other kind are emptied.
   if (entry.porous) {
-    row.source = entry.computation;
     row.record.nulls = {&M::youngs_modulus_gpa, &M::loss_factor, &M::poissons_ratio};
   } else {
     row.record.nulls = {&M::flow_resistance_pa_s_m};
@@ -214,6 +221,7 @@ std::variant<storage::ResilientRow, EntryRefusal> RowOf(ResilientEntry entry, co
                            {entry.density, &M::density_kg_m3, "Text7"}})) {
     return *std::move(refusal);
   }
+  row.source = entry.source;
   if (boxes.impact_improvement_db.empty()) row.record.nulls.push_back(&M::impact_improvement_db);
   if (boxes.resonance_frequency_hz.empty()) row.record.nulls.push_back(&M::resonance_frequency_hz);
   if (auto refusal = Impossible(row)) return *std::move(refusal);
@@ -231,7 +239,8 @@ StructuralEntry EntryOf(const storage::StructuralRow& row) {
           TextOf(row, &M::critical_frequency_hz),
           TextOf(row, &M::loss_factor),
           TextOf(row, &M::poissons_ratio),
-          row.keyword};
+          row.keyword,
+          row.source};
 }
 
 FibrousEntry EntryOf(const storage::FibrousRow& row) {
@@ -247,6 +256,7 @@ FibrousEntry EntryOf(const storage::FibrousRow& row) {
                      TextOf(row, &M::poissons_ratio),
                      TextOf(row, &M::flow_resistance_pa_s_m),
                      {},
+                     row.source,
                      {}};
   for (std::size_t band = 0; band < entry.absorption.size(); ++band) {
     const float value = row.record.values.absorption.at(band);
@@ -264,7 +274,8 @@ ResilientEntry EntryOf(const storage::ResilientRow& row) {
           TextOf(row, &M::impact_improvement_db),
           TextOf(row, &M::resonance_frequency_hz),
           TextOf(row, &M::thickness_mm),
-          TextOf(row, &M::density_kg_m3)};
+          TextOf(row, &M::density_kg_m3),
+          row.source};
 }
 
 }  // namespace velmar::materials

@@ -44,7 +44,14 @@ class EditedMaterial {
   /// @param touched whether the user changed anything since the editor opened
   SaveOutcome Save(const Entry& entry, bool touched, const AskUser& ask);
 
+  /// Checks `entry` and stores it as a new row beside the opened one, which stays as it is. Under the name of
+  /// the opened one it takes that name with `mark` behind it.
+  SaveOutcome SaveCopy(Entry entry, const std::string& mark, const AskUser& ask);
+
  private:
+  /// Whether improbable values of `row` are to be stored.
+  static bool Accepted(const Row& row, const AskUser& ask);
+
   storage::MaterialStore* store_;
   materials::KeywordTexts texts_;
   std::optional<Row> opened_;

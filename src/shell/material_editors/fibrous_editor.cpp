@@ -64,6 +64,7 @@ void FibrousEditor::MakeControls(const std::vector<std::string>& keywords,
   fields.AddGap();
   fields.Add(kMaterialKeywordRow, keyword_ = new KeywordBox(QStringLiteral("Text8"), keywords, this),
              kKeywordTipRow);
+  source_ = fields.AddText("TextFonte", kSourceCaptionRow);
 
   auto* left = new QVBoxLayout;
   left->addLayout(fields.Layout());
@@ -75,7 +76,7 @@ void FibrousEditor::MakeControls(const std::vector<std::string>& keywords,
   auto* column = new QVBoxLayout(this);
   column->addLayout(faces, 1);
   column->addSpacing(kButtonGapPx);
-  column->addLayout(MakeButtons());
+  column->addLayout(MakeButtons(material_.Opened().has_value()));
 }
 
 void FibrousEditor::Show(const FibrousEntry& entry) {
@@ -83,6 +84,9 @@ void FibrousEditor::Show(const FibrousEntry& entry) {
   description_->setText(shell::ToQt(entry.description));
   description_->setCursorPosition(0);
   keyword_->setEditText(shell::ToQt(entry.keyword));
+  source_->setText(shell::ToQt(entry.source));
+  source_->setCursorPosition(0);
+  source_->setToolTip(source_->text());
   thickness_->ShowStored(entry.thickness);
   density_->ShowStored(entry.density);
   (entry.porous ? porous_ : solid_)->setChecked(true);
@@ -105,6 +109,7 @@ FibrousEntry FibrousEditor::Entry() const {
           .poissons_ratio = poissons_ratio_->Number(),
           .flow_resistance = flow_resistance_->Number(),
           .absorption = absorption_->Entered(),
+          .source = shell::FromQt(source_->text()),
           .computation = materials::ComputationOf(computed_from_, absorption_->ComputedBands())};
 }
 
@@ -130,5 +135,9 @@ void FibrousEditor::ComputeAbsorption() {
 bool FibrousEditor::Changed() const { return Entry() != shown_first_; }
 
 SaveOutcome FibrousEditor::Store(const AskUser& ask) { return material_.Save(Entry(), Changed(), ask); }
+
+SaveOutcome FibrousEditor::StoreCopy(const std::string& mark, const AskUser& ask) {
+  return material_.SaveCopy(Entry(), mark, ask);
+}
 
 }  // namespace velmar::material_editors

@@ -29,6 +29,7 @@ class FibrousEditor : public EditorDialog {
  protected:
   bool Changed() const override;
   SaveOutcome Store(const AskUser& ask) override;
+  SaveOutcome StoreCopy(const std::string& mark, const AskUser& ask) override;
 
  private:
   void MakeControls(const std::vector<std::string>& keywords, const std::filesystem::path& picture);
@@ -51,6 +52,7 @@ class FibrousEditor : public EditorDialog {
   NumberBox* loss_factor_ = nullptr;       ///< `Text12`
   NumberBox* poissons_ratio_ = nullptr;    ///< `Text13`
   KeywordBox* keyword_ = nullptr;          ///< `Text8`
+  QLineEdit* source_ = nullptr;            ///< `TextFonte`
   AbsorptionPanel* absorption_ = nullptr;
 };
 

@@ -58,11 +58,12 @@ void ResilientEditor::MakeControls(const std::vector<std::string>& keywords,
   fields.AddGap();
   fields.Add(kMaterialKeywordRow, keyword_ = new KeywordBox(QStringLiteral("Text8"), keywords, this),
              kKeywordTipRow);
+  source_ = fields.AddText("TextFonte", kSourceCaptionRow);
   auto* column = new QVBoxLayout(this);
   column->addLayout(fields.Layout());
   column->addSpacing(kButtonGapPx);
   column->addStretch(1);
-  column->addLayout(MakeButtons());
+  column->addLayout(MakeButtons(material_.Opened().has_value()));
 }
 
 void ResilientEditor::Show(const ResilientEntry& entry) {
@@ -70,6 +71,9 @@ void ResilientEditor::Show(const ResilientEntry& entry) {
   description_->setText(shell::ToQt(entry.description));
   description_->setCursorPosition(0);
   keyword_->setEditText(shell::ToQt(entry.keyword));
+  source_->setText(shell::ToQt(entry.source));
+  source_->setCursorPosition(0);
+  source_->setToolTip(source_->text());
   stiffness_->ShowStored(entry.stiffness);
   improvement_->ShowStored(entry.improvement);
   resonance_->ShowStored(entry.resonance);
@@ -85,7 +89,8 @@ ResilientEntry ResilientEditor::Entry() const {
           .improvement = improvement_->Number(),
           .resonance = resonance_->Number(),
           .thickness = thickness_->Number(),
-          .density = density_->Number()};
+          .density = density_->Number(),
+          .source = shell::FromQt(source_->text())};
 }
 
 // A box that was only passed through fills an empty one, but rounds no number that is there.
@@ -106,5 +111,9 @@ void ResilientEditor::ShowStandard() {
 bool ResilientEditor::Changed() const { return Entry() != shown_first_; }
 
 SaveOutcome ResilientEditor::Store(const AskUser& ask) { return material_.Save(Entry(), Changed(), ask); }
+
+SaveOutcome ResilientEditor::StoreCopy(const std::string& mark, const AskUser& ask) {
+  return material_.SaveCopy(Entry(), mark, ask);
+}
 
 }  // namespace velmar::material_editors

@@ -28,6 +28,7 @@ class ResilientEditor : public EditorDialog {
  protected:
   bool Changed() const override;
   SaveOutcome Store(const AskUser& ask) override;
+  SaveOutcome StoreCopy(const std::string& mark, const AskUser& ask) override;
 
  private:
   void MakeControls(const std::vector<std::string>& keywords, const std::filesystem::path& picture);
@@ -47,6 +48,7 @@ class ResilientEditor : public EditorDialog {
   NumberBox* thickness_ = nullptr;    ///< `Text6`
   NumberBox* density_ = nullptr;      ///< `Text7`
   KeywordBox* keyword_ = nullptr;     ///< `Text8`
+  QLineEdit* source_ = nullptr;       ///< `TextFonte`
 };
 
 }  // namespace velmar::material_editors

@@ -410,7 +410,8 @@ TEST_F(FibrousEditorTest, EnterGoesToTheNextBandAndSavesFromTheLast) {
 
 TEST_F(FibrousEditorTest, TabGoesAsOneReads) {
   Open();
-  const char* order[] = {"Text1", "Text2", "Text10", "Text9", "Option1_0", "Text14", "Text8", "TextAlfa_0"};
+  const char* order[] = {"Text1",  "Text2", "Text10",    "Text9",     "Option1_0",
+                         "Text14", "Text8", "TextFonte", "TextAlfa_0"};
   for (const char* box : order) {
     EXPECT_EQ(Focused(), box);
     QTest::keyClick(window_->focusWidget(), Qt::Key_Tab);

@@ -28,7 +28,7 @@ TEST_F(StructuralEditorTest, EveryMissingValueIsNamed) {
   Save();
   EXPECT_EQ(told_, QStringList{"Il materiale non può essere salvato. Inserire i dati mancanti:\n"
                                "- densità (kg/m³)\n- massa superficiale m' (kg/m²)\n"
-                               "- modulo di Young E (GPa)\n- fattore di perdita interna"});
+                               "- modulo di Young E (GPa)\n- fattore di perdita interno"});
   EXPECT_EQ(Focused(), "Text4");
   EXPECT_EQ(Shown(*window_, "Text3"), "12,5");
 }
