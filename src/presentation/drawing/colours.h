@@ -10,6 +10,7 @@ inline constexpr QColor kReferenceColour{0x16, 0x25, 0x4B};
 inline constexpr QColor kBaseColour{0xA0, 0xA0, 0xA0};
 inline constexpr QColor kLaboratoryColour{0xE7, 0x74, 0x27};
 inline constexpr QColor kInSituColour{0x00, 0xC0, 0x00};
+inline constexpr QColor kOctavesColour{0x2A, 0x6E, 0xBB};
 inline constexpr QColor kVerticalGridColour{0xE0, 0xE0, 0xE0};
 inline constexpr QColor kHorizontalGridColour{0xE9, 0xE9, 0xE9};
 

@@ -60,6 +60,8 @@ ComparisonPanel::Look InSituLook() {
 void LayOver(presentation::CurveChart& chart, const Overlay& overlay) {
   chart.laboratory = overlay.laboratory;
   chart.in_situ = overlay.in_situ;
+  chart.laboratory_in_octaves = overlay.laboratory_in_octaves;
+  chart.in_situ_in_octaves = overlay.in_situ_in_octaves;
   chart.laboratory_name = overlay.laboratory_name;
   chart.in_situ_name = overlay.in_situ_name;
 }
@@ -114,6 +116,8 @@ Overlay ComparisonWindow::Current() const {
   Overlay overlay;
   if (laboratory_->IsTicked()) overlay.laboratory = laboratory_->Bands();
   if (in_situ_->IsTicked()) overlay.in_situ = in_situ_->Bands();
+  overlay.laboratory_in_octaves = overlay.laboratory && laboratory_->AreOctaves();
+  overlay.in_situ_in_octaves = overlay.in_situ && in_situ_->AreOctaves();
   overlay.laboratory_name = laboratory_->Name();
   overlay.in_situ_name = in_situ_->Name();
   return overlay;

@@ -133,7 +133,7 @@ std::vector<Cell> CellsFromTest(const LibraryFolder& folder, const MeasuredTest&
   writer.Text("Ente di prova", test.laboratory);
   writer.Text("Società richiedente", test.client);
   writer.Text("Informazione addizionale", test.notes);
-  writer.Text("Immagine", test.picture.empty() ? std::string(kNoPicture) : test.picture);
+  writer.Text("Immagine", test.picture.empty() ? std::string(kNoTestPicture) : test.picture);
   writer.Text("Indice", test.index_kind);
   writer.Number("Valore indice (dB)", test.index_value);
   writer.Text("Origine indice", test.rating_origin);

@@ -66,7 +66,7 @@ inline constexpr std::string_view kFromThirdsOrigin = "calcolato dalle bande";
 inline constexpr std::string_view kFromOctavesOrigin = "calcolato dalle bande d'ottava";
 
 /// The picture of a test that has none.
-inline constexpr std::string_view kNoPicture = "senza";
+inline constexpr std::string_view kNoTestPicture = "senza";
 
 /// What a measured test hands over to a facade (`CurvaSperimentale`).
 struct MeasuredCurve {

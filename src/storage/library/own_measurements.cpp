@@ -7,6 +7,7 @@
 
 #include "foundation/message_rows.h"
 #include "foundation/utf8.h"
+#include "platform/file_system.h"
 #include "storage/database/connection.h"
 #include "storage/database/database_failure.h"
 #include "storage/database/rename.h"
@@ -71,9 +72,9 @@ void OwnMeasurements::MakeFile(const LibraryFolder& folder) const {
       for (const std::string& statement : CreateStatements(folder.table)) database.exec(statement);
       transaction.commit();
     }
-    SyncToDisk(unfinished.Path());
+    platform::SyncToDisk(unfinished.Path());
     RenameToFreeName(unfinished.Path(), file);
-    SyncToDisk(file.parent_path());
+    platform::SyncToDisk(file.parent_path());
   } catch (const fs::filesystem_error& error) {
     throw DatabaseFailure(DatabaseProblem::kNotChanged, file, error.what());
   } catch (const SQLite::Exception& error) {
