@@ -30,16 +30,20 @@ void Widen(ChartRange& range, double value) {
   if (value != 0.0 && value < range.minimum) range.minimum = value;
 }
 
-/// From the lowest to the highest value; 10 to 80 dB without any.
-ChartRange RangeOfValues(const acoustics::Spectrum& values) {
+/// From the lowest to the highest value of the chart and its octaves; 10 to 80 dB without any.
+ChartRange RangeOfValues(const CurveChart& chart) {
   ChartRange range;
   bool any = false;
-  for (const double value : values) {
-    if (value == 0.0) continue;
-    if (!any) range = {value, value};
-    any = true;
-    Widen(range, value);
-  }
+  const auto widen = [&](const acoustics::Spectrum& values) {
+    for (const double value : values) {
+      if (value == 0.0) continue;
+      if (!any) range = {value, value};
+      any = true;
+      Widen(range, value);
+    }
+  };
+  widen(chart.values);
+  if (chart.octaves) widen(*chart.octaves);
   return range;
 }
 
@@ -80,7 +84,7 @@ ChartRange ExtremesOf(const CurveChart& chart) {
 ChartRange RangeOf(const CurveChart& chart) {
   ChartRange range;
   if (chart.fits_values) {
-    range = RangeOfValues(chart.values);
+    range = RangeOfValues(chart);
   } else if (chart.autoscale) {
     range = RoundRange(ExtremesOf(chart));
   }

@@ -4,6 +4,7 @@
 #include <QPolygonF>
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "acoustics/bands.h"
 #include "presentation/drawing/chart_layout.h"
@@ -112,6 +113,38 @@ void DrawCurve(QPainter& painter, const ChartLayout& layout, const CurveChart& c
   }
 }
 
+/// Values of octaves, each over its three thirds: a level line with an edge where the octave ends, and no
+/// dots.
+void DrawSteps(QPainter& painter, const ChartLayout& layout, const CurveChart& chart, const ChartRange& range,
+               const acoustics::Spectrum& values, const QColor& colour) {
+  constexpr double kHalfBand = 0.5;
+  painter.setPen(QPen(colour, kCurveWidth, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin));
+  QPolygonF line;
+  for (std::size_t band = chart.first_band; band <= chart.last_band; ++band) {
+    if (values.at(band) == 0.0) {
+      painter.drawPolyline(std::exchange(line, {}));
+      continue;
+    }
+    const double y = LogicalY(values.at(band), range);
+    const auto centre = static_cast<double>(band);
+    line << layout.At(std::max(centre - kHalfBand, 0.0), y)
+         << layout.At(std::min(centre + kHalfBand, kChartWidth), y);
+  }
+  painter.drawPolyline(line);
+}
+
+/// A curve that stands beside the result.
+void DrawBeside(QPainter& painter, const ChartLayout& layout, const CurveChart& chart,
+                const ChartRange& range, const std::optional<acoustics::Spectrum>& values,
+                const QColor& colour, bool in_octaves) {
+  if (!values) return;
+  if (in_octaves) {
+    DrawSteps(painter, layout, chart, range, *values, colour);
+  } else {
+    DrawCurve(painter, layout, chart, range, *values, colour);
+  }
+}
+
 void DrawLegend(QPainter& painter, const ChartLayout& layout) {
   for (const LegendEntry& entry : layout.legend) {
     const double y = entry.box.center().y();
@@ -133,9 +166,10 @@ void DrawCurves(QPainter& painter, const ChartLayout& layout, const CurveChart& 
   painter.setRenderHint(QPainter::Antialiasing);
   DrawReference(painter, layout, chart, range);
   if (chart.base) DrawCurve(painter, layout, chart, range, *chart.base, kBaseColour);
+  DrawBeside(painter, layout, chart, range, chart.octaves, kOctavesColour, true);
   DrawCurve(painter, layout, chart, range, chart.values, kCalculatedColour);
-  if (chart.laboratory) DrawCurve(painter, layout, chart, range, *chart.laboratory, kLaboratoryColour);
-  if (chart.in_situ) DrawCurve(painter, layout, chart, range, *chart.in_situ, kInSituColour);
+  DrawBeside(painter, layout, chart, range, chart.laboratory, kLaboratoryColour, chart.laboratory_in_octaves);
+  DrawBeside(painter, layout, chart, range, chart.in_situ, kInSituColour, chart.in_situ_in_octaves);
   for (const FurtherCurve& curve : chart.further)
     DrawCurve(painter, layout, chart, range, curve.values, curve.colour, Qt::DotLine);
   painter.restore();

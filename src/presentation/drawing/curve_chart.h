@@ -48,7 +48,10 @@ struct CurveChart {
   std::optional<acoustics::Spectrum> laboratory;  ///< compared with, measured in the laboratory
   std::optional<acoustics::Spectrum> in_situ;     ///< compared with, measured in a building
   std::vector<FurtherCurve> further{};            ///< what other models say
-  std::string laboratory_name{};                  ///< of the structure compared with; empty: none is chosen
+  bool laboratory_in_octaves = false;             ///< its values are octaves, drawn as steps over the thirds
+  bool in_situ_in_octaves = false;
+  std::optional<acoustics::Spectrum> octaves;  ///< octaves of the same structure, as steps behind `values`
+  std::string laboratory_name{};               ///< of the structure compared with; empty: none is chosen
   std::string in_situ_name{};
   bool autoscale = false;    ///< false: 10 to 80 dB
   bool fits_values = false;  ///< the scale is that of the values alone, from the lowest to the highest

@@ -40,7 +40,7 @@ struct ReportRecord {
   elements::ProjectInformation information{};
 
   bool has_bands = false;
-  std::string band_heading{};  ///< "Ri [dB]", "Lni [dB]"
+  std::string band_heading{};  ///< "Ri [dB]", "Ln,i [dB]"
   std::array<ReportBand, acoustics::kBandCount> bands{};
   elements::ResultSet result{};
   std::string result_line{};       ///< "Rw(C; Ctr)= 54,0 (-2; -6) dB"

@@ -30,6 +30,14 @@ void ShowAndWait(QDialog* window) {
   window->show();
 }
 
+/// What the open calculation reads of a measured part: a facade its bands, or in its simplified form the
+/// rating alone.
+structures::TargetNeeds NeedsOf(const elements::Setup& setup) {
+  const bool facade = setup.calculation && RowOf(*setup.calculation).family == elements::Family::kFacade;
+  if (!facade) return structures::TargetNeeds::kNothing;
+  return setup.facade.simplified ? structures::TargetNeeds::kRating : structures::TargetNeeds::kThirds;
+}
+
 }  // namespace
 
 StructureCommands::StructureCommands(calculation::OpenCalculation& open, const Speech& speech,
@@ -88,11 +96,14 @@ void StructureCommands::PickMeasured(QWidget* parent, const ElementPick& pick) {
   ShowLibrary(parent,
               {.purpose = pick.component == 0 ? LibraryPurpose::kOpaquePart : LibraryPurpose::kComponents,
                .component = pick.component,
+               .needs = NeedsOf(open_.Setup()),
                .take = [this, pick](const calculation::FacadePart& part) { Take(pick, part); }});
 }
 
 void StructureCommands::ShowLibrary(QWidget* parent, structures::MeasuredTarget target) {
-  ShowAndWait(new MeasuredLibraryWindow(own_.tools, library_, std::move(target), parent));
+  ShowAndWait(new MeasuredLibraryWindow(
+      own_.tools, library_, std::move(target),
+      {.open = speech_.boxes.choose_file_to_open, .save = speech_.boxes.choose_file_to_save}, parent));
 }
 
 void StructureCommands::ShowAirborneData(QWidget* parent) {

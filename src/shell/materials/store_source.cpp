@@ -24,6 +24,11 @@ std::optional<MaterialCells> Find(const MaterialStore& store, const std::string&
   return storage::CellsFromRow(*row);
 }
 
+template <typename Material>
+std::optional<Message> Add(MaterialStore& store, const MaterialCells& cells) {
+  return store.Add<Material>({storage::RowFromCells<Material>(cells)});
+}
+
 }  // namespace
 
 MaterialSource StoredMaterials(const std::filesystem::path& file) {
@@ -49,6 +54,17 @@ MaterialSource StoredMaterials(const std::filesystem::path& file) {
         return Find<elements::FibrousMaterial>(*store, name);
       case MaterialFamily::kResilient:
         return Find<elements::ResilientMaterial>(*store, name);
+    }
+    return std::nullopt;
+  };
+  source.add = [store](MaterialFamily family, const MaterialCells& cells) -> std::optional<Message> {
+    switch (family) {
+      case MaterialFamily::kStructural:
+        return Add<elements::StructuralMaterial>(*store, cells);
+      case MaterialFamily::kFibrous:
+        return Add<elements::FibrousMaterial>(*store, cells);
+      case MaterialFamily::kResilient:
+        return Add<elements::ResilientMaterial>(*store, cells);
     }
     return std::nullopt;
   };

@@ -61,6 +61,8 @@ ComparisonPanel::Look InSituLook() {
 void LayOver(presentation::CurveChart& chart, const Overlay& overlay) {
   chart.laboratory = overlay.laboratory;
   chart.in_situ = overlay.in_situ;
+  chart.laboratory_in_octaves = overlay.laboratory_in_octaves;
+  chart.in_situ_in_octaves = overlay.in_situ_in_octaves;
   chart.laboratory_name = overlay.laboratory_name;
   chart.in_situ_name = overlay.in_situ_name;
 }
@@ -122,6 +124,8 @@ Overlay ComparisonWindow::Current() const {
   const acoustics::Spectrum none{};
   if (laboratory_->IsTicked() && laboratory_->Bands() != none) overlay.laboratory = laboratory_->Bands();
   if (in_situ_->IsTicked() && in_situ_->Bands() != none) overlay.in_situ = in_situ_->Bands();
+  overlay.laboratory_in_octaves = overlay.laboratory && laboratory_->AreOctaves();
+  overlay.in_situ_in_octaves = overlay.in_situ && in_situ_->AreOctaves();
   overlay.laboratory_name = laboratory_->Name();
   overlay.in_situ_name = in_situ_->Name();
   return overlay;

@@ -22,6 +22,8 @@ class ComparisonPanel;
 struct Overlay {
   std::optional<acoustics::Spectrum> laboratory{};
   std::optional<acoustics::Spectrum> in_situ{};
+  bool laboratory_in_octaves = false;  ///< the spectrum holds octaves, each over its three thirds
+  bool in_situ_in_octaves = false;
   std::string laboratory_name{};
   std::string in_situ_name{};
 

@@ -113,7 +113,7 @@ TEST(PaginaDi, OfAGenericLiningHasNeitherChartNorBands) {
 
 TEST(PaginaDi, OfAFacadeListsItsPartsWithShareAndClass) {
   const PaginaDiStampa page = PageOf(samples::FacadeOfNine());
-  EXPECT_THAT(page.elements.heads, ElementsAre("Elemento", "Rw (dB)", "Area (m²)", "% Area", "Note"));
+  EXPECT_THAT(page.elements.heads, ElementsAre("Elemento", "Rw (dB)", "Area (m²)", "Area (%)", "Note"));
   ASSERT_EQ(page.elements.rows.size(), 10U);
   EXPECT_TRUE(page.elements.rows[0][0].starts_with("parte opaca"));
   EXPECT_THAT(std::vector(page.elements.rows[2].begin() + 1, page.elements.rows[2].end()),

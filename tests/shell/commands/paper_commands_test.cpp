@@ -22,7 +22,7 @@ namespace {
 
 const QSizeF kPaper(8.27, 11.69);
 constexpr double kDotsPerInch = 150.0;
-constexpr const char* kCannotPrint = "Impossibile stampare dalla stampante selezionata";
+constexpr const char* kCannotPrint = "Impossibile stampare con la stampante selezionata.";
 
 struct Drawn {
   QStringList texts{};

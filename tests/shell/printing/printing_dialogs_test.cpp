@@ -88,7 +88,7 @@ TEST(PrintDocument, TellsOfAPrinterThatFails) {
   Answers answers{.prints = true, .print_file = "/no/such/folder/page.pdf"};
   PagePrinter printer(answers.Boxes().ask_to_print);
   PrintDocument(Document(), printer, answers.Boxes(), presentation::CatalogueWords(), nullptr);
-  EXPECT_THAT(answers.failures, testing::ElementsAre("Impossibile stampare dalla stampante selezionata"));
+  EXPECT_THAT(answers.failures, testing::ElementsAre("Impossibile stampare con la stampante selezionata."));
 }
 
 TEST(InstalledPrinters, RefusesAPrinterThatIsNotThere) {
