@@ -8,6 +8,7 @@
 #include "foundation/failure.h"
 #include "foundation/message_rows.h"
 #include "presentation/texts/descriptions.h"
+#include "shell/fields/long_work.h"
 #include "shell/fields/phrases.h"
 #include "shell/pages/element_parts.h"
 #include "shell/structures/saved_results_window.h"
@@ -121,7 +122,8 @@ void StructureCommands::Store(QWidget* /*parent*/) {
                                .thickness_mm = open_.CurrentTotals().thickness_mm,
                                .mass_kg_m2 = open_.CurrentTotals().surface_mass_kg_m2});
     storage::ResultsStore store(results_file_);
-    const storage::SaveStatus status = store.Save(storage::TableFor(RowOf(*setup.calculation).family), row);
+    storage::SaveStatus status{};
+    RunBeside([&] { status = store.Save(storage::TableFor(RowOf(*setup.calculation).family), row); });
     if (status == storage::SaveStatus::kNameExists) own_.tools.tell(Text(speech_.words, kResultExistsRow));
     if (status == storage::SaveStatus::kBadName) own_.tools.tell(Text(speech_.words, kBadResultNameRow));
   });

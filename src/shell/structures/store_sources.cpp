@@ -5,6 +5,7 @@
 #include <stdexcept>
 #include <utility>
 
+#include "shell/fields/long_work.h"
 #include "storage/library/library_store.h"
 #include "storage/library/pictures.h"
 #include "storage/results/result_copy.h"
@@ -42,7 +43,15 @@ storage::LibraryFolder FolderOf(Branch branch) {
 }
 
 storage::ResultTable TableOf(ResultKind kind) {
-  return kind == ResultKind::kAirborne ? storage::ResultTable::kAirborne : storage::ResultTable::kImpact;
+  switch (kind) {
+    case ResultKind::kAirborne:
+      return storage::ResultTable::kAirborne;
+    case ResultKind::kImpact:
+      return storage::ResultTable::kImpact;
+    case ResultKind::kLining:
+      return storage::ResultTable::kLining;
+  }
+  return storage::ResultTable::kAirborne;
 }
 
 MeasuredTest TestOf(const storage::LibraryFolder& folder, storage::MeasuredTest test,
@@ -159,7 +168,9 @@ ResultSource StoredResults(const std::filesystem::path& file) {
     return result ? storage::CopyOf(TableOf(kind), *result) : CopiedTable();
   };
   source.remove = [store](ResultKind kind, const std::string& name) {
-    return store->Delete(TableOf(kind), name);
+    bool removed = false;
+    shell::RunBeside([&] { removed = store->Delete(TableOf(kind), name); });
+    return removed;
   };
   return source;
 }
