@@ -30,6 +30,8 @@ enum class CommandId {
   kLinings,
   kCeilings,
   kExitAsking,
+  kNewProject,
+  kSaveProjectAs,
   kProjectInformation,
   kExit,
   kSavedResults,

@@ -49,21 +49,14 @@ std::optional<std::filesystem::path> Template(Kind kind, const std::filesystem::
 
 /// The file to write; nothing when the user cancels.
 std::optional<std::filesystem::path> Target(Kind kind, const Desk& desk) {
-  const std::string ending = kind == Kind::kWord ? ".docx" : ".xlsx";
+  const QString ending = kind == Kind::kWord ? QStringLiteral(".docx") : QStringLiteral(".xlsx");
   const QString files =
       kind == Kind::kWord ? Text(desk.speech.words, kWordFilesRow) : QStringLiteral("Excel");
-  const QString chosen =
-      desk.speech.boxes.choose_file_to_save({.title = Text(desk.speech.words, kSaveAsRow),
-                                             .filter = files + " (*" + FromUtf8(ending) + ')',
-                                             .start = BesideProject(desk.files.File(), FromUtf8(ending))});
-  if (chosen.isEmpty()) return std::nullopt;
-  if (chosen.endsWith(FromUtf8(ending), Qt::CaseInsensitive)) return ToUtf8(chosen);
-  // The dialog has asked about the name without its ending only.
-  std::filesystem::path file = ToUtf8(chosen) + ending;
-  std::error_code error;
-  const QString question = Text(desk.speech.words, kReplaceDocumentRow) + '\n' + FromUtf8(file.string());
-  if (std::filesystem::exists(file, error) && !desk.speech.boxes.ask(question)) return std::nullopt;
-  return file;
+  return AskFileToSave(desk.speech,
+                       {.title = Text(desk.speech.words, kSaveAsRow),
+                        .filter = files + " (*" + ending + ')',
+                        .start = desk.files.ProposeDocument(ending)},
+                       ending);
 }
 
 /// Fills the template and writes the file. @return what the user is told
@@ -92,8 +85,9 @@ void Export(Kind kind, const std::filesystem::path& templates, const Desk& desk)
   const std::optional<std::filesystem::path> file = Target(kind, desk);
   if (!file) return;
   try {
-    desk.speech.boxes.tell(Tone::kInformation,
-                           Write(kind, *pattern, RecordOf(desk), *file, desk.speech.words));
+    const QString told = Write(kind, *pattern, RecordOf(desk), *file, desk.speech.words);
+    desk.files.DocumentWritten(*file);
+    desk.speech.boxes.tell_written(told, *file);
   } catch (const Failure& failure) {
     desk.speech.boxes.tell(Tone::kCritical, Text(desk.speech.words, failure.UserMessage()));
   } catch (const std::exception&) {

@@ -9,7 +9,7 @@
 namespace velmar::shell {
 
 /// Export to Word and Excel: asks for a file, fills the template, writes the document whole or not at all,
-/// and says so. A missing template, a damaged one and a file that cannot be written are told.
+/// and says where it is. A missing template, a damaged one and a file that cannot be written are told.
 class ReportCommands : public QObject {
   Q_OBJECT
  public:

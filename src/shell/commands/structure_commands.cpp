@@ -9,6 +9,7 @@
 #include "foundation/message_rows.h"
 #include "presentation/texts/descriptions.h"
 #include "presentation/texts/result_notes.h"
+#include "shell/fields/long_work.h"
 #include "shell/fields/phrases.h"
 #include "shell/pages/element_parts.h"
 #include "shell/structures/saved_results_window.h"
@@ -133,7 +134,8 @@ void StructureCommands::Store(QWidget* /*parent*/) {
                                .messages = presentation::Joined(presentation::RangeNotes(
                                    *setup.calculation, *open_.Result(), speech_.words))});
     storage::ResultsStore store(results_file_);
-    const storage::SaveStatus status = store.Save(storage::TableFor(RowOf(*setup.calculation).family), row);
+    storage::SaveStatus status{};
+    RunBeside([&] { status = store.Save(storage::TableFor(RowOf(*setup.calculation).family), row); });
     if (status == storage::SaveStatus::kNameExists) own_.tools.tell(Text(speech_.words, kResultExistsRow));
     if (status == storage::SaveStatus::kBadName) own_.tools.tell(Text(speech_.words, kBadResultNameRow));
   });

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QMainWindow>
+#include <QTimer>
 #include <memory>
 
 #include "shell/commands/calculation_menu.h"
@@ -14,6 +15,7 @@
 #include "shell/project/window_memory.h"
 #include "shell/results/open_table.h"
 
+class QLabel;
 class QMenu;
 class QSplitter;
 class QStackedWidget;
@@ -39,7 +41,7 @@ class MainWindow : public QMainWindow {
  public slots:
   /// Opens the project file `project` as if it were dropped on the window.
   void OpenProject(const std::filesystem::path& project);
-  /// Offers work that an earlier run left behind.
+  /// Offers unsaved work that earlier runs left behind.
   void OfferRecovery();
   /// Something failed that nobody foresaw: unsaved work is kept before anything else, then `what` is told.
   void SurviveFailure(const QString& what);
@@ -59,6 +61,9 @@ class MainWindow : public QMainWindow {
   void ArrangeSides();
   void ShowProjects();
   void Exit(bool asking);
+  void MakeStatusLine();
+  /// Says `text` at the foot of the window for a while.
+  void Say(const QString& text);
   void FollowMaterials(const MaterialCommands& commands);
 
   const WindowServices& services_;
@@ -77,6 +82,8 @@ class MainWindow : public QMainWindow {
   CommandToolBar* tool_bar_ = nullptr;
   EditMenu* edit_menu_ = nullptr;
   QMenu* recent_ = nullptr;
+  QLabel* said_ = nullptr;
+  QTimer silence_;
   QStackedWidget* centre_ = nullptr;
   StartScreen* start_ = nullptr;
   QSplitter* sides_ = nullptr;

@@ -9,6 +9,7 @@
 #include "foundation/utf8.h"
 #include "materials/judged_values.h"
 #include "materials/save_entry.h"
+#include "shell/fields/long_work.h"
 #include "storage/database/database_failure.h"
 
 namespace velmar::material_editors {
@@ -68,7 +69,9 @@ SaveOutcome EditedMaterial<Material>::Save(const Entry& entry, bool touched, con
       return {.done = true};
     }
   }
-  if (auto refusal = materials::SaveEntry(*store_, entry, stored_name, texts_)) return Refused(*refusal);
+  std::optional<EntryRefusal> refusal;
+  shell::RunBeside([&] { refusal = materials::SaveEntry(*store_, entry, stored_name, texts_); });
+  if (refusal) return Refused(*std::move(refusal));
   return {.done = true,
           .change =
               shell::MaterialChange{FamilyOf<Material>(), opened_name, row.record.values.name, row.keyword}};

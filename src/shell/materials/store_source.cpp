@@ -2,6 +2,7 @@
 
 #include <memory>
 
+#include "shell/fields/long_work.h"
 #include "storage/materials/material_store.h"
 
 namespace velmar::shell {
@@ -69,7 +70,9 @@ MaterialSource StoredMaterials(const std::filesystem::path& file) {
     return std::nullopt;
   };
   source.remove = [store](MaterialFamily family, const std::string& name) {
-    return store->Delete(family, name);
+    bool removed = false;
+    RunBeside([&] { removed = store->Delete(family, name); });
+    return removed;
   };
   return source;
 }

@@ -72,6 +72,8 @@ QWidget* SavedResultsWindow::MakeKinds() {
   airborne_->setObjectName(QStringLiteral("Option1_0"));
   impact_ = new QRadioButton(tools_.Text(kImpactResultsRow), bar);
   impact_->setObjectName(QStringLiteral("Option1_1"));
+  lining_ = new QRadioButton(tools_.Text(kLiningResultsRow), bar);
+  lining_->setObjectName(QStringLiteral("Option1_2"));
   airborne_->setChecked(true);
   search_ = new QLineEdit(bar);
   search_->setObjectName(QStringLiteral("TextCerca"));
@@ -80,9 +82,14 @@ QWidget* SavedResultsWindow::MakeKinds() {
   search_->setClearButtonEnabled(true);
   row->addWidget(airborne_);
   row->addWidget(impact_);
+  row->addWidget(lining_);
   row->addStretch(1);
   row->addWidget(search_, 2);
-  connect(airborne_, &QRadioButton::toggled, this, [this] { Refresh(); });
+  for (const QRadioButton* kind : {airborne_, impact_, lining_}) {
+    connect(kind, &QRadioButton::toggled, this, [this](bool chosen) {
+      if (chosen) Refresh();
+    });
+  }
   connect(search_, &QLineEdit::textChanged, this, [this](const QString& text) {
     const std::string before = SelectedName();
     shown_.Search(text);
@@ -168,7 +175,8 @@ void SavedResultsWindow::AddKeys() {
 }
 
 ResultKind SavedResultsWindow::Kind() const {
-  return airborne_->isChecked() ? ResultKind::kAirborne : ResultKind::kImpact;
+  if (lining_->isChecked()) return ResultKind::kLining;
+  return impact_->isChecked() ? ResultKind::kImpact : ResultKind::kAirborne;
 }
 
 std::string SavedResultsWindow::SelectedName() const {
@@ -210,7 +218,7 @@ void SavedResultsWindow::ShowSelected() {
   messages_->setVisible(!messages.isEmpty());
   copy_->setEnabled(any);
   delete_->setEnabled(any);
-  // A level of impact sound is no reduction index: a facade would be wrong with it.
+  // A level of impact sound or an improvement is no reduction index: a facade would be wrong with it.
   take_->setEnabled(any && Kind() == ResultKind::kAirborne);
 }
 

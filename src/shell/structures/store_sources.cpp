@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "measurements/octave_steps.h"
+#include "shell/fields/long_work.h"
 #include "storage/library/library_store.h"
 #include "storage/library/own_measurements.h"
 #include "storage/library/own_pictures.h"
@@ -44,7 +45,15 @@ std::optional<storage::ResultTable> TableOf(Branch branch) {
 }
 
 storage::ResultTable TableOf(ResultKind kind) {
-  return kind == ResultKind::kAirborne ? storage::ResultTable::kAirborne : storage::ResultTable::kImpact;
+  switch (kind) {
+    case ResultKind::kAirborne:
+      return storage::ResultTable::kAirborne;
+    case ResultKind::kImpact:
+      return storage::ResultTable::kImpact;
+    case ResultKind::kLining:
+      return storage::ResultTable::kLining;
+  }
+  return storage::ResultTable::kAirborne;
 }
 
 MeasuredTest TestOf(const storage::LibraryFolder& folder, storage::MeasuredTest test,
@@ -178,7 +187,9 @@ ResultSource StoredResults(const std::filesystem::path& file) {
     return result ? result->messages : std::string();
   };
   source.remove = [store](ResultKind kind, const std::string& name) {
-    return store->Delete(TableOf(kind), name);
+    bool removed = false;
+    shell::RunBeside([&] { removed = store->Delete(TableOf(kind), name); });
+    return removed;
   };
   return source;
 }

@@ -15,7 +15,7 @@
 namespace velmar::structures {
 
 /// The tables of stored results that a window offers (`Option1`).
-enum class ResultKind { kAirborne = 0, kImpact = 1 };
+enum class ResultKind { kAirborne = 0, kImpact = 1, kLining = 2 };
 
 /// A line of the grid of stored results.
 struct ResultEntry {

@@ -5,14 +5,18 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTest>
+#include <QTimer>
 #include <QToolButton>
 #include <QTreeWidget>
 #include <filesystem>
 #include <fstream>
+#include <future>
+#include <thread>
 
 #include "calculation/run.h"
 #include "calculation/select_calculation.h"
 #include "shell/results/results_panel.h"
+#include "storage/database/connection.h"
 #include "tests/shell/support/stores_program.h"
 
 namespace velmar::shell {
@@ -80,6 +84,34 @@ class StructureCommandsTest : public QObject {
     program.fixture.Run();
     QVERIFY(program.fixture.open.Result().has_value());
     QVERIFY(program.fixture.open.Result() == calculation::RunCalculation(typed, 0.0, {}).result);
+  }
+
+  void aLockIsWaitedForByAWindowThatLives() {
+    Program program;
+    program.fixture.window->OpenProject(EXAMPLES "/parete-forato-intonacata.drav");
+    program.fixture.Run();
+    std::promise<void> held;
+    std::promise<void> let_go;
+    std::thread other([&] {
+      storage::ChangeDatabaseWith(program.places.results, [&](SQLite::Database&) {
+        held.set_value();
+        let_go.get_future().wait();
+      });
+    });
+    held.get_future().wait();
+    // Only a window that goes on handling events lets the other program finish.
+    bool lived = false;
+    QTimer::singleShot(50, program.fixture.window.get(), [&] {
+      lived = true;
+      let_go.set_value();
+    });
+    program.name = "Parete nuova";
+    program.fixture.Find<QAction>("Salva")->trigger();
+    if (!lived) let_go.set_value();
+    other.join();
+    QVERIFY(lived);
+    QVERIFY2(program.fixture.told.isEmpty(), qPrintable(program.fixture.told.join('\n')));
+    QVERIFY(program.fixture.services.saved_result("Parete nuova").has_value());
   }
 
   void storedNamesFillTheLists() {

@@ -103,7 +103,22 @@ WindowFixture::WindowFixture() {
   };
   services.boxes.tell = [this](Tone, const QString& text) { told += text; };
   services.boxes.choose_file_to_open = [this](const FileQuestion&) { return file; };
-  services.boxes.choose_file_to_save = [this](const FileQuestion&) { return file; };
+  services.boxes.tell_written = [this](const QString& text, const std::filesystem::path& path) {
+    told += text;
+    written += QString::fromStdString(path.string());
+  };
+  services.boxes.choose_file_to_save = [this](const FileQuestion& question) {
+    to_save.push_back(question);
+    return file;
+  };
+  services.new_setup = FirstSetup;
+  services.ask_about_lost_work = [this](const std::vector<LostWork>& works) {
+    lost.push_back(works);
+    if (lost_answers.empty()) return LostWorkAnswer{};
+    const LostWorkAnswer answer = lost_answers.front();
+    lost_answers.erase(lost_answers.begin());
+    return answer;
+  };
   services.version = "2.0.0";
   services.accuracy = validation::KnownAccuracy(Known);
   open.Replace(FirstSetup());
