@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <utility>
 
+#include "presentation/texts/calculation_data.h"
 #include "shell/commands/desk.h"
 
 namespace velmar::shell {
@@ -14,7 +15,9 @@ class ReportCommands : public QObject {
   Q_OBJECT
  public:
   /// @param templates folder of the templates
-  explicit ReportCommands(std::filesystem::path templates) : templates_(std::move(templates)) {}
+  /// @param sources tells where the values of materials come from
+  explicit ReportCommands(std::filesystem::path templates, presentation::MaterialSources sources = {})
+      : templates_(std::move(templates)), sources_(std::move(sources)) {}
 
  public slots:
   void ExportWord(const velmar::shell::Desk& desk);
@@ -22,6 +25,7 @@ class ReportCommands : public QObject {
 
  private:
   std::filesystem::path templates_;
+  presentation::MaterialSources sources_;
 };
 
 }  // namespace velmar::shell

@@ -14,6 +14,7 @@
 
 #include "application/accuracy_file.h"
 #include "application/environment.h"
+#include "application/material_sources.h"
 #include "application/projects.h"
 #include "calculation/material_choice.h"
 #include "foundation/failure.h"
@@ -143,7 +144,9 @@ struct Desktop {
     material_commands = std::make_unique<MaterialCommands>(open, services, services.places.settings,
                                                            store.File(), EditorOf(store, services.words));
     paper_commands = std::make_unique<PaperCommands>(PaperBoxes(services));
-    report_commands = std::make_unique<ReportCommands>(environment.configuration.CartellaTemplates());
+    report_commands = std::make_unique<ReportCommands>(
+        environment.configuration.CartellaTemplates(),
+        application::MaterialSourcesIn(environment.configuration.PercorsoDatabase(), services.words));
     services.Add(*structure_commands);
     services.Add(*material_commands);
     services.paper_commands = paper_commands.get();
