@@ -7,6 +7,7 @@
 
 #include "calculation/layer_edits.h"
 #include "elements/layer_groups.h"
+#include "elements/requirement.h"
 
 namespace velmar::calculation {
 namespace {
@@ -39,6 +40,7 @@ class Differences {
     for (std::size_t i = 0; i < before.facade.components.size(); ++i)
       Element(before.facade.components[i], after.facade.components[i], static_cast<int>(i) + 1);
     if (before.information != after.information) Add({StepKind::kInformation});
+    if (elements::RequirementOf(before) != elements::RequirementOf(after)) Add({StepKind::kRequirement});
   }
 
   std::optional<Step> AsOne() const {
@@ -188,6 +190,7 @@ bool IsTyped(const Step& step) {
     case StepKind::kCount:
     case StepKind::kName:
     case StepKind::kDescription:
+    case StepKind::kRequirement:
       return true;
     case StepKind::kField:
       break;
@@ -233,6 +236,7 @@ void History::Note(const Setup& before, const Setup& after, const std::optional<
   const bool goes_on = open_ && !undone_from_.empty() && undone_from_.back().step == *step && IsTyped(*step);
   open_ = true;
   if (!goes_on) {
+    ++step_number_;
     undone_from_.push_back({*step, before});
     if (undone_from_.size() > kMostSteps) undone_from_.pop_front();
   } else if (undone_from_.back().other == after) {
@@ -250,6 +254,7 @@ std::optional<Step> History::ToRedo() const {
 
 Setup History::Undo(const Setup& current) {
   Entry entry = TakeLast(undone_from_);
+  ++step_number_;
   redone_from_.push_back({entry.step, current});
   open_ = false;
   return std::move(entry.other);
@@ -257,11 +262,16 @@ Setup History::Undo(const Setup& current) {
 
 Setup History::Redo(const Setup& current) {
   Entry entry = TakeLast(redone_from_);
+  ++step_number_;
   undone_from_.push_back({entry.step, current});
   open_ = false;
   return std::move(entry.other);
 }
 
-void History::Clear() { *this = {}; }
+void History::Clear() {
+  const std::size_t number = step_number_ + 1;
+  *this = {};
+  step_number_ = number;
+}
 
 }  // namespace velmar::calculation

@@ -150,6 +150,8 @@ QString StepWords(const calculation::Step& step, const elements::Setup& setup,
       return Text(words, kStepVariantRemovedRow);
     case StepKind::kVariantTaken:
       return Text(words, kStepVariantTakenRow);
+    case StepKind::kRequirement:
+      return Text(words, kStepRequirementRow);
     case StepKind::kSeveral:
       return Text(words, kStepSeveralRow);
   }

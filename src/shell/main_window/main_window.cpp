@@ -23,9 +23,11 @@
 #include "shell/fields/icons.h"
 #include "shell/fields/material_change.h"
 #include "shell/fields/phrases.h"
+#include "shell/main_window/continuous_switch.h"
 #include "shell/main_window/start_screen.h"
 #include "shell/pages/element_header.h"
 #include "shell/pages/input_tabs.h"
+#include "shell/results/requirement_line.h"
 #include "shell/results/results_panel.h"
 #include "shell/second_opinion/second_opinion_panel.h"
 
@@ -61,6 +63,7 @@ MainWindow::MainWindow(const WindowServices& services, QWidget* parent)
       context_(services.open, services, services, materials_),
       work_(services.open),
       memory_(services.places.settings),
+      continuous_(services.open),
       recovery_(services.open, services, services.places.recovery, kRecoveryDelayMs),
       files_(services.open, services, services, services.places, memory_, recovery_),
       table_(services.open, services.words),
@@ -86,9 +89,13 @@ MainWindow::MainWindow(const WindowServices& services, QWidget* parent)
   recent_ = FillMenuBar(*menuBar(), commands_, calculations_, services.words);
   edit_menu_ = new EditMenu(services.open, services.words, this);
   menuBar()->insertMenu(menuBar()->actions().at(1), edit_menu_);
-  connect(qApp, &QApplication::focusChanged, this, [this] { services_.open.EndStep(); });
+  connect(qApp, &QApplication::focusChanged, this, [this] {
+    services_.open.EndStep();
+    continuous_.FollowLeftField();
+  });
   tool_bar_ = new CommandToolBar(commands_, calculations_, services.words, this);
   addToolBar(tool_bar_);
+  AddContinuousSwitch();
   // Shortcuts work whether or not their menu was ever open.
   for (const Command& command : Commands()) addAction(commands_.Of(command.id));
   opinion_ = new SecondOpinionPanel(services.open, services, services.accuracy, this);
@@ -148,6 +155,15 @@ void MainWindow::Say(const QString& text) {
   silence_.start();
 }
 
+void MainWindow::AddContinuousSwitch() {
+  auto* on = new ContinuousSwitch(continuous_, memory_, services_.words, this);
+  addAction(on);
+  tool_bar_->AddBehindRun(on);
+  menuBar()->findChild<QMenu*>("calcolo")->insertAction(commands_.Of(CommandId::kCompareBeside), on);
+  results_->Follow(continuous_);
+  connect(&work_, &OpenWork::AboutToTell, &continuous_, &ContinuousCalculation::Follow);
+}
+
 void MainWindow::Connect() {
   connect(&work_, &OpenWork::Changed, this, &MainWindow::ShowAll);
   connect(&files_, &ProjectFiles::Renamed, this, &MainWindow::ShowName);
@@ -158,6 +174,7 @@ void MainWindow::Connect() {
   connect(start_, &StartScreen::KindChosen, this, &MainWindow::Begin);
   connect(start_, &StartScreen::ProjectChosen, this, &MainWindow::OpenProject);
   connect(&commands_, &CommandSet::AboutToAct, &context_, &PageContext::SettleAsked);
+  connect(&commands_, &CommandSet::AboutToAct, results_->Requirement(), &RequirementLine::Settle);
   connect(&files_, &ProjectFiles::Opened, tabs_, &InputTabs::FocusFirst);
   connect(&files_, &ProjectFiles::Emptied, this, [this] {
     for (const elements::CalculationRow& row : elements::Catalogue())

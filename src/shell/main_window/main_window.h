@@ -13,6 +13,7 @@
 #include "shell/project/project_files.h"
 #include "shell/project/recovery.h"
 #include "shell/project/window_memory.h"
+#include "shell/results/continuous_calculation.h"
 #include "shell/results/open_table.h"
 
 class QLabel;
@@ -53,6 +54,7 @@ class MainWindow : public QMainWindow {
 
  private:
   void MakeCentre();
+  void AddContinuousSwitch();
   void Connect();
   void Choose(elements::Calculation calculation);
   void Begin(elements::ElementButton kind);
@@ -71,6 +73,7 @@ class MainWindow : public QMainWindow {
   PageContext context_;
   OpenWork work_;
   WindowMemory memory_;
+  ContinuousCalculation continuous_;
   Recovery recovery_;
   ProjectFiles files_;
   OpenTable table_;

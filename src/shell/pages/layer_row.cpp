@@ -20,6 +20,7 @@
 #include "shell/fields/list_boxes.h"
 #include "shell/fields/material_box.h"
 #include "shell/fields/number_field.h"
+#include "shell/fields/number_steps.h"
 #include "shell/fields/pasted_bands.h"
 #include "shell/fields/phrases.h"
 
@@ -106,6 +107,7 @@ void LayerRow::MakeFields(QWidget* page) {
   thickness_ = new NumberField(ArrayName(group.thickness_box, plan_.index), NumberKind::kReal, page);
   thickness_->setAccessibleName(Text(words, kLayerThicknessRow) + row);
   thickness_->setToolTip(Text(words, kLayerThicknessTipRow));
+  StepByArrows(thickness_);
   connect(thickness_, &NumberField::Edited, this, [this](const std::string& text) {
     context_.Edit([&](elements::Setup& setup) {
       calculation::EnterLayerThickness(setup, plan_.group, plan_.index, text);

@@ -15,6 +15,7 @@ constexpr const char* kResultsKey = "finestra/risultati";
 constexpr const char* kDocumentProjectKey = "documenti/progetto";
 constexpr const char* kDocumentFolderKey = "documenti/cartella";
 constexpr const char* kKnownKey = "detto";
+constexpr const char* kContinuousKey = "calcolo/continuo";
 constexpr int kMostRemembered = 10;
 
 QString ToQt(const std::filesystem::path& path) { return QString::fromStdString(path.string()); }
@@ -70,6 +71,14 @@ bool WindowMemory::IsFirst(const QString& what) {
   if (!file_.empty())
     QSettings(ToQt(file_), QSettings::IniFormat).setValue(kKnownKey, QStringList(known_.values()));
   return true;
+}
+
+bool WindowMemory::IsContinuous() const {
+  return !file_.empty() && QSettings(ToQt(file_), QSettings::IniFormat).value(kContinuousKey, false).toBool();
+}
+
+void WindowMemory::RememberContinuous(bool on) {
+  if (!file_.empty()) QSettings(ToQt(file_), QSettings::IniFormat).setValue(kContinuousKey, on);
 }
 
 void WindowMemory::SaveSizes(const QMainWindow& window, const QSplitter& sides,

@@ -12,8 +12,8 @@ class QSplitter;
 namespace velmar::shell {
 
 /// What the window remembers from one start to the next, in a file of the user's own: sizes, recent projects,
-/// where documents go, what was said already. With an empty path only as long as the program runs, and no
-/// sizes and projects.
+/// where documents go, what was said already, the switch of the continuous calculation. With an empty path only
+/// as long as the program runs, and no sizes and projects.
 class WindowMemory {
  public:
   explicit WindowMemory(std::filesystem::path file);
@@ -33,6 +33,9 @@ class WindowMemory {
 
   /// Whether this is the first time that somebody asks about `what`; from then on it is not.
   bool IsFirst(const QString& what);
+  /// Whether each change is calculated at once; at first it is not.
+  bool IsContinuous() const;
+  void RememberContinuous(bool on);
 
   void SaveSizes(const QMainWindow& window, const QSplitter& sides, const QSplitter& results) const;
   /// @return whether sizes were remembered
