@@ -7,6 +7,7 @@
 #include <sstream>
 #include <system_error>
 
+#include "application/material_sources.h"
 #include "cli/commands/project_run.h"
 #include "cli/output/failure_report.h"
 #include "cli/output/outcome_table.h"
@@ -101,6 +102,8 @@ ExitCode ReportOne(const ReportCommand& command, const path& project, const Serv
       .totals = run.totals,
       .confidence = std::move(confidence),
       .words = services.words,
+      .file = project.filename().string(),
+      .sources = application::MaterialSourcesIn(services.material_database, services.words),
       .tell = [&](const Message& message) { WriteMessage(message, services.words, errors); }};
   return WriteReports(command, project, content, services, errors);
 }

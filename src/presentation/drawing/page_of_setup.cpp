@@ -172,7 +172,16 @@ PaginaDiStampa PaginaDi(const Setup& setup, const PageTotals& totals, const elem
   if (!page.structure.empty()) page.structure_heading = words(kLayersTitleRow);
   page.structure_notes = NotesOf(row, totals, result);
   page.section = SectionOf(setup);
+  page.section_options = PaperOptions(setup, words);
+  page.data = CalculationDataOf(setup, words);
+  page.foot = {.page = words(kPageRow), .of = words(kPageOfRow)};
   return page;
+}
+
+void TellProvenance(PaginaDiStampa& page, const Setup& setup, const Words& words,
+                    const Provenance& provenance) {
+  page.data = CalculationDataOf(setup, words, provenance);
+  page.foot.left = FootText(setup.information, provenance);
 }
 
 }  // namespace velmar::presentation

@@ -17,8 +17,7 @@
 namespace velmar::shell {
 
 /// Where the program finds what it hands to the system, and where it keeps its own.
-struct WindowPlaces : HelpPlaces {
-  std::filesystem::path examples{};  ///< folder of the shipped example projects
+struct WindowPlaces : HelpPlaces, ProjectPlaces {
   std::filesystem::path settings{};  ///< sizes and recent projects; empty: nothing is remembered
   std::filesystem::path recovery{};  ///< folder of the copies of unsaved work; empty: none are made
 };

@@ -7,8 +7,8 @@
 
 namespace velmar::shell {
 
-class ChoiceBox;
 class CountBox;
+class FilterBox;
 class LayerRow;
 
 /// The layers of a leaf, a bearing floor or a screed: count, keyword filter, up to ten rows. The same page
@@ -27,7 +27,7 @@ class LeafPage : public Page {
   Leaf leaf_;
   PageContext& context_;
   CountBox* count_ = nullptr;
-  ChoiceBox* filter_ = nullptr;
+  FilterBox* filter_ = nullptr;
   std::vector<LayerRow*> rows_;
 };
 

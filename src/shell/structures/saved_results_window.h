@@ -57,6 +57,7 @@ class SavedResultsWindow : public QDialog {
   EntrySearch shown_;
   QRadioButton* airborne_ = nullptr;
   QRadioButton* impact_ = nullptr;
+  QRadioButton* lining_ = nullptr;
   QLineEdit* search_ = nullptr;
   QTableView* grid_ = nullptr;
   QLineEdit* name_ = nullptr;

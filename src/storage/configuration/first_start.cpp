@@ -40,6 +40,7 @@ bool CopyTo(const fs::path& source, const fs::path& target) {
   fs::create_directories(target.parent_path());
   const Unfinished unfinished(target);
   fs::copy(source, unfinished.Path(), fs::copy_options::recursive);
+  if (fs::is_directory(unfinished.Path())) fs::remove_all(unfinished.Path() / kFormerData);
   Settle(unfinished.Path());
   if (!RenameToFreeName(unfinished.Path(), target)) return false;
   platform::SyncToDisk(target.parent_path());

@@ -67,6 +67,8 @@ const std::vector<RandomUser::Action>& RandomUser::Actions() {
       {"drop a material", &RandomUser::DropMaterial},
       {"go back and forth", &RandomUser::GoBackAndForth, 2},
       {"go back", &RandomUser::GoBack},
+      {"switch the continuous calculation", &RandomUser::SwitchContinuous},
+      {"step a number", &RandomUser::StepNumber, 3},
   };
   return actions;
 }
@@ -118,6 +120,17 @@ void RandomUser::GoBackAndForth() {
 }
 
 void RandomUser::GoBack() { fixture_.Find<QAction>("annulla")->trigger(); }
+
+void RandomUser::SwitchContinuous() { fixture_.Find<QAction>("calcolo_continuo")->trigger(); }
+
+void RandomUser::StepNumber() {
+  auto* field = AnyShown<QLineEdit>();
+  if (field == nullptr) return;
+  field->setFocus();
+  const Qt::Key key = Pick(2) == 0 ? Qt::Key_Up : Qt::Key_Down;
+  for (int steps = 1 + Pick(5); steps > 0; --steps)
+    QTest::keyClick(field, key, Pick(3) == 0 ? Qt::ControlModifier : Qt::NoModifier);
+}
 
 void RandomUser::ChooseCalculation() {
   fixture_.Choose(

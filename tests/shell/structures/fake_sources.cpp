@@ -20,7 +20,8 @@ ResultSource FakeResults::Source() {
     ++lists;
     if (locked) throw LockedFailure();
     std::vector<ResultEntry> entries;
-    for (const calculation::FacadePart& part : tables[kind]) entries.push_back({part.name, part.description});
+    for (const calculation::FacadePart& part : tables[kind])
+      entries.push_back({part.name, part.rating_db, part.description});
     return entries;
   };
   const auto place = [this](ResultKind kind, const std::string& name) {

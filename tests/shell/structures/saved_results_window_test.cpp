@@ -48,6 +48,19 @@ class SavedResultsWindowTest : public testing::Test {
   std::vector<std::string> removed_;
 };
 
+TEST_F(SavedResultsWindowTest, ALiningIsListedAndDeletedLikeTheOthers) {
+  results_.tables[ResultKind::kLining] = {PartOf("Controparete x", 12)};
+  Open(/*to_take=*/true);
+  QTest::mouseClick(&Child<QRadioButton>(*window_, "Option1_2"), Qt::LeftButton);
+  ASSERT_EQ(Grid().model()->rowCount(), 1);
+  EXPECT_EQ(Cell(0, 0), "Controparete x");
+  EXPECT_FALSE(Child<QPushButton>(*window_, "Seleziona").isEnabled());
+  Press("Elimina");
+  EXPECT_TRUE(results_.tables[ResultKind::kLining].empty());
+  EXPECT_EQ(removed_, std::vector<std::string>{"Controparete x"});
+  EXPECT_EQ(results_.tables[ResultKind::kAirborne].size(), 3U);
+}
+
 TEST_F(SavedResultsWindowTest, ListsNameAndDescriptionOfTheAirborneResultsFirst) {
   Open();
   Picture(*window_, "form7");
