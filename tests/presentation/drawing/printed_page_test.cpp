@@ -114,14 +114,48 @@ TEST(PaginaDi, OfAGenericLiningHasNeitherChartNorBands) {
 
 TEST(PaginaDi, OfAFacadeListsItsPartsWithShareAndClass) {
   const PaginaDiStampa page = PageOf(samples::FacadeOfNine());
-  EXPECT_THAT(page.elements.heads, ElementsAre("Elemento", "Rw (dB)", "Area (m²)", "Area (%)", "Note"));
+  EXPECT_THAT(page.elements.heads, ElementsAre("Elemento", "Rw; Dn,e,w (dB)", "Area (m²)", "Area (%)", "Note"));
   ASSERT_EQ(page.elements.rows.size(), 10U);
   EXPECT_TRUE(page.elements.rows[0][0].starts_with("parte opaca"));
   EXPECT_THAT(std::vector(page.elements.rows[2].begin() + 1, page.elements.rows[2].end()),
               ElementsAre("39", "1,55", "3,2%", "Classe 1"));
-  EXPECT_THAT(page.elements.rows[9], ElementsAre("infisso: Bocchetta di ventilazione", "46", "-", "-", ""));
+  EXPECT_THAT(page.elements.rows[9], ElementsAre("infisso: Bocchetta di ventilazione", "Dn,e,w 46", "-", "-", ""));
   EXPECT_TRUE(page.structure.empty());
   EXPECT_TRUE(page.section.strips.empty());
+}
+
+TEST(PaginaDi, OfAFacadeWithoutSmallElementsRatesAllPartsByRw) {
+  elements::Setup setup = samples::FacadeOfNine();
+  setup.facade.components[8].area_text = "0,5";
+  const PaginaDiStampa page = PageOf(setup);
+  EXPECT_EQ(page.elements.heads.at(1), "Rw (dB)");
+  EXPECT_EQ(page.elements.rows[9].at(1), "46");
+}
+
+TEST(PaginaDi, OfAFloorNamesTheImprovementByItsCovering) {
+  elements::ResultSet result = ImpactResult();
+  result.delta_lnw = 21.34;
+  elements::Setup setup = samples::FloatingFloor();
+  setup.calculation = Calculation::kImpactFloatingFloor;
+  EXPECT_THAT(PageOf(setup, result).results, ElementsAre("Lnw(Ci)= 58,0 (1) dB", "DLw= 21,3 dB"));
+}
+
+TEST(PaginaDi, PrintsWhatBelongsBesideTheResultInFull) {
+  elements::ResultSet result = samples::Result();
+  result.ranges_left = {{MessageRow{195}, 504, 80, 400, "kg/m²", MessageRow{3300}}};
+  elements::Setup setup = samples::PlasteredBrickWall();
+  setup.calculation = Calculation::kSingleWallBrick;
+  const PaginaDiStampa page =
+      PaginaDi(setup, {373.0, 720.3}, &result, CatalogueWords(), std::nullopt,
+               {{std::string("Rw 52 dB, nessuna stima")}, {std::string("Il risultato sta fuori")}});
+  EXPECT_EQ(page.results_note,
+            "Fuori dal campo di validità della relazione [1]: m' = 504 kg/m² (da 80 a 400). Calcolo "
+            "proseguito per scelta dell'utente.\nRw 52 dB, nessuna stima\nIl risultato sta fuori");
+  for (const QSizeF& paper : {kPortrait, kLandscape}) {
+    const auto printed = Printed(page, paper);
+    EXPECT_TRUE(printed->Says("Rw 52 dB, nessuna stima"));
+    EXPECT_TRUE(printed->Says("Il risultato sta fuori"));
+  }
 }
 
 TEST(PaginaDi, OfTheFloorsInHollowBrickAddsTheirLines) {
