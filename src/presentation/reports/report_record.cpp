@@ -23,6 +23,8 @@ namespace {
 using elements::Family;
 using elements::Setup;
 
+/// Of the project information.
+constexpr std::size_t kEngineerRow = 3;
 /// Rw is the reference curve at 500 Hz.
 constexpr double kRatingBelowShift = 4.0;
 
@@ -150,6 +152,7 @@ ReportRecord ReportRecordOf(const Setup& setup, const elements::ResultSet& resul
   const Family family = elements::RowOf(*setup.calculation).family;
   record.footer = FootText(setup.information, provenance);
   record.date = provenance.date;
+  record.engineer = setup.information[kEngineerRow].value;
   record.family = family;
   FillLabels(setup, family, words, record);
   FillBands(setup, family, record);

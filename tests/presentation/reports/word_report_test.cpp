@@ -73,7 +73,6 @@ TEST_P(WordReportTest, TellsEveryLayer) {
 }
 
 TEST_P(WordReportTest, ShowsTheChartWithWordsForThoseWhoCannotSeeIt) {
-  EXPECT_EQ(package_.Has("word/media/velmar1.png"), record_.chart.has_value());
   if (!record_.chart) return;
   EXPECT_EQ(package_.Part("word/media/velmar1.png"), record_.chart->png);
   EXPECT_THAT(package_.Part(kDocument), HasSubstr("descr=\"" + record_.chart->alternative_text));
