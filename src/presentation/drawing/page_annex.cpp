@@ -43,7 +43,9 @@ SectionOptions PageSectionOptions(const PaginaDiStampa& page) {
 
 double SectionLabelPixels(const QRectF& area, const PaginaDiStampa& page, const SectionOptions& options) {
   const QFont font = PixelFont(QFont(QStringLiteral("Arial")), kTextPoints * 96.0 / 72.0);
-  return LayoutOf(QRectF(QPointF(), area.size() / kPagePixel), page.section, font, options).label_px;
+  const SectionLayout layout =
+      LayoutOf(QRectF(QPointF(), area.size() / kPagePixel), page.section, font, options);
+  return layout.labels.empty() ? options.smallest_number_px : layout.label_px;
 }
 
 PageAnnex::PageAnnex(const QSizeF& paper, const PaginaDiStampa& page, const PageRest& rest)

@@ -162,7 +162,6 @@ ReportRecord ReportRecordOf(const Setup& setup, const elements::ResultSet& resul
   record.messages = RangesLeft(result, words);
   record.resulting_line = LiningRatings(*setup.calculation, result, words);
   record.rating_note = RatingNote(family, result, words);
-  if (!record.rating_note.empty()) record.result_line += " *";
   record.further_line = FurtherNumbersLine(*setup.calculation, result);
   record.laboratory_data = Compared(words(kLaboratoryFrameRow), compared.laboratory);
   record.in_situ_data = Compared(words(kInSituRow), compared.in_situ);
