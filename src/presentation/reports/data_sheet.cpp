@@ -71,7 +71,7 @@ class DataSheet {
                              .bold = head});
       const bool spans = wide && place.column == static_cast<int>(cells.size());
       const int last = spans ? kLastColumn : place.column;
-      if (spans) sheet_.MergeRange(place, {row_, kLastColumn});
+      if (spans && place.column < kLastColumn) sheet_.MergeRange(place, {row_, kLastColumn});
       FitHeight(sheet_, row_, cell, place.column, last);
     }
     ++row_;
