@@ -20,6 +20,8 @@ std::vector<LegendEntry> EntriesOf(const CurveChart& chart) {
   add(chart.laboratory.has_value(), chart.words.laboratory, kLaboratoryColour, true);
   add(chart.in_situ.has_value(), chart.words.in_situ, kInSituColour, true);
   add(chart.base.has_value(), chart.words.base, kBaseColour, true);
+  for (std::size_t i = 0; i < chart.further.size(); ++i)
+    add(true, chart.further[i].name, FurtherColour(i), false);
   return entries;
 }
 

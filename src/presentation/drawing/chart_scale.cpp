@@ -54,6 +54,9 @@ ChartRange RangeOf(const CurveChart& chart) {
       for (const auto* overlay : {&chart.laboratory, &chart.in_situ}) {
         if (*overlay && (**overlay)[band] != 0.0) Widen(range, (**overlay)[band]);
       }
+      for (const FurtherCurve& curve : chart.further) {
+        if (curve.values[band] != 0.0) Widen(range, curve.values[band]);
+      }
     }
     if (chart.shift) {
       range.maximum = std::max(range.maximum, chart.reference[kRaisingReference] + *chart.shift);
@@ -67,6 +70,8 @@ ChartRange RangeOf(const CurveChart& chart) {
 void ShowWhole(CurveChart& chart) {
   for (const auto* curve : {&chart.base, &chart.laboratory, &chart.in_situ})
     chart.autoscale = chart.autoscale || (*curve && Leaves(**curve, chart));
+  for (const FurtherCurve& curve : chart.further)
+    chart.autoscale = chart.autoscale || Leaves(curve.values, chart);
   // Only upwards: a fitted scale follows a low reference curve no better.
   const bool high_reference =
       chart.shift && *std::ranges::max_element(chart.reference) + *chart.shift > kHighestShown;

@@ -18,6 +18,7 @@ constexpr double kGridWidth = 1.0;
 constexpr double kReferenceWidth = 1.0;
 constexpr double kCurveWidth = 2.0;
 constexpr double kDotDiameter = 6.0;
+constexpr double kFurtherWidth = 1.5;
 constexpr double kTickLength = 4.0;
 
 // Every third band carries its frequency: 63, 125, ... 4000 Hz.
@@ -112,6 +113,16 @@ void DrawCurve(QPainter& painter, const ChartLayout& layout, const CurveChart& c
   }
 }
 
+void DrawFurther(QPainter& painter, const ChartLayout& layout, const CurveChart& chart,
+                 const ChartRange& range, const acoustics::Spectrum& values, const QColor& colour) {
+  const auto at = [&](std::size_t band) {
+    return layout.At(static_cast<double>(band), LogicalY(values[band], range));
+  };
+  painter.setPen(QPen(colour, kFurtherWidth, Qt::DashLine));
+  for (const ChartSegment& segment : CurveSegments(values, chart.first_band, chart.last_band))
+    painter.drawLine(at(segment.from), at(segment.to));
+}
+
 void DrawLegend(QPainter& painter, const ChartLayout& layout) {
   for (const LegendEntry& entry : layout.legend) {
     const double y = entry.box.center().y();
@@ -136,6 +147,8 @@ void DrawCurves(QPainter& painter, const ChartLayout& layout, const CurveChart& 
   DrawCurve(painter, layout, chart, range, chart.values, kCalculatedColour);
   if (chart.laboratory) DrawCurve(painter, layout, chart, range, *chart.laboratory, kLaboratoryColour);
   if (chart.in_situ) DrawCurve(painter, layout, chart, range, *chart.in_situ, kInSituColour);
+  for (std::size_t i = 0; i < chart.further.size(); ++i)
+    DrawFurther(painter, layout, chart, range, chart.further[i].values, FurtherColour(i));
   painter.restore();
 }
 

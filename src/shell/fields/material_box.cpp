@@ -69,6 +69,23 @@ void MaterialBox::Choose(const QString& name) {
   if (shown_ != name) emit Corrected(Correction::kUnknownMaterial, 0);
 }
 
+void MaterialBox::showPopup() {
+  if (!typed_) {
+    emit AboutToOffer();
+    ShowAgain();
+  }
+  if (facts_) {
+    auto* delegate = qobject_cast<FactsDelegate*>(view()->itemDelegate());
+    if (delegate == nullptr) {
+      delegate = new FactsDelegate(facts_, view());
+      view()->setItemDelegate(delegate);
+    }
+    delegate->Forget();
+    view()->setMinimumWidth(width() + FactsDelegate::RoomFor(fontMetrics()));
+  }
+  QuietBox::showPopup();
+}
+
 QStringList MaterialBox::Names() const {
   QStringList names;
   names.reserve(count());
@@ -105,6 +122,10 @@ void MaterialBox::focusInEvent(QFocusEvent* event) {
     auto* finder = new QCompleter(hits_, this);
     finder->setCompletionMode(QCompleter::UnfilteredPopupCompletion);
     setCompleter(finder);
+    if (facts_) {
+      finder->popup()->setItemDelegate(new FactsDelegate(facts_, finder->popup()));
+      finder->popup()->setMinimumWidth(width() + FactsDelegate::RoomFor(fontMetrics()));
+    }
     connect(finder, qOverload<const QString&>(&QCompleter::activated), this, &MaterialBox::Choose);
   }
   // The arrow keys go on from the name that is shown.

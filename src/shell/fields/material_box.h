@@ -2,10 +2,12 @@
 
 #include <QAbstractItemModel>
 #include <QStringListModel>
+#include <utility>
 
 #include "elements/layer_groups.h"
 #include "shell/fields/corrections.h"
 #include "shell/fields/dragged_material.h"
+#include "shell/fields/facts_delegate.h"
 #include "shell/fields/list_boxes.h"
 
 class QMimeData;
@@ -25,12 +27,18 @@ class MaterialBox : public QuietBox {
   void Show(const std::string& name);
   /// Chooses `material` as if it were dropped here. @return false when it is of another family
   bool Put(const DraggedMaterial& material);
+  /// The list tells `facts` beside each name from now on.
+  void Tell(FactsOf facts) { facts_ = std::move(facts); }
+
+  void showPopup() override;
 
  public slots:
   /// What leaving the box does, while it keeps the focus.
   void Settle();
 
  signals:
+  /// The list is about to open: its names may take another order now.
+  void AboutToOffer();
   void Chosen(const std::string& name);
   void Corrected(velmar::shell::Correction correction, int limit);
 
@@ -55,6 +63,7 @@ class MaterialBox : public QuietBox {
   elements::MaterialFamily family_;
   QString shown_;
   bool typed_ = false;
+  FactsOf facts_{};
   QStringListModel* hits_ = nullptr;  ///< of the completion, made with the first focus
 };
 

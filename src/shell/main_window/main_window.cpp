@@ -22,6 +22,7 @@
 #include "shell/pages/element_header.h"
 #include "shell/pages/input_tabs.h"
 #include "shell/results/results_panel.h"
+#include "shell/results/variant_strip.h"
 
 namespace velmar::shell {
 namespace {
@@ -73,6 +74,7 @@ MainWindow::MainWindow(const WindowServices& services, QWidget* parent)
                 this),
       calculations_(services.words, this) {
   setObjectName("Form1");
+  materials_.Remember(services.places.settings);
   setWindowIcon(ProductIcon());
   setAcceptDrops(true);
   recent_ = FillMenuBar(*menuBar(), commands_, calculations_, services.words);
@@ -100,6 +102,8 @@ void MainWindow::MakeCentre() {
   column->setSpacing(0);
   header_ = new ElementHeader(context_, [this] { commands_.Of(CommandId::kDimensions)->trigger(); });
   tabs_ = new InputTabs(context_);
+  variants_ = new VariantStrip(services_.open, services_, results_);
+  results_->AddFoot(variants_);
   column->addWidget(header_);
   column->addWidget(tabs_, 1);
   sides_ = new QSplitter(Qt::Horizontal);
@@ -125,6 +129,9 @@ void MainWindow::Connect() {
   connect(start_, &StartScreen::KindChosen, this, &MainWindow::Begin);
   connect(start_, &StartScreen::ProjectChosen, this, &MainWindow::OpenProject);
   connect(&commands_, &CommandSet::AboutToAct, &context_, &PageContext::SettleAsked);
+  connect(edit_menu_, &EditMenu::SettleAsked, &context_, &PageContext::SettleAsked);
+  connect(edit_menu_, &EditMenu::FixVariantWanted, variants_, &VariantStrip::Fix);
+  connect(variants_, &VariantStrip::SettleAsked, &context_, &PageContext::SettleAsked);
   connect(&files_, &ProjectFiles::Opened, tabs_, &InputTabs::FocusFirst);
   connect(&context_, &PageContext::RowHovered, results_, &ResultsPanel::Highlight);
   connect(results_, &ResultsPanel::LayerHovered, &context_, &PageContext::SectionHovered);

@@ -26,6 +26,7 @@ class ElementHeader;
 class InputTabs;
 class ResultsPanel;
 class StartScreen;
+class VariantStrip;
 
 /// The main window (`Form1`): composes commands, pages and results around the one open calculation, and owns
 /// no rule.
@@ -74,6 +75,7 @@ class MainWindow : public QMainWindow {
   CalculationActions calculations_;
   CommandToolBar* tool_bar_ = nullptr;
   EditMenu* edit_menu_ = nullptr;
+  VariantStrip* variants_ = nullptr;
   QMenu* recent_ = nullptr;
   QStackedWidget* centre_ = nullptr;
   StartScreen* start_ = nullptr;

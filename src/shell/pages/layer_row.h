@@ -15,6 +15,7 @@ class QWidget;
 namespace velmar::shell {
 
 class CountBox;
+class LayerTools;
 class MaterialBox;
 class NumberField;
 
@@ -28,7 +29,7 @@ struct LayerRowPlan {
 };
 
 /// One row of a layer table, in one line of a grid: number or check, material, thickness, sheets, button of
-/// the material list. Columns: kLeadColumn to kChooserColumn.
+/// the material list, tools of the row. Columns: kLeadColumn to kToolsColumn.
 class LayerRow : public QObject {
   Q_OBJECT
 
@@ -38,6 +39,7 @@ class LayerRow : public QObject {
   static constexpr int kThicknessColumn = 2;
   static constexpr int kSheetsColumn = 3;
   static constexpr int kChooserColumn = 4;
+  static constexpr int kToolsColumn = 5;
 
   LayerRow(const LayerRowPlan& plan, PageContext& context, QGridLayout& grid, int line, QWidget* page);
 
@@ -55,7 +57,6 @@ class LayerRow : public QObject {
   void MakeFields(QWidget* page);
   void PutMaterial(const std::string& name);
   void LeaveThickness();
-  void Drag();
   void Light(bool lit);
   template <typename Visit>
   void ForEachWidget(Visit&& visit) const;
@@ -68,6 +69,7 @@ class LayerRow : public QObject {
   NumberField* thickness_ = nullptr;
   CountBox* sheets_ = nullptr;
   QToolButton* chooser_ = nullptr;
+  LayerTools* tools_ = nullptr;  ///< of rows that stand for themselves, not of damping
 };
 
 /// The heads over the columns of layer rows: material, thickness, and sheets where the rows have them.

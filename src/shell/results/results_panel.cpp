@@ -20,6 +20,7 @@
 #include "shell/results/chart_view.h"
 #include "shell/results/section_view.h"
 #include "shell/results/single_numbers_panel.h"
+#include "shell/results/variant_strip.h"
 
 namespace velmar::shell {
 namespace {
@@ -92,6 +93,12 @@ ResultsPanel::ResultsPanel(const calculation::OpenCalculation& open, const Speec
   splitter_->setChildrenCollapsible(false);
   column->addWidget(splitter_, 1);
   if (overlay_ != nullptr) connect(overlay_, &ChartOverlay::Changed, this, &ResultsPanel::Show);
+}
+
+void ResultsPanel::AddFoot(VariantStrip* variants) {
+  variants_ = variants;
+  layout()->addWidget(variants);
+  connect(variants, &VariantStrip::CurvesToggled, this, &ResultsPanel::Show);
 }
 
 QWidget* ResultsPanel::MakeRatings() {
@@ -180,6 +187,7 @@ void ResultsPanel::Show() {
   const elements::Setup& setup = open_.Setup();
   if (!setup.calculation) return;
   const auto& result = open_.Result();
+  if (variants_ != nullptr) variants_->Show();
   ShowRatings(setup, result ? &*result : nullptr);
   ShowChart();
   section_frame_->setVisible(RowOf(*setup.calculation).family != elements::Family::kFacade);
@@ -235,6 +243,7 @@ void ResultsPanel::ShowChart() {
   if (shown_) {
     shown_->autoscale = autoscale_->isChecked();
     if (overlay_ != nullptr) overlay_->LayOver(*shown_);
+    if (variants_ != nullptr) shown_->further = variants_->Curves();
   }
   // A result without a curve says so in its place.
   const std::string note = result && !shown_ ? speech_.words(kRatingsOnlyRow) : std::string();

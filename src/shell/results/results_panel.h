@@ -19,6 +19,7 @@ namespace velmar::shell {
 class ChartView;
 class SectionView;
 class SingleNumbersPanel;
+class VariantStrip;
 
 /// The right side of the window (`prnFrame1`): single-number results, curve chart, section drawing. Shows the
 /// open calculation and changes nothing of it.
@@ -36,6 +37,9 @@ class ResultsPanel : public QWidget {
 
   /// The chart as it is shown, with its scale and overlays; nothing without a result or a curve.
   const std::optional<presentation::CurveChart>& Chart() const { return shown_; }
+
+  /// The variants stand at the panel's foot from now on, and their curves in the chart.
+  void AddFoot(VariantStrip* variants);
 
   QSplitter* Splitter() const { return splitter_; }
 
@@ -74,6 +78,7 @@ class ResultsPanel : public QWidget {
   QWidget* section_frame_ = nullptr;
   SectionView* section_ = nullptr;
   QSplitter* splitter_ = nullptr;
+  VariantStrip* variants_ = nullptr;
 };
 
 }  // namespace velmar::shell

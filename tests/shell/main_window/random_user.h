@@ -56,6 +56,8 @@ class RandomUser {
   void AnswerDialog();
   void GoBackAndForth();
   void GoBack();
+  void MoveLayers();
+  void UseVariants();
 
   WindowFixture& fixture_;
   std::mt19937 random_;
