@@ -4,6 +4,7 @@
 
 #include "acoustics/logarithm.h"
 #include "acoustics/rating_spectra.h"
+#include "acoustics/unfavourable_deviations.h"
 #include "foundation/failure.h"
 #include "foundation/rounding.h"
 
@@ -13,21 +14,11 @@ namespace {
 using RatedValues = std::array<double, kRatedBandCount>;
 
 constexpr std::size_t k500Hz = 7;
-constexpr double kAllowedDeviation = 32.0;
 // Far beyond any level in dB; up to here every trial shift is an exact whole number.
 constexpr double kLargestLevel = 1e6;
 
 constexpr RatedValues kTraffic = {-20, -20, -18, -16, -15, -14, -13, -12,
                                   -11, -9,  -8,  -9,  -10, -11, -13, -15};
-
-double UnfavourableDeviation(const Spectrum& reduction_index, double shift) {
-  double sum = 0.0;
-  for (std::size_t j = 0; j < kRatedBandCount; ++j) {
-    const double deviation = kAirborneReference[j] + shift - reduction_index[j + kFirstRatedBand];
-    if (deviation >= 0.0) sum += deviation;
-  }
-  return sum;
-}
 
 double AdaptationTerm(const RatedValues& source, const Spectrum& reduction_index, double rw) {
   double energy = 0.0;
@@ -48,7 +39,9 @@ double FindShift(const Spectrum& reduction_index) {
     sum += reduction_index[band];
   }
   double shift = RoundToEven((sum + 140.0) / 16.0);
-  while (!(UnfavourableDeviation(reduction_index, shift) < kAllowedDeviation)) shift -= 1.0;
+  while (!(SumOf(UnfavourableDeviations(reduction_index, kAirborneReference, shift, Unfavourable::kBelow)) <
+           kAllowedDeviationDb))
+    shift -= 1.0;
   return shift;
 }
 

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "acoustics/logarithm.h"
+#include "acoustics/unfavourable_deviations.h"
 #include "foundation/failure.h"
 #include "foundation/rounding.h"
 
@@ -11,18 +12,8 @@ namespace velmar::acoustics {
 namespace {
 
 constexpr std::size_t k500Hz = 7;
-constexpr double kAllowedDeviation = 32.0;
 // Far beyond any level in dB; up to here every trial shift is an exact whole number.
 constexpr double kLargestLevel = 1e6;
-
-double UnfavourableDeviation(const Spectrum& impact_level, double shift) {
-  double sum = 0.0;
-  for (std::size_t j = 0; j < kRatedBandCount; ++j) {
-    const double deviation = kImpactReference[j] + shift - impact_level[j + kFirstRatedBand];
-    if (deviation < 0.0) sum -= deviation;
-  }
-  return sum;
-}
 
 }  // namespace
 
@@ -35,7 +26,9 @@ double FindImpactShift(const Spectrum& impact_level) {
     sum += impact_level[band];
   }
   double shift = RoundToEven((sum - 117.0) / 16.0);
-  while (!(UnfavourableDeviation(impact_level, shift) < kAllowedDeviation)) shift += 1.0;
+  while (!(SumOf(UnfavourableDeviations(impact_level, kImpactReference, shift, Unfavourable::kAbove)) <
+           kAllowedDeviationDb))
+    shift += 1.0;
   return shift;
 }
 

@@ -7,6 +7,7 @@
 
 #include "calculation/layer_edits.h"
 #include "elements/layer_groups.h"
+#include "elements/requirement.h"
 
 namespace velmar::calculation {
 namespace {
@@ -21,7 +22,8 @@ constexpr std::array kGroups = {LayerGroup::kLeaf1,         LayerGroup::kLeaf2,
                                 LayerGroup::kSeaDamping1,   LayerGroup::kSeaDamping2,
                                 LayerGroup::kSeaCavityMass, LayerGroup::kSeaCavityDamping,
                                 LayerGroup::kCavity,        LayerGroup::kSeaCavityFibre,
-                                LayerGroup::kResilient};
+                                LayerGroup::kResilient,     LayerGroup::kStratumSolid,
+                                LayerGroup::kStratumFibre};
 
 /// Collects what differs; of one row or element the field that the others follow from stands first.
 class Differences {
@@ -29,13 +31,16 @@ class Differences {
   Differences(const Setup& before, const Setup& after) : before_(before), after_(after) {
     if (before.calculation != after.calculation) Add({StepKind::kCalculation});
     Counts();
+    Kinds(before.multilayer, after.multilayer);
     for (const LayerGroup group : kGroups) Rows(group);
     Cavities();
+    FreeLayers(before.multilayer, after.multilayer);
     Whole();
     Element(before.base, after.base, 0);
     for (std::size_t i = 0; i < before.facade.components.size(); ++i)
       Element(before.facade.components[i], after.facade.components[i], static_cast<int>(i) + 1);
     if (before.information != after.information) Add({StepKind::kInformation});
+    if (elements::RequirementOf(before) != elements::RequirementOf(after)) Add({StepKind::kRequirement});
   }
 
   std::optional<Step> AsOne() const {
@@ -61,8 +66,13 @@ class Differences {
       const bool depth = step.field.field == Field::kCavityDepth ||
                          step.field.field == Field::kSeaCavityDepth ||
                          step.field.field == Field::kFibreThickness;
-      return depth || (step.field.group == first.field.group && step.field.index == first.field.index &&
-                       step.field.group.has_value());
+      // A row that becomes something else joins or parts cavities, each held as it was.
+      const bool joins =
+          first.field.field == Field::kStratumKind &&
+          (step.field.field == Field::kConnection || step.field.field == Field::kConnectionNumber);
+      return depth || joins ||
+             (step.field.group == first.field.group && step.field.index == first.field.index &&
+              step.field.group.has_value());
     }
     return step == first;
   }
@@ -77,6 +87,7 @@ class Differences {
     count(before_.resilient.count, after_.resilient.count, LayerGroup::kResilient);
     count(before_.sea_leaf1.count, after_.sea_leaf1.count, LayerGroup::kSeaLeaf1);
     count(before_.sea_leaf2.count, after_.sea_leaf2.count, LayerGroup::kSeaLeaf2);
+    count(before_.multilayer.count, after_.multilayer.count, LayerGroup::kStratumSolid);
     if (before_.facade.count_text != after_.facade.count_text)
       Add({StepKind::kCount, {.field = Field::kArea}});
   }
@@ -104,6 +115,32 @@ class Differences {
     AddIf(was.depth_text != is.depth_text, {Field::kCavityDepth});
     AddIf(before_.sea_cavity.type != after_.sea_cavity.type, {Field::kSeaCavityType});
     AddIf(before_.sea_cavity.depth_text != after_.sea_cavity.depth_text, {Field::kSeaCavityDepth});
+  }
+
+  // A row that becomes something else may bring a thickness along, and joins or parts cavities.
+  void Kinds(const elements::Multilayer& was, const elements::Multilayer& is) {
+    for (int i = 0; i < elements::Multilayer::kCapacity; ++i)
+      AddIf(Row(was, i).kind != Row(is, i).kind, {Field::kStratumKind, LayerGroup::kStratumSolid, i});
+  }
+
+  void FreeLayers(const elements::Multilayer& was, const elements::Multilayer& is) {
+    for (int i = 0; i < elements::Multilayer::kCapacity; ++i) {
+      const elements::Stratum& before = Row(was, i);
+      const elements::Stratum& after = Row(is, i);
+      const auto of_row = [&](bool differs, Field field) {
+        AddIf(differs, {field, LayerGroup::kStratumSolid, i});
+      };
+      of_row(before.thickness_text != after.thickness_text, Field::kStratumThickness);
+      of_row(before.connection != after.connection, Field::kConnection);
+      of_row(before.connection_text != after.connection_text, Field::kConnectionNumber);
+      of_row(before.profile_height_text != after.profile_height_text, Field::kProfileHeight);
+      of_row(before.profile_pitch_text != after.profile_pitch_text, Field::kProfilePitch);
+    }
+    AddIf(was.framed != is.framed, {Field::kTracks});
+  }
+
+  static const elements::Stratum& Row(const elements::Multilayer& list, int index) {
+    return list.strata.at(static_cast<std::size_t>(index));
   }
 
   void Whole() {
@@ -153,6 +190,7 @@ bool IsTyped(const Step& step) {
     case StepKind::kCount:
     case StepKind::kName:
     case StepKind::kDescription:
+    case StepKind::kRequirement:
       return true;
     case StepKind::kField:
       break;
@@ -168,6 +206,9 @@ bool IsTyped(const Step& step) {
     case Field::kDecoupling:
     case Field::kSimplified:
     case Field::kTightness:
+    case Field::kStratumKind:
+    case Field::kConnection:
+    case Field::kTracks:
       return false;
     default:
       return true;
@@ -195,6 +236,7 @@ void History::Note(const Setup& before, const Setup& after, const std::optional<
   const bool goes_on = open_ && !undone_from_.empty() && undone_from_.back().step == *step && IsTyped(*step);
   open_ = true;
   if (!goes_on) {
+    ++step_number_;
     undone_from_.push_back({*step, before});
     if (undone_from_.size() > kMostSteps) undone_from_.pop_front();
   } else if (undone_from_.back().other == after) {
@@ -212,6 +254,7 @@ std::optional<Step> History::ToRedo() const {
 
 Setup History::Undo(const Setup& current) {
   Entry entry = TakeLast(undone_from_);
+  ++step_number_;
   redone_from_.push_back({entry.step, current});
   open_ = false;
   return std::move(entry.other);
@@ -219,11 +262,16 @@ Setup History::Undo(const Setup& current) {
 
 Setup History::Redo(const Setup& current) {
   Entry entry = TakeLast(redone_from_);
+  ++step_number_;
   undone_from_.push_back({entry.step, current});
   open_ = false;
   return std::move(entry.other);
 }
 
-void History::Clear() { *this = {}; }
+void History::Clear() {
+  const std::size_t number = step_number_ + 1;
+  *this = {};
+  step_number_ = number;
+}
 
 }  // namespace velmar::calculation

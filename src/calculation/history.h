@@ -18,6 +18,7 @@ enum class StepKind {
   kDescription,  ///< their description
   kBands,        ///< several bands of one of them
   kInformation,  ///< the project's information
+  kRequirement,  ///< the required rating
   kSeveral,      ///< more than one thing, as when a part is taken from a database
 
   // What only the one who does it can name. `field` has the group and the row of a layer, or the number of a
@@ -67,6 +68,10 @@ class History {
 
   /// The field is left: the next change is a step of its own.
   void EndStep() { open_ = false; }
+  /// Whether the last step may still go on.
+  bool IsOpen() const { return open_; }
+  /// Another one for each step that is made, taken back or done again; the same while one is being typed.
+  std::size_t StepNumber() const { return step_number_; }
 
   /// The step that Undo() takes back; nothing: there is none.
   std::optional<Step> ToUndo() const;
@@ -93,6 +98,7 @@ class History {
   std::deque<Entry> undone_from_{};  ///< the last one at the back
   std::deque<Entry> redone_from_{};  ///< the next one at the back
   bool open_ = false;                ///< the last step goes on with a change of the same field
+  std::size_t step_number_ = 0;
 };
 
 }  // namespace velmar::calculation

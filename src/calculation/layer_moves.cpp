@@ -4,6 +4,7 @@
 #include <stdexcept>
 
 #include "calculation/cavity_rules.h"
+#include "calculation/multilayer_edits.h"
 #include "elements/catalogue.h"
 
 namespace velmar::calculation {
@@ -156,7 +157,8 @@ bool CanRemoveLayer(const Setup& setup, LayerGroup group) {
 bool CanMoveLayers(const Setup& setup, LayerGroup group) {
   const bool damping = group == LayerGroup::kSeaDamping1 || group == LayerGroup::kSeaDamping2 ||
                        group == LayerGroup::kSeaCavityDamping;
-  return !damping && RowsInUse(setup, group) > 1;
+  const bool listed = group == LayerGroup::kStratumSolid || group == LayerGroup::kStratumFibre;
+  return !damping && !listed && RowsInUse(setup, group) > 1;
 }
 
 void InsertLayer(Setup& setup, LayerGroup group, int at) {
@@ -211,7 +213,8 @@ void MirrorSecondLeaf(Setup& setup) {
 bool CanTurn(const Setup& setup) {
   if (!StandsUpright(setup)) return false;
   if (IsDoubleSeaWall(setup)) return IsSymmetrical(setup.sea_cavity.type);
-  return IsDoubleWall(setup) || HasStacks(setup, {Stack::kLeaf1}) || HasStacks(setup, {Stack::kSeaLeaf1});
+  return IsDoubleWall(setup) || HasStacks(setup, {Stack::kMultilayer}) || HasStacks(setup, {Stack::kLeaf1}) ||
+         HasStacks(setup, {Stack::kSeaLeaf1});
 }
 
 void TurnElement(Setup& setup) {
@@ -238,6 +241,9 @@ void TurnElement(Setup& setup) {
       case Stack::kSeaCavity:
         Reverse(setup, LayerGroup::kSeaCavityFibre);
         Reverse(setup, LayerGroup::kSeaCavityMass);
+        break;
+      case Stack::kMultilayer:
+        TurnStrata(setup);
         break;
       default:
         break;

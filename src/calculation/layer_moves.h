@@ -19,7 +19,8 @@ bool HasFreeCount(elements::LayerGroup group);
 bool CanInsertLayer(const elements::Setup& setup, elements::LayerGroup group);
 /// Whether `group` can do with a layer less: all but the resilient layers keep one.
 bool CanRemoveLayer(const elements::Setup& setup, elements::LayerGroup group);
-/// Whether the layers of `group` can change places: there are two of them, and they are no damping layers.
+/// Whether the layers of `group` can change places: there are two of them, and they are no damping
+/// layers; the rows of a free list move by MoveStratum().
 bool CanMoveLayers(const elements::Setup& setup, elements::LayerGroup group);
 /// The number of rows of `group` in use becomes `count`, which CanInsertLayer() and CanRemoveLayer() allow.
 /// @throws std::out_of_range for a group whose count is not free

@@ -84,6 +84,23 @@ RunOutcome OpenCalculation::Run(const AskToGoOn& ask) {
   return outcome;
 }
 
+void OpenCalculation::Prepare() {
+  elements::Setup prepared = setup_;
+  PrepareRun(prepared);
+  if (prepared == setup_) return;
+  Put(std::move(prepared));
+  result_.reset();
+  is_saved_ = false;
+  Tell();
+}
+
+bool OpenCalculation::TakeResult(const elements::Setup& setup, elements::ResultSet result) {
+  if (result_ || setup != setup_) return false;
+  result_ = std::move(result);
+  Tell();
+  return true;
+}
+
 void OpenCalculation::Tell() {
   if (listener_) listener_();
 }

@@ -60,6 +60,13 @@ class OpenCalculation {
   /// Prepares the set-up and runs it. Without a result it leaves none behind.
   RunOutcome Run(const AskToGoOn& ask);
 
+  /// What a run would change of the set-up before it reads it is changed now; the result goes with it.
+  void Prepare();
+
+  /// `result` of a run of `setup` that was made elsewhere; taken where the set-up is still that one and waits
+  /// for a result. @return whether it was taken
+  bool TakeResult(const elements::Setup& setup, elements::ResultSet result);
+
   /// `listener` is called after every change of set-up, result or saved state; nothing calls it before.
   void OnChange(std::function<void()> listener) { listener_ = std::move(listener); }
 

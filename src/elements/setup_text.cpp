@@ -81,6 +81,10 @@ bool Take(const std::string& text, CavityKind& value) {
 bool Take(const std::string& text, SeaCavityType& value) {
   return TakeChoice(text, kSeaCavityTypeCount, value);
 }
+bool Take(const std::string& text, StratumKind& value) { return TakeChoice(text, kStratumKindCount, value); }
+bool Take(const std::string& text, CavityConnection& value) {
+  return TakeChoice(text, kCavityConnectionCount, value);
+}
 
 template <typename AnyMaterial, typename Visit>
 void VisitMaterial(AnyMaterial& material, Visit&& visit) {
@@ -146,6 +150,25 @@ void VisitDamping(const std::string& name, Damping& damping, Visit& visit) {
   }
 }
 
+template <typename List, typename Visit>
+void VisitList(List& list, Visit& visit) {
+  visit("multistrato.righe", list.count);
+  visit("multistrato.guide", list.framed);
+  for (std::size_t i = 0; i < list.strata.size(); ++i) {
+    auto& row = list.strata[i];
+    const std::string name = "multistrato." + std::to_string(i + 1);
+    visit(name + ".tipo", row.kind);
+    visit(name, row.solid);
+    visit(name + ".fibra", row.fibre);
+    visit(name + ".resistivita", row.flow_resistivity_pa_s_m2);
+    visit(name + ".spessore", row.thickness_text);
+    visit(name + ".collegamento", row.connection);
+    visit(name + ".collegamenti", row.connection_text);
+    visit(name + ".greca.altezza", row.profile_height_text);
+    visit(name + ".greca.passo", row.profile_pitch_text);
+  }
+}
+
 template <typename AnySetup, typename Visit>
 void VisitSetup(AnySetup& setup, Visit& visit) {
   visit("larghezza", setup.width_text);
@@ -178,6 +201,7 @@ void VisitSetup(AnySetup& setup, Visit& visit) {
     VisitElement(name, setup.facade.components[i], visit);
     visit(name + ".tenuta", setup.facade.components[i].tightness_class);
   }
+  VisitList(setup.multilayer, visit);
 }
 
 template <typename Material>
@@ -293,7 +317,8 @@ bool IsWithinLimits(const Setup& setup) {
   const bool classes = std::ranges::all_of(setup.facade.components, [&](const FacadeComponent& component) {
     return within(component.tightness_class, 0, 4);
   });
-  return classes && within(setup.leaf1.count, 1, LeafLayers::kCapacity) &&
+  return classes && within(setup.multilayer.count, 1, Multilayer::kCapacity) &&
+         within(setup.leaf1.count, 1, LeafLayers::kCapacity) &&
          within(setup.leaf2.count, 1, LeafLayers::kCapacity) &&
          within(setup.cavity.layers.count, 1, kMostTyped) &&
          within(setup.resilient.count, 0, ResilientLayers::kCapacity) &&

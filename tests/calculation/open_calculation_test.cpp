@@ -53,6 +53,39 @@ TEST_F(OpenCalculationTest, HoldsAResultOnlyWhileItBelongsToTheSetup) {
   EXPECT_FALSE(open_.Result());
 }
 
+TEST_F(OpenCalculationTest, TakesAResultThatBelongsToItsSetup) {
+  const elements::Setup before = open_.Setup();
+  const auto result = RunCalculation(before, 0.0, kYes).result;
+  ASSERT_TRUE(result);
+  open_.Edit([](elements::Setup& setup) { setup.facade.components[0].rating_text = "35"; });
+  EXPECT_FALSE(open_.TakeResult(before, *result));
+  EXPECT_FALSE(open_.Result());
+  open_.Undo();
+  const int told = told_;
+  EXPECT_TRUE(open_.TakeResult(before, *result));
+  EXPECT_EQ(open_.Result(), result);
+  EXPECT_EQ(told_, told + 1);
+  EXPECT_TRUE(open_.IsTouched()) << "leaving a field still corrects what was typed";
+  EXPECT_FALSE(open_.TakeResult(before, {})) << "a result that stands is not replaced";
+}
+
+TEST_F(OpenCalculationTest, PreparesTheSetupAsARunDoes) {
+  open_.Replace([] {
+    elements::Setup wall;
+    wall.calculation = elements::Calculation::kDoubleWallGeneric;
+    wall.cavity.depth_text = "";
+    return wall;
+  }());
+  open_.Prepare();
+  EXPECT_EQ(open_.Setup().cavity.depth_text, "10");
+  EXPECT_FALSE(open_.IsSaved());
+  open_.MarkSaved();
+  const int told = told_;
+  open_.Prepare();
+  EXPECT_EQ(told_, told) << "a prepared set-up is left alone";
+  EXPECT_TRUE(open_.IsSaved());
+}
+
 TEST_F(OpenCalculationTest, AChangeThatThrowsLeavesEverythingAsItWas) {
   ASSERT_EQ(open_.Run(kYes).status, RunStatus::kDone);
   const elements::Setup setup = open_.Setup();

@@ -6,7 +6,7 @@
 
 #include "acoustics/bands.h"
 #include "foundation/message.h"
-#include "foundation/message_rows.h"
+#include "foundation/catalogue_rows.h"
 
 namespace velmar::models {
 

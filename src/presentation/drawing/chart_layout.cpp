@@ -20,8 +20,8 @@ std::vector<LegendEntry> EntriesOf(const CurveChart& chart) {
   add(chart.laboratory.has_value(), chart.words.laboratory, kLaboratoryColour, true);
   add(chart.in_situ.has_value(), chart.words.in_situ, kInSituColour, true);
   add(chart.base.has_value(), chart.words.base, kBaseColour, true);
-  for (std::size_t i = 0; i < chart.further.size(); ++i)
-    add(true, chart.further[i].name, FurtherColour(i), false);
+  for (const FurtherCurve& curve : chart.further) add(true, curve.name, curve.colour, true);
+  add(chart.marks.former.has_value(), chart.words.former, kFormerColour, false);
   return entries;
 }
 
@@ -55,11 +55,13 @@ double PlaceLegend(std::vector<LegendEntry>& entries, const QFont& font, double 
 }  // namespace
 
 QPointF ChartLayout::At(double band, double y) const {
-  return {plot.left() + plot.width() * band / kChartWidth, plot.bottom() - plot.height() * y / kChartHeight};
+  return {plot.left() + plot.width() * (band - window.left) / (window.right - window.left),
+          plot.bottom() - plot.height() * (y - window.bottom) / (window.top - window.bottom)};
 }
 
 ChartLayout LayoutOf(const QRectF& area, const CurveChart& chart, const QFont& font) {
   ChartLayout layout;
+  layout.window = chart.marks.window;
   // A small chart takes a smaller font rather than losing its curves.
   layout.text_px = std::clamp(std::min(area.width() / 30.0, area.height() / 16.0), 5.0, PixelsOf(font));
   const double em = layout.text_px;

@@ -27,10 +27,11 @@ struct ChartLayout {
   QRectF title{};
   QRectF frequency_axis{};
   QRectF frequency_labels{};
-  QRectF level_axis{};  ///< a column; its text runs upwards
+  ChartWindow window{};  ///< what `plot` shows
+  QRectF level_axis{};   ///< a column; its text runs upwards
   std::vector<LegendEntry> legend{};
 
-  /// The point of `band` at logical height `y` (0 to 90).
+  /// The point of `band` at logical height `y` (0 to 90); beyond the plot where the window leaves it out.
   QPointF At(double band, double y) const;
 };
 

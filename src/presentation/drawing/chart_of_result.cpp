@@ -54,6 +54,8 @@ std::optional<CurveChart> CurveChartOf(const elements::Setup& setup, const eleme
   chart.words.laboratory = words(kLaboratoryCurveRow);
   chart.words.in_situ = words(kInSituRow);
   chart.words.base = words(kBaseCurveRow);
+  chart.unfavourable = row.family == elements::Family::kImpact ? acoustics::Unfavourable::kAbove
+                                                               : acoustics::Unfavourable::kBelow;
   return chart;
 }
 

@@ -1,12 +1,14 @@
 #include "presentation/drawing/curve_chart.h"
 
 #include <QPainter>
-#include <QPolygonF>
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "acoustics/bands.h"
+#include "presentation/drawing/chart_axes.h"
 #include "presentation/drawing/chart_layout.h"
+#include "presentation/drawing/chart_marks.h"
 #include "presentation/drawing/chart_scale.h"
 #include "presentation/drawing/colours.h"
 #include "presentation/drawing/text.h"
@@ -14,82 +16,14 @@
 namespace velmar::presentation {
 namespace {
 
-constexpr double kGridWidth = 1.0;
 constexpr double kReferenceWidth = 1.0;
 constexpr double kCurveWidth = 2.0;
 constexpr double kDotDiameter = 6.0;
-constexpr double kFurtherWidth = 1.5;
-constexpr double kTickLength = 4.0;
-
-// Every third band carries its frequency: 63, 125, ... 4000 Hz.
-constexpr std::size_t kFirstLabelledBand = 1;
-constexpr std::size_t kLabelStep = 3;
-
-void DrawGrid(QPainter& painter, const ChartLayout& layout) {
-  painter.setRenderHint(QPainter::Antialiasing, false);
-  painter.setPen(QPen(kVerticalGridColour, kGridWidth));
-  for (int band = 1; band <= 19; ++band) {
-    painter.drawLine(layout.At(band, 0.0), layout.At(band, kChartHeight));
-  }
-  painter.setPen(QPen(kHorizontalGridColour, kGridWidth));
-  for (int y = 10; y <= 80; y += 10) painter.drawLine(layout.At(0.0, y), layout.At(kChartWidth, y));
-}
-
-void DrawAxes(QPainter& painter, const ChartLayout& layout) {
-  painter.setPen(QPen(kAxisColour, kGridWidth));
-  painter.setBrush(Qt::NoBrush);
-  painter.drawLine(layout.At(0.0, 0.0), layout.At(kChartWidth, 0.0));
-  painter.drawLine(layout.At(0.0, 0.0), layout.At(0.0, kChartHeight));
-  for (int band = 1; band <= 19; ++band) {
-    const QPointF foot = layout.At(band, 0.0);
-    painter.drawLine(foot, foot + QPointF(0.0, kTickLength));
-  }
-  for (int y = 10; y <= 80; y += 10) {
-    const QPointF foot = layout.At(0.0, y);
-    painter.drawLine(foot - QPointF(kTickLength, 0.0), foot);
-  }
-}
-
-void DrawLabels(QPainter& painter, const ChartLayout& layout, const CurveChart& chart,
-                const ChartRange& range) {
-  painter.setPen(kInkColour);
-  const double em = layout.text_px;
-  const auto labels = AxisLabels(range);
-  for (std::size_t i = 0; i < labels.size(); ++i) {
-    const QPointF foot = layout.At(0.0, 10.0 + 10.0 * static_cast<double>(i));
-    const QRectF box(foot.x() - kTickLength - 3.0 - 4.0 * em, foot.y() - em, 4.0 * em, 2.0 * em);
-    DrawTextIn(painter, box, Qt::AlignRight | Qt::AlignVCenter, QString::number(labels[i]));
-  }
-  for (std::size_t band = kFirstLabelledBand; band < acoustics::kBandCount; band += kLabelStep) {
-    const double x = layout.At(static_cast<double>(band), 0.0).x();
-    const QRectF box(x - 3.0 * em, layout.frequency_labels.top() + kTickLength, 6.0 * em, 1.3 * em);
-    DrawTextIn(painter, box, Qt::AlignHCenter | Qt::AlignTop, QString::number(acoustics::BandCentre(band)));
-  }
-  DrawTextIn(painter, layout.frequency_axis, Qt::AlignCenter, FromWords(chart.words.frequency_axis));
-
-  painter.save();
-  painter.translate(layout.level_axis.center());
-  painter.rotate(-90.0);
-  const QSizeF turned = layout.level_axis.size().transposed();
-  DrawTextIn(painter, QRectF(QPointF(-turned.width() / 2.0, -turned.height() / 2.0), turned), Qt::AlignCenter,
-             FromWords(chart.words.level_axis));
-  painter.restore();
-
-  painter.setFont(PixelFont(layout.font, em, true));
-  DrawTextIn(painter, layout.title, Qt::AlignCenter, FromWords(chart.words.title));
-  painter.setFont(layout.font);
-}
-
 void DrawReference(QPainter& painter, const ChartLayout& layout, const CurveChart& chart,
                    const ChartRange& range) {
   if (!chart.shift) return;
-  QPolygonF line;
-  for (std::size_t i = 0; i < chart.reference.size(); ++i) {
-    line << layout.At(static_cast<double>(i + acoustics::kFirstRatedBand),
-                      LogicalY(chart.reference[i] + *chart.shift, range));
-  }
   painter.setPen(QPen(kReferenceColour, kReferenceWidth));
-  painter.drawPolyline(line);
+  painter.drawPolyline(ReferenceLine(layout, chart, range, *chart.shift));
 }
 
 void DrawDot(QPainter& painter, const QPointF& centre, const QColor& colour) {
@@ -100,27 +34,54 @@ void DrawDot(QPainter& painter, const QPointF& centre, const QColor& colour) {
 }
 
 void DrawCurve(QPainter& painter, const ChartLayout& layout, const CurveChart& chart, const ChartRange& range,
-               const acoustics::Spectrum& values, const QColor& colour) {
+               const acoustics::Spectrum& values, const QColor& colour, Qt::PenStyle style = Qt::SolidLine) {
   const auto at = [&](std::size_t band) {
     return layout.At(static_cast<double>(band), LogicalY(values[band], range));
   };
-  painter.setPen(QPen(colour, kCurveWidth, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+  const auto colour_between = [&](std::size_t from, std::size_t to) {
+    const bool outside = from < acoustics::kFirstRatedBand || to > acoustics::kLastRatedBand;
+    return chart.marks.pale_outside && outside ? Paler(colour) : colour;
+  };
   for (const ChartSegment& segment : CurveSegments(values, chart.first_band, chart.last_band)) {
+    painter.setPen(QPen(colour_between(segment.from, segment.to), kCurveWidth, style, Qt::RoundCap,
+                        Qt::RoundJoin));
     painter.drawLine(at(segment.from), at(segment.to));
   }
   for (const std::size_t band : DottedBands(values, chart.first_band, chart.last_band)) {
-    DrawDot(painter, at(band), colour);
+    DrawDot(painter, at(band), colour_between(band, band));
   }
 }
 
-void DrawFurther(QPainter& painter, const ChartLayout& layout, const CurveChart& chart,
-                 const ChartRange& range, const acoustics::Spectrum& values, const QColor& colour) {
-  const auto at = [&](std::size_t band) {
-    return layout.At(static_cast<double>(band), LogicalY(values[band], range));
-  };
-  painter.setPen(QPen(colour, kFurtherWidth, Qt::DashLine));
-  for (const ChartSegment& segment : CurveSegments(values, chart.first_band, chart.last_band))
-    painter.drawLine(at(segment.from), at(segment.to));
+/// Values of octaves, each over its three thirds: a level line with an edge where the octave ends, and no
+/// dots.
+void DrawSteps(QPainter& painter, const ChartLayout& layout, const CurveChart& chart, const ChartRange& range,
+               const acoustics::Spectrum& values, const QColor& colour) {
+  constexpr double kHalfBand = 0.5;
+  painter.setPen(QPen(colour, kCurveWidth, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin));
+  QPolygonF line;
+  for (std::size_t band = chart.first_band; band <= chart.last_band; ++band) {
+    if (values.at(band) == 0.0) {
+      painter.drawPolyline(std::exchange(line, {}));
+      continue;
+    }
+    const double y = LogicalY(values.at(band), range);
+    const auto centre = static_cast<double>(band);
+    line << layout.At(std::max(centre - kHalfBand, 0.0), y)
+         << layout.At(std::min(centre + kHalfBand, kChartWidth), y);
+  }
+  painter.drawPolyline(line);
+}
+
+/// A curve that stands beside the result.
+void DrawBeside(QPainter& painter, const ChartLayout& layout, const CurveChart& chart,
+                const ChartRange& range, const std::optional<acoustics::Spectrum>& values,
+                const QColor& colour, bool in_octaves) {
+  if (!values) return;
+  if (in_octaves) {
+    DrawSteps(painter, layout, chart, range, *values, colour);
+  } else {
+    DrawCurve(painter, layout, chart, range, *values, colour);
+  }
 }
 
 void DrawLegend(QPainter& painter, const ChartLayout& layout) {
@@ -142,13 +103,17 @@ void DrawCurves(QPainter& painter, const ChartLayout& layout, const CurveChart& 
   // The surface's edge cuts what runs out above and below; at the sides a dot on the edge stays whole.
   painter.setClipRect(layout.plot.adjusted(-kDotDiameter, 0.0, kDotDiameter, 0.0), Qt::IntersectClip);
   painter.setRenderHint(QPainter::Antialiasing);
+  DrawDeviations(painter, layout, chart, range);
+  DrawRequirement(painter, layout, chart, range);
   DrawReference(painter, layout, chart, range);
+  DrawFormer(painter, layout, chart, range);
   if (chart.base) DrawCurve(painter, layout, chart, range, *chart.base, kBaseColour);
+  DrawBeside(painter, layout, chart, range, chart.octaves, kOctavesColour, true);
   DrawCurve(painter, layout, chart, range, chart.values, kCalculatedColour);
-  if (chart.laboratory) DrawCurve(painter, layout, chart, range, *chart.laboratory, kLaboratoryColour);
-  if (chart.in_situ) DrawCurve(painter, layout, chart, range, *chart.in_situ, kInSituColour);
-  for (std::size_t i = 0; i < chart.further.size(); ++i)
-    DrawFurther(painter, layout, chart, range, chart.further[i].values, FurtherColour(i));
+  DrawBeside(painter, layout, chart, range, chart.laboratory, kLaboratoryColour, chart.laboratory_in_octaves);
+  DrawBeside(painter, layout, chart, range, chart.in_situ, kInSituColour, chart.in_situ_in_octaves);
+  for (const FurtherCurve& curve : chart.further)
+    DrawCurve(painter, layout, chart, range, curve.values, curve.colour, Qt::DotLine);
   painter.restore();
 }
 
@@ -161,20 +126,20 @@ void DrawCurveChart(QPainter& painter, const QRectF& area, const CurveChart& cha
   const ChartLayout layout = LayoutOf(area, chart, painter.font());
   const ChartRange range = RangeOf(chart);
   painter.setFont(layout.font);
-  DrawGrid(painter, layout);
-  if (chart.highlighted_band) {
-    painter.setPen(QPen(kAxisColour, kGridWidth, Qt::DashLine));
-    const auto band = static_cast<double>(*chart.highlighted_band);
-    painter.drawLine(layout.At(band, 0.0), layout.At(band, kChartHeight));
-  }
-  DrawAxes(painter, layout);
+  DrawAxes(painter, layout, chart);
   DrawCurves(painter, layout, chart, range);
   painter.setRenderHint(QPainter::Antialiasing);
-  DrawLabels(painter, layout, chart, range);
+  DrawAxisLabels(painter, layout, chart, range);
+  DrawDeviationSum(painter, layout, chart);
   DrawLegend(painter, layout);
   painter.setPen(kInkColour);
   DrawTextIn(painter, layout.plot, Qt::AlignCenter, FromWords(chart.words.note));
   painter.restore();
+}
+
+acoustics::Deviations DeviationsOf(const CurveChart& chart) {
+  if (!chart.shift) return {};
+  return acoustics::UnfavourableDeviations(chart.values, chart.reference, *chart.shift, chart.unfavourable);
 }
 
 QRectF PlotArea(const QRectF& area, const CurveChart& chart, const QFont& font) {
@@ -184,9 +149,11 @@ QRectF PlotArea(const QRectF& area, const CurveChart& chart, const QFont& font) 
 std::optional<std::size_t> BandAt(const QPointF& position, const QRectF& area, const CurveChart& chart,
                                   const QFont& font) {
   const QRectF plot = PlotArea(area, chart, font);
-  const double half_band = plot.width() / kChartWidth / 2.0;
+  const ChartWindow& window = chart.marks.window;
+  const double bands = window.right - window.left;
+  const double half_band = plot.width() / bands / 2.0;
   if (!plot.adjusted(-half_band, 0.0, half_band, 0.0).contains(position)) return std::nullopt;
-  const double band = std::round((position.x() - plot.left()) / plot.width() * kChartWidth);
+  const double band = std::round(window.left + (position.x() - plot.left()) / plot.width() * bands);
   return static_cast<std::size_t>(std::clamp(band, 0.0, kChartWidth));
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QColor>
 #include <QFont>
 #include <QRectF>
 #include <array>
@@ -10,6 +11,7 @@
 
 #include "acoustics/airborne_rating.h"
 #include "acoustics/bands.h"
+#include "acoustics/unfavourable_deviations.h"
 #include "elements/result_set.h"
 #include "elements/setup.h"
 #include "presentation/texts/words.h"
@@ -28,15 +30,38 @@ struct ChartWords {
   std::string laboratory{};
   std::string in_situ{};
   std::string base{};
-  std::string note{};  ///< in the middle of the plot, as where there is no curve
+  std::string former{};
+  std::string required{};    ///< at the curve of the required rating
+  std::string deviation{};   ///< of one band
+  std::string deviations{};  ///< with their sum
+  std::string note{};        ///< in the middle of the plot, as where there is no curve
 };
 
-/// A curve that stands behind that of the result, as that of a variant.
-struct FurtherCurve {
-  std::string name{};
-  acoustics::Spectrum values{};
+/// The part of a chart that is seen, in its logical units: one a band across, 0 to 90 upwards.
+struct ChartWindow {
+  double left = 0.0;
+  double right = 20.0;
+  double bottom = 0.0;
+  double top = 90.0;
 
-  bool operator==(const FurtherCurve&) const = default;
+  bool IsWhole() const { return *this == ChartWindow{}; }
+  bool operator==(const ChartWindow&) const = default;
+};
+
+/// What a screen shows besides the curves, and paper does not.
+struct ChartMarks {
+  std::optional<acoustics::Spectrum> former{};  ///< the curve before the last change
+  std::optional<double> required{};  ///< the reference curve is drawn again where it has this rating, dB
+  bool deviations = false;           ///< the unfavourable deviations are shaded and their sum is told
+  bool pale_outside = false;         ///< what no rating reads, outside 100 Hz to 3150 Hz, is paler
+  ChartWindow window{};
+};
+
+/// A curve beside the calculated one, drawn with dashes.
+struct FurtherCurve {
+  std::string name{};  ///< in the legend
+  acoustics::Spectrum values{};
+  QColor colour{};
 };
 
 /// A result as curves over the bands. A value of exactly 0 is a band without a value. Levels in dB.
@@ -47,14 +72,19 @@ struct CurveChart {
   std::optional<acoustics::Spectrum> base;        ///< the element under a lining
   std::optional<acoustics::Spectrum> laboratory;  ///< compared with, measured in the laboratory
   std::optional<acoustics::Spectrum> in_situ;     ///< compared with, measured in a building
-  std::string laboratory_name{};                  ///< of the structure compared with; empty: none is chosen
+  std::vector<FurtherCurve> further{};            ///< what other models say
+  bool laboratory_in_octaves = false;             ///< its values are octaves, drawn as steps over the thirds
+  bool in_situ_in_octaves = false;
+  std::optional<acoustics::Spectrum> octaves;  ///< octaves of the same structure, as steps behind `values`
+  std::string laboratory_name{};               ///< of the structure compared with; empty: none is chosen
   std::string in_situ_name{};
-  std::vector<FurtherCurve> further{};  ///< thin and dashed, each with its name in the legend
-  bool autoscale = false;               ///< false: 10 to 80 dB
+  bool autoscale = false;    ///< false: 10 to 80 dB
   bool fits_values = false;  ///< the scale is that of the values alone, from the lowest to the highest
   std::size_t first_band = 0;
   std::size_t last_band = acoustics::kBandCount - 1;
   std::optional<std::size_t> highlighted_band;  ///< marked by a line, as under the mouse
+  acoustics::Unfavourable unfavourable = acoustics::Unfavourable::kBelow;
+  ChartMarks marks{};
   ChartWords words{};
 };
 
@@ -65,6 +95,10 @@ std::optional<CurveChart> CurveChartOf(const elements::Setup& setup, const eleme
 /// Prepares `chart` for paper, where nobody can change the scale: fits the scale to the curves when one would
 /// leave it.
 void ShowWhole(CurveChart& chart);
+
+/// How far the curve of `chart` lies on the unfavourable side of its reference curve, dB; 0 without one. A
+/// band without a value counts as the rating counted it, as 0 dB.
+acoustics::Deviations DeviationsOf(const CurveChart& chart);
 
 /// A chart without curves for the time before a run: grid and axes alone.
 CurveChart EmptyChart(const Words& words);

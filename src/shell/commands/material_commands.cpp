@@ -3,7 +3,9 @@
 #include <utility>
 
 #include "calculation/layer_edits.h"
+#include "elements/parts.h"
 #include "foundation/message_rows.h"
+#include "foundation/utf8.h"
 #include "materials/copied_material.h"
 #include "materials/keywords.h"
 #include "shell/fields/put_material.h"
@@ -111,6 +113,17 @@ MaterialListWindow::Listener MaterialCommands::MakeListener() {
   listener.refreshed = [this] {
     emit Reread();
     if (tree_) tree_->Refresh();
+  };
+  listener.used = [this](MaterialFamily family, const std::string& name) {
+    std::vector<int> numbers;
+    if (!open_.Setup().calculation) return numbers;
+    for (const elements::Part& part : PartsOf(open_.Setup())) {
+      for (const elements::Layer& layer : part.layers) {
+        const bool same = layer.group && RowOf(*layer.group).family == family && SameName(layer.name, name);
+        if (same) numbers.push_back(layer.number);
+      }
+    }
+    return numbers;
   };
   return listener;
 }

@@ -56,19 +56,32 @@ MessageRow RowFor(Field field) {
       return kStepBaseThicknessRow;
     case Field::kSimplified:
       return kStepSimplifiedRow;
+    case Field::kStratumKind:
+      return kStepStratumKindRow;
+    case Field::kStratumThickness:
+      return kStepStratumThicknessRow;
+    case Field::kConnection:
+    case Field::kConnectionNumber:
+      return kStepConnectionRow;
+    case Field::kProfileHeight:
+    case Field::kProfilePitch:
+      return kStepProfileRow;
+    case Field::kTracks:
+      return kStepTracksRow;
     default:
       return kStepSeveralRow;
   }
 }
 
-/// The number of a layer row in its element; counted within its group where it is not in use any longer.
+/// The number of a layer row in its element; counted within its group where it is not in use any longer. A
+/// row of a free list that is no layer, as air is none, has no number.
 int NumberOf(const FieldId& field, const elements::Setup& setup) {
   for (const elements::Part& part : PartsOf(setup)) {
     for (const elements::Layer& layer : part.layers) {
       if (layer.group == field.group && layer.row == field.index) return layer.number;
     }
   }
-  return field.index + 1;
+  return field.group == elements::LayerGroup::kStratumSolid ? 0 : field.index + 1;
 }
 
 }  // namespace
@@ -82,7 +95,8 @@ QString StepWords(const calculation::Step& step, const elements::Setup& setup,
     return text;
   };
   const auto of_layer = [&](MessageRow row) {
-    return Text(words, row) + ' ' + QString::number(NumberOf(step.field, setup));
+    const int number = NumberOf(step.field, setup);
+    return number > 0 ? Text(words, row) + ' ' + QString::number(number) : Text(words, row);
   };
   const auto of_component = [&](MessageRow row) {
     return Text(words, row) + ' ' + QString::number(step.field.index);
@@ -136,6 +150,8 @@ QString StepWords(const calculation::Step& step, const elements::Setup& setup,
       return Text(words, kStepVariantRemovedRow);
     case StepKind::kVariantTaken:
       return Text(words, kStepVariantTakenRow);
+    case StepKind::kRequirement:
+      return Text(words, kStepRequirementRow);
     case StepKind::kSeveral:
       return Text(words, kStepSeveralRow);
   }

@@ -4,6 +4,7 @@
 #include <QMenu>
 #include <QStyle>
 #include <QToolButton>
+#include <algorithm>
 
 #include "foundation/message_rows.h"
 #include "shell/commands/calculation_menu.h"
@@ -53,7 +54,7 @@ CommandToolBar::CommandToolBar(const CommandSet& commands, const CalculationActi
     const auto kind = CommandAt(place)->Kind();
     if (!kind) continue;
     auto* menu = new QMenu(button);
-    calculations.FillKind(*menu, *kind);
+    calculations.FillKind(*menu, *kind, words);
     button->setMenu(menu);
     button->setPopupMode(QToolButton::MenuButtonPopup);
   }
@@ -75,6 +76,18 @@ QToolButton* CommandToolBar::AddCommand(const CommandSet& commands, int place) {
   }
   addWidget(button);
   return button;
+}
+
+void CommandToolBar::AddBehindRun(QAction* action) {
+  const QList<QAction*> places = actions();
+  const auto run = std::ranges::find(places, run_, [this](QAction* place) { return widgetForAction(place); });
+  auto* button = new QToolButton(this);
+  button->setObjectName("Toolbar1_" + action->objectName());
+  button->setDefaultAction(action);
+  button->setFocusPolicy(Qt::TabFocus);
+  button->setAutoRaise(true);
+  button->setAccessibleName(action->toolTip());
+  insertWidget(run + 1 < places.end() ? *(run + 1) : nullptr, button);
 }
 
 void CommandToolBar::ShowRunDue(bool due) {

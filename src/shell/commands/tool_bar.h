@@ -22,6 +22,9 @@ class CommandToolBar : public QToolBar {
   /// The run button stands out while a calculation waits for its run.
   void ShowRunDue(bool due);
 
+  /// `action` stands behind the run button from now on.
+  void AddBehindRun(QAction* action);
+
  private:
   QToolButton* AddCommand(const CommandSet& commands, int place);
 

@@ -7,6 +7,7 @@
 #include "foundation/decimal.h"
 #include "foundation/message_rows.h"
 #include "shell/fields/number_field.h"
+#include "shell/fields/number_steps.h"
 #include "shell/fields/phrases.h"
 #include "shell/pages/element_form.h"
 #include "shell/pages/page_parts.h"
@@ -54,6 +55,7 @@ BaseElementPage::BaseElementPage(PageContext& context, QWidget* parent) : Page(p
 void BaseElementPage::AddPlainBase() {
   const auto& words = context_.Words();
   thickness_ = new NumberField("TextSpessoreBase", NumberKind::kReal, this);
+  StepByArrows(thickness_);
   thickness_->setToolTip(Text(words, kBaseThicknessTipRow));
   thickness_->setAccessibleName(Text(words, kBaseThicknessTipRow));
   thickness_->setPlaceholderText(FromUtf8(FormatShortest(elements::kDefaultBaseThicknessMm)));

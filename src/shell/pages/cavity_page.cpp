@@ -12,8 +12,10 @@
 #include "foundation/decimal.h"
 #include "foundation/message_rows.h"
 #include "shell/fields/corrections.h"
+#include "shell/fields/filter_box.h"
 #include "shell/fields/list_boxes.h"
 #include "shell/fields/number_field.h"
+#include "shell/fields/number_steps.h"
 #include "shell/fields/phrases.h"
 #include "shell/pages/layer_row.h"
 #include "shell/pages/page_parts.h"
@@ -36,6 +38,7 @@ CavityPage::CavityPage(PageContext& context, QWidget* parent) : Page(parent), co
 void CavityPage::AddDepth(QVBoxLayout& column) {
   QHBoxLayout* line = AddLine(column);
   depth_ = new NumberField("Text9", NumberKind::kReal, this);
+  StepByArrows(depth_);
   QLabel* label = LabelFor(depth_, kCavityDepthRow, context_, this);
   label->setObjectName("Label25");
   depth_->setAccessibleName(label->text());
@@ -83,6 +86,7 @@ void CavityPage::AddKinds(QVBoxLayout& column) {
       fibre_ = new NumberField("Text31", NumberKind::kReal, this);
       fibre_->setAccessibleName(kind->text());
       fibre_->setToolTip(Text(context_.Words(), kFibreTipRow));
+      StepByArrows(fibre_);
       line->addWidget(fibre_);
     }
     line->addStretch(1);

@@ -10,13 +10,17 @@
 #include <QToolButton>
 
 #include "calculation/layer_edits.h"
+#include "calculation/pasted_layers.h"
 #include "elements/parts.h"
 #include "foundation/decimal.h"
 #include "foundation/message_rows.h"
+#include "shell/fields/field_note.h"
 #include "shell/fields/icons.h"
 #include "shell/fields/list_boxes.h"
 #include "shell/fields/material_box.h"
 #include "shell/fields/number_field.h"
+#include "shell/fields/number_steps.h"
+#include "shell/fields/pasted_bands.h"
 #include "shell/fields/phrases.h"
 #include "shell/pages/layer_tools.h"
 #include "shell/pages/material_facts.h"
@@ -110,11 +114,13 @@ void LayerRow::MakeFields(QWidget* page) {
     const QString facts = MaterialFacts(context_.services.materials, family, ToUtf8(name));
     return context_.materials.Known().IsFavourite(family, name) ? QStringLiteral("★ ") + facts : facts;
   });
+  connect(material_, &MaterialBox::TablePasted, this, &LayerRow::PutTable);
   context_.Watch(material_);
 
   thickness_ = new NumberField(ArrayName(group.thickness_box, plan_.index), NumberKind::kReal, page);
   thickness_->setAccessibleName(Text(words, kLayerThicknessRow) + row);
   thickness_->setToolTip(Text(words, kLayerThicknessTipRow));
+  StepByArrows(thickness_);
   connect(thickness_, &NumberField::Edited, this, [this](const std::string& text) {
     context_.Edit([&](elements::Setup& setup) {
       calculation::EnterLayerThickness(setup, plan_.group, plan_.index, text);
@@ -152,11 +158,11 @@ void LayerRow::MakeFields(QWidget* page) {
 void LayerRow::MoveTo(QGridLayout& grid, int line) {
   if (check_ != nullptr) grid.addWidget(check_, line, kLeadColumn);
   if (number_ != nullptr) grid.addWidget(number_, line, kLeadColumn);
-  grid.addWidget(material_, line, kMaterialColumn);
-  grid.addWidget(thickness_, line, kThicknessColumn);
-  if (sheets_ != nullptr) grid.addWidget(sheets_, line, kSheetsColumn);
-  grid.addWidget(chooser_, line, kChooserColumn);
-  if (tools_ != nullptr) grid.addWidget(tools_->Button(), line, kToolsColumn);
+  grid.addWidget(material_, line, kMaterialColumn + plan_.shift);
+  grid.addWidget(thickness_, line, kThicknessColumn + plan_.shift);
+  if (sheets_ != nullptr) grid.addWidget(sheets_, line, kSheetsColumn + plan_.shift);
+  grid.addWidget(chooser_, line, kChooserColumn + plan_.shift);
+  if (tools_ != nullptr) grid.addWidget(tools_->Button(), line, kToolsColumn + plan_.shift);
 }
 
 template <typename Visit>
@@ -168,6 +174,12 @@ void LayerRow::ForEachWidget(Visit&& visit) const {
   }
 }
 
+bool LayerRow::Holds(const QWidget* widget) const {
+  bool holds = false;
+  ForEachWidget([&](const QWidget* one) { holds = holds || one == widget || one->isAncestorOf(widget); });
+  return holds;
+}
+
 void LayerRow::PutMaterial(const std::string& name) {
   const elements::MaterialFamily family = RowOf(plan_.group).family;
   if (!Knows(context_.services.materials, family, name)) return;
@@ -175,6 +187,17 @@ void LayerRow::PutMaterial(const std::string& name) {
   context_.Edit([&](elements::Setup& setup) {
     calculation::PutMaterial(setup, plan_.group, plan_.index, name, context_.services.materials);
   });
+}
+
+void LayerRow::PutTable(const QString& text) {
+  elements::Setup pasted = context_.open.Setup();
+  const auto refusal = calculation::PutTable(pasted, plan_.group, plan_.index, CellsOfTable(text),
+                                             context_.services.materials);
+  if (refusal) {
+    FieldNote::Put(material_, Text(context_.Words(), *refusal), NoteLife::kWhileRead);
+    return;
+  }
+  context_.Edit([&](elements::Setup& setup) { setup = std::move(pasted); });
 }
 
 void LayerRow::LeaveThickness() {
@@ -189,8 +212,10 @@ void LayerRow::Show(const elements::Setup& setup, bool visible) {
   if (!visible) return;
   const calculation::LayerText row = calculation::LayerTextOf(setup, plan_.group, plan_.index);
   // The number of the layer in the element, as the section and every paper have it.
-  if (number_ != nullptr && plan_.label.isEmpty())
-    number_->setText(QString::number(elements::NumberOf(setup, plan_.group, plan_.index)));
+  if (number_ != nullptr) {
+    const QString number = QString::number(elements::NumberOf(setup, plan_.group, plan_.index));
+    number_->setText(plan_.label.isEmpty() ? number : number + ' ' + plan_.label);
+  }
   material_->Show(row.listed);
   material_->setPlaceholderText(Text(context_.Words(), kChooseMaterialRow));
   thickness_->Show(row.thickness_text);
@@ -218,19 +243,20 @@ bool LayerRow::eventFilter(QObject* watched, QEvent* event) {
 }
 
 std::vector<QWidget*> AddLayerHeads(QGridLayout& grid, int line, const PageContext& context, bool with_sheets,
-                                    QWidget* page) {
+                                    QWidget* page, int shift) {
   const auto& words = context.Words();
   QString material = Text(words, kMaterialRow);
   if (material.endsWith(':')) material.chop(1);
   std::vector<QWidget*> heads;
   const auto add = [&](const QString& text, Qt::Alignment alignment, int column) {
     heads.push_back(Head(text, alignment, page));
-    grid.addWidget(heads.back(), line, column);
+    grid.addWidget(heads.back(), line, column + shift);
   };
   add(material, Qt::AlignLeft, LayerRow::kMaterialColumn);
+  heads.back()->setToolTip(Text(words, kPasteLayersTipRow));
   add(Text(words, kLayerThicknessRow), Qt::AlignRight, LayerRow::kThicknessColumn);
   if (with_sheets) add(Text(words, kSheetsRow), Qt::AlignRight, LayerRow::kSheetsColumn);
-  grid.setColumnStretch(LayerRow::kMaterialColumn, 1);
+  grid.setColumnStretch(LayerRow::kMaterialColumn + shift, 1);
   grid.setHorizontalSpacing(8);
   grid.setVerticalSpacing(6);
   return heads;

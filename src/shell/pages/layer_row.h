@@ -25,7 +25,8 @@ struct LayerRowPlan {
   int index = 0;                    ///< row of the group, from 0
   const char* count_box = nullptr;  ///< control name of the number of sheets; none: the row has no such box
   const char* check = nullptr;      ///< control name of the damping check; none: no check
-  QString label{};                  ///< what stands before the list; empty: the row's number
+  QString label{};                  ///< what stands before the list behind the row's number
+  int shift = 0;                    ///< columns between the lead and the material
 };
 
 /// One row of a layer table, in one line of a grid: number or check, material, thickness, sheets, button of
@@ -49,6 +50,9 @@ class LayerRow : public QObject {
   /// Shows the row, or hides it.
   void Show(const elements::Setup& setup, bool visible);
 
+  /// Whether `widget` is one of the row's fields.
+  bool Holds(const QWidget* widget) const;
+
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
 
@@ -56,6 +60,8 @@ class LayerRow : public QObject {
   void MakeLead(QWidget* page);
   void MakeFields(QWidget* page);
   void PutMaterial(const std::string& name);
+  /// A table was pasted over this row and those below it.
+  void PutTable(const QString& text);
   void LeaveThickness();
   void Light(bool lit);
   template <typename Visit>
@@ -73,8 +79,9 @@ class LayerRow : public QObject {
 };
 
 /// The heads over the columns of layer rows: material, thickness, and sheets where the rows have them.
+/// @param shift as the rows have it
 /// @return the heads, to be hidden where there is no row
 std::vector<QWidget*> AddLayerHeads(QGridLayout& grid, int line, const PageContext& context, bool with_sheets,
-                                    QWidget* page);
+                                    QWidget* page, int shift = 0);
 
 }  // namespace velmar::shell

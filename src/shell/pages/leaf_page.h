@@ -7,8 +7,8 @@
 
 namespace velmar::shell {
 
-class ChoiceBox;
 class CountBox;
+class FilterBox;
 class LayerRow;
 class TurningButtons;
 
@@ -28,7 +28,7 @@ class LeafPage : public Page {
   Leaf leaf_;
   PageContext& context_;
   CountBox* count_ = nullptr;
-  ChoiceBox* filter_ = nullptr;
+  FilterBox* filter_ = nullptr;
   std::vector<LayerRow*> rows_;
   TurningButtons* turning_ = nullptr;
 };

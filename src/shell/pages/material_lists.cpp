@@ -5,6 +5,7 @@
 #include <functional>
 #include <limits>
 
+#include "foundation/failure.h"
 #include "foundation/message_rows.h"
 #include "shell/fields/phrases.h"
 
@@ -60,14 +61,20 @@ void Forget(QStringListModel& offered, const QString& name) {
 MaterialLists::MaterialLists(const presentation::Words& words, const PageServices& services)
     : services_(services), words_{words(kAllKeywordsRow), words(kNotSpecifiedRow)} {
   chosen_.fill(FromUtf8(words_.all));
-  Reload();
+  try {
+    Reload();
+  } catch (const Failure&) {
+    // Empty lists, as the load of the databases told.
+  }
 }
 
 void MaterialLists::Reload() {
+  std::array<std::vector<storage::ListedMaterial>, kFamilies.size()> read;
   for (const MaterialFamily family : kFamilies) {
-    auto& materials = materials_.at(At(family));
-    materials.clear();
-    if (services_.material_names) materials = services_.material_names(family);
+    if (services_.material_names) read.at(At(family)) = services_.material_names(family);
+  }
+  for (const MaterialFamily family : kFamilies) {
+    auto& materials = materials_.at(At(family)) = std::move(read.at(At(family)));
     all_.at(At(family))
         .setStringList(ToList(materials::NamesUnderFilter(family, materials, words_.all, words_)));
   }

@@ -32,6 +32,7 @@ struct ElementPick {
 struct PageServices {
   elements::MaterialLookup materials{};
   /// All materials of a family in the order of their table.
+  /// @throws Failure when the table cannot be read
   std::function<std::vector<storage::ListedMaterial>(elements::MaterialFamily)> material_names{};
 
   /// Names of the stored airborne results (`Combo14`, `Combo16`).

@@ -11,6 +11,7 @@
 #include "shell/fields/corrections.h"
 #include "shell/fields/list_boxes.h"
 #include "shell/fields/number_field.h"
+#include "shell/fields/number_steps.h"
 #include "shell/fields/phrases.h"
 #include "shell/pages/layer_row.h"
 #include "shell/pages/page_parts.h"
@@ -57,6 +58,7 @@ void SeaCavityPage::AddHead(QVBoxLayout& column) {
     });
   });
   depth_ = new NumberField("TextSpessoreIntercSEA", NumberKind::kReal, this);
+  StepByArrows(depth_);
   depth_->setAccessibleName(Text(context_.Words(), kLayerThicknessRow));
   depth_->setToolTip(Text(context_.Words(), kDepthTipRow));
   context_.Watch(depth_);

@@ -1,5 +1,7 @@
 #include "shell/project/open_work.h"
 
+#include <QScopedValueRollback>
+
 namespace velmar::shell {
 
 OpenWork::OpenWork(calculation::OpenCalculation& open, QObject* parent)
@@ -10,6 +12,11 @@ OpenWork::OpenWork(calculation::OpenCalculation& open, QObject* parent)
 OpenWork::~OpenWork() { open_.OnChange({}); }
 
 void OpenWork::Tell() {
+  if (completing_) return;
+  {
+    const QScopedValueRollback completing(completing_, true);
+    emit AboutToTell();
+  }
   const bool has_result = open_.Result().has_value();
   const bool gone = had_result_ && !has_result;
   had_result_ = has_result;

@@ -15,6 +15,9 @@ class OpenWork : public QObject {
   ~OpenWork() override;
 
  signals:
+  /// Something changed that others are about to be told: who completes it does so now, and they are told
+  /// once.
+  void AboutToTell();
   /// Set-up, result or saved state are others now.
   void Changed();
   /// The result that stood is gone; told before Changed().
@@ -25,6 +28,7 @@ class OpenWork : public QObject {
 
   calculation::OpenCalculation& open_;
   bool had_result_ = false;
+  bool completing_ = false;
 };
 
 }  // namespace velmar::shell

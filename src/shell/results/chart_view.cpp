@@ -8,20 +8,28 @@
 #include <QMenu>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QStyleOptionFocusRect>
 #include <QToolTip>
+#include <QWheelEvent>
+#include <algorithm>
+#include <cmath>
 
 #include "foundation/decimal.h"
 #include "foundation/failure.h"
 #include "foundation/message_rows.h"
-#include "presentation/drawing/chart_scale.h"
+#include "presentation/drawing/chart_numbers.h"
 #include "presentation/export/chart_svg.h"
 #include "shell/fields/phrases.h"
+#include "shell/results/chart_zoom.h"
 #include "storage/files/whole_file.h"
 
 namespace velmar::shell {
 namespace {
 
 constexpr double kPictureScale = 3.0;
+constexpr double kZoomStep = 0.8;  ///< of the window, closer
+constexpr double kMoveStep = 0.1;  ///< of the window
+constexpr double kNotch = 120.0;   ///< of a wheel, in eighths of a degree
 
 std::string Png(const QImage& picture) {
   QBuffer buffer;
@@ -30,21 +38,23 @@ std::string Png(const QImage& picture) {
   return buffer.data().toStdString();
 }
 
-QString Level(const std::string& name, double level_db) {
-  return FromUtf8(name) + ": " + FromUtf8(FormatFixed(level_db, 1)) + " dB";
-}
-
 }  // namespace
 
 ChartView::ChartView(const Speech& speech, QWidget* parent)
     : QWidget(parent), speech_(speech), chart_(presentation::EmptyChart(speech.words)) {
   setObjectName("Picture1");
   setMouseTracking(true);
+  setFocusPolicy(Qt::StrongFocus);
+  setAccessibleName(Text(speech_.words, kChartRow));
+  setToolTip(Text(speech_.words, kChartKeysRow));
   setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
 }
 
 void ChartView::Show(const presentation::CurveChart& chart) {
+  const std::optional<std::size_t> marked = chart_.highlighted_band;
   chart_ = chart;
+  chart_.marks.window = window_;
+  Mark(marked);
   update();
 }
 
@@ -52,44 +62,152 @@ void ChartView::paintEvent(QPaintEvent* /*event*/) {
   QPainter painter(this);
   painter.setFont(font());
   presentation::DrawCurveChart(painter, QRectF(rect()), chart_);
+  if (!hasFocus()) return;
+  QStyleOptionFocusRect option;
+  option.initFrom(this);
+  option.backgroundColor = Qt::white;
+  style()->drawPrimitive(QStyle::PE_FrameFocusRect, &option, &painter, this);
 }
 
-void ChartView::mouseMoveEvent(QMouseEvent* event) {
-  const auto band = presentation::BandAt(event->position(), QRectF(rect()), chart_, font());
-  const bool known =
-      band && *band >= chart_.first_band && *band <= chart_.last_band && chart_.values.at(*band) != 0.0;
+QRectF ChartView::Plot() const { return presentation::PlotArea(QRectF(rect()), chart_, font()); }
+
+/// The line of `band` is drawn and its values are told; a band without values has neither.
+void ChartView::Mark(const std::optional<std::size_t>& band) {
+  const bool known = band && !presentation::NumbersAt(chart_, *band).empty();
   const std::optional<std::size_t> marked = known ? band : std::nullopt;
+  const QString values = marked ? BandText(*marked, QStringLiteral("  ·  ")) : QString();
   if (marked != chart_.highlighted_band) {
     chart_.highlighted_band = marked;
     update();
   }
-  if (marked) {
-    QToolTip::showText(event->globalPosition().toPoint(), BandText(*marked), this);
+  setAccessibleDescription(values);
+  emit BandRead(values);
+}
+
+void ChartView::mousePressEvent(QMouseEvent* event) {
+  QWidget::mousePressEvent(event);
+  if (event->button() == Qt::LeftButton && !window_.IsWhole()) dragged_from_ = event->position();
+}
+
+void ChartView::mouseMoveEvent(QMouseEvent* event) {
+  if (dragged_from_) {
+    const QPointF by = event->position() - *dragged_from_;
+    dragged_from_ = event->position();
+    SeeThrough(Moved(window_, {-by.x() / Plot().width(), by.y() / Plot().height()}));
+    return;
+  }
+  Mark(presentation::BandAt(event->position(), QRectF(rect()), chart_, font()));
+  if (chart_.highlighted_band) {
+    QToolTip::showText(event->globalPosition().toPoint(), BandText(*chart_.highlighted_band, "\n"), this);
   } else {
     QToolTip::hideText();
   }
 }
 
-void ChartView::leaveEvent(QEvent* event) {
-  QWidget::leaveEvent(event);
-  chart_.highlighted_band.reset();
+void ChartView::mouseReleaseEvent(QMouseEvent* event) {
+  QWidget::mouseReleaseEvent(event);
+  dragged_from_.reset();
+}
+
+void ChartView::mouseDoubleClickEvent(QMouseEvent* event) {
+  if (event->button() == Qt::LeftButton) SeeThrough({});
+}
+
+void ChartView::wheelEvent(QWheelEvent* event) {
+  if (!(event->modifiers() & Qt::ControlModifier)) return QWidget::wheelEvent(event);
+  const QRectF plot = Plot();
+  const QPointF place((event->position().x() - plot.left()) / plot.width(),
+                      (plot.bottom() - event->position().y()) / plot.height());
+  const QPointF inside(std::clamp(place.x(), 0.0, 1.0), std::clamp(place.y(), 0.0, 1.0));
+  SeeThrough(Zoomed(window_, std::pow(kZoomStep, event->angleDelta().y() / kNotch), inside));
+  event->accept();
+}
+
+void ChartView::keyPressEvent(QKeyEvent* event) {
+  switch (event->key()) {
+    case Qt::Key_Plus:
+      return Zoom(kZoomStep);
+    case Qt::Key_Minus:
+      return Zoom(1.0 / kZoomStep);
+    case Qt::Key_0:
+      return SeeThrough({});
+    case Qt::Key_Escape:
+      if (window_.IsWhole()) break;
+      return SeeThrough({});
+    default:
+      if (event->matches(QKeySequence::Copy)) return CopyNumbers();
+      if (TakeArrow(event->key(), event->modifiers() & Qt::ShiftModifier)) return;
+      break;
+  }
+  QWidget::keyPressEvent(event);
+}
+
+/// @param moving the chart moves; else the marked band
+bool ChartView::TakeArrow(int key, bool moving) {
+  switch (key) {
+    case Qt::Key_Left:
+    case Qt::Key_Right: {
+      const int sign = key == Qt::Key_Right ? 1 : -1;
+      if (moving) {
+        SeeThrough(Moved(window_, {sign * kMoveStep, 0.0}));
+      } else {
+        StepBand(sign);
+      }
+      return true;
+    }
+    case Qt::Key_Up:
+    case Qt::Key_Down:
+      if (!moving) return false;
+      SeeThrough(Moved(window_, {0.0, key == Qt::Key_Up ? kMoveStep : -kMoveStep}));
+      return true;
+    default:
+      return false;
+  }
+}
+
+/// Marks the next band with a value; the first is 500 Hz.
+void ChartView::StepBand(int by) {
+  constexpr std::size_t k500Hz = 10;
+  if (!chart_.highlighted_band) return Mark(k500Hz);
+  const int last = static_cast<int>(chart_.last_band);
+  for (int band = static_cast<int>(*chart_.highlighted_band) + by; band >= 0 && band <= last; band += by) {
+    if (presentation::NumbersAt(chart_, static_cast<std::size_t>(band)).empty()) continue;
+    return Mark(static_cast<std::size_t>(band));
+  }
+}
+
+void ChartView::SeeThrough(const presentation::ChartWindow& window) {
+  window_ = window;
+  chart_.marks.window = window;
   update();
 }
 
-QString ChartView::BandText(std::size_t band) const {
-  QStringList lines = {FromUtf8(FormatShortest(acoustics::BandCentre(band))) + " Hz",
-                       Level(chart_.words.calculated, chart_.values.at(band))};
-  const bool rated = band >= acoustics::kFirstRatedBand && band <= acoustics::kLastRatedBand;
-  if (chart_.shift && rated)
-    lines +=
-        Level(chart_.words.reference, chart_.reference.at(band - acoustics::kFirstRatedBand) + *chart_.shift);
-  const auto add = [&](const std::optional<acoustics::Spectrum>& curve, const std::string& name) {
-    if (curve && curve->at(band) != 0.0) lines += Level(name, curve->at(band));
-  };
-  add(chart_.base, chart_.words.base);
-  add(chart_.laboratory, chart_.words.laboratory);
-  add(chart_.in_situ, chart_.words.in_situ);
-  return lines.join('\n');
+/// Around the marked band, or the middle.
+void ChartView::Zoom(double factor) {
+  QPointF place(0.5, 0.5);
+  if (chart_.highlighted_band) {
+    const double across =
+        (static_cast<double>(*chart_.highlighted_band) - window_.left) / (window_.right - window_.left);
+    place.setX(std::clamp(across, 0.0, 1.0));
+  }
+  SeeThrough(Zoomed(window_, factor, place));
+}
+
+void ChartView::leaveEvent(QEvent* event) {
+  QWidget::leaveEvent(event);
+  if (!hasFocus()) Mark(std::nullopt);
+}
+
+void ChartView::focusOutEvent(QFocusEvent* event) {
+  QWidget::focusOutEvent(event);
+  if (!underMouse()) Mark(std::nullopt);
+}
+
+QString ChartView::BandText(std::size_t band, const QString& between) const {
+  QStringList values = {FromUtf8(FormatShortest(acoustics::BandCentre(band))) + " Hz"};
+  for (const presentation::ChartNumber& number : presentation::NumbersAt(chart_, band))
+    values += FromUtf8(number.name) + ": " + FromUtf8(FormatFixed(number.level_db, 1)) + " dB";
+  return values.join(between);
 }
 
 /// The chart as it is without a mouse.
@@ -107,6 +225,10 @@ QImage ChartView::Picture(double scale) const {
   painter.setFont(font());
   presentation::DrawCurveChart(painter, QRectF(rect()), Plain());
   return picture;
+}
+
+void ChartView::CopyNumbers() const {
+  QGuiApplication::clipboard()->setText(FromUtf8(presentation::NumbersTable(chart_)));
 }
 
 void ChartView::Save(bool as_svg) {
@@ -129,8 +251,14 @@ void ChartView::contextMenuEvent(QContextMenuEvent* event) {
   menu->setAttribute(Qt::WA_DeleteOnClose);
   menu->addAction(Text(speech_.words, kCopyPictureRow),
                   [this] { QGuiApplication::clipboard()->setImage(Picture(kPictureScale)); });
+  menu->addAction(Text(speech_.words, kCopyNumbersRow), this, &ChartView::CopyNumbers)
+      ->setObjectName("CopiaValori");
   menu->addAction(Text(speech_.words, kSavePngRow), [this] { Save(/*as_svg=*/false); });
   menu->addAction(Text(speech_.words, kSaveSvgRow), [this] { Save(/*as_svg=*/true); });
+  menu->addSeparator();
+  menu->addAction(Text(speech_.words, kZoomInRow) + "\t+", [this] { Zoom(kZoomStep); });
+  menu->addAction(Text(speech_.words, kZoomOutRow) + "\t−", [this] { Zoom(1.0 / kZoomStep); });
+  menu->addAction(Text(speech_.words, kWholeChartRow) + "\t0", [this] { SeeThrough({}); });
   menu->popup(event->globalPos());
 }
 

@@ -10,6 +10,8 @@
 #include <QVBoxLayout>
 #include <tuple>
 
+#include "acoustics/unfavourable_deviations.h"
+#include "elements/requirement.h"
 #include "elements/single_numbers.h"
 #include "foundation/decimal.h"
 #include "foundation/message_rows.h"
@@ -18,9 +20,12 @@
 #include "shell/fields/phrases.h"
 #include "shell/pages/page_parts.h"
 #include "shell/results/chart_view.h"
+#include "shell/results/continuous_calculation.h"
+#include "shell/results/difference_line.h"
+#include "shell/results/requirement_line.h"
+#include "shell/results/result_notes_view.h"
 #include "shell/results/section_view.h"
 #include "shell/results/single_numbers_panel.h"
-#include "shell/results/variant_strip.h"
 
 namespace velmar::shell {
 namespace {
@@ -77,13 +82,15 @@ std::pair<QWidget*, QLabel*> MakePair(const char* frame_name, const std::pair<co
 
 }  // namespace
 
-ResultsPanel::ResultsPanel(const calculation::OpenCalculation& open, const Speech& speech,
-                           ChartOverlay* overlay, QWidget* parent)
-    : QWidget(parent), open_(open), speech_(speech), overlay_(overlay) {
+ResultsPanel::ResultsPanel(calculation::OpenCalculation& open, const Speech& speech,
+                           const validation::KnownAccuracy& accuracy, ChartOverlay* overlay, QWidget* parent)
+    : QWidget(parent), open_(open), speech_(speech), accuracy_(accuracy) {
   setObjectName("prnFrame1");
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(kPageSpacing, kPageSpacing, kPageSpacing, kPageSpacing);
   column->addWidget(MakeRatings());
+  notes_ = new ResultNotesView(speech_, this);
+  column->addWidget(notes_);
   column->addWidget(MakeNumbers());
   splitter_ = new QSplitter(Qt::Vertical, this);
   splitter_->addWidget(MakeChart());
@@ -92,14 +99,15 @@ ResultsPanel::ResultsPanel(const calculation::OpenCalculation& open, const Speec
   splitter_->setStretchFactor(1, 2);
   splitter_->setChildrenCollapsible(false);
   column->addWidget(splitter_, 1);
-  if (overlay_ != nullptr) connect(overlay_, &ChartOverlay::Changed, this, &ResultsPanel::Show);
+  if (overlay != nullptr) AddOverlay(*overlay);
 }
 
-void ResultsPanel::AddFoot(VariantStrip* variants) {
-  variants_ = variants;
-  layout()->addWidget(variants);
-  connect(variants, &VariantStrip::CurvesToggled, this, &ResultsPanel::Show);
+void ResultsPanel::AddOverlay(ChartOverlay& overlay) {
+  overlays_.push_back(&overlay);
+  connect(&overlay, &ChartOverlay::Changed, this, &ResultsPanel::Show);
 }
+
+void ResultsPanel::AddFoot(QWidget* widget) { layout()->addWidget(widget); }
 
 QWidget* ResultsPanel::MakeRatings() {
   auto* frame = new QWidget(this);
@@ -130,7 +138,10 @@ QWidget* ResultsPanel::MakeRatings() {
     widget->setContentsMargins(3 * kPageSpacing, 0, 0, 0);
     line->addWidget(widget);
   }
-  line->addStretch(1);
+  difference_ = new DifferenceLine(speech_.words, frame);
+  difference_->setContentsMargins(3 * kPageSpacing, 0, 0, 0);
+  line->addWidget(difference_, 1);
+  line->addStretch(0);
   return frame;
 }
 
@@ -163,8 +174,24 @@ QWidget* ResultsPanel::MakeChart() {
   autoscale_ = new QCheckBox(Text(speech_.words, kAutoscaleRow), frame);
   autoscale_->setObjectName("Check3");
   connect(autoscale_, &QCheckBox::clicked, this, &ResultsPanel::ShowChart);
+  values_ = new QLabel(frame);
+  values_->setObjectName("LabelValori");
+  values_->setForegroundRole(QPalette::PlaceholderText);
+  // Names of structures may be long; they never widen the panel.
+  values_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+  connect(chart_, &ChartView::BandRead, values_, [this](const QString& values) {
+    values_->setText(values);
+    values_->setToolTip(values);
+  });
+  requirement_ = new RequirementLine(open_, speech_.words, frame);
+  auto* foot = new QHBoxLayout;
+  foot->setSpacing(2 * kPageSpacing);
+  foot->addWidget(requirement_);
+  foot->addStretch(1);
+  foot->addWidget(autoscale_);
   column->addWidget(chart_, 1);
-  column->addWidget(autoscale_, 0, Qt::AlignRight);
+  column->addWidget(values_);
+  column->addLayout(foot);
   return frame;
 }
 
@@ -177,7 +204,11 @@ QWidget* ResultsPanel::MakeSection() {
   heading->setObjectName("Label10_0");
   heading->setForegroundRole(QPalette::PlaceholderText);
   section_ = new SectionView(section_frame_);
+  section_->setAccessibleName(heading->text());
+  section_->setAccessibleDescription(Text(speech_.words, kSectionKeysRow));
+  section_->setToolTip(Text(speech_.words, kSectionKeysRow));
   connect(section_, &SectionView::LayerHovered, this, &ResultsPanel::LayerHovered);
+  connect(section_, &SectionView::LayerChosen, this, &ResultsPanel::LayerChosen);
   column->addWidget(heading);
   column->addWidget(section_, 1);
   return section_frame_;
@@ -187,7 +218,6 @@ void ResultsPanel::Show() {
   const elements::Setup& setup = open_.Setup();
   if (!setup.calculation) return;
   const auto& result = open_.Result();
-  if (variants_ != nullptr) variants_->Show();
   ShowRatings(setup, result ? &*result : nullptr);
   ShowChart();
   section_frame_->setVisible(RowOf(*setup.calculation).family != elements::Family::kFacade);
@@ -207,7 +237,6 @@ void ResultsPanel::ShowRatings(const elements::Setup& setup, const elements::Res
   rating_->setText(Decibels(impact ? shown.lnw : shown.rw));
   rating_name_->setVisible(rated);
   rating_->setVisible(rated);
-  due_->setVisible(!rated);
   c_->setText(impact ? Term("Ci", shown.ci) : Term("C", shown.c));
   ctr_->setText(Term("Ctr", shown.ctr));
   c_->setVisible(impact ? shown.ci.has_value() : shown.c.has_value());
@@ -221,7 +250,16 @@ void ResultsPanel::ShowRatings(const elements::Setup& setup, const elements::Res
   improvement_frame_->setVisible(improves && rated);
   impact_improvement_->setText(Decibels(shown.delta_lnw));
   impact_frame_->setVisible(impact && rated && shown.delta_lnw.has_value());
+  notes_->Show(setup, result, accuracy_.Get());
+  if (continuous_ != nullptr) difference_->Show(*continuous_, impact ? shown.lnw : shown.rw, impact);
+  due_->setVisible(!rated && !difference_->SaysWhy());
+  requirement_->Show();
   ShowNumbers();
+}
+
+void ResultsPanel::Follow(const ContinuousCalculation& continuous) {
+  continuous_ = &continuous;
+  connect(&continuous, &ContinuousCalculation::Changed, this, &ResultsPanel::Show);
 }
 
 void ResultsPanel::ShowNumbers() {
@@ -242,12 +280,36 @@ void ResultsPanel::ShowChart() {
   autoscale_->setEnabled(result.has_value());
   if (shown_) {
     shown_->autoscale = autoscale_->isChecked();
-    if (overlay_ != nullptr) overlay_->LayOver(*shown_);
-    if (variants_ != nullptr) shown_->further = variants_->Curves();
+    for (ChartOverlay* overlay : overlays_) overlay->LayOver(*shown_);
   }
   // A result without a curve says so in its place.
   const std::string note = result && !shown_ ? speech_.words(kRatingsOnlyRow) : std::string();
-  chart_->Show(shown_ ? *shown_ : presentation::EmptyChartOf(open_.Setup(), note, speech_.words));
+  presentation::CurveChart seen =
+      shown_ ? *shown_ : presentation::EmptyChartOf(open_.Setup(), note, speech_.words);
+  AddMarks(seen);
+  chart_->Show(seen);
+}
+
+void ResultsPanel::AddMarks(presentation::CurveChart& chart) const {
+  const presentation::Words& words = speech_.words;
+  const elements::Setup& setup = open_.Setup();
+  chart.marks.pale_outside = true;
+  chart.marks.deviations = chart.shift.has_value();
+  chart.words.deviation = words(kDeviationRow);
+  if (chart.shift) {
+    chart.words.deviations = words(kDeviationsRow) + ' ' +
+                             FormatFixed(acoustics::SumOf(presentation::DeviationsOf(chart)), 1) + ' ' +
+                             words(kOutOfRow) + ' ' + FormatFixed(acoustics::kAllowedDeviationDb, 1) + " dB";
+  }
+  if (const auto required = elements::RequirementOf(setup)) {
+    chart.marks.required = required;
+    chart.words.required = words(kLimitRow) + ' ' + FormatShortest(*required);
+  }
+  chart.words.former = words(kFormerCurveRow);
+  const auto& former = continuous_ != nullptr ? continuous_->Former() : std::nullopt;
+  const bool impact = RowOf(*setup.calculation).family == elements::Family::kImpact;
+  if (former && former->result.spectrum && former->result.lnw.has_value() == impact)
+    chart.marks.former = former->result.spectrum;
 }
 
 void ResultsPanel::Highlight(const std::optional<presentation::LayerPlace>& place) {

@@ -2,12 +2,14 @@
 
 #include <QWidget>
 #include <optional>
+#include <vector>
 
 #include "calculation/open_calculation.h"
 #include "presentation/drawing/curve_chart.h"
 #include "presentation/drawing/section.h"
 #include "shell/fields/boxes.h"
 #include "shell/results/chart_overlay.h"
+#include "validation/known_accuracy.h"
 
 class QCheckBox;
 class QLabel;
@@ -17,19 +19,31 @@ class QToolButton;
 namespace velmar::shell {
 
 class ChartView;
+class ContinuousCalculation;
+class DifferenceLine;
+class RequirementLine;
+class ResultNotesView;
 class SectionView;
 class SingleNumbersPanel;
-class VariantStrip;
 
 /// The right side of the window (`prnFrame1`): single-number results, curve chart, section drawing. Shows the
-/// open calculation and changes nothing of it.
+/// open calculation; of it only the required rating is entered here.
 class ResultsPanel : public QWidget {
   Q_OBJECT
  public:
   /// @param open and what follows outlive the panel
   /// @param overlay further curves; none: the chart shows the result alone
-  ResultsPanel(const calculation::OpenCalculation& open, const Speech& speech, ChartOverlay* overlay,
-               QWidget* parent = nullptr);
+  /// @param accuracy what is known of the errors of the models
+  ResultsPanel(calculation::OpenCalculation& open, const Speech& speech,
+               const validation::KnownAccuracy& accuracy, ChartOverlay* overlay, QWidget* parent = nullptr);
+
+  /// Lays the curves of `overlay`, which outlives the panel, over those that are there.
+  void AddOverlay(ChartOverlay& overlay);
+  /// Puts `widget` below everything, across the whole width.
+  void AddFoot(QWidget* widget);
+
+  /// Shows what `continuous` says too, from now on; it outlives the panel.
+  void Follow(const ContinuousCalculation& continuous);
 
   /// Shows set-up and result as they are now.
   void Show();
@@ -38,14 +52,16 @@ class ResultsPanel : public QWidget {
   /// The chart as it is shown, with its scale and overlays; nothing without a result or a curve.
   const std::optional<presentation::CurveChart>& Chart() const { return shown_; }
 
-  /// The variants stand at the panel's foot from now on, and their curves in the chart.
-  void AddFoot(VariantStrip* variants);
+  /// Where the required rating is entered.
+  RequirementLine* Requirement() const { return requirement_; }
 
   QSplitter* Splitter() const { return splitter_; }
 
  signals:
   /// The layer of the section under the mouse; nothing: none.
   void LayerHovered(const std::optional<velmar::presentation::LayerPlace>& place);
+  /// A layer of the section was clicked, or chosen by the keyboard.
+  void LayerChosen(const velmar::presentation::LayerPlace& place);
 
  private:
   QWidget* MakeRatings();
@@ -57,10 +73,13 @@ class ResultsPanel : public QWidget {
   /// Shows every rating of the result in the table that the button opens.
   void ShowNumbers();
   void ShowChart();
+  /// What the screen shows of `chart` besides its curves.
+  void AddMarks(presentation::CurveChart& chart) const;
 
-  const calculation::OpenCalculation& open_;
+  calculation::OpenCalculation& open_;
   const Speech& speech_;
-  ChartOverlay* overlay_ = nullptr;
+  const validation::KnownAccuracy& accuracy_;
+  std::vector<ChartOverlay*> overlays_{};
   QLabel* rating_name_ = nullptr;
   QLabel* rating_ = nullptr;
   QLabel* due_ = nullptr;
@@ -70,15 +89,19 @@ class ResultsPanel : public QWidget {
   QLabel* improvement_ = nullptr;
   QWidget* impact_frame_ = nullptr;
   QLabel* impact_improvement_ = nullptr;
+  ResultNotesView* notes_ = nullptr;
   QToolButton* open_numbers_ = nullptr;
   SingleNumbersPanel* numbers_ = nullptr;
   QCheckBox* autoscale_ = nullptr;
   ChartView* chart_ = nullptr;
+  QLabel* values_ = nullptr;
+  RequirementLine* requirement_ = nullptr;
+  DifferenceLine* difference_ = nullptr;
+  const ContinuousCalculation* continuous_ = nullptr;
   std::optional<presentation::CurveChart> shown_{};
   QWidget* section_frame_ = nullptr;
   SectionView* section_ = nullptr;
   QSplitter* splitter_ = nullptr;
-  VariantStrip* variants_ = nullptr;
 };
 
 }  // namespace velmar::shell

@@ -171,7 +171,7 @@ TEST_P(EveryCalculation, ExcelReportIsSoundAndTellsEveryNumberUnrounded) {
 INSTANTIATE_TEST_SUITE_P(Families, EveryCalculation,
                          testing::Values(Family::kSingle, Family::kDouble, Family::kSharp, Family::kSeaSingle,
                                          Family::kSea, Family::kImpact, Family::kFacade, Family::kLining,
-                                         Family::kCeiling));
+                                         Family::kCeiling, Family::kMultilayer));
 
 TEST(EveryCalculationHas, AnExample) {
   std::set<elements::Calculation> met;

@@ -71,6 +71,8 @@ const std::vector<RandomUser::Action>& RandomUser::Actions() {
       {"go back", &RandomUser::GoBack},
       {"move layers", &RandomUser::MoveLayers, 3},
       {"use variants", &RandomUser::UseVariants, 2},
+      {"switch the continuous calculation", &RandomUser::SwitchContinuous},
+      {"step a number", &RandomUser::StepNumber, 3},
   };
   return actions;
 }
@@ -171,6 +173,17 @@ void RandomUser::UseVariants() {
 }
 
 void RandomUser::GoBack() { fixture_.Find<QAction>("annulla")->trigger(); }
+
+void RandomUser::SwitchContinuous() { fixture_.Find<QAction>("calcolo_continuo")->trigger(); }
+
+void RandomUser::StepNumber() {
+  auto* field = AnyShown<QLineEdit>();
+  if (field == nullptr) return;
+  field->setFocus();
+  const Qt::Key key = Pick(2) == 0 ? Qt::Key_Up : Qt::Key_Down;
+  for (int steps = 1 + Pick(5); steps > 0; --steps)
+    QTest::keyClick(field, key, Pick(3) == 0 ? Qt::ControlModifier : Qt::NoModifier);
+}
 
 void RandomUser::ChooseCalculation() {
   fixture_.Choose(

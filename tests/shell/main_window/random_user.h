@@ -58,6 +58,8 @@ class RandomUser {
   void GoBack();
   void MoveLayers();
   void UseVariants();
+  void SwitchContinuous();
+  void StepNumber();
 
   WindowFixture& fixture_;
   std::mt19937 random_;

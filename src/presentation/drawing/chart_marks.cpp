@@ -1,0 +1,100 @@
+#include "presentation/drawing/chart_marks.h"
+
+#include <QPainter>
+
+#include "acoustics/bands.h"
+#include "presentation/drawing/colours.h"
+#include "presentation/drawing/text.h"
+
+namespace velmar::presentation {
+namespace {
+
+constexpr double kMarkWidth = 1.5;
+constexpr std::size_t k500Hz = 7;  ///< among the rated bands: where a reference curve has its rating
+constexpr int kPaleAlpha = 96;
+
+/// `colour` over the paper, opaque: overlapping ends of lines do not darken.
+QColor OverPaper(const QColor& colour, int alpha) {
+  const auto mixed = [alpha](int ink, int paper) { return (ink * alpha + paper * (255 - alpha)) / 255; };
+  return {mixed(colour.red(), kPaperColour.red()), mixed(colour.green(), kPaperColour.green()),
+          mixed(colour.blue(), kPaperColour.blue())};
+}
+
+}  // namespace
+
+QPolygonF ReferenceLine(const ChartLayout& layout, const CurveChart& chart, const ChartRange& range,
+                        double shift) {
+  QPolygonF line;
+  for (std::size_t i = 0; i < chart.reference.size(); ++i) {
+    line << layout.At(static_cast<double>(i + acoustics::kFirstRatedBand),
+                      LogicalY(chart.reference[i] + shift, range));
+  }
+  return line;
+}
+
+QColor Paler(const QColor& colour) { return OverPaper(colour, kPaleAlpha); }
+
+void DrawDeviations(QPainter& painter, const ChartLayout& layout, const CurveChart& chart,
+                    const ChartRange& range) {
+  if (!chart.marks.deviations || !chart.shift) return;
+  const acoustics::Deviations deviations = DeviationsOf(chart);
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(kDeviationColour);
+  for (std::size_t i = 0; i < deviations.size(); ++i) {
+    const std::size_t band = i + acoustics::kFirstRatedBand;
+    if (deviations[i] <= 0.0 || chart.values[band] == 0.0) continue;
+    const auto place = static_cast<double>(band);
+    const QPointF curve = layout.At(place - 0.5, LogicalY(chart.values[band], range));
+    const QPointF reference = layout.At(place + 0.5, LogicalY(chart.reference[i] + *chart.shift, range));
+    painter.drawRect(QRectF(curve, reference).normalized());
+  }
+  painter.setBrush(Qt::NoBrush);
+}
+
+void DrawDeviationSum(QPainter& painter, const ChartLayout& layout, const CurveChart& chart) {
+  if (!chart.marks.deviations || !chart.shift || chart.words.deviations.empty()) return;
+  const double em = layout.text_px;
+  const QString text = FromWords(chart.words.deviations);
+  const QSizeF size(WidthOf(text, layout.font) + em, 1.5 * em);
+  const QRectF& plot = layout.plot;
+  const bool above = chart.unfavourable == acoustics::Unfavourable::kAbove;
+  const QRectF box(QPointF(plot.right() - size.width() - 0.5 * em,
+                           above ? plot.top() + 0.4 * em : plot.bottom() - size.height() - 0.4 * em),
+                   size);
+  QColor ground = kPaperColour;
+  ground.setAlphaF(0.85F);
+  painter.fillRect(box, ground);
+  painter.setPen(kQuietInkColour);
+  DrawTextIn(painter, box, Qt::AlignCenter, text);
+}
+
+void DrawRequirement(QPainter& painter, const ChartLayout& layout, const CurveChart& chart,
+                     const ChartRange& range) {
+  if (!chart.marks.required || !chart.shift) return;
+  const double shift = *chart.marks.required - chart.reference[k500Hz];
+  const QPolygonF line = ReferenceLine(layout, chart, range, shift);
+  painter.setPen(QPen(kRequirementColour, kMarkWidth, Qt::DashLine));
+  painter.drawPolyline(line);
+  const QString text = FromWords(chart.words.required);
+  const double em = layout.text_px;
+  // At the flat end of the curve, on the side where the result is not wanted.
+  const bool below = chart.unfavourable == acoustics::Unfavourable::kBelow;
+  const QPointF end = below ? line.back() : line.front();
+  const double width = WidthOf(text, layout.font) + em;
+  const QRectF box(below ? end.x() - width : end.x(), end.y() + (below ? 0.1 : -1.5) * em, width, 1.4 * em);
+  DrawTextIn(painter, box, Qt::AlignCenter, text);
+}
+
+void DrawFormer(QPainter& painter, const ChartLayout& layout, const CurveChart& chart,
+                const ChartRange& range) {
+  if (!chart.marks.former) return;
+  const acoustics::Spectrum& values = *chart.marks.former;
+  const auto at = [&](std::size_t band) {
+    return layout.At(static_cast<double>(band), LogicalY(values[band], range));
+  };
+  painter.setPen(QPen(kFormerColour, kMarkWidth));
+  for (const ChartSegment& segment : CurveSegments(values, chart.first_band, chart.last_band))
+    painter.drawLine(at(segment.from), at(segment.to));
+}
+
+}  // namespace velmar::presentation

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QPolygonF>
+
+#include "presentation/drawing/chart_layout.h"
+#include "presentation/drawing/chart_scale.h"
+
+class QColor;
+class QPainter;
+
+namespace velmar::presentation {
+
+/// The reference curve of `chart` shifted by `shift` dB.
+QPolygonF ReferenceLine(const ChartLayout& layout, const CurveChart& chart, const ChartRange& range,
+                        double shift);
+
+/// `colour` as it is where no rating reads.
+QColor Paler(const QColor& colour);
+
+// Each draws its mark where `chart` asks for it.
+
+/// The bands on the unfavourable side, between curve and reference curve.
+void DrawDeviations(QPainter& painter, const ChartLayout& layout, const CurveChart& chart,
+                    const ChartRange& range);
+/// Their sum, where the curves leave room: under them, or over them for impact sound.
+void DrawDeviationSum(QPainter& painter, const ChartLayout& layout, const CurveChart& chart);
+/// The reference curve where it has the required rating.
+void DrawRequirement(QPainter& painter, const ChartLayout& layout, const CurveChart& chart,
+                     const ChartRange& range);
+/// The curve before the last change.
+void DrawFormer(QPainter& painter, const ChartLayout& layout, const CurveChart& chart,
+                const ChartRange& range);
+
+}  // namespace velmar::presentation
