@@ -35,6 +35,10 @@ endif()
 add_library(project_warnings INTERFACE)
 target_compile_options(project_warnings INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Werror)
 
+if(VELMAR_FUZZ)
+  add_compile_options(-fsanitize=fuzzer-no-link)
+endif()
+
 # Contracted multiply-add would make results differ between machines.
 add_compile_options(-ffp-contract=off)
 if(VELMAR_SANITIZE)

@@ -47,6 +47,18 @@ function(add_layer name)
                              "set(${name}_uses ${LAYER_USES})\nset(${name}_libraries ${LAYER_LIBRARIES})\n")
 endfunction()
 
+# add_program_tests(program label [ENVIRONMENT ...]): the tests of a GoogleTest program, each known to CTest by its
+# name. Under the sanitizers a program starts slowly and stands for all its tests at once.
+function(add_program_tests program label)
+  if(VELMAR_SANITIZE)
+    add_test(NAME "${label}" COMMAND ${program})
+    set_tests_properties("${label}" PROPERTIES LABELS ${label} ${ARGN})
+  else()
+    gtest_discover_tests(${program} NO_PRETTY_VALUES TEST_PREFIX "${label}: " DISCOVERY_TIMEOUT 60
+                         PROPERTIES LABELS ${label} ${ARGN})
+  endif()
+endfunction()
+
 # add_layer_test(layer sources...): one test program a layer, each of its tests known to CTest by name.
 function(add_layer_test layer)
   string(REPLACE "/" "_" name ${layer})
@@ -54,6 +66,5 @@ function(add_layer_test layer)
   target_link_libraries(${name}_test PRIVATE ${name} GTest::gtest_main GTest::gmock project_warnings)
   target_include_directories(${name}_test PRIVATE ${PROJECT_SOURCE_DIR})
   use_precompiled(${name}_test test_headers)
-  gtest_discover_tests(${name}_test NO_PRETTY_VALUES TEST_PREFIX "${name}: " DISCOVERY_TIMEOUT 60
-                       PROPERTIES LABELS ${name})
+  add_program_tests(${name}_test ${name})
 endfunction()

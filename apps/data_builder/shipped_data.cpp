@@ -72,6 +72,11 @@ void BuildShippedData(const fs::path& source, const fs::path& target) {
   BuildLibrary(source / "library", databases / "Database");
   CopyPictures(source / "library" / "immagine", databases / "immagine");
   BuildMessages(source / "messages", databases / "InterfMess.mdb");
+  // What the first version shipped: the start tells by it what of such a data folder nobody changed.
+  const fs::path former = target / "Former" / "Databases";
+  fs::remove_all(former);
+  BuildMaterials(source / "former" / "materials", former / "Database" / "Database.mdb");
+  BuildMessages(source / "former" / "messages", former / "InterfMess.mdb");
 }
 
 }  // namespace velmar::data_builder

@@ -9,7 +9,6 @@ int main(int argc, char** argv) {
   // Libraries below read and write numbers by the locale; files need the point.
   std::setlocale(LC_NUMERIC, "C");
   QCoreApplication::setApplicationName("velmarpro");
-  QGuiApplication::setApplicationDisplayName("VELMARpro");
   QCoreApplication::setApplicationVersion(VELMAR_VERSION);
   return velmar::shell::RunDesktop(application);
 }

@@ -1,5 +1,6 @@
-// velmar-message-rows HEADER CSV...: names the rows of the message files as constants in a header, which is
-// written only when its content changes. Complaints go to the error stream, and no header is touched then.
+// velmar-message-rows FOLDER CSV...: names the rows of each message file, "texts.csv", as constants in a
+// header of FOLDER, "texts_rows.h", which is written only when its content changes. Complaints go to the
+// error stream, and no header is touched then.
 #include <cstdio>
 #include <exception>
 #include <filesystem>
@@ -38,13 +39,16 @@ void WriteIfChanged(const fs::path& path, const std::string& text) {
   if (!file) throw std::runtime_error(path.string() + ": cannot be written");
 }
 
-int Run(const fs::path& header, const std::vector<fs::path>& paths) {
+int Run(const fs::path& folder, const std::vector<fs::path>& paths) {
   std::vector<MessageFile> files;
   for (const fs::path& path : paths) files.push_back(Read(path));
   const std::vector<std::string> complaints = velmar::message_rows::Complaints(files);
   for (const std::string& complaint : complaints) std::fprintf(stderr, "%s\n", complaint.c_str());
   if (!complaints.empty()) return 1;
-  WriteIfChanged(header, velmar::message_rows::Header(files));
+  for (const MessageFile& file : files) {
+    const std::string name = fs::path(file.name).stem().string() + "_rows.h";
+    WriteIfChanged(folder / name, velmar::message_rows::Header(file));
+  }
   return 0;
 }
 
@@ -52,7 +56,7 @@ int Run(const fs::path& header, const std::vector<fs::path>& paths) {
 
 int main(int argc, char** argv) {
   if (argc < 3) {
-    std::fprintf(stderr, "velmar-message-rows HEADER CSV...\n");
+    std::fprintf(stderr, "velmar-message-rows FOLDER CSV...\n");
     return 2;
   }
   try {

@@ -89,17 +89,15 @@ std::vector<std::string> Complaints(std::span<const MessageFile> files) {
   return check.TakeComplaints();
 }
 
-std::string Header(std::span<const MessageFile> files) {
+std::string Header(const MessageFile& file) {
   std::string text =
       "// Made by the build out of data/messages, where every change belongs.\n"
       "#pragma once\n\n"
       "#include \"foundation/message.h\"\n\n"
       "namespace velmar {\n";
-  for (const MessageFile& file : files) {
-    for (const std::vector<std::string>& fields : file.table.rows) {
-      text += "\n/// " + fields[kUse] + "\ninline constexpr MessageRow " + fields[kName] + "{" +
-              fields[kRow] + "};\n";
-    }
+  for (const std::vector<std::string>& fields : file.table.rows) {
+    text += "\n/// " + fields[kUse] + "\ninline constexpr MessageRow " + fields[kName] + "{" + fields[kRow] +
+            "};\n";
   }
   return text + "\n}  // namespace velmar\n";
 }

@@ -20,8 +20,8 @@ struct MessageFile {
 /// empty or no single line, a text missing in a language.
 std::vector<std::string> Complaints(std::span<const MessageFile> files);
 
-/// The header that names every row of `files` as a constant with its use as the comment. No wording stands in
-/// it: a change of wording leaves it as it is. `files` are without complaints.
-std::string Header(std::span<const MessageFile> files);
+/// The header that names every row of `file` as a constant with its use as the comment. No wording stands in
+/// it: a change of wording leaves it as it is. `file` is without complaints.
+std::string Header(const MessageFile& file);
 
 }  // namespace velmar::message_rows

@@ -1,12 +1,16 @@
 // Makes one report template out of its readable parts, at build time.
-//   velmar-pack-template OUT FOLDER...   a part of a later folder takes the place of one of the same name
+//   velmar-pack-template OUT KIND FOLDER...   a part of a later folder takes the place of one of the same
+//   name; lines between "<!--only KIND KIND-->" and "<!--end-->" go into the kinds named alone
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <iostream>
 #include <iterator>
 #include <map>
+#include <sstream>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -21,12 +25,32 @@ std::string ReadWhole(const fs::path& path) {
   return {std::istreambuf_iterator<char>(file), {}};
 }
 
-std::map<std::string, std::string> PartsOf(int count, char** folders) {
+/// `text` with what is meant for `kind`.
+std::string CutFor(const std::string& kind, const std::string& text) {
+  constexpr std::string_view kOnly = "<!--only ";
+  std::istringstream lines(text);
+  std::string cut;
+  bool kept = true;
+  for (std::string line; std::getline(lines, line);) {
+    if (line.starts_with(kOnly)) {
+      std::istringstream kinds(line.substr(kOnly.size(), line.rfind("-->") - kOnly.size()));
+      kept = std::count(std::istream_iterator<std::string>(kinds), {}, kind) > 0;
+    } else if (line == "<!--end-->") {
+      kept = true;
+    } else if (kept) {
+      cut += line + '\n';
+    }
+  }
+  return cut;
+}
+
+std::map<std::string, std::string> PartsOf(const std::string& kind, int count, char** folders) {
   std::map<std::string, std::string> parts;
   for (int i = 0; i < count; ++i) {
     for (const fs::directory_entry& entry : fs::recursive_directory_iterator(folders[i])) {
       if (!entry.is_regular_file()) continue;
-      parts[entry.path().lexically_relative(folders[i]).generic_string()] = ReadWhole(entry.path());
+      parts[entry.path().lexically_relative(folders[i]).generic_string()] =
+          kind.empty() ? ReadWhole(entry.path()) : CutFor(kind, ReadWhole(entry.path()));
     }
   }
   return parts;
@@ -35,12 +59,12 @@ std::map<std::string, std::string> PartsOf(int count, char** folders) {
 }  // namespace
 
 int main(int count, char** arguments) {
-  if (count < 3) {
-    std::cerr << "usage: velmar-pack-template OUT FOLDER...\n";
+  if (count < 4) {
+    std::cerr << "usage: velmar-pack-template OUT KIND FOLDER...\n";
     return 2;
   }
   try {
-    std::map<std::string, std::string> parts = PartsOf(count - 2, arguments + 2);
+    std::map<std::string, std::string> parts = PartsOf(arguments[2], count - 3, arguments + 3);
     std::vector<std::pair<std::string, std::string>> ordered;
     // Readers look for these first.
     for (const char* name : {"[Content_Types].xml", "_rels/.rels"}) {

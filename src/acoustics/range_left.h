@@ -14,8 +14,14 @@ struct RangeLeft {
   double lowest = 0.0;      ///< the range, both ends inside; an infinity where it has no such end
   double highest = 0.0;     ///< the other end
   std::string_view unit{};  ///< of the three numbers; empty for a check of a choice, which has none
+  MessageRow quantity{};    ///< name of what has the value; of a choice, what was chosen
 
   bool operator==(const RangeLeft&) const = default;
 };
+
+/// What lies outside, and of what: "m' = 504 kg/m² (from 80 to 400)", "thickness = 34 cm (up to 30)"; of a
+/// choice what was chosen, "cavity not empty". The value is rounded as far as it still shows that it lies
+/// outside.
+MessageLine RangeText(const RangeLeft& range);
 
 }  // namespace velmar::acoustics

@@ -3,6 +3,7 @@
 #include <system_error>
 #include <utility>
 
+#include "application/data_renewal.h"
 #include "foundation/failure.h"
 #include "foundation/message_rows.h"
 #include "storage/configuration/documents_folder.h"
@@ -11,6 +12,7 @@
 #include "storage/database/database_failure.h"
 #include "storage/database/file_kind.h"
 #include "storage/database/permissions.h"
+#include "storage/database/set_aside.h"
 #include "storage/messages/message_table_reader.h"
 
 namespace velmar::application {
@@ -93,6 +95,24 @@ StorePlaces PlacesOf(const Environment& environment) {
           .reader = {storage::AccessReaderProgram(storage::ProgramFolder()).value_or("")}};
 }
 
+/// Brings the folder of an earlier version up to this one. A material database that cannot be used yet is for
+/// the next start.
+void RenewFolder(const Environment& environment, const StartTalk& talk) {
+  using storage::DatabaseCondition;
+  const DatabaseCondition materials = storage::ConditionOf(environment.configuration.PercorsoDatabase());
+  const bool usable = materials == DatabaseCondition::kGood || materials == DatabaseCondition::kMissing;
+  if (!environment.shipped || !usable) return;
+  try {
+    const auto done = RenewData(environment.configuration.LeggiCartellaDati(), *environment.shipped);
+    if (done) talk.tell(*done);
+  } catch (const Failure& failure) {
+    Message told{{kRenewalFailedRow}};
+    const Message& why = failure.UserMessage();
+    told.insert(told.end(), why.begin(), why.end());
+    talk.warn(told);
+  }
+}
+
 }  // namespace
 
 Environment FindEnvironment(const std::optional<fs::path>& data_folder, const AskWith& ask) {
@@ -117,8 +137,9 @@ Environment FindEnvironment(const std::optional<fs::path>& data_folder, const As
 }
 
 void OpenCatalogue(Environment& environment, const StartTalk& talk) {
-  if (PrepareStore(Store::kMessages, PlacesOf(environment), talk) || !environment.shipped)
-    environment.messages = OwnMessages(environment);
+  const bool good = PrepareStore(Store::kMessages, PlacesOf(environment), talk);
+  if (good) RenewFolder(environment, talk);
+  if (good || !environment.shipped) environment.messages = OwnMessages(environment);
 }
 
 OpenedStores OpenStores(const Environment& environment, const StartTalk& talk) {

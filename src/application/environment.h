@@ -35,8 +35,9 @@ using AskWith = std::function<bool(const Message& question, const storage::Messa
 /// @throws Failure with words of its own when there is neither a data folder nor shipped data
 Environment FindEnvironment(const std::optional<std::filesystem::path>& data_folder, const AskWith& ask = {});
 
-/// Brings the message catalogue of the data folder into order and takes the messages from it; where that
-/// cannot be done those of the shipped one stay.
+/// Brings the message catalogue of the data folder into order, and after that the whole folder up to the data
+/// of this version (RenewData()), and takes the messages from it; where that cannot be done those of the
+/// shipped one stay.
 /// @throws Failure with words of its own when no catalogue can be read, or it lacks the language
 void OpenCatalogue(Environment& environment, const StartTalk& talk);
 

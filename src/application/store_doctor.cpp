@@ -1,25 +1,19 @@
 #include "application/store_doctor.h"
 
-#include <map>
-#include <memory>
+#include <optional>
 #include <set>
 #include <system_error>
 #include <utility>
-#include <variant>
-
-#include <SQLiteCpp/Database.h>
-#include <SQLiteCpp/Statement.h>
 
 #include "foundation/failure.h"
 #include "storage/configuration/configuration.h"
 #include "storage/configuration/first_start.h"
-#include "storage/database/connection.h"
 #include "storage/database/database_failure.h"
 #include "storage/database/row_repair.h"
 #include "storage/database/set_aside.h"
-#include "storage/database/table_rows.h"
 #include "storage/files/unfinished.h"
-#include "storage/tables/cell.h"
+#include "storage/messages/catalogue_rules.h"
+#include "storage/tables/schema.h"
 
 namespace velmar::application {
 namespace {
@@ -43,71 +37,6 @@ const std::vector<storage::ColumnRange> kRanges = {
     {.column = "f0 (Hz)", .lowest = 0.0},
     {.column = "Area (m²)", .lowest = 0.0},
     {.column = "fc (Hz)", .lowest = 0.0},
-};
-
-/// The columns of `table` in `file` but the number of the row.
-std::vector<std::string> LanguagesIn(SQLite::Database& database, const std::string& table) {
-  SQLite::Statement query(database, "SELECT name FROM pragma_table_info(?)");
-  query.bind(1, table);
-  std::vector<std::string> languages;
-  while (query.executeStep()) {
-    std::string name = query.getColumn(0).getString();
-    if (name != "Riga") languages.push_back(std::move(name));
-  }
-  return languages;
-}
-
-std::vector<storage::TableSchema> CatalogueTables(SQLite::Database& database) {
-  std::vector<storage::TableSchema> tables;
-  const std::vector<std::string> languages = LanguagesIn(database, "DRAV");
-  if (!languages.empty()) tables.push_back(storage::CatalogueTable(languages));
-  // Catalogues of older versions have no further texts: the shipped ones serve.
-  const std::vector<std::string> further = LanguagesIn(database, "Testi");
-  if (!further.empty()) tables.push_back(storage::FurtherTextTable(further));
-  return tables;
-}
-
-std::string TextOf(const storage::Cell& cell) {
-  const auto* text = std::get_if<std::string>(&cell);
-  return text == nullptr ? std::string() : *text;
-}
-
-/// The texts of the shipped catalogue for the rows of another one.
-class ShippedTexts {
- public:
-  ShippedTexts(const fs::path& shipped, const fs::path& own) {
-    own_rows_ = RowsOf(own, own);
-    shipped_rows_ = RowsOf(shipped, own);
-  }
-
-  std::string Text(const storage::TableSchema& table, std::size_t row, std::size_t column) const {
-    const auto& shipped = shipped_rows_.at(table.name);
-    if (table.key.empty())
-      return row < shipped.size() ? TextOf(shipped[row].cells.at(column)) : std::string();
-    const storage::Cell& number = own_rows_.at(table.name).at(row).cells.at(0);
-    for (const storage::StoredRow& candidate : shipped) {
-      if (candidate.cells.at(0) == number) return TextOf(candidate.cells.at(column));
-    }
-    return {};
-  }
-
- private:
-  using Rows = std::map<std::string, std::vector<storage::StoredRow>>;
-
-  /// The rows of `file` in the columns of `like`.
-  static Rows RowsOf(const fs::path& file, const fs::path& like) {
-    const auto tables =
-        storage::ReadDatabase(like, [](SQLite::Database& database) { return CatalogueTables(database); });
-    return storage::ReadDatabase(file, [&](SQLite::Database& database) {
-      Rows rows;
-      for (const storage::TableSchema& table : tables)
-        rows[table.name] = storage::TableRows(database, table).All();
-      return rows;
-    });
-  }
-
-  Rows own_rows_;
-  Rows shipped_rows_;
 };
 
 StoreProblem ProblemOf(DatabaseCondition condition) {
@@ -287,15 +216,9 @@ class Examination {
   storage::RowRules RulesOf(const std::string& name, const fs::path& file) const {
     if (name == storage::kMaterialDatabase) return {storage::MaterialTables(), kRanges, {}};
     if (name == storage::kResultDatabase) return {storage::ResultTables(), kRanges, {}};
-    storage::RowRules rules;
-    rules.tables =
-        storage::ReadDatabase(file, [](SQLite::Database& database) { return CatalogueTables(database); });
-    if (!repair_ || !places_.shipped) return rules;
-    const auto texts = std::make_shared<ShippedTexts>(*places_.shipped / name, file);
-    rules.shipped_text = [texts](const auto& table, std::size_t row, std::size_t column) {
-      return texts->Text(table, row, column);
-    };
-    return rules;
+    std::optional<fs::path> shipped;
+    if (repair_ && places_.shipped) shipped = *places_.shipped / name;
+    return storage::CatalogueRules(file, shipped);
   }
 
   void LookAtRows(const char* name) {
@@ -306,14 +229,12 @@ class Examination {
       if (repair_) Restore(name, storage::SetAside(file));
       return;
     }
-    const auto faults = storage::ReadDatabase(
-        file, [&](SQLite::Database& database) { return storage::FindRowFaults(database, rules); });
+    const auto faults = storage::FindRowFaults(file, rules);
     if (faults.empty()) return;
     for (const storage::RowFault& fault : faults) Found(ProblemOf(fault.problem), file, DetailOf(fault));
     if (!repair_) return;
     const fs::path copy = storage::KeepDatedCopy(file);
-    storage::ChangeDatabaseWith(file,
-                                [&](SQLite::Database& database) { storage::MendRows(database, rules); });
+    storage::MendRows(file, rules);
     for (auto finding = findings_.end() - static_cast<std::ptrdiff_t>(faults.size());
          finding != findings_.end(); ++finding) {
       finding->repaired = true;

@@ -1,6 +1,8 @@
 #include "calculation/airborne_wall_rating.h"
 
 #include <optional>
+#include <string>
+#include <utility>
 
 #include "acoustics/airborne_rating.h"
 #include "foundation/message_rows.h"
@@ -11,7 +13,14 @@ namespace velmar::calculation {
 
 bool AskToLeaveRange(const RunRequest& request, const acoustics::RangeLeft& range,
                      elements::ResultSet& result) {
-  if (!request.ask({{range.check}, {kGoOnRow}})) return false;
+  MessageLine question = {range.check};
+  // A check of a choice says all there is to say.
+  if (!range.unit.empty()) {
+    question.insert(question.end(), {std::string(" "), kThisElementRow, std::string(" ")});
+    for (MessagePiece& piece : acoustics::RangeText(range)) question.push_back(std::move(piece));
+    question.emplace_back(std::string("."));
+  }
+  if (!request.ask({std::move(question), {kGoOnRow}})) return false;
   result.ranges_left.push_back(range);
   return true;
 }

@@ -28,6 +28,7 @@ RunOutcome RunSeaLining(const RunRequest& request);
 RunOutcome RunGenericLining(const RunRequest& request);
 RunOutcome RunCompositeElement(const RunRequest& request);
 RunOutcome RunImpactFloor(const RunRequest& request);
+RunOutcome RunLayered(const RunRequest& request);
 
 /// The outcome of a calculation that something kept from running.
 RunOutcome Refused(Message message);
@@ -52,6 +53,7 @@ inline constexpr std::array kModelRuns = {
     ModelRun{elements::Model::kGenericLining, RunGenericLining},
     ModelRun{elements::Model::kCompositeElement, RunCompositeElement},
     ModelRun{elements::Model::kImpactFloor, RunImpactFloor},
+    ModelRun{elements::Model::kLayered, RunLayered},
 };
 
 }  // namespace velmar::calculation

@@ -22,7 +22,8 @@ constexpr std::array kGroups = {LayerGroup::kLeaf1,         LayerGroup::kLeaf2,
                                 LayerGroup::kSeaDamping1,   LayerGroup::kSeaDamping2,
                                 LayerGroup::kSeaCavityMass, LayerGroup::kSeaCavityDamping,
                                 LayerGroup::kCavity,        LayerGroup::kSeaCavityFibre,
-                                LayerGroup::kResilient};
+                                LayerGroup::kResilient,     LayerGroup::kStratumSolid,
+                                LayerGroup::kStratumFibre};
 
 /// Collects what differs; of one row or element the field that the others follow from stands first.
 class Differences {
@@ -30,8 +31,10 @@ class Differences {
   Differences(const Setup& before, const Setup& after) : before_(before), after_(after) {
     if (before.calculation != after.calculation) Add({StepKind::kCalculation});
     Counts();
+    Kinds(before.multilayer, after.multilayer);
     for (const LayerGroup group : kGroups) Rows(group);
     Cavities();
+    FreeLayers(before.multilayer, after.multilayer);
     Whole();
     Element(before.base, after.base, 0);
     for (std::size_t i = 0; i < before.facade.components.size(); ++i)
@@ -63,8 +66,13 @@ class Differences {
       const bool depth = step.field.field == Field::kCavityDepth ||
                          step.field.field == Field::kSeaCavityDepth ||
                          step.field.field == Field::kFibreThickness;
-      return depth || (step.field.group == first.field.group && step.field.index == first.field.index &&
-                       step.field.group.has_value());
+      // A row that becomes something else joins or parts cavities, each held as it was.
+      const bool joins =
+          first.field.field == Field::kStratumKind &&
+          (step.field.field == Field::kConnection || step.field.field == Field::kConnectionNumber);
+      return depth || joins ||
+             (step.field.group == first.field.group && step.field.index == first.field.index &&
+              step.field.group.has_value());
     }
     return step == first;
   }
@@ -79,6 +87,7 @@ class Differences {
     count(before_.resilient.count, after_.resilient.count, LayerGroup::kResilient);
     count(before_.sea_leaf1.count, after_.sea_leaf1.count, LayerGroup::kSeaLeaf1);
     count(before_.sea_leaf2.count, after_.sea_leaf2.count, LayerGroup::kSeaLeaf2);
+    count(before_.multilayer.count, after_.multilayer.count, LayerGroup::kStratumSolid);
     if (before_.facade.count_text != after_.facade.count_text)
       Add({StepKind::kCount, {.field = Field::kArea}});
   }
@@ -106,6 +115,32 @@ class Differences {
     AddIf(was.depth_text != is.depth_text, {Field::kCavityDepth});
     AddIf(before_.sea_cavity.type != after_.sea_cavity.type, {Field::kSeaCavityType});
     AddIf(before_.sea_cavity.depth_text != after_.sea_cavity.depth_text, {Field::kSeaCavityDepth});
+  }
+
+  // A row that becomes something else may bring a thickness along, and joins or parts cavities.
+  void Kinds(const elements::Multilayer& was, const elements::Multilayer& is) {
+    for (int i = 0; i < elements::Multilayer::kCapacity; ++i)
+      AddIf(Row(was, i).kind != Row(is, i).kind, {Field::kStratumKind, LayerGroup::kStratumSolid, i});
+  }
+
+  void FreeLayers(const elements::Multilayer& was, const elements::Multilayer& is) {
+    for (int i = 0; i < elements::Multilayer::kCapacity; ++i) {
+      const elements::Stratum& before = Row(was, i);
+      const elements::Stratum& after = Row(is, i);
+      const auto of_row = [&](bool differs, Field field) {
+        AddIf(differs, {field, LayerGroup::kStratumSolid, i});
+      };
+      of_row(before.thickness_text != after.thickness_text, Field::kStratumThickness);
+      of_row(before.connection != after.connection, Field::kConnection);
+      of_row(before.connection_text != after.connection_text, Field::kConnectionNumber);
+      of_row(before.profile_height_text != after.profile_height_text, Field::kProfileHeight);
+      of_row(before.profile_pitch_text != after.profile_pitch_text, Field::kProfilePitch);
+    }
+    AddIf(was.framed != is.framed, {Field::kTracks});
+  }
+
+  static const elements::Stratum& Row(const elements::Multilayer& list, int index) {
+    return list.strata.at(static_cast<std::size_t>(index));
   }
 
   void Whole() {
@@ -171,6 +206,9 @@ bool IsTyped(const Step& step) {
     case Field::kDecoupling:
     case Field::kSimplified:
     case Field::kTightness:
+    case Field::kStratumKind:
+    case Field::kConnection:
+    case Field::kTracks:
       return false;
     default:
       return true;
@@ -191,9 +229,9 @@ std::optional<Step> StepBetween(const Setup& before, const Setup& after) {
   return Differences(before, after).AsOne();
 }
 
-void History::Note(const Setup& before, const Setup& after) {
-  const std::optional<Step> step = StepBetween(before, after);
-  if (!step) return;
+void History::Note(const Setup& before, const Setup& after, const std::optional<Step>& named) {
+  if (before == after) return;
+  const std::optional<Step> step = named ? named : StepBetween(before, after);
   redone_from_.clear();
   const bool goes_on = open_ && !undone_from_.empty() && undone_from_.back().step == *step && IsTyped(*step);
   open_ = true;

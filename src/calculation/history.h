@@ -20,6 +20,25 @@ enum class StepKind {
   kInformation,  ///< the project's information
   kRequirement,  ///< the required rating
   kSeveral,      ///< more than one thing, as when a part is taken from a database
+
+  // What only the one who does it can name. `field` has the group and the row of a layer, or the number of a
+  // component in `index`.
+  kLayerInserted,
+  kLayerDuplicated,
+  kLayerRemoved,
+  kLayerMoved,
+  kLayersPasted,
+  kLeafMirrored,
+  kElementTurned,
+  kComponentAdded,
+  kComponentDuplicated,
+  kComponentRemoved,
+  kComponentMoved,
+  kVariantFixed,
+  kVariantRenamed,
+  kVariantMoved,
+  kVariantRemoved,
+  kVariantTaken,  ///< the set-up went back to a variant
 };
 
 /// A change of the set-up that is undone at once.
@@ -43,7 +62,9 @@ class History {
   static constexpr std::size_t kMostSteps = 1000;
 
   /// The set-up was `before` and is `after` now. What was undone cannot be redone any longer.
-  void Note(const elements::Setup& before, const elements::Setup& after);
+  /// @param named what was done, where that is more than the difference tells; it is a step of its own
+  void Note(const elements::Setup& before, const elements::Setup& after,
+            const std::optional<Step>& named = std::nullopt);
 
   /// The field is left: the next change is a step of its own.
   void EndStep() { open_ = false; }

@@ -94,6 +94,11 @@ std::optional<Refusal> LookAt(const elements::ResilientMaterial& slot, const ele
 
 std::optional<Refusal> LookAt(const Setup& setup, const elements::Layer& layer) {
   if (!layer.group) return std::nullopt;
+  // Its material was in no table when the row came into use.
+  if (layer.name.empty() && layer.density_kg_m3 == 0.0) {
+    return Refusal{{.field = Field::kMaterial, .group = layer.group, .index = layer.row},
+                   {kLayerWithoutMaterialRow, " " + std::to_string(layer.number) + "."}};
+  }
   switch (RowOf(*layer.group).family) {
     case elements::MaterialFamily::kStructural:
       return LookAt(StructuralRow(setup, *layer.group, layer.row).slot, layer);

@@ -52,7 +52,8 @@ bool IsLeaf(LayerGroup group) { return group == LayerGroup::kLeaf1 || group == L
 void FillStructural(const elements::StructuralRecord& record, LayerGroup group, StructuralMaterial& slot) {
   slot.name = record.values.name;
   slot.description = record.values.description;
-  CopyAll<S>(record, slot, IsLeaf(group) ? std::span<double S::*const>(kLeafFields) : kSeaFields);
+  const bool whole = IsLeaf(group) || group == LayerGroup::kStratumSolid;
+  CopyAll<S>(record, slot, whole ? std::span<double S::*const>(kLeafFields) : kSeaFields);
 }
 
 void FillFibrous(const elements::FibrousRecord& record, LayerGroup group, FibrousMaterial& slot) {
@@ -77,6 +78,16 @@ void FillResilient(const elements::ResilientRecord& record, ResilientMaterial& s
   slot.name = record.values.name;
   slot.description = record.values.description;
   CopyAll<R>(record, slot, kResilientFields);
+}
+
+/// Rs belongs to the thickness that the table names; the free list reads what does not depend on it.
+void TakeFlowResistivity(const elements::FibrousRecord& record, Setup& setup, LayerGroup group, int index) {
+  if (group != LayerGroup::kStratumFibre) return;
+  const FibrousMaterial& values = record.values;
+  const bool known = values.porous && values.thickness_mm > 0.0;
+  constexpr double kMetresPerMillimetre = 0.001;
+  setup.multilayer.strata.at(static_cast<std::size_t>(index)).flow_resistivity_pa_s_m2 =
+      known ? values.flow_resistance_pa_s_m / (values.thickness_mm * kMetresPerMillimetre) : 0.0;
 }
 
 /// The default thickness of the record goes to slot and box.
@@ -106,10 +117,12 @@ LayerRow<Material>& RowAt(elements::LayerTable<Material, N>& table, int index) {
 constexpr std::array kStructuralGroups = {LayerGroup::kLeaf1,         LayerGroup::kLeaf2,
                                           LayerGroup::kSeaLeaf1,      LayerGroup::kSeaLeaf2,
                                           LayerGroup::kSeaDamping1,   LayerGroup::kSeaDamping2,
-                                          LayerGroup::kSeaCavityMass, LayerGroup::kSeaCavityDamping};
+                                          LayerGroup::kSeaCavityMass, LayerGroup::kSeaCavityDamping,
+                                          LayerGroup::kStratumSolid};
 
 bool FillsEverySlot(LayerGroup group) {
-  return group == LayerGroup::kSeaCavityMass || group == LayerGroup::kSeaCavityDamping;
+  return group == LayerGroup::kSeaCavityMass || group == LayerGroup::kSeaCavityDamping ||
+         group == LayerGroup::kStratumSolid;
 }
 
 bool ReloadStructural(Setup& setup, LayerGroup group, int index, const elements::MaterialLookup& materials) {
@@ -127,6 +140,7 @@ bool ReloadFibrous(Setup& setup, LayerGroup group, int index, const elements::Ma
   const auto record = materials.fibrous(row.listed);
   if (!record) return false;
   FillFibrous(*record, group, row.slot);
+  TakeFlowResistivity(*record, setup, group, index);
   TakeThicknessOfBox(row);
   return true;
 }
@@ -206,6 +220,7 @@ bool ChooseFibrous(Setup& setup, LayerGroup group, int index, const std::string&
   LayerRow<FibrousMaterial>& row = FibrousRow(setup, group, index);
   row.listed = record->values.name;
   FillFibrous(*record, group, row.slot);
+  TakeFlowResistivity(*record, setup, group, index);
   TakeDefaultThickness(*record, row);
   return true;
 }
@@ -237,11 +252,13 @@ void SelectFirstStructural(Setup& setup, const elements::StructuralRecord& recor
 }
 
 void SelectFirstFibrous(Setup& setup, const elements::FibrousRecord& record) {
-  for (const LayerGroup group : {LayerGroup::kCavity, LayerGroup::kSeaCavityFibre}) {
+  for (const LayerGroup group :
+       {LayerGroup::kCavity, LayerGroup::kSeaCavityFibre, LayerGroup::kStratumFibre}) {
     for (int i = 0; i < RowOf(group).capacity; ++i) {
       LayerRow<FibrousMaterial>& row = FibrousRow(setup, group, i);
       Show(record, row);
       FillFibrous(record, group, row.slot);
+      TakeFlowResistivity(record, setup, group, i);
       TakeThicknessOfBox(row);
     }
   }
@@ -274,7 +291,8 @@ void LoadRowsInUse(Setup& setup, const elements::MaterialLookup& tables) {
                                   LayerGroup::kSeaDamping1,   LayerGroup::kSeaDamping2,
                                   LayerGroup::kSeaCavityMass, LayerGroup::kSeaCavityDamping,
                                   LayerGroup::kCavity,        LayerGroup::kSeaCavityFibre,
-                                  LayerGroup::kResilient};
+                                  LayerGroup::kResilient,     LayerGroup::kStratumSolid,
+                                  LayerGroup::kStratumFibre};
   for (const LayerGroup group : kGroups) {
     for (int i = 0; i < RowsInUse(setup, group); ++i) {
       if (IsTicked(setup, group, i)) LoadRow(setup, group, i, materials);

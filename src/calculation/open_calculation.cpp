@@ -3,6 +3,16 @@
 #include <type_traits>
 
 namespace velmar::calculation {
+namespace {
+
+/// Whether the two differ at most in what no result depends on.
+bool HaveTheSameResult(elements::Setup one, const elements::Setup& other) {
+  one.information = other.information;
+  one.further = other.further;
+  return one == other;
+}
+
+}  // namespace
 
 /// `setup` with its totals takes the place of the old ones, or nothing changes.
 void OpenCalculation::Put(elements::Setup setup) {
@@ -11,22 +21,24 @@ void OpenCalculation::Put(elements::Setup setup) {
   setup_ = std::move(setup);
 }
 
-void OpenCalculation::Take(elements::Setup changed, bool keep_result) {
-  history_.Note(setup_, changed);
+void OpenCalculation::Take(elements::Setup changed, bool keep_result, const std::optional<Step>& named) {
+  history_.Note(setup_, changed, named);
   Put(std::move(changed));
   AfterChange(keep_result);
 }
 
+void OpenCalculation::GoTo(elements::Setup setup) {
+  const bool keep_result = HaveTheSameResult(setup_, setup);
+  Put(std::move(setup));
+  AfterChange(keep_result);
+}
+
 void OpenCalculation::Undo() {
-  if (!history_.ToUndo()) return;
-  Put(history_.Undo(setup_));
-  AfterChange(/*keep_result=*/false);
+  if (history_.ToUndo()) GoTo(history_.Undo(setup_));
 }
 
 void OpenCalculation::Redo() {
-  if (!history_.ToRedo()) return;
-  Put(history_.Redo(setup_));
-  AfterChange(/*keep_result=*/false);
+  if (history_.ToRedo()) GoTo(history_.Redo(setup_));
 }
 
 void OpenCalculation::AfterChange(bool keep_result) {

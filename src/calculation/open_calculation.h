@@ -26,20 +26,23 @@ class OpenCalculation {
 
   /// The way to change the set-up. Drops the result (`Nuovo_modifica`(1)), then tells the listener. A change
   /// that throws leaves everything as it was and tells nobody.
+  /// @param named what is done, where that is more than the difference tells
   template <typename Change>
-  void Edit(Change&& change) {
-    Take(Changed(std::forward<Change>(change)), /*keep_result=*/false);
+  void Edit(Change&& change, const std::optional<Step>& named = std::nullopt) {
+    Take(Changed(std::forward<Change>(change)), /*keep_result=*/false, named);
   }
 
-  /// The exception: what no result depends on, the project's information and the description of an element.
+  /// The exception: what no result depends on, the project's information, the description of an element and
+  /// what the project holds beyond its calculation.
   template <typename Change>
-  void EditKeepingResult(Change&& change) {
-    Take(Changed(std::forward<Change>(change)), /*keep_result=*/true);
+  void EditKeepingResult(Change&& change, const std::optional<Step>& named = std::nullopt) {
+    Take(Changed(std::forward<Change>(change)), /*keep_result=*/true, named);
   }
 
   /// The steps back and forth through what the set-up has been since the project was begun or opened.
   const History& Steps() const { return history_; }
-  /// Takes the last step back, or does the one taken back again; nothing where there is none.
+  /// Takes the last step back, or does the one taken back again; nothing where there is none. The result
+  /// goes, unless the step was about what no result depends on.
   void Undo();
   void Redo();
   /// The field that was edited is left: the next change is a step of its own.
@@ -75,7 +78,8 @@ class OpenCalculation {
     return setup;
   }
   void Put(elements::Setup setup);
-  void Take(elements::Setup changed, bool keep_result);
+  void Take(elements::Setup changed, bool keep_result, const std::optional<Step>& named);
+  void GoTo(elements::Setup setup);
   void AfterChange(bool keep_result);
   void Tell();
 

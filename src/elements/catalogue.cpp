@@ -196,6 +196,18 @@ constexpr Construction ImpactFloor(ImpactFloorVariant variant) {
           .file = FilePart::kFloor};
 }
 
+constexpr Construction kFreeLayers = {
+    .family = Family::kMultilayer,
+    .orientation = Orientation::kMultilayer,
+    .model = Model::kLayered,
+    .button = ElementButton::kDoubleWall,
+    .stacks = {Stack::kMultilayer},
+    .reads =
+        kSize.With({Field::kStratumKind, Field::kStratumThickness, Field::kConnection,
+                    Field::kConnectionNumber, Field::kProfileHeight, Field::kProfilePitch, Field::kTracks}),
+    .defaults = {.width = "3,6", .height = "2,8"},
+    .file = FilePart::kMultilayer};
+
 // --- The labels.
 
 constexpr std::string_view kSea = "SEA";
@@ -285,6 +297,7 @@ constexpr std::array<CalculationRow, kCalculationCount> kCatalogue = {{
     By(24, std::nullopt, kImpactLightweightConcrete, ImpactFloor(ImpactFloorVariant::kLightweightConcrete), "Solaio in calcestruzzo alleggerito", RowAndColon(kLightweightConcreteFloorRow), {kImpactMenu, 1}),
     By(25, std::nullopt, kImpactHollowBrickConcrete, ImpactFloor(ImpactFloorVariant::kHollowBlock), "Solaio in laterocemento Lnw", RowAndColon(kHollowBrickImpactFloorRow), {kImpactMenu, 2}),
     By(26, std::nullopt, kImpactHollowBrickConcreteGavelo, ImpactFloor(ImpactFloorVariant::kHollowBlockFixedLevel), "Solaio in laterocemento gavelo", RowAndColon(kHollowBrickGaveloFloorRow), {kImpactMenu, 3}),
+    Of(kMultilayerGeneric, kFreeLayers, "Multistrato generico", Row(kTransferMatrixTheoryRow), Row(kMultilayerRow), {"MULTISTRATO", 0}),
 }};
 // clang-format on
 
@@ -321,6 +334,7 @@ constexpr bool FitsItsModel(const CalculationRow& row) {
       return row.form.index() == 0;
     case Model::kSingleSeaWall:
     case Model::kCompositeElement:
+    case Model::kLayered:
       return row.form.index() == 0 && !row.relation;
     case Model::kLightDoubleWall:
       return std::holds_alternative<LightWallForm>(row.form) && !row.relation;
@@ -351,15 +365,17 @@ struct FamilyRow {
   std::string_view text{};
   FilePart file{};
 };
-constexpr std::array<FamilyRow, 9> kFamilies = {{{Family::kSingle, "SINGOLA", FilePart::kSingle},
-                                                 {Family::kSeaSingle, "SEA SINGOLO", FilePart::kSeaSingle},
-                                                 {Family::kDouble, "DOPPIA", FilePart::kDoubleWall},
-                                                 {Family::kSharp, "SHARP", FilePart::kDoubleWall},
-                                                 {Family::kSea, "SEA", FilePart::kSeaDouble},
-                                                 {Family::kLining, "CONTROPLACCAGGIO", FilePart::kLining},
-                                                 {Family::kCeiling, "CONTROSOFFITTO", FilePart::kLining},
-                                                 {Family::kFacade, "FACCIATA", FilePart::kFacade},
-                                                 {Family::kImpact, "CALPESTIO", FilePart::kFloor}}};
+constexpr std::array<FamilyRow, 10> kFamilies = {
+    {{Family::kSingle, "SINGOLA", FilePart::kSingle},
+     {Family::kSeaSingle, "SEA SINGOLO", FilePart::kSeaSingle},
+     {Family::kDouble, "DOPPIA", FilePart::kDoubleWall},
+     {Family::kSharp, "SHARP", FilePart::kDoubleWall},
+     {Family::kSea, "SEA", FilePart::kSeaDouble},
+     {Family::kLining, "CONTROPLACCAGGIO", FilePart::kLining},
+     {Family::kCeiling, "CONTROSOFFITTO", FilePart::kLining},
+     {Family::kFacade, "FACCIATA", FilePart::kFacade},
+     {Family::kImpact, "CALPESTIO", FilePart::kFloor},
+     {Family::kMultilayer, "MULTISTRATO", FilePart::kMultilayer}}};
 
 constexpr const FamilyRow& RowOf(Family family) { return kFamilies.at(static_cast<std::size_t>(family)); }
 
@@ -367,9 +383,9 @@ static_assert(std::ranges::all_of(kCatalogue, [](const CalculationRow& row) {
   return RowOf(row.family).family == row.family;
 }));
 
-constexpr std::array<std::string_view, 7> kOrientationTexts = {
+constexpr std::array<std::string_view, 8> kOrientationTexts = {
     "verticale singola", "verticale doppia", "orizzontale singola", "orizzontale doppia",
-    "CONTROPLACCAGGIO",  "CONTROSOFFITTO",   "Parete composta"};
+    "CONTROPLACCAGGIO",  "CONTROSOFFITTO",   "Parete composta",     "verticale multistrato"};
 
 }  // namespace
 

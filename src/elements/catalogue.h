@@ -63,10 +63,22 @@ enum class Calculation {
   kImpactLightweightConcrete,
   kImpactHollowBrickConcrete,
   kImpactHollowBrickConcreteGavelo,
+  kMultilayerGeneric,
 };
-inline constexpr std::size_t kCalculationCount = 47;
+inline constexpr std::size_t kCalculationCount = 48;
 
-enum class Family { kSingle, kSeaSingle, kDouble, kSharp, kSea, kLining, kCeiling, kFacade, kImpact };
+enum class Family {
+  kSingle,
+  kSeaSingle,
+  kDouble,
+  kSharp,
+  kSea,
+  kLining,
+  kCeiling,
+  kFacade,
+  kImpact,
+  kMultilayer,
+};
 
 enum class Orientation {
   kVerticalSingle,
@@ -76,6 +88,7 @@ enum class Orientation {
   kLining,
   kCeiling,
   kComposite,
+  kMultilayer,
 };
 
 /// The physical model that a calculation runs.
@@ -90,9 +103,10 @@ enum class Model {
   kGenericLining,
   kCompositeElement,
   kImpactFloor,
+  kLayered,
 };
 
-inline constexpr std::size_t kModelCount = 10;
+inline constexpr std::size_t kModelCount = 11;
 
 /// What a model tells apart by itself; nothing where it knows one construction alone.
 using ModelForm = std::variant<std::monostate, acoustics::LightWallForm, acoustics::SeaConnectionKind,
@@ -109,8 +123,9 @@ enum class Stack {
   kSeaLeaf1,
   kSeaLeaf2,  ///< the second side, or the lining
   kSeaCavity,
+  kMultilayer,  ///< a free list of layers: leaves and cavities in turn
 };
-inline constexpr int kStackCount = 9;
+inline constexpr int kStackCount = 10;
 
 /// The stacks of an element, up to three.
 class Stacks {
@@ -158,7 +173,16 @@ struct Defaults {
 };
 
 /// The shapes of what follows the common part of a project file.
-enum class FilePart { kSingle, kSeaSingle, kSeaDouble, kDoubleWall, kFloor, kLining, kFacade };
+enum class FilePart {
+  kSingle,
+  kSeaSingle,
+  kSeaDouble,
+  kDoubleWall,
+  kFloor,
+  kLining,
+  kFacade,
+  kMultilayer,
+};
 
 /// What stands in the closing lines of a double wall's file part.
 enum class ClosingLines {

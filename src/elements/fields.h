@@ -49,6 +49,16 @@ enum class Field {
 
   kBaseThickness,  ///< of the wall or floor under a lining
   kSimplified,     ///< `Check2`
+
+  // Of a row of a free list of layers.
+  kStratumKind,       ///< `ComboTipoStrato`
+  kStratumThickness,  ///< `TextSpessoreStrato`
+  kConnection,        ///< `ComboCollegamento`
+  kConnectionNumber,  ///< `TextCollegamento`
+  kProfileHeight,     ///< `TextAltezzaGreca`
+  kProfilePitch,      ///< `TextPassoGreca`
+
+  kTracks,  ///< `CheckGuide`
 };
 
 /// A set of fields.
@@ -78,8 +88,9 @@ class FieldSet {
 struct FieldId {
   Field field{};
   std::optional<LayerGroup> group{};  ///< of a layer row
-  int index = 0;                      ///< the layer row, from 0; or 0 the base element, 1 to 9 a component
-  int band = 0;                       ///< of Field::kBand, from 0
+  int index = 0;  ///< the layer row, from 0; of a list of layers, from 0; or 0 the base element,
+                  ///< 1 to 9 a component
+  int band = 0;   ///< of Field::kBand, from 0
 
   bool operator==(const FieldId&) const = default;
 };

@@ -10,7 +10,7 @@ namespace {
 using enum LayerGroup;
 using T = MaterialFamily;
 
-constexpr std::array<LayerGroupRow, 11> kGroups = {{
+constexpr std::array<LayerGroupRow, 13> kGroups = {{
     {kLeaf1, "Parete 1", T::kStructural, 10, "Combo3", "Text5", "Command1"},
     {kLeaf2, "Parete 2", T::kStructural, 10, "Combo4", "Text6", "Command7"},
     {kSeaLeaf1, "Parete 1 normale SEA", T::kStructural, 3, "ComboMatNormaleSEA1", "TextSpessoreMatSEA1",
@@ -29,6 +29,10 @@ constexpr std::array<LayerGroupRow, 11> kGroups = {{
     {kSeaCavityFibre, "Intercapedine fibra SEA", T::kFibrous, 3, "ComboMatFibraIntercSEA",
      "TextSpessoreMatFibraIntercSEA", "CommandMatFibraIntercSEA"},
     {kResilient, "Mat. resiliente", T::kResilient, 10, "Combo11", "Text10", "Command9"},
+    {kStratumSolid, "Strato multistrato", T::kStructural, Multilayer::kCapacity, "ComboMatStrato",
+     "TextSpessoreMatStrato", "CommandMatStrato"},
+    {kStratumFibre, "Riempimento multistrato", T::kFibrous, Multilayer::kCapacity, "ComboFibraStrato",
+     "TextSpessoreFibraStrato", "CommandFibraStrato"},
 }};
 
 // One body for the mutable and the const door.
@@ -52,6 +56,8 @@ auto& AnyStructuralRow(AnySetup& setup, LayerGroup group, int index) {
       return setup.sea_cavity.masses.at(i);
     case kSeaCavityDamping:
       return setup.sea_cavity.mass_damping.at(i).row;
+    case kStratumSolid:
+      return setup.multilayer.strata.at(i).solid;
     default:
       throw std::out_of_range("no structural layer group");
   }
@@ -65,6 +71,8 @@ auto& AnyFibrousRow(AnySetup& setup, LayerGroup group, int index) {
       return setup.cavity.layers.rows.at(i);
     case kSeaCavityFibre:
       return setup.sea_cavity.fibres.at(i);
+    case kStratumFibre:
+      return setup.multilayer.strata.at(i).fibre;
     default:
       throw std::out_of_range("no fibrous layer group");
   }
@@ -104,6 +112,9 @@ int RowsInUse(const Setup& setup, LayerGroup group) {
       return MassCount(setup.sea_cavity.type);
     case kSeaCavityFibre:
       return FibreCount(setup.sea_cavity.type);
+    case kStratumSolid:
+    case kStratumFibre:
+      return setup.multilayer.Count();
   }
   return 0;
 }

@@ -20,6 +20,8 @@ enum class LayerGroup {
   kCavity,
   kSeaCavityFibre,
   kResilient,
+  kStratumSolid,
+  kStratumFibre,
 };
 
 /// The table that a group takes its materials from.

@@ -97,6 +97,50 @@ Part ComponentsOf(const Facade& facade) {
   return part;
 }
 
+/// Trade names, the same in every language.
+constexpr const char* kInterlayerName = "PVB";
+constexpr const char* kAcousticInterlayerName = "PVB acustico";
+constexpr double kInterlayerDensity = 1070.0;
+
+Layer SolidStratum(const Stratum& stratum, int index) {
+  Layer layer = LayerOf(stratum.solid, LayerGroup::kStratumSolid, index);
+  if (stratum.kind == StratumKind::kProfiledSheet) {
+    layer.mass_kg_m2 *=
+        DevelopedRatio(NumberIn(stratum.profile_height_text), NumberIn(stratum.profile_pitch_text));
+  }
+  return layer;
+}
+
+Layer Interlayer(const Stratum& stratum, int index) {
+  const double thickness_mm = NumberIn(stratum.thickness_text);
+  return {.group = LayerGroup::kStratumSolid,
+          .row = index,
+          .name = stratum.kind == StratumKind::kInterlayer ? kInterlayerName : kAcousticInterlayerName,
+          .thickness_mm = thickness_mm,
+          .density_kg_m3 = kInterlayerDensity,
+          .mass_kg_m2 = kInterlayerDensity * thickness_mm / 1000.0};
+}
+
+Layer StratumLayer(const Stratum& stratum, int index) {
+  Layer layer = TakesSolid(stratum.kind) ? SolidStratum(stratum, index)
+                : stratum.kind == StratumKind::kFibre
+                    ? LayerOf(stratum.fibre, LayerGroup::kStratumFibre, index)
+                    : Interlayer(stratum, index);
+  layer.stratum = stratum.kind;
+  return layer;
+}
+
+Part CavityPart(const Stratum& stratum, int index) {
+  Part part{.stack = Stack::kCavity, .stratum = index};
+  if (stratum.kind == StratumKind::kAir) {
+    part.depth_mm = NumberIn(stratum.thickness_text);
+    return part;
+  }
+  part.layers = {StratumLayer(stratum, index)};
+  part.depth_mm = part.ThicknessMm();
+  return part;
+}
+
 }  // namespace
 
 bool Layer::IsDamping() const {
@@ -112,6 +156,22 @@ double Part::MassKgM2() const {
 double Part::ThicknessMm() const {
   return std::accumulate(layers.begin(), layers.end(), 0.0,
                          [](double sum, const Layer& layer) { return sum + layer.ThicknessOfSheets(); });
+}
+
+std::vector<Part> PartsOfList(const Multilayer& list) {
+  std::vector<Part> parts;
+  int leaf = 0;
+  for (int i = 0; i < list.Count(); ++i) {
+    const Stratum& stratum = list.strata.at(static_cast<std::size_t>(i));
+    if (IsBetweenLeaves(stratum.kind)) {
+      parts.push_back(CavityPart(stratum, i));
+      continue;
+    }
+    if (parts.empty() || parts.back().depth_mm)
+      parts.push_back({.stack = Stack::kMultilayer, .leaf = ++leaf});
+    parts.back().layers.push_back(StratumLayer(stratum, i));
+  }
+  return parts;
 }
 
 Part PartOf(const Setup& setup, Stack stack) {
@@ -138,6 +198,13 @@ Part PartOf(const Setup& setup, Stack stack) {
       return BaseOf(setup);
     case Stack::kComponents:
       return ComponentsOf(setup.facade);
+    case Stack::kMultilayer: {
+      Part all{.stack = stack};
+      for (const Part& part : PartsOfList(setup.multilayer)) {
+        all.layers.insert(all.layers.end(), part.layers.begin(), part.layers.end());
+      }
+      return all;
+    }
   }
   return {};
 }
@@ -147,7 +214,13 @@ std::vector<Part> PartsOf(const Setup& setup) {
   if (!setup.calculation) return parts;
   int number = 0;
   for (const Stack stack : RowOf(*setup.calculation).stacks) {
-    Part& part = parts.emplace_back(PartOf(setup, stack));
+    if (stack == Stack::kMultilayer) {
+      parts = PartsOfList(setup.multilayer);
+    } else {
+      parts.push_back(PartOf(setup, stack));
+    }
+  }
+  for (Part& part : parts) {
     for (Layer& layer : part.layers) layer.number = ++number;
   }
   return parts;

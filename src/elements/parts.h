@@ -20,6 +20,8 @@ struct Layer {
   int sheets = 1;
   double density_kg_m3 = 0.0;  ///< 0 for the base element and components
   double mass_kg_m2 = 0.0;     ///< of all sheets
+  /// Of a row of a free list of layers: what it is there.
+  std::optional<StratumKind> stratum{};
 
   double ThicknessOfSheets() const { return thickness_mm * sheets; }
   /// Whether the layer is a damping sheet, which takes a tick to be there.
@@ -35,6 +37,8 @@ struct Part {
   /// Of a cavity of a double wall that is filled with fibre: the thickness of the fibre, which is the whole
   /// depth where the calculation does not read a thickness of its own.
   std::optional<double> fibre_mm{};
+  int leaf = 0;      ///< of a free list of layers: number of the leaf, from 1; 0 for every other part
+  int stratum = -1;  ///< of a cavity in a free list of layers: its row; -1 for every other part
 
   /// Surface mass of the layers, kg/m².
   double MassKgM2() const;
@@ -56,6 +60,9 @@ std::vector<Part> PartsOf(const Setup& setup);
 /// The same parts and numbers as the element stands: a floor with its finish first and the ceiling's plaster
 /// last, all else as it is calculated. The one order of drawings, pages, reports and lists.
 std::vector<Part> PartsAsTheyStand(const Setup& setup);
+
+/// The leaves and cavities of a free list of layers, each row of a cavity a part of its own.
+std::vector<Part> PartsOfList(const Multilayer& list);
 
 /// One stack of `setup`, whatever the calculation; its layers have no number.
 Part PartOf(const Setup& setup, Stack stack);

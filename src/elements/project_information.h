@@ -4,7 +4,7 @@
 #include <cstddef>
 #include <string>
 
-#include "foundation/message_rows.h"
+#include "foundation/catalogue_rows.h"
 
 namespace velmar::elements {
 

@@ -8,6 +8,7 @@
 #include "elements/catalogue.h"
 #include "elements/keyed_values.h"
 #include "elements/layers.h"
+#include "elements/multilayer.h"
 #include "elements/project_information.h"
 
 namespace velmar::elements {
@@ -90,6 +91,7 @@ struct Setup {
 
   BaseElement base{};
   Facade facade{};
+  Multilayer multilayer{};
 
   KeyedValues further{};  ///< what else the project holds; of no account for the calculation
 

@@ -28,7 +28,7 @@ constexpr double kScreedMass = 100.0;  // kg/m²
 double Resonance(double stiffness) { return 160.0 * std::sqrt(stiffness / kScreedMass); }
 
 double Improvement(double stiffness) {
-  return stiffness > 0.0 ? 18.3 - 15.0 * acoustics::Log10(stiffness) : HUGE_VAL;
+  return stiffness > 0.0 ? 18.3 - 15.0 * acoustics::Log10(stiffness / kScreedMass) : HUGE_VAL;
 }
 
 void FillStiffness(ResilientBoxes& boxes, double stiffness) {
@@ -81,7 +81,7 @@ ResilientBoxes CoupleResilient(ResilientBoxes boxes, ResilientBox left) {
     }
   } else if (left == ResilientBox::kImprovement) {
     if (const auto improvement = value_of(boxes.impact_improvement_db)) {
-      const double stiffness = std::pow(10.0, -(*improvement - 18.3) / 15.0);
+      const double stiffness = kScreedMass * std::pow(10.0, -(*improvement - 18.3) / 15.0);
       FillStiffness(boxes, stiffness);
       FillResonance(boxes, stiffness);
     }
@@ -91,6 +91,12 @@ ResilientBoxes CoupleResilient(ResilientBoxes boxes, ResilientBox left) {
     FillImprovement(boxes, stiffness);
   }
   return boxes;
+}
+
+std::string StandardImprovement(const std::string& dynamic_stiffness_mn_m3) {
+  const std::optional<double> stiffness = ParseDecimal(dynamic_stiffness_mn_m3);
+  if (!stiffness || !(*stiffness > 0.0)) return {};
+  return FormatFixed(13.0 * std::log10(kScreedMass) - 14.2 * std::log10(*stiffness) + 20.8, 1);
 }
 
 }  // namespace velmar::materials

@@ -31,9 +31,13 @@ struct ResilientBoxes {
 };
 enum class ResilientBox { kStiffness, kImprovement, kResonance };
 
-/// The boxes after the focus left `left`: the other two follow from it for a floating screed of 100 kg/m²
-/// (EN 29052-1, EN 12354-2). A text that is no number, a negative one, and a value that leads to none leave
-/// the others alone.
+/// The boxes after the focus left `left`: the other two follow from it for a floating screed of M = 100
+/// kg/m²: f0 = 160 sqrt(s' / M) (EN 29052-1) and Delta Ln,w = 18.3 - 15 lg(s' / M). A text that is no number,
+/// a negative one, and a value that leads to none leave the others alone.
 ResilientBoxes CoupleResilient(ResilientBoxes boxes, ResilientBox left);
+
+/// Delta Lw in dB, with one decimal, of a cement screed of 100 kg/m² on a layer of that stiffness after EN
+/// ISO 12354-2, Annex C: 13 lg m' - 14.2 lg s' + 20.8. Empty for a text that is no positive number.
+std::string StandardImprovement(const std::string& dynamic_stiffness_mn_m3);
 
 }  // namespace velmar::materials

@@ -8,6 +8,7 @@
 #include "foundation/decimal.h"
 #include "foundation/message_rows.h"
 #include "materials/coupled_boxes.h"
+#include "materials/judged_values.h"
 #include "storage/materials/material_store.h"
 
 namespace velmar::materials {
@@ -27,7 +28,8 @@ std::string FirstLine(const std::string& text) {
 
 template <typename Entry>
 void Clean(Entry& entry, const KeywordTexts& texts) {
-  for (std::string* text : {&entry.name, &entry.description, &entry.keyword}) *text = FirstLine(*text);
+  for (std::string* text : {&entry.name, &entry.description, &entry.keyword, &entry.source})
+    *text = FirstLine(*text);
   if (entry.keyword.empty()) entry.keyword = texts.not_specified;
 }
 
@@ -98,12 +100,26 @@ std::optional<EntryRefusal> TakeAbsorption(const FibrousEntry& entry, FibrousMat
   return std::nullopt;
 }
 
+/// The refusal that names every impossible value and leads to the first, or nothing.
+template <typename Material>
+std::optional<EntryRefusal> Impossible(const storage::MaterialRow<Material>& row) {
+  const auto findings = elements::Only(elements::FindingsOf(row.record), elements::Plausibility::kImpossible);
+  auto message = ImpossibleValues(findings);
+  if (!message) return std::nullopt;
+  return EntryRefusal{*std::move(message), BoxOf(findings.front().kind, findings.front().property)};
+}
+
 template <typename Material>
 std::string TextOf(const storage::MaterialRow<Material>& row, double Material::*field) {
   return row.record.Holds(field) ? FormatShortest(row.record.values.*field) : std::string();
 }
 
 }  // namespace
+
+std::string WithComputation(const std::string& source, const std::string& computation) {
+  if (source.empty() || computation.empty()) return source + computation;
+  return source + "; " + computation;
+}
 
 std::variant<storage::StructuralRow, EntryRefusal> RowOf(StructuralEntry entry, const KeywordTexts& texts) {
   using M = StructuralMaterial;
@@ -127,8 +143,10 @@ std::variant<storage::StructuralRow, EntryRefusal> RowOf(StructuralEntry entry, 
                                     row.record.values)) {
     return *std::move(refusal);
   }
+  row.source = entry.source;
   row.record.nulls = {&M::thermal_conductivity_w_mk, &M::thermal_conductance_w_m2k,
                       &M::vapour_permeability_dry, &M::vapour_permeability_wet, &M::thermal_resistance_m2k_w};
+  if (auto refusal = Impossible(row)) return *std::move(refusal);
   return row;
 }
 
@@ -160,12 +178,14 @@ std::variant<storage::FibrousRow, EntryRefusal> RowOf(FibrousEntry entry, const 
                              material);
   }
   if (refusal) return *std::move(refusal);
+  row.source = entry.porous ? WithComputation(entry.source, entry.computation) : entry.source;
   // The columns of the other kind are emptied.
   if (entry.porous) {
     row.record.nulls = {&M::youngs_modulus_gpa, &M::loss_factor, &M::poissons_ratio};
   } else {
     row.record.nulls = {&M::flow_resistance_pa_s_m};
   }
+  if (auto impossible = Impossible(row)) return *std::move(impossible);
   return row;
 }
 
@@ -201,8 +221,10 @@ std::variant<storage::ResilientRow, EntryRefusal> RowOf(ResilientEntry entry, co
                            {entry.density, &M::density_kg_m3, "Text7"}})) {
     return *std::move(refusal);
   }
+  row.source = entry.source;
   if (boxes.impact_improvement_db.empty()) row.record.nulls.push_back(&M::impact_improvement_db);
   if (boxes.resonance_frequency_hz.empty()) row.record.nulls.push_back(&M::resonance_frequency_hz);
+  if (auto refusal = Impossible(row)) return *std::move(refusal);
   return row;
 }
 
@@ -217,7 +239,8 @@ StructuralEntry EntryOf(const storage::StructuralRow& row) {
           TextOf(row, &M::critical_frequency_hz),
           TextOf(row, &M::loss_factor),
           TextOf(row, &M::poissons_ratio),
-          row.keyword};
+          row.keyword,
+          row.source};
 }
 
 FibrousEntry EntryOf(const storage::FibrousRow& row) {
@@ -232,6 +255,8 @@ FibrousEntry EntryOf(const storage::FibrousRow& row) {
                      TextOf(row, &M::loss_factor),
                      TextOf(row, &M::poissons_ratio),
                      TextOf(row, &M::flow_resistance_pa_s_m),
+                     {},
+                     row.source,
                      {}};
   for (std::size_t band = 0; band < entry.absorption.size(); ++band) {
     const float value = row.record.values.absorption.at(band);
@@ -249,7 +274,8 @@ ResilientEntry EntryOf(const storage::ResilientRow& row) {
           TextOf(row, &M::impact_improvement_db),
           TextOf(row, &M::resonance_frequency_hz),
           TextOf(row, &M::thickness_mm),
-          TextOf(row, &M::density_kg_m3)};
+          TextOf(row, &M::density_kg_m3),
+          row.source};
 }
 
 }  // namespace velmar::materials

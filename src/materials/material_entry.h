@@ -6,7 +6,7 @@
 
 #include "elements/materials.h"
 #include "foundation/message.h"
-#include "foundation/message_rows.h"
+#include "foundation/catalogue_rows.h"
 #include "materials/keywords.h"
 #include "storage/materials/material_row.h"
 
@@ -24,6 +24,7 @@ struct StructuralEntry {
   std::string loss_factor{};         ///< `Text8`
   std::string poissons_ratio{};      ///< `Text9`; empty is 0
   std::string keyword{};             ///< `Text10`; empty is kNotSpecifiedRow
+  std::string source{};              ///< `TextFonte`
 
   bool operator==(const StructuralEntry&) const = default;
 };
@@ -41,6 +42,8 @@ struct FibrousEntry {
   std::string poissons_ratio{};             ///< `Text13`; not of a porous one; empty is 0
   std::string flow_resistance = "4000";     ///< `Text14`, Pa s/m; of a porous one
   std::array<std::string, elements::kAbsorptionBandCount> absorption{};  ///< `TextAlfa`; of a porous one
+  std::string source{};                                                  ///< `TextFonte`
+  std::string computation{};  ///< what was computed and how, for the source; in no box
 
   bool operator==(const FibrousEntry&) const = default;
 };
@@ -55,6 +58,7 @@ struct ResilientEntry {
   std::string resonance{};                  ///< `Text5`, f0, Hz
   std::string thickness{};                  ///< `Text6`, mm
   std::string density{};                    ///< `Text7`, kg/m³; empty is 0
+  std::string source{};                     ///< `TextFonte`
 
   bool operator==(const ResilientEntry&) const = default;
 };
@@ -65,15 +69,20 @@ struct EntryRefusal {
   std::string box{};  ///< control that takes the focus, such as "Text1"; empty for none
 };
 
-/// The row that an entry stands for; what an editor does not show (thermal values, picture, source) is empty.
-/// Decimal comma or point. Name, description and keyword end at their first line break.
+/// The row that an entry stands for; what an editor does not show (thermal values, picture) is empty. The
+/// source is what was typed, followed by what was computed. Decimal comma or point. Name, description,
+/// keyword and source end at their first line break.
 ///
 /// An entry is refused when its name is empty, when a value it needs is missing (all missing ones are named),
-/// when a value is no number, and when an absorption coefficient is not from 0 to 1.5: measured ones may
-/// exceed 1. A resilient material needs one of s', Delta Ln,w and f0; s' follows from the others.
+/// when a value is no number, when one is impossible (elements::Judge()), and when an absorption coefficient
+/// is not from 0 to 1.5: measured ones may exceed 1. A resilient material needs one of s', Delta Ln,w and f0;
+/// s' follows from the others.
 std::variant<storage::StructuralRow, EntryRefusal> RowOf(StructuralEntry entry, const KeywordTexts& texts);
 std::variant<storage::FibrousRow, EntryRefusal> RowOf(FibrousEntry entry, const KeywordTexts& texts);
 std::variant<storage::ResilientRow, EntryRefusal> RowOf(ResilientEntry entry, const KeywordTexts& texts);
+
+/// `source`, and behind it what was computed.
+std::string WithComputation(const std::string& source, const std::string& computation);
 
 /// The entry that shows `row`: null is empty, numbers have a decimal comma.
 StructuralEntry EntryOf(const storage::StructuralRow& row);

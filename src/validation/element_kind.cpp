@@ -6,6 +6,7 @@
 #include <optional>
 #include <vector>
 
+#include "elements/parts.h"
 #include "foundation/decimal.h"
 #include "foundation/message_rows.h"
 
@@ -210,6 +211,10 @@ bool IsGlass(const Leaf& leaf) {
   return kind == ElementKind::kSinglePane || kind == ElementKind::kLaminatedPane;
 }
 
+ElementKind GlazingKind(double depth_mm) {
+  return depth_mm < kWidestUnit_mm ? ElementKind::kInsulatingUnit : ElementKind::kDoubleWindow;
+}
+
 ElementKind KindOfFrame(elements::Frame frame) {
   switch (frame) {
     case elements::Frame::kWoodStuds:
@@ -265,7 +270,7 @@ ElementKind TwoLeavesKind(const Setup& setup, elements::Frame frame, const Leaf&
   const std::optional<double> depth_mm = ParseDecimal(depth_text);
   if (!depth_mm || *depth_mm <= 0.0) return ElementKind::kOther;
   if (IsGlass(first) && IsGlass(second)) {
-    return *depth_mm < kWidestUnit_mm ? ElementKind::kInsulatingUnit : ElementKind::kDoubleWindow;
+    return GlazingKind(*depth_mm);
   }
   if (elements::IsGlazing(*setup.calculation)) return ElementKind::kOther;
   const bool first_heavy = MassOf(first) >= kHeavyLeaf_kg_m2;
@@ -276,6 +281,82 @@ ElementKind TwoLeavesKind(const Setup& setup, elements::Frame frame, const Leaf&
   }
   if (frame != elements::Frame::kNone) return KindOfFrame(frame);
   return BoardsKind(setup);
+}
+
+/// A leaf of a free list; one with a core or a profile is none of the kinds that were measured.
+struct ListedLeaf {
+  Leaf sheets{};
+  bool laminated = false;
+  bool shaped = false;
+};
+
+ElementKind KindOfListedLeaf(const ListedLeaf& leaf) {
+  if (leaf.shaped) return ElementKind::kOther;
+  const ElementKind kind = SingleLeafKind(leaf.sheets);
+  if (kind != ElementKind::kSinglePane && kind != ElementKind::kLaminatedPane)
+    return leaf.laminated ? ElementKind::kOther : kind;
+  return leaf.laminated ? ElementKind::kLaminatedPane : kind;
+}
+
+ElementKind KindOfConnection(elements::CavityConnection connection) {
+  switch (connection) {
+    case elements::CavityConnection::kNone:
+      return ElementKind::kSeparateFrames;
+    case elements::CavityConnection::kWoodStuds:
+      return ElementKind::kWoodStuds;
+    case elements::CavityConnection::kSteelStuds:
+      return ElementKind::kSteelStuds;
+    case elements::CavityConnection::kResilient:
+      return ElementKind::kResilientChannels;
+    case elements::CavityConnection::kPoints:
+      break;
+  }
+  return ElementKind::kOther;
+}
+
+/// The leaves of a free list, with the depth between them and what connects the first two.
+struct ListedElement {
+  std::vector<ListedLeaf> leaves{};
+  double depth_mm = 0.0;
+  elements::CavityConnection connection{};
+};
+
+ListedElement ListedOf(const elements::Multilayer& list) {
+  ListedElement element;
+  for (const elements::Part& part : elements::PartsOfList(list)) {
+    if (part.depth_mm) {
+      element.depth_mm += *part.depth_mm;
+      const auto& first = list.strata.at(static_cast<std::size_t>(part.stratum));
+      if (list.BeginsCavity(part.stratum)) element.connection = first.connection;
+      continue;
+    }
+    ListedLeaf& leaf = element.leaves.emplace_back();
+    for (const elements::Layer& layer : part.layers) {
+      const elements::StratumKind kind = *layer.stratum;
+      leaf.laminated = leaf.laminated || !elements::TakesSolid(kind);
+      leaf.shaped = leaf.shaped || kind == elements::StratumKind::kCore ||
+                    kind == elements::StratumKind::kProfiledSheet;
+      if (!elements::TakesSolid(kind)) continue;
+      Add(leaf.sheets, list.strata.at(static_cast<std::size_t>(layer.row)).solid.slot, layer.sheets);
+    }
+  }
+  return element;
+}
+
+ElementKind KindOfList(const elements::Multilayer& list) {
+  const ListedElement element = ListedOf(list);
+  if (element.leaves.size() == 1) return KindOfListedLeaf(element.leaves[0]);
+  if (element.leaves.size() != 2 || !(element.depth_mm > 0.0)) return ElementKind::kOther;
+  const auto is_pane = [](const ListedLeaf& leaf) {
+    const ElementKind kind = KindOfListedLeaf(leaf);
+    return kind == ElementKind::kSinglePane || kind == ElementKind::kLaminatedPane;
+  };
+  if (std::ranges::all_of(element.leaves, is_pane)) return GlazingKind(element.depth_mm);
+  const auto is_light = [](const ListedLeaf& leaf) {
+    return !leaf.shaped && !leaf.laminated && !leaf.sheets.empty() && MassOf(leaf.sheets) < kHeavyLeaf_kg_m2;
+  };
+  return std::ranges::all_of(element.leaves, is_light) ? KindOfConnection(element.connection)
+                                                       : ElementKind::kOther;
 }
 
 /// What carries a slab is its stiffest layer: a filling may well be heavier.
@@ -323,6 +404,8 @@ ElementKind KindOf(const Setup& setup, elements::Frame frame) {
       return ElementKind::kCeiling;
     case Family::kImpact:
       return ImpactKind(setup);
+    case Family::kMultilayer:
+      return KindOfList(setup.multilayer);
     case Family::kFacade:
       return ElementKind::kOther;
   }

@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "calculation/multilayer_input.h"
 #include "foundation/decimal.h"
 #include "validation/element_kind.h"
 
@@ -18,22 +19,7 @@ using elements::Setup;
 
 constexpr double kMetresPerMillimetre = 0.001;
 constexpr double kMetresPerCentimetre = 0.01;
-constexpr double kPascalPerGigapascal = 1e9;
-constexpr double kHeavyLeaf_kg_m2 = 60.0;
 constexpr double kPlaster_kg_m3 = 1150.0;
-constexpr double kLaminatedLossFactor = 0.01;
-constexpr double kAcousticLossFactor = 0.05;
-constexpr double kPlyYoungsModulusPa = 72e9;
-constexpr double kPlyPoissonsRatio = 0.22;
-
-/// A sheet of a set-up in SI units.
-models::SolidLayer SolidOf(const elements::StructuralMaterial& slot) {
-  return {.thickness_m = slot.thickness_mm * kMetresPerMillimetre,
-          .density_kg_m3 = slot.density_kg_m3,
-          .youngs_modulus_pa = slot.youngs_modulus_gpa * kPascalPerGigapascal,
-          .poissons_ratio = slot.poissons_ratio,
-          .loss_factor = slot.loss_factor};
-}
 
 using Solids = std::vector<models::SolidLayer>;
 
@@ -41,7 +27,8 @@ Solids SolidsOf(const elements::LeafLayers& leaf) {
   Solids solids;
   for (int i = 0; i < leaf.count; ++i) {
     const auto& row = leaf.rows.at(static_cast<std::size_t>(i));
-    solids.insert(solids.end(), static_cast<std::size_t>(std::max(1, row.multiplicity)), SolidOf(row.slot));
+    solids.insert(solids.end(), static_cast<std::size_t>(std::max(1, row.multiplicity)),
+                  calculation::SolidLayerOf(row.slot));
   }
   return solids;
 }
@@ -49,7 +36,7 @@ Solids SolidsOf(const elements::LeafLayers& leaf) {
 Solids SolidsOf(const elements::SeaLeaf& side) {
   Solids solids;
   for (int i = 0; i < side.count; ++i)
-    solids.push_back(SolidOf(side.rows.at(static_cast<std::size_t>(i)).slot));
+    solids.push_back(calculation::SolidLayerOf(side.rows.at(static_cast<std::size_t>(i)).slot));
   return solids;
 }
 
@@ -59,58 +46,19 @@ double MassOf(const Solids& solids) {
   return mass;
 }
 
-models::SolidKind SolidKindOf(const models::SolidLayer& solid, bool heavy) {
-  const double rho = solid.density_kg_m3;
-  const double c = rho > 0.0 ? std::sqrt(std::max(0.0, solid.youngs_modulus_pa) / rho) : 0.0;
-  if (rho >= 2400.0 && rho <= 2600.0 && c >= 4000.0) return models::SolidKind::kGlass;
-  if (heavy) return models::SolidKind::kMasonry;
-  if (c < 900.0) return models::SolidKind::kOther;  // limp sheets
-  if (rho >= 2600.0) return models::SolidKind::kMetal;
-  if (rho >= 1300.0) return models::SolidKind::kMasonry;
-  if (rho < 900.0 && c >= 3000.0) return models::SolidKind::kWood;
-  return models::SolidKind::kPlasterboard;
-}
-
-models::LaminatedPane LaminatedOf(const models::SolidLayer& pane) {
-  models::LaminatedPane laminated;
-  if (pane.loss_factor >= kAcousticLossFactor) laminated.interlayer = models::kAcousticInterlayer;
-  models::SolidLayer ply = pane;
-  ply.thickness_m = std::max(0.0, pane.thickness_m - laminated.interlayer.thickness_m) / 2.0;
-  ply.youngs_modulus_pa = kPlyYoungsModulusPa;
-  ply.poissons_ratio = kPlyPoissonsRatio;
-  laminated.outer = ply;
-  laminated.inner = ply;
-  return laminated;
-}
-
 models::LayeredLeaf LeafOf(Solids solids) {
-  const bool heavy = MassOf(solids) >= kHeavyLeaf_kg_m2;
+  const bool heavy = MassOf(solids) >= models::kHeavyLeaf;
   bool plastered = heavy;
   for (models::SolidLayer& solid : solids) {
-    solid.kind = SolidKindOf(solid, heavy);
+    solid.kind = models::KindOfSolid(solid.density_kg_m3, solid.youngs_modulus_pa, heavy);
     const bool board =
         solid.kind == models::SolidKind::kPlasterboard || solid.kind == models::SolidKind::kMasonry;
     plastered = plastered || (board && solid.density_kg_m3 >= kPlaster_kg_m3);
   }
-  if (solids.size() == 1 && solids[0].kind == models::SolidKind::kGlass &&
-      solids[0].loss_factor >= kLaminatedLossFactor) {
-    return LaminatedOf(solids[0]);
-  }
+  if (solids.size() == 1 && calculation::IsLaminatedPane(solids[0]))
+    return calculation::LaminatedPaneOf(solids[0]);
   return models::LayeredPlate{.layers = std::move(solids),
                               .joint = plastered ? models::LeafJoint::kBonded : models::LeafJoint::kSlipping};
-}
-
-models::CavityFill Fibre(double thickness_m, double resistivity, double density) {
-  return {.kind = models::FillKind::kFibre,
-          .thickness_m = thickness_m,
-          .flow_resistivity_pa_s_m2 = resistivity > 0.0 ? resistivity : kUsualFlowResistivity,
-          .density_kg_m3 = density > 0.0 ? density : kUsualFibreDensity};
-}
-
-models::CavityFill FibreOf(const elements::FibrousMaterial& slot) {
-  const double thickness_m = slot.thickness_mm * kMetresPerMillimetre;
-  return Fibre(thickness_m, thickness_m > 0.0 ? slot.flow_resistance_pa_s_m / thickness_m : 0.0,
-               slot.density_kg_m3);
 }
 
 /// The fills in front, air behind them up to `depth_m`. Fills that are too thick are pressed into the depth.
@@ -131,13 +79,14 @@ std::optional<std::vector<models::CavityFill>> FillsOf(const elements::Cavity& c
   std::vector<models::CavityFill> fills;
   if (cavity.kind == elements::CavityKind::kFibrous) {
     const double entered_m = ParseDecimal(cavity.fibre_text).value_or(0.0) * kMetresPerMillimetre;
-    fills.push_back(Fibre(entered_m > 0.0 ? entered_m : depth_m, 0.0, 0.0));
+    fills.push_back(calculation::FibreFill(entered_m > 0.0 ? entered_m : depth_m, 0.0, 0.0));
   }
   if (cavity.kind == elements::CavityKind::kGenericMaterial) {
     for (int i = 0; i < std::min(cavity.layers.count, elements::CavityLayers::kCapacity); ++i) {
       const auto& row = cavity.layers.rows.at(static_cast<std::size_t>(i));
       if (!row.slot.porous) return std::nullopt;
-      fills.insert(fills.end(), static_cast<std::size_t>(std::max(1, row.multiplicity)), FibreOf(row.slot));
+      fills.insert(fills.end(), static_cast<std::size_t>(std::max(1, row.multiplicity)),
+                   calculation::FibreFillOf(row.slot));
     }
   }
   return FilledUp(std::move(fills), depth_m);
@@ -150,7 +99,8 @@ std::optional<std::vector<models::CavityFill>> FillsOf(const elements::SeaCavity
   const std::optional<double> depth_mm = ParseDecimal(cavity.depth_text);
   if (!depth_mm || *depth_mm < 0.0) return std::nullopt;
   std::vector<models::CavityFill> fills;
-  if (cavity.type == elements::SeaCavityType::kFibre) fills.push_back(FibreOf(cavity.fibres[0].slot));
+  if (cavity.type == elements::SeaCavityType::kFibre)
+    fills.push_back(calculation::FibreFillOf(cavity.fibres[0].slot));
   return FilledUp(std::move(fills), *depth_mm * kMetresPerMillimetre);
 }
 

@@ -10,9 +10,6 @@ namespace velmar::validation {
 
 /// Distance of studs where a set-up has no field for it: 60 cm.
 inline constexpr double kUsualStudDistanceM = 0.6;
-/// A fill of which a set-up says no more than that it is fibre: mineral wool.
-inline constexpr double kUsualFlowResistivity = 14000.0;  // Pa·s/m²
-inline constexpr double kUsualFibreDensity = 40.0;        // kg/m³
 
 /// What holds the boards of `setup` for the layered model where nobody says more: light steel studs for
 /// connected boards, channels and separate frames as the calculation names them.

@@ -4,6 +4,7 @@
 #include <array>
 
 #include "foundation/message_rows.h"
+#include "validation/footfall_prediction.h"
 #include "validation/model_prediction.h"
 
 namespace velmar::validation {
@@ -31,6 +32,7 @@ constexpr std::array kRules = {
     ModelRule{kConnectedBoards, kLayeredModel, kTransferMatrixReasonRow},
     ModelRule{kUnconnectedBoards, "Parete leggera doppia pannelli completamente isolati", kSeparateReasonRow},
     ModelRule{kBoards, kLayeredModel, kTransferMatrixReasonRow},
+    ModelRule{kImpactCovering, kFootfallModel, kCoveringReasonRow},
 };
 
 }  // namespace

@@ -11,6 +11,7 @@
 #include "validation/footfall_prediction.h"
 #include "validation/layered_input.h"
 #include "validation/monolithic_input.h"
+#include "validation/multilayer_setup.h"
 
 namespace velmar::validation {
 namespace {
@@ -19,8 +20,23 @@ using elements::MeasuredConstruction;
 using elements::MeasuredQuantity;
 using elements::MeasuredSetup;
 
-/// The set-up that says most of a construction: the one with a distance of studs, and the fill with its flow
-/// resistance where one of the set-ups has it.
+void PredictLayeredOf(const MeasuredConstruction& construction, const MeasuredSetup& measured,
+                      bool frame_known, PredictionOutcome& outcome) {
+  const elements::Frame frame = frame_known ? construction.frame : elements::Frame::kNone;
+  const auto spectrum = LayeredSpectrum(measured.setup, frame);
+  if (!spectrum) {
+    if (frame_known) outcome.refused.push_back({.id = construction.id, .reason = kLayeredModel});
+    return;
+  }
+  if (auto prediction = PredictionOf(construction, measured, kLayeredModel, *spectrum)) {
+    prediction->kind = KindOf(measured.setup, frame);
+    prediction->frame_known = frame_known;
+    outcome.predictions.push_back(std::move(*prediction));
+  }
+}
+
+}  // namespace
+
 std::optional<MeasuredSetup> FullestSetup(const MeasuredConstruction& construction) {
   const MeasuredSetup* fullest = nullptr;
   const elements::Cavity* filled = nullptr;
@@ -46,9 +62,8 @@ std::optional<MeasuredSetup> FullestSetup(const MeasuredConstruction& constructi
   return setup;
 }
 
-/// `spectrum`, what `model` makes of `measured`, beside the measurement.
 std::optional<Prediction> PredictionOf(const MeasuredConstruction& construction,
-                                       const MeasuredSetup& measured, const char* model,
+                                       const MeasuredSetup& measured, std::string_view model,
                                        const acoustics::Spectrum& spectrum) {
   std::optional<Prediction> prediction = RateAsMeasured(construction, spectrum);
   if (!prediction) return std::nullopt;
@@ -60,23 +75,6 @@ std::optional<Prediction> PredictionOf(const MeasuredConstruction& construction,
   prediction->features = FeaturesOf(measured.setup);
   return prediction;
 }
-
-void PredictLayeredOf(const MeasuredConstruction& construction, const MeasuredSetup& measured,
-                      bool frame_known, PredictionOutcome& outcome) {
-  const elements::Frame frame = frame_known ? construction.frame : elements::Frame::kNone;
-  const auto spectrum = LayeredSpectrum(measured.setup, frame);
-  if (!spectrum) {
-    if (frame_known) outcome.refused.push_back({.id = construction.id, .reason = kLayeredModel});
-    return;
-  }
-  if (auto prediction = PredictionOf(construction, measured, kLayeredModel, *spectrum)) {
-    prediction->kind = KindOf(measured.setup, frame);
-    prediction->frame_known = frame_known;
-    outcome.predictions.push_back(std::move(*prediction));
-  }
-}
-
-}  // namespace
 
 std::optional<acoustics::Spectrum> LayeredSpectrum(const elements::Setup& setup, elements::Frame frame) {
   const auto element = LayeredElementOf(setup, frame);
@@ -125,7 +123,8 @@ PredictionOutcome PredictWithMonolithic(const elements::MeasuredData& data) {
 
 PredictionOutcome PredictWithAllModels(const elements::MeasuredData& data) {
   PredictionOutcome all = PredictWithCalculations(data);
-  std::array new_models = {PredictWithLayered(data), PredictWithMonolithic(data), PredictWithFootfall(data)};
+  std::array new_models = {PredictWithLayered(data), PredictWithMultilayer(data), PredictWithMonolithic(data),
+                           PredictWithFootfall(data)};
   for (PredictionOutcome& further : new_models) {
     std::ranges::move(further.predictions, std::back_inserter(all.predictions));
     std::ranges::move(further.refused, std::back_inserter(all.refused));

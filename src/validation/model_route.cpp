@@ -5,6 +5,7 @@
 #include <string>
 
 #include "foundation/decimal.h"
+#include "foundation/failure.h"
 #include "foundation/message_rows.h"
 #include "models/layered/layered_element.h"
 #include "validation/footfall_prediction.h"
@@ -85,6 +86,26 @@ Message MonolithicInputs(const elements::Setup& setup) {
                               FormatFixed(element->coating_mass_kg_m2, 1) + " kg/m²"}};
 }
 
+Message FootfallInputs(const elements::Setup& setup) {
+  try {
+    const auto floor = FootfallOf(setup);
+    if (!floor) return {};
+    const models::FootfallPlate& plate = floor->plate;
+    Message inputs = {{kPlateInputRow, ": m' " + FormatFixed(plate.mass_kg_m2, 1) + " kg/m², fc " +
+                                           FormatFixed(plate.critical_frequency_hz, 0) + " Hz, η " +
+                                           FormatFixed(plate.internal_loss_factor, 3)}};
+    if (floor->improvement.topping == models::FloorTopping::kNone) {
+      inputs.push_back({kNoToppingInputRow});
+    } else {
+      inputs.push_back(
+          {kToppingInputRow, ": f0 " + FormatFixed(floor->improvement.resonance_hz, 0) + " Hz"});
+    }
+    return inputs;
+  } catch (const ArithmeticFailure&) {
+    return {};  // a side that is no number: the model says nothing then either
+  }
+}
+
 }  // namespace
 
 ModelRoute RouteOf(std::string_view id, const elements::Setup& setup) {
@@ -107,7 +128,8 @@ ModelRoute RouteOf(std::string_view id, const elements::Setup& setup) {
     route = {.model = {kFootfallNameRow},
              .source = {kFootfallSourceRow},
              .assumptions = {kFootfallAssumptionsRow},
-             .limits = {kFootfallLimitsRow}};
+             .limits = {kFootfallLimitsRow},
+             .inputs = FootfallInputs(setup)};
   } else {
     const elements::Calculation calculation = elements::FindCalculation(id).value_or(*setup.calculation);
     const elements::CalculationRow& row = elements::RowOf(calculation);

@@ -7,6 +7,7 @@
 #include "acoustics/airborne_rating.h"
 #include "calculation/run.h"
 #include "calculation/totals.h"
+#include "elements/parts.h"
 #include "foundation/decimal.h"
 
 namespace velmar::validation {
@@ -134,6 +135,13 @@ Features FeaturesOf(const elements::Setup& setup) {
     case elements::Family::kCeiling:
       features.depth_mm = ParseDecimal(setup.sea_cavity.depth_text).value_or(0.0);
       features.filled = elements::FibreCount(setup.sea_cavity.type) > 0;
+      break;
+    case elements::Family::kMultilayer:
+      for (const elements::Part& part : elements::PartsOfList(setup.multilayer)) {
+        if (!part.depth_mm) continue;
+        features.depth_mm += *part.depth_mm;
+        features.filled = features.filled || !part.layers.empty();
+      }
       break;
     default:
       break;

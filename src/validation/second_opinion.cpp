@@ -10,6 +10,7 @@
 #include "foundation/decimal.h"
 #include "foundation/failure.h"
 #include "foundation/message_rows.h"
+#include "foundation/rounding.h"
 #include "validation/footfall_prediction.h"
 #include "validation/model_choice.h"
 #include "validation/model_prediction.h"
@@ -26,14 +27,15 @@ constexpr const char* kChosenCalculation = "calculation";
 /// The rating that measurements of such a set-up are compared with.
 struct Rated {
   const char* quantity = "";
+  const char* symbol = "";  ///< as a person reads it
   double value = 0.0;
 };
 
 std::optional<Rated> RatedBy(const Setup& setup, const ResultSet& result) {
   const Family family = elements::RowOf(*setup.calculation).family;
-  if (result.lnw) return Rated{"Lnw", *result.lnw};
-  if (family == Family::kLining && result.delta_rw) return Rated{"DeltaRw", *result.delta_rw};
-  if (result.rw) return Rated{"Rw", *result.rw};
+  if (result.lnw) return Rated{"Lnw", "Ln,w", *result.lnw};
+  if (family == Family::kLining && result.delta_rw) return Rated{"DeltaRw", "ΔRw", *result.delta_rw};
+  if (result.rw) return Rated{"Rw", "Rw", *result.rw};
   return std::nullopt;
 }
 
@@ -199,6 +201,28 @@ MessageLine IntervalLine(const IntervalOutcome& outcome) {
         std::string(")")};
   }
   return {kNoEstimateRow, std::string(": "), ReasonRow(outcome.reason)};
+}
+
+Message ConfidenceLines(const Setup& setup, const ResultSet& result, const IntervalOutcome& outcome) {
+  if (!setup.calculation) return {};
+  const auto rated = RatedBy(setup, result);
+  if (!rated) return {};
+  const double shown = RoundToEven(rated->value);
+  MessageLine line = {std::string(rated->symbol) + " " + FormatShortest(shown) + " dB · "};
+  for (MessagePiece& piece : IntervalLine(outcome)) line.push_back(std::move(piece));
+  Message lines = {std::move(line)};
+  if (!outcome.interval) return lines;
+  const bool impact = result.lnw.has_value();
+  if (shown > RoundToEven(outcome.interval->high))
+    lines.push_back({impact ? kImpactAboveIntervalRow : kAboveIntervalRow});
+  if (shown < RoundToEven(outcome.interval->low))
+    lines.push_back({impact ? kImpactBelowIntervalRow : kBelowIntervalRow});
+  return lines;
+}
+
+Message ConfidenceOf(const Setup& setup, const std::optional<ResultSet>& result, const Accuracy& accuracy) {
+  if (!result) return {};
+  return ConfidenceLines(setup, *result, IntervalOfResult(setup, *result, accuracy));
 }
 
 Message NoteLines(const BiasNote& note) {

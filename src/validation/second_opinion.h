@@ -51,6 +51,16 @@ IntervalOutcome IntervalOfResult(const elements::Setup& setup, const elements::R
 /// "90 % interval: from 48 to 56 (43 measurements)" in whole decibels, or "no estimate" and why.
 MessageLine IntervalLine(const IntervalOutcome& outcome);
 
+/// What is known of the error of `result`: its rating and the interval or why there is none ("Rw 52 dB · 90 %
+/// interval: from 48 to 56 (43 measurements)"), and where the interval excludes the result a line that says
+/// so in words. Whole decibels, as shown. No line without a rating.
+Message ConfidenceLines(const elements::Setup& setup, const elements::ResultSet& result,
+                        const IntervalOutcome& outcome);
+
+/// ConfidenceLines() of the interval of `result`; no line without a result.
+Message ConfidenceOf(const elements::Setup& setup, const std::optional<elements::ResultSet>& result,
+                     const Accuracy& accuracy);
+
 /// The lines of the note in words: the kind, how far off, on how many measurements, and the better model.
 Message NoteLines(const BiasNote& note);
 

@@ -252,5 +252,23 @@ TEST(Results, KeepTheRangesThatWereLeft) {
   EXPECT_TRUE(Outcome(setup).result->ranges_left.empty());
 }
 
+TEST(RangeQuestion, NamesTheValueAndTheRange) {
+  elements::Setup setup = Plausible(Calculation::kSingleWallBrick);
+  setup.leaf1.count = 1;
+  setup.leaf1.rows[0].slot.thickness_mm = 50;
+  setup.leaf1.rows[0].slot.density_kg_m3 = 800;
+  setup.leaf1.rows[0].multiplicity = 1;
+  Message asked;
+  RunCalculation(setup, 0.0, [&asked](const Message& question) {
+    asked = question;
+    return false;
+  });
+  ASSERT_EQ(asked.size(), 2U);
+  EXPECT_EQ(LeadingRow(asked[0]), MessageRow{195});
+  EXPECT_EQ(std::get<std::string>(asked[0].at(5)), " = 40 kg/m² (");
+  EXPECT_EQ(std::get<std::string>(asked[0].at(7)), " 80 ");
+  EXPECT_EQ(asked[1], MessageLine{MessageRow{190}});
+}
+
 }  // namespace
 }  // namespace velmar::calculation

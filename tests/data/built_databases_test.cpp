@@ -16,6 +16,8 @@
 
 #include "data_builder/shipped_data.h"
 #include "data_builder/table_text.h"
+#include "elements/plausibility.h"
+#include "storage/materials/material_store.h"
 #include "storage/tables/schema.h"
 
 namespace velmar {
@@ -182,6 +184,24 @@ TEST(ResilientMaterials, ResonanceFollowsFromTheStiffness) {
         << read.getColumn(0).getString();
     EXPECT_GT(read.getColumn(3).getDouble(), 0) << read.getColumn(0).getString();
   }
+}
+
+/// Every value of a shipped material is one that such materials have.
+template <typename Material>
+void ExpectUsual() {
+  const storage::MaterialStore store(MaterialDatabase());
+  for (const storage::MaterialRow<Material>& row : store.Rows<Material>()) {
+    for (const elements::PropertyFinding& finding : elements::FindingsOf(row.record)) {
+      ADD_FAILURE() << row.record.values.name << ": property " << static_cast<int>(finding.property) << " is "
+                    << finding.value;
+    }
+  }
+}
+
+TEST(Materials, EveryShippedOneIsPlausible) {
+  ExpectUsual<elements::StructuralMaterial>();
+  ExpectUsual<elements::FibrousMaterial>();
+  ExpectUsual<elements::ResilientMaterial>();
 }
 
 TEST(ResultDatabase, IsThereAndEmpty) {

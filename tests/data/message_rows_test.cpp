@@ -40,11 +40,11 @@ std::string With(const std::string& row) {
 TEST(MessageRows, GoodFilesGiveNoComplaint) { EXPECT_THAT(ComplaintsOf(kFirst), IsEmpty()); }
 
 TEST(MessageRows, TheHeaderNamesEveryRowWithItsUseAndNoWording) {
-  const std::string header =
-      Header(std::vector{MessageFile{"a.csv", ParseCsv(kFirst)}, MessageFile{"b.csv", ParseCsv(kSecond)}});
+  const std::string header = Header(MessageFile{"a.csv", ParseCsv(kFirst)});
   EXPECT_THAT(header, HasSubstr("\n/// menu \"File\"\ninline constexpr MessageRow kFileMenuRow{1};\n"));
   EXPECT_THAT(header, HasSubstr("\n/// a width\ninline constexpr MessageRow kWidthRow{2};\n"));
-  EXPECT_THAT(header, HasSubstr("\n/// calculation\ninline constexpr MessageRow kZeroMassRow{1001};\n"));
+  EXPECT_THAT(Header(MessageFile{"b.csv", ParseCsv(kSecond)}),
+              HasSubstr("\n/// calculation\ninline constexpr MessageRow kZeroMassRow{1001};\n"));
   for (const char* word : {"Larghezza", "Width,", "Massa", "No mass"})
     EXPECT_THAT(header, testing::Not(HasSubstr(word)));
 }
@@ -108,13 +108,13 @@ class MessageRowsProgramTest : public testing::Test {
 
   int Run() const {
     const auto quoted = [this](const char* name) { return " '" + (folder_ / name).string() + "'"; };
-    const std::string line = "'" VELMAR_MESSAGE_ROWS "'" + quoted("rows.h") + quoted("a.csv") +
-                             quoted("b.csv") + " 2>" + quoted("errors");
+    const std::string line = "'" VELMAR_MESSAGE_ROWS "'" + quoted("out") + quoted("a.csv") + quoted("b.csv") +
+                             " 2>" + quoted("errors");
     return WEXITSTATUS(std::system(line.c_str()));
   }
 
   std::filesystem::path File(const char* name) const { return folder_ / name; }
-  std::filesystem::file_time_type HeaderTime() const { return last_write_time(File("rows.h")); }
+  std::filesystem::file_time_type HeaderTime() const { return last_write_time(File("out/a_rows.h")); }
 
  private:
   storage::TemporaryFolder folder_;
@@ -123,13 +123,13 @@ class MessageRowsProgramTest : public testing::Test {
 TEST_F(MessageRowsProgramTest, LeavesTheHeaderAloneWhenOnlyAWordingChanges) {
   ASSERT_EQ(Run(), 0) << ReadFile(File("errors"));
   const auto long_ago = HeaderTime() - std::chrono::hours(24);
-  last_write_time(File("rows.h"), long_ago);
+  last_write_time(File("out/a_rows.h"), long_ago);
   WriteFile(File("a.csv"), With("2,kWidthRow,a width,Ampiezza,Breadth"));
   ASSERT_EQ(Run(), 0);
   EXPECT_EQ(HeaderTime(), long_ago);
   WriteFile(File("a.csv"), With("2,kBreadthRow,a width,Ampiezza,Breadth"));
   ASSERT_EQ(Run(), 0);
-  EXPECT_THAT(ReadFile(File("rows.h")), HasSubstr("kBreadthRow{2}"));
+  EXPECT_THAT(ReadFile(File("out/a_rows.h")), HasSubstr("kBreadthRow{2}"));
 }
 
 TEST_F(MessageRowsProgramTest, FailsWithAClearLineAndWritesNothing) {
@@ -143,7 +143,7 @@ TEST_F(MessageRowsProgramTest, FailsWithAClearLineAndWritesNothing) {
     WriteFile(File("a.csv"), content);
     EXPECT_EQ(Run(), 1) << content;
     EXPECT_THAT(ReadFile(File("errors")), HasSubstr(line));
-    EXPECT_FALSE(std::filesystem::exists(File("rows.h")));
+    EXPECT_FALSE(std::filesystem::exists(File("out/a_rows.h")));
   }
   std::filesystem::remove(File("a.csv"));
   EXPECT_EQ(Run(), 1);

@@ -70,6 +70,8 @@ INSTANTIATE_TEST_SUITE_P(Variants, CataloguePlaceTest,
                                                "CONTROSOFFITTO", 0, ElementButton::kCeiling},
                                          Place{"Facade", "Parete composta", "FACCIATA", "Parete composta", 0,
                                                ElementButton::kFacade},
+                                         Place{"Multilayer", "Multistrato generico", "MULTISTRATO",
+                                               "verticale multistrato", 0, ElementButton::kDoubleWall},
                                          Place{"Impact", "Solaio in laterocemento gavelo", "CALPESTIO",
                                                "orizzontale doppia", 26, ElementButton::kFloor}),
                          [](const auto& test) { return test.param.name; });

@@ -129,5 +129,38 @@ TEST(Parts, NumberEveryRowInUseOfEveryCalculation) {
   }
 }
 
+TEST(Parts, OfAFreeListAreLeavesAndCavitiesInTurn) {
+  elements::Setup setup;
+  setup.calculation = Calculation::kMultilayerGeneric;
+  auto& strata = setup.multilayer.strata;
+  setup.multilayer.count = 7;
+  Set(strata[0].solid, "Vetro");
+  strata[1].kind = StratumKind::kInterlayer;
+  strata[1].thickness_text = "0,76";
+  Set(strata[2].solid, "Vetro");
+  strata[3].kind = StratumKind::kAir;
+  strata[3].thickness_text = "15";
+  strata[4].kind = StratumKind::kFibre;
+  strata[4].fibre.slot = {.name = "Lana", .thickness_mm = 60.0, .density_kg_m3 = 40.0};
+  Set(strata[5].solid, "Lamiera");
+  strata[5].kind = StratumKind::kProfiledSheet;
+  strata[5].profile_height_text = "40";
+  strata[5].profile_pitch_text = "40";
+  strata[6].kind = StratumKind::kAir;
+  const std::vector<Part> parts = PartsOf(setup);
+  EXPECT_THAT(Told(parts),
+              ElementsAre(P{1, "Vetro"}, P{2, "PVB"}, P{3, "Vetro"}, P{4, "Lana"}, P{5, "Lamiera"}));
+  ASSERT_EQ(parts.size(), 5U);
+  EXPECT_EQ(parts[0].leaf, 1);
+  EXPECT_EQ(parts[1].depth_mm, 15.0);
+  EXPECT_EQ(parts[1].stratum, 3);
+  EXPECT_EQ(parts[2].depth_mm, 60.0);
+  EXPECT_EQ(parts[3].leaf, 2);
+  EXPECT_NEAR(parts[0].ThicknessMm(), 20.76, 1e-12);
+  EXPECT_NEAR(parts[0].MassKgM2(), 20.0 + 1.07 * 0.76, 1e-12);
+  // A wave as high as its pitch is 1 + pi²/4 times as long as what it covers.
+  EXPECT_NEAR(parts[3].MassKgM2(), 10.0 * (1.0 + 9.8696044 / 4.0), 1e-6);
+}
+
 }  // namespace
 }  // namespace velmar::elements

@@ -53,19 +53,25 @@ TEST_P(CoupleResilientTest, FillsTheOthers) {
   EXPECT_EQ(CoupleResilient(GetParam().before, GetParam().left), GetParam().after);
 }
 
-// s' = 25: f0 = 160 * sqrt(0.25) = 80; 18.3 - 15 lg 25 = -2.669
+// s' = 25: f0 = 160 * sqrt(0.25) = 80; 18.3 - 15 lg(25 / 100) = 27.331
 INSTANTIATE_TEST_SUITE_P(
     Boxes, CoupleResilientTest,
     testing::Values(
-        ResilientCase{"Stiffness", {"25", "", ""}, ResilientBox::kStiffness, {"25", "-2,7", "80,0"}},
-        ResilientCase{"Improvement", {"", "3,3", ""}, ResilientBox::kImprovement, {"10", "3,3", "50,6"}},
-        ResilientCase{"Resonance", {"", "", "160"}, ResilientBox::kResonance, {"100", "-11,7", "160"}},
+        ResilientCase{"Stiffness", {"25", "", ""}, ResilientBox::kStiffness, {"25", "27,3", "80,0"}},
+        ResilientCase{"Improvement", {"", "33,3", ""}, ResilientBox::kImprovement, {"10", "33,3", "50,6"}},
+        ResilientCase{"Resonance", {"", "", "160"}, ResilientBox::kResonance, {"100", "18,3", "160"}},
         ResilientCase{"Negative", {"-1", "a", "b"}, ResilientBox::kStiffness, {"-1", "a", "b"}},
         ResilientCase{"NegativeImprovement", {"1", "-1", "2"}, ResilientBox::kImprovement, {"1", "-1", "2"}},
         ResilientCase{"NoNumber", {"x", "1", "2"}, ResilientBox::kStiffness, {"x", "1", "2"}},
         ResilientCase{"ZeroHasNoLogarithm", {"0", "7", ""}, ResilientBox::kStiffness, {"0", "7", "0,0"}},
         ResilientCase{"Empty", {"", "1", "2"}, ResilientBox::kStiffness, {"", "1", "2"}}),
     [](const auto& test) { return test.param.name; });
+
+TEST(StandardImprovement, IsThatOfEnIso12354) {
+  EXPECT_EQ(StandardImprovement("10"), "32,6");
+  EXPECT_EQ(StandardImprovement("25"), "26,9");
+  for (const char* none : {"", "0", "-3", "x"}) EXPECT_EQ(StandardImprovement(none), "") << none;
+}
 
 }  // namespace
 }  // namespace velmar::materials

@@ -52,9 +52,44 @@ TEST_F(SaveEntryTest, AChangeKeepsWhatTheEditorDoesNotShow) {
   const auto row = store_.Find<StructuralMaterial>("Mattone nuovo");
   EXPECT_EQ(row->record.values.thermal_conductivity_w_mk, 0.6);
   EXPECT_FALSE(row->record.Holds(&StructuralMaterial::thermal_resistance_m2k_w));
-  EXPECT_EQ(row->source, "prova");
+  EXPECT_EQ(row->source, "valore utente") << "its numbers are other ones now";
   EXPECT_EQ(row->keyword, "laterizi");
   EXPECT_EQ(row->record.values.density_kg_m3, 800.0);
+}
+
+TEST_F(SaveEntryTest, NewWordsKeepTheSourceAndEveryEditThePicture) {
+  ResilientEntry mat;
+  mat.name = "Tappetino";
+  mat.stiffness = "30";
+  mat.thickness = "8";
+  EXPECT_FALSE(SaveEntry(store_, mat, "", kTexts));
+  store_.Change<elements::ResilientMaterial>("Tappetino", [](storage::ResilientRow& row) {
+    row.source = "scheda";
+    row.picture = "gomma.png";
+  });
+  mat.description = "In granuli";
+  EXPECT_FALSE(SaveEntry(store_, mat, "Tappetino", kTexts));
+  auto row = store_.Find<elements::ResilientMaterial>("Tappetino");
+  EXPECT_EQ(row->source, "scheda");
+  EXPECT_EQ(row->picture, "gomma.png");
+  mat.stiffness = "31";
+  mat.improvement = mat.resonance = "";
+  EXPECT_FALSE(SaveEntry(store_, mat, "Tappetino", kTexts));
+  row = store_.Find<elements::ResilientMaterial>("Tappetino");
+  EXPECT_EQ(row->source, "valore utente");
+  EXPECT_EQ(row->picture, "gomma.png");
+}
+
+TEST_F(SaveEntryTest, ComputedAbsorptionIsAddedToTheSource) {
+  FibrousEntry wool;
+  wool.name = "Lana";
+  wool.density = "40";
+  EXPECT_FALSE(SaveEntry(store_, wool, "", kTexts));
+  store_.Change<FibrousMaterial>("Lana", [](storage::FibrousRow& row) { row.source = "scheda"; });
+  wool.absorption[4] = "0,3";
+  wool.computation = "assorbimento calcolato";
+  EXPECT_FALSE(SaveEntry(store_, wool, "Lana", kTexts));
+  EXPECT_EQ(store_.Find<FibrousMaterial>("Lana")->source, "scheda; assorbimento calcolato");
 }
 
 TEST_F(SaveEntryTest, ChangingTheKindEmptiesTheColumnsOfTheOther) {

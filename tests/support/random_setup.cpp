@@ -137,6 +137,48 @@ void FillFacade(elements::Setup& setup, Dice& dice) {
   }
 }
 
+/// One to four leaves, the rows between them of air and fibre.
+void FillMultilayer(elements::Multilayer& list, Dice& dice) {
+  using elements::StratumKind;
+  list.framed = dice.Coin();
+  list.count = 0;
+  const auto add = [&](StratumKind kind) {
+    elements::Stratum& stratum = list.strata.at(static_cast<std::size_t>(list.count++));
+    stratum.kind = dice.Nasty() && dice.Whole(0, 15) == 0
+                       ? static_cast<StratumKind>(dice.Whole(0, elements::kStratumKindCount - 1))
+                       : kind;
+    stratum.solid = StructuralRow(dice);
+    stratum.fibre = FibrousRow(dice);
+    stratum.fibre.slot.porous = stratum.fibre.slot.porous || !dice.Nasty();
+    stratum.flow_resistivity_pa_s_m2 = dice.Number(2000, 60000);
+    stratum.thickness_text = kind == StratumKind::kInterlayer ? dice.Text(0.4, 2) : dice.Text(5, 200);
+    stratum.connection =
+        static_cast<elements::CavityConnection>(dice.Whole(0, elements::kCavityConnectionCount - 1));
+    stratum.connection_text = dice.Text(20, 80);
+    stratum.profile_height_text = dice.Text(10, 100);
+    stratum.profile_pitch_text = dice.Text(50, 400);
+  };
+  for (int leaves = dice.Whole(1, 3); leaves > 0; --leaves) {
+    switch (dice.Whole(0, 4)) {
+      case 0:
+        add(StratumKind::kProfiledSheet);
+        break;
+      case 1:
+        add(StratumKind::kPlate);
+        add(dice.Coin() ? StratumKind::kCore : StratumKind::kInterlayer);
+        add(StratumKind::kPlate);
+        break;
+      default:
+        add(StratumKind::kPlate);
+        if (dice.Coin()) add(StratumKind::kPlate);
+        break;
+    }
+    if (leaves == 1) break;
+    add(dice.Coin() ? StratumKind::kAir : StratumKind::kFibre);
+    if (dice.Coin()) add(StratumKind::kAir);
+  }
+}
+
 }  // namespace
 
 elements::Setup RandomSetup(elements::Calculation calculation, Wildness wildness, std::mt19937_64& random) {
@@ -169,6 +211,7 @@ elements::Setup RandomSetup(elements::Calculation calculation, Wildness wildness
   setup.base.thickness_mm = dice.Number(100, 400);
   setup.base.mass_kg_m2 = static_cast<float>(dice.Whole(dice.Nasty() ? 0 : 100, 500));
   FillFacade(setup, dice);
+  if (RowOf(calculation).model == elements::Model::kLayered) FillMultilayer(setup.multilayer, dice);
   return setup;
 }
 

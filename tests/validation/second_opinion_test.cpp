@@ -134,11 +134,69 @@ TEST(IntervalLine, IsInWholeDecibels) {
             (MessageLine{MessageRow{1939}, std::string(": "), MessageRow{1942}}));
 }
 
+/// A brick wall with `rw` and the interval `low` to `high`.
+std::vector<MessageRow> ConfidenceRows(double rw, double low, double high) {
+  const elements::Setup setup = SetupOf("bhh-brick-255", Calculation::kSingleWallBrick);
+  elements::ResultSet result;
+  result.rw = rw;
+  std::vector<MessageRow> rows;
+  for (const MessageLine& line :
+       ConfidenceLines(setup, result, {.interval = Interval{.low = low, .high = high, .count = 43}}))
+    rows.push_back(LeadingRow(line));
+  return rows;
+}
+
+TEST(ConfidenceLines, BeginWithTheResult) {
+  const elements::Setup setup = SetupOf("bhh-brick-255", Calculation::kSingleWallBrick);
+  elements::ResultSet result;
+  result.rw = 52.0;
+  const Message lines =
+      ConfidenceLines(setup, result, {.interval = Interval{.low = 47.6, .high = 56.4, .count = 43}});
+  ASSERT_EQ(lines.size(), 1U);
+  EXPECT_EQ(lines[0].front(), MessagePiece(std::string("Rw 52 dB · ")));
+  EXPECT_EQ(lines[0].at(2), MessagePiece(std::string(" 48 ")));
+  EXPECT_EQ(ConfidenceLines(setup, result, {.reason = NoEstimate::kTooFew}),
+            (Message{{std::string("Rw 52 dB · "), MessageRow{1939}, std::string(": "), MessageRow{1941}}}));
+  EXPECT_TRUE(ConfidenceLines(setup, {}, {}).empty());
+  EXPECT_TRUE(ConfidenceOf(setup, {}, Known()).empty());
+}
+
+// As it is shown, in whole decibels: 52 lies in "from 52 to 60", whatever was cut off.
+TEST(ConfidenceLines, SayInWordsThatTheResultLiesOutside) {
+  EXPECT_EQ(ConfidenceRows(52, 52.4, 60), std::vector{MessageRow{1937}});
+  EXPECT_EQ(ConfidenceRows(52, 52.6, 60), (std::vector{MessageRow{1937}, MessageRow{3318}}));
+  EXPECT_EQ(ConfidenceRows(61, 52, 60.4), (std::vector{MessageRow{1937}, MessageRow{3317}}));
+}
+
+TEST(ConfidenceLines, OfAFloorSpeakOfLevels) {
+  const elements::Setup setup = SetupOf("fl-mat-8-screed30-tile", Calculation::kImpactFloatingFloor);
+  elements::ResultSet result;
+  result.lnw = 62.0;
+  const Message lines = ConfidenceLines(setup, result, {.interval = Interval{.low = 48, .high = 58, .count = 9}});
+  ASSERT_EQ(lines.size(), 2U);
+  EXPECT_EQ(lines[0].front(), MessagePiece(std::string("Ln,w 62 dB · ")));
+  EXPECT_EQ(lines[1], MessageLine{MessageRow{3319}});
+}
+
+TEST(ModelRules, MarkTheModelOfTheStandardWhereAFloorIsCovered) {
+  ASSERT_TRUE(RuleFor(ElementKind::kImpactCovering));
+  EXPECT_EQ(RuleFor(ElementKind::kImpactCovering)->model, "footfall");
+  EXPECT_FALSE(RuleFor(ElementKind::kImpactScreed));
+}
+
+TEST(ModelRoute, TellsWhatTheModelOfFootfallWasGiven) {
+  const ModelRoute route =
+      RouteOf("footfall", SetupOf("fl-mat-8-screed30-tile", Calculation::kImpactFloatingFloor));
+  ASSERT_EQ(route.inputs.size(), 2U);
+  EXPECT_EQ(LeadingRow(route.inputs[0]), MessageRow{3360});
+  EXPECT_EQ(LeadingRow(route.inputs[1]), MessageRow{3361});
+}
+
 TEST(ModelRules, NameOneKnownModelAKind) {
   std::set<ElementKind> kinds;
   for (const ModelRule& rule : ModelRules()) {
     EXPECT_TRUE(kinds.insert(rule.kind).second) << RowOf(rule.kind).id;
-    EXPECT_TRUE(rule.model == kLayeredModel || rule.model == kMonolithicModel ||
+    EXPECT_TRUE(rule.model == kLayeredModel || rule.model == kMonolithicModel || rule.model == "footfall" ||
                 elements::FindCalculation(rule.model))
         << rule.model;
   }

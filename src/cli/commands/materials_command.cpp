@@ -11,8 +11,11 @@
 #include "cli/output/outcome_table.h"
 #include "foundation/message_rows.h"
 #include "materials/coupled_boxes.h"
+#include "materials/derived_values.h"
+#include "materials/judged_values.h"
 #include "materials/keywords.h"
 #include "materials/material_entry.h"
+#include "materials/save_entry.h"
 #include "storage/files/whole_file.h"
 #include "storage/materials/material_store.h"
 
@@ -127,7 +130,14 @@ std::variant<MaterialRow<Material>, Message> Checked(const Work& work, const Cel
     const bool nothing = storage::FormatCell(completed[i]).empty();
     if (nothing) completed[i] = cells[i];
   }
-  return storage::RowFromCells<Material>(completed);
+  auto row = storage::RowFromCells<Material>(completed);
+  if (!given.picture.empty()) row.picture = given.picture;
+  if (auto improbable = materials::ImprobableValues(elements::FindingsOf(row.record));
+      improbable && !work.command.force) {
+    improbable->push_back({kForceStoresRow});
+    return *std::move(improbable);
+  }
+  return row;
 }
 
 template <typename Material>
@@ -155,13 +165,25 @@ ExitCode AddOne(const Work& work) {
   return AddRows<Material>(work, {std::get<Cells>(cells)});
 }
 
+/// What follows from a change: surface mass and critical frequency of a structural material.
+void Follow(const MaterialRow<elements::StructuralMaterial>& before,
+            MaterialRow<elements::StructuralMaterial>& changed) {
+  materials::FollowChange(before.record.values, changed.record.values);
+}
+template <typename Material>
+void Follow(const MaterialRow<Material>& /*before*/, MaterialRow<Material>& /*changed*/) {}
+
 template <typename Material>
 ExitCode Edit(const Work& work) {
   const auto row = work.Store().Find<Material>(work.command.name);
   if (!row) return work.Refuse({{kUnknownMaterialRow, " " + work.command.name}});
   auto cells = WithSettings(storage::TableOf<Material>(), storage::CellsFromRow(*row), work.command.settings);
   if (const auto* refusal = std::get_if<Message>(&cells)) return work.Refuse(*refusal);
-  auto checked = Checked<Material>(work, std::get<Cells>(cells));
+  auto changed = storage::RowFromCells<Material>(std::get<Cells>(cells));
+  Follow(*row, changed);
+  const bool same_source = changed.source == row->source && !row->source.empty();
+  if (same_source && materials::ValuesDiffer(changed, *row)) changed.source = materials::kUserValueSource;
+  auto checked = Checked<Material>(work, storage::CellsFromRow(changed));
   if (const auto* refusal = std::get_if<Message>(&checked)) return work.Refuse(*refusal);
   const auto change = [&](MaterialRow<Material>& stored) {
     stored = std::get<MaterialRow<Material>>(checked);

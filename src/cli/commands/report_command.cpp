@@ -7,6 +7,7 @@
 #include <sstream>
 #include <system_error>
 
+#include "application/material_sources.h"
 #include "cli/commands/project_run.h"
 #include "cli/output/failure_report.h"
 #include "cli/output/outcome_table.h"
@@ -15,6 +16,7 @@
 #include "foundation/utf8.h"
 #include "storage/files/open_elsewhere.h"
 #include "storage/files/whole_file.h"
+#include "validation/second_opinion.h"
 
 namespace velmar::cli {
 namespace {
@@ -92,12 +94,16 @@ ExitCode ReportOne(const ReportCommand& command, const path& project, const Serv
   ProjectRun run = RunProject(project, services.materials, command.go_on_outside_ranges);
   for (const Message& message : run.outcome.messages) WriteMessage(message, services.words, errors);
   if (!run.outcome.result) return CodeOf(run.outcome.status);
+  Message confidence = validation::ConfidenceOf(run.setup, run.outcome.result, services.accuracy());
   const ReportContent content{
       .name = project.stem().string(),
       .setup = std::move(run.setup),
       .result = *run.outcome.result,
       .totals = run.totals,
+      .confidence = std::move(confidence),
       .words = services.words,
+      .file = project.filename().string(),
+      .sources = application::MaterialSourcesIn(services.material_database, services.words),
       .tell = [&](const Message& message) { WriteMessage(message, services.words, errors); }};
   return WriteReports(command, project, content, services, errors);
 }

@@ -7,6 +7,7 @@
 #include "cli/commands/project_run.h"
 #include "cli/output/outcome_json.h"
 #include "cli/output/outcome_table.h"
+#include "presentation/texts/result_notes.h"
 #include "validation/second_opinion.h"
 
 namespace velmar::cli {
@@ -25,7 +26,11 @@ ExitCode Execute(const RunCommand& command, const Services& services, std::ostre
     WriteJson(json, out);
   } else if (run.outcome.result) {
     WriteResult(run.texts, *run.outcome.result, run.numbers, run.totals, services.words, out);
-    WriteMessage({validation::IntervalLine(interval)}, services.words, out);
+    for (const std::string& note : presentation::ResultNotes(
+             *run.setup.calculation, *run.outcome.result,
+             validation::ConfidenceLines(run.setup, *run.outcome.result, interval), services.words)) {
+      out << note << '\n';
+    }
   }
   return CodeOf(run.outcome.status);
 }

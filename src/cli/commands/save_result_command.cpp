@@ -11,28 +11,15 @@
 #include "cli/output/outcome_table.h"
 #include "foundation/message_rows.h"
 #include "presentation/texts/descriptions.h"
-#include "presentation/texts/words.h"
+#include "presentation/texts/result_notes.h"
 #include "storage/results/result_to_save.h"
 #include "storage/results/results_store.h"
 
 namespace velmar::cli {
 namespace {
 
-/// What a run told, a line each, without the question that the user answered.
-std::string ToldBy(const calculation::RunOutcome& outcome, const presentation::Words& words) {
-  std::string told;
-  for (const Message& message : outcome.messages) {
-    for (const MessageLine& line : message) {
-      if (LeadingRow(line) == kGoOnRow) continue;
-      told += (told.empty() ? "" : "\n") + presentation::InWords(line, words);
-    }
-  }
-  return told;
-}
-
 ExitCode Store(const SaveResultCommand& command, const Services& services,
-               const calculation::OpenCalculation& open, const std::string& told, std::ostream& out,
-               std::ostream& errors) {
+               const calculation::OpenCalculation& open, std::ostream& out, std::ostream& errors) {
   const elements::Setup& setup = open.Setup();
   const storage::SavedResult row =
       storage::ResultToSave(setup, open.Result().value(),
@@ -40,7 +27,8 @@ ExitCode Store(const SaveResultCommand& command, const Services& services,
                              .description = presentation::ResultDescription(setup, services.words),
                              .thickness_mm = open.CurrentTotals().thickness_mm,
                              .mass_kg_m2 = open.CurrentTotals().surface_mass_kg_m2,
-                             .messages = told});
+                             .messages = presentation::Joined(presentation::RangeNotes(
+                                 *setup.calculation, *open.Result(), services.words))});
   storage::ResultsStore store(services.result_database);
   switch (store.Save(storage::TableFor(RowOf(*setup.calculation).family), row)) {
     case storage::SaveStatus::kSaved:
@@ -72,7 +60,7 @@ ExitCode Execute(const SaveResultCommand& command, const Services& services, std
     if (!outcome.result) {
       return outcome.status == calculation::RunStatus::kFailed ? ExitCode::kFailed : ExitCode::kNoResult;
     }
-    return Store(command, services, open, ToldBy(outcome, services.words), out, errors);
+    return Store(command, services, open, out, errors);
   } catch (const Failure& failure) {
     return TellFailure(failure, services.words, errors);
   }

@@ -20,7 +20,11 @@ std::optional<presentation::CurveChart> WholeChart(const ReportContent& content)
   return presentation::WholeChartOf(content.setup, content.result, content.words);
 }
 
-std::string Pdf(const ReportContent& content) { return presentation::PagePdf(PageOf(content), content.name); }
+std::string Pdf(const ReportContent& content) {
+  presentation::PaginaDiStampa page = PageOf(content);
+  TellProvenance(page, content.setup, content.words, ProvenanceOfContent(content));
+  return presentation::PagePdf(page, content.name);
+}
 
 std::string Svg(const ReportContent& content) {
   const std::optional<presentation::CurveChart> chart = WholeChart(content);
@@ -33,7 +37,7 @@ std::string Svg(const ReportContent& content) {
 presentation::PaginaDiStampa PageOf(const ReportContent& content) {
   return presentation::PaginaDi(content.setup,
                                 {content.totals.thickness_mm, content.totals.surface_mass_kg_m2},
-                                &content.result, content.words, WholeChart(content));
+                                &content.result, content.words, WholeChart(content), content.confidence);
 }
 
 std::vector<ReportFormat> DrawnFormats(const std::filesystem::path& templates) {
@@ -49,7 +53,7 @@ std::vector<ReportFormat> DrawnFormats(const std::filesystem::path& templates) {
     return ExcelReportBytes(templates, content);
   };
   return {{.extension = "docx", .help = kWordHelpRow, .bytes = drawn(word)},
-          {.extension = "xlsx", .help = kExcelHelpRow, .bytes = excel},
+          {.extension = "xlsx", .help = kExcelHelpRow, .bytes = drawn(excel)},
           {.extension = "pdf", .help = kPdfHelpRow, .bytes = drawn(Pdf)},
           {.extension = "svg", .help = kSvgHelpRow, .bytes = drawn(Svg)}};
 }

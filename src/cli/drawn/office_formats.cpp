@@ -1,15 +1,17 @@
 #include "cli/drawn/office_formats.h"
 
-#include <optional>
 #include <system_error>
 #include <utility>
 
 #include "foundation/failure.h"
 #include "foundation/message_rows.h"
+#include "presentation/export/document_provenance.h"
 #include "presentation/export/report_chart.h"
+#include "presentation/export/report_section.h"
 #include "presentation/reports/excel_report.h"
 #include "presentation/reports/word_report.h"
 #include "storage/files/whole_file.h"
+#include "storage/project/project_writer.h"
 
 namespace velmar::cli {
 namespace {
@@ -25,18 +27,25 @@ std::string ReadTemplate(const std::filesystem::path& templates, std::string_vie
   return storage::ReadWhole(file, kLargestTemplate);
 }
 
-presentation::ReportRecord RecordOf(const ReportContent& content,
-                                    std::optional<presentation::Picture> chart) {
+presentation::ReportRecord RecordOf(const ReportContent& content, bool with_chart) {
+  presentation::ReportPictures pictures{.section =
+                                            presentation::ReportSectionOf(content.setup, content.words)};
+  if (with_chart) {
+    pictures.chart = presentation::ReportChartOf(content.setup, content.result, content.words);
+  }
   return presentation::ReportRecordOf(content.setup, content.result,
                                       {content.totals.thickness_mm, content.totals.surface_mass_kg_m2},
-                                      content.words, std::move(chart));
+                                      content.words, std::move(pictures), {}, ProvenanceOfContent(content));
 }
 
 }  // namespace
 
+presentation::Provenance ProvenanceOfContent(const ReportContent& content) {
+  return presentation::ProvenanceOf(storage::WriteProject(content.setup), content.file, content.sources);
+}
+
 std::string WordReportBytes(const std::filesystem::path& templates, const ReportContent& content) {
-  const presentation::ReportRecord record =
-      RecordOf(content, presentation::ReportChartOf(content.setup, content.result, content.words));
+  const presentation::ReportRecord record = RecordOf(content, true);
   presentation::WrittenReport report = presentation::WriteWordReport(
       ReadTemplate(templates, presentation::WordTemplateName(record.family)), record);
   if (!report.unknown_placeholders.empty() && content.tell) {
@@ -49,7 +58,7 @@ std::string WordReportBytes(const std::filesystem::path& templates, const Report
 
 std::string ExcelReportBytes(const std::filesystem::path& templates, const ReportContent& content) {
   return presentation::WriteExcelReport(ReadTemplate(templates, presentation::kExcelTemplateName),
-                                        RecordOf(content, std::nullopt));
+                                        RecordOf(content, false));
 }
 
 }  // namespace velmar::cli

@@ -1,5 +1,6 @@
 #include "cli/output/outcome_json.h"
 
+#include <cmath>
 #include <optional>
 #include <ostream>
 
@@ -34,6 +35,17 @@ constexpr Quantity kQuantities[] = {
     {"RwEstimate", &ResultSet::rw_estimate},
     {"DeltaRwEstimate", &ResultSet::delta_rw_estimate},
 };
+
+/// {"quantity", "value", "lowest", "highest", "unit"}; a range has only the ends that it has, a choice none.
+nlohmann::json RangeJson(const acoustics::RangeLeft& range, const presentation::Words& words) {
+  nlohmann::json json = {{"quantity", words(range.quantity)}};
+  if (range.unit.empty()) return json;
+  json["value"] = range.value;
+  json["unit"] = range.unit;
+  if (std::isfinite(range.lowest)) json["lowest"] = range.lowest;
+  if (std::isfinite(range.highest)) json["highest"] = range.highest;
+  return json;
+}
 
 }  // namespace
 
@@ -88,6 +100,10 @@ nlohmann::json OutcomeJson(const CalculationTexts& texts, const calculation::Run
   json["messages"] = nlohmann::json::array();
   for (const Message& message : outcome.messages) {
     for (auto& line : MessageJson(message, words)) json["messages"].push_back(std::move(line));
+  }
+  if (outcome.result) {
+    for (const acoustics::RangeLeft& range : outcome.result->ranges_left)
+      json["ranges_left"].push_back(RangeJson(range, words));
   }
   json["thickness"] = totals.thickness_mm;
   json["surface_mass"] = totals.surface_mass_kg_m2;

@@ -24,7 +24,7 @@ struct CalculationTexts {
 
 /// A run as one JSON object: the calculation, "status", "messages", the quantities that the calculation
 /// writes (a quantity it does not write has no key), "ratings", "thickness" in mm and "surface_mass" in
-/// kg/m². Numbers read back exactly.
+/// kg/m², and "ranges_left" where the user chose to leave a relation's range. Numbers read back exactly.
 /// @param numbers every rating of the result's spectrum
 nlohmann::json OutcomeJson(const CalculationTexts& texts, const calculation::RunOutcome& outcome,
                            std::span<const elements::SingleNumber> numbers, const calculation::Totals& totals,

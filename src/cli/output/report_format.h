@@ -7,6 +7,7 @@
 #include "elements/result_set.h"
 #include "elements/setup.h"
 #include "foundation/message.h"
+#include "presentation/texts/calculation_data.h"
 #include "presentation/texts/words.h"
 
 namespace velmar::cli {
@@ -17,7 +18,10 @@ struct ReportContent {
   elements::Setup setup{};
   elements::ResultSet result{};
   calculation::Totals totals{};
+  Message confidence{};  ///< what is known of the error of the result
   presentation::Words words{};
+  std::string file{};                          ///< the project's name without its folder; UTF-8
+  presentation::MaterialSources sources{};     ///< of the layers' materials
   std::function<void(const Message&)> tell{};  ///< what the user is to know of a report that was written
 };
 

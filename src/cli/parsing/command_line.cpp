@@ -42,6 +42,7 @@ ExitCode ExecuteParsed(const CLI::App& app, Parsed& parsed, const Services& serv
     return Execute(parsed.save_result, services, out, errors);
   }
   if (app.got_subcommand("results")) return Execute(parsed.results, services, out, errors);
+  if (parsed.changes_own_measurements) return Execute(parsed.own_measurements, services, out, errors);
   if (app.got_subcommand("library")) return Execute(parsed.library, services, out, errors);
   if (app.got_subcommand("import")) return Execute(parsed.import, services, out, errors);
   parsed.models.go_on_outside_ranges = parsed.answer == "yes";

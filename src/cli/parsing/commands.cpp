@@ -82,15 +82,19 @@ void AddMaterials(CLI::App& app, Parsed& parsed, const presentation::Words& word
     command->add_option("NAME", parsed.materials.name, words(kMaterialNameHelpRow))->required();
     return command;
   };
+  const auto add_force = [&](CLI::App* command) {
+    command->add_flag("--force", parsed.materials.force, words(kForceHelpRow));
+    return command;
+  };
   add_name(add("show", kMaterialsShowHelpRow, MaterialsAction::kShow));
-  add("add", kMaterialsAddHelpRow, MaterialsAction::kAdd)
+  add_force(add("add", kMaterialsAddHelpRow, MaterialsAction::kAdd))
       ->add_option("SETTINGS", parsed.materials.settings, settings)
       ->required();
-  add_name(add("edit", kMaterialsEditHelpRow, MaterialsAction::kEdit))
+  add_force(add_name(add("edit", kMaterialsEditHelpRow, MaterialsAction::kEdit)))
       ->add_option("SETTINGS", parsed.materials.settings, settings)
       ->required();
   add_name(add("delete", kMaterialsDeleteHelpRow, MaterialsAction::kDelete));
-  add("import", kMaterialsImportHelpRow, MaterialsAction::kImport)
+  add_force(add("import", kMaterialsImportHelpRow, MaterialsAction::kImport))
       ->add_option("FILE", parsed.materials.file, words(kImportFileHelpRow))
       ->required();
   add("export", kMaterialsExportHelpRow, MaterialsAction::kExport)
@@ -135,6 +139,36 @@ void AddFacade(CLI::App& app, Parsed& parsed, const presentation::Words& words) 
       ->take_all();
 }
 
+/// The commands of `library` that change the user's own measurements.
+void AddOwnMeasurements(CLI::App& group, Parsed& parsed, const presentation::Words& words) {
+  OwnMeasurementsCommand& own = parsed.own_measurements;
+  const auto add = [&](const char* name, MessageRow help, OwnMeasurementsAction action) {
+    CLI::App* command = group.add_subcommand(name, words(help));
+    command->add_option("KIND", own.kind, words(kLibraryKindHelpRow))->required();
+    command->callback([&parsed, action] {
+      parsed.changes_own_measurements = true;
+      parsed.own_measurements.action = action;
+    });
+    return command;
+  };
+  const auto add_name = [&](CLI::App* command) {
+    command->add_option("NAME", own.name, words(kLibraryTestHelpRow))->required();
+    return command;
+  };
+  const auto add_settings = [&](CLI::App* command) {
+    command->add_option("SETTINGS", own.settings, words(kLibrarySettingsHelpRow));
+    command->add_option("--bands", own.bands, words(kLibraryBandsHelpRow));
+  };
+  add_settings(add("add", kLibraryAddHelpRow, OwnMeasurementsAction::kAdd));
+  add_settings(add_name(add("edit", kLibraryEditHelpRow, OwnMeasurementsAction::kEdit)));
+  add_name(add("delete", kLibraryDeleteHelpRow, OwnMeasurementsAction::kDelete));
+  CLI::App* import = add("import", kLibraryImportHelpRow, OwnMeasurementsAction::kImport);
+  import->add_option("FILE", own.file, words(kLibraryFileHelpRow))->required();
+  import->add_option("--name", own.name, words(kLibraryNameHelpRow));
+  add("export", kLibraryExportHelpRow, OwnMeasurementsAction::kExport)
+      ->add_option("FILE", own.file, words(kExportFileHelpRow));
+}
+
 void AddLibrary(CLI::App& app, Parsed& parsed, const presentation::Words& words) {
   CLI::App* group = app.add_subcommand("library", words(kLibraryHelpRow));
   group->require_subcommand(1);
@@ -149,6 +183,7 @@ void AddLibrary(CLI::App& app, Parsed& parsed, const presentation::Words& words)
   };
   add("list", kLibraryListHelpRow, LibraryAction::kList);
   add("show", kLibraryShowHelpRow, LibraryAction::kShow);
+  AddOwnMeasurements(*group, parsed, words);
 }
 
 void AddImport(CLI::App& app, Parsed& parsed, const presentation::Words& words) {

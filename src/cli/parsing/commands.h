@@ -12,6 +12,7 @@
 #include "cli/commands/library_command.h"
 #include "cli/commands/materials_command.h"
 #include "cli/commands/models_command.h"
+#include "cli/commands/own_measurements_command.h"
 #include "cli/commands/rate_command.h"
 #include "cli/commands/report_command.h"
 #include "cli/commands/results_command.h"
@@ -36,6 +37,8 @@ struct Parsed {
   MaterialsCommand materials{};
   ResultsCommand results{};
   LibraryCommand library{};
+  OwnMeasurementsCommand own_measurements{};
+  bool changes_own_measurements = false;  ///< of `library`: one of those commands was given
   ImportCommand import{};
   ReportCommand report{};
   SaveResultCommand save_result{};

@@ -44,10 +44,12 @@ ImpactRelation FindImpactRelation(ImpactFloorVariant variant, double mass_kg_m2,
   for (const RelationRow& row : kRelations) {
     if (row.variant != variant) continue;
     relation.lnw_db = RequireFinite(row.constant - row.slope * Log10(mass_kg_m2), "relation");
-    const double value = row.bounded == Bounded::kMass ? mass_kg_m2 : bearing_thickness_m;
-    const std::string_view unit = row.bounded == Bounded::kMass ? "kg/m²" : "m";
+    const bool mass = row.bounded == Bounded::kMass;
+    const double value = mass ? mass_kg_m2 : bearing_thickness_m;
     if (!IsWithin(value, row.lowest, row.highest))
-      relation.left = acoustics::RangeLeft{row.question, value, row.lowest, row.highest, unit};
+      relation.left = acoustics::RangeLeft{row.question,         value,
+                                           row.lowest,           row.highest,
+                                           mass ? "kg/m²" : "m", mass ? kRangeMassRow : kRangeThicknessRow};
   }
   return relation;
 }

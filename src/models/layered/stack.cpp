@@ -5,6 +5,7 @@
 #include <limits>
 #include <numbers>
 
+#include "foundation/wide_vectors.h"
 #include "models/layered/air.h"
 
 namespace velmar::models {
@@ -77,7 +78,7 @@ inline void AddImpedance(Waves& waves, std::size_t l, double zr, double zi) {
   waves.transmitted[l] *= before / (waves.re[l] * waves.re[l] + waves.im[l] * waves.im[l]);
 }
 
-void PassPlate(const WaveStage& stage, Waves& waves) {
+VELMAR_WIDE_VECTORS void PassPlate(const WaveStage& stage, Waves& waves) {
   const double fixed_re = stage.fixed.real();
   const double fixed_im = stage.fixed.imag();
   const double bending_re = stage.bending.real();
@@ -92,7 +93,8 @@ void PassPlate(const WaveStage& stage, Waves& waves) {
 }
 
 /// The impedance of a leaf with a core, into `zr` and `zi`.
-void CoredImpedance(const WaveStage& stage, const Lanes& kx2_lanes, Lanes& zr, Lanes& zi) {
+VELMAR_WIDE_VECTORS void CoredImpedance(const WaveStage& stage, const Lanes& kx2_lanes, Lanes& zr,
+                                        Lanes& zi) {
   const double fixed_re = stage.fixed.real();
   const double fixed_im = stage.fixed.imag();
   const double bending_re = stage.bending.real();
@@ -145,7 +147,7 @@ void PassPartingPlate(const WaveStage& stage, Waves& waves) {
 }
 
 /// A fluid layer: no term of the recursion grows, however thick or dense the layer is.
-void PassFluid(const WaveStage& stage, Waves& waves) {
+VELMAR_WIDE_VECTORS void PassFluid(const WaveStage& stage, Waves& waves) {
   const double k2_re = stage.wavenumber_squared.real();
   const double k2_im = stage.wavenumber_squared.imag();
   const double rho_re = stage.omega_density.real();

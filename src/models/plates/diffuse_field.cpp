@@ -5,6 +5,7 @@
 #include <cmath>
 
 #include "acoustics/constants.h"
+#include "foundation/wide_vectors.h"
 
 namespace velmar::models {
 namespace {
@@ -106,7 +107,7 @@ struct CavityLanes {
   }
 };
 
-Lanes OnePlateTau(const Angles& angles, const PlateLanes& plates) {
+VELMAR_WIDE_VECTORS Lanes OnePlateTau(const Angles& angles, const PlateLanes& plates) {
   Lanes tau{};
   for (std::size_t i = 0; i < kAngleSteps; ++i) {
     const double cosine = angles.cosine[i];
@@ -122,7 +123,8 @@ Lanes OnePlateTau(const Angles& angles, const PlateLanes& plates) {
   return tau;
 }
 
-Lanes CavityTau(const Angles& angles, const PlateLanes& plates, const CavityLanes& cavity) {
+VELMAR_WIDE_VECTORS Lanes CavityTau(const Angles& angles, const PlateLanes& plates,
+                                    const CavityLanes& cavity) {
   constexpr double kThreeAirImpedances = 3.0 * kAirImpedance;
   Lanes tau{};
   for (std::size_t i = 0; i < kAngleSteps; ++i) {

@@ -23,7 +23,8 @@ std::optional<acoustics::RangeLeft> FirstRangeLeft(RelationId id, const Relation
     if (IsWithin(quantity, range.lowest, range.highest)) continue;
     const MessagePiece check =
         range.words != nullptr ? MessagePiece(std::string(range.words)) : MessagePiece(range.question);
-    return acoustics::RangeLeft{check, quantity, range.lowest, range.highest, range.unit};
+    return acoustics::RangeLeft{check,         quantity,           range.lowest,
+                                range.highest, range.measure.unit, range.measure.quantity};
   }
   return std::nullopt;
 }

@@ -27,50 +27,60 @@ double LgDepth(In in) { return Lg(CavityDepthInCentimetres(in), kZeroCavityDepth
 double LgDepth1(In in) { return acoustics::Log10(CavityDepthInCentimetres(in) + 1.0); }
 double LgFibre1(In in) { return acoustics::Log10(FibreInCentimetres(in) + 1.0); }
 
-constexpr std::string_view kMass = "kg/m²";
-constexpr std::string_view kDensity = "kg/m³";
+constexpr RangeMeasure kMass = {kRangeMassRow, "kg/m²"};
+constexpr RangeMeasure kDensity = {kRangeDensityRow, "kg/m³"};
+constexpr RangeMeasure kThickness = {kRangeThicknessRow, "m"};
+constexpr RangeMeasure kThicknessInCentimetres = {kRangeThicknessRow, "cm"};
+constexpr RangeMeasure kCavity = {kRangeCavityRow, "cm"};
+constexpr RangeMeasure kFibre = {kRangeFibreRow, "cm"};
+constexpr RangeMeasure kResonance = {kRangeResonanceRow, "Hz"};
+constexpr RangeMeasure kBareRating = {kRangeBareRatingRow, "dB"};
+constexpr RangeMeasure kNoFibre = {kRangeNoFibreRow, {}};
+constexpr RangeMeasure kNotEmpty = {kRangeCavityNotEmptyRow, {}};
 constexpr double kNoLimit = std::numeric_limits<double>::infinity();
 
 constexpr RelationRange kBrick[] = {{PlateMass, 80, 400, kBrickMassRangeRow, kMass}};
 constexpr RelationRange kBrickFerrara[] = {{PlateMass, 80, 500, kBrickFerraraMassRangeRow, kMass}};
 constexpr RelationRange kPlasterboard[] = {{PlateMass, -kNoLimit, 150, kPlasterboardMassRangeRow, kMass}};
-constexpr RelationRange kConcrete[] = {{PlateMass, 115, 450, kConcreteMassRangeRow, kMass},
-                                       {PlateDensity, 750, 1600, kConcreteDensityRangeRow, kDensity},
-                                       {ThicknessInMetres, 0.11, 0.33, kConcreteThicknessRangeRow, "m"}};
+constexpr RelationRange kConcrete[] = {
+    {PlateMass, 115, 450, kConcreteMassRangeRow, kMass},
+    {PlateDensity, 750, 1600, kConcreteDensityRangeRow, kDensity},
+    {ThicknessInMetres, 0.11, 0.33, kConcreteThicknessRangeRow, kThickness}};
 constexpr RelationRange kHBlocks[] = {{PlateMass, 300, 500, kHBlocksMassRangeRow, kMass}};
 constexpr RelationRange kConcreteBlocks[] = {
     {PlateMass, 60, 200, kConcreteBlocksMassRangeRow, kMass},
-    {ThicknessInMetres, 0.08, 0.33, kConcreteBlocksThicknessRangeRow, "m"}};
+    {ThicknessInMetres, 0.08, 0.33, kConcreteBlocksThicknessRangeRow, kThickness}};
 constexpr RelationRange kGypsumBlocks[] = {
     {PlateMass, 70, 110, kGypsumBlocksMassRangeRow, kMass},
-    {ThicknessInMetres, 0.08, 0.1, kGypsumBlocksThicknessRangeRow, "m"}};
+    {ThicknessInMetres, 0.08, 0.1, kGypsumBlocksThicknessRangeRow, kThickness}};
 constexpr RelationRange kAeratedConcrete[] = {{PlateMass, 70, 150, kAeratedConcreteMassRangeRow, kMass}};
 constexpr RelationRange kHollowBlockFloor[] = {{PlateMass, 250, 500, kFloorMassRangeRow, kMass}};
 constexpr RelationRange kDoubleBrick[] = {
     {BothLeavesMass, 80, 400, kDoubleBrickMassRangeRow, kMass},
-    {CavityDepthInCentimetres, 5, kNoLimit, kDoubleBrickCavityRangeRow, "cm"},
-    {HasFibrousCavity, 1, 1, kLeavesOrCavityRangeRow}};
+    {CavityDepthInCentimetres, 5, kNoLimit, kDoubleBrickCavityRangeRow, kCavity},
+    {HasFibrousCavity, 1, 1, kLeavesOrCavityRangeRow, kNoFibre}};
 constexpr RelationRange kDoubleBrickFibre[] = {
     {BothLeavesMass, 80, 400, kDoubleBrickMassRangeRow, kMass},
-    {CavityDepthInCentimetres, 5, kNoLimit, kTorvalleCavityRangeRow, "cm"}};
+    {CavityDepthInCentimetres, 5, kNoLimit, kTorvalleCavityRangeRow, kCavity}};
 constexpr RelationRange kBoards[] = {
     {BothLeavesMass, -kNoLimit, 80, kLeavesOrCavityRangeRow, kMass},
-    {ThicknessInCentimetres, -kNoLimit, 30, kPlasterboardThicknessRangeRow, "cm"},
-    {FibreInCentimetres, -kNoLimit, 8, kFibreThicknessRangeRow, "cm"}};
+    {ThicknessInCentimetres, -kNoLimit, 30, kPlasterboardThicknessRangeRow, kThicknessInCentimetres},
+    {FibreInCentimetres, -kNoLimit, 8, kFibreThicknessRangeRow, kFibre}};
 constexpr RelationRange kDoubleConcrete[] = {
     {BothLeavesMass, 115, 450, kConcreteMassRangeRow, kMass},
     {BothLeavesDensity, 750, 1600, kConcreteDensityRangeRow, kDensity},
-    {ThicknessInMetres, 0.11, 0.33, kConcreteThicknessRangeRow, "m"},
+    {ThicknessInMetres, 0.11, 0.33, kConcreteThicknessRangeRow, kThickness},
     {HasEmptyCavity,
      1,
      1,
      {},
-     {},
+     kNotEmpty,
      "La formula empirica si riferisce a pareti doppie con l'intercapedine vuota"}};
 constexpr RelationRange kFloatingScreed[] = {
     {[](In in) { return FindFloatingScreed(in).mass_kg_m2; }, 250, 500, kSlabAndScreedMassRangeRow, kMass},
-    {[](In in) { return FindFloatingScreed(in).resonance_hz; }, 40, 200, kScreedResonanceRangeRow, "Hz"},
-    {[](In in) { return FindFloatingScreed(in).bare_rating_db; }, 20, 50, kBareRatingRangeRow, "dB"}};
+    {[](In in) { return FindFloatingScreed(in).resonance_hz; }, 40, 200, kScreedResonanceRangeRow,
+     kResonance},
+    {[](In in) { return FindFloatingScreed(in).bare_rating_db; }, 20, 50, kBareRatingRangeRow, kBareRating}};
 constexpr RelationRange kPane[] = {{PlateMass, -kNoLimit, 60, kGlassMassRangeRow, kMass}};
 constexpr RelationRange kInsulatingUnit[] = {{BothLeavesMass, -kNoLimit, 60, kGlassMassRangeRow, kMass}};
 

@@ -12,13 +12,19 @@ namespace velmar::models {
 
 using acoustics::RelationId;
 
+/// What a range is about.
+struct RangeMeasure {
+  MessageRow quantity{};    ///< its name; of a choice, what was chosen
+  std::string_view unit{};  ///< empty for a choice, which has none
+};
+
 /// Where a regression was measured: outside of lowest..highest (both inside) the user is asked.
 struct RelationRange {
   double (*quantity)(const RelationInput&) = nullptr;
   double lowest = -std::numeric_limits<double>::infinity();
   double highest = std::numeric_limits<double>::infinity();
   MessageRow question;
-  std::string_view unit{};      ///< of the quantity; empty for a choice, which has none
+  RangeMeasure measure{};
   const char* words = nullptr;  ///< asked instead of a row
 };
 

@@ -6,6 +6,7 @@
 #include "acoustics/constants.h"
 #include "foundation/failure.h"
 #include "foundation/message_rows.h"
+#include "foundation/wide_vectors.h"
 #include "models/sea/power_ratio.h"
 
 namespace velmar::models {
@@ -34,6 +35,7 @@ void RequireBalance(const HzSpectrum& power_ratio) {
 
 }  // namespace
 
+VELMAR_WIDE_VECTORS
 void SeaLeafPowerRatio(const HzSpectrum& radiation_efficiency, const SeaLeaf& leaf, HzSpectrum& power_ratio) {
   const double mass = leaf.surface_mass_kg_m2;
   const double resonance =

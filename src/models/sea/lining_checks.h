@@ -3,7 +3,7 @@
 #include <optional>
 
 #include "foundation/message.h"
-#include "foundation/message_rows.h"
+#include "foundation/catalogue_rows.h"
 #include "models/sea/lining.h"
 
 namespace velmar::models {

@@ -6,6 +6,7 @@
 
 #include "acoustics/constants.h"
 #include "foundation/rounding.h"
+#include "foundation/wide_vectors.h"
 
 namespace velmar::models {
 namespace {
@@ -71,6 +72,7 @@ bool HasPoleOnGrid(double critical_frequency_hz) {
 
 /// Edge and corner radiation at 1 Hz to `last_hz`, all of them below coincidence. A negative efficiency
 /// counts as 1.
+VELMAR_WIDE_VECTORS
 void FillEdgeModes(const RadiationFormula& formula, std::size_t last_hz, HzSpectrum& efficiency) {
   const HzSpectrum& roots = RootsOfHz();
   const double per_hz = 1.0 / formula.critical_frequency_hz;

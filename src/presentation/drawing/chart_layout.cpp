@@ -20,6 +20,7 @@ std::vector<LegendEntry> EntriesOf(const CurveChart& chart) {
   add(chart.laboratory.has_value(), chart.words.laboratory, kLaboratoryColour, true);
   add(chart.in_situ.has_value(), chart.words.in_situ, kInSituColour, true);
   add(chart.base.has_value(), chart.words.base, kBaseColour, true);
+  for (const FurtherCurve& curve : chart.further) add(true, curve.name, curve.colour, true);
   add(chart.marks.former.has_value(), chart.words.former, kFormerColour, false);
   return entries;
 }

@@ -1,16 +1,19 @@
 #include "presentation/drawing/chart_scale.h"
 
 #include <algorithm>
+#include <cmath>
+#include <vector>
 
 #include "foundation/rounding.h"
 
 namespace velmar::presentation {
 namespace {
 
-constexpr std::size_t kStartBand = 10;  // 500 Hz
-// The reference values that take part in the range: 100 Hz upwards, 2500 Hz downwards.
-constexpr std::size_t kRaisingReference = 0;
-constexpr std::size_t kLoweringReference = 14;
+/// Between two lines of the grid, dB; beyond these by tens again.
+constexpr std::array<double, 3> kRoundSteps = {1.0, 2.0, 5.0};
+constexpr int kSteps = static_cast<int>(kAxisLabelCount) - 1;
+/// What is left above the highest line for a curve, in steps: all but the room of a dot.
+constexpr double kRoomAbove = 0.8;
 
 /// What a chart of 10 to 80 dB has room for.
 constexpr double kLowestShown = 0.0;
@@ -27,17 +30,53 @@ void Widen(ChartRange& range, double value) {
   if (value != 0.0 && value < range.minimum) range.minimum = value;
 }
 
-/// From the lowest to the highest value; 10 to 80 dB without any.
-ChartRange RangeOfValues(const acoustics::Spectrum& values) {
+/// From the lowest to the highest value of the chart and its octaves; 10 to 80 dB without any.
+ChartRange RangeOfValues(const CurveChart& chart) {
   ChartRange range;
   bool any = false;
-  for (const double value : values) {
-    if (value == 0.0) continue;
-    if (!any) range = {value, value};
-    any = true;
-    Widen(range, value);
-  }
+  const auto widen = [&](const acoustics::Spectrum& values) {
+    for (const double value : values) {
+      if (value == 0.0) continue;
+      if (!any) range = {value, value};
+      any = true;
+      Widen(range, value);
+    }
+  };
+  widen(chart.values);
+  if (chart.octaves) widen(*chart.octaves);
   return range;
+}
+
+/// The smallest round range whose paper holds every level of `extremes`.
+ChartRange RoundRange(const ChartRange& extremes) {
+  for (double decade = 1.0;; decade *= 10.0) {
+    for (const double round : kRoundSteps) {
+      const double step = round * decade;
+      const double lowest = std::floor(extremes.minimum / step) * step;
+      if (extremes.maximum <= lowest + (kSteps + kRoomAbove) * step) return {lowest, lowest + kSteps * step};
+    }
+  }
+}
+
+/// Lowest and highest level of all that the chart shows; 10 to 80 dB where it shows nothing.
+ChartRange ExtremesOf(const CurveChart& chart) {
+  std::vector<double> levels;
+  const auto add = [&](const acoustics::Spectrum& curve) {
+    for (std::size_t band = chart.first_band; band <= chart.last_band; ++band) {
+      if (curve[band] != 0.0 && std::isfinite(curve[band])) levels.push_back(curve[band]);
+    }
+  };
+  add(chart.values);
+  for (const auto* curve : {&chart.base, &chart.laboratory, &chart.in_situ}) {
+    if (*curve) add(**curve);
+  }
+  for (const FurtherCurve& curve : chart.further) add(curve.values);
+  if (chart.shift) {
+    for (const double reference : chart.reference) levels.push_back(reference + *chart.shift);
+  }
+  if (levels.empty()) return {};
+  const auto [lowest, highest] = std::ranges::minmax_element(levels);
+  return {*lowest, *highest};
 }
 
 }  // namespace
@@ -45,20 +84,9 @@ ChartRange RangeOfValues(const acoustics::Spectrum& values) {
 ChartRange RangeOf(const CurveChart& chart) {
   ChartRange range;
   if (chart.fits_values) {
-    range = RangeOfValues(chart.values);
+    range = RangeOfValues(chart);
   } else if (chart.autoscale) {
-    range = {chart.values[kStartBand], chart.values[kStartBand]};
-    for (std::size_t band = chart.first_band + 1; band <= chart.last_band; ++band) {
-      Widen(range, chart.values[band]);
-      if (chart.base) Widen(range, (*chart.base)[band]);
-      for (const auto* overlay : {&chart.laboratory, &chart.in_situ}) {
-        if (*overlay && (**overlay)[band] != 0.0) Widen(range, (**overlay)[band]);
-      }
-    }
-    if (chart.shift) {
-      range.maximum = std::max(range.maximum, chart.reference[kRaisingReference] + *chart.shift);
-      range.minimum = std::min(range.minimum, chart.reference[kLoweringReference] + *chart.shift);
-    }
+    range = RoundRange(ExtremesOf(chart));
   }
   if (range.maximum == range.minimum) range.maximum += 1.0;
   return range;
@@ -67,6 +95,8 @@ ChartRange RangeOf(const CurveChart& chart) {
 void ShowWhole(CurveChart& chart) {
   for (const auto* curve : {&chart.base, &chart.laboratory, &chart.in_situ})
     chart.autoscale = chart.autoscale || (*curve && Leaves(**curve, chart));
+  for (const FurtherCurve& curve : chart.further)
+    chart.autoscale = chart.autoscale || Leaves(curve.values, chart);
   // Only upwards: a fitted scale follows a low reference curve no better.
   const bool high_reference =
       chart.shift && *std::ranges::max_element(chart.reference) + *chart.shift > kHighestShown;

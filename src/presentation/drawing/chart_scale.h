@@ -21,9 +21,9 @@ inline constexpr double kChartHeight = 90.0;
 
 inline constexpr std::size_t kAxisLabelCount = 8;
 
-/// The range that `chart` shows, with `autoscale` that of its data. Three oddities are wanted: band 0 (or the
-/// first band of a lining) never widens it; of the reference curve only the value at 100 Hz can raise it and
-/// only the value at 2500 Hz can lower it; a 500 Hz band without a value pulls it to 0.
+/// The range that `chart` shows. With `autoscale` the smallest one with lines at multiples of 1, 2, 5, 10,
+/// ... dB that keeps every curve of the chart on the paper, the reference curve included; a band without a
+/// value counts nowhere.
 ChartRange RangeOf(const CurveChart& chart);
 
 /// The labels of the dB axis from bottom to top, whole numbers, ties to even.

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QColor>
+#include <array>
 
 namespace velmar::presentation {
 
@@ -10,6 +11,10 @@ inline constexpr QColor kReferenceColour{0x16, 0x25, 0x4B};
 inline constexpr QColor kBaseColour{0xA0, 0xA0, 0xA0};
 inline constexpr QColor kLaboratoryColour{0xE7, 0x74, 0x27};
 inline constexpr QColor kInSituColour{0x00, 0xC0, 0x00};
+/// What other models say, one colour each.
+inline constexpr std::array kOpinionColours = {QColor{0x1F, 0x77, 0xB4}, QColor{0x8C, 0x56, 0x4B},
+                                               QColor{0xB8, 0x86, 0x0B}, QColor{0x2F, 0x4F, 0x4F}};
+inline constexpr QColor kOctavesColour{0x2A, 0x6E, 0xBB};
 inline constexpr QColor kFormerColour{0xD9, 0x8F, 0xC9};
 inline constexpr QColor kRequirementColour{0x00, 0x7A, 0x87};
 inline constexpr QColor kDeviationColour{0xD0, 0x3A, 0x2B, 0x46};

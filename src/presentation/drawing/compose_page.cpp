@@ -1,8 +1,9 @@
 #include <QPainter>
+#include <QPicture>
 #include <algorithm>
-#include <functional>
 
 #include "presentation/drawing/colours.h"
+#include "presentation/drawing/page_annex.h"
 #include "presentation/drawing/page_blocks.h"
 #include "presentation/drawing/page_text.h"
 #include "presentation/drawing/printed_page.h"
@@ -12,8 +13,6 @@
 namespace velmar::presentation {
 namespace {
 
-/// A line of small text under the results, in heights of its letters.
-constexpr double kNoteLine = 1.2;
 constexpr double kFrameInset = 0.3 * kPageInch;
 constexpr double kContentInset = 0.55 * kPageInch;
 constexpr double kGap = 0.08 * kPageInch;
@@ -22,7 +21,13 @@ constexpr double kBandTableWidth = 2.4 * kPageInch;
 constexpr double kTallestChart = 3.8 * kPageInch;
 constexpr double kLargestChartPart = 0.44;
 constexpr std::size_t kLongLayerList = 14;
-constexpr double kDrawingPixels = kTextPoints * 96.0 / 72.0;
+
+/// The height of small text under the results, with a little air below it.
+double NoteHeight(const std::string& text, double width) {
+  if (text.empty()) return 0.0;
+  const QFont font = PageFont(kTextPoints);
+  return WrappedHeight(FromWords(text), font, width) + 0.2 * LineHeight(font);
+}
 
 /// What is left of the page; blocks take their room from its top.
 class Composer {
@@ -40,6 +45,9 @@ class Composer {
     DrawResult();
     DrawElement();
   }
+
+  /// What found no room.
+  const PageRest& Rest() const { return rest_; }
 
  private:
   void Take(double height) { room_.setTop(std::min(room_.top() + height, room_.bottom())); }
@@ -74,34 +82,32 @@ class Composer {
   }
 
   void DrawProject() {
-    if (!page_.information.empty()) {
-      Take(DrawFields(painter_, room_, page_.information, kTextPoints, Landscape() ? 3 : 2));
-      DrawRule();
-    }
-    if (!page_.fields.empty()) {
-      Take(DrawFields(painter_, room_, page_.fields, kTextPoints + 1.0, Landscape() ? 3 : 2));
-      DrawRule();
-    }
+    DrawFieldsOf(page_.information, kTextPoints);
+    DrawFieldsOf(page_.fields, kTextPoints + 1.0);
   }
 
-  void DrawPixels(const QRectF& area, const std::function<void(const QRectF&)>& draw) {
-    painter_.save();
-    painter_.translate(area.topLeft());
-    painter_.scale(kPagePixel, kPagePixel);
-    painter_.setFont(PixelFont(QFont(QStringLiteral("Arial")), kDrawingPixels));
-    draw(QRectF(QPointF(), area.size() / kPagePixel));
-    painter_.restore();
+  /// A value that would take too many lines stands behind this page.
+  void DrawFieldsOf(std::vector<PageField> fields, double points) {
+    if (fields.empty()) return;
+    const int columns = Landscape() ? 3 : 2;
+    for (PageField& field : fields) {
+      if (!IsLongField(field, room_.width(), points, columns)) continue;
+      rest_.fields.push_back(field);
+      field.value = "\u2192 " + page_.foot.page + " 2";
+    }
+    Take(DrawFields(painter_, room_, fields, points, columns));
+    DrawRule();
   }
 
   /// Chart and result at the left, the bands at the right.
   void DrawResult() {
     const double line = 1.35 * LineHeight(PageFont(kResultPoints, true));
-    double note = 0.0;
-    for (const std::string* text : {&page_.further_results, &page_.results_note}) {
-      if (!text->empty()) note += kNoteLine * LineHeight(PageFont(kTextPoints));
-    }
-    const double results = line * static_cast<double>(page_.results.size()) + note;
-    if (!page_.chart && page_.bands.heads.empty()) {
+    const bool beside = page_.chart || !page_.bands.heads.empty();
+    const double width =
+        room_.width() - (beside && !page_.bands.heads.empty() ? kBandTableWidth + 2.0 * kGap : 0.0);
+    const double results = line * static_cast<double>(page_.results.size()) +
+                           NoteHeight(page_.further_results, width) + NoteHeight(page_.results_note, width);
+    if (!beside) {
       DrawResultLines(room_, line);
       Take(results + (page_.results.empty() ? 0.0 : kGap));
       return;
@@ -118,7 +124,8 @@ class Composer {
     }
     const QRectF chart(left.topLeft(), QSizeF(left.width(), height - results));
     if (page_.chart) {
-      DrawPixels(chart, [&](const QRectF& area) { DrawCurveChart(painter_, area, *page_.chart); });
+      DrawInPixels(painter_, chart,
+                   [&](const QRectF& area) { DrawCurveChart(painter_, area, *page_.chart); });
       painter_.setPen(QPen(kVerticalGridColour, kFrameWidth));
       painter_.setBrush(Qt::NoBrush);
       painter_.drawRect(chart);
@@ -137,10 +144,10 @@ class Composer {
     }
     for (const std::string* text : {&page_.further_results, &page_.results_note}) {
       if (text->empty()) continue;
-      const double height = LineHeight(PageFont(kTextPoints));
+      const double height = NoteHeight(*text, area.width());
       DrawWrapped(painter_, {area.topLeft(), QSizeF(area.width(), height)}, PageFont(kTextPoints),
-                  FromWords(*text), Qt::AlignLeft | Qt::AlignVCenter);
-      area.setTop(area.top() + kNoteLine * height);
+                  FromWords(*text), Qt::AlignLeft | Qt::AlignTop);
+      area.setTop(area.top() + height);
     }
   }
 
@@ -149,12 +156,17 @@ class Composer {
       const bool facade = page_.structure.empty();
       const std::vector<double> weights =
           facade ? std::vector{3.0, 0.8, 0.9, 0.8, 2.1} : std::vector<double>{};
-      const double height = DrawTable(painter_, room_, page_.elements,
-                                      {.points = kTextPoints + 1.0,
-                                       .weights = weights,
-                                       .first_left = facade,
-                                       .largest_height = room_.height()});
-      Take(height + 1.5 * kGap);
+      const TableStyle style{.points = kTextPoints + 1.0,
+                             .weights = weights,
+                             .first_left = facade,
+                             .largest_height = room_.height()};
+      const DrawnTable drawn = DrawTable(painter_, room_, page_.elements, style);
+      Take(drawn.height + 1.5 * kGap);
+      if (drawn.next_row < page_.elements.rows.size()) {
+        rest_.elements_from = drawn.next_row;
+        rest_.weights = weights;
+        rest_.first_left = facade;
+      }
     }
     if (page_.structure.empty()) return;
     const QFont font = PageFont(kHeadingPoints, true);
@@ -187,29 +199,57 @@ class Composer {
       section.setHeight(std::min(room_.height(), 3.4 * kPageInch));
       list.setRight(section.left() - 3.0 * kGap);
     }
-    DrawStructure(painter_, list, page_);
+    if (StructureFits(list.size(), page_)) {
+      DrawStructure(painter_, list, page_);
+    } else {
+      rest_.structure = true;
+      section = room_;
+    }
     if (section.isEmpty()) return;
-    DrawPixels(section, [&](const QRectF& area) {
-      DrawSection(painter_, area, page_.section,
-                  {.list_names = false, .smallest_number_px = kSmallestPoints * 96.0 / 72.0});
-    });
+    const SectionOptions options = PageSectionOptions(page_);
+    if (SectionLabelPixels(section, page_, options) < options.smallest_number_px) {
+      rest_.section = true;
+      return;
+    }
+    DrawInPixels(painter_, section,
+                 [&](const QRectF& area) { DrawSection(painter_, area, page_.section, options); });
   }
 
   QPainter& painter_;
   const PaginaDiStampa& page_;
   QRectF paper_;
   QRectF room_;
+  PageRest rest_{};
 };
+
+/// The pages behind the first.
+PageAnnex AnnexOf(const QSizeF& paper_inches, const PaginaDiStampa& page) {
+  QPicture nowhere;
+  QPainter painter(&nowhere);
+  Composer first(painter, paper_inches * kPageInch, page);
+  first.Compose();
+  return PageAnnex(paper_inches * kPageInch, page, first.Rest());
+}
 
 }  // namespace
 
+int PageCountOf(const QSizeF& paper_inches, const PaginaDiStampa& page) {
+  return paper_inches.isEmpty() ? 0 : 1 + AnnexOf(paper_inches, page).PageCount();
+}
+
 void ComponiPagina(QPainter& painter, double units_per_inch, const QSizeF& paper_inches,
-                   const PaginaDiStampa& page) {
+                   const PaginaDiStampa& page, int index) {
   if (units_per_inch <= 0.0 || paper_inches.isEmpty()) return;
+  const PageAnnex annex = AnnexOf(paper_inches, page);
   painter.save();
   painter.scale(units_per_inch / kPageInch, units_per_inch / kPageInch);
   painter.setRenderHint(QPainter::Antialiasing);
-  Composer(painter, paper_inches * kPageInch, page).Compose();
+  if (index == 0) {
+    Composer(painter, paper_inches * kPageInch, page).Compose();
+  } else {
+    annex.Draw(painter, index - 1);
+  }
+  annex.DrawFoot(painter, index);
   painter.restore();
 }
 

@@ -3,6 +3,7 @@
 #include <QPainter>
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "acoustics/bands.h"
 #include "presentation/drawing/chart_axes.h"
@@ -33,7 +34,7 @@ void DrawDot(QPainter& painter, const QPointF& centre, const QColor& colour) {
 }
 
 void DrawCurve(QPainter& painter, const ChartLayout& layout, const CurveChart& chart, const ChartRange& range,
-               const acoustics::Spectrum& values, const QColor& colour) {
+               const acoustics::Spectrum& values, const QColor& colour, Qt::PenStyle style = Qt::SolidLine) {
   const auto at = [&](std::size_t band) {
     return layout.At(static_cast<double>(band), LogicalY(values[band], range));
   };
@@ -42,12 +43,44 @@ void DrawCurve(QPainter& painter, const ChartLayout& layout, const CurveChart& c
     return chart.marks.pale_outside && outside ? Paler(colour) : colour;
   };
   for (const ChartSegment& segment : CurveSegments(values, chart.first_band, chart.last_band)) {
-    painter.setPen(QPen(colour_between(segment.from, segment.to), kCurveWidth, Qt::SolidLine, Qt::RoundCap,
+    painter.setPen(QPen(colour_between(segment.from, segment.to), kCurveWidth, style, Qt::RoundCap,
                         Qt::RoundJoin));
     painter.drawLine(at(segment.from), at(segment.to));
   }
   for (const std::size_t band : DottedBands(values, chart.first_band, chart.last_band)) {
     DrawDot(painter, at(band), colour_between(band, band));
+  }
+}
+
+/// Values of octaves, each over its three thirds: a level line with an edge where the octave ends, and no
+/// dots.
+void DrawSteps(QPainter& painter, const ChartLayout& layout, const CurveChart& chart, const ChartRange& range,
+               const acoustics::Spectrum& values, const QColor& colour) {
+  constexpr double kHalfBand = 0.5;
+  painter.setPen(QPen(colour, kCurveWidth, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin));
+  QPolygonF line;
+  for (std::size_t band = chart.first_band; band <= chart.last_band; ++band) {
+    if (values.at(band) == 0.0) {
+      painter.drawPolyline(std::exchange(line, {}));
+      continue;
+    }
+    const double y = LogicalY(values.at(band), range);
+    const auto centre = static_cast<double>(band);
+    line << layout.At(std::max(centre - kHalfBand, 0.0), y)
+         << layout.At(std::min(centre + kHalfBand, kChartWidth), y);
+  }
+  painter.drawPolyline(line);
+}
+
+/// A curve that stands beside the result.
+void DrawBeside(QPainter& painter, const ChartLayout& layout, const CurveChart& chart,
+                const ChartRange& range, const std::optional<acoustics::Spectrum>& values,
+                const QColor& colour, bool in_octaves) {
+  if (!values) return;
+  if (in_octaves) {
+    DrawSteps(painter, layout, chart, range, *values, colour);
+  } else {
+    DrawCurve(painter, layout, chart, range, *values, colour);
   }
 }
 
@@ -75,9 +108,12 @@ void DrawCurves(QPainter& painter, const ChartLayout& layout, const CurveChart& 
   DrawReference(painter, layout, chart, range);
   DrawFormer(painter, layout, chart, range);
   if (chart.base) DrawCurve(painter, layout, chart, range, *chart.base, kBaseColour);
+  DrawBeside(painter, layout, chart, range, chart.octaves, kOctavesColour, true);
   DrawCurve(painter, layout, chart, range, chart.values, kCalculatedColour);
-  if (chart.laboratory) DrawCurve(painter, layout, chart, range, *chart.laboratory, kLaboratoryColour);
-  if (chart.in_situ) DrawCurve(painter, layout, chart, range, *chart.in_situ, kInSituColour);
+  DrawBeside(painter, layout, chart, range, chart.laboratory, kLaboratoryColour, chart.laboratory_in_octaves);
+  DrawBeside(painter, layout, chart, range, chart.in_situ, kInSituColour, chart.in_situ_in_octaves);
+  for (const FurtherCurve& curve : chart.further)
+    DrawCurve(painter, layout, chart, range, curve.values, curve.colour, Qt::DotLine);
   painter.restore();
 }
 

@@ -1,11 +1,13 @@
 #pragma once
 
+#include <QColor>
 #include <QFont>
 #include <QRectF>
 #include <array>
 #include <cstddef>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "acoustics/airborne_rating.h"
 #include "acoustics/bands.h"
@@ -55,6 +57,13 @@ struct ChartMarks {
   ChartWindow window{};
 };
 
+/// A curve beside the calculated one, drawn with dashes.
+struct FurtherCurve {
+  std::string name{};  ///< in the legend
+  acoustics::Spectrum values{};
+  QColor colour{};
+};
+
 /// A result as curves over the bands. A value of exactly 0 is a band without a value. Levels in dB.
 struct CurveChart {
   acoustics::Spectrum values{};
@@ -63,7 +72,11 @@ struct CurveChart {
   std::optional<acoustics::Spectrum> base;        ///< the element under a lining
   std::optional<acoustics::Spectrum> laboratory;  ///< compared with, measured in the laboratory
   std::optional<acoustics::Spectrum> in_situ;     ///< compared with, measured in a building
-  std::string laboratory_name{};                  ///< of the structure compared with; empty: none is chosen
+  std::vector<FurtherCurve> further{};            ///< what other models say
+  bool laboratory_in_octaves = false;             ///< its values are octaves, drawn as steps over the thirds
+  bool in_situ_in_octaves = false;
+  std::optional<acoustics::Spectrum> octaves;  ///< octaves of the same structure, as steps behind `values`
+  std::string laboratory_name{};               ///< of the structure compared with; empty: none is chosen
   std::string in_situ_name{};
   bool autoscale = false;    ///< false: 10 to 80 dB
   bool fits_values = false;  ///< the scale is that of the values alone, from the lowest to the highest

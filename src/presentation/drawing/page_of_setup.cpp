@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <cmath>
 
 #include "elements/catalogue.h"
@@ -9,6 +10,7 @@
 #include "presentation/texts/calculation_labels.h"
 #include "presentation/texts/facade_texts.h"
 #include "presentation/texts/result_lines.h"
+#include "presentation/texts/result_notes.h"
 #include "presentation/texts/results_table.h"
 
 namespace velmar::presentation {
@@ -84,9 +86,17 @@ std::string PartName(const std::string& kind, const std::string& name) {
   return name.empty() ? kind : kind + ": " + name;
 }
 
+bool HasSmallElement(const elements::Facade& facade) {
+  const auto end = facade.components.begin() + facade.Count();
+  return std::any_of(facade.components.begin(), end,
+                     [](const elements::FacadeComponent& part) { return ComponentArea(part) == 0.0; });
+}
+
 PageTable FacadeTable(const Setup& setup, const Words& words) {
-  PageTable table{.heads = {words(kPartHeadingRow), "Rw (dB)", words(kPartAreaRow), words(kShareHeadingRow),
-                            words(kNotesHeadingRow)}};
+  // A small element has a level difference Dn,e,w, which is no Rw.
+  const bool small_parts = HasSmallElement(setup.facade);
+  PageTable table{.heads = {words(kPartHeadingRow), small_parts ? words(kSmallElementRatingRow) : "Rw (dB)",
+                            words(kPartAreaRow), words(kShareHeadingRow), words(kNotesHeadingRow)}};
   const double opaque = OpaqueArea(setup);
   table.rows.push_back({PartName(words(kOpaquePartRow), setup.base.name),
                         setup.base.rating_text,
@@ -97,7 +107,8 @@ PageTable FacadeTable(const Setup& setup, const Words& words) {
     const elements::FacadeComponent& part = setup.facade.components[static_cast<std::size_t>(i)];
     const double area = ComponentArea(part);
     const bool small = area == 0.0;
-    table.rows.push_back({PartName(words(kWindowOrDoorRow), part.name), part.rating_text,
+    const std::string symbol = small && !part.rating_text.empty() ? "Dn,e,w " : "";
+    table.rows.push_back({PartName(words(kWindowOrDoorRow), part.name), symbol + part.rating_text,
                           small ? std::string(elements::kSmallElementArea) : NumberText(area),
                           small ? std::string(elements::kSmallElementArea) : ShareText(setup, area),
                           small ? std::string() : TightnessText(part.tightness_class, words)});
@@ -111,6 +122,14 @@ PageTable LiningTable(const Setup& setup, const elements::ResultSet* result) {
                         FormatFixed(LiningMass(setup), 1),
                         result != nullptr ? FormatTerm(result->delta_rw) : std::string()});
   return table;
+}
+
+/// What there is to know of the result, a line each.
+std::string NoteOf(const CalculationRow& row, const elements::ResultSet& result, const Message& confidence,
+                   const Words& words) {
+  std::vector<std::string> notes = ResultNotes(row.calculation, result, confidence, words);
+  if (IsLining(row.family) && result.c) notes.insert(notes.begin(), words(kLiningTermsRow));
+  return Joined(notes);
 }
 
 /// What the two floors in hollow brick and concrete add behind their layers.
@@ -130,7 +149,7 @@ std::vector<std::string> NotesOf(const CalculationRow& row, const PageTotals& to
 }  // namespace
 
 PaginaDiStampa PaginaDi(const Setup& setup, const PageTotals& totals, const elements::ResultSet* result,
-                        const Words& words, std::optional<CurveChart> chart) {
+                        const Words& words, std::optional<CurveChart> chart, const Message& confidence) {
   PaginaDiStampa page;
   page.information = InformationOf(setup, words);
   if (!setup.calculation) return page;
@@ -139,7 +158,7 @@ PaginaDiStampa PaginaDi(const Setup& setup, const PageTotals& totals, const elem
   page.fields = FieldsOf(setup, row, totals, words);
   if (result != nullptr) {
     page.chart = chart ? std::move(chart) : CurveChartOf(setup, *result, words);
-    if (IsLining(row.family) && result->c) page.results_note = words(kLiningTermsRow);
+    page.results_note = NoteOf(row, *result, confidence, words);
     if (page.chart) AddComparisons(*page.chart, words, page.fields);
     page.bands = BandsOf(setup, row.family, *result, words);
     for (std::string line : {ResultLine(row.family, *result), ImprovementLine(row.family, *result)}) {
@@ -153,7 +172,16 @@ PaginaDiStampa PaginaDi(const Setup& setup, const PageTotals& totals, const elem
   if (!page.structure.empty()) page.structure_heading = words(kLayersTitleRow);
   page.structure_notes = NotesOf(row, totals, result);
   page.section = SectionOf(setup);
+  page.section_options = PaperOptions(setup, words);
+  page.data = CalculationDataOf(setup, words);
+  page.foot = {.page = words(kPageRow), .of = words(kPageOfRow)};
   return page;
+}
+
+void TellProvenance(PaginaDiStampa& page, const Setup& setup, const Words& words,
+                    const Provenance& provenance) {
+  page.data = CalculationDataOf(setup, words, provenance);
+  page.foot.left = FootText(setup.information, provenance);
 }
 
 }  // namespace velmar::presentation

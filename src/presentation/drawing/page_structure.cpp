@@ -13,16 +13,13 @@ namespace {
 constexpr double kNarrowestColumn = 1.9 * kPageInch;
 constexpr int kMostColumns = 3;
 
-/// A size of text, its line spacing in line heights, and how many lines a name may take.
+/// A size of text and its line spacing in line heights.
 struct Setting {
   double points = 0.0;
   double spacing = 0.0;
-  double name_lines = 2.0;
 };
-// A cut name comes before a layer left out.
-constexpr std::array kSettings = {Setting{10.0, 1.3},    Setting{10.0, 1.1}, Setting{9.0, 1.1},
-                                  Setting{8.0, 1.1},     Setting{7.5, 1.0},  Setting{7.0, 1.0},
-                                  Setting{7.0, 1.0, 1.0}};
+constexpr std::array kSettings = {Setting{10.0, 1.3}, Setting{10.0, 1.1}, Setting{9.0, 1.1},
+                                  Setting{8.0, 1.1},  Setting{7.5, 1.0},  Setting{7.0, 1.0}};
 
 struct Entry {
   QString number{};
@@ -88,8 +85,7 @@ StructureFit Place(const std::vector<Entry>& entries, const QSizeF& room, const 
   for (const Entry& entry : entries) {
     const QFont font = PageFont(points, entry.bold);
     const double line = LineHeight(font);
-    const double height = std::clamp(WrappedHeight(entry.name, font, NameWidth(entry, font, fit)), line,
-                                     setting.name_lines * line);
+    const double height = std::max(WrappedHeight(entry.name, font, NameWidth(entry, font, fit)), line);
     if (entry.begins_block && y > 0.0) y += 0.5 * line;
     // A heading never stands alone at the foot of a column.
     const double wanted = entry.bold ? height + line : height;
@@ -126,6 +122,11 @@ void DrawEntry(QPainter& painter, const QRectF& box, const Entry& entry, const S
 
 }  // namespace
 
+bool StructureFits(const QSizeF& size, const PaginaDiStampa& page) {
+  const std::vector<Entry> entries = EntriesOf(page);
+  return BestFit(entries, size).places.size() == entries.size();
+}
+
 double DrawStructure(QPainter& painter, const QRectF& area, const PaginaDiStampa& page) {
   const std::vector<Entry> entries = EntriesOf(page);
   const StructureFit fit = BestFit(entries, area.size());
@@ -135,10 +136,7 @@ double DrawStructure(QPainter& painter, const QRectF& area, const PaginaDiStampa
   for (std::size_t i = 0; i < fit.places.size(); ++i) {
     const PlacedEntry& place = fit.places[i];
     const QPointF corner(area.left() + place.column * (fit.column_width + gap), area.top() + place.top);
-    const bool cut = i + 1 == fit.places.size() && fit.places.size() < entries.size();
-    const Entry ellipsis{.name = QString(QChar(0x2026))};
-    DrawEntry(painter, QRectF(corner, QSizeF(fit.column_width, place.height)), cut ? ellipsis : entries[i],
-              fit);
+    DrawEntry(painter, QRectF(corner, QSizeF(fit.column_width, place.height)), entries[i], fit);
     bottom = std::max(bottom, place.top + place.height);
   }
   return bottom;

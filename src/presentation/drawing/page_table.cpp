@@ -11,7 +11,6 @@ namespace velmar::presentation {
 namespace {
 
 constexpr double kRuleWidth = 0.5 * kPagePoint;
-constexpr int kMostLines = 3;
 const QColor kHeadTint(0xEE, 0xF0, 0xF4);
 
 /// A table measured for one text size.
@@ -32,7 +31,7 @@ double RowHeight(const std::vector<std::string>& cells, const QFont& font, const
     height =
         std::max(height, WrappedHeight(FromWords(cells[i]), font, table.widths[i] - 2.0 * table.padding));
   }
-  return std::min(height, kMostLines * LineHeight(font)) + 0.6 * table.padding;
+  return height + 0.6 * table.padding;
 }
 
 MeasuredTable Measure(const PageTable& table, const TableStyle& style, double points, double width) {
@@ -62,42 +61,64 @@ void DrawRow(QPainter& painter, const QPointF& corner, double height, const std:
 
 }  // namespace
 
-double DrawTable(QPainter& painter, const QRectF& area, const PageTable& table, const TableStyle& style) {
-  if (table.heads.empty()) return 0.0;
+DrawnTable DrawTable(QPainter& painter, const QRectF& area, const PageTable& table, const TableStyle& style) {
+  if (table.heads.empty()) return {};
   double points = style.points;
   MeasuredTable measured = Measure(table, style, points, area.width());
-  while (measured.Height() > style.largest_height && points > kSmallestPoints) {
+  while (style.shrinks && measured.Height() > style.largest_height && points > kSmallestPoints) {
     points = std::max(kSmallestPoints, points - 0.5);
     measured = Measure(table, style, points, area.width());
   }
+  // Heads without a row below them tell nothing.
+  const double first = table.rows.empty() ? 0.0 : measured.row_heights.front();
+  if (measured.head_height + first > style.largest_height + 1.0) return {};
   painter.fillRect(QRectF(area.topLeft(), QSizeF(area.width(), measured.head_height)), kHeadTint);
   painter.setPen(kInkColour);
   DrawRow(painter, area.topLeft(), measured.head_height, table.heads, measured.head_font, measured,
           style.first_left);
   double y = area.top() + measured.head_height;
   const double bottom = area.top() + style.largest_height;
-  for (std::size_t i = 0; i < table.rows.size(); ++i) {
-    const bool last = i + 1 == table.rows.size();
-    const double height = measured.row_heights[i];
-    if (y + height + (last ? 0.0 : LineHeight(measured.font)) > bottom + 1.0) {
-      DrawRow(painter, {area.left(), y}, LineHeight(measured.font), {"\xE2\x80\xA6"}, measured.font, measured,
-              style.first_left);
-      y += LineHeight(measured.font);
-      break;
-    }
+  std::size_t row = 0;
+  for (; row < table.rows.size() && y + measured.row_heights[row] <= bottom + 1.0; ++row) {
+    const double height = measured.row_heights[row];
     painter.setPen(QPen(kVerticalGridColour, kRuleWidth));
     painter.drawLine(QPointF(area.left(), y + height), QPointF(area.right(), y + height));
     painter.setPen(kInkColour);
-    DrawRow(painter, {area.left(), y}, height, table.rows[i], measured.font, measured, style.first_left);
+    DrawRow(painter, {area.left(), y}, height, table.rows[row], measured.font, measured, style.first_left);
     y += height;
   }
-  return y - area.top();
+  return {.height = y - area.top(), .next_row = row};
+}
+
+namespace {
+
+struct FieldPlace {
+  QString caption{};
+  double indent = 0.0;
+  double height = 0.0;
+};
+
+double ColumnGap(double points) { return 2.0 * points * kPagePoint; }
+
+FieldPlace PlaceOf(const PageField& field, double width, const QFont& font) {
+  FieldPlace place{.caption = field.caption.empty() ? QString() : FromWords(field.caption + ": ")};
+  place.indent = std::min(WidthOf(place.caption, font), 0.6 * width);
+  place.height = WrappedHeight(FromWords(field.value), font, width - place.indent);
+  return place;
+}
+
+}  // namespace
+
+bool IsLongField(const PageField& field, double width, double points, int columns) {
+  const QFont font = PageFont(points);
+  const double column = (width - ColumnGap(points) * (columns - 1)) / columns;
+  return PlaceOf(field, column, font).height > kMostFieldLines * LineHeight(font) + 1.0;
 }
 
 double DrawFields(QPainter& painter, const QRectF& area, const std::vector<PageField>& fields, double points,
                   int columns) {
   const QFont font = PageFont(points);
-  const double gap = 2.0 * points * kPagePoint;
+  const double gap = ColumnGap(points);
   const double width = (area.width() - gap * (columns - 1)) / columns;
   double y = area.top();
   for (std::size_t begin = 0; begin < fields.size(); begin += static_cast<std::size_t>(columns)) {
@@ -106,12 +127,9 @@ double DrawFields(QPainter& painter, const QRectF& area, const std::vector<PageF
       const std::size_t index = begin + static_cast<std::size_t>(column);
       if (index >= fields.size()) break;
       const PageField& field = fields[index];
-      const QString caption = field.caption.empty() ? QString() : FromWords(field.caption + ": ");
-      const double indent = std::min(WidthOf(caption, font), 0.6 * width);
+      const auto& [caption, indent, height] = PlaceOf(field, width, font);
       const double x = area.left() + column * (width + gap);
       const QString value = FromWords(field.value);
-      const double height =
-          std::min(WrappedHeight(value, font, width - indent), kMostLines * LineHeight(font));
       painter.setPen(kQuietInkColour);
       DrawWrapped(painter, QRectF(x, y, indent + 1.0, LineHeight(font)), font, caption);
       painter.setPen(kInkColour);

@@ -9,6 +9,8 @@
 #include "elements/setup.h"
 #include "presentation/drawing/curve_chart.h"
 #include "presentation/drawing/section.h"
+#include "presentation/drawing/section_drawing.h"
+#include "presentation/texts/calculation_data.h"
 #include "presentation/texts/structure.h"
 #include "presentation/texts/words.h"
 
@@ -17,10 +19,7 @@ class QPainter;
 namespace velmar::presentation {
 
 /// A caption and its value, printed as "caption: value".
-struct PageField {
-  std::string caption{};
-  std::string value{};
-};
+using PageField = DataField;
 
 /// A table with heads; every row has as many cells as there are heads.
 struct PageTable {
@@ -28,7 +27,15 @@ struct PageTable {
   std::vector<std::vector<std::string>> rows{};
 };
 
-/// What stands on the one page of a calculation. UTF-8.
+/// What stands at the foot of every page.
+struct PageFoot {
+  std::string left{};  ///< project, code, date, program
+  std::string page{};  ///< "pagina"
+  std::string of{};    ///< "di"
+};
+
+/// What stands on the pages of a calculation: the first tells the result, those behind it what found no room
+/// there and the inputs. UTF-8.
 struct PaginaDiStampa {
   std::string title{};
   std::vector<PageField> information{};  ///< of the project; a value may hold line breaks
@@ -36,13 +43,16 @@ struct PaginaDiStampa {
   std::optional<CurveChart> chart{};
   std::vector<std::string> results{};  ///< bold lines
   std::string further_results{};       ///< terms and classes beyond the rated bands, in small
-  std::string results_note{};          ///< what there is to know of them, in small
+  std::string results_note{};          ///< what there is to know of them, in small, with line breaks
   PageTable bands{};                   ///< frequency, level, reference; no heads: no table
   PageTable elements{};                ///< parts of a facade, or a lining with its base
   std::string structure_heading{};
   std::vector<StructureBlock> structure{};
   std::vector<std::string> structure_notes{};  ///< lines behind the layers
   Section section{};
+  SectionOptions section_options{};
+  CalculationData data{};  ///< every input, on the pages behind the first
+  PageFoot foot{};
 };
 
 /// The totals of an element as the window shows them.
@@ -53,15 +63,23 @@ struct PageTotals {
 
 /// The page of a calculation. @param result nothing before a run: the page then shows the set-up alone.
 /// @param chart the chart as shown, with its overlays; without one it is made of `result`
+/// @param confidence what is known of the error of `result`
 PaginaDiStampa PaginaDi(const elements::Setup& setup, const PageTotals& totals,
                         const elements::ResultSet* result, const Words& words,
-                        std::optional<CurveChart> chart = std::nullopt);
+                        std::optional<CurveChart> chart = std::nullopt, const Message& confidence = {});
 
-/// `ComponiPagina`: draws `page` on a paper of `paper_inches` whose corner is the painter's origin; one inch
-/// of paper takes `units_per_inch` of the painter's units (the target's resolution times the factor of
-/// PreparaPagina). Everything is drawn as vectors. Long lists take smaller text, down to 7 points, and more
-/// columns; what still finds no room ends in an ellipsis.
+/// Says on `page`, which is that of `setup`, where its numbers come from.
+void TellProvenance(PaginaDiStampa& page, const elements::Setup& setup, const Words& words,
+                    const Provenance& provenance);
+
+/// How many pages `page` takes on paper of `paper_inches`; 0 for a paper without size.
+int PageCountOf(const QSizeF& paper_inches, const PaginaDiStampa& page);
+
+/// `ComponiPagina`: draws page `index` of `page` on a paper of `paper_inches` whose corner is the painter's
+/// origin; one inch of paper takes `units_per_inch` of the painter's units (the target's resolution times the
+/// factor of PreparaPagina). Everything is drawn as vectors. Long lists take smaller text, down to 7 points,
+/// and more columns; what still finds no room goes on behind the first page, tables with their heads.
 void ComponiPagina(QPainter& painter, double units_per_inch, const QSizeF& paper_inches,
-                   const PaginaDiStampa& page);
+                   const PaginaDiStampa& page, int index = 0);
 
 }  // namespace velmar::presentation

@@ -47,7 +47,7 @@ class Stack {
   bool Push(double thickness_mm, MaterialKind kind, int number, const std::string& name, LayerPlace place) {
     const double room_mm = std::min(thickness_mm, limit_mm_ - position_mm_);
     if (room_mm <= 0.0) return false;
-    strips_.push_back({position_mm_, room_mm, kind, number, name, place});
+    strips_.push_back({position_mm_, room_mm, kind, number, name, place, thickness_mm});
     position_mm_ += room_mm;
     return true;
   }

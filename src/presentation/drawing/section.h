@@ -26,6 +26,7 @@ struct Strip {
   int number = 0;  ///< of the layer, as everywhere else; 0: air and unnamed fibre have none
   std::string name{};
   LayerPlace place{};
+  double sheet_mm = 0.0;  ///< thickness as entered; the strip is thinner where a cavity has no room for it
 };
 
 /// A cut through the element as it stands: near side first, a floor from its finish downwards.

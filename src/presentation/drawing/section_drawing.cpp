@@ -4,6 +4,10 @@
 #include <algorithm>
 #include <array>
 
+#include "elements/catalogue.h"
+#include "foundation/decimal.h"
+#include "foundation/message_rows.h"
+#include "foundation/rounding.h"
 #include "presentation/drawing/colours.h"
 #include "presentation/drawing/hatches.h"
 #include "presentation/drawing/section_layout.h"
@@ -13,6 +17,7 @@ namespace velmar::presentation {
 namespace {
 
 constexpr double kBorderWidth = 1.0;
+constexpr double kSmallestNumberPixels = 9.0;
 constexpr double kArrowHead = 7.0;
 constexpr double kLargestDot = 1.8;
 const QColor kHighlightTint(0x16, 0x25, 0x4B, 0x38);
@@ -79,6 +84,61 @@ void DrawArrowHead(QPainter& painter, const QPointF& tip, const QPointF& back) {
   painter.drawPolygon(head.data(), 3);
 }
 
+/// The thickness of each layer beside it; where there is no room for the figures a tick alone.
+void DrawChain(QPainter& painter, const SectionLayout& layout, const Section& section) {
+  const QRectF& body = layout.body;
+  const double em = layout.text_px;
+  painter.setFont(layout.font);
+  for (const SectionDimension& dimension : layout.dimensions) {
+    painter.setPen(QPen(kQuietInkColour, 0.5 * kBorderWidth));
+    for (const double at : {dimension.from, dimension.to}) {
+      if (section.horizontal) {
+        painter.drawLine(QPointF(body.right() + 0.2 * em, at), QPointF(body.right() + 0.6 * em, at));
+      } else {
+        painter.drawLine(QPointF(at, body.bottom() + 0.2 * em), QPointF(at, body.bottom() + 0.6 * em));
+      }
+    }
+    const QString text = FromWords(FormatShortest(RoundToEven(dimension.thickness_mm, 4)));
+    const double room = dimension.to - dimension.from;
+    if (room < (section.horizontal ? em : WidthOf(text, layout.font) + 0.2 * em)) continue;
+    painter.setPen(kInkColour);
+    if (section.horizontal) {
+      DrawTextIn(painter, QRectF(body.right() + 0.7 * em, dimension.from, layout.chain, room),
+                 Qt::AlignLeft | Qt::AlignVCenter, text);
+    } else {
+      DrawTextIn(painter, QRectF(dimension.from, body.bottom() + 0.3 * em, room, 1.3 * em), Qt::AlignCenter,
+                 text);
+    }
+  }
+}
+
+void DrawSide(QPainter& painter, const QRectF& box, const QString& text, double turned) {
+  painter.save();
+  painter.translate(box.center());
+  painter.rotate(turned);
+  const QSizeF size = turned == 0.0 ? box.size() : box.size().transposed();
+  DrawTextIn(painter, QRectF(QPointF(-size.width() / 2.0, -size.height() / 2.0), size), Qt::AlignCenter,
+             text);
+  painter.restore();
+}
+
+void DrawSides(QPainter& painter, const SectionLayout& layout, const Section& section,
+               const SectionOptions& options) {
+  const QRectF& body = layout.body;
+  const double em = layout.text_px;
+  painter.setFont(layout.font);
+  painter.setPen(kQuietInkColour);
+  if (section.horizontal) {
+    const QSizeF size(body.width(), 1.3 * em);
+    DrawSide(painter, QRectF(body.topLeft() - QPointF(0.0, 1.5 * em), size), options.near_side, 0.0);
+    DrawSide(painter, QRectF(body.bottomLeft() + QPointF(0.0, 0.2 * em), size), options.far_side, 0.0);
+  } else {
+    const QSizeF size(1.3 * em, body.height());
+    DrawSide(painter, QRectF(body.topLeft() - QPointF(1.5 * em, 0.0), size), options.near_side, -90.0);
+    DrawSide(painter, QRectF(body.topRight() + QPointF(0.2 * em, 0.0), size), options.far_side, -90.0);
+  }
+}
+
 void DrawDimension(QPainter& painter, const SectionLayout& layout, const Section& section) {
   const double em = layout.text_px;
   const QRectF& body = layout.body;
@@ -86,10 +146,10 @@ void DrawDimension(QPainter& painter, const SectionLayout& layout, const Section
   painter.setRenderHint(QPainter::Antialiasing);
   const QString end = DimensionText(section.thickness_mm);
   const QString origin = QStringLiteral("0 (mm)");
-  const QPointF from = section.horizontal ? body.topRight() + QPointF(0.9 * em, 0.0)
-                                          : body.bottomLeft() + QPointF(0.0, 0.8 * em);
-  const QPointF to = section.horizontal ? body.bottomRight() + QPointF(0.9 * em, 0.0)
-                                        : body.bottomRight() + QPointF(0.0, 0.8 * em);
+  const QPointF off =
+      section.horizontal ? QPointF(0.9 * em + layout.chain, 0.0) : QPointF(0.0, 0.8 * em + layout.chain);
+  const QPointF from = (section.horizontal ? body.topRight() : body.bottomLeft()) + off;
+  const QPointF to = body.bottomRight() + off;
   const QPointF back = section.horizontal ? QPointF(0.0, kArrowHead) : QPointF(kArrowHead, 0.0);
   painter.setPen(QPen(kQuietInkColour, kBorderWidth));
   painter.drawLine(from, to);
@@ -132,6 +192,21 @@ std::optional<LayerPlace> PlaceOf(const Section& section, int number) {
 
 }  // namespace
 
+SectionOptions PaperOptions(const elements::Setup& setup, const Words& words) {
+  SectionOptions options{.smallest_number_px = kSmallestNumberPixels, .paper = true};
+  if (!setup.calculation) return options;
+  const elements::Orientation orientation = elements::RowOf(*setup.calculation).orientation;
+  if (elements::IsHorizontal(orientation)) {
+    options.near_side = FromWords(words(kAboveRow));
+    options.far_side = FromWords(words(kBelowRow));
+    return options;
+  }
+  const bool lining = orientation == elements::Orientation::kLining;
+  options.near_side = FromWords(words(lining ? kOutsideRow : kInsideRow));
+  options.far_side = FromWords(words(lining ? kInsideRow : kOutsideRow));
+  return options;
+}
+
 void DrawSection(QPainter& painter, const QRectF& area, const Section& section,
                  const SectionOptions& options) {
   if (area.isEmpty()) return;
@@ -141,7 +216,9 @@ void DrawSection(QPainter& painter, const QRectF& area, const Section& section,
     const SectionLayout layout = LayoutOf(area, section, painter.font(), options);
     DrawStrips(painter, layout, section, options);
     DrawLabels(painter, layout, options);
+    DrawChain(painter, layout, section);
     DrawDimension(painter, layout, section);
+    DrawSides(painter, layout, section, options);
     DrawList(painter, layout, options);
   }
   painter.restore();

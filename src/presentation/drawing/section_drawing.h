@@ -2,9 +2,11 @@
 
 #include <QFont>
 #include <QRectF>
+#include <QString>
 #include <optional>
 
 #include "presentation/drawing/section.h"
+#include "presentation/texts/words.h"
 
 class QPainter;
 
@@ -13,8 +15,15 @@ namespace velmar::presentation {
 struct SectionOptions {
   int highlighted_number = 0;       ///< the row to light up; 0 for none
   bool list_names = true;           ///< numbers and names beside or below the section, where there is room
-  double smallest_number_px = 4.0;  ///< where numbers would have to be smaller, some are left out
+  double smallest_number_px = 4.0;  ///< where numbers would have to be smaller, they stand in more lanes
+  bool paper = false;   ///< with the thickness of each layer beside it, where it fits, and behind its name
+  QString near_side{};  ///< what lies before the first strip: "interno", "sopra"
+  QString far_side{};   ///< what lies behind the last one
 };
+
+/// How paper draws the section of `setup`: with the thickness of each layer and with what lies on its sides.
+/// The first leaf of a wall stands inside; of a wall with a lining the lining does.
+SectionOptions PaperOptions(const elements::Setup& setup, const Words& words);
 
 /// Draws `section` to scale into `area`, on white, in units of which one is a screen pixel: strips, numbers
 /// with leaders, the dimension arrow, the list of names. A section without thickness draws nothing but the

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
-#include <optional>
+#include <cstddef>
 
 #include "foundation/decimal.h"
 #include "foundation/rounding.h"
@@ -14,6 +14,8 @@ namespace {
 
 constexpr double kListLine = 1.45;  // in text heights
 constexpr double kLargestListPart = 0.48;
+/// The deepest room for bent leaders, in text heights.
+constexpr double kSteepestBend = 2.9;
 constexpr double kSmallestBody = 0.2;  // of the area; names give way before the strips get smaller
 
 /// A number and its material.
@@ -22,12 +24,21 @@ struct NumberedRow {
   QString name{};
 };
 
+/// "2 x 12,5 mm"
+QString ThicknessOf(const Strip& strip, std::ptrdiff_t sheets) {
+  const std::string thickness = FormatShortest(RoundToEven(strip.sheet_mm, 4)) + " mm";
+  return FromWords(sheets > 1 ? std::to_string(sheets) + " x " + thickness : thickness);
+}
+
 /// One row a number.
-std::vector<NumberedRow> NumberedRows(const Section& section) {
+std::vector<NumberedRow> NumberedRows(const Section& section, bool with_thickness) {
   std::vector<NumberedRow> rows;
   for (const Strip& strip : section.strips) {
     if (strip.number == 0 || (!rows.empty() && rows.back().number == strip.number)) continue;
-    rows.push_back({strip.number, FromWords(strip.name)});
+    QString name = FromWords(strip.name);
+    if (with_thickness)
+      name += ", " + ThicknessOf(strip, std::ranges::count(section.strips, strip.number, &Strip::number));
+    rows.push_back({strip.number, name});
   }
   return rows;
 }
@@ -72,43 +83,86 @@ void PlaceList(SectionLayout& layout, QRectF& area, const std::vector<NumberedRo
   }
 }
 
-/// How the numbers stand: in one lane, or in two with the leaders of the far lane between the near numbers.
+/// How the numbers stand beside the strips: in one lane; in two with the leaders of the far lane between the
+/// near numbers; in more as flights of steps, the first number of each flight in the farthest lane, so that
+/// no leader runs through a number.
 struct LabelLanes {
   double text_px = 0.0;
-  bool two = false;
+  std::size_t count = 1;
   double size = 0.0;    ///< of a number along the strips' depth
   double leader = 0.0;  ///< what a passing leader takes
+  double width = 0.0;   ///< of a lane
 
-  double SizeOf(std::size_t index) const { return two && index % 2 == 1 ? leader : size; }
+  bool InSteps() const { return count > 2; }
+
+  /// The lane of label `index` of `labels`, 1 next to the strips.
+  std::size_t LaneOf(std::size_t index, std::size_t labels) const {
+    if (!InSteps()) return 1 + index % count;
+    const std::size_t begin = index / count * count;
+    return std::min(begin + count, labels) - index;
+  }
+  /// The room that label `index` takes among its neighbours.
+  double RoomOf(std::size_t index, std::size_t labels) const {
+    return LaneOf(index, labels) == 1 ? size : leader;
+  }
+  double LengthOf(std::size_t labels) const {
+    const std::size_t near = (labels + count - 1) / count;
+    if (InSteps()) return static_cast<double>(near) * size + static_cast<double>(labels - near) * leader;
+    return count == 1 ? size * static_cast<double>(labels)
+                      : static_cast<double>((labels + 3) / 2) * (size + leader);
+  }
 };
 
-/// The lanes for `count` numbers along `length`, none smaller than `smallest_px`; nothing when they do not
-/// fit.
-std::optional<LabelLanes> LanesFor(std::size_t count, double length, double text_px, double smallest_px,
-                                   const QFont& font, bool horizontal) {
+/// The room for numbers: along the strips' depth, and across, where lanes may take a part.
+struct LabelRoom {
+  double length = 0.0;
+  double across = 0.0;
+};
+
+LabelLanes LanesOfText(double text_px, const QFont& font, bool horizontal) {
+  const double width = WidthOf(QStringLiteral("00"), PixelFont(font, text_px, true));
+  return {.text_px = text_px,
+          .size = horizontal ? 1.25 * text_px : width + 0.45 * text_px,
+          .leader = 0.4 * text_px,
+          .width = horizontal ? width + 0.5 * text_px : 1.3 * text_px};
+}
+
+/// The lanes for `count` numbers: one or two as long as the text need not be smaller than `smallest_px`, then
+/// as many as they need. Every number finds its place.
+LabelLanes LanesFor(std::size_t count, const LabelRoom& room, double text_px, double smallest_px,
+                    const QFont& font, bool horizontal) {
+  constexpr double kSmallestLabel = 3.0;
+  constexpr double kLargestPart = 0.5;
   LabelLanes lanes;
-  for (lanes.text_px = text_px;; lanes.text_px -= 1.0) {
-    const QFont label_font = PixelFont(font, lanes.text_px, true);
-    lanes.size =
-        horizontal ? 1.25 * lanes.text_px : WidthOf(QStringLiteral("00"), label_font) + 0.45 * lanes.text_px;
-    lanes.leader = 0.4 * lanes.text_px;
-    lanes.two = lanes.size * static_cast<double>(count) > length;
-    const double taken =
-        lanes.two ? (static_cast<double>((count + 3) / 2)) * (lanes.size + lanes.leader) : 0.0;
-    if (taken <= length) return lanes;
-    if (lanes.text_px - 1.0 < smallest_px) return std::nullopt;
+  for (double px = text_px; px >= std::min(smallest_px, text_px); px -= 1.0) {
+    lanes = LanesOfText(px, font, horizontal);
+    for (lanes.count = 1; lanes.count <= 2; ++lanes.count) {
+      if (lanes.LengthOf(count) <= room.length) return lanes;
+    }
   }
+  for (double px = lanes.text_px; px >= kSmallestLabel; px -= 1.0) {
+    lanes = LanesOfText(px, font, horizontal);
+    for (lanes.count = 3; static_cast<double>(lanes.count) * lanes.width <= kLargestPart * room.across;
+         ++lanes.count) {
+      if (lanes.LengthOf(count) <= room.length) return lanes;
+    }
+  }
+  lanes.count = std::max<std::size_t>(count, 3);
+  lanes.leader = std::max(0.0, (room.length - lanes.size) / static_cast<double>(lanes.count));
+  lanes.width = std::min(lanes.width, kLargestPart * room.across / static_cast<double>(lanes.count));
+  return lanes;
 }
 
 /// The numbers of a section: where they stand along its depth and how deep their band is.
 struct LabelBand {
   LabelLanes lanes{};
-  double lane_width = 0.0;
   double bend = 0.0;  ///< room in which the leaders bend towards their strips
   std::vector<double> targets{};
   std::vector<double> centres{};
 
-  double Depth() const { return targets.empty() ? 0.0 : (lanes.two ? 2.0 : 1.0) * lane_width + bend; }
+  double Depth() const {
+    return targets.empty() ? 0.0 : static_cast<double>(lanes.count) * lanes.width + bend;
+  }
 };
 
 /// The middle of the middle one of the strips of `number`, in mm.
@@ -121,41 +175,20 @@ double TargetOf(const Section& section, int number) {
   return middle.position_mm + middle.thickness_mm / 2.0;
 }
 
-/// Every `step`th of `rows`.
-std::vector<NumberedRow> Thinned(const std::vector<NumberedRow>& rows, std::size_t step) {
-  std::vector<NumberedRow> kept;
-  for (std::size_t i = 0; i < rows.size(); i += step) kept.push_back(rows[i]);
-  return kept;
-}
-
-/// The band of numbers for strips that reach from `from` to `to`. Where not all are legible, `rows` keeps
-/// every second or third, as on a rule.
-LabelBand BandOf(std::vector<NumberedRow>& rows, const Section& section, const SectionLayout& layout,
-                 double smallest_px, double from, double to) {
+/// The band of numbers for strips that reach from `from` to `to`. @param across the room beside them
+LabelBand BandOf(const std::vector<NumberedRow>& rows, const Section& section, const SectionLayout& layout,
+                 double smallest_px, double from, double to, double across) {
   LabelBand band;
-  const std::vector<NumberedRow> all = rows;
-  for (std::size_t step = 1; step <= all.size(); ++step) {
-    rows = Thinned(all, step);
-    const auto lanes =
-        LanesFor(rows.size(), to - from, layout.text_px, smallest_px, layout.font, section.horizontal);
-    if (!lanes) continue;
-    band.lanes = *lanes;
-    break;
-  }
-  if (band.lanes.text_px == 0.0) {
-    rows.clear();
-    return band;
-  }
-  const QFont label_font = PixelFont(layout.font, band.lanes.text_px, true);
-  band.lane_width = section.horizontal ? WidthOf(QStringLiteral("00"), label_font) + 0.5 * band.lanes.text_px
-                                       : 1.3 * band.lanes.text_px;
+  if (rows.empty()) return band;
+  band.lanes = LanesFor(rows.size(), {to - from, across}, layout.text_px, smallest_px, layout.font,
+                        section.horizontal);
   std::vector<double> sizes;
   for (const NumberedRow& row : rows) {
     band.targets.push_back(from + (to - from) * TargetOf(section, row.number) / section.thickness_mm);
-    sizes.push_back(band.lanes.SizeOf(sizes.size()));
+    sizes.push_back(band.lanes.RoomOf(sizes.size(), rows.size()));
   }
-  // A number of the far lane is wider than its leader, also at the ends.
-  const double spare = band.lanes.two ? (band.lanes.size - band.lanes.leader) / 2.0 : 0.0;
+  // A number of the far one of two lanes is wider than its leader, also at the ends.
+  const double spare = band.lanes.count == 2 ? (band.lanes.size - band.lanes.leader) / 2.0 : 0.0;
   band.centres = SpreadLabels(band.targets, sizes, from + spare, to - spare);
   double farthest = 0.0;
   for (std::size_t i = 0; i < rows.size(); ++i) {
@@ -169,6 +202,7 @@ LabelBand BandOf(std::vector<NumberedRow>& rows, const Section& section, const S
 void PlaceLabels(SectionLayout& layout, const std::vector<NumberedRow>& rows, const LabelBand& band,
                  bool horizontal) {
   const QRectF& body = layout.body;
+  const LabelLanes& lanes = band.lanes;
   const double edge = horizontal ? body.left() : body.top();
   const double foot = edge - band.bend;
   const double inside =
@@ -176,17 +210,38 @@ void PlaceLabels(SectionLayout& layout, const std::vector<NumberedRow>& rows, co
   const auto point = [horizontal](double along, double across) {
     return horizontal ? QPointF(across, along) : QPointF(along, across);
   };
-  const double size = band.lanes.size;
   for (std::size_t i = 0; i < rows.size(); ++i) {
-    const double lane = band.lanes.two && i % 2 == 1 ? 2.0 : 1.0;
+    const auto lane = static_cast<double>(lanes.LaneOf(i, rows.size()));
     const double centre = band.centres[i];
+    // A number on a step begins at its leader: those of the steps before it pass at the other side.
+    const double begin =
+        lanes.InSteps() && lane > 1.0 ? centre - lanes.leader / 2.0 : centre - lanes.size / 2.0;
     SectionLabel label{.number = rows[i].number};
-    const QPointF corner = point(centre - size / 2.0, foot - lane * band.lane_width);
-    label.box = QRectF(corner, horizontal ? QSizeF(band.lane_width, size) : QSizeF(size, band.lane_width));
-    label.leader << point(centre, foot - (lane - 1.0) * band.lane_width) << point(centre, foot)
+    const QPointF corner = point(begin, foot - lane * lanes.width);
+    label.box =
+        QRectF(corner, horizontal ? QSizeF(lanes.width, lanes.size) : QSizeF(lanes.size, lanes.width));
+    label.leader << point(centre, foot - (lane - 1.0) * lanes.width) << point(centre, foot)
                  << point(band.targets[i], edge) << point(band.targets[i], inside);
     layout.labels.push_back(label);
   }
+}
+
+/// What stands beside the strips: thickness after thickness of what is alike, air too.
+std::vector<SectionDimension> DimensionsOf(const SectionLayout& layout, const Section& section) {
+  std::vector<SectionDimension> dimensions;
+  for (std::size_t i = 0; i < section.strips.size(); ++i) {
+    const Strip& strip = section.strips[i];
+    const bool same = i > 0 && strip.number != 0 && strip.number == section.strips[i - 1].number;
+    const QRectF& box = layout.strips[i];
+    const double to = section.horizontal ? box.bottom() : box.right();
+    if (same) {
+      dimensions.back().to = to;
+      dimensions.back().thickness_mm += strip.thickness_mm;
+    } else {
+      dimensions.push_back({section.horizontal ? box.top() : box.left(), to, strip.thickness_mm});
+    }
+  }
+  return dimensions;
 }
 
 void PlaceStrips(SectionLayout& layout, const Section& section) {
@@ -217,33 +272,44 @@ SectionLayout LayoutOf(const QRectF& area, const Section& section, const QFont& 
   const double em = layout.text_px;
   QRectF room = area.adjusted(0.6 * em, 0.6 * em, -0.6 * em, -0.6 * em);
 
-  std::vector<NumberedRow> rows = NumberedRows(section);
+  const std::vector<NumberedRow> rows = NumberedRows(section, options.paper);
   if (options.list_names) PlaceList(layout, room, rows);
   if (section.horizontal) room.adjust(0.0, 0.3 * em, 0.0, -0.3 * em);
+  if (!options.near_side.isEmpty() || !options.far_side.isEmpty()) {
+    const double side = 1.5 * em;
+    room.adjust(section.horizontal ? 0.0 : side, section.horizontal ? side : 0.0,
+                section.horizontal ? 0.0 : -side, section.horizontal ? -side : 0.0);
+  }
+  const double chain = !options.paper       ? 0.0
+                       : section.horizontal ? WidthOf(QStringLiteral("0000,0"), layout.font) + 0.6 * em
+                                            : 1.5 * em;
 
+  const double arrow = section.horizontal
+                           ? chain + 1.8 * em + WidthOf(DimensionText(section.thickness_mm), layout.font)
+                           : chain + 2.6 * em;
+  const double across = (section.horizontal ? room.width() : room.height()) - arrow - kSteepestBend * em;
   const LabelBand band =
-      section.horizontal
-          ? BandOf(rows, section, layout, options.smallest_number_px, room.top(), room.bottom())
-          : BandOf(rows, section, layout, options.smallest_number_px, room.left(), room.right());
+      BandOf(rows, section, layout, options.smallest_number_px, section.horizontal ? room.top() : room.left(),
+             section.horizontal ? room.bottom() : room.right(), std::max(across, em));
   layout.label_px = band.lanes.text_px;
   if (section.horizontal) {
-    const double arrow_width = 1.8 * em + WidthOf(DimensionText(section.thickness_mm), layout.font);
-    layout.body = room.adjusted(band.Depth(), 0.0, -arrow_width, 0.0);
-    layout.arrow = QRectF(layout.body.right(), layout.body.top(), arrow_width, layout.body.height());
+    layout.body = room.adjusted(band.Depth(), 0.0, -arrow, 0.0);
+    layout.arrow = QRectF(layout.body.right(), layout.body.top(), arrow, layout.body.height());
   } else {
-    layout.body = room.adjusted(0.0, band.Depth(), 0.0, -2.6 * em);
-    layout.arrow = QRectF(layout.body.left(), layout.body.bottom(), layout.body.width(), 2.6 * em);
+    layout.body = room.adjusted(0.0, band.Depth(), 0.0, -arrow);
+    layout.arrow = QRectF(layout.body.left(), layout.body.bottom(), layout.body.width(), arrow);
   }
   const bool cramped = layout.body.width() < kSmallestBody * area.width() ||
                        layout.body.height() < kSmallestBody * area.height();
   if (cramped && options.list_names) {
-    return LayoutOf(area, section, font,
-                    {.highlighted_number = options.highlighted_number,
-                     .list_names = false,
-                     .smallest_number_px = options.smallest_number_px});
+    SectionOptions without_names = options;
+    without_names.list_names = false;
+    return LayoutOf(area, section, font, without_names);
   }
+  layout.chain = chain;
   PlaceStrips(layout, section);
   PlaceLabels(layout, rows, band, section.horizontal);
+  if (options.paper) layout.dimensions = DimensionsOf(layout, section);
   return layout;
 }
 

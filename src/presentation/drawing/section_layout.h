@@ -25,6 +25,13 @@ struct SectionListEntry {
   QRectF box{};
 };
 
+/// A thickness told beside the strips it belongs to.
+struct SectionDimension {
+  double from = 0.0;  ///< along the strips' depth
+  double to = 0.0;
+  double thickness_mm = 0.0;
+};
+
 /// Where the pieces of a section stand.
 struct SectionLayout {
   QFont font{};
@@ -34,14 +41,16 @@ struct SectionLayout {
   std::vector<QRectF> strips{};
   std::vector<SectionLabel> labels{};
   std::vector<SectionListEntry> list{};
-  QRectF arrow{};  ///< band of the dimension arrow
+  QRectF arrow{};      ///< band of the dimension arrow
+  double chain = 0.0;  ///< what the thicknesses of the layers take of it
+  std::vector<SectionDimension> dimensions{};
 };
 
 /// The far end of the dimension arrow: "330 (mm)".
 QString DimensionText(double thickness_mm);
 
-/// The places of the pieces of `section` within `area`. Numbers never overlap; names are left out where they
-/// would leave too little for the strips.
+/// The places of the pieces of `section` within `area`. Numbers never overlap and none is left out; names are
+/// left out where they would leave too little for the strips.
 SectionLayout LayoutOf(const QRectF& area, const Section& section, const QFont& font,
                        const SectionOptions& options);
 

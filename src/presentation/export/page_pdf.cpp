@@ -25,7 +25,11 @@ std::string PagePdf(const PaginaDiStampa& page, const std::string& title) {
     // The page brings its own margins.
     writer.setPageMargins({0.0, 0.0, 0.0, 0.0});
     QPainter painter(&writer);
-    ComponiPagina(painter, kDotsPerInch, QPageSize::size(QPageSize::A4, QPageSize::Inch), page);
+    const QSizeF paper = QPageSize::size(QPageSize::A4, QPageSize::Inch);
+    for (int index = 0; index < PageCountOf(paper, page); ++index) {
+      if (index > 0) writer.newPage();
+      ComponiPagina(painter, kDotsPerInch, paper, page, index);
+    }
   }
   return buffer.data().toStdString();
 }

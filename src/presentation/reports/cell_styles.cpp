@@ -95,6 +95,17 @@ int CellStyles::FormatOf(const std::string& code) {
   return highest + 1;
 }
 
+int CellStyles::BoldOf(int font) {
+  pugi::xml_node fonts = xml_.child("styleSheet").child("fonts");
+  pugi::xml_node original = fonts.child("font");
+  for (int i = 0; i < font && original.next_sibling("font"); ++i) original = original.next_sibling("font");
+  pugi::xml_node bold = original ? fonts.append_copy(original) : fonts.append_child("font");
+  if (!bold.child("b")) bold.prepend_child("b");
+  const int count = CountOfChildren(fonts, "font");
+  Set(fonts, "count", count);
+  return count - 1;
+}
+
 int CellStyles::Derived(int base, const StyleChange& change) {
   const auto known = derived_.find({base, change});
   if (known != derived_.end()) return known->second;
@@ -107,6 +118,10 @@ int CellStyles::Derived(int base, const StyleChange& change) {
   if (!change.number_format.empty() && style.attribute("numFmtId").as_int() == kGeneralFormat) {
     Set(style, "numFmtId", FormatOf(change.number_format));
     Set(style, "applyNumberFormat", 1);
+  }
+  if (change.bold) {
+    Set(style, "fontId", BoldOf(style.attribute("fontId").as_int()));
+    Set(style, "applyFont", 1);
   }
   if (!change.horizontal.empty() || change.wrap) {
     pugi::xml_node alignment = style.child("alignment");

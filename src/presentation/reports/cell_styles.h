@@ -15,14 +15,15 @@ struct StyleChange {
   bool right = false;
   bool top = false;
   bool bottom = false;
-  std::string horizontal{};     ///< alignment "center", "left"; empty: as it is
-  bool wrap = false;            ///< break long texts
+  std::string horizontal{};  ///< alignment "center", "left"; empty: as it is
+  bool wrap = false;         ///< break long texts
+  bool bold = false;
   std::string number_format{};  ///< "0.0"; taken only where the style has none of its own
 
   bool operator<(const StyleChange& other) const {
-    return std::tie(left, right, top, bottom, horizontal, wrap, number_format) <
+    return std::tie(left, right, top, bottom, horizontal, wrap, bold, number_format) <
            std::tie(other.left, other.right, other.top, other.bottom, other.horizontal, other.wrap,
-                    other.number_format);
+                    other.bold, other.number_format);
   }
 };
 
@@ -41,6 +42,7 @@ class CellStyles {
  private:
   int BorderWith(int base, const StyleChange& change);
   int FormatOf(const std::string& code);
+  int BoldOf(int font);
   pugi::xml_node Style(int number) const;
 
   pugi::xml_document xml_{};

@@ -3,6 +3,7 @@
 #include "elements/catalogue.h"
 #include "foundation/decimal.h"
 #include "presentation/reports/cell_text.h"
+#include "presentation/reports/data_sheet.h"
 #include "presentation/reports/layer_table.h"
 #include "presentation/reports/workbook.h"
 
@@ -17,12 +18,22 @@ constexpr CellPlace kDescription{7, 4};
 /// The template joins the cells of the description up to here.
 constexpr int kLastDescriptionColumn = 10;
 constexpr CellPlace kSectionTitle{12, 8};
+constexpr CellPlace kSection{13, 8};
 constexpr CellPlace kSurfaceMass{25, 8};
 constexpr CellPlace kThickness{27, 8};
 constexpr CellPlace kBandHeading{36, 2};
 constexpr int kFirstBandRow = 37;
 constexpr int kBandColumn = 2;
 constexpr CellPlace kGenericNote{40, 3};
+constexpr int kLastNoteRow = 56;
+constexpr int kReferenceColumn = 3;
+constexpr int kBaseColumn = 4;
+constexpr CellPlace kFirstCaption{4, 1};
+constexpr int kFirstInformationRow = 8;
+constexpr int kInformationRows = 4;
+constexpr CellPlace kRemarksTitle{28, 8};
+constexpr CellPlace kRemarks{29, 8};
+constexpr int kLastRemarksRow = 34;
 constexpr int kRatingRow = 59;
 constexpr int kTermsRow = 60;
 constexpr int kWidthRow = 54;
@@ -58,6 +69,69 @@ void SetDimension(Workbook& workbook, int row, const std::string& caption, const
   SetEntered(workbook, {row, kValueColumn}, value);
 }
 
+/// A curve beside the result's: its heading and its values, as far as it has any.
+template <typename TextOf>
+void WriteFurtherCurve(Workbook& workbook, int column, const std::string& heading, const TextOf& text_of) {
+  workbook.Sheet().SetText({kBandHeading.row, column}, heading);
+  workbook.Sheet().SetStyle({kBandHeading.row, column}, workbook.Sheet().StyleOf(kBandHeading));
+  for (std::size_t band = 0; band < acoustics::kBandCount; ++band) {
+    const CellPlace place{kFirstBandRow + static_cast<int>(band), column};
+    workbook.Sheet().SetStyle(place, workbook.Sheet().StyleOf({place.row, kBandColumn}));
+    SetNumber(workbook, place, ParseDecimal(text_of(band)), kOneDecimal);
+  }
+}
+
+void WriteCurves(Workbook& workbook, const ReportRecord& record) {
+  if (!record.has_bands) {
+    workbook.RemoveCharts();
+    return;
+  }
+  workbook.Sheet().Unmerge(kGenericNote.row, kLastNoteRow, kReferenceColumn, kBaseColumn);
+  WriteFurtherCurve(workbook, kReferenceColumn, record.reference_heading,
+                    [&](std::size_t band) { return record.bands[band].reference; });
+  if (record.base_heading.empty()) {
+    workbook.RemoveCurve("D");
+    return;
+  }
+  WriteFurtherCurve(workbook, kBaseColumn, record.base_heading,
+                    [&](std::size_t band) { return record.bands[band].base; });
+}
+
+/// Project, client and what else is known of the project, in the rows above the layers.
+void WriteInformation(Workbook& workbook, const ReportRecord& record) {
+  Worksheet& sheet = workbook.Sheet();
+  int count = 0;
+  for (const elements::ProjectInformationRow& row : record.information) {
+    if (row.value.empty() || count == 2 * kInformationRows) continue;
+    const int line = kFirstInformationRow + count % kInformationRows;
+    const int caption = count < kInformationRows ? 1 : 7;
+    const int value = count < kInformationRows ? 3 : 8;
+    const int last = count < kInformationRows ? 6 : kLastDescriptionColumn;
+    sheet.SetText({line, caption}, row.caption);
+    sheet.SetStyle({line, caption}, sheet.StyleOf(kFirstCaption));
+    sheet.SetText({line, value}, row.value);
+    workbook.ChangeStyle({line, value}, {.horizontal = "left", .wrap = true});
+    sheet.MergeRange({line, value}, {line, last});
+    FitHeight(sheet, line, row.value, value, last);
+    ++count;
+  }
+}
+
+/// What there is to know of the result, beside the table of layers.
+void WriteRemarks(Workbook& workbook, const ReportRecord& record) {
+  std::string text = record.resulting_line;
+  for (const std::string* line : {&record.improvement_line, &record.messages, &record.rating_note}) {
+    if (!line->empty()) text += (text.empty() ? "" : "\n") + *line;
+  }
+  if (text.empty()) return;
+  Worksheet& sheet = workbook.Sheet();
+  sheet.SetText(kRemarksTitle, record.remarks_title);
+  workbook.ChangeStyle(kRemarksTitle, {.bold = true});
+  sheet.SetText(kRemarks, text);
+  workbook.ChangeStyle(kRemarks, {.horizontal = "left", .wrap = true});
+  sheet.MergeRange(kRemarks, {kLastRemarksRow, kLastDescriptionColumn});
+}
+
 void WriteBands(Workbook& workbook, const ReportRecord& record) {
   workbook.Sheet().SetText(kBandHeading, record.has_bands ? record.band_heading : std::string());
   for (std::size_t band = 0; band < record.bands.size(); ++band) {
@@ -85,6 +159,17 @@ void WriteRatings(Workbook& workbook, const ReportRecord& record) {
   SetNumber(workbook, {kTermsRow, 4}, result.ctr, kWhole);
 }
 
+/// The section under the title of the layers, or, where its numbers would be too many for the place, on a
+/// sheet of its own.
+void WriteSection(Workbook& workbook, const ReportRecord& record) {
+  if (record.section.small) {
+    workbook.AddPicture(workbook.Sheet(), kSection, *record.section.small);
+  } else if (record.section.wide) {
+    workbook.Sheet().SetText(kSection, record.section_elsewhere);
+    workbook.AddPicture(workbook.AddSheet(record.section_sheet, true, {}), {1, 1}, *record.section.wide);
+  }
+}
+
 }  // namespace
 
 std::string WriteExcelReport(std::string_view xlsx, const ReportRecord& record) {
@@ -110,6 +195,11 @@ std::string WriteExcelReport(std::string_view xlsx, const ReportRecord& record) 
   SetDimension(workbook, kWidthRow, record.width_caption, record.width);
   SetDimension(workbook, kHeightRow, record.height_caption, record.height);
   SetEntered(workbook, kArea, record.area.empty() ? kNothing : record.area);
+  WriteCurves(workbook, record);
+  WriteInformation(workbook, record);
+  WriteRemarks(workbook, record);
+  WriteSection(workbook, record);
+  WriteDataSheet(workbook, record.data);
   return workbook.Bytes();
 }
 

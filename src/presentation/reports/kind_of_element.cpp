@@ -16,13 +16,14 @@ struct Kind {
   MessageRow row{};
 };
 
-constexpr std::array<Kind, 7> kKinds = {{{Orientation::kVerticalSingle, kSingleWallKindRow},
+constexpr std::array<Kind, 8> kKinds = {{{Orientation::kVerticalSingle, kSingleWallKindRow},
                                          {Orientation::kVerticalDouble, kDoubleWallKindRow},
                                          {Orientation::kHorizontalSingle, kFloorKindRow},
                                          {Orientation::kHorizontalDouble, kScreedFloorKindRow},
                                          {Orientation::kLining, kWallLiningRow},
                                          {Orientation::kCeiling, kCeilingRow},
-                                         {Orientation::kComposite, kFacadeKindRow}}};
+                                         {Orientation::kComposite, kFacadeKindRow},
+                                         {Orientation::kMultilayer, kMultilayerRow}}};
 
 }  // namespace
 

@@ -28,6 +28,7 @@ struct TableRow {
   std::string share{};
   std::optional<double> thickness_mm{};
   std::optional<double> mass_kg_m2{};
+  int number = 0;  ///< as the section shows it; 0 for none
   bool heading = false;
 };
 
@@ -43,22 +44,9 @@ TableRow TableRowOf(const StructureRow& row, const ReportRecord& record) {
       .name = NameWithSheets(row), .area = row.area, .share = row.share, .mass_kg_m2 = row.mass_kg_m2};
   if (record.family == elements::Family::kFacade && !row.note.empty()) cells.name += " - " + row.note;
   if (!row.rating.empty()) cells.rating_db = ParseDecimal(row.rating);
+  cells.number = row.number;
   if (row.thickness_mm > 0.0) cells.thickness_mm = row.thickness_mm * row.multiplicity;
   return cells;
-}
-
-/// Joins what is beyond the last row, so that no layer goes missing: names in one cell, numbers added up.
-void JoinOverflow(std::vector<TableRow>& rows) {
-  constexpr std::size_t kMost = kLastLayerRow - kFirstLayerRow + 1;
-  while (rows.size() > kMost) {
-    TableRow last = rows.back();
-    rows.pop_back();
-    TableRow& into = rows.back();
-    into.name += "\n" + last.name;
-    if (last.thickness_mm) into.thickness_mm = into.thickness_mm.value_or(0.0) + *last.thickness_mm;
-    if (last.mass_kg_m2) into.mass_kg_m2 = into.mass_kg_m2.value_or(0.0) + *last.mass_kg_m2;
-    into.heading = false;
-  }
 }
 
 std::vector<TableRow> TableRowsOf(const ReportRecord& record) {
@@ -71,75 +59,109 @@ std::vector<TableRow> TableRowsOf(const ReportRecord& record) {
       if (row.heading && row.name == record.resilient_name) row.name = record.resilient_heading;
     }
   }
-  JoinOverflow(rows);
   return rows;
 }
 
-void SetOptional(Workbook& workbook, CellPlace place, std::optional<double> value, const char* format) {
+void SetOptional(Workbook& workbook, Worksheet& sheet, CellPlace place, std::optional<double> value,
+                 const char* format) {
   if (!value) {
-    workbook.Sheet().Clear(place);
+    sheet.Clear(place);
     return;
   }
-  workbook.Sheet().SetNumber(place, *value);
-  workbook.ChangeStyle(place, {.number_format = format});
+  sheet.SetNumber(place, *value);
+  workbook.ChangeStyle(sheet, place, {.number_format = format});
 }
 
-void SetNumberOrText(Workbook& workbook, CellPlace place, const std::string& text, const char* format) {
+void SetNumberOrText(Workbook& workbook, Worksheet& sheet, CellPlace place, const std::string& text,
+                     const char* format) {
   if (const std::optional<double> number = ParseDecimal(text)) {
-    SetOptional(workbook, place, number, format);
+    SetOptional(workbook, sheet, place, number, format);
   } else {
-    workbook.Sheet().SetText(place, text);
+    sheet.SetText(place, text);
   }
 }
 
-void Draw(Workbook& workbook, int row, int last_name_column) {
+/// The number before the name is a matter of show: the cell holds the name alone.
+std::string NumberedFormat(int number) {
+  return number > 0 ? "\"" + std::to_string(number) + ".  \"@" : std::string();
+}
+
+void Draw(Workbook& workbook, Worksheet& sheet, int row, int last_name_column, const StyleChange& own) {
   for (int column = kNameColumn; column <= kMassColumn; ++column) {
-    workbook.ChangeStyle({row, column}, {.left = column == kNameColumn,
-                                         .right = column == kMassColumn,
-                                         .top = true,
-                                         .bottom = true,
-                                         .horizontal = "center",
-                                         .wrap = column <= last_name_column});
+    StyleChange change = column == kNameColumn ? own : StyleChange{};
+    change.left = column == kNameColumn;
+    change.right = column == kMassColumn;
+    change.top = true;
+    change.bottom = true;
+    change.horizontal = "center";
+    change.wrap = column <= last_name_column;
+    workbook.ChangeStyle(sheet, {row, column}, change);
   }
 }
 
-void WriteHeading(Workbook& workbook, const ReportRecord& record, bool facade) {
-  Worksheet& sheet = workbook.Sheet();
-  if (facade) {
-    sheet.SetText({kLayerHeadingRow, kNameColumn}, record.part_heading);
-    sheet.SetText({kLayerHeadingRow, kRatingColumn}, "Rw [dB]");
-    sheet.SetText({kLayerHeadingRow, kAreaColumn}, "Area [m²]");
-    sheet.SetText({kLayerHeadingRow, kShareColumn}, "[%]");
-  } else {
-    sheet.SetText({kLayerHeadingRow, kThicknessColumn}, " [mm]");
+/// A place for rows of layers: the table of the template, or a sheet of its own.
+class LayerSheet {
+ public:
+  LayerSheet(Workbook& workbook, Worksheet& sheet, const ReportRecord& record)
+      : workbook_(workbook),
+        sheet_(sheet),
+        record_(record),
+        facade_(record.family == elements::Family::kFacade),
+        last_name_column_(facade_ ? kRatingColumn - 1 : kThicknessColumn - 1) {}
+
+  void WriteHeading(int row) {
+    if (facade_) {
+      sheet_.SetText({row, kNameColumn}, record_.part_heading);
+      sheet_.SetText({row, kRatingColumn}, "Rw [dB]");
+      sheet_.SetText({row, kAreaColumn}, "Area [m²]");
+      sheet_.SetText({row, kShareColumn}, "[%]");
+    } else {
+      sheet_.SetText({row, kThicknessColumn}, " [mm]");
+    }
+    sheet_.SetText({row, kMassColumn}, "m' [kg/m²]");
+    sheet_.Merge(row, kNameColumn, last_name_column_);
   }
-  sheet.SetText({kLayerHeadingRow, kMassColumn}, "m' [Kg/m²]");
-}
+
+  void Write(int row, const TableRow& cells) {
+    sheet_.SetText({row, kNameColumn}, cells.name);
+    SetOptional(workbook_, sheet_, {row, kMassColumn}, cells.mass_kg_m2, kOneDecimal);
+    if (facade_) {
+      SetOptional(workbook_, sheet_, {row, kRatingColumn}, cells.rating_db, kAsNeeded);
+      SetNumberOrText(workbook_, sheet_, {row, kAreaColumn}, cells.area, "0.00");
+      SetNumberOrText(workbook_, sheet_, {row, kShareColumn}, cells.share, kOneDecimal);
+    } else {
+      SetOptional(workbook_, sheet_, {row, kThicknessColumn}, cells.thickness_mm, kAsNeeded);
+    }
+    Draw(workbook_, sheet_, row, last_name_column_,
+         {.bold = cells.heading, .number_format = NumberedFormat(cells.number)});
+    sheet_.Merge(row, kNameColumn, last_name_column_);
+    FitHeight(sheet_, row, cells.name, kNameColumn, last_name_column_);
+  }
+
+ private:
+  Workbook& workbook_;
+  Worksheet& sheet_;
+  const ReportRecord& record_;
+  bool facade_;
+  int last_name_column_;
+};
 
 }  // namespace
 
 void WriteLayerTable(Workbook& workbook, const ReportRecord& record) {
-  const bool facade = record.family == elements::Family::kFacade;
-  const int last_name_column = facade ? kRatingColumn - 1 : kThicknessColumn - 1;
-  Worksheet& sheet = workbook.Sheet();
-  WriteHeading(workbook, record, facade);
-  sheet.Merge(kLayerHeadingRow, kNameColumn, last_name_column);
-  int row = kFirstLayerRow;
-  for (const TableRow& cells : TableRowsOf(record)) {
-    sheet.SetText({row, kNameColumn}, cells.name);
-    SetOptional(workbook, {row, kMassColumn}, cells.mass_kg_m2, kOneDecimal);
-    if (facade) {
-      SetOptional(workbook, {row, kRatingColumn}, cells.rating_db, kAsNeeded);
-      SetNumberOrText(workbook, {row, kAreaColumn}, cells.area, "0.00");
-      SetNumberOrText(workbook, {row, kShareColumn}, cells.share, kOneDecimal);
-    } else {
-      SetOptional(workbook, {row, kThicknessColumn}, cells.thickness_mm, kAsNeeded);
-    }
-    Draw(workbook, row, last_name_column);
-    sheet.Merge(row, kNameColumn, last_name_column);
-    FitHeight(sheet, row, cells.name, kNameColumn, last_name_column);
-    ++row;
-  }
+  constexpr std::size_t kMost = kLastLayerRow - kFirstLayerRow + 1;
+  const std::vector<TableRow> rows = TableRowsOf(record);
+  LayerSheet table(workbook, workbook.Sheet(), record);
+  table.WriteHeading(kLayerHeadingRow);
+  // The last row tells where the list goes on.
+  const std::size_t here = rows.size() > kMost ? kMost - 1 : rows.size();
+  for (std::size_t i = 0; i < here; ++i) table.Write(kFirstLayerRow + static_cast<int>(i), rows[i]);
+  if (here == rows.size()) return;
+  table.Write(kLastLayerRow, {.name = record.more_layers});
+  Worksheet& sheet = workbook.AddSheet(record.layer_sheet, false, {15, 13, 10, 11, 13, 13, 13});
+  LayerSheet further(workbook, sheet, record);
+  further.WriteHeading(1);
+  for (std::size_t i = here; i < rows.size(); ++i) further.Write(2 + static_cast<int>(i - here), rows[i]);
 }
 
 }  // namespace velmar::presentation

@@ -11,7 +11,8 @@ inline constexpr int kFirstLayerRow = 14;
 inline constexpr int kLastLayerRow = 34;
 
 /// Writes the table of layers or components into columns A to G: name and description, thickness, surface
-/// mass; of a facade rating, area and share. Layers that find no row any more share the last one.
+/// mass; of a facade rating, area and share. Layers that find no row go on in
+/// a sheet of their own. The number of a layer stands before its name without being part of the text.
 void WriteLayerTable(Workbook& workbook, const ReportRecord& record);
 
 }  // namespace velmar::presentation

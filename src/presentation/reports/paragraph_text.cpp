@@ -62,18 +62,38 @@ std::string ParagraphText::Text() const {
 }
 
 void ParagraphText::Replace(std::size_t begin, std::size_t length, std::string_view value) {
+  Replace({{.begin = begin, .length = length, .value = value}});
+}
+
+void ParagraphText::Replace(const std::vector<Replacement>& replacements) {
   std::size_t offset = 0;
+  auto next = replacements.begin();
   bool placed = false;
   for (Piece& piece : pieces_) {
-    const std::size_t size = piece.text.size();
-    const std::size_t from = std::max(begin, offset);
-    const std::size_t to = std::min(begin + length, offset + size);
-    if (from < to && piece.is_text) {
-      piece.text.replace(from - offset, to - from, placed ? std::string_view() : value);
-      piece.changed = true;
-      placed = true;
+    const std::size_t end = offset + piece.text.size();
+    if (!piece.is_text) {
+      offset = end;
+      continue;
     }
-    offset += size;
+    std::string text;
+    std::size_t kept = offset;  // up to here the piece has been copied
+    for (; next != replacements.end(); ++next, placed = false) {
+      const std::size_t from = std::max(next->begin, offset);
+      const std::size_t to = std::min(next->begin + next->length, end);
+      if (next->begin + next->length <= offset) continue;
+      if (from >= to) break;
+      text.append(piece.text, kept - offset, from - kept);
+      if (!placed) text.append(next->value);
+      placed = true;
+      kept = to;
+      piece.changed = true;
+      if (next->begin + next->length > end) break;
+    }
+    if (kept > offset) {
+      text.append(piece.text, kept - offset, end - kept);
+      piece.text = std::move(text);
+    }
+    offset = end;
   }
 }
 

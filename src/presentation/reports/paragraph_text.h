@@ -29,6 +29,17 @@ class ParagraphText {
   /// Puts `value` in the place of `length` bytes from `begin` on, into the run in which they begin.
   void Replace(std::size_t begin, std::size_t length, std::string_view value);
 
+  /// A text that takes the place of `length` bytes from `begin` on.
+  struct Replacement {
+    std::size_t begin = 0;
+    std::size_t length = 0;
+    std::string_view value{};
+  };
+
+  /// Makes all of `replacements`, which rise and do not overlap, in one walk: each goes into the run in which
+  /// it begins. Their places are those of Text() as it stands.
+  void Replace(const std::vector<Replacement>& replacements);
+
   /// Takes out `length` bytes from `begin` on, with the breaks, tabulators and pictures among them.
   void Cut(std::size_t begin, std::size_t length);
 

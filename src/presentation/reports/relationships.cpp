@@ -136,6 +136,14 @@ void AddDefaultContentType(Package& package, std::string_view extension, std::st
   package.Put(kContentTypes, XmlBytes(types));
 }
 
+void AddContentType(Package& package, const std::string& part, std::string_view type) {
+  pugi::xml_document types = ParseXml(package.Part(kContentTypes), kContentTypes);
+  pugi::xml_node node = types.document_element().append_child("Override");
+  node.append_attribute("PartName") = ("/" + part).c_str();
+  node.append_attribute("ContentType") = std::string(type).c_str();
+  package.Put(kContentTypes, XmlBytes(types));
+}
+
 void RemoveContentType(Package& package, const std::string& part) {
   pugi::xml_document types = ParseXml(package.Part(kContentTypes), kContentTypes);
   pugi::xml_node root = types.document_element();

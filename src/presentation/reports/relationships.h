@@ -39,6 +39,9 @@ void RemoveRelationship(Package& package, const std::string& part, const std::st
 /// Says in the list of content types that parts with `extension` are of `type`.
 void AddDefaultContentType(Package& package, std::string_view extension, std::string_view type);
 
+/// Says in the list of content types that the part `part` is of `type`.
+void AddContentType(Package& package, const std::string& part, std::string_view type);
+
 /// Takes the content type of one part out of the list.
 void RemoveContentType(Package& package, const std::string& part);
 

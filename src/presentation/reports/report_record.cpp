@@ -1,10 +1,14 @@
 #include "presentation/reports/report_record.h"
 
+#include <string_view>
 #include <utility>
 
+#include "acoustics/airborne_rating.h"
 #include "elements/catalogue.h"
+#include "elements/single_numbers.h"
 #include "foundation/decimal.h"
 #include "foundation/message_rows.h"
+#include "foundation/rounding.h"
 #include "presentation/reports/kind_of_element.h"
 #include "presentation/texts/box_number.h"
 #include "presentation/texts/calculation_labels.h"
@@ -19,6 +23,11 @@ namespace {
 using elements::Family;
 using elements::Setup;
 
+/// Of the project information.
+constexpr std::size_t kEngineerRow = 3;
+/// Rw is the reference curve at 500 Hz.
+constexpr double kRatingBelowShift = 4.0;
+
 MessageRow StandardRow(Family family) {
   if (family == Family::kFacade) return kFacadeStandardRow;
   return family == Family::kImpact ? kImpactStandardRow : kAirborneStandardRow;
@@ -26,13 +35,45 @@ MessageRow StandardRow(Family family) {
 
 /// The improvement that the main window shows beside the rating.
 std::string Improvement(Family family, const elements::ResultSet& result) {
-  if (family == Family::kImpact) {
-    return result.delta_lnw ? "DLw= " + FormatLevel(result.delta_lnw) + " dB" : std::string();
-  }
-  if (!IsLining(family) && result.delta_rw && *result.delta_rw != 0.0) {
+  if (family != Family::kImpact && !IsLining(family) && result.delta_rw && *result.delta_rw != 0.0) {
     return "DRw= " + FormatLevel(result.delta_rw) + " dB";
   }
   return ImprovementLine(family, result);
+}
+
+/// The ranges that the user chose to leave, a line each.
+std::string RangesLeft(const elements::ResultSet& result, const Words& words) {
+  std::string text;
+  for (const acoustics::RangeLeft& range : result.ranges_left) {
+    text += (text.empty() ? "" : "\n") + InWords({range.check}, words);
+    if (!range.unit.empty())
+      text += " (" + FormatShortest(RoundToEven(range.value, 4)) + " " + std::string(range.unit) + ")";
+  }
+  return text;
+}
+
+/// The ratings of a base with its lining, out of the improved spectrum.
+std::string LiningRatings(elements::Calculation calculation, const elements::ResultSet& result,
+                          const Words& words) {
+  if (!IsLining(elements::RowOf(calculation).family) || !result.spectrum) return {};
+  elements::ResultSet resulting;
+  for (const elements::SingleNumber& number : elements::SingleNumbersOf(result, calculation)) {
+    const std::string_view key = number.key;
+    if (key == "Rw") resulting.rw = number.value;
+    if (key == "C") resulting.c = number.value;
+    if (key == "Ctr") resulting.ctr = number.value;
+  }
+  if (!resulting.rw || !resulting.c || !resulting.ctr) return {};
+  return words(kLiningRatingsRow) + " " + ResultLine(Family::kSingle, resulting);
+}
+
+/// Why the rating shown is not that of the curve: a relation moves the curve by a value that is not rounded.
+std::string RatingNote(Family family, const elements::ResultSet& result, const Words& words) {
+  if (!result.spectrum || !result.rw || !result.relation_rating || IsLining(family)) return {};
+  if (family == Family::kImpact || family == Family::kFacade) return {};
+  const double of_curve = acoustics::FindShift(*result.spectrum) - kRatingBelowShift;
+  if (of_curve == *result.rw) return {};
+  return words(kRatingNoteRow) + " " + FormatLevel(of_curve) + " dB.";
 }
 
 void FillBands(const Setup& setup, Family family, ReportRecord& record) {
@@ -42,6 +83,7 @@ void FillBands(const Setup& setup, Family family, ReportRecord& record) {
   for (std::size_t band = span->first; band <= span->last; ++band) {
     const double level = (*record.result.spectrum)[band];
     if (level != 0.0) record.bands[band].level_db = level;
+    if (IsLining(family)) record.bands[band].base = setup.base.band_texts[band];
     record.bands[band].reference = ReferenceLevel(family, record.result.shift, band);
   }
 }
@@ -78,9 +120,16 @@ void FillLabels(const Setup& setup, Family family, const Words& words, ReportRec
   const bool generic = elements::RowOf(calculation).model == elements::Model::kGenericLining;
   if (generic || (family == Family::kFacade && setup.facade.simplified))
     record.generic_note = words(generic ? kGenericNoteRow : kSimplifiedNoteRow);
+  record.reference_heading = words(kReferenceHeadingRow);
+  if (IsLining(family) && !generic) record.base_heading = words(kBaseCurveRow);
+  record.remarks_title = words(kMessagesTitleRow);
   record.section_title = words(kLayersTitleRow);
   record.width_caption = words(kElementWidthRow);
   record.height_caption = words(kElementHeightRow);
+  record.layer_sheet = words(kProjectSheetRow);
+  record.more_layers = words(kLayersOnSheetRow) + " \"" + record.layer_sheet + "\"";
+  record.section_sheet = words(kSectionSheetRow);
+  record.section_elsewhere = words(kSectionOnSheetRow) + " \"" + record.section_sheet + "\"";
   record.part_heading = words(kPartHeadingRow);
   record.resilient_name = words(kResilientMaterialTabRow);
   record.resilient_heading = words(kResilientHeadingRow);
@@ -89,17 +138,27 @@ void FillLabels(const Setup& setup, Family family, const Words& words, ReportRec
 }  // namespace
 
 ReportRecord ReportRecordOf(const Setup& setup, const elements::ResultSet& result,
-                            const ElementTotals& totals, const Words& words, std::optional<Picture> chart,
-                            const ComparedStructures& compared) {
-  ReportRecord record{.information = setup.information, .result = result, .chart = std::move(chart)};
+                            const ElementTotals& totals, const Words& words, ReportPictures pictures,
+                            const ComparedStructures& compared, const Provenance& provenance) {
+  ReportRecord record{.information = setup.information,
+                      .result = result,
+                      .chart = std::move(pictures.chart),
+                      .section = std::move(pictures.section),
+                      .data = CalculationDataOf(setup, words, provenance)};
   if (!setup.calculation) return record;
   const Family family = elements::RowOf(*setup.calculation).family;
+  record.footer = FootText(setup.information, provenance);
+  record.date = provenance.date;
+  record.engineer = setup.information[kEngineerRow].value;
   record.family = family;
   FillLabels(setup, family, words, record);
   FillBands(setup, family, record);
   FillDimensions(setup, family, record);
   record.result_line = ResultLine(family, result);
   record.improvement_line = Improvement(family, result);
+  record.messages = RangesLeft(result, words);
+  record.resulting_line = LiningRatings(*setup.calculation, result, words);
+  record.rating_note = RatingNote(family, result, words);
   record.further_line = FurtherNumbersLine(*setup.calculation, result);
   record.laboratory_data = Compared(words(kLaboratoryFrameRow), compared.laboratory);
   record.in_situ_data = Compared(words(kInSituRow), compared.in_situ);
@@ -118,6 +177,10 @@ ReportRecord ReportRecordOf(const Setup& setup, const elements::ResultSet& resul
     record.hanger_line = WithoutColon(words(kConnectionTypeRow)) + ": " + record.hanger;
   }
   return record;
+}
+
+std::string SectionDescription(double thickness_mm, const Words& words) {
+  return words(kSectionPictureRow) + " " + FormatShortest(thickness_mm) + " mm";
 }
 
 std::string ChartDescription(const Setup& setup, const elements::ResultSet& result, const Words& words) {

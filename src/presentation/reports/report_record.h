@@ -10,6 +10,7 @@
 #include "elements/setup.h"
 #include "presentation/reports/picture.h"
 #include "presentation/reports/structure_rows.h"
+#include "presentation/texts/calculation_data.h"
 #include "presentation/texts/words.h"
 
 namespace velmar::presentation {
@@ -24,6 +25,13 @@ struct ElementTotals {
 struct ReportBand {
   std::optional<double> level_db{};
   std::string reference{};  ///< the shifted reference curve; empty where it is not defined
+  std::string base{};       ///< of the element under a lining, as entered
+};
+
+/// The drawing of an element's section. A facade has none.
+struct ReportSection {
+  std::optional<Picture> wide{};   ///< with its legend, as wide as the text of a page
+  std::optional<Picture> small{};  ///< with numbers alone, for the cells beside the table of layers
 };
 
 /// Everything that a Word or Excel report shows of one calculation.
@@ -40,12 +48,21 @@ struct ReportRecord {
   elements::ProjectInformation information{};
 
   bool has_bands = false;
-  std::string band_heading{};  ///< "Ri [dB]", "Lni [dB]"
+  std::string band_heading{};  ///< "Ri [dB]", "Ln,i [dB]"
+  std::string reference_heading{};
+  std::string base_heading{};  ///< of the element under a lining; empty where there is none
+  std::string remarks_title{};
   std::array<ReportBand, acoustics::kBandCount> bands{};
   elements::ResultSet result{};
   std::string result_line{};       ///< "Rw(C; Ctr)= 54,0 (-2; -6) dB"
   std::string improvement_line{};  ///< "DRw= 12 dB"; empty where there is none
   std::string further_line{};      ///< "C50-5000= -1; Ctr,50-5000= -5 dB; STC= 44"; empty where there is none
+  std::string resulting_line{};    ///< of a lining: the ratings of base and lining together; or empty
+  std::string rating_note{};       ///< why the rating shown is not that of the curve; or empty
+  std::string messages{};          ///< the ranges that were left, a line each; or empty
+  std::string footer{};            ///< project, code, date and version, for the foot of the pages
+  std::string date{};              ///< of the document
+  std::string engineer{};          ///< who signs
   std::string laboratory_data{};  ///< what the result was compared with: "Dati di laboratorio: ..."; or empty
   std::string in_situ_data{};
 
@@ -63,11 +80,17 @@ struct ReportRecord {
 
   std::string generic_note{};       ///< what stands in place of the bands; empty where there are bands
   std::string section_title{};      ///< of the layers
+  std::string layer_sheet{};        ///< of the spreadsheet: name of the sheet with layers that found no room
+  std::string more_layers{};        ///< where the table of layers goes on
+  std::string section_sheet{};      ///< of the spreadsheet: name of the sheet with the section
+  std::string section_elsewhere{};  ///< where the section stands that found no room
   std::string part_heading{};       ///< over the parts of a facade
   std::string resilient_name{};     ///< heading of the resilient layers
   std::string resilient_heading{};  ///< the same in the spreadsheet
 
   std::optional<Picture> chart{};
+  ReportSection section{};
+  CalculationData data{};
 };
 
 /// The names of the structures whose measured curves are laid over the chart; empty for none.
@@ -76,13 +99,20 @@ struct ComparedStructures {
   std::string in_situ{};
 };
 
+/// What a report shows beside set-up and result.
+struct ReportPictures {
+  std::optional<Picture> chart{};  ///< of the curves; none for a calculation without bands
+  ReportSection section{};
+};
+
 /// The record of `result`, which must belong to `setup`.
 /// @param totals as the calculation gives them for `setup`
-/// @param chart picture of the curves; none for a calculation without bands
 ReportRecord ReportRecordOf(const elements::Setup& setup, const elements::ResultSet& result,
-                            const ElementTotals& totals, const Words& words,
-                            std::optional<Picture> chart = std::nullopt,
-                            const ComparedStructures& compared = {});
+                            const ElementTotals& totals, const Words& words, ReportPictures pictures = {},
+                            const ComparedStructures& compared = {}, const Provenance& provenance = {});
+
+/// What a reader hears who cannot see the section of an element of `thickness_mm`.
+std::string SectionDescription(double thickness_mm, const Words& words);
 
 /// What a reader hears who cannot see the chart of `result`.
 std::string ChartDescription(const elements::Setup& setup, const elements::ResultSet& result,

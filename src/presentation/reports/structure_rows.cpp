@@ -22,10 +22,10 @@ constexpr double kNoDepthMm = 0.05;
 
 StructureRow Heading(std::string name) { return {.kind = StructureKind::kHeading, .name = std::move(name)}; }
 
-StructureRow RowOfLayer(const Layer& layer) {
+StructureRow RowOfLayer(const Setup& setup, const Layer& layer, const Words& words) {
   return {.kind = StructureKind::kLayer,
           .number = layer.number,
-          .name = layer.name,
+          .name = LayerName(setup, layer, words),
           .description = layer.description,
           .thickness_mm = layer.thickness_mm,
           .multiplicity = layer.sheets,
@@ -55,18 +55,28 @@ void ListCavity(const Setup& setup, const Part& part, const Words& words, std::v
     return;
   }
   rows.push_back(Heading(CavityHeading(setup, part.stack, words)));
-  for (const Layer& layer : part.layers) rows.push_back(RowOfLayer(layer));
+  for (const Layer& layer : part.layers) rows.push_back(RowOfLayer(setup, layer, words));
   const double left_mm = depth_mm - part.ThicknessMm();
   if (left_mm > kNoDepthMm) rows.push_back(CavityRow(words(kAirCavityRow), left_mm));
+}
+
+void AddWords(std::string text, std::vector<StructureRow>& rows) {
+  rows.push_back({.kind = StructureKind::kWords, .name = std::move(text)});
 }
 
 /// What ties the leaves together, where the calculation reads it; the hanger has a place of its own.
 void ListConnections(const Setup& setup, const Words& words, std::vector<StructureRow>& rows) {
   for (const InputText& text : ConnectionTexts(setup, words)) {
     if (text.field == elements::Field::kHanger) continue;
-    const std::string value = text.value.empty() ? std::string() : ": " + text.value;
-    rows.push_back({.kind = StructureKind::kWords, .name = text.caption + value});
+    AddWords(text.caption + (text.value.empty() ? std::string() : ": " + text.value), rows);
   }
+}
+
+/// What ties the leaves on both sides of one cavity of a free list together.
+void ListCavityConnection(const Setup& setup, int stratum, const Words& words,
+                          std::vector<StructureRow>& rows) {
+  std::string text = ConnectionText(setup.multilayer, stratum, words);
+  if (!text.empty()) AddWords(std::move(text), rows);
 }
 
 void ListBase(const Setup& setup, const Part& part, const Words& words, std::vector<StructureRow>& rows) {
@@ -80,15 +90,15 @@ void ListBase(const Setup& setup, const Part& part, const Words& words, std::vec
                   .thickness_mm = base.thickness_mm,
                   .mass_kg_m2 = base.mass_kg_m2,
                   .rating = setup.base.rating_text});
-  rows.push_back({.kind = StructureKind::kWords, .name = "Rw = " + setup.base.rating_text + " dB"});
+  AddWords("Rw = " + setup.base.rating_text + " dB", rows);
 }
 
 void ListLayers(const Setup& setup, const Part& part, const Words& words, std::vector<StructureRow>& rows) {
-  const bool alone = elements::RowOf(*setup.calculation).stacks.size() == 1;
+  const bool alone = elements::RowOf(*setup.calculation).stacks.size() == 1 && part.leaf == 0;
   if (part.stack == Stack::kResilient && part.layers.empty()) return;
   rows.push_back(Heading(alone ? ElementTypeText(*setup.calculation, words)
-                               : StackName(*setup.calculation, part.stack, words)));
-  for (const Layer& layer : part.layers) rows.push_back(RowOfLayer(layer));
+                               : PartName(*setup.calculation, part, words)));
+  for (const Layer& layer : part.layers) rows.push_back(RowOfLayer(setup, layer, words));
 }
 
 }  // namespace
@@ -102,11 +112,15 @@ std::vector<StructureRow> StructureRowsOf(const Setup& setup, const Words& words
       ListBase(setup, part, words, rows);
     } else if (part.depth_mm) {
       ListCavity(setup, part, words, rows);
-      ListConnections(setup, words, rows);
+      part.stratum >= 0 ? ListCavityConnection(setup, part.stratum, words, rows)
+                        : ListConnections(setup, words, rows);
     } else {
       ListLayers(setup, part, words, rows);
     }
   }
+  // The cavities of a free list tell their own connections; what holds all leaves stands below them.
+  if (elements::RowOf(*setup.calculation).Reads(elements::Field::kTracks))
+    ListConnections(setup, words, rows);
   return rows;
 }
 

@@ -6,6 +6,7 @@
 #include "foundation/message_rows.h"
 #include "presentation/reports/filled_text.h"
 #include "presentation/reports/paragraph_text.h"
+#include "presentation/reports/picture_parts.h"
 #include "presentation/reports/relationships.h"
 #include "presentation/reports/template_failure.h"
 #include "presentation/reports/word_blocks.h"
@@ -16,8 +17,6 @@
 namespace velmar::presentation {
 namespace {
 
-constexpr const char* kImageType =
-    "http://schemas.openxmlformats.org/officeDocument/2006/relationships/image";
 constexpr std::array<std::string_view, 4> kStoryKinds = {"header", "footer", "footnotes", "endnotes"};
 
 /// A value as it may stand in a document that is still being filled.
@@ -33,6 +32,14 @@ Placeholders Guarded(const Placeholders& values) {
   return guarded;
 }
 
+void Guard(WordContent& content) {
+  content.text = Guarded(content.text);
+  for (std::string& head : content.table.heads) head = Guarded(head);
+  for (auto& row : content.table.rows) {
+    for (std::string& cell : row) cell = Guarded(cell);
+  }
+}
+
 void RestoreBrackets(pugi::xml_node root) {
   for (const pugi::xml_node paragraph : ParagraphsOf(root)) {
     ParagraphText text(paragraph);
@@ -43,13 +50,6 @@ void RestoreBrackets(pugi::xml_node root) {
     }
     text.WriteBack([](pugi::xml_node, pugi::xml_node) {});
   }
-}
-
-std::string FreePartName(const Package& package) {
-  int number = 1;
-  const auto name = [&] { return "word/media/velmar" + std::to_string(number) + ".png"; };
-  while (package.Has(name())) ++number;
-  return name();
 }
 
 }  // namespace
@@ -108,23 +108,37 @@ void WordDocument::Replace(const Placeholders& values) {
 }
 
 void WordDocument::ReplaceByPicture(std::string_view name, const Picture& picture) {
-  std::string media;
+  PictureParts media;
   const Placeholders mark = {{std::string(name), std::string(1, kPictureMark)}};
   std::uint32_t number = 1;
   for (const StoryPart& part : parts_) number = std::max(number, FreeDrawingNumber(part.xml));
   for (StoryPart& part : parts_) {
-    std::string relationship;
+    PictureLinks links;
     const auto make_picture = [&](pugi::xml_node run, pugi::xml_node before) {
-      if (media.empty()) {
-        media = FreePartName(package_);
-        package_.Put(media, picture.png);
-        AddDefaultContentType(package_, "png", "image/png");
+      if (media.png.empty()) media = AddPictureParts(package_, "word/media", picture);
+      if (links.png.empty()) {
+        links.png = AddRelationship(package_, part.name, kImageRelationship, media.png);
+        if (!media.svg.empty())
+          links.svg = AddRelationship(package_, part.name, kImageRelationship, media.svg);
       }
-      if (relationship.empty()) relationship = AddRelationship(package_, part.name, kImageType, media);
-      InsertDrawing(run, before, picture, relationship, number++);
+      InsertDrawing(run, before, picture, links, number++);
     };
     for (const pugi::xml_node paragraph : ParagraphsOf(part.xml))
       ReplaceIn(part, paragraph, mark, make_picture);
+  }
+}
+
+void WordDocument::ReplaceByContent(std::string_view name, const std::vector<WordContent>& content) {
+  const Placeholders nothing = {{std::string(name), ""}};
+  for (StoryPart& part : parts_) {
+    for (const pugi::xml_node paragraph : ParagraphsOf(part.xml)) {
+      if (!HoldsPlaceholder(ParagraphText(paragraph).Text(), name)) continue;
+      for (WordContent block : content) {
+        Guard(block);
+        InsertContent(paragraph, block);
+      }
+      ReplaceIn(part, paragraph, nothing, [](pugi::xml_node, pugi::xml_node) {});
+    }
   }
 }
 

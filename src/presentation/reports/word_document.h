@@ -12,6 +12,7 @@
 #include "presentation/reports/package.h"
 #include "presentation/reports/picture.h"
 #include "presentation/reports/placeholders.h"
+#include "presentation/reports/word_content.h"
 
 namespace velmar::presentation {
 
@@ -49,6 +50,9 @@ class WordDocument {
 
   /// Puts `picture` in the place of placeholder `name`, wherever it stands.
   void ReplaceByPicture(std::string_view name, const Picture& picture);
+
+  /// Puts `content` before each paragraph that holds placeholder `name`, which goes.
+  void ReplaceByContent(std::string_view name, const std::vector<WordContent>& content);
 
   /// The placeholders that are still there.
   std::set<std::string> Left() const;

@@ -24,7 +24,7 @@ void Describe(pugi::xml_node properties, const Picture& picture, std::uint32_t n
   properties.append_attribute("descr") = LegalText(picture.alternative_text).c_str();
 }
 
-void AppendPicture(pugi::xml_node data, const Picture& picture, const std::string& relationship,
+void AppendPicture(pugi::xml_node data, const Picture& picture, const PictureLinks& links,
                    std::uint32_t number) {
   pugi::xml_node node = data.append_child("pic:pic");
   node.append_attribute("xmlns:pic") = kPictureNamespace;
@@ -34,7 +34,8 @@ void AppendPicture(pugi::xml_node data, const Picture& picture, const std::strin
   pugi::xml_node fill = node.append_child("pic:blipFill");
   pugi::xml_node blip = fill.append_child("a:blip");
   blip.append_attribute("xmlns:r") = kRelationships;
-  blip.append_attribute("r:embed") = relationship.c_str();
+  blip.append_attribute("r:embed") = links.png.c_str();
+  AddVectors(blip, links.svg);
   fill.append_child("a:stretch").append_child("a:fillRect");
   pugi::xml_node shape = node.append_child("pic:spPr");
   pugi::xml_node transform = shape.append_child("a:xfrm");
@@ -49,8 +50,18 @@ void AppendPicture(pugi::xml_node data, const Picture& picture, const std::strin
 
 }  // namespace
 
+void AddVectors(pugi::xml_node blip, const std::string& svg) {
+  if (svg.empty()) return;
+  pugi::xml_node extension = blip.append_child("a:extLst").append_child("a:ext");
+  extension.append_attribute("uri") = "{96DAC541-7B7A-43D3-8B79-37D633B846F1}";
+  pugi::xml_node node = extension.append_child("asvg:svgBlip");
+  node.append_attribute("xmlns:asvg") = "http://schemas.microsoft.com/office/drawing/2016/SVG/main";
+  node.append_attribute("xmlns:r") = kRelationships;
+  node.append_attribute("r:embed") = svg.c_str();
+}
+
 void InsertDrawing(pugi::xml_node run, pugi::xml_node before, const Picture& picture,
-                   const std::string& relationship, std::uint32_t number) {
+                   const PictureLinks& links, std::uint32_t number) {
   pugi::xml_node drawing = run.insert_child_before("w:drawing", before);
   pugi::xml_node place = drawing.append_child("wp:inline");
   place.append_attribute("xmlns:wp") = kWordprocessingDrawing;
@@ -65,7 +76,7 @@ void InsertDrawing(pugi::xml_node run, pugi::xml_node before, const Picture& pic
   graphic.append_attribute("xmlns:a") = kDrawing;
   pugi::xml_node data = graphic.append_child("a:graphicData");
   data.append_attribute("uri") = kPictureNamespace;
-  AppendPicture(data, picture, relationship, number);
+  AppendPicture(data, picture, links, number);
 }
 
 std::uint32_t FreeDrawingNumber(pugi::xml_node root) {

@@ -1,5 +1,8 @@
 #include "presentation/reports/word_report.h"
 
+#include <vector>
+
+#include "presentation/reports/word_content.h"
 #include "presentation/reports/word_document.h"
 #include "presentation/reports/word_placeholders.h"
 
@@ -14,6 +17,24 @@ void Settle(WordDocument& document, bool keep, std::string_view start, std::stri
   } else {
     document.RemoveBlock(start, end);
   }
+}
+
+std::vector<WordContent> DataContent(const CalculationData& data) {
+  using Kind = WordContent::Kind;
+  std::vector<WordContent> content;
+  if (data.title.empty()) return content;
+  content.push_back({.kind = Kind::kChapter, .text = data.title, .on_new_page = true});
+  DataTable fields{.weights = {1.0, 2.4}};
+  for (const DataField& field : data.fields) fields.rows.push_back({field.caption, field.value});
+  if (!fields.rows.empty()) content.push_back({.kind = Kind::kTable, .table = std::move(fields)});
+  for (const DataTable& table : data.tables) {
+    content.push_back({.kind = Kind::kHeading, .text = table.title});
+    content.push_back({.kind = Kind::kTable, .table = table});
+  }
+  content.push_back({.kind = Kind::kHeading, .text = data.references_title});
+  for (const std::string& reference : data.references)
+    content.push_back({.kind = Kind::kText, .text = reference});
+  return content;
 }
 
 }  // namespace
@@ -34,9 +55,14 @@ WrittenReport WriteWordReport(std::string_view docx, const ReportRecord& record)
   WordDocument document(docx);
   Settle(document, record.has_bands, "P1_FREQ_START", "P1_FREQ_END");
   Settle(document, !record.hanger.empty(), "P2_PENDINO_START", "P2_PENDINO_END");
+  Settle(document, !record.information[elements::kNotesRow].value.empty(), "P1_NOTE_START", "P1_NOTE_END");
+  Settle(document, !record.information[elements::kAttachmentRow].value.empty(), "P1_ALLEGATO_START",
+         "P1_ALLEGATO_END");
   document.RepeatRows(InformationPattern(record));
   document.RepeatRows(StructurePattern(record));
   if (record.chart) document.ReplaceByPicture("P1_RISULTATOGRAFICO", *record.chart);
+  if (record.section.wide) document.ReplaceByPicture("P2_DISEGNO", *record.section.wide);
+  document.ReplaceByContent("P3_DATI", DataContent(record.data));
   document.Replace(TextPlaceholders(record));
   WrittenReport report;
   report.unknown_placeholders = document.Left();

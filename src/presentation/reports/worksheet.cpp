@@ -26,6 +26,18 @@ CellPlace PlaceOf(std::string_view name) {
   return place;
 }
 
+struct CellRange {
+  CellPlace from{};
+  CellPlace to{};
+};
+
+/// The range "A1:J1"; one cell alone is a range too.
+CellRange RangeOf(std::string_view text) {
+  const std::size_t colon = std::min(text.find(':'), text.size());
+  const CellPlace from = PlaceOf(text.substr(0, colon));
+  return {from, colon < text.size() ? PlaceOf(text.substr(colon + 1)) : from};
+}
+
 void Set(pugi::xml_node node, const char* attribute, const std::string& value) {
   pugi::xml_attribute found = node.attribute(attribute);
   (found ? found : node.append_attribute(attribute)) = value.c_str();
@@ -155,15 +167,16 @@ double Worksheet::WidthOf(int column) const {
 }
 
 void Worksheet::Merge(int row, int first, int last) {
+  for (const pugi::xml_node merged : xml_.child("worksheet").child("mergeCells").children("mergeCell")) {
+    const CellRange range = RangeOf(merged.attribute("ref").value());
+    if (range.from.row <= row && row <= range.to.row) return;
+  }
+  MergeRange({row, first}, {row, last});
+}
+
+void Worksheet::MergeRange(CellPlace from, CellPlace to) {
   pugi::xml_node sheet = xml_.child("worksheet");
   pugi::xml_node list = sheet.child("mergeCells");
-  for (const pugi::xml_node merged : list.children("mergeCell")) {
-    const std::string_view range = merged.attribute("ref").value();
-    const std::size_t colon = std::min(range.find(':'), range.size());
-    const int top = PlaceOf(range.substr(0, colon)).row;
-    const int bottom = colon < range.size() ? PlaceOf(range.substr(colon + 1)).row : top;
-    if (top <= row && row <= bottom) return;
-  }
   if (!list) {
     // The parts of a sheet have a fixed order.
     pugi::xml_node before = data_;
@@ -173,10 +186,42 @@ void Worksheet::Merge(int row, int first, int last) {
     }
     list = sheet.insert_child_after("mergeCells", before);
   }
-  list.append_child("mergeCell").append_attribute("ref") =
-      (CellName({row, first}) + ":" + CellName({row, last})).c_str();
+  list.append_child("mergeCell").append_attribute("ref") = (CellName(from) + ":" + CellName(to)).c_str();
   const auto merged = list.children("mergeCell");
   Set(list, "count", std::to_string(std::distance(merged.begin(), merged.end())));
+}
+
+void Worksheet::Unmerge(int first, int last, int left, int right) {
+  pugi::xml_node sheet = xml_.child("worksheet");
+  pugi::xml_node list = sheet.child("mergeCells");
+  for (pugi::xml_node merged = list.child("mergeCell"); merged;) {
+    const pugi::xml_node next = merged.next_sibling("mergeCell");
+    const CellRange range = RangeOf(merged.attribute("ref").value());
+    const bool meets = range.from.row <= last && range.to.row >= first && range.from.column <= right &&
+                       range.to.column >= left;
+    if (meets) list.remove_child(merged);
+    merged = next;
+  }
+  if (!list) return;
+  if (!list.child("mergeCell")) {
+    sheet.remove_child(list);
+    return;
+  }
+  const auto merged = list.children("mergeCell");
+  Set(list, "count", std::to_string(std::distance(merged.begin(), merged.end())));
+}
+
+void Worksheet::SetDrawing(const std::string& relationship) {
+  pugi::xml_node sheet = xml_.child("worksheet");
+  // The parts of a sheet have a fixed order.
+  pugi::xml_node next;
+  for (const char* name : {"extLst", "tableParts", "webPublishItems", "controls", "oleObjects", "picture",
+                           "drawingHF", "legacyDrawingHF", "legacyDrawing"}) {
+    if (const pugi::xml_node node = sheet.child(name)) next = node;
+  }
+  pugi::xml_node drawing = next ? sheet.insert_child_before("drawing", next) : sheet.append_child("drawing");
+  drawing.append_attribute("xmlns:r") = "http://schemas.openxmlformats.org/officeDocument/2006/relationships";
+  drawing.append_attribute("r:id") = relationship.c_str();
 }
 
 bool Worksheet::HasFormula() const {

@@ -34,7 +34,15 @@ class Worksheet {
 
   /// Makes one cell of columns `first` to `last` of a row. A row in which cells are already joined stays.
   void Merge(int row, int first, int last);
+  /// Parts the cells that are joined across the rows `first` to `last` and columns `left` to `right`.
+  void Unmerge(int first, int last, int left, int right);
+
+  /// Makes one cell of a range of rows and columns.
+  void MergeRange(CellPlace from, CellPlace to);
   void SetHeight(int row, double height_points);
+
+  /// Links the sheet to its drawing. @param relationship identifier of the link
+  void SetDrawing(const std::string& relationship);
 
   /// Height of a row in points as the sheet states it; 0 where it leaves that to the program that shows it.
   double HeightOf(int row) const;

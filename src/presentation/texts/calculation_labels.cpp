@@ -43,6 +43,8 @@ MessageRow StackRow(const elements::CalculationRow& row, Stack stack) {
       return BaseRow(row);
     case Stack::kComponents:
       return kComponentsTabRow;
+    case Stack::kMultilayer:
+      return kMultilayerLeafRow;
   }
   return {};
 }
@@ -81,6 +83,11 @@ std::string StackName(elements::Calculation calculation, Stack stack, const Word
   return words(StackRow(elements::RowOf(calculation), stack));
 }
 
+std::string PartName(elements::Calculation calculation, const elements::Part& part, const Words& words) {
+  const std::string name = StackName(calculation, part.stack, words);
+  return part.leaf > 0 ? name + " " + std::to_string(part.leaf) : name;
+}
+
 std::vector<InputText> ConnectionTexts(const elements::Setup& setup, const Words& words) {
   std::vector<InputText> texts;
   if (!setup.calculation) return texts;
@@ -92,7 +99,29 @@ std::vector<InputText> ConnectionTexts(const elements::Setup& setup, const Words
       setup.support_distance_text);
   add(Field::kHanger, kConnectionTypeRow, HangerText(setup.hanger, words));
   if (setup.decoupled) add(Field::kDecoupling, kDecoupledRow, {});
+  if (setup.multilayer.framed) add(Field::kTracks, kTracksRow, {});
   return texts;
+}
+
+std::string LayerName(const elements::Setup& setup, const elements::Layer& layer, const Words& words) {
+  using elements::StratumKind;
+  if (!layer.stratum || *layer.stratum == StratumKind::kPlate || *layer.stratum == StratumKind::kFibre)
+    return layer.name;
+  const std::string kind = words({kPlateStratumRow.number + static_cast<int>(*layer.stratum)});
+  if (!elements::TakesSolid(*layer.stratum)) return kind;
+  const std::string name = layer.name + " (" + kind;
+  if (*layer.stratum != StratumKind::kProfiledSheet) return name + ")";
+  const elements::Stratum& row = setup.multilayer.strata.at(static_cast<std::size_t>(layer.row));
+  return name + ", " + words(kProfileHeightRow) + " " + row.profile_height_text + ", " +
+         words(kProfilePitchRow) + " " + row.profile_pitch_text + ")";
+}
+
+std::string ConnectionText(const elements::Multilayer& list, int index, const Words& words) {
+  const elements::Stratum& row = list.strata.at(static_cast<std::size_t>(index));
+  if (!list.BeginsCavity(index) || row.connection == elements::CavityConnection::kNone) return {};
+  const bool points = row.connection == elements::CavityConnection::kPoints;
+  return words({kNoConnectionRow.number + static_cast<int>(row.connection)}) + ", " +
+         words(points ? kConnectionsPerSquareMetreRow : kConnectionSpacingRow) + " " + row.connection_text;
 }
 
 std::string HangerText(int hanger, const Words& words) {

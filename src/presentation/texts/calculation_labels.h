@@ -6,8 +6,9 @@
 
 #include "elements/catalogue.h"
 #include "elements/layers.h"
+#include "elements/parts.h"
 #include "elements/setup.h"
-#include "foundation/message_rows.h"
+#include "foundation/catalogue_rows.h"
 #include "presentation/texts/words.h"
 
 namespace velmar::presentation {
@@ -33,6 +34,9 @@ std::string HangerText(int hanger, const Words& words);
 /// The name of a stack of `calculation`: "Parete 1", "Lastra 1" of a glazing, "Solaio", "Rivestimento", ...
 std::string StackName(elements::Calculation calculation, elements::Stack stack, const Words& words);
 
+/// The name of a part: of its stack, and of a leaf of a free list its number: "Pannello 2".
+std::string PartName(elements::Calculation calculation, const elements::Part& part, const Words& words);
+
 /// An input beside the layers, as paper tells it. A tick has no value: the caption alone says that it is set.
 struct InputText {
   elements::Field field{};
@@ -46,5 +50,13 @@ std::vector<InputText> ConnectionTexts(const elements::Setup& setup, const Words
 
 /// `caption` without a closing colon.
 std::string WithoutColon(std::string caption);
+
+/// The name of a layer; in a free list of layers with what it is there, where it is more than a plate:
+/// "Cartongesso (Lastra incollata)", "PVB".
+std::string LayerName(const elements::Setup& setup, const elements::Layer& layer, const Words& words);
+
+/// What joins the leaves of the cavity that begins at row `index` of a free list of layers, with how many or
+/// how far apart; empty where nothing does.
+std::string ConnectionText(const elements::Multilayer& list, int index, const Words& words);
 
 }  // namespace velmar::presentation

@@ -8,6 +8,7 @@
 #include "foundation/decimal.h"
 #include "foundation/message_rows.h"
 #include "foundation/utf8.h"
+#include "presentation/texts/calculation_labels.h"
 
 namespace velmar::presentation {
 namespace {
@@ -114,10 +115,31 @@ std::string DoublePart(const Setup& setup, const elements::Stacks& stacks, const
          LeafHead(2, words) + ItemsOf(setup, sea ? Stack::kSeaLeaf2 : Stack::kLeaf2);
 }
 
+/// Leaves and cavities in their order: "Lastra (12,5 mm) -- Lana (60 mm) [Montanti in acciaio, ...] -- ...".
+std::string MultilayerPart(const Setup& setup, const Words& words) {
+  std::string text;
+  for (const elements::Part& part : elements::PartsOf(setup)) {
+    if (!text.empty()) text += kNextPart;
+    if (part.depth_mm && part.layers.empty())
+      text += words(kAirStratumRow) + " " + FormatShortest(*part.depth_mm) + " mm";
+    std::string items;
+    for (elements::Layer layer : part.layers) {
+      layer.name = LayerName(setup, layer, words);
+      Append(items, Item(layer));
+    }
+    text += items;
+    if (part.stratum < 0) continue;
+    const std::string connection = ConnectionText(setup.multilayer, part.stratum, words);
+    if (!connection.empty()) text += " [" + connection + "]";
+  }
+  return text;
+}
+
 std::string WholeDescription(const Setup& setup, const elements::CalculationRow& row, const Words& words) {
   if (row.stacks.Has(Stack::kComponents)) return FacadePart(setup, words);
   if (row.stacks.Has(Stack::kBase))
     return LiningPart(setup, row.orientation == elements::Orientation::kCeiling, words);
+  if (row.stacks.Has(Stack::kMultilayer)) return MultilayerPart(setup, words);
   if (row.stacks.size() == 1) return ItemsOf(setup, *row.stacks.begin());
   return row.family == Family::kImpact ? FloorPart(setup) : DoublePart(setup, row.stacks, words);
 }

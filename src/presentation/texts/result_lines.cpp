@@ -62,6 +62,7 @@ std::string FurtherNumbersLine(elements::Calculation calculation, const elements
 }
 
 std::string ImprovementLine(Family family, const elements::ResultSet& result) {
+  if (family == Family::kImpact && result.delta_lnw) return "DLw= " + FormatLevel(result.delta_lnw) + " dB";
   if (!IsLining(family) || !result.delta_rw) return {};
   return "DRw= " + FormatTerm(result.delta_rw) + " dB";
 }

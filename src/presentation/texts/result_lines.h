@@ -27,7 +27,8 @@ std::string ResultLine(elements::Family family, const elements::ResultSet& resul
 /// without any, and for linings and ceilings, whose terms stand against their base.
 std::string FurtherNumbersLine(elements::Calculation calculation, const elements::ResultSet& result);
 
-/// The improvement by a lining, "DRw= 12 dB"; an empty text where there is none.
+/// The improvement by a lining, "DRw= 12 dB", or by a floor covering, "DLw= 21,3 dB"; an empty text where
+/// there is none.
 std::string ImprovementLine(elements::Family family, const elements::ResultSet& result);
 
 }  // namespace velmar::presentation

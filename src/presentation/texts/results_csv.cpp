@@ -24,7 +24,8 @@ std::string Row(const std::string& first, const std::string& second, const std::
 
 }  // namespace
 
-std::string ResultsCsv(const ResultsTable& table, std::span<const elements::SingleNumber> numbers) {
+std::string ResultsCsv(const ResultsTable& table, std::span<const elements::SingleNumber> numbers,
+                       std::span<const std::string> notes) {
   std::string text = kByteOrderMark;
   text += Row(table.frequency_heading, table.value_heading, table.reference_heading);
   for (const ResultsTableRow& row : table.rows) {
@@ -34,6 +35,7 @@ std::string ResultsCsv(const ResultsTable& table, std::span<const elements::Sing
     const std::string unit = *number.unit == '\0' ? "" : std::string(" [") + number.unit + ']';
     if (number.further) text += Row(number.symbol + unit, FormatFixed(number.value, number.decimals), "");
   }
+  for (const std::string& note : notes) text += Row(note, "", "");
   return text;
 }
 

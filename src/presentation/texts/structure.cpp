@@ -13,13 +13,14 @@ using elements::Part;
 
 std::string Millimetres(double thickness_mm) { return FormatShortest(thickness_mm) + "mm"; }
 
-StructureLine LineOf(const Layer& layer) {
+StructureLine LineOf(const elements::Setup& setup, const Layer& layer, const Words& words) {
   std::string amount = Millimetres(layer.thickness_mm);
   if (layer.sheets > 1) amount += " X " + std::to_string(layer.sheets);
-  return {layer.number, layer.name, std::move(amount)};
+  return {layer.number, LayerName(setup, layer, words), std::move(amount)};
 }
 
-StructureBlock BlockOf(const Part& part, const elements::CalculationRow& row, const Words& words) {
+StructureBlock BlockOf(const elements::Setup& setup, const Part& part, const elements::CalculationRow& row,
+                       const Words& words) {
   StructureBlock block;
   if (part.depth_mm) {
     block.lines.push_back({0, words(kAirGapRow) + " " + Millimetres(*part.depth_mm), {}});
@@ -28,9 +29,13 @@ StructureBlock BlockOf(const Part& part, const elements::CalculationRow& row, co
       block.lines.push_back({0, words(kFibrousCavityRow), own ? Millimetres(*part.fibre_mm) : std::string()});
   } else {
     block.mass = MassText(part.MassKgM2());
-    if (row.stacks.size() > 1) block.heading = StackName(row.calculation, part.stack, words);
+    if (part.leaf > 0 || row.stacks.size() > 1) block.heading = PartName(row.calculation, part, words);
   }
-  for (const Layer& layer : part.layers) block.lines.push_back(LineOf(layer));
+  for (const Layer& layer : part.layers) block.lines.push_back(LineOf(setup, layer, words));
+  if (part.stratum >= 0) {
+    const std::string connection = ConnectionText(setup.multilayer, part.stratum, words);
+    if (!connection.empty()) block.lines.push_back({0, connection, {}});
+  }
   return block;
 }
 
@@ -43,7 +48,7 @@ std::vector<StructureBlock> StructureOf(const elements::Setup& setup, const Word
   if (row.stacks.Has(elements::Stack::kComponents)) return blocks;
   for (const Part& part : elements::PartsAsTheyStand(setup)) {
     const bool absent = part.stack == elements::Stack::kResilient && part.layers.empty();
-    if (!absent) blocks.push_back(BlockOf(part, row, words));
+    if (!absent) blocks.push_back(BlockOf(setup, part, row, words));
   }
   return blocks;
 }

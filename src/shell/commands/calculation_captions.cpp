@@ -71,6 +71,7 @@ constexpr std::array<Entry, elements::kCalculationCount> kEntries = {{
     {kImpactLightweightConcrete, kLightweightConcreteFloorRow, Mark::kRow, kLightweightConcreteMarkRow},
     {kImpactHollowBrickConcrete, kHollowBrickImpactFloorRow, Mark::kRow, kHollowBrickImpactMarkRow},
     {kImpactHollowBrickConcreteGavelo, kHollowBrickGaveloFloorRow, Mark::kRow, kHollowBrickGaveloMarkRow},
+    {kMultilayerGeneric, kMultilayerRow},
 }};
 
 /// A calculation that is missing, or twice in the menu, fails here.

@@ -7,7 +7,7 @@
 
 namespace velmar::shell {
 
-/// The 47 calculations in the order of the menu.
+/// All calculations in the order of the menu.
 std::span<const elements::Calculation> InMenuOrder();
 
 /// The caption of a calculation's menu entry: its words and, behind a relation, "[relazione sperimentale

@@ -2,11 +2,15 @@
 
 #include <QAction>
 #include <QActionGroup>
+#include <QFont>
 #include <QMenu>
+#include <QPalette>
 #include <algorithm>
 #include <array>
+#include <iterator>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "foundation/message_rows.h"
 #include "shell/commands/calculation_captions.h"
@@ -25,7 +29,7 @@ struct TreeLine {
   MessageRow heading{};  ///< none: the entries of the handler `control`
 };
 
-constexpr std::array<TreeLine, 25> kTree = {{
+constexpr std::array<TreeLine, 27> kTree = {{
     {0, "tipo_calcolo_potere_fonoisolante", kSoundReductionIndexRow},
     {1, "cal_parete_singola", kSingleWallMenuRow},
     {2, "TIPO_PARETE_SINGOLA", {}},
@@ -51,6 +55,8 @@ constexpr std::array<TreeLine, 25> kTree = {{
     {0, "tipo_calcolo_calpestio", kImpactSoundPressureLevelRow},
     {1, "cal_solaio", {}},
     {1, "cal_solaio_new", {}},
+    {0, "ALTRI_MODELLI", kOtherModelsMenuRow},
+    {1, "MULTISTRATO", {}},
 }};
 
 QString ControlName(const CalculationRow& row) {
@@ -59,6 +65,37 @@ QString ControlName(const CalculationRow& row) {
     members += other.menu_group == row.menu_group ? 1 : 0;
   const QString group = FromUtf8(std::string(row.menu_group));
   return members == 1 ? group : ArrayName(row.menu_group, row.menu_index);
+}
+
+/// The heading that `calculation` stands under in the tree.
+MessageRow HeadingOf(Calculation calculation) {
+  std::array<MessageRow, 4> path{};
+  for (const TreeLine& line : kTree) {
+    const auto depth = static_cast<std::size_t>(line.depth);
+    if (line.heading != MessageRow{}) path.at(depth) = line.heading;
+    if (line.heading == MessageRow{} && RowOf(calculation).menu_group == line.control)
+      return path.at(depth - 1);
+  }
+  return {};
+}
+
+/// Of the letters of a heading: quieter than an entry, and legible all the same.
+constexpr float kHeadingStrength = 0.75F;
+
+/// A line that names what follows it; not to be chosen.
+void AddHeading(QMenu& menu, const QString& text) {
+  QPalette colours = menu.palette();
+  QColor quiet = colours.color(QPalette::Active, QPalette::Text);
+  quiet.setAlphaF(kHeadingStrength);
+  for (const QPalette::ColorRole role : {QPalette::Text, QPalette::WindowText, QPalette::ButtonText})
+    colours.setColor(QPalette::Disabled, role, quiet);
+  menu.setPalette(colours);
+  if (!menu.isEmpty()) menu.addSeparator();
+  QAction* heading = menu.addAction(text);
+  heading->setEnabled(false);
+  QFont letters = menu.font();
+  letters.setBold(true);
+  heading->setFont(letters);
 }
 
 }  // namespace
@@ -99,13 +136,21 @@ void CalculationActions::FillTree(QMenu& menu, const presentation::Words& words)
   }
 }
 
-void CalculationActions::FillKind(QMenu& menu, elements::ElementButton button) const {
-  std::string_view group;
-  for (const Calculation calculation : InMenuOrder()) {
-    const CalculationRow& row = RowOf(calculation);
-    if (row.button != button) continue;
-    if (!group.empty() && row.menu_group != group) menu.addSeparator();
-    group = row.menu_group;
+void CalculationActions::FillKind(QMenu& menu, elements::ElementButton button,
+                                  const presentation::Words& words) const {
+  std::vector<Calculation> of_button;
+  const MessageRow first = HeadingOf(FirstOf(button));
+  std::ranges::copy_if(InMenuOrder(), std::back_inserter(of_button),
+                       [button](Calculation one) { return RowOf(one).button == button; });
+  // What the button itself begins stands in the first section.
+  std::ranges::stable_partition(of_button, [first](Calculation one) { return HeadingOf(one) == first; });
+  const bool sections = HeadingOf(of_button.front()) != HeadingOf(of_button.back());
+  MessageRow heading{};
+  for (const Calculation calculation : of_button) {
+    if (sections && HeadingOf(calculation) != heading) {
+      heading = HeadingOf(calculation);
+      AddHeading(menu, Text(words, heading));
+    }
     menu.addAction(Of(calculation));
   }
 }
@@ -113,9 +158,21 @@ void CalculationActions::FillKind(QMenu& menu, elements::ElementButton button) c
 void CalculationActions::Mark(Calculation calculation) { Of(calculation)->setChecked(true); }
 
 elements::Calculation FirstOf(elements::ElementButton button) {
-  const auto order = InMenuOrder();
-  const auto first = std::ranges::find(order, button, [](Calculation one) { return RowOf(one).button; });
-  return first == order.end() ? order.front() : *first;
+  switch (button) {
+    case elements::ElementButton::kSingleWall:
+      return Calculation::kSingleWallGeneric;
+    case elements::ElementButton::kDoubleWall:
+      return Calculation::kDoubleWallGeneric;
+    case elements::ElementButton::kFloor:
+      return Calculation::kFloorWithFloatingScreed;
+    case elements::ElementButton::kFacade:
+      return Calculation::kCompositeElement;
+    case elements::ElementButton::kLining:
+      return Calculation::kLiningGeneric;
+    case elements::ElementButton::kCeiling:
+      return Calculation::kCeilingGeneric;
+  }
+  return Calculation::kSingleWallGeneric;
 }
 
 }  // namespace velmar::shell

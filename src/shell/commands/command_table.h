@@ -30,6 +30,8 @@ enum class CommandId {
   kLinings,
   kCeilings,
   kExitAsking,
+  kNewProject,
+  kSaveProjectAs,
   kProjectInformation,
   kExit,
   kSavedResults,
@@ -38,7 +40,7 @@ enum class CommandId {
   kMeasuredRw,
   kBaseMaterials,
   kMaterialList,
-  kCompareBeside,  ///< the comparison stays open beside the main window
+  kCompareBeside,  ///< its entry in the menu
   kTutorial,
   kContact,
   kAbout,

@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "elements/catalogue.h"
+#include "shell/fields/docked.h"
 
 namespace velmar::shell {
 
@@ -10,7 +11,7 @@ ComparisonCommand::ComparisonCommand(const calculation::OpenCalculation& open, W
                                      structures::LibrarySource library)
     : open_(open), tools_(std::move(tools)), library_(std::move(library)) {}
 
-void ComparisonCommand::Show(QWidget* parent, Qt::WindowModality modality) {
+void ComparisonCommand::Show(QWidget* parent) {
   const auto& calculation = open_.Setup().calculation;
   if (!calculation) return;
   if (window_) window_->close();
@@ -22,9 +23,8 @@ void ComparisonCommand::Show(QWidget* parent, Qt::WindowModality modality) {
   window_ =
       new structures::ComparisonWindow(tools_, library_, elements::RowOf(*calculation).family, draw, parent);
   window_->setAttribute(Qt::WA_DeleteOnClose);
-  window_->setWindowModality(modality);
   connect(window_, &QDialog::finished, this, [this] { left_over_ = true; });
-  window_->show();
+  StandBeside(window_, parent, structures::ComparisonWindow::kPreferredWidth);
 }
 
 void ComparisonCommand::LayOver(presentation::CurveChart& chart) {

@@ -20,9 +20,8 @@ class ComparisonCommand : public ChartOverlay {
   ComparisonCommand(const calculation::OpenCalculation& open, WindowTools tools,
                     structures::LibrarySource library);
 
-  /// Opens the window for the result that stands; one that is open already makes room for it.
-  /// @param modality whether the main window waits until it is closed
-  void Show(QWidget* parent, Qt::WindowModality modality);
+  /// Opens the window beside the result that stands; one that is open already makes room for it.
+  void Show(QWidget* parent);
 
   /// Lays over `chart` what is to be drawn over it. A window that is closed leaves its curves in the drawing:
   /// they go with the first one that shows other values or another scale.

@@ -2,6 +2,7 @@
 
 #include "calculation/open_calculation.h"
 #include "shell/fields/boxes.h"
+#include "validation/known_accuracy.h"
 
 class QWidget;
 
@@ -25,6 +26,7 @@ struct Desk {
   ProjectFiles& files;
   OpenTable& table;
   const ResultsPanel& results;
+  const validation::KnownAccuracy& accuracy;
   HelpCommands* help = nullptr;
   StructureCommands* structures = nullptr;
   MaterialCommands* materials = nullptr;

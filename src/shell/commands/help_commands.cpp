@@ -47,9 +47,11 @@ void HelpCommands::ShowAbout(QWidget* parent) {
   box.exec();
 }
 
+bool HelpCommands::HasMaintenance() const { return Exists(places_.maintenance_program); }
+
 void HelpCommands::StartMaintenance(QWidget* /*parent*/) {
   const std::filesystem::path& program = places_.maintenance_program;
-  if (!Exists(program) || !services_.start_program(program)) TellMissing(kNoMaintenanceRow, ToQt(program));
+  if (!HasMaintenance() || !services_.start_program(program)) TellMissing(kNoMaintenanceRow, ToQt(program));
 }
 
 }  // namespace velmar::shell

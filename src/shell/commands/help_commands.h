@@ -38,6 +38,11 @@ class HelpCommands : public QObject {
                QObject* parent = nullptr)
       : QObject(parent), speech_(speech), services_(services), places_(places) {}
 
+  /// Whether there is an address to write to.
+  bool HasContact() const { return !places_.contact.isEmpty(); }
+  /// Whether the maintenance program is installed.
+  bool HasMaintenance() const;
+
  public slots:
   void ShowManual(QWidget* parent);
   void Contact(QWidget* parent);

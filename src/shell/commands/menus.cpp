@@ -1,5 +1,6 @@
 #include "shell/commands/menus.h"
 
+#include <QAction>
 #include <QMenu>
 #include <QMenuBar>
 #include <initializer_list>
@@ -7,6 +8,7 @@
 #include "foundation/message_rows.h"
 #include "shell/commands/calculation_menu.h"
 #include "shell/commands/command_set.h"
+#include "shell/commands/help_commands.h"
 #include "shell/fields/phrases.h"
 
 namespace velmar::shell {
@@ -29,10 +31,10 @@ QMenu* AddMenu(QMenuBar& bar, const presentation::Words& words, MessageRow row, 
 QMenu* FillMenuBar(QMenuBar& bar, const CommandSet& commands, const CalculationActions& calculations,
                    const presentation::Words& words) {
   QMenu* file = AddMenu(bar, words, kFileMenuRow, "File");
-  Add(*file, commands, {kOpenProject});
+  Add(*file, commands, {kNewProject, kOpenProject});
   QMenu* recent = file->addMenu(Text(words, kRecentMenuRow));
   recent->setObjectName("Recenti");
-  Add(*file, commands, {kSaveProject, kStoreResult});
+  Add(*file, commands, {kSaveProject, kSaveProjectAs, kStoreResult});
   file->addSeparator();
   Add(*file, commands, {kExportWord, kExportExcel, kPrint, kPrintPreview, kChoosePrinter});
   file->addSeparator();
@@ -59,6 +61,9 @@ QMenu* FillMenuBar(QMenuBar& bar, const CommandSet& commands, const CalculationA
 
   QMenu* help = AddMenu(bar, words, kHelpMenuRow, "help");
   Add(*help, commands, {kTutorial, kContact});
+  const HelpCommands* reach = commands.At().help;
+  commands.Of(kContact)->setVisible(reach != nullptr && reach->HasContact());
+  commands.Of(kMaintenance)->setVisible(reach != nullptr && reach->HasMaintenance());
   help->addSeparator();
   Add(*help, commands, {kAbout});
   return recent;

@@ -4,12 +4,15 @@
 #include "presentation/export/report_chart.h"
 #include "shell/project/project_files.h"
 #include "shell/results/results_panel.h"
+#include "validation/second_opinion.h"
 
 namespace velmar::shell {
 namespace {
 
 printing::PrintedDocument DocumentOn(const Desk& desk) {
-  return DocumentOf(desk.open, desk.speech.words, desk.results.Chart(), desk.files.File());
+  return DocumentOf(desk.open, desk.speech.words, desk.results.Chart(),
+                    desk.files.ProposeDocument(QStringLiteral(".pdf")),
+                    validation::ConfidenceOf(desk.open.Setup(), desk.open.Result(), desk.accuracy.Get()));
 }
 
 }  // namespace
@@ -17,28 +20,42 @@ printing::PrintedDocument DocumentOn(const Desk& desk) {
 printing::PrintedDocument DocumentOf(const calculation::OpenCalculation& open,
                                      const presentation::Words& words,
                                      const std::optional<presentation::CurveChart>& chart,
-                                     const std::filesystem::path& project) {
+                                     const QString& pdf_start, const Message& confidence) {
   const elements::Setup& setup = open.Setup();
   const calculation::Totals& totals = open.CurrentTotals();
   const auto& result = open.Result();
   printing::PrintedDocument document;
   document.page = presentation::PaginaDi(
       setup, {totals.thickness_mm, totals.surface_mass_kg_m2}, result ? &*result : nullptr, words,
-      result ? presentation::WholeChartOf(setup, *result, words, chart) : std::nullopt);
+      result ? presentation::WholeChartOf(setup, *result, words, chart) : std::nullopt, confidence);
   document.title = document.page.title;
-  document.pdf_start = BesideProject(project, QStringLiteral(".pdf"));
+  document.pdf_start = pdf_start;
   return document;
 }
 
 printing::PrintingBoxes PaperBoxes(const Speech& speech) {
-  const auto tell = [&speech](Tone tone) {
-    return [&speech, tone](QWidget*, const QString& text) { speech.boxes.tell(tone, text); };
+  const auto tell_written = [&speech](QWidget*, const QString& text, const std::filesystem::path& file) {
+    speech.boxes.tell_written(text, file);
   };
-  return printing::ScreenBoxes(speech.words, tell(Tone::kInformation), tell(Tone::kCritical));
+  const auto tell_failure = [&speech](QWidget*, const QString& text) {
+    speech.boxes.tell(Tone::kCritical, text);
+  };
+  return printing::ScreenBoxes(speech.words, tell_written, tell_failure);
+}
+
+/// The boxes, and the files of `desk` hear of each PDF.
+printing::PrintingBoxes PaperCommands::BoxesOn(const Desk& desk) const {
+  printing::PrintingBoxes boxes = boxes_;
+  boxes.tell_written = [this, &desk](QWidget* parent, const QString& text,
+                                     const std::filesystem::path& file) {
+    desk.files.DocumentWritten(file);
+    boxes_.tell_written(parent, text, file);
+  };
+  return boxes;
 }
 
 void PaperCommands::Preview(const Desk& desk) {
-  printing::ShowPreview(DocumentOn(desk), printer_, boxes_, desk.speech.words, &desk.window);
+  printing::ShowPreview(DocumentOn(desk), printer_, BoxesOn(desk), desk.speech.words, &desk.window);
 }
 
 void PaperCommands::Print(const Desk& desk) {

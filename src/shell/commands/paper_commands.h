@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QObject>
-#include <filesystem>
 #include <optional>
 
 #include "calculation/open_calculation.h"
@@ -15,11 +14,12 @@ namespace velmar::shell {
 /// The page of the open calculation, with its result where there is one.
 /// @param chart as the screen shows it, with scale and overlays: a curve that leaves the scale is printed
 ///              whole; none: the chart is made of the result
-/// @param project the file beside which a PDF is offered; empty: none
+/// @param pdf_start the file or folder that a PDF is offered
+/// @param confidence what is known of the error of the result
 printing::PrintedDocument DocumentOf(const calculation::OpenCalculation& open,
                                      const presentation::Words& words,
                                      const std::optional<presentation::CurveChart>& chart,
-                                     const std::filesystem::path& project);
+                                     const QString& pdf_start, const Message& confidence);
 
 /// Print preview, print and the choice of a printer, which is kept while the program runs.
 class PaperCommands : public QObject {
@@ -35,6 +35,8 @@ class PaperCommands : public QObject {
   void ChoosePrinter(QWidget* parent);
 
  private:
+  printing::PrintingBoxes BoxesOn(const Desk& desk) const;
+
   printing::PrintingBoxes boxes_;
   printing::PagePrinter printer_;
 };

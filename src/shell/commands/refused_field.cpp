@@ -29,11 +29,17 @@ constexpr std::array kElementControls = {ElementControl{Field::kArea, "Text7", "
                                          ElementControl{Field::kMass, "TextMassaBase", ""},
                                          ElementControl{Field::kTightness, "", "ComboTenutaAria"}};
 
-/// The control of a field that an element has once.
+/// The control of a field that an element has once, or each row of a free list of layers.
 struct FieldControl {
   Field field{};
   const char* control = "";
 };
+constexpr std::array kStratumControls = {FieldControl{Field::kStratumKind, "ComboTipoStrato"},
+                                         FieldControl{Field::kStratumThickness, "TextSpessoreStrato"},
+                                         FieldControl{Field::kConnection, "ComboCollegamento"},
+                                         FieldControl{Field::kConnectionNumber, "TextCollegamento"},
+                                         FieldControl{Field::kProfileHeight, "TextAltezzaGreca"},
+                                         FieldControl{Field::kProfilePitch, "TextPassoGreca"}};
 constexpr std::array kFieldControls = {FieldControl{Field::kWidth, "Toolbar1_15"},
                                        FieldControl{Field::kHeight, "Toolbar1_15"},
                                        FieldControl{Field::kCavityDepth, "Text9"},
@@ -60,6 +66,9 @@ QString BandControl(int element, std::size_t band) {
 
 QString ControlOf(const FieldId& id) {
   if (id.group) return LayerControl(id);
+  for (const FieldControl& one : kStratumControls) {
+    if (one.field == id.field) return ArrayName(one.control, id.index);
+  }
   if (id.field == Field::kBand) return BandControl(id.index, static_cast<std::size_t>(id.band));
   for (const ElementControl& one : kElementControls) {
     if (one.field == id.field)

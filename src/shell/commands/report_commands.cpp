@@ -4,7 +4,9 @@
 
 #include "foundation/failure.h"
 #include "foundation/message_rows.h"
+#include "presentation/export/document_provenance.h"
 #include "presentation/export/report_chart.h"
+#include "presentation/export/report_section.h"
 #include "presentation/reports/excel_report.h"
 #include "presentation/reports/report_record.h"
 #include "presentation/reports/word_report.h"
@@ -13,6 +15,7 @@
 #include "shell/results/results_panel.h"
 #include "storage/files/open_elsewhere.h"
 #include "storage/files/whole_file.h"
+#include "storage/project/project_writer.h"
 
 namespace velmar::shell {
 namespace {
@@ -22,16 +25,19 @@ constexpr std::size_t kTemplateLimit = std::size_t{64} * 1024 * 1024;
 enum class Kind { kWord, kExcel };
 
 /// The record of the result that stands, with the chart as it is shown.
-presentation::ReportRecord RecordOf(const Desk& desk) {
+presentation::ReportRecord RecordOf(const Desk& desk, const presentation::MaterialSources& sources) {
   const elements::Setup& setup = desk.open.Setup();
   const elements::ResultSet& result = *desk.open.Result();
   const calculation::Totals& totals = desk.open.CurrentTotals();
   const std::optional<presentation::CurveChart>& shown = desk.results.Chart();
   return presentation::ReportRecordOf(
       setup, result, {totals.thickness_mm, totals.surface_mass_kg_m2}, desk.speech.words,
-      presentation::ReportChartOf(setup, result, desk.speech.words, shown),
+      {.chart = presentation::ReportChartOf(setup, result, desk.speech.words, shown),
+       .section = presentation::ReportSectionOf(setup, desk.speech.words)},
       shown ? presentation::ComparedStructures{shown->laboratory_name, shown->in_situ_name}
-            : presentation::ComparedStructures{});
+            : presentation::ComparedStructures{},
+      presentation::ProvenanceOf(storage::WriteProject(setup), desk.files.File().filename().string(),
+                                 sources));
 }
 
 /// The template's path; one that is missing is told.
@@ -49,21 +55,14 @@ std::optional<std::filesystem::path> Template(Kind kind, const std::filesystem::
 
 /// The file to write; nothing when the user cancels.
 std::optional<std::filesystem::path> Target(Kind kind, const Desk& desk) {
-  const std::string ending = kind == Kind::kWord ? ".docx" : ".xlsx";
+  const QString ending = kind == Kind::kWord ? QStringLiteral(".docx") : QStringLiteral(".xlsx");
   const QString files =
       kind == Kind::kWord ? Text(desk.speech.words, kWordFilesRow) : QStringLiteral("Excel");
-  const QString chosen =
-      desk.speech.boxes.choose_file_to_save({.title = Text(desk.speech.words, kSaveAsRow),
-                                             .filter = files + " (*" + FromUtf8(ending) + ')',
-                                             .start = BesideProject(desk.files.File(), FromUtf8(ending))});
-  if (chosen.isEmpty()) return std::nullopt;
-  if (chosen.endsWith(FromUtf8(ending), Qt::CaseInsensitive)) return ToUtf8(chosen);
-  // The dialog has asked about the name without its ending only.
-  std::filesystem::path file = ToUtf8(chosen) + ending;
-  std::error_code error;
-  const QString question = Text(desk.speech.words, kReplaceDocumentRow) + '\n' + FromUtf8(file.string());
-  if (std::filesystem::exists(file, error) && !desk.speech.boxes.ask(question)) return std::nullopt;
-  return file;
+  return AskFileToSave(desk.speech,
+                       {.title = Text(desk.speech.words, kSaveAsRow),
+                        .filter = files + " (*" + ending + ')',
+                        .start = desk.files.ProposeDocument(ending)},
+                       ending);
 }
 
 /// Fills the template and writes the file. @return what the user is told
@@ -85,15 +84,17 @@ QString Write(Kind kind, const std::filesystem::path& pattern, const presentatio
   return told;
 }
 
-void Export(Kind kind, const std::filesystem::path& templates, const Desk& desk) {
+void Export(Kind kind, const std::filesystem::path& templates, const presentation::MaterialSources& sources,
+            const Desk& desk) {
   if (!desk.open.Setup().calculation || !desk.open.Result()) return;
   const std::optional<std::filesystem::path> pattern = Template(kind, templates, desk);
   if (!pattern) return;
   const std::optional<std::filesystem::path> file = Target(kind, desk);
   if (!file) return;
   try {
-    desk.speech.boxes.tell(Tone::kInformation,
-                           Write(kind, *pattern, RecordOf(desk), *file, desk.speech.words));
+    const QString told = Write(kind, *pattern, RecordOf(desk, sources), *file, desk.speech.words);
+    desk.files.DocumentWritten(*file);
+    desk.speech.boxes.tell_written(told, *file);
   } catch (const Failure& failure) {
     desk.speech.boxes.tell(Tone::kCritical, Text(desk.speech.words, failure.UserMessage()));
   } catch (const std::exception&) {
@@ -103,8 +104,8 @@ void Export(Kind kind, const std::filesystem::path& templates, const Desk& desk)
 
 }  // namespace
 
-void ReportCommands::ExportWord(const Desk& desk) { Export(Kind::kWord, templates_, desk); }
+void ReportCommands::ExportWord(const Desk& desk) { Export(Kind::kWord, templates_, sources_, desk); }
 
-void ReportCommands::ExportExcel(const Desk& desk) { Export(Kind::kExcel, templates_, desk); }
+void ReportCommands::ExportExcel(const Desk& desk) { Export(Kind::kExcel, templates_, sources_, desk); }
 
 }  // namespace velmar::shell

@@ -56,19 +56,32 @@ MessageRow RowFor(Field field) {
       return kStepBaseThicknessRow;
     case Field::kSimplified:
       return kStepSimplifiedRow;
+    case Field::kStratumKind:
+      return kStepStratumKindRow;
+    case Field::kStratumThickness:
+      return kStepStratumThicknessRow;
+    case Field::kConnection:
+    case Field::kConnectionNumber:
+      return kStepConnectionRow;
+    case Field::kProfileHeight:
+    case Field::kProfilePitch:
+      return kStepProfileRow;
+    case Field::kTracks:
+      return kStepTracksRow;
     default:
       return kStepSeveralRow;
   }
 }
 
-/// The number of a layer row in its element; counted within its group where it is not in use any longer.
+/// The number of a layer row in its element; counted within its group where it is not in use any longer. A
+/// row of a free list that is no layer, as air is none, has no number.
 int NumberOf(const FieldId& field, const elements::Setup& setup) {
   for (const elements::Part& part : PartsOf(setup)) {
     for (const elements::Layer& layer : part.layers) {
       if (layer.group == field.group && layer.row == field.index) return layer.number;
     }
   }
-  return field.index + 1;
+  return field.group == elements::LayerGroup::kStratumSolid ? 0 : field.index + 1;
 }
 
 }  // namespace
@@ -81,11 +94,17 @@ QString StepWords(const calculation::Step& step, const elements::Setup& setup,
       text += ' ' + Text(words, kStepOfComponentRow) + ' ' + QString::number(step.field.index);
     return text;
   };
+  const auto of_layer = [&](MessageRow row) {
+    const int number = NumberOf(step.field, setup);
+    return number > 0 ? Text(words, row) + ' ' + QString::number(number) : Text(words, row);
+  };
+  const auto of_component = [&](MessageRow row) {
+    return Text(words, row) + ' ' + QString::number(step.field.index);
+  };
   switch (step.kind) {
     case StepKind::kField: {
       const MessageRow row = RowFor(step.field.field);
-      if (!step.field.group) return of_element(row);
-      return Text(words, row) + ' ' + QString::number(NumberOf(step.field, setup));
+      return step.field.group ? of_layer(row) : of_element(row);
     }
     case StepKind::kCount:
       return Text(words, step.field.group ? kStepLayerCountRow : kStepComponentCountRow);
@@ -99,6 +118,38 @@ QString StepWords(const calculation::Step& step, const elements::Setup& setup,
       return of_element(kStepBandsRow);
     case StepKind::kInformation:
       return Text(words, kStepInformationRow);
+    case StepKind::kLayerInserted:
+      return of_layer(kStepLayerInsertedRow);
+    case StepKind::kLayerDuplicated:
+      return of_layer(kStepLayerDuplicatedRow);
+    case StepKind::kLayerRemoved:
+      return Text(words, kStepLayerRemovedRow);
+    case StepKind::kLayerMoved:
+      return of_layer(kStepLayerMovedRow);
+    case StepKind::kLayersPasted:
+      return Text(words, kStepLayersPastedRow);
+    case StepKind::kLeafMirrored:
+      return Text(words, kStepMirroredRow);
+    case StepKind::kElementTurned:
+      return Text(words, kStepTurnedRow);
+    case StepKind::kComponentAdded:
+      return of_component(kStepComponentAddedRow);
+    case StepKind::kComponentDuplicated:
+      return of_component(kStepComponentDuplicatedRow);
+    case StepKind::kComponentRemoved:
+      return Text(words, kStepComponentRemovedRow);
+    case StepKind::kComponentMoved:
+      return of_component(kStepComponentMovedRow);
+    case StepKind::kVariantFixed:
+      return Text(words, kStepVariantFixedRow);
+    case StepKind::kVariantRenamed:
+      return Text(words, kStepVariantRenamedRow);
+    case StepKind::kVariantMoved:
+      return Text(words, kStepVariantMovedRow);
+    case StepKind::kVariantRemoved:
+      return Text(words, kStepVariantRemovedRow);
+    case StepKind::kVariantTaken:
+      return Text(words, kStepVariantTakenRow);
     case StepKind::kRequirement:
       return Text(words, kStepRequirementRow);
     case StepKind::kSeveral:

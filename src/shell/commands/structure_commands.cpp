@@ -8,6 +8,8 @@
 #include "foundation/failure.h"
 #include "foundation/message_rows.h"
 #include "presentation/texts/descriptions.h"
+#include "presentation/texts/result_notes.h"
+#include "shell/fields/long_work.h"
 #include "shell/fields/phrases.h"
 #include "shell/pages/element_parts.h"
 #include "shell/structures/saved_results_window.h"
@@ -27,6 +29,14 @@ void ShowAndWait(QDialog* window) {
   window->setAttribute(Qt::WA_DeleteOnClose);
   window->setWindowModality(Qt::WindowModal);
   window->show();
+}
+
+/// What the open calculation reads of a measured part: a facade its bands, or in its simplified form the
+/// rating alone.
+structures::TargetNeeds NeedsOf(const elements::Setup& setup) {
+  const bool facade = setup.calculation && RowOf(*setup.calculation).family == elements::Family::kFacade;
+  if (!facade) return structures::TargetNeeds::kNothing;
+  return setup.facade.simplified ? structures::TargetNeeds::kRating : structures::TargetNeeds::kThirds;
 }
 
 }  // namespace
@@ -87,11 +97,14 @@ void StructureCommands::PickMeasured(QWidget* parent, const ElementPick& pick) {
   ShowLibrary(parent,
               {.purpose = pick.component == 0 ? LibraryPurpose::kOpaquePart : LibraryPurpose::kComponents,
                .component = pick.component,
+               .needs = NeedsOf(open_.Setup()),
                .take = [this, pick](const calculation::FacadePart& part) { Take(pick, part); }});
 }
 
 void StructureCommands::ShowLibrary(QWidget* parent, structures::MeasuredTarget target) {
-  ShowAndWait(new MeasuredLibraryWindow(own_.tools, library_, std::move(target), parent));
+  ShowAndWait(new MeasuredLibraryWindow(
+      own_.tools, library_, std::move(target),
+      {.open = speech_.boxes.choose_file_to_open, .save = speech_.boxes.choose_file_to_save}, parent));
 }
 
 void StructureCommands::ShowAirborneData(QWidget* parent) {
@@ -102,9 +115,7 @@ void StructureCommands::ShowImpactData(QWidget* parent) {
   ShowLibrary(parent, {.purpose = LibraryPurpose::kImpactData});
 }
 
-void StructureCommands::Compare(QWidget* parent) { comparison_.Show(parent, Qt::WindowModal); }
-
-void StructureCommands::CompareBeside(QWidget* parent) { comparison_.Show(parent, Qt::NonModal); }
+void StructureCommands::Compare(QWidget* parent) { comparison_.Show(parent); }
 
 void StructureCommands::Store(QWidget* /*parent*/) {
   const elements::Setup& setup = open_.Setup();
@@ -119,9 +130,12 @@ void StructureCommands::Store(QWidget* /*parent*/) {
                               {.name = ToUtf8(name.trimmed()),
                                .description = presentation::ResultDescription(setup, speech_.words),
                                .thickness_mm = open_.CurrentTotals().thickness_mm,
-                               .mass_kg_m2 = open_.CurrentTotals().surface_mass_kg_m2});
+                               .mass_kg_m2 = open_.CurrentTotals().surface_mass_kg_m2,
+                               .messages = presentation::Joined(presentation::RangeNotes(
+                                   *setup.calculation, *open_.Result(), speech_.words))});
     storage::ResultsStore store(results_file_);
-    const storage::SaveStatus status = store.Save(storage::TableFor(RowOf(*setup.calculation).family), row);
+    storage::SaveStatus status{};
+    RunBeside([&] { status = store.Save(storage::TableFor(RowOf(*setup.calculation).family), row); });
     if (status == storage::SaveStatus::kNameExists) own_.tools.tell(Text(speech_.words, kResultExistsRow));
     if (status == storage::SaveStatus::kBadName) own_.tools.tell(Text(speech_.words, kBadResultNameRow));
   });

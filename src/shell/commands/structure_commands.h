@@ -41,10 +41,8 @@ class StructureCommands : public QObject {
   void ShowSavedResults(QWidget* parent);
   void ShowAirborneData(QWidget* parent);
   void ShowImpactData(QWidget* parent);
-  /// The main window waits until the comparison is closed.
+  /// The comparison stands beside the curve of the main window.
   void Compare(QWidget* parent);
-  /// The comparison stays open beside the main window.
-  void CompareBeside(QWidget* parent);
 
  private:
   std::vector<std::string> Names() const;

@@ -54,7 +54,7 @@ CommandToolBar::CommandToolBar(const CommandSet& commands, const CalculationActi
     const auto kind = CommandAt(place)->Kind();
     if (!kind) continue;
     auto* menu = new QMenu(button);
-    calculations.FillKind(*menu, *kind);
+    calculations.FillKind(*menu, *kind, words);
     button->setMenu(menu);
     button->setPopupMode(QToolButton::MenuButtonPopup);
   }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <filesystem>
 #include <functional>
 #include <optional>
 
@@ -33,6 +34,8 @@ struct Boxes {
   /// Yes, no, or nothing for cancel.
   std::function<std::optional<bool>(const QString& question)> ask_or_cancel;
   std::function<void(Tone tone, const QString& text)> tell;
+  /// `file` was written: `text` and where it is, and on request the file or its folder is opened.
+  std::function<void(const QString& text, const std::filesystem::path& file)> tell_written;
   /// An empty answer means that the user cancelled.
   std::function<QString(const FileQuestion&)> choose_file_to_open;
   std::function<QString(const FileQuestion&)> choose_file_to_save;
@@ -45,6 +48,13 @@ struct Speech {
   presentation::Words words{};
   Boxes boxes{};
 };
+
+/// Asks for a file to write. A name that is typed without `ending`, in letters of either case, gets it; where
+/// that meets a file that is there already the user is asked, because the dialog asked about what was typed.
+/// @param ending with its point
+/// @return nothing when the user cancels or wants the file that is there to stay
+std::optional<std::filesystem::path> AskFileToSave(const Speech& speech, const FileQuestion& question,
+                                                   const QString& ending);
 
 /// The boxes of the screen, in the words of the catalogue, above the active window.
 Boxes ScreenBoxes(const presentation::Words& words);

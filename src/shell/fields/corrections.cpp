@@ -21,6 +21,8 @@ MessageRow RowFor(Correction correction) {
       return kMaterialKeptRow;
     case Correction::kNoHit:
       return kNoHitRow;
+    case Correction::kNoKeyword:
+      return kNoKeywordHitRow;
     case Correction::kRaised:
       return kDepthCorrectedRow;
   }
@@ -32,7 +34,7 @@ MessageRow RowFor(Correction correction) {
 void NoteCorrection(QWidget* field, Correction correction, int limit, const presentation::Words& words) {
   QString text = Text(words, RowFor(correction));
   if (correction == Correction::kAboveHighest) text += ' ' + QString::number(limit);
-  const bool waits = correction == Correction::kNoHit;
+  const bool waits = correction == Correction::kNoHit || correction == Correction::kNoKeyword;
   FieldNote::Put(field, text, waits ? NoteLife::kUntilEntered : NoteLife::kWhileRead);
 }
 

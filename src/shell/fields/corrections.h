@@ -16,6 +16,7 @@ enum class Correction {
   kAboveHighest,     ///< a count above its highest
   kUnknownMaterial,  ///< no material has that name: the one before stands again
   kNoHit,            ///< no material has that in its name: the text waits to be corrected
+  kNoKeyword,        ///< no keyword has that in it
   kRaised,           ///< a cavity was thinner than what it holds
 };
 

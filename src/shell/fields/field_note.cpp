@@ -1,9 +1,14 @@
 #include "shell/fields/field_note.h"
 
+#include <QAbstractButton>
 #include <QAccessible>
+#include <QComboBox>
 #include <QEvent>
+#include <QLineEdit>
 #include <QPainter>
 #include <QScrollArea>
+#include <algorithm>
+#include <vector>
 
 namespace velmar::shell {
 namespace {
@@ -36,6 +41,41 @@ QWidget* PageOf(QWidget* field) {
     if ((area != nullptr && area->widget() == widget) || widget->isWindow()) return widget;
   }
   return field;
+}
+
+bool TakesEntries(const QWidget* widget) {
+  return qobject_cast<const QLineEdit*>(widget) != nullptr ||
+         qobject_cast<const QComboBox*>(widget) != nullptr ||
+         qobject_cast<const QAbstractButton*>(widget) != nullptr;
+}
+
+/// Where the other fields of `page` stand, with a gap around them.
+std::vector<QRect> OtherFields(const QWidget* page, const QWidget* field) {
+  std::vector<QRect> places;
+  for (const QWidget* widget : page->findChildren<QWidget*>()) {
+    if (!widget->isVisibleTo(page) || !TakesEntries(widget) || widget == field ||
+        field->isAncestorOf(widget) || widget->isAncestorOf(field))
+      continue;
+    places.push_back(QRect(widget->mapTo(page, QPoint(0, 0)), widget->size()).adjusted(-1, -1, 1, 1));
+  }
+  return places;
+}
+
+/// The nearest top for `words` at `left` that leaves the field and all others free, below the field or else
+/// above it; below the field where the page has no such place.
+int FreeTop(const QRect& field, const std::vector<QRect>& others, int left, const QSize& words, int height) {
+  const auto is_free = [&](int top) {
+    const QRect bubble(QPoint(left, top), words);
+    return std::ranges::none_of(others, [&](const QRect& other) { return other.intersects(bubble); });
+  };
+  const int first_below = field.bottom() + 1 + kGap;
+  for (int top = first_below; top + words.height() < height; ++top) {
+    if (is_free(top)) return top;
+  }
+  for (int top = field.top() - kGap - words.height(); top >= 0; --top) {
+    if (is_free(top)) return top;
+  }
+  return first_below;
 }
 
 }  // namespace
@@ -86,8 +126,7 @@ void FieldNote::Place() {
       fontMetrics().boundingRect(QRect(0, 0, widest, page->height()), Qt::TextWordWrap, text_).size();
   words += QSize(2 * kPadding, 2 * kPadding);
   const int left = std::clamp(field.left(), 0, std::max(0, page->width() - words.width()));
-  const bool fits_below = field.bottom() + kGap + words.height() < page->height();
-  const int top = fits_below ? field.bottom() + 1 + kGap : field.top() - kGap - words.height();
+  const int top = FreeTop(field, OtherFields(page, field_), left, words, page->height());
   const QRect frame = field.adjusted(-kFrameMargin, -kFrameMargin, kFrameMargin, kFrameMargin);
   const QRect bubble(QPoint(left, top), words);
   setGeometry(frame.united(bubble));
@@ -102,6 +141,11 @@ void FieldNote::paintEvent(QPaintEvent* /*event*/) {
   painter.setPen(QPen(colours.line, 2.0));
   painter.drawRoundedRect(QRectF(field_frame_).adjusted(1, 1, -1, -1), kCorner, kCorner);
   painter.setPen(QPen(colours.line, 1.0));
+  // Words that found their place further away are led to.
+  const bool below = words_frame_.top() > field_frame_.bottom();
+  const int edge = std::max(field_frame_.left(), words_frame_.left()) + kFrameMargin;
+  painter.drawLine(QPoint(edge, below ? field_frame_.bottom() : field_frame_.top()),
+                   QPoint(edge, below ? words_frame_.top() : words_frame_.bottom()));
   painter.setBrush(colours.ground);
   painter.drawRoundedRect(QRectF(words_frame_).adjusted(0.5, 0.5, -0.5, -0.5), kCorner, kCorner);
   painter.setPen(colours.ink);

@@ -13,7 +13,8 @@ enum class NoteLife {
 };
 
 /// A short message beside a field: a frame around the field and the words under it, above the page, so that
-/// nothing moves. The words become the field's accessible description as long as they stand.
+/// nothing moves; where other fields stand under it the words take the next free place and are led to. The
+/// words become the field's accessible description as long as they stand.
 class FieldNote : public QWidget {
  public:
   /// Puts `text` beside `field`, in place of any other note of its window.
@@ -22,6 +23,9 @@ class FieldNote : public QWidget {
   static QString TextAt(const QWidget* field);
 
   ~FieldNote() override;
+
+  /// Where the words stand, in the coordinates of the page that they lie on.
+  QRect Words() const { return words_frame_.translated(pos()); }
 
  protected:
   void paintEvent(QPaintEvent* event) override;

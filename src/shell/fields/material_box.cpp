@@ -9,11 +9,10 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QMimeData>
+#include <utility>
 
-#include "shell/fields/name_search.h"
-#include "shell/fields/phrases.h"
+#include "shell/fields/pasted_bands.h"
 #include "shell/fields/put_material.h"
-#include "shell/fields/selection.h"
 
 namespace velmar::shell {
 namespace {
@@ -24,98 +23,40 @@ constexpr int kNarrowestInLetters = 14;
 
 MaterialBox::MaterialBox(const QString& object_name, elements::MaterialFamily family,
                          QAbstractItemModel* names, QWidget* parent)
-    : QuietBox(object_name, parent), family_(family) {
-  setEditable(true);
-  setInsertPolicy(QComboBox::NoInsert);
+    : SearchedBox(object_name, names, {Correction::kNoHit, Correction::kUnknownMaterial}, parent),
+      family_(family) {
   setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
   setMinimumContentsLength(kNarrowestInLetters);
   setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-  setCompleter(nullptr);
-  setModel(names);
-  setEditText({});
   setAcceptDrops(true);
   lineEdit()->setAcceptDrops(false);
-  SelectAllOnFocus(lineEdit(), this);
-  connect(lineEdit(), &QLineEdit::textEdited, this, [this](const QString& text) {
-    typed_ = true;
-    OfferHits(text);
-  });
-  connect(this, &QComboBox::textActivated, this, [this](const QString& name) { Choose(name); });
-  // A change of the keyword filter resets the model, which would show its first name.
-  connect(
-      names, &QAbstractItemModel::modelReset, this, [this] { setEditText(shown_); }, Qt::QueuedConnection);
 }
 
-void MaterialBox::Show(const std::string& name) {
-  const QString wanted = FromUtf8(name);
-  if (typed_ && wanted == shown_) return;
-  typed_ = false;
-  shown_ = wanted;
-  ShowAgain();
-  setToolTip(wanted);
-}
+void MaterialBox::Tell(FactsOf facts) { facts_ = std::move(facts); }
 
-void MaterialBox::ShowAgain() {
-  // The list's own position follows only where it matters: looking it up costs, and there are many lists.
-  if (hasFocus()) setCurrentIndex(findText(shown_));
-  if (currentText() != shown_) setEditText(shown_);
-  lineEdit()->setCursorPosition(0);
-}
-
-void MaterialBox::Choose(const QString& name) {
-  typed_ = false;
-  emit Chosen(ToUtf8(name));
-  ShowAgain();
-  if (shown_ != name) emit Corrected(Correction::kUnknownMaterial, 0);
-}
-
-QStringList MaterialBox::Names() const {
-  QStringList names;
-  names.reserve(count());
-  for (int i = 0; i < count(); ++i) names += itemText(i);
-  return names;
-}
-
-// @return false when no material has what is typed in its name
-bool MaterialBox::TakeTyped() {
-  if (!typed_) return true;
-  const QStringList hits = RankedHits(Names(), currentText());
-  if (hits.isEmpty() || currentText().trimmed().isEmpty()) return false;
-  Choose(hits.constFirst());
-  return true;
-}
-
-void MaterialBox::Settle() {
-  if (TakeTyped()) return;
-  typed_ = false;
-  ShowAgain();
-  emit Corrected(Correction::kUnknownMaterial, 0);
-}
-
-void MaterialBox::OfferHits(const QString& typed) {
-  if (completer() == nullptr || hits_ == nullptr) return;
-  hits_->setStringList(typed.trimmed().isEmpty() ? QStringList() : RankedHits(Names(), typed));
-  completer()->complete();
+void MaterialBox::showPopup() {
+  if (!IsTyped()) {
+    emit AboutToOffer();
+    ShowAgain();
+  }
+  if (facts_) {
+    auto* delegate = qobject_cast<FactsDelegate*>(view()->itemDelegate());
+    if (delegate == nullptr) {
+      delegate = new FactsDelegate(facts_, view());
+      view()->setItemDelegate(delegate);
+    }
+    delegate->Forget();
+    view()->setMinimumWidth(width() + FactsDelegate::RoomFor(fontMetrics()));
+  }
+  SearchedBox::showPopup();
 }
 
 void MaterialBox::focusInEvent(QFocusEvent* event) {
-  QuietBox::focusInEvent(event);
-  if (completer() == nullptr) {
-    hits_ = new QStringListModel(this);
-    auto* finder = new QCompleter(hits_, this);
-    finder->setCompletionMode(QCompleter::UnfilteredPopupCompletion);
-    setCompleter(finder);
-    connect(finder, qOverload<const QString&>(&QCompleter::activated), this, &MaterialBox::Choose);
-  }
-  // The arrow keys go on from the name that is shown.
-  if (!typed_) ShowAgain();
-}
-
-void MaterialBox::focusOutEvent(QFocusEvent* event) {
-  QuietBox::focusOutEvent(event);
-  if (event->reason() == Qt::PopupFocusReason) return;
-  Settle();
-  lineEdit()->setCursorPosition(0);
+  SearchedBox::focusInEvent(event);
+  if (!facts_ || completer() == nullptr || std::exchange(hits_tell_, true)) return;
+  QAbstractItemView* hits = completer()->popup();
+  hits->setItemDelegate(new FactsDelegate(facts_, hits));
+  hits->setMinimumWidth(width() + FactsDelegate::RoomFor(fontMetrics()));
 }
 
 bool MaterialBox::event(QEvent* event) {
@@ -123,44 +64,31 @@ bool MaterialBox::event(QEvent* event) {
     event->setAccepted(Put(static_cast<PutMaterialEvent*>(event)->Material()));
     return true;
   }
-  // Tab would leave a text that means nothing behind.
-  if (event->type() == QEvent::KeyPress) {
-    const int key = static_cast<QKeyEvent*>(event)->key();
-    if ((key == Qt::Key_Tab || key == Qt::Key_Backtab) && !TakeTyped()) {
-      emit Corrected(Correction::kNoHit, 0);
-      return true;
-    }
-  }
-  return QuietBox::event(event);
+  return SearchedBox::event(event);
 }
 
 void MaterialBox::keyPressEvent(QKeyEvent* event) {
-  const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-  if (enter && !TakeTyped()) {
-    event->accept();
-    emit Corrected(Correction::kNoHit, 0);
-    return;
+  pasted_name_ = false;
+  if (event->matches(QKeySequence::Paste)) {
+    const QString text = QGuiApplication::clipboard()->text();
+    pasted_name_ = !IsTableOfCells(text);
+    if (!pasted_name_) {
+      event->accept();
+      emit TablePasted(text);
+      return;
+    }
+    // A copied name takes the place of the one that is shown, wherever the cursor stands in it.
+    if (findText(text.trimmed(), Qt::MatchFixedString) >= 0) lineEdit()->selectAll();
   }
-  if (event->key() == Qt::Key_Escape && typed_) {
-    typed_ = false;
-    ShowAgain();
-    lineEdit()->selectAll();
-    event->accept();
-    return;
-  }
-  // A copied name takes the place of the one that is shown, wherever the cursor stands in it.
-  if (event->matches(QKeySequence::Paste) &&
-      findText(QGuiApplication::clipboard()->text().trimmed(), Qt::MatchFixedString) >= 0)
-    lineEdit()->selectAll();
-  QuietBox::keyPressEvent(event);
+  SearchedBox::keyPressEvent(event);
 }
 
 void MaterialBox::keyReleaseEvent(QKeyEvent* event) {
-  QuietBox::keyReleaseEvent(event);
+  SearchedBox::keyReleaseEvent(event);
   // The paste key: what was pasted counts at once.
   const bool paste = event->key() == Qt::Key_V && (event->modifiers() & Qt::ControlModifier);
-  if (paste && findText(currentText(), Qt::MatchFixedString) >= 0) {
-    typed_ = true;
+  if (paste && pasted_name_ && findText(currentText(), Qt::MatchFixedString) >= 0) {
+    MarkTyped();
     TakeTyped();
   }
 }

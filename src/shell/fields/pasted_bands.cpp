@@ -64,6 +64,15 @@ bool IsTableOfCells(const QString& text) {
   return lines.size() > 1 || (!lines.isEmpty() && CellsOf(lines.constFirst()).size() > 1);
 }
 
+std::vector<std::vector<std::string>> CellsOfTable(const QString& text) {
+  std::vector<std::vector<std::string>> table;
+  for (const QString& line : LinesOf(text)) {
+    std::vector<std::string>& cells = table.emplace_back();
+    for (const QString& cell : CellsOf(line)) cells.push_back(ToUtf8(cell));
+  }
+  return table;
+}
+
 std::optional<Bands> ReadPastedBands(const QString& text, std::size_t band) {
   const QStringList lines = LinesOf(text);
   if (auto bands = ByFrequency(lines)) return bands;

@@ -4,11 +4,15 @@
 #include <map>
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace velmar::shell {
 
 /// Whether `text` has more than one cell: lines, or cells beside one another, as a spreadsheet copies them.
 bool IsTableOfCells(const QString& text);
+
+/// The cells of `text`, line by line, without blanks around them.
+std::vector<std::vector<std::string>> CellsOfTable(const QString& text);
 
 /// The bands that a pasted table fills, by their index, with their numbers as texts. Lines that begin with
 /// the frequency of a band ("100<tab>35,2", "1,25 kHz;41") go to that band; a plain column or line of numbers

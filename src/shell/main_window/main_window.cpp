@@ -3,14 +3,19 @@
 #include <QAction>
 #include <QApplication>
 #include <QCloseEvent>
+#include <QFileInfo>
+#include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
 #include <QMimeData>
 #include <QSplitter>
 #include <QStackedWidget>
+#include <QStatusBar>
 #include <QVBoxLayout>
 
 #include "calculation/select_calculation.h"
+#include "calculation/usual_layers.h"
+#include "foundation/failure.h"
 #include "foundation/message_rows.h"
 #include "shell/commands/edit_menu.h"
 #include "shell/commands/menus.h"
@@ -24,11 +29,14 @@
 #include "shell/pages/input_tabs.h"
 #include "shell/results/requirement_line.h"
 #include "shell/results/results_panel.h"
+#include "shell/results/variant_strip.h"
+#include "shell/second_opinion/second_opinion_panel.h"
 
 namespace velmar::shell {
 namespace {
 
 constexpr int kRecoveryDelayMs = 2000;
+constexpr int kSayMs = 10000;
 constexpr QSize kFirstSize{1280, 720};
 constexpr int kInputsWidth = 600;
 constexpr int kNarrowestInputs = 520;
@@ -58,16 +66,17 @@ MainWindow::MainWindow(const WindowServices& services, QWidget* parent)
       memory_(services.places.settings),
       continuous_(services.open),
       recovery_(services.open, services, services.places.recovery, kRecoveryDelayMs),
-      files_(services.open, services, services, memory_, recovery_),
+      files_(services.open, services, services, services.places, memory_, recovery_),
       table_(services.open, services.words),
       help_(services, services, services.places),
-      results_(new ResultsPanel(services.open, services, services.overlay, this)),
+      results_(new ResultsPanel(services.open, services, services.accuracy, services.overlay, this)),
       commands_({.window = *this,
                  .open = services.open,
                  .speech = services,
                  .files = files_,
                  .table = table_,
                  .results = *results_,
+                 .accuracy = services.accuracy,
                  .help = &help_,
                  .structures = services.structure_commands,
                  .materials = services.material_commands,
@@ -76,6 +85,7 @@ MainWindow::MainWindow(const WindowServices& services, QWidget* parent)
                 this),
       calculations_(services.words, this) {
   setObjectName("Form1");
+  materials_.Remember(services.places.settings);
   setWindowIcon(ProductIcon());
   setAcceptDrops(true);
   recent_ = FillMenuBar(*menuBar(), commands_, calculations_, services.words);
@@ -90,7 +100,14 @@ MainWindow::MainWindow(const WindowServices& services, QWidget* parent)
   AddContinuousSwitch();
   // Shortcuts work whether or not their menu was ever open.
   for (const Command& command : Commands()) addAction(commands_.Of(command.id));
+  variants_ = new VariantStrip(services.open, services, results_);
+  results_->AddOverlay(variants_->Curves());
+  results_->AddFoot(variants_);
+  opinion_ = new SecondOpinionPanel(services.open, services, services.accuracy, this);
+  results_->AddOverlay(opinion_->Curves());
+  results_->AddFoot(opinion_);
   MakeCentre();
+  MakeStatusLine();
   Connect();
   sides_->setSizes({kInputsWidth, kFirstSize.width() - kInputsWidth});
   sides_arranged_ = memory_.RestoreSizes(*this, *sides_, *results_->Splitter());
@@ -122,6 +139,27 @@ void MainWindow::MakeCentre() {
   setCentralWidget(centre_);
 }
 
+// It takes no room while there is nothing to say.
+void MainWindow::MakeStatusLine() {
+  said_ = new QLabel;
+  said_->setObjectName("RigaStato");
+  said_->setTextFormat(Qt::PlainText);
+  said_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+  statusBar()->addWidget(said_, 1);
+  statusBar()->setSizeGripEnabled(false);
+  statusBar()->hide();
+  silence_.setSingleShot(true);
+  silence_.setInterval(kSayMs);
+  connect(&silence_, &QTimer::timeout, statusBar(), &QStatusBar::hide);
+}
+
+void MainWindow::Say(const QString& text) {
+  said_->setText(text);
+  said_->setToolTip(text);
+  statusBar()->show();
+  silence_.start();
+}
+
 void MainWindow::AddContinuousSwitch() {
   auto* on = new ContinuousSwitch(continuous_, memory_, services_.words, this);
   addAction(on);
@@ -141,10 +179,25 @@ void MainWindow::Connect() {
   connect(start_, &StartScreen::KindChosen, this, &MainWindow::Begin);
   connect(start_, &StartScreen::ProjectChosen, this, &MainWindow::OpenProject);
   connect(&commands_, &CommandSet::AboutToAct, &context_, &PageContext::SettleAsked);
+  connect(edit_menu_, &EditMenu::SettleAsked, &context_, &PageContext::SettleAsked);
+  connect(edit_menu_, &EditMenu::FixVariantWanted, variants_, &VariantStrip::Fix);
+  connect(variants_, &VariantStrip::SettleAsked, &context_, &PageContext::SettleAsked);
   connect(&commands_, &CommandSet::AboutToAct, results_->Requirement(), &RequirementLine::Settle);
   connect(&files_, &ProjectFiles::Opened, tabs_, &InputTabs::FocusFirst);
+  connect(&files_, &ProjectFiles::Emptied, this, [this] {
+    for (const elements::CalculationRow& row : elements::Catalogue())
+      calculations_.Of(row.calculation)->setChecked(false);
+  });
+  connect(&files_, &ProjectFiles::Saved, this, [this](const std::filesystem::path& file) {
+    Say(Text(services_.words, kProjectSavedRow) + ' ' + QString::fromStdString(file.string()));
+  });
+  connect(&recovery_, &Recovery::Kept, this, [this] {
+    if (memory_.IsFirst(QStringLiteral("chiusura"))) Say(Text(services_.words, kClosingKeepsWorkRow));
+  });
+  connect(&recovery_, &Recovery::NotKept, this, [this] { Say(Text(services_.words, kCopyNotWrittenRow)); });
   connect(&context_, &PageContext::RowHovered, results_, &ResultsPanel::Highlight);
   connect(results_, &ResultsPanel::LayerHovered, &context_, &PageContext::SectionHovered);
+  connect(results_, &ResultsPanel::LayerChosen, tabs_, &InputTabs::GoTo);
   if (services_.structure_commands != nullptr)
     connect(&work_, &OpenWork::ResultGone, &services_.structure_commands->Comparison(),
             &ComparisonCommand::ResultGone);
@@ -162,8 +215,16 @@ void MainWindow::Begin(elements::ElementButton kind) {
 
 void MainWindow::Choose(elements::Calculation calculation) {
   tabs_->LayOutAnew();
-  context_.Edit(
-      [calculation](elements::Setup& setup) { calculation::SelectCalculation(setup, calculation); });
+  const auto before = services_.open.Setup().calculation;
+  const bool begins = !before && files_.File().empty();
+  context_.Edit([this, begins, calculation](elements::Setup& setup) {
+    if (begins) {
+      calculation::BeginElement(setup, calculation, services_.materials);
+    } else {
+      calculation::SelectCalculation(setup, calculation);
+    }
+  });
+  files_.FollowChoice(before);
 }
 
 void MainWindow::ShowAll() {
@@ -180,7 +241,9 @@ void MainWindow::ShowAll() {
   calculations_.Mark(*setup.calculation);
   header_->Show();
   tabs_->Show(setup);
+  variants_->Show();
   results_->Show();
+  opinion_->Follow();
 }
 
 // Only once they have their place on the screen do the sides keep what they are given; what the inputs leave
@@ -217,7 +280,13 @@ void MainWindow::OpenProject(const std::filesystem::path& project) {
   files_.Open(project);
 }
 
-void MainWindow::OfferRecovery() { files_.OfferRecovery(); }
+void MainWindow::OfferRecovery() {
+  tabs_->LayOutAnew();
+  if (!files_.OfferRecovery()) return;
+  const QString name = files_.File().empty() ? Text(services_.words, kNewProjectRow)
+                                             : QFileInfo(windowFilePath()).completeBaseName();
+  Say(Text(services_.words, kRecoveredRow) + ' ' + name);
+}
 
 void MainWindow::FollowMaterials(const MaterialCommands& commands) {
   connect(&commands, &MaterialCommands::Changed, this, [this](const MaterialChange& change) {
@@ -230,7 +299,11 @@ void MainWindow::FollowMaterials(const MaterialCommands& commands) {
             ShowAll();
           });
   connect(&commands, &MaterialCommands::Reread, this, [this] {
-    materials_.Reload();
+    try {
+      materials_.Reload();
+    } catch (const Failure& failure) {
+      services_.boxes.tell(Tone::kCritical, Text(services_.words, failure.UserMessage()));
+    }
     ShowAll();
   });
 }
@@ -245,16 +318,19 @@ void MainWindow::SurviveFailure(const QString& what) {
 // The menu entry and the closing of the window do not ask: unsaved work is offered again at the next start.
 void MainWindow::Exit(bool asking) {
   if (asking) {
-    const bool saved = services_.open.IsSaved();
     if (!files_.LeaveUnsaved()) return;
-    if (!saved) recovery_.Discard();
+    files_.GiveUp();
   }
   close();
 }
 
+// Only work that cannot be kept is asked about.
 void MainWindow::closeEvent(QCloseEvent* event) {
+  if (recovery_.HasWork() && !recovery_.Keep()) {
+    if (!files_.LeaveUnsaved()) return event->ignore();
+    files_.GiveUp();
+  }
   memory_.SaveSizes(*this, *sides_, *results_->Splitter());
-  recovery_.WriteNow();
   table_.Close();
   QMainWindow::closeEvent(event);
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QMainWindow>
+#include <QTimer>
 #include <memory>
 
 #include "shell/commands/calculation_menu.h"
@@ -15,6 +16,7 @@
 #include "shell/results/continuous_calculation.h"
 #include "shell/results/open_table.h"
 
+class QLabel;
 class QMenu;
 class QSplitter;
 class QStackedWidget;
@@ -26,7 +28,9 @@ class EditMenu;
 class ElementHeader;
 class InputTabs;
 class ResultsPanel;
+class SecondOpinionPanel;
 class StartScreen;
+class VariantStrip;
 
 /// The main window (`Form1`): composes commands, pages and results around the one open calculation, and owns
 /// no rule.
@@ -39,7 +43,7 @@ class MainWindow : public QMainWindow {
  public slots:
   /// Opens the project file `project` as if it were dropped on the window.
   void OpenProject(const std::filesystem::path& project);
-  /// Offers work that an earlier run left behind.
+  /// Offers unsaved work that earlier runs left behind.
   void OfferRecovery();
   /// Something failed that nobody foresaw: unsaved work is kept before anything else, then `what` is told.
   void SurviveFailure(const QString& what);
@@ -60,6 +64,9 @@ class MainWindow : public QMainWindow {
   void ArrangeSides();
   void ShowProjects();
   void Exit(bool asking);
+  void MakeStatusLine();
+  /// Says `text` at the foot of the window for a while.
+  void Say(const QString& text);
   void FollowMaterials(const MaterialCommands& commands);
 
   const WindowServices& services_;
@@ -73,11 +80,15 @@ class MainWindow : public QMainWindow {
   OpenTable table_;
   HelpCommands help_;
   ResultsPanel* results_ = nullptr;
+  SecondOpinionPanel* opinion_ = nullptr;
   CommandSet commands_;
   CalculationActions calculations_;
   CommandToolBar* tool_bar_ = nullptr;
   EditMenu* edit_menu_ = nullptr;
+  VariantStrip* variants_ = nullptr;
   QMenu* recent_ = nullptr;
+  QLabel* said_ = nullptr;
+  QTimer silence_;
   QStackedWidget* centre_ = nullptr;
   StartScreen* start_ = nullptr;
   QSplitter* sides_ = nullptr;

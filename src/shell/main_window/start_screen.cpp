@@ -88,7 +88,7 @@ void StartScreen::AddKinds(QVBoxLayout& column, const CalculationActions& calcul
     auto* card = new KindCard(Text(words_, command.Caption()), command.icon,
                               Text(words_, kChooseCalculationRow), this);
     card->setObjectName("Inizio_" + QString::number(command.button));
-    calculations.FillKind(*card->Calculations(), *kind);
+    calculations.FillKind(*card->Calculations(), *kind, words_);
     connect(card, &KindCard::clicked, this, [this, kind] { emit KindChosen(*kind); });
     line->addWidget(card);
   }

@@ -12,12 +12,12 @@
 #include "shell/pages/page_services.h"
 #include "shell/project/project_services.h"
 #include "shell/results/chart_overlay.h"
+#include "validation/known_accuracy.h"
 
 namespace velmar::shell {
 
 /// Where the program finds what it hands to the system, and where it keeps its own.
-struct WindowPlaces : HelpPlaces {
-  std::filesystem::path examples{};  ///< folder of the shipped example projects
+struct WindowPlaces : HelpPlaces, ProjectPlaces {
   std::filesystem::path settings{};  ///< sizes and recent projects; empty: nothing is remembered
   std::filesystem::path recovery{};  ///< folder of the copies of unsaved work; empty: none are made
 };
@@ -39,6 +39,7 @@ struct WindowServices : Speech, PageServices, ProjectServices, HelpServices {
   }
 
   calculation::OpenCalculation& open;
+  validation::KnownAccuracy accuracy{};  ///< of the errors of the models
   WindowPlaces places{};
   ChartOverlay* overlay = nullptr;
   // A window that this program does not have is null; its command says so.

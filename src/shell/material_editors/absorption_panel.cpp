@@ -61,7 +61,12 @@ AbsorptionPanel::AbsorptionPanel(const shell::WindowTools& tools, QWidget* paren
   auto* clear = new QPushButton(tools_.Text(kClearAbsorptionRow), this);
   clear->setObjectName(QStringLiteral("CommandAlfa"));
   clear->setAutoDefault(false);
+  compute_ = new QPushButton(tools_.Text(kComputeAbsorptionRow), this);
+  compute_->setObjectName(QStringLiteral("CommandCalcola"));
+  compute_->setToolTip(tools_.Text(kComputeAbsorptionTipRow));
+  compute_->setAutoDefault(false);
   row->addWidget(remark, 1);
+  row->addWidget(compute_);
   row->addWidget(clear);
   column->addLayout(row);
   curve_ = new AbsorptionView(tools_, this);
@@ -89,13 +94,42 @@ QWidget* AbsorptionPanel::MakeBoxes() {
     if (band > 0) boxes_.at(band - 1)->SetNext(box);
     boxes_.at(band) = box;
     connect(box, &QLineEdit::textChanged, this, [this] { DrawCurve(); });
+    connect(box, &QLineEdit::textEdited, this, [this, band] { Mark(band, false); });
     box->OnColumn([this, band](const QString& cells) { TakeColumn(cells, band); });
   }
   return place;
 }
 
 void AbsorptionPanel::Show(const Texts& coefficients) {
-  for (std::size_t band = 0; band < boxes_.size(); ++band) boxes_.at(band)->ShowStored(coefficients.at(band));
+  for (std::size_t band = 0; band < boxes_.size(); ++band) {
+    boxes_.at(band)->ShowStored(coefficients.at(band));
+    Mark(band, false);
+  }
+}
+
+void AbsorptionPanel::ShowComputed(const Texts& coefficients, const std::vector<std::size_t>& bands) {
+  for (const std::size_t band : bands) {
+    boxes_.at(band)->Show(coefficients.at(band));
+    Mark(band, true);
+  }
+}
+
+std::vector<std::size_t> AbsorptionPanel::ComputedBands() const {
+  std::vector<std::size_t> bands;
+  for (std::size_t band = 0; band < computed_.size(); ++band) {
+    if (computed_.at(band) && !boxes_.at(band)->Number().empty()) bands.push_back(band);
+  }
+  return bands;
+}
+
+void AbsorptionPanel::Mark(std::size_t band, bool computed) {
+  if (computed_.at(band) == computed) return;
+  computed_.at(band) = computed;
+  AbsorptionBox* box = boxes_.at(band);
+  QFont font = box->font();
+  font.setItalic(computed);
+  box->setFont(font);
+  box->setToolTip(tools_.Text(computed ? kComputedAbsorptionTipRow : kAbsorptionBoxTipRow));
 }
 
 AbsorptionPanel::Texts AbsorptionPanel::Entered() const {
@@ -135,6 +169,7 @@ void AbsorptionPanel::TakeColumn(const QString& cells, std::size_t band) {
   const auto& pasted = std::get<materials::PastedAbsorption>(read);
   for (std::size_t i = 0; i < pasted.texts.size(); ++i)
     boxes_.at(pasted.first_band + i)->Show(pasted.texts.at(i));
+  for (std::size_t i = 0; i < pasted.texts.size(); ++i) Mark(pasted.first_band + i, false);
 }
 
 }  // namespace velmar::material_editors

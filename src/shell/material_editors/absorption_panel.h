@@ -4,6 +4,7 @@
 #include <QWidget>
 #include <array>
 #include <string>
+#include <vector>
 
 #include "elements/materials.h"
 #include "presentation/drawing/absorption_chart.h"
@@ -43,6 +44,13 @@ class AbsorptionPanel : public QGroupBox {
   void Show(const Texts& coefficients);
   Texts Entered() const;
 
+  /// "Calcola"; what it does is the editor's.
+  QPushButton* ComputeButton() const { return compute_; }
+  /// Shows `coefficients` in `bands` and marks them as computed, until they are typed over.
+  void ShowComputed(const Texts& coefficients, const std::vector<std::size_t>& bands);
+  /// The bands that are marked as computed.
+  std::vector<std::size_t> ComputedBands() const;
+
  protected:
   void changeEvent(QEvent* event) override;
 
@@ -50,10 +58,13 @@ class AbsorptionPanel : public QGroupBox {
   QWidget* MakeBoxes();
   void DrawCurve();
   void AskAndClear();
+  void Mark(std::size_t band, bool computed);
   void TakeColumn(const QString& cells, std::size_t band);
 
   shell::WindowTools tools_;
   std::array<AbsorptionBox*, elements::kAbsorptionBandCount> boxes_{};
+  std::array<bool, elements::kAbsorptionBandCount> computed_{};
+  QPushButton* compute_ = nullptr;  ///< `CommandCalcola`
   AbsorptionView* curve_ = nullptr;
 };
 

@@ -6,7 +6,10 @@
 #include <variant>
 
 #include "foundation/message_rows.h"
+#include "foundation/utf8.h"
+#include "materials/judged_values.h"
 #include "materials/save_entry.h"
+#include "shell/fields/long_work.h"
 #include "storage/database/database_failure.h"
 
 namespace velmar::material_editors {
@@ -44,6 +47,9 @@ SaveOutcome EditedMaterial<Material>::Save(const Entry& entry, bool touched, con
   if (auto* refusal = std::get_if<EntryRefusal>(&checked)) return Refused(std::move(*refusal));
   const Row& row = std::get<Row>(checked);
 
+  const bool looked_at = touched || !opened_;
+  if (looked_at && !Accepted(row, ask)) return {};
+
   const std::string opened_name = opened_ ? opened_->record.values.name : std::string();
   std::string stored_name = opened_name;
   if (opened_) {
@@ -63,10 +69,33 @@ SaveOutcome EditedMaterial<Material>::Save(const Entry& entry, bool touched, con
       return {.done = true};
     }
   }
-  if (auto refusal = materials::SaveEntry(*store_, entry, stored_name, texts_)) return Refused(*refusal);
+  std::optional<EntryRefusal> refusal;
+  shell::RunBeside([&] { refusal = materials::SaveEntry(*store_, entry, stored_name, texts_); });
+  if (refusal) return Refused(*std::move(refusal));
   return {.done = true,
           .change =
               shell::MaterialChange{FamilyOf<Material>(), opened_name, row.record.values.name, row.keyword}};
+}
+
+template <typename Material>
+bool EditedMaterial<Material>::Accepted(const Row& row, const AskUser& ask) {
+  auto question = materials::ImprobableValues(elements::FindingsOf(row.record));
+  if (!question) return true;
+  question->push_back({kStoreAllTheSameRow});
+  return ask(*question);
+}
+
+template <typename Material>
+SaveOutcome EditedMaterial<Material>::SaveCopy(Entry entry, const std::string& mark, const AskUser& ask) {
+  if (!opened_) return Save(entry, true, ask);
+  if (SameName(entry.name, opened_->record.values.name)) entry.name += " " + mark;
+  auto checked = materials::RowOf(entry, texts_);
+  if (auto* refusal = std::get_if<EntryRefusal>(&checked)) return Refused(std::move(*refusal));
+  const Row& row = std::get<Row>(checked);
+  if (!Accepted(row, ask)) return {};
+  if (auto refusal = materials::SaveCopy(*store_, entry, *opened_, texts_)) return Refused(*refusal);
+  return {.done = true,
+          .change = shell::MaterialChange{FamilyOf<Material>(), "", row.record.values.name, row.keyword}};
 }
 
 template class EditedMaterial<elements::StructuralMaterial>;

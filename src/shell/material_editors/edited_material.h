@@ -38,13 +38,20 @@ class EditedMaterial {
 
   const std::optional<Row>& Opened() const { return opened_; }
 
-  /// Checks and stores `entry`. A row that nobody touched is not written, so that its numbers stay to the
-  /// last digit. `ask` decides about a row that another program has deleted, renamed or changed meanwhile;
-  /// "no" stores nothing.
+  /// Checks and stores `entry`; `ask` decides first about values that are improbable. A row that nobody
+  /// touched is not written, so that its numbers stay to the last digit. `ask` decides about a row that
+  /// another program has deleted, renamed or changed meanwhile; "no" stores nothing.
   /// @param touched whether the user changed anything since the editor opened
   SaveOutcome Save(const Entry& entry, bool touched, const AskUser& ask);
 
+  /// Checks `entry` and stores it as a new row beside the opened one, which stays as it is. Under the name of
+  /// the opened one it takes that name with `mark` behind it.
+  SaveOutcome SaveCopy(Entry entry, const std::string& mark, const AskUser& ask);
+
  private:
+  /// Whether improbable values of `row` are to be stored.
+  static bool Accepted(const Row& row, const AskUser& ask);
+
   storage::MaterialStore* store_;
   materials::KeywordTexts texts_;
   std::optional<Row> opened_;

@@ -19,18 +19,25 @@ EditorDialog::EditorDialog(shell::WindowTools tools, const QString& object_name,
 
 EditorDialog::~EditorDialog() { shell::SaveSizes(tools_.memory, {memory_name_, this, nullptr, nullptr}); }
 
-QHBoxLayout* EditorDialog::MakeButtons() {
+QHBoxLayout* EditorDialog::MakeButtons(bool with_copy) {
   auto* row = new QHBoxLayout;
   auto* save = new QPushButton(tools_.Text(kSaveMaterialRow), this);
   save->setObjectName(QStringLiteral("Command1"));
   save->setDefault(true);
+  auto* copy = new QPushButton(tools_.Text(kSaveCopyRow), this);
+  copy->setObjectName(QStringLiteral("CommandCopia"));
+  copy->setToolTip(tools_.Text(kSaveCopyTipRow));
+  copy->setAutoDefault(false);
+  copy->setVisible(with_copy);
   auto* cancel = new QPushButton(tools_.Text(kCancelRow), this);
   cancel->setObjectName(QStringLiteral("Command2"));
   cancel->setAutoDefault(false);
   row->addStretch(1);
+  row->addWidget(copy);
   row->addWidget(save);
   row->addWidget(cancel);
-  connect(save, &QPushButton::clicked, this, [this] { Save(); });
+  connect(copy, &QPushButton::clicked, this, [this] { Save(true); });
+  connect(save, &QPushButton::clicked, this, [this] { Save(false); });
   connect(cancel, &QPushButton::clicked, this, [this] { reject(); });
   return row;
 }
@@ -48,11 +55,11 @@ QString EditorDialog::InWords(const Message& message) const {
   return lines.join('\n');
 }
 
-void EditorDialog::Save() {
+void EditorDialog::Save(bool as_copy) {
   // Enter saves from within a box, whose number still has to reach the boxes that follow from it.
   if (auto* box = dynamic_cast<NumberBox*>(focusWidget())) box->Leave();
-  const SaveOutcome outcome =
-      Store([this](const Message& question) { return tools_.ask(InWords(question)); });
+  const AskUser ask = [this](const Message& question) { return tools_.ask(InWords(question)); };
+  const SaveOutcome outcome = as_copy ? StoreCopy(shell::FromQt(tools_.Text(kCopyNameRow)), ask) : Store(ask);
   if (outcome.refusal) {
     tools_.tell(InWords(outcome.refusal->message));
     if (auto* box = findChild<QWidget*>(shell::ToQt(outcome.refusal->box))) {

@@ -2,6 +2,7 @@
 
 #include <QDialog>
 #include <optional>
+#include <string>
 #include <vector>
 
 #include "shell/fields/window_tools.h"
@@ -31,16 +32,19 @@ class EditorDialog : public QDialog {
   virtual bool Changed() const = 0;
   /// Stores what the boxes hold.
   virtual SaveOutcome Store(const AskUser& ask) = 0;
+  /// Stores what the boxes hold as a new material, `mark` behind the name where that is taken by the opened
+  /// one.
+  virtual SaveOutcome StoreCopy(const std::string& mark, const AskUser& ask) = 0;
 
   const shell::WindowTools& Tools() const { return tools_; }
 
-  /// "Salva" and "Annulla".
-  QHBoxLayout* MakeButtons();
+  /// "Salva", "Salva come copia" where there is something to copy, and "Annulla".
+  QHBoxLayout* MakeButtons(bool with_copy);
   /// To be called when all controls stand: letters for Alt, the remembered size, the focus on `first`.
   void Finish(QLineEdit* first);
 
  private:
-  void Save();
+  void Save(bool as_copy);
   QString InWords(const Message& message) const;
 
   shell::WindowTools tools_;

@@ -2,10 +2,12 @@
 
 #include <QHBoxLayout>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QRadioButton>
 #include <QVBoxLayout>
 
 #include "foundation/message_rows.h"
+#include "materials/computed_absorption.h"
 #include "shell/material_editors/absorption_panel.h"
 #include "shell/material_editors/field_grid.h"
 #include "shell/material_editors/keyword_box.h"
@@ -26,8 +28,9 @@ FibrousEditor::FibrousEditor(shell::WindowTools tools, EditedMaterial<elements::
                              QWidget* parent)
     : EditorDialog(std::move(tools), QStringLiteral("Form6"), QStringLiteral("materiale-fibroso"), parent),
       material_(std::move(material)) {
-  setWindowTitle(Tools().Text(kFibrousMaterialsRow));
+  setWindowTitle(Tools().Text(kFibrousMaterialRow));
   MakeControls(keywords, picture);
+  connect(absorption_->ComputeButton(), &QPushButton::clicked, this, [this] { ComputeAbsorption(); });
   connect(porous_, &QRadioButton::toggled, this, [this] { EnableWhatCounts(); });
   Show(material_.Opened() ? materials::EntryOf(*material_.Opened()) : FibrousEntry{});
   EnableWhatCounts();
@@ -61,6 +64,7 @@ void FibrousEditor::MakeControls(const std::vector<std::string>& keywords,
   fields.AddGap();
   fields.Add(kMaterialKeywordRow, keyword_ = new KeywordBox(QStringLiteral("Text8"), keywords, this),
              kKeywordTipRow);
+  source_ = fields.AddText("TextFonte", kSourceCaptionRow);
 
   auto* left = new QVBoxLayout;
   left->addLayout(fields.Layout());
@@ -72,7 +76,7 @@ void FibrousEditor::MakeControls(const std::vector<std::string>& keywords,
   auto* column = new QVBoxLayout(this);
   column->addLayout(faces, 1);
   column->addSpacing(kButtonGapPx);
-  column->addLayout(MakeButtons());
+  column->addLayout(MakeButtons(material_.Opened().has_value()));
 }
 
 void FibrousEditor::Show(const FibrousEntry& entry) {
@@ -80,6 +84,9 @@ void FibrousEditor::Show(const FibrousEntry& entry) {
   description_->setText(shell::ToQt(entry.description));
   description_->setCursorPosition(0);
   keyword_->setEditText(shell::ToQt(entry.keyword));
+  source_->setText(shell::ToQt(entry.source));
+  source_->setCursorPosition(0);
+  source_->setToolTip(source_->text());
   thickness_->ShowStored(entry.thickness);
   density_->ShowStored(entry.density);
   (entry.porous ? porous_ : solid_)->setChecked(true);
@@ -101,7 +108,9 @@ FibrousEntry FibrousEditor::Entry() const {
           .loss_factor = loss_factor_->Number(),
           .poissons_ratio = poissons_ratio_->Number(),
           .flow_resistance = flow_resistance_->Number(),
-          .absorption = absorption_->Entered()};
+          .absorption = absorption_->Entered(),
+          .source = shell::FromQt(source_->text()),
+          .computation = materials::ComputationOf(computed_from_, absorption_->ComputedBands())};
 }
 
 void FibrousEditor::EnableWhatCounts() {
@@ -111,8 +120,24 @@ void FibrousEditor::EnableWhatCounts() {
   for (NumberBox* box : {youngs_modulus_, loss_factor_, poissons_ratio_}) box->setEnabled(!porous);
 }
 
+void FibrousEditor::ComputeAbsorption() {
+  for (NumberBox* box : {thickness_, flow_resistance_}) box->Leave();
+  const FibrousEntry entry = Entry();
+  const materials::ComputedAbsorption computed = materials::ComputeMissing(entry);
+  if (computed.bands.empty()) {
+    Tools().tell(Tools().Text(kNothingToComputeRow));
+    return;
+  }
+  computed_from_ = entry;
+  absorption_->ShowComputed(computed.coefficients, computed.bands);
+}
+
 bool FibrousEditor::Changed() const { return Entry() != shown_first_; }
 
 SaveOutcome FibrousEditor::Store(const AskUser& ask) { return material_.Save(Entry(), Changed(), ask); }
+
+SaveOutcome FibrousEditor::StoreCopy(const std::string& mark, const AskUser& ask) {
+  return material_.SaveCopy(Entry(), mark, ask);
+}
 
 }  // namespace velmar::material_editors

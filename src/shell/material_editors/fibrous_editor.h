@@ -16,7 +16,7 @@ class AbsorptionPanel;
 class KeywordBox;
 class NumberBox;
 
-/// "Materiali fibrosi": `Form6` with the boxes of a row of the fibrous materials. The option decides which of
+/// "Materiale fibroso": `Form6` with the boxes of a row of the fibrous materials. The option decides which of
 /// them count.
 class FibrousEditor : public EditorDialog {
  public:
@@ -29,26 +29,30 @@ class FibrousEditor : public EditorDialog {
  protected:
   bool Changed() const override;
   SaveOutcome Store(const AskUser& ask) override;
+  SaveOutcome StoreCopy(const std::string& mark, const AskUser& ask) override;
 
  private:
   void MakeControls(const std::vector<std::string>& keywords, const std::filesystem::path& picture);
   void Show(const materials::FibrousEntry& entry);
   materials::FibrousEntry Entry() const;
   void EnableWhatCounts();
+  void ComputeAbsorption();
 
   EditedMaterial<elements::FibrousMaterial> material_;
   materials::FibrousEntry shown_first_;
-  QLineEdit* name_ = nullptr;             ///< `Text1`
-  QLineEdit* description_ = nullptr;      ///< `Text2`
-  NumberBox* thickness_ = nullptr;        ///< `Text10`
-  NumberBox* density_ = nullptr;          ///< `Text9`
-  QRadioButton* porous_ = nullptr;        ///< `Option1`(0)
-  NumberBox* flow_resistance_ = nullptr;  ///< `Text14`
-  QRadioButton* solid_ = nullptr;         ///< `Option1`(1)
-  NumberBox* youngs_modulus_ = nullptr;   ///< `Text11`
-  NumberBox* loss_factor_ = nullptr;      ///< `Text12`
-  NumberBox* poissons_ratio_ = nullptr;   ///< `Text13`
-  KeywordBox* keyword_ = nullptr;         ///< `Text8`
+  materials::FibrousEntry computed_from_;  ///< the boxes when "Calcola" was pressed
+  QLineEdit* name_ = nullptr;              ///< `Text1`
+  QLineEdit* description_ = nullptr;       ///< `Text2`
+  NumberBox* thickness_ = nullptr;         ///< `Text10`
+  NumberBox* density_ = nullptr;           ///< `Text9`
+  QRadioButton* porous_ = nullptr;         ///< `Option1`(0)
+  NumberBox* flow_resistance_ = nullptr;   ///< `Text14`
+  QRadioButton* solid_ = nullptr;          ///< `Option1`(1)
+  NumberBox* youngs_modulus_ = nullptr;    ///< `Text11`
+  NumberBox* loss_factor_ = nullptr;       ///< `Text12`
+  NumberBox* poissons_ratio_ = nullptr;    ///< `Text13`
+  KeywordBox* keyword_ = nullptr;          ///< `Text8`
+  QLineEdit* source_ = nullptr;            ///< `TextFonte`
   AbsorptionPanel* absorption_ = nullptr;
 };
 

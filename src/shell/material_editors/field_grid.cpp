@@ -63,11 +63,12 @@ NumberBox* FieldGrid::AddNumber(const char* object_name, MessageRow caption, Mes
 
 void FieldGrid::AddWhole(QWidget* control) { grid_->addWidget(control, next_row_++, 0, 1, kColumns); }
 
-void FieldGrid::AddRemark(MessageRow text) {
+QLabel* FieldGrid::AddRemark(MessageRow text) {
   auto* remark = new QLabel(tools_.Text(text), window_);
   remark->setWordWrap(true);
   remark->setForegroundRole(QPalette::PlaceholderText);
   AddWhole(remark);
+  return remark;
 }
 
 void FieldGrid::AddGap() { grid_->setRowMinimumHeight(next_row_++, kGapPx); }

@@ -6,6 +6,7 @@
 #include "shell/fields/window_tools.h"
 
 class QGridLayout;
+class QLabel;
 class QLineEdit;
 class QWidget;
 
@@ -32,7 +33,7 @@ class FieldGrid {
   /// A control that brings its own words.
   void AddWhole(QWidget* control);
   /// A quiet remark.
-  void AddRemark(MessageRow text);
+  QLabel* AddRemark(MessageRow text);
   /// Room between two groups of boxes.
   void AddGap();
   /// The picture in `file` (`Picture1`) beside the number boxes from row `first_row` to the last one so far.

@@ -1,5 +1,6 @@
 #include "shell/material_editors/resilient_editor.h"
 
+#include <QLabel>
 #include <QLineEdit>
 #include <QVBoxLayout>
 
@@ -32,6 +33,8 @@ ResilientEditor::ResilientEditor(shell::WindowTools tools,
   resonance_->OnLeave([this](bool edited) { Couple(ResilientBox::kResonance, edited); });
   Show(material_.Opened() ? materials::EntryOf(*material_.Opened()) : ResilientEntry{});
   shown_first_ = Entry();
+  connect(stiffness_, &QLineEdit::textChanged, this, [this] { ShowStandard(); });
+  ShowStandard();
   Finish(name_);
 }
 
@@ -47,17 +50,20 @@ void ResilientEditor::MakeControls(const std::vector<std::string>& keywords,
   resonance_ = fields.AddNumber("Text5", kResonanceRow, kResonanceTipRow);
   fields.AddPicture(picture, first_row_beside);
   fields.AddRemark(kOneOfThreeRow);
+  standard_ = fields.AddRemark(kStandardImprovementRow);
+  standard_->setObjectName(QStringLiteral("LabelDLw12354"));
   fields.AddGap();
   thickness_ = fields.AddNumber("Text6", kMaterialThicknessRow);
   density_ = fields.AddNumber("Text7", kMaterialDensityRow);
   fields.AddGap();
   fields.Add(kMaterialKeywordRow, keyword_ = new KeywordBox(QStringLiteral("Text8"), keywords, this),
              kKeywordTipRow);
+  source_ = fields.AddText("TextFonte", kSourceCaptionRow);
   auto* column = new QVBoxLayout(this);
   column->addLayout(fields.Layout());
   column->addSpacing(kButtonGapPx);
   column->addStretch(1);
-  column->addLayout(MakeButtons());
+  column->addLayout(MakeButtons(material_.Opened().has_value()));
 }
 
 void ResilientEditor::Show(const ResilientEntry& entry) {
@@ -65,6 +71,9 @@ void ResilientEditor::Show(const ResilientEntry& entry) {
   description_->setText(shell::ToQt(entry.description));
   description_->setCursorPosition(0);
   keyword_->setEditText(shell::ToQt(entry.keyword));
+  source_->setText(shell::ToQt(entry.source));
+  source_->setCursorPosition(0);
+  source_->setToolTip(source_->text());
   stiffness_->ShowStored(entry.stiffness);
   improvement_->ShowStored(entry.improvement);
   resonance_->ShowStored(entry.resonance);
@@ -80,7 +89,8 @@ ResilientEntry ResilientEditor::Entry() const {
           .improvement = improvement_->Number(),
           .resonance = resonance_->Number(),
           .thickness = thickness_->Number(),
-          .density = density_->Number()};
+          .density = density_->Number(),
+          .source = shell::FromQt(source_->text())};
 }
 
 // A box that was only passed through fills an empty one, but rounds no number that is there.
@@ -92,8 +102,18 @@ void ResilientEditor::Couple(ResilientBox left, bool edited) {
   resonance_->Fill(coupled.resonance_frequency_hz, edited);
 }
 
+void ResilientEditor::ShowStandard() {
+  const QString value = shell::ToQt(materials::StandardImprovement(stiffness_->Number()));
+  standard_->setText(Tools().Text(kStandardImprovementRow) +
+                     (value.isEmpty() ? QStringLiteral(" -") : ' ' + value + " dB"));
+}
+
 bool ResilientEditor::Changed() const { return Entry() != shown_first_; }
 
 SaveOutcome ResilientEditor::Store(const AskUser& ask) { return material_.Save(Entry(), Changed(), ask); }
+
+SaveOutcome ResilientEditor::StoreCopy(const std::string& mark, const AskUser& ask) {
+  return material_.SaveCopy(Entry(), mark, ask);
+}
 
 }  // namespace velmar::material_editors

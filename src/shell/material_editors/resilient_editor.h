@@ -8,6 +8,7 @@
 #include "materials/coupled_boxes.h"
 #include "shell/material_editors/editor_dialog.h"
 
+class QLabel;
 class QLineEdit;
 
 namespace velmar::material_editors {
@@ -27,12 +28,14 @@ class ResilientEditor : public EditorDialog {
  protected:
   bool Changed() const override;
   SaveOutcome Store(const AskUser& ask) override;
+  SaveOutcome StoreCopy(const std::string& mark, const AskUser& ask) override;
 
  private:
   void MakeControls(const std::vector<std::string>& keywords, const std::filesystem::path& picture);
   void Show(const materials::ResilientEntry& entry);
   materials::ResilientEntry Entry() const;
   void Couple(materials::ResilientBox left, bool edited);
+  void ShowStandard();
 
   EditedMaterial<elements::ResilientMaterial> material_;
   materials::ResilientEntry shown_first_;
@@ -41,9 +44,11 @@ class ResilientEditor : public EditorDialog {
   NumberBox* stiffness_ = nullptr;    ///< `Text3`
   NumberBox* improvement_ = nullptr;  ///< `Text4`
   NumberBox* resonance_ = nullptr;    ///< `Text5`
+  QLabel* standard_ = nullptr;        ///< what EN ISO 12354-2 gives
   NumberBox* thickness_ = nullptr;    ///< `Text6`
   NumberBox* density_ = nullptr;      ///< `Text7`
   KeywordBox* keyword_ = nullptr;     ///< `Text8`
+  QLineEdit* source_ = nullptr;       ///< `TextFonte`
 };
 
 }  // namespace velmar::material_editors

@@ -43,10 +43,11 @@ StructuralEditor::StructuralEditor(shell::WindowTools tools,
   fields.AddGap();
   fields.Add(kMaterialKeywordRow, keyword_ = new KeywordBox(QStringLiteral("Text10"), keywords, this),
              kKeywordTipRow);
+  source_ = fields.AddText("TextFonte", kSourceCaptionRow);
   column->addLayout(fields.Layout());
   column->addSpacing(kButtonGapPx);
   column->addStretch(1);
-  column->addLayout(MakeButtons());
+  column->addLayout(MakeButtons(material_.Opened().has_value()));
 
   thickness_->OnLeave([this](bool edited) { Couple(MassBox::kThickness, edited); });
   density_->OnLeave([this](bool edited) { Couple(MassBox::kDensity, edited); });
@@ -68,6 +69,9 @@ void StructuralEditor::Show(const StructuralEntry& entry) {
   loss_factor_->ShowStored(entry.loss_factor);
   poissons_ratio_->ShowStored(entry.poissons_ratio);
   keyword_->setEditText(shell::ToQt(entry.keyword));
+  source_->setText(shell::ToQt(entry.source));
+  source_->setCursorPosition(0);
+  source_->setToolTip(source_->text());
 }
 
 StructuralEntry StructuralEditor::Entry() const {
@@ -80,7 +84,8 @@ StructuralEntry StructuralEditor::Entry() const {
           .critical_frequency = critical_frequency_->Number(),
           .loss_factor = loss_factor_->Number(),
           .poissons_ratio = poissons_ratio_->Number(),
-          .keyword = shell::FromQt(keyword_->currentText())};
+          .keyword = shell::FromQt(keyword_->currentText()),
+          .source = shell::FromQt(source_->text())};
 }
 
 // A box that was only passed through fills an empty one, but rounds no number that is there.
@@ -95,5 +100,9 @@ void StructuralEditor::Couple(MassBox left, bool edited) {
 bool StructuralEditor::Changed() const { return Entry() != shown_first_; }
 
 SaveOutcome StructuralEditor::Store(const AskUser& ask) { return material_.Save(Entry(), Changed(), ask); }
+
+SaveOutcome StructuralEditor::StoreCopy(const std::string& mark, const AskUser& ask) {
+  return material_.SaveCopy(Entry(), mark, ask);
+}
 
 }  // namespace velmar::material_editors

@@ -24,6 +24,7 @@ class StructuralEditor : public EditorDialog {
  protected:
   bool Changed() const override;
   SaveOutcome Store(const AskUser& ask) override;
+  SaveOutcome StoreCopy(const std::string& mark, const AskUser& ask) override;
 
  private:
   void Show(const materials::StructuralEntry& entry);
@@ -42,6 +43,7 @@ class StructuralEditor : public EditorDialog {
   NumberBox* loss_factor_ = nullptr;         ///< `Text8`
   NumberBox* poissons_ratio_ = nullptr;      ///< `Text9`
   KeywordBox* keyword_ = nullptr;            ///< `Text10`
+  QLineEdit* source_ = nullptr;              ///< `TextFonte`
 };
 
 }  // namespace velmar::material_editors

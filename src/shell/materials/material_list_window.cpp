@@ -10,8 +10,10 @@
 #include <QRadioButton>
 #include <QSettings>
 #include <QVBoxLayout>
+#include <utility>
 
 #include "foundation/message_rows.h"
+#include "presentation/texts/words.h"
 #include "shell/fields/button_row.h"
 #include "shell/materials/material_texts.h"
 
@@ -132,8 +134,11 @@ QWidget* MaterialListWindow::MakeSelected() {
   if (tools_.memory != nullptr)
     all_columns_->setChecked(tools_.memory->value(QLatin1String(kAllColumnsKey)).toBool());
   connect(all_columns_, &QCheckBox::toggled, this, [this](bool all) { grid_->ShowColumns(all); });
+  use_ = new QLabel(bar);
+  use_->setObjectName(QStringLiteral("LabelUso"));
   row->addWidget(caption);
   row->addWidget(name_, 1);
+  row->addWidget(use_);
   row->addWidget(all_columns_);
   return bar;
 }
@@ -147,6 +152,10 @@ QWidget* MaterialListWindow::MakeButtons() {
   new_->setEnabled(static_cast<bool>(source_.edit));
   edit_ = add("CommandModifica", kEditMaterialRow, [this] { Edit(grid_->SelectedName()); });
   delete_ = add("Command4", kDeleteMaterialRow, [this] { Delete(); });
+  undo_ = add("CommandAnnullaElimina", kUndoDeleteRow, [this] { UndoDelete(); });
+  undo_->setToolTip(tools_.Text(kMaterialDeletedUndoTipRow));
+  undo_->setVisible(static_cast<bool>(source_.add));
+  undo_->setEnabled(false);
   bar->AddStretch();
   add("Aggiorna", kRefreshRow, [this] { RefreshAsAsked(); })->setToolTip(tools_.Text(kRefreshTipRow));
   take_ = add("CmdSeleziona", kSelectMaterialRow, [this] { Take(); });
@@ -197,6 +206,7 @@ void MaterialListWindow::ShowSelected() {
   name_->setCursorPosition(0);
   edit_->setEnabled(!name.empty() && source_.edit);
   delete_->setEnabled(!name.empty());
+  ShowUse(name);
   take_->setEnabled(!name.empty());
 }
 
@@ -259,10 +269,45 @@ void MaterialListWindow::Delete() {
       tools_.Text(kDeleteMaterialQuestionRow) + QStringLiteral(" \"%1\"?").arg(ToQt(name));
   if (!tools_.ask(question)) return;
   const int row = grid_->SelectedRow();
-  if (!tools_.Try([&] { source_.remove(family_, name); })) return;
+  std::optional<MaterialCells> cells;
+  const bool removed = tools_.Try([&] {
+    cells = source_.find(family_, name);
+    source_.remove(family_, name);
+  });
+  if (!removed) return;
+  if (cells) deleted_ = Deleted{family_, name, *std::move(cells)};
+  undo_->setEnabled(deleted_.has_value());
   Refresh();
   grid_->SelectRow(row);
   if (listener_.removed) listener_.removed(family_, name);
+}
+
+void MaterialListWindow::UndoDelete() {
+  if (!deleted_ || !source_.add) return;
+  std::optional<Message> refusal;
+  if (!tools_.Try([&] { refusal = source_.add(deleted_->family, deleted_->cells); })) return;
+  if (refusal) {
+    QStringList lines;
+    for (const MessageLine& line : *refusal) lines << ToQt(presentation::InWords(line, tools_.words));
+    tools_.tell(lines.join('\n'));
+    return;
+  }
+  const Deleted back = *std::exchange(deleted_, std::nullopt);
+  undo_->setEnabled(false);
+  if (back.family == family_) {
+    Refresh();
+    grid_->SelectName(back.name);
+  }
+  if (listener_.changed) listener_.changed({back.family, {}, back.name, {}});
+}
+
+void MaterialListWindow::ShowUse(const std::string& name) {
+  QStringList numbers;
+  if (listener_.used && !name.empty()) {
+    for (const int number : listener_.used(family_, name)) numbers << QString::number(number);
+  }
+  use_->setText(numbers.isEmpty() ? QString()
+                                  : tools_.Text(kUsedInLayersRow) + ' ' + numbers.join(QStringLiteral(", ")));
 }
 
 }  // namespace velmar::shell

@@ -4,6 +4,8 @@
 #include <array>
 #include <functional>
 #include <optional>
+#include <string>
+#include <vector>
 
 #include "shell/fields/window_tools.h"
 #include "shell/materials/material_grid.h"
@@ -11,6 +13,7 @@
 #include "shell/materials/material_source.h"
 
 class QCheckBox;
+class QLabel;
 class QLineEdit;
 class QPushButton;
 class QRadioButton;
@@ -34,6 +37,8 @@ class MaterialListWindow : public QDialog {
     std::function<void(elements::MaterialFamily, const std::string& name)> removed{};
     /// The table was read again when the user asked for it: others may have changed it.
     std::function<void()> refreshed{};
+    /// The numbers of the layers of the open calculation that hold a material; without it nothing is told.
+    std::function<std::vector<int>(elements::MaterialFamily, const std::string& name)> used{};
   };
 
   MaterialListWindow(WindowTools tools, MaterialSource source, std::optional<MaterialPick> pick,
@@ -61,6 +66,15 @@ class MaterialListWindow : public QDialog {
   void Take();
   void Edit(const std::string& name);
   void Delete();
+  void UndoDelete();
+  void ShowUse(const std::string& name);
+
+  /// The row that was deleted last.
+  struct Deleted {
+    elements::MaterialFamily family{};
+    std::string name{};
+    MaterialCells cells{};
+  };
 
   WindowTools tools_;
   MaterialSource source_;
@@ -77,6 +91,9 @@ class MaterialListWindow : public QDialog {
   QPushButton* new_ = nullptr;
   QPushButton* edit_ = nullptr;
   QPushButton* delete_ = nullptr;
+  QPushButton* undo_ = nullptr;
+  QLabel* use_ = nullptr;  ///< where the open calculation uses the selected material
+  std::optional<Deleted> deleted_;
   QPushButton* take_ = nullptr;
 };
 

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "elements/layer_groups.h"
+#include "foundation/message.h"
 #include "shell/fields/material_change.h"
 #include "storage/materials/material_row.h"
 #include "storage/tables/cell.h"
@@ -27,6 +28,8 @@ struct MaterialSource {
   std::function<std::optional<MaterialCells>(elements::MaterialFamily, const std::string& name)> find;
   /// @return false when there was no row of that name
   std::function<bool(elements::MaterialFamily, const std::string& name)> remove;
+  /// Puts a row back that was removed. @return the refusal: another one has its name now
+  std::function<std::optional<Message>(elements::MaterialFamily, const MaterialCells&)> add{};
   /// Opens the editor for the row called `name`, for a new one when that is empty. Gives what it stored;
   /// nothing when the user gave up. Empty: there is no editor.
   std::function<std::optional<MaterialChange>(QWidget* parent, elements::MaterialFamily,

@@ -2,7 +2,7 @@
 
 #include "elements/layer_groups.h"
 #include "foundation/message.h"
-#include "foundation/message_rows.h"
+#include "foundation/catalogue_rows.h"
 
 namespace velmar::shell {
 

@@ -2,6 +2,7 @@
 
 #include <memory>
 
+#include "shell/fields/long_work.h"
 #include "storage/materials/material_store.h"
 
 namespace velmar::shell {
@@ -22,6 +23,11 @@ std::optional<MaterialCells> Find(const MaterialStore& store, const std::string&
   const auto row = store.Find<Material>(name);
   if (!row) return std::nullopt;
   return storage::CellsFromRow(*row);
+}
+
+template <typename Material>
+std::optional<Message> Add(MaterialStore& store, const MaterialCells& cells) {
+  return store.Add<Material>({storage::RowFromCells<Material>(cells)});
 }
 
 }  // namespace
@@ -52,8 +58,21 @@ MaterialSource StoredMaterials(const std::filesystem::path& file) {
     }
     return std::nullopt;
   };
+  source.add = [store](MaterialFamily family, const MaterialCells& cells) -> std::optional<Message> {
+    switch (family) {
+      case MaterialFamily::kStructural:
+        return Add<elements::StructuralMaterial>(*store, cells);
+      case MaterialFamily::kFibrous:
+        return Add<elements::FibrousMaterial>(*store, cells);
+      case MaterialFamily::kResilient:
+        return Add<elements::ResilientMaterial>(*store, cells);
+    }
+    return std::nullopt;
+  };
   source.remove = [store](MaterialFamily family, const std::string& name) {
-    return store->Delete(family, name);
+    bool removed = false;
+    RunBeside([&] { removed = store->Delete(family, name); });
+    return removed;
   };
   return source;
 }

@@ -12,6 +12,7 @@
 #include "foundation/decimal.h"
 #include "foundation/message_rows.h"
 #include "shell/fields/corrections.h"
+#include "shell/fields/filter_box.h"
 #include "shell/fields/list_boxes.h"
 #include "shell/fields/number_field.h"
 #include "shell/fields/number_steps.h"

@@ -13,8 +13,8 @@ class QVBoxLayout;
 
 namespace velmar::shell {
 
-class ChoiceBox;
 class CountBox;
+class FilterBox;
 class LayerRow;
 class NumberField;
 
@@ -36,7 +36,7 @@ class CavityPage : public Page {
   NumberField* fibre_ = nullptr;
   std::array<QRadioButton*, 3> kinds_{};
   CountBox* count_ = nullptr;
-  ChoiceBox* filter_ = nullptr;
+  FilterBox* filter_ = nullptr;
   QWidget* layers_ = nullptr;
   std::vector<LayerRow*> rows_;
 };

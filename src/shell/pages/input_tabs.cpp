@@ -12,6 +12,7 @@
 #include "shell/pages/cavity_page.h"
 #include "shell/pages/components_page.h"
 #include "shell/pages/leaf_page.h"
+#include "shell/pages/multilayer_page.h"
 #include "shell/pages/resilient_layers_page.h"
 #include "shell/pages/sea_cavity_page.h"
 #include "shell/pages/sea_leaf_page.h"
@@ -41,7 +42,8 @@ InputTabs::InputTabs(PageContext& context, QWidget* parent) : QTabWidget(parent)
             new ComponentsPage(context),
             new SeaLeafPage(SeaLeafPage::Side::kFirst, context),
             new SeaLeafPage(SeaLeafPage::Side::kSecond, context),
-            new SeaCavityPage(context)};
+            new SeaCavityPage(context),
+            new MultilayerPage(context)};
   for (Page* page : pages_) addTab(InScrollArea(page), QString());
   connect(this, &QTabWidget::tabBarClicked, this, [this](int index) {
     if (index >= 0) pages_.at(static_cast<std::size_t>(index))->RemoveHighlights();
@@ -63,6 +65,19 @@ void InputTabs::AddKeys() {
 }
 
 void InputTabs::FocusFirst() { FocusFirstField(currentWidget()); }
+
+void InputTabs::GoTo(const presentation::LayerPlace& place) {
+  const QString name = place.group ? ArrayName(RowOf(*place.group).list, place.row) : QString("Combo14");
+  for (int tab = 0; tab < count(); ++tab) {
+    auto* field = isTabVisible(tab) ? widget(tab)->findChild<QWidget*>(name) : nullptr;
+    if (field == nullptr) continue;
+    setCurrentIndex(tab);
+    if (!field->isVisible()) return FocusFirst();
+    field->setFocus(Qt::OtherFocusReason);
+    static_cast<QScrollArea*>(widget(tab))->ensureWidgetVisible(field);
+    return;
+  }
+}
 
 void InputTabs::ShowFirst() {
   if (laid_out_) setCurrentIndex(static_cast<int>(TabsOf(*laid_out_).front().tab));

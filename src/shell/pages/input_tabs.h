@@ -26,6 +26,9 @@ class InputTabs : public QTabWidget {
   void ShowFirst();
   /// Puts the keys into the first field of the page that is shown.
   void FocusFirst();
+  /// Shows the row at `place` and puts the keys into its material; into the first field of its page where it
+  /// has no row of its own.
+  void GoTo(const velmar::presentation::LayerPlace& place);
 
  private:
   void AddKeys();

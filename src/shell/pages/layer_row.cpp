@@ -2,7 +2,6 @@
 
 #include <QApplication>
 #include <QCheckBox>
-#include <QDrag>
 #include <QEvent>
 #include <QGridLayout>
 #include <QLabel>
@@ -11,15 +10,20 @@
 #include <QToolButton>
 
 #include "calculation/layer_edits.h"
+#include "calculation/pasted_layers.h"
 #include "elements/parts.h"
 #include "foundation/decimal.h"
 #include "foundation/message_rows.h"
+#include "shell/fields/field_note.h"
 #include "shell/fields/icons.h"
 #include "shell/fields/list_boxes.h"
 #include "shell/fields/material_box.h"
 #include "shell/fields/number_field.h"
 #include "shell/fields/number_steps.h"
+#include "shell/fields/pasted_bands.h"
 #include "shell/fields/phrases.h"
+#include "shell/pages/layer_tools.h"
+#include "shell/pages/material_facts.h"
 
 namespace velmar::shell {
 namespace {
@@ -57,6 +61,13 @@ LayerRow::LayerRow(const LayerRowPlan& plan, PageContext& context, QGridLayout& 
     : QObject(page), plan_(plan), context_(context) {
   MakeLead(page);
   MakeFields(page);
+  if (number_ != nullptr) {
+    tools_ = new LayerTools(plan.group, plan.index, context, number_, page);
+    for (QWidget* field : {static_cast<QWidget*>(material_), static_cast<QWidget*>(thickness_),
+                           static_cast<QWidget*>(sheets_), static_cast<QWidget*>(chooser_)}) {
+      if (field != nullptr) tools_->Serve(field);
+    }
+  }
   MoveTo(grid, line);
   ForEachWidget([this](QWidget* widget) { widget->installEventFilter(this); });
   connect(&context_, &PageContext::SectionHovered, this,
@@ -98,6 +109,12 @@ void LayerRow::MakeFields(QWidget* page) {
                               context_.materials.NamesOf(plan_.group), page);
   material_->setAccessibleDescription(Text(words, kMaterialRow) + row);
   connect(material_, &MaterialBox::Chosen, this, &LayerRow::PutMaterial);
+  connect(material_, &MaterialBox::AboutToOffer, this, [this] { context_.materials.PutOnTop(plan_.group); });
+  material_->Tell([this, family = group.family](const QString& name) {
+    const QString facts = MaterialFacts(context_.services.materials, family, ToUtf8(name));
+    return context_.materials.Known().IsFavourite(family, name) ? QStringLiteral("★ ") + facts : facts;
+  });
+  connect(material_, &MaterialBox::TablePasted, this, &LayerRow::PutTable);
   context_.Watch(material_);
 
   thickness_ = new NumberField(ArrayName(group.thickness_box, plan_.index), NumberKind::kReal, page);
@@ -141,25 +158,46 @@ void LayerRow::MakeFields(QWidget* page) {
 void LayerRow::MoveTo(QGridLayout& grid, int line) {
   if (check_ != nullptr) grid.addWidget(check_, line, kLeadColumn);
   if (number_ != nullptr) grid.addWidget(number_, line, kLeadColumn);
-  grid.addWidget(material_, line, kMaterialColumn);
-  grid.addWidget(thickness_, line, kThicknessColumn);
-  if (sheets_ != nullptr) grid.addWidget(sheets_, line, kSheetsColumn);
-  grid.addWidget(chooser_, line, kChooserColumn);
+  grid.addWidget(material_, line, kMaterialColumn + plan_.shift);
+  grid.addWidget(thickness_, line, kThicknessColumn + plan_.shift);
+  if (sheets_ != nullptr) grid.addWidget(sheets_, line, kSheetsColumn + plan_.shift);
+  grid.addWidget(chooser_, line, kChooserColumn + plan_.shift);
+  if (tools_ != nullptr) grid.addWidget(tools_->Button(), line, kToolsColumn + plan_.shift);
 }
 
 template <typename Visit>
 void LayerRow::ForEachWidget(Visit&& visit) const {
-  const std::array<QWidget*, 6> widgets = {check_, number_, material_, thickness_, sheets_, chooser_};
+  QWidget* tools = tools_ != nullptr ? tools_->Button() : nullptr;
+  const std::array<QWidget*, 7> widgets = {check_, number_, material_, thickness_, sheets_, chooser_, tools};
   for (QWidget* widget : widgets) {
     if (widget != nullptr) visit(widget);
   }
 }
 
+bool LayerRow::Holds(const QWidget* widget) const {
+  bool holds = false;
+  ForEachWidget([&](const QWidget* one) { holds = holds || one == widget || one->isAncestorOf(widget); });
+  return holds;
+}
+
 void LayerRow::PutMaterial(const std::string& name) {
-  if (!Knows(context_.services.materials, RowOf(plan_.group).family, name)) return;
+  const elements::MaterialFamily family = RowOf(plan_.group).family;
+  if (!Knows(context_.services.materials, family, name)) return;
+  context_.materials.Known().Use(family, FromUtf8(name));
   context_.Edit([&](elements::Setup& setup) {
     calculation::PutMaterial(setup, plan_.group, plan_.index, name, context_.services.materials);
   });
+}
+
+void LayerRow::PutTable(const QString& text) {
+  elements::Setup pasted = context_.open.Setup();
+  const auto refusal = calculation::PutTable(pasted, plan_.group, plan_.index, CellsOfTable(text),
+                                             context_.services.materials);
+  if (refusal) {
+    FieldNote::Put(material_, Text(context_.Words(), *refusal), NoteLife::kWhileRead);
+    return;
+  }
+  context_.Edit([&](elements::Setup& setup) { setup = std::move(pasted); });
 }
 
 void LayerRow::LeaveThickness() {
@@ -174,8 +212,10 @@ void LayerRow::Show(const elements::Setup& setup, bool visible) {
   if (!visible) return;
   const calculation::LayerText row = calculation::LayerTextOf(setup, plan_.group, plan_.index);
   // The number of the layer in the element, as the section and every paper have it.
-  if (number_ != nullptr && plan_.label.isEmpty())
-    number_->setText(QString::number(elements::NumberOf(setup, plan_.group, plan_.index)));
+  if (number_ != nullptr) {
+    const QString number = QString::number(elements::NumberOf(setup, plan_.group, plan_.index));
+    number_->setText(plan_.label.isEmpty() ? number : number + ' ' + plan_.label);
+  }
   material_->Show(row.listed);
   material_->setPlaceholderText(Text(context_.Words(), kChooseMaterialRow));
   thickness_->Show(row.thickness_text);
@@ -197,31 +237,26 @@ bool LayerRow::eventFilter(QObject* watched, QEvent* event) {
   } else if (event->type() == QEvent::Leave) {
     emit context_.RowHovered(std::nullopt);
   } else if (event->type() == QEvent::MouseMove && watched == number_) {
-    if (static_cast<QMouseEvent*>(event)->buttons() & Qt::LeftButton) Drag();
+    if (static_cast<QMouseEvent*>(event)->buttons() & Qt::LeftButton) tools_->Drag(material_->currentText());
   }
   return QObject::eventFilter(watched, event);
 }
 
-void LayerRow::Drag() {
-  auto* drag = new QDrag(number_);
-  drag->setMimeData(ToMime({RowOf(plan_.group).family, material_->currentText()}));
-  drag->exec(Qt::CopyAction);
-}
-
 std::vector<QWidget*> AddLayerHeads(QGridLayout& grid, int line, const PageContext& context, bool with_sheets,
-                                    QWidget* page) {
+                                    QWidget* page, int shift) {
   const auto& words = context.Words();
   QString material = Text(words, kMaterialRow);
   if (material.endsWith(':')) material.chop(1);
   std::vector<QWidget*> heads;
   const auto add = [&](const QString& text, Qt::Alignment alignment, int column) {
     heads.push_back(Head(text, alignment, page));
-    grid.addWidget(heads.back(), line, column);
+    grid.addWidget(heads.back(), line, column + shift);
   };
   add(material, Qt::AlignLeft, LayerRow::kMaterialColumn);
+  heads.back()->setToolTip(Text(words, kPasteLayersTipRow));
   add(Text(words, kLayerThicknessRow), Qt::AlignRight, LayerRow::kThicknessColumn);
   if (with_sheets) add(Text(words, kSheetsRow), Qt::AlignRight, LayerRow::kSheetsColumn);
-  grid.setColumnStretch(LayerRow::kMaterialColumn, 1);
+  grid.setColumnStretch(LayerRow::kMaterialColumn + shift, 1);
   grid.setHorizontalSpacing(8);
   grid.setVerticalSpacing(6);
   return heads;

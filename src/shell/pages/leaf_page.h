@@ -7,9 +7,10 @@
 
 namespace velmar::shell {
 
-class ChoiceBox;
 class CountBox;
+class FilterBox;
 class LayerRow;
+class TurningButtons;
 
 /// The layers of a leaf, a bearing floor or a screed: count, keyword filter, up to ten rows. The same page
 /// serves both leaves.
@@ -27,8 +28,9 @@ class LeafPage : public Page {
   Leaf leaf_;
   PageContext& context_;
   CountBox* count_ = nullptr;
-  ChoiceBox* filter_ = nullptr;
+  FilterBox* filter_ = nullptr;
   std::vector<LayerRow*> rows_;
+  TurningButtons* turning_ = nullptr;
 };
 
 }  // namespace velmar::shell

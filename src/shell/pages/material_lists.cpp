@@ -1,7 +1,11 @@
 #include "shell/pages/material_lists.h"
 
+#include <QHash>
 #include <algorithm>
+#include <functional>
+#include <limits>
 
+#include "foundation/failure.h"
 #include "foundation/message_rows.h"
 #include "shell/fields/phrases.h"
 
@@ -57,14 +61,20 @@ void Forget(QStringListModel& offered, const QString& name) {
 MaterialLists::MaterialLists(const presentation::Words& words, const PageServices& services)
     : services_(services), words_{words(kAllKeywordsRow), words(kNotSpecifiedRow)} {
   chosen_.fill(FromUtf8(words_.all));
-  Reload();
+  try {
+    Reload();
+  } catch (const Failure&) {
+    // Empty lists, as the load of the databases told.
+  }
 }
 
 void MaterialLists::Reload() {
+  std::array<std::vector<storage::ListedMaterial>, kFamilies.size()> read;
   for (const MaterialFamily family : kFamilies) {
-    auto& materials = materials_.at(At(family));
-    materials.clear();
-    if (services_.material_names) materials = services_.material_names(family);
+    if (services_.material_names) read.at(At(family)) = services_.material_names(family);
+  }
+  for (const MaterialFamily family : kFamilies) {
+    auto& materials = materials_.at(At(family)) = std::move(read.at(At(family)));
     all_.at(At(family))
         .setStringList(ToList(materials::NamesUnderFilter(family, materials, words_.all, words_)));
   }
@@ -125,6 +135,23 @@ QStringListModel* MaterialLists::NamesOf(LayerGroup group) {
     default:
       return &all_.at(At(RowOf(group).family));
   }
+}
+
+void MaterialLists::PutOnTop(LayerGroup group) {
+  QStringListModel* offered = NamesOf(group);
+  const MaterialFamily family = RowOf(group).family;
+  const QStringList now = offered->stringList();
+  // What stood on top before goes back to its place among the others.
+  QHash<QString, qsizetype> places;
+  for (const storage::ListedMaterial& material : Of(family))
+    if (const QString name = FromUtf8(material.name); !places.contains(name))
+      places.insert(name, places.size());
+  QStringList names = now;
+  std::ranges::stable_sort(names, std::ranges::less(), [&](const QString& name) {
+    return places.value(name, std::numeric_limits<qsizetype>::max());
+  });
+  names = known_.OnTop(family, names);
+  if (names != now) offered->setStringList(names);
 }
 
 QStringList MaterialLists::Keywords(FilterId filter) const {

@@ -31,12 +31,15 @@ class PageContext : public QObject {
   const presentation::Words& Words() const { return speech.words; }
 
   /// The way of a page to change the set-up. Layer rows that come into use by it read their material.
+  /// @param named what is done, where that is more than the difference tells
   template <typename Change>
-  void Edit(Change&& change) {
-    open.Edit([&](elements::Setup& setup) {
-      std::forward<Change>(change)(setup);
-      calculation::LoadRowsInUse(setup, services.materials);
-    });
+  void Edit(Change&& change, const std::optional<calculation::Step>& named = std::nullopt) {
+    open.Edit(
+        [&](elements::Setup& setup) {
+          std::forward<Change>(change)(setup);
+          calculation::LoadRowsInUse(setup, services.materials);
+        },
+        named);
   }
 
   /// What `field` corrects stands beside it from now on, and the field settles when the window asks for it.

@@ -5,6 +5,7 @@
 #include <QVBoxLayout>
 
 #include "foundation/message_rows.h"
+#include "shell/fields/filter_box.h"
 #include "shell/fields/list_boxes.h"
 #include "shell/fields/phrases.h"
 
@@ -32,22 +33,25 @@ QLabel* LabelFor(QWidget* field, MessageRow row, const PageContext& context, QWi
 TableHead AddTableHead(const TableHeadPlan& plan, PageContext& context, QVBoxLayout& column, QWidget* page) {
   TableHead head;
   QHBoxLayout* line = AddLine(column);
+  head.line = line;
   head.count = new CountBox(plan.count_name, plan.lowest, plan.highest, page);
-  head.count->setAccessibleDescription(Text(context.Words(), kMaterialCountRow));
-  head.count_label = LabelFor(head.count, kMaterialCountRow, context, page);
+  head.count->setAccessibleDescription(Text(context.Words(), plan.count_label));
+  head.count_label = LabelFor(head.count, plan.count_label, context, page);
   line->addWidget(head.count_label);
   line->addWidget(head.count);
   line->addSpacing(2 * kPageSpacing);
   if (!plan.filter_name.isEmpty()) {
-    head.filter = new ChoiceBox(plan.filter_name, page);
-    head.filter->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+    head.filter = new FilterBox(plan.filter_name, page);
     head.filter->setAccessibleDescription(Text(context.Words(), plan.filter_label));
     head.filter_label = LabelFor(head.filter, plan.filter_label, context, page);
-    ChoiceBox* box = head.filter;
+    FilterBox* box = head.filter;
     MaterialLists* lists = &context.materials;
     const FilterId filter = plan.filter;
-    QObject::connect(box, &QComboBox::activated, page,
-                     [box, lists, filter](int index) { lists->Choose(filter, box->itemText(index)); });
+    QObject::connect(box, &FilterBox::Chosen, page, [box, lists, filter](const std::string& keyword) {
+      lists->Choose(filter, FromUtf8(keyword));
+      box->Show(keyword);
+    });
+    context.Watch(box);
     line->addWidget(head.filter_label);
     line->addWidget(box);
   }
@@ -55,10 +59,9 @@ TableHead AddTableHead(const TableHeadPlan& plan, PageContext& context, QVBoxLay
   return head;
 }
 
-void ShowFilter(ChoiceBox& box, FilterId filter, const PageContext& context) {
-  const QStringList keywords = context.materials.Keywords(filter);
-  box.Offer(keywords);
-  box.Show(static_cast<int>(keywords.indexOf(context.materials.Keyword(filter))));
+void ShowFilter(FilterBox& box, FilterId filter, const PageContext& context) {
+  box.Offer(context.materials.Keywords(filter));
+  box.Show(ToUtf8(context.materials.Keyword(filter)));
 }
 
 }  // namespace velmar::shell

@@ -3,7 +3,7 @@
 #include <QString>
 
 #include "foundation/message.h"
-#include "foundation/message_rows.h"
+#include "foundation/catalogue_rows.h"
 #include "shell/pages/material_lists.h"
 #include "shell/pages/page_context.h"
 
@@ -15,8 +15,8 @@ class QWidget;
 
 namespace velmar::shell {
 
-class ChoiceBox;
 class CountBox;
+class FilterBox;
 
 /// Space around and within a page, pixels.
 inline constexpr int kPageMargin = 16;
@@ -33,8 +33,9 @@ QLabel* LabelFor(QWidget* field, MessageRow row, const PageContext& context, QWi
 
 /// Count of materials and keyword filter, the line over a table of layers.
 struct TableHead {
+  QHBoxLayout* line = nullptr;  ///< more may stand behind
   CountBox* count = nullptr;
-  ChoiceBox* filter = nullptr;
+  FilterBox* filter = nullptr;
   QLabel* count_label = nullptr;
   QLabel* filter_label = nullptr;
 };
@@ -42,6 +43,7 @@ struct TableHeadPlan {
   const char* count_name = "";
   int lowest = 1;
   int highest = 1;
+  MessageRow count_label = kMaterialCountRow;
   QString filter_name{};  ///< empty: the table has no filter
   FilterId filter = FilterId::kLeaf1;
   MessageRow filter_label = kMaterialTypeFilterRow;
@@ -49,6 +51,6 @@ struct TableHeadPlan {
 TableHead AddTableHead(const TableHeadPlan& plan, PageContext& context, QVBoxLayout& column, QWidget* page);
 
 /// Shows the keywords that `filter` offers and the chosen one.
-void ShowFilter(ChoiceBox& box, FilterId filter, const PageContext& context);
+void ShowFilter(FilterBox& box, FilterId filter, const PageContext& context);
 
 }  // namespace velmar::shell

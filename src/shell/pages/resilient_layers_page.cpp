@@ -5,6 +5,7 @@
 
 #include "calculation/count_rules.h"
 #include "calculation/material_choice.h"
+#include "shell/fields/filter_box.h"
 #include "shell/fields/list_boxes.h"
 #include "shell/pages/layer_row.h"
 #include "shell/pages/page_parts.h"

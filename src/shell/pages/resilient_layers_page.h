@@ -7,8 +7,8 @@
 
 namespace velmar::shell {
 
-class ChoiceBox;
 class CountBox;
+class FilterBox;
 class LayerRow;
 
 /// The resilient layers under a floating screed: none to ten.
@@ -21,7 +21,7 @@ class ResilientLayersPage : public Page {
  private:
   PageContext& context_;
   CountBox* count_ = nullptr;
-  ChoiceBox* filter_ = nullptr;
+  FilterBox* filter_ = nullptr;
   std::vector<LayerRow*> rows_;
   std::vector<QWidget*> heads_;
 };

@@ -54,6 +54,8 @@ ShownTab TabOf(const CalculationRow& row, Stack stack) {
       return SecondSeaLeafTab(row);
     case Stack::kSeaCavity:
       return {stack, kSeaCavityTabRow, "cavity"};
+    case Stack::kMultilayer:
+      return {stack, kMultilayerTabRow, "list"};
   }
   return {};
 }

@@ -20,7 +20,7 @@ double FittingZoom(const presentation::PrinterPaper& paper, const QSizeF& room, 
 }
 
 QImage PictureOf(const presentation::PaginaDiStampa& page, const presentation::PrinterPaper& paper,
-                 double zoom, double dots_per_inch, double device_pixel_ratio) {
+                 double zoom, double dots_per_inch, double device_pixel_ratio, int index) {
   const QSizeF size = PixelsOf(paper, zoom, dots_per_inch);
   QImage picture((size * device_pixel_ratio).toSize(), QImage::Format_RGB32);
   if (picture.isNull()) return picture;
@@ -29,8 +29,12 @@ QImage PictureOf(const presentation::PaginaDiStampa& page, const presentation::P
   QPainter painter(&picture);
   painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
   const double factor = PreparaPagina(paper, size / dots_per_inch).factor;
-  presentation::ComponiPagina(painter, dots_per_inch * factor, InchesOf(paper), page);
+  presentation::ComponiPagina(painter, dots_per_inch * factor, InchesOf(paper), page, index);
   return picture;
+}
+
+int PageCountOn(const presentation::PrinterPaper& paper, const presentation::PaginaDiStampa& page) {
+  return presentation::PageCountOf(InchesOf(paper), page);
 }
 
 }  // namespace velmar::printing

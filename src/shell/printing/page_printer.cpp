@@ -53,7 +53,11 @@ PrintOutcome PagePrinter::Print(const presentation::PaginaDiStampa& page, const 
   if (!painter.begin(&printer)) return PrintOutcome::kFailed;
   const QSizeF paper_inches = printer.pageLayout().fullRect(QPageLayout::Inch).size();
   const presentation::PageScale scale = presentation::PreparaPagina(PaperOf(printer), paper_inches);
-  presentation::ComponiPagina(painter, printer.resolution() * scale.factor, scale.paper_inches, page);
+  for (int index = 0; index < presentation::PageCountOf(scale.paper_inches, page); ++index) {
+    if (index > 0 && !printer.newPage()) return PrintOutcome::kFailed;
+    presentation::ComponiPagina(painter, printer.resolution() * scale.factor, scale.paper_inches, page,
+                                index);
+  }
   if (!painter.end() || printer.printerState() == QPrinter::Error) return PrintOutcome::kFailed;
   // A file is a single errand; the printer's name stays as it was.
   if (printer.outputFileName().isEmpty()) settings_.printer = printer.printerName();

@@ -39,7 +39,8 @@ class PagePrinter {
   /// Later pages go to `printer`. @param printer device name of an installed printer
   void SelectPrinter(const QString& printer);
 
-  /// Asks for the printer, then prints `page` on one sheet. A cancelled dialog changes nothing.
+  /// Asks for the printer, then prints `page` on as many sheets as it takes. A cancelled dialog changes
+  /// nothing.
   /// @param title name of the print job
   PrintOutcome Print(const presentation::PaginaDiStampa& page, const QString& title, QWidget* parent);
 

@@ -3,6 +3,7 @@
 #include <QAction>
 #include <QGuiApplication>
 #include <QLabel>
+#include <QPainter>
 #include <QPixmap>
 #include <QScreen>
 #include <QScrollArea>
@@ -27,6 +28,8 @@ constexpr double kSmallestZoom = 0.1;
 constexpr double kLargestZoom = 4.0;
 /// Between the page and the edge of the window, in pixels.
 constexpr int kMargin = 16;
+/// Between two sheets.
+constexpr int kSheetGap = 6;
 /// Of the screen's height; a portrait page wants a tall window.
 constexpr double kHeightShare = 0.9;
 constexpr double kPageShape = 0.8;
@@ -143,8 +146,22 @@ void PrintPreview::FollowPaper() {
 }
 
 void PrintPreview::ShowPage() {
-  const QImage picture = PictureOf(order_.page, paper_, Zoom(), logicalDpiX(), devicePixelRatioF());
-  picture_->setPixmap(QPixmap::fromImage(picture));
+  // One sheet below the other, as in a viewer of documents.
+  const double ratio = devicePixelRatioF();
+  const QSizeF sheet = PixelsOf(paper_, Zoom(), logicalDpiX());
+  const int count = PageCountOn(paper_, order_.page);
+  const QSizeF all(sheet.width(), count * sheet.height() + (count - 1) * kSheetGap);
+  QPixmap sheets((all * ratio).toSize());
+  if (sheets.isNull()) return picture_->clear();
+  sheets.setDevicePixelRatio(ratio);
+  sheets.fill(palette().color(QPalette::Mid));
+  QPainter painter(&sheets);
+  for (int index = 0; index < count; ++index) {
+    painter.drawImage(QPointF(0.0, index * (sheet.height() + kSheetGap)),
+                      PictureOf(order_.page, paper_, Zoom(), logicalDpiX(), ratio, index));
+  }
+  painter.end();
+  picture_->setPixmap(sheets);
 }
 
 }  // namespace velmar::printing

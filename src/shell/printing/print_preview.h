@@ -26,9 +26,9 @@ struct PreviewOrder {
   std::function<void(QWidget* parent)> choose_printer{};
 };
 
-/// `Form12`: the page as one picture, fitted to the window until the user zooms. Ctrl+P prints, Ctrl+S writes
-/// a PDF file, Ctrl+Shift+P chooses the printer, Ctrl+plus and Ctrl+minus zoom, Ctrl+0 fits, Ctrl+1 shows the
-/// size on paper, Esc closes.
+/// `Form12`: the pages below each other as one picture, each fitted to the window until the user zooms.
+/// Ctrl+P prints, Ctrl+S writes a PDF file, Ctrl+Shift+P chooses the printer, Ctrl+plus and Ctrl+minus zoom,
+/// Ctrl+0 fits, Ctrl+1 shows the size on paper, Esc closes.
 class PrintPreview : public QDialog {
  public:
   PrintPreview(PreviewOrder order, presentation::Words words, QWidget* parent = nullptr);

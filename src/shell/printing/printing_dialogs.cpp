@@ -40,7 +40,7 @@ std::optional<std::filesystem::path> ChooseWithFileDialog(QWidget* parent, const
 
 }  // namespace
 
-PrintingBoxes ScreenBoxes(const presentation::Words& words, const TellUser& tell_done,
+PrintingBoxes ScreenBoxes(const presentation::Words& words, const TellWritten& tell_written,
                           const TellUser& tell_failure) {
   return {.ask_to_print =
               [words](QWidget* parent, QPrinter& printer) {
@@ -52,7 +52,7 @@ PrintingBoxes ScreenBoxes(const presentation::Words& words, const TellUser& tell
               [words](QWidget* parent, const PrinterChoice& choice) {
                 PrinterChooser(choice, words, parent).exec();
               },
-          .tell_done = tell_done,
+          .tell_written = tell_written,
           .tell_failure = tell_failure};
 }
 
@@ -76,7 +76,7 @@ void SaveDocument(const PrintedDocument& document, const PrintingBoxes& boxes,
     boxes.tell_failure(parent, Text(words, failure.UserMessage()));
     return;
   }
-  boxes.tell_done(parent, Text(words, kDocumentSavedRow));
+  boxes.tell_written(parent, Text(words, kDocumentSavedRow), *path);
 }
 
 void ShowPreview(const PrintedDocument& document, PagePrinter& printer, const PrintingBoxes& boxes,

@@ -19,6 +19,10 @@ namespace velmar::printing {
 /// Shows `text` until the user has read it.
 using TellUser = std::function<void(QWidget* parent, const QString& text)>;
 
+/// Says `text` and where `file`, which was written, is.
+using TellWritten =
+    std::function<void(QWidget* parent, const QString& text, const std::filesystem::path& file)>;
+
 /// The modal boxes, passed in so that a test answers them without one opening.
 struct PrintingBoxes {
   AskToPrint ask_to_print{};
@@ -26,12 +30,12 @@ struct PrintingBoxes {
   std::function<std::optional<std::filesystem::path>(QWidget* parent, const QString& start)> choose_pdf{};
   /// Lets the user choose one of the installed printers.
   std::function<void(QWidget* parent, const PrinterChoice& choice)> choose_printer{};
-  TellUser tell_done{};
+  TellWritten tell_written{};
   TellUser tell_failure{};
 };
 
 /// The boxes of the screen: the system's print dialog and file dialog and the printer chooser.
-PrintingBoxes ScreenBoxes(const presentation::Words& words, const TellUser& tell_done,
+PrintingBoxes ScreenBoxes(const presentation::Words& words, const TellWritten& tell_written,
                           const TellUser& tell_failure);
 
 /// The page to work on, and the names it goes by.

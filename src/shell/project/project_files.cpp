@@ -10,7 +10,7 @@ namespace velmar::shell {
 namespace {
 
 constexpr const char* kEnding = ".drav";
-constexpr const char* kFilter = "VELMARpro files (*.drav)";
+constexpr const char* kFilter = "VELMARpro files (*.drav *.DRAV)";
 
 }  // namespace
 
@@ -24,25 +24,29 @@ std::vector<std::filesystem::path> ProjectsIn(const std::filesystem::path& folde
   return projects;
 }
 
-QString BesideProject(const std::filesystem::path& project, const QString& ending) {
-  if (project.empty()) return {};
-  return QString::fromStdString((project.parent_path() / project.stem()).string()) + ending;
-}
-
 ProjectFiles::ProjectFiles(calculation::OpenCalculation& open, const Speech& speech,
-                           const ProjectServices& services, WindowMemory& memory, Recovery& recovery,
-                           QObject* parent)
+                           const ProjectServices& services, const ProjectPlaces& places, WindowMemory& memory,
+                           Recovery& recovery, QObject* parent)
     : QObject(parent),
       open_(open),
       speech_(speech),
       services_(services),
       memory_(memory),
-      recovery_(recovery) {}
+      recovery_(recovery),
+      proposed_(places, memory) {}
 
 QString ProjectFiles::Caption() const {
-  const QString name = project_.empty() ? Text(speech_.words, kNewProjectRow)
-                                        : QString::fromStdString(project_.stem().string());
+  const QString name = project_.path.empty() ? Text(speech_.words, kNewProjectRow)
+                                             : QString::fromStdString(project_.path.stem().string());
   return QString(kProductName) + " - " + Text(speech_.words, kApplicationRow) + " - " + name;
+}
+
+QString ProjectFiles::ProposeDocument(const QString& ending) const {
+  return proposed_.ForDocument(project_.path, ending);
+}
+
+void ProjectFiles::DocumentWritten(const std::filesystem::path& file) {
+  proposed_.Written(project_.path, file);
 }
 
 bool ProjectFiles::LeaveUnsaved() {
@@ -54,27 +58,27 @@ bool ProjectFiles::LeaveUnsaved() {
   return !*save || Save();
 }
 
-bool ProjectFiles::Open() {
-  if (!MayGoOn()) return false;
-  const QString file =
-      speech_.boxes.choose_file_to_open({.title = Text(speech_.words, kChooseProjectRow),
-                                         .filter = kFilter,
-                                         .start = QString::fromStdString(project_.string())});
-  return !file.isEmpty() && Load(file.toStdString());
-}
-
-bool ProjectFiles::Open(const std::filesystem::path& project) { return MayGoOn() && Load(project); }
-
-// The open set-up stays until another one is read, so that a cancelled dialog or a damaged file loses
-// nothing; its result goes.
-bool ProjectFiles::MayGoOn() {
-  const bool saved = open_.IsSaved();
+bool ProjectFiles::New() {
   if (!LeaveUnsaved()) return false;
-  if (saved && open_.Result()) open_.Replace(open_.Setup());
+  open_.Replace(services_.new_setup ? services_.new_setup() : elements::Setup());
+  Rename({});
+  emit Emptied();
   return true;
 }
 
+bool ProjectFiles::Open() {
+  if (!LeaveUnsaved()) return false;
+  const QString file = speech_.boxes.choose_file_to_open({.title = Text(speech_.words, kChooseProjectRow),
+                                                          .filter = kFilter,
+                                                          .start = proposed_.ToOpen(project_.path)});
+  return !file.isEmpty() && Load(file.toStdString());
+}
+
+bool ProjectFiles::Open(const std::filesystem::path& project) { return LeaveUnsaved() && Load(project); }
+
 bool ProjectFiles::Load(const std::filesystem::path& file) {
+  // Looked at before it is read: what is written in between is then noticed when saving.
+  const ProjectFile project = ProjectFile::Now(file);
   try {
     open_.Replace(services_.read_project(file));
   } catch (const std::exception& failure) {
@@ -82,7 +86,7 @@ bool ProjectFiles::Load(const std::filesystem::path& file) {
     return false;
   }
   memory_.Remember(file);
-  Rename(file);
+  Rename(project);
   emit Opened();
   if (!open_.Setup().calculation)
     speech_.boxes.tell(Tone::kInformation, Text(speech_.words, kProjectOfUnknownCalculationRow));
@@ -90,13 +94,29 @@ bool ProjectFiles::Load(const std::filesystem::path& file) {
 }
 
 bool ProjectFiles::Save() {
-  const QString chosen =
-      speech_.boxes.choose_file_to_save({.title = Text(speech_.words, kSaveProjectRow),
-                                         .filter = kFilter,
-                                         .start = QString::fromStdString(project_.string())});
-  if (chosen.isEmpty()) return false;
-  std::filesystem::path file = chosen.toStdString();
-  if (file.extension() != kEnding) file += kEnding;
+  if (project_.path.empty() || proposed_.IsOriginal(project_.path)) return SaveAs();
+  const QString changed =
+      Text(speech_.words, kFileChangedQuestionRow) + '\n' + FromUtf8(project_.path.string());
+  if (project_.HasChanged() && !speech_.boxes.ask(changed)) return false;
+  return Write(project_.path);
+}
+
+bool ProjectFiles::SaveAs() {
+  const auto file = AskFileToSave(speech_,
+                                  {.title = Text(speech_.words, kSaveProjectRow),
+                                   .filter = kFilter,
+                                   .start = proposed_.ToSave(project_.path)},
+                                  kEnding);
+  if (!file) return false;
+  if (proposed_.IsOriginal(*file)) {
+    speech_.boxes.tell(Tone::kInformation,
+                       Text(speech_.words, kOriginalStaysRow) + '\n' + FromUtf8(file->string()));
+    return false;
+  }
+  return Write(*file);
+}
+
+bool ProjectFiles::Write(const std::filesystem::path& file) {
   try {
     services_.write_project(file, open_.Setup());
   } catch (const std::exception& failure) {
@@ -106,32 +126,59 @@ bool ProjectFiles::Save() {
   open_.MarkSaved();
   recovery_.Discard();
   memory_.Remember(file);
-  Rename(file);
+  Rename(ProjectFile::Now(file));
+  emit Saved(file);
   return true;
 }
 
 bool ProjectFiles::OfferRecovery() {
-  const auto copy = recovery_.LeftBehind();
-  if (!copy) return false;
-  const Message question = {{kRecoveryFirstRow}, {kRecoverySecondRow}};
-  const bool wanted = speech_.boxes.ask(Text(speech_.words, question));
-  if (wanted) {
-    try {
-      open_.Replace(services_.read_project(*copy));
-    } catch (const std::exception& failure) {
-      TellFailure(failure);
-      return false;
-    }
-    // It was never saved under a name: it is unsaved work again.
-    open_.DropResult();
-    recovery_.WriteNow();
+  std::vector<LostWork> works = recovery_.LeftBehind();
+  while (!works.empty()) {
+    const LostWorkAnswer answer = services_.ask_about_lost_work(works);
+    if (answer.choice == LostWorkChoice::kLater) return false;
+    const auto work = works.begin() + static_cast<std::ptrdiff_t>(answer.which);
+    if (answer.choice == LostWorkChoice::kRecover) return Recover(std::move(*work));
+    if (!AskToDelete(*work)) continue;
+    Recovery::Drop(*work);
+    works.erase(work);
   }
-  Recovery::Drop(*copy);
-  return wanted;
+  return false;
 }
 
-void ProjectFiles::Rename(std::filesystem::path project) {
+bool ProjectFiles::Recover(LostWork work) {
+  try {
+    elements::Setup setup = services_.read_project(work.copy);
+    if (!setup.calculation)
+      throw Failure({{kProjectOfUnknownCalculationRow}}, "copy of an unknown calculation");
+    open_.Replace(std::move(setup));
+  } catch (const std::exception& failure) {
+    TellFailure(failure);
+    return false;
+  }
+  Rename(work.project);
+  open_.DropResult();  // it is unsaved work again
+  recovery_.TakeOver(std::move(work));
+  recovery_.Keep();
+  emit Opened();
+  return true;
+}
+
+bool ProjectFiles::AskToDelete(const LostWork& work) const {
+  const QString named = work.Name(Text(speech_.words, kNewProjectRow)) + ", " + work.Time();
+  return speech_.boxes.ask(Text(speech_.words, kDeleteLostQuestionRow) + '\n' + named);
+}
+
+void ProjectFiles::FollowChoice(std::optional<elements::Calculation> before) {
+  const auto& now = open_.Setup().calculation;
+  if (!before || !now || project_.path.empty()) return;
+  const elements::CalculationRow& old_row = RowOf(*before);
+  const elements::CalculationRow& new_row = RowOf(*now);
+  if (old_row.button != new_row.button || old_row.family != new_row.family) Rename({});
+}
+
+void ProjectFiles::Rename(ProjectFile project) {
   project_ = std::move(project);
+  recovery_.BelongsTo(project_);
   emit Renamed();
 }
 

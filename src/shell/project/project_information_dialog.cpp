@@ -38,6 +38,16 @@ TextOf AddValue(QFormLayout& form, std::size_t row, const QString& caption, cons
   return [line] { return line->text(); };
 }
 
+/// What line `row` is called. A project brings the captions of the program that wrote it, maybe in another
+/// language: those stand behind the words of this one, since they are printed.
+QString CaptionOf(const elements::ProjectInformationRow& line, std::size_t row,
+                  const presentation::Words& words) {
+  const QString own = FromUtf8(line.caption);
+  const QString caption = Text(words, elements::kInformationCaptions.at(row));
+  if (own.isEmpty() || own == caption) return caption;
+  return row < elements::kCaptionedInformationRows ? caption + " (" + own + ')' : own;
+}
+
 }  // namespace
 
 ProjectInformationDialog::ProjectInformationDialog(calculation::OpenCalculation& open,
@@ -51,9 +61,7 @@ ProjectInformationDialog::ProjectInformationDialog(calculation::OpenCalculation&
   std::vector<TextOf> values;
   for (std::size_t row = 0; row < information.size(); ++row) {
     const elements::ProjectInformationRow& line = information.at(row);
-    const QString caption =
-        line.caption.empty() ? Text(words, elements::kInformationCaptions.at(row)) : FromUtf8(line.caption);
-    values.push_back(AddValue(*form, row, caption, FromUtf8(line.value), this));
+    values.push_back(AddValue(*form, row, CaptionOf(line, row, words), FromUtf8(line.value), this));
   }
   column->addLayout(form);
   auto* buttons = new QHBoxLayout;

@@ -1,6 +1,10 @@
 #include "shell/project/recovery.h"
 
+#include <QFile>
+#include <QFileInfo>
+#include <QSaveFile>
 #include <QUuid>
+#include <algorithm>
 #include <system_error>
 
 #include "foundation/failure.h"
@@ -10,15 +14,28 @@ namespace {
 
 constexpr const char* kCopyEnding = ".drav";
 
-std::filesystem::path LockOf(const std::filesystem::path& copy) {
-  std::filesystem::path lock = copy;
-  return lock.replace_extension(".lock");
+QString ToQt(const std::filesystem::path& path) { return QString::fromStdString(path.string()); }
+
+std::filesystem::path LockOf(std::filesystem::path copy) { return copy.replace_extension(".lock"); }
+
+/// Which project a copy belongs to.
+std::filesystem::path NameOf(std::filesystem::path copy) { return copy.replace_extension(".progetto"); }
+
+std::unique_ptr<QLockFile> LockFor(const std::filesystem::path& copy) {
+  auto lock = std::make_unique<QLockFile>(ToQt(LockOf(copy)));
+  lock->setStaleLockTime(0);
+  return lock;
 }
 
-bool IsHeld(const std::filesystem::path& copy) {
-  QLockFile lock(QString::fromStdString(LockOf(copy).string()));
-  lock.setStaleLockTime(0);
-  return !lock.tryLock(0);
+ProjectFile ProjectOf(const std::filesystem::path& copy) {
+  QFile file(ToQt(NameOf(copy)));
+  return file.open(QIODevice::ReadOnly) ? FromLines(file.readAll()) : ProjectFile{};
+}
+
+void Remove(const std::filesystem::path& copy) {
+  std::error_code error;
+  std::filesystem::remove(copy, error);
+  std::filesystem::remove(NameOf(copy), error);
 }
 
 }  // namespace
@@ -33,16 +50,18 @@ Recovery::Recovery(const calculation::OpenCalculation& open, const ProjectServic
   std::error_code error;
   std::filesystem::create_directories(folder_, error);
   copy_ = folder_ / (QUuid::createUuid().toString(QUuid::WithoutBraces).toStdString() + kCopyEnding);
-  lock_ = std::make_unique<QLockFile>(QString::fromStdString(LockOf(copy_).string()));
-  lock_->setStaleLockTime(0);
+  lock_ = LockFor(copy_);
   lock_->tryLock(0);
 }
 
-Recovery::~Recovery() { WriteNow(); }
+Recovery::~Recovery() {
+  blockSignals(true);  // nobody is left to be told
+  WriteNow();
+}
 
 void Recovery::Follow() {
   if (copy_.empty()) return;
-  if (IsUnsaved()) {
+  if (HasWork()) {
     if (!due_.isActive()) due_.start();
   } else {
     Discard();
@@ -56,49 +75,66 @@ void Recovery::WriteNow() {
 }
 
 bool Recovery::Keep() {
-  if (copy_.empty() || !IsUnsaved()) return false;
+  if (!HasWork()) return false;
   due_.stop();
   return Write();
 }
 
-bool Recovery::IsUnsaved() const { return !open_.IsSaved() && open_.Setup().calculation.has_value(); }
+bool Recovery::HasWork() const {
+  return !copy_.empty() && !open_.IsSaved() && open_.Setup().calculation.has_value();
+}
 
 bool Recovery::Write() {
   try {
+    // The name first: a name without a copy is nothing, a copy under a wrong name could replace a project.
+    if (!WriteProjectName()) throw Failure({}, "the project of a copy cannot be written");
     services_.write_project(copy_, open_.Setup());
-    return true;
   } catch (const std::exception&) {
-    // The copy is a second net: a full disk is told when the user saves, not while typing.
+    emit NotKept();
     return false;
   }
+  DropTakenOver();
+  emit Kept();
+  return true;
+}
+
+bool Recovery::WriteProjectName() const {
+  std::error_code error;
+  if (project_.path.empty()) return std::filesystem::remove(NameOf(copy_), error) || !error;
+  const QByteArray lines = ToLines(project_);
+  QSaveFile file(ToQt(NameOf(copy_)));
+  return file.open(QIODevice::WriteOnly) && file.write(lines) == lines.size() && file.commit();
 }
 
 void Recovery::Discard() {
   due_.stop();
-  std::error_code error;
-  if (!copy_.empty()) std::filesystem::remove(copy_, error);
+  if (!copy_.empty()) Remove(copy_);
+  DropTakenOver();
 }
 
-std::optional<std::filesystem::path> Recovery::LeftBehind() const {
-  std::optional<std::filesystem::path> latest;
-  std::filesystem::file_time_type latest_time;
+void Recovery::DropTakenOver() {
+  if (taken_over_) Drop(*taken_over_);
+  taken_over_.reset();
+}
+
+std::vector<LostWork> Recovery::LeftBehind() const {
+  std::vector<LostWork> works;
+  if (copy_.empty()) return works;
   std::error_code error;
-  if (copy_.empty()) return latest;
   for (const auto& entry : std::filesystem::directory_iterator(folder_, error)) {
-    const std::filesystem::path& path = entry.path();
-    if (path == copy_ || path.extension() != kCopyEnding || IsHeld(path)) continue;
-    const auto time = entry.last_write_time(error);
-    if (latest && time <= latest_time) continue;
-    latest = path;
-    latest_time = time;
+    const std::filesystem::path& copy = entry.path();
+    if (copy == copy_ || copy.extension() != kCopyEnding) continue;
+    std::shared_ptr<QLockFile> lock = LockFor(copy);
+    if (!lock->tryLock(0)) continue;  // of a program that runs
+    works.push_back({copy, ProjectOf(copy), QFileInfo(ToQt(copy)).lastModified(), std::move(lock)});
   }
-  return latest;
+  std::ranges::sort(works, std::ranges::greater(), &LostWork::changed);
+  return works;
 }
 
-void Recovery::Drop(const std::filesystem::path& copy) {
-  std::error_code error;
-  std::filesystem::remove(copy, error);
-  std::filesystem::remove(LockOf(copy), error);
+void Recovery::Drop(const LostWork& work) {
+  Remove(work.copy);
+  if (work.lock) work.lock->unlock();
 }
 
 }  // namespace velmar::shell

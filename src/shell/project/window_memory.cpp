@@ -12,12 +12,24 @@ constexpr const char* kRecentKey = "recenti";
 constexpr const char* kGeometryKey = "finestra/posizione";
 constexpr const char* kSidesKey = "finestra/lati";
 constexpr const char* kResultsKey = "finestra/risultati";
+constexpr const char* kDocumentProjectKey = "documenti/progetto";
+constexpr const char* kDocumentFolderKey = "documenti/cartella";
+constexpr const char* kKnownKey = "detto";
 constexpr const char* kContinuousKey = "calcolo/continuo";
 constexpr int kMostRemembered = 10;
 
 QString ToQt(const std::filesystem::path& path) { return QString::fromStdString(path.string()); }
 
 }  // namespace
+
+WindowMemory::WindowMemory(std::filesystem::path file) : file_(std::move(file)) {
+  if (file_.empty()) return;
+  const QSettings settings(ToQt(file_), QSettings::IniFormat);
+  document_ = {settings.value(kDocumentProjectKey).toString().toStdString(),
+               settings.value(kDocumentFolderKey).toString().toStdString()};
+  const QStringList known = settings.value(kKnownKey).toStringList();
+  known_ = {known.begin(), known.end()};
+}
 
 std::vector<std::filesystem::path> WindowMemory::RecentProjects() const {
   std::vector<std::filesystem::path> projects;
@@ -43,6 +55,22 @@ void WindowMemory::Remember(const std::filesystem::path& project) {
 
 void WindowMemory::ForgetProjects() {
   if (!file_.empty()) QSettings(ToQt(file_), QSettings::IniFormat).remove(kRecentKey);
+}
+
+void WindowMemory::RememberDocument(LastDocument document) {
+  document_ = std::move(document);
+  if (file_.empty()) return;
+  QSettings settings(ToQt(file_), QSettings::IniFormat);
+  settings.setValue(kDocumentProjectKey, ToQt(document_.project));
+  settings.setValue(kDocumentFolderKey, ToQt(document_.folder));
+}
+
+bool WindowMemory::IsFirst(const QString& what) {
+  if (known_.contains(what)) return false;
+  known_.insert(what);
+  if (!file_.empty())
+    QSettings(ToQt(file_), QSettings::IniFormat).setValue(kKnownKey, QStringList(known_.values()));
+  return true;
 }
 
 bool WindowMemory::IsContinuous() const {

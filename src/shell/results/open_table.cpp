@@ -1,5 +1,7 @@
 #include "shell/results/open_table.h"
 
+#include "shell/fields/docked.h"
+
 namespace velmar::shell {
 
 // A table that goes with this object is told of no more.
@@ -19,7 +21,7 @@ void OpenTable::Show(QWidget* parent) {
     window_.clear();  // what tells it is no table any more
     emit Toggled();
   });
-  window_->show();
+  StandBeside(window_, parent, ResultsTableWindow::kPreferredWidth);
   emit Toggled();
 }
 
@@ -28,7 +30,7 @@ void OpenTable::Follow() {
   if (!window_) return;
   if (!open_.Result()) {
     window_->close();
-  } else if (window_->isVisible()) {
+  } else if (IsOpen()) {
     window_->Show(TableNow());
   }
 }

@@ -25,7 +25,7 @@ class OpenTable : public QObject {
   /// Shows what the result has become.
   void Follow();
   void Close();
-  bool IsOpen() const { return window_ && window_->isVisible(); }
+  bool IsOpen() const { return window_ && !window_->isHidden(); }
 
  signals:
   /// The table was opened, or is gone.

@@ -23,6 +23,7 @@
 #include "shell/results/continuous_calculation.h"
 #include "shell/results/difference_line.h"
 #include "shell/results/requirement_line.h"
+#include "shell/results/result_notes_view.h"
 #include "shell/results/section_view.h"
 #include "shell/results/single_numbers_panel.h"
 
@@ -81,13 +82,15 @@ std::pair<QWidget*, QLabel*> MakePair(const char* frame_name, const std::pair<co
 
 }  // namespace
 
-ResultsPanel::ResultsPanel(calculation::OpenCalculation& open, const Speech& speech, ChartOverlay* overlay,
-                           QWidget* parent)
-    : QWidget(parent), open_(open), speech_(speech), overlay_(overlay) {
+ResultsPanel::ResultsPanel(calculation::OpenCalculation& open, const Speech& speech,
+                           const validation::KnownAccuracy& accuracy, ChartOverlay* overlay, QWidget* parent)
+    : QWidget(parent), open_(open), speech_(speech), accuracy_(accuracy) {
   setObjectName("prnFrame1");
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(kPageSpacing, kPageSpacing, kPageSpacing, kPageSpacing);
   column->addWidget(MakeRatings());
+  notes_ = new ResultNotesView(speech_, this);
+  column->addWidget(notes_);
   column->addWidget(MakeNumbers());
   splitter_ = new QSplitter(Qt::Vertical, this);
   splitter_->addWidget(MakeChart());
@@ -96,8 +99,15 @@ ResultsPanel::ResultsPanel(calculation::OpenCalculation& open, const Speech& spe
   splitter_->setStretchFactor(1, 2);
   splitter_->setChildrenCollapsible(false);
   column->addWidget(splitter_, 1);
-  if (overlay_ != nullptr) connect(overlay_, &ChartOverlay::Changed, this, &ResultsPanel::Show);
+  if (overlay != nullptr) AddOverlay(*overlay);
 }
+
+void ResultsPanel::AddOverlay(ChartOverlay& overlay) {
+  overlays_.push_back(&overlay);
+  connect(&overlay, &ChartOverlay::Changed, this, &ResultsPanel::Show);
+}
+
+void ResultsPanel::AddFoot(QWidget* widget) { layout()->addWidget(widget); }
 
 QWidget* ResultsPanel::MakeRatings() {
   auto* frame = new QWidget(this);
@@ -193,7 +203,11 @@ QWidget* ResultsPanel::MakeSection() {
   heading->setObjectName("Label10_0");
   heading->setForegroundRole(QPalette::PlaceholderText);
   section_ = new SectionView(section_frame_);
+  section_->setAccessibleName(heading->text());
+  section_->setAccessibleDescription(Text(speech_.words, kSectionKeysRow));
+  section_->setToolTip(Text(speech_.words, kSectionKeysRow));
   connect(section_, &SectionView::LayerHovered, this, &ResultsPanel::LayerHovered);
+  connect(section_, &SectionView::LayerChosen, this, &ResultsPanel::LayerChosen);
   column->addWidget(heading);
   column->addWidget(section_, 1);
   return section_frame_;
@@ -235,6 +249,7 @@ void ResultsPanel::ShowRatings(const elements::Setup& setup, const elements::Res
   improvement_frame_->setVisible(improves && rated);
   impact_improvement_->setText(Decibels(shown.delta_lnw));
   impact_frame_->setVisible(impact && rated && shown.delta_lnw.has_value());
+  notes_->Show(setup, result, accuracy_.Get());
   if (continuous_ != nullptr) difference_->Show(*continuous_, impact ? shown.lnw : shown.rw, impact);
   due_->setVisible(!rated && !difference_->SaysWhy());
   requirement_->Show();
@@ -264,7 +279,7 @@ void ResultsPanel::ShowChart() {
   autoscale_->setEnabled(result.has_value());
   if (shown_) {
     shown_->autoscale = autoscale_->isChecked();
-    if (overlay_ != nullptr) overlay_->LayOver(*shown_);
+    for (ChartOverlay* overlay : overlays_) overlay->LayOver(*shown_);
   }
   // A result without a curve says so in its place.
   const std::string note = result && !shown_ ? speech_.words(kRatingsOnlyRow) : std::string();

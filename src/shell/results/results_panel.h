@@ -2,12 +2,14 @@
 
 #include <QWidget>
 #include <optional>
+#include <vector>
 
 #include "calculation/open_calculation.h"
 #include "presentation/drawing/curve_chart.h"
 #include "presentation/drawing/section.h"
 #include "shell/fields/boxes.h"
 #include "shell/results/chart_overlay.h"
+#include "validation/known_accuracy.h"
 
 class QCheckBox;
 class QLabel;
@@ -20,6 +22,7 @@ class ChartView;
 class ContinuousCalculation;
 class DifferenceLine;
 class RequirementLine;
+class ResultNotesView;
 class SectionView;
 class SingleNumbersPanel;
 
@@ -30,8 +33,14 @@ class ResultsPanel : public QWidget {
  public:
   /// @param open and what follows outlive the panel
   /// @param overlay further curves; none: the chart shows the result alone
-  ResultsPanel(calculation::OpenCalculation& open, const Speech& speech, ChartOverlay* overlay,
-               QWidget* parent = nullptr);
+  /// @param accuracy what is known of the errors of the models
+  ResultsPanel(calculation::OpenCalculation& open, const Speech& speech,
+               const validation::KnownAccuracy& accuracy, ChartOverlay* overlay, QWidget* parent = nullptr);
+
+  /// Lays the curves of `overlay`, which outlives the panel, over those that are there.
+  void AddOverlay(ChartOverlay& overlay);
+  /// Puts `widget` below everything, across the whole width.
+  void AddFoot(QWidget* widget);
 
   /// Shows what `continuous` says too, from now on; it outlives the panel.
   void Follow(const ContinuousCalculation& continuous);
@@ -51,6 +60,8 @@ class ResultsPanel : public QWidget {
  signals:
   /// The layer of the section under the mouse; nothing: none.
   void LayerHovered(const std::optional<velmar::presentation::LayerPlace>& place);
+  /// A layer of the section was clicked, or chosen by the keyboard.
+  void LayerChosen(const velmar::presentation::LayerPlace& place);
 
  private:
   QWidget* MakeRatings();
@@ -67,7 +78,8 @@ class ResultsPanel : public QWidget {
 
   calculation::OpenCalculation& open_;
   const Speech& speech_;
-  ChartOverlay* overlay_ = nullptr;
+  const validation::KnownAccuracy& accuracy_;
+  std::vector<ChartOverlay*> overlays_{};
   QLabel* rating_name_ = nullptr;
   QLabel* rating_ = nullptr;
   QLabel* due_ = nullptr;
@@ -77,6 +89,7 @@ class ResultsPanel : public QWidget {
   QLabel* improvement_ = nullptr;
   QWidget* impact_frame_ = nullptr;
   QLabel* impact_improvement_ = nullptr;
+  ResultNotesView* notes_ = nullptr;
   QToolButton* open_numbers_ = nullptr;
   SingleNumbersPanel* numbers_ = nullptr;
   QCheckBox* autoscale_ = nullptr;

@@ -64,7 +64,7 @@ ResultsTableWindow::ResultsTableWindow(const presentation::ResultsTable& table,
   line->addStretch(1);
   line->addWidget(close_button);
   column->addLayout(line);
-  resize(320, 560);
+  resize(kPreferredWidth, 560);
 }
 
 void ResultsTableWindow::Show(const presentation::ResultsTable& table) {

@@ -16,6 +16,8 @@ namespace velmar::shell {
 class ResultsTableWindow : public QDialog {
   Q_OBJECT
  public:
+  static constexpr int kPreferredWidth = 280;
+
   ResultsTableWindow(const presentation::ResultsTable& table, const presentation::Words& words,
                      QWidget* parent = nullptr);
 

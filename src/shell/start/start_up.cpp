@@ -2,14 +2,19 @@
 
 #include <QApplication>
 #include <QDesktopServices>
+#include <QLibraryInfo>
 #include <QProcess>
 #include <QStandardPaths>
 #include <QTimer>
+#include <QTranslator>
 #include <QUrl>
 #include <array>
 #include <memory>
+#include <stdexcept>
 
+#include "application/accuracy_file.h"
 #include "application/environment.h"
+#include "application/material_sources.h"
 #include "application/projects.h"
 #include "calculation/material_choice.h"
 #include "foundation/failure.h"
@@ -21,9 +26,11 @@
 #include "shell/fields/dark_outlines.h"
 #include "shell/fields/phrases.h"
 #include "shell/main_window/main_window.h"
+#include "shell/project/lost_work_dialog.h"
 #include "shell/start/desktop_application.h"
 #include "shell/start/loader_window.h"
 #include "shell/start/store_opening.h"
+#include "storage/configuration/documents_folder.h"
 #include "storage/configuration/program_folder.h"
 #include "storage/materials/material_store.h"
 #include "storage/project/project_writer.h"
@@ -52,9 +59,23 @@ WindowPlaces Places() {
   places.manual = storage::ManualFile(program);
   places.maintenance_program = program / kMaintenanceProgram;
   if (const auto shipped = storage::ShippedDataFolder(program)) places.examples = *shipped / "Examples";
+  places.documents = storage::CartellaDocumenti();
   places.settings = folder(QStandardPaths::AppConfigLocation) / "finestra.ini";
   places.recovery = folder(QStandardPaths::AppDataLocation) / "recupero";
   return places;
+}
+
+/// What came with the program; where it cannot be read nothing is known, and nothing is claimed.
+validation::Accuracy ShippedAccuracy() {
+  const auto shipped = storage::ShippedDataFolder(storage::ProgramFolder());
+  if (!shipped) return {};
+  try {
+    return application::ReadAccuracy(*shipped / application::kValidationFolder /
+                                     application::kPredictionsFile);
+  } catch (const std::runtime_error& failure) {
+    qWarning("%s", failure.what());
+    return {};
+  }
 }
 
 template <typename Material>
@@ -97,13 +118,7 @@ struct Desktop {
     services.materials =
         application::ForgivingLookup(storage::MaterialLookupIn(store.File()),
                                      [this](const Failure& failure) { Tell(failure.UserMessage()); });
-    services.material_names = [this](MaterialFamily family) {
-      try {
-        return store.List(family);
-      } catch (const Failure&) {
-        return std::vector<storage::ListedMaterial>();  // told by the load already
-      }
-    };
+    services.material_names = [this](MaterialFamily family) { return store.List(family); };
     services.read_project = [this](const std::filesystem::path& file) {
       storage::OpenedProject project = application::OpenProject(file, open.Setup(), services.materials);
       unknown = project.setup.calculation ? storage::StoredCalculation() : project.stored;
@@ -111,6 +126,13 @@ struct Desktop {
     };
     services.write_project = [this](const std::filesystem::path& file, const elements::Setup& setup) {
       storage::SaveProject(file, setup, unknown);
+    };
+    services.accuracy = validation::KnownAccuracy([] { return ShippedAccuracy(); });
+    services.new_setup = [this] { return NewSetup(); };
+    services.ask_about_lost_work = [this](const std::vector<LostWork>& works) {
+      LostWorkDialog dialog(works, services.words, QApplication::activeWindow());
+      dialog.exec();
+      return dialog.Answer();
     };
     structure_commands = std::make_unique<StructureCommands>(
         open, services, services.places.settings,
@@ -122,7 +144,9 @@ struct Desktop {
     material_commands = std::make_unique<MaterialCommands>(open, services, services.places.settings,
                                                            store.File(), EditorOf(store, services.words));
     paper_commands = std::make_unique<PaperCommands>(PaperBoxes(services));
-    report_commands = std::make_unique<ReportCommands>(environment.configuration.CartellaTemplates());
+    report_commands = std::make_unique<ReportCommands>(
+        environment.configuration.CartellaTemplates(),
+        application::MaterialSourcesIn(environment.configuration.PercorsoDatabase(), services.words));
     services.Add(*structure_commands);
     services.Add(*material_commands);
     services.paper_commands = paper_commands.get();
@@ -135,6 +159,17 @@ struct Desktop {
 
   void Tell(const Message& message) const {
     services.boxes.tell(Tone::kCritical, Text(services.words, message));
+  }
+
+  /// Captions and first materials; where these cannot be read, which is told, captions alone.
+  elements::Setup NewSetup() const {
+    elements::Setup setup = CaptionedSetup(services.words);
+    try {
+      setup = WithFirstMaterials(setup, store);
+    } catch (const Failure& failure) {
+      Tell(failure.UserMessage());
+    }
+    return setup;
   }
 
   application::Environment environment;
@@ -159,11 +194,11 @@ void Load(Desktop& desktop, LoaderWindow& loader) {
       loader.ShowProgress(family.title, desktop.store.List(family.family).size(), ++done,
                           static_cast<int>(kFamilies.size()));
     }
-    desktop.open.Replace(WithFirstMaterials(desktop.open.Setup(), desktop.store));
   } catch (const Failure& failure) {
     loader.hide();
-    desktop.Tell(failure.UserMessage());
+    return desktop.Tell(failure.UserMessage());
   }
+  desktop.open.Replace(desktop.NewSetup());
 }
 
 int RunWindow(DesktopApplication& application, Desktop& desktop) {
@@ -184,12 +219,24 @@ int RunWindow(DesktopApplication& application, Desktop& desktop) {
   return QApplication::exec();
 }
 
+/// The toolkit's own words - those of file, print and context dialogs - in `language`, as the catalogue calls
+/// it. A language that the toolkit lacks leaves them in English.
+void LoadToolkitWords(QTranslator& words, const std::string& language) {
+  const QString wanted = FromUtf8(language).toLower();
+  const QString locale = wanted == "italiano" ? "it" : wanted == "english" ? "en" : QString();
+  if (!locale.isEmpty())
+    (void)words.load("qtbase_" + locale, QLibraryInfo::path(QLibraryInfo::TranslationsPath));
+}
+
 }  // namespace
 
 int RunDesktop(DesktopApplication& application) {
   AddDarkOutlines(application);
   try {
     Desktop desktop(OpenEnvironmentOnScreen(QApplication::applicationVersion()));
+    QTranslator toolkit_words;
+    LoadToolkitWords(toolkit_words, desktop.environment.configuration.LeggiLingua());
+    if (!toolkit_words.isEmpty()) application.installTranslator(&toolkit_words);
     return RunWindow(application, desktop);
   } catch (const std::exception& failure) {
     TellWithoutCatalogue(failure);

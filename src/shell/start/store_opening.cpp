@@ -2,36 +2,14 @@
 
 #include <QApplication>
 #include <QMessageBox>
-#include <chrono>
-#include <future>
 
 #include "foundation/failure.h"
+#include "shell/fields/long_work.h"
 #include "shell/fields/phrases.h"
 #include "shell/start/loader_window.h"
 
 namespace velmar::shell {
 namespace {
-
-using Clock = std::chrono::steady_clock;
-
-/// How long a job may take before the loader says what it is.
-constexpr std::chrono::milliseconds kPatience{300};
-constexpr std::chrono::milliseconds kRepaintEvery{20};
-
-/// Runs `job` beside the window, which goes on painting itself; calls `say` when it takes long.
-void RunWatched(const std::function<void()>& job, const std::function<void()>& say) {
-  std::future<void> done = std::async(std::launch::async, job);
-  bool said = false;
-  for (const Clock::time_point start = Clock::now();
-       done.wait_for(kRepaintEvery) != std::future_status::ready;) {
-    if (!said && Clock::now() - start > kPatience) {
-      say();
-      said = true;
-    }
-    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
-  }
-  done.get();
-}
 
 /// The loader gives way to a box: some systems keep a splash screen above everything.
 class WithoutLoader {
@@ -62,7 +40,7 @@ application::StartTalk TalkOnScreen(const presentation::Words& words, const Boxe
   talk.tell = [tell](const Message& message) { tell(Tone::kInformation, message); };
   talk.warn = [tell](const Message& message) { tell(Tone::kCritical, message); };
   talk.work = [&loader, words](const Message& what, const std::function<void()>& job) {
-    RunWatched(job, [&] { loader.ShowWork(Text(words, what)); });
+    RunBeside(job, [&] { loader.ShowWork(Text(words, what)); });
   };
   return talk;
 }

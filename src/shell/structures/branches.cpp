@@ -6,7 +6,7 @@ namespace {
 constexpr BranchSymbols kReduction{"Rw", "C", "Ctr", "Ri [dB]", true};
 constexpr BranchSymbols kImprovement{"DRw", "C", "Ctr", "Ri [dB]", true};
 constexpr BranchSymbols kDifference{"Dnew", "C", "Ctr", "Dn [dB]", true};
-constexpr BranchSymbols kImpactLevel{"Lnw", "Ci", "Ci 50-5000", "Lni [dB]"};
+constexpr BranchSymbols kImpactLevel{"Lnw", "Ci", "Ci 50-5000", "Ln,i [dB]"};
 constexpr BranchSymbols kImpactReduction{"DLw", "Ci", "", "DLni [dB]"};
 
 }  // namespace

@@ -101,11 +101,18 @@ void ComparisonPanel::Show(const std::optional<MeasuredTest>& test) {
     const std::optional<double>& value = shown.part.bands_db[i];
     bands_[i] = value == calculation::kNotMeasuredDb ? 0.0 : value.value_or(0.0);
   }
+  are_octaves_ = false;
+  if (bands_ == acoustics::Spectrum{}) {
+    for (std::size_t i = 0; i < bands_.size(); ++i) bands_[i] = shown.octave_steps_db.at(i).value_or(0.0);
+    are_octaves_ = bands_ != acoustics::Spectrum{};
+  }
   const QString rating = shell::ToQt(calculation::BoxText(shown.part.rating_db));
   const QString none = test ? QStringLiteral("-") : tools_.Text(kNoStructureRow);
   rating_->setText(rating.isEmpty() ? none : rating + QStringLiteral(" dB"));
   rating_->setEnabled(test.has_value());
-  description_->setPlainText(shell::ToQt(shown.part.description));
+  QString description = shell::ToQt(shown.part.description);
+  if (!shown.notes.empty()) description += (description.isEmpty() ? "" : "\n") + shell::ToQt(shown.notes);
+  description_->setPlainText(description);
   if (IsTicked()) changed_();
 }
 

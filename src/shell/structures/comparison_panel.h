@@ -43,6 +43,8 @@ class ComparisonPanel : public QGroupBox {
   bool IsTicked() const;
   /// The chosen structure's bands in dB, 0 where it has none; all 0 without one.
   const acoustics::Spectrum& Bands() const { return bands_; }
+  /// Whether Bands() are octaves, each over its three thirds: the structure has no thirds.
+  bool AreOctaves() const { return are_octaves_; }
   /// The name of the chosen structure while the side is ticked, otherwise empty.
   std::string Name() const;
   /// Nothing ticked, nothing chosen.
@@ -57,6 +59,7 @@ class ComparisonPanel : public QGroupBox {
   shell::WindowTools tools_;
   std::function<void()> changed_;
   acoustics::Spectrum bands_{};
+  bool are_octaves_ = false;
   QCheckBox* check_ = nullptr;
   TestChooser* chooser_ = nullptr;
   QLabel* database_ = nullptr;

@@ -18,6 +18,7 @@ namespace velmar::structures {
 namespace {
 
 constexpr const char* kMemoryName = "confronto-strutture";
+constexpr int kPairCharacters = 120;  // two sides beside each other
 
 shell::RememberedSizes SizesOf(QWidget* window, QSplitter* sides) {
   return {QLatin1String(kMemoryName), window, nullptr, sides};
@@ -60,6 +61,8 @@ ComparisonPanel::Look InSituLook() {
 void LayOver(presentation::CurveChart& chart, const Overlay& overlay) {
   chart.laboratory = overlay.laboratory;
   chart.in_situ = overlay.in_situ;
+  chart.laboratory_in_octaves = overlay.laboratory_in_octaves;
+  chart.in_situ_in_octaves = overlay.in_situ_in_octaves;
   chart.laboratory_name = overlay.laboratory_name;
   chart.in_situ_name = overlay.in_situ_name;
 }
@@ -110,10 +113,19 @@ void ComparisonWindow::hideEvent(QHideEvent* event) {
   in_situ_->Reset();
 }
 
+void ComparisonWindow::resizeEvent(QResizeEvent* event) {
+  QDialog::resizeEvent(event);
+  const int narrowest_pair = fontMetrics().averageCharWidth() * kPairCharacters;
+  sides_->setOrientation(width() < narrowest_pair ? Qt::Vertical : Qt::Horizontal);
+}
+
 Overlay ComparisonWindow::Current() const {
   Overlay overlay;
-  if (laboratory_->IsTicked()) overlay.laboratory = laboratory_->Bands();
-  if (in_situ_->IsTicked()) overlay.in_situ = in_situ_->Bands();
+  const acoustics::Spectrum none{};
+  if (laboratory_->IsTicked() && laboratory_->Bands() != none) overlay.laboratory = laboratory_->Bands();
+  if (in_situ_->IsTicked() && in_situ_->Bands() != none) overlay.in_situ = in_situ_->Bands();
+  overlay.laboratory_in_octaves = overlay.laboratory && laboratory_->AreOctaves();
+  overlay.in_situ_in_octaves = overlay.in_situ && in_situ_->AreOctaves();
   overlay.laboratory_name = laboratory_->Name();
   overlay.in_situ_name = in_situ_->Name();
   return overlay;

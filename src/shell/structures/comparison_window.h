@@ -17,11 +17,13 @@ namespace velmar::structures {
 
 class ComparisonPanel;
 
-/// What is laid over the main chart. A side that is ticked has a spectrum, all 0 (no curve) while no
-/// structure is chosen, and the name of its structure.
+/// What is laid over the main chart. A side that is ticked has the spectrum of its structure, and none while
+/// no structure is chosen or the one that is has no curve; and the structure's name.
 struct Overlay {
   std::optional<acoustics::Spectrum> laboratory{};
   std::optional<acoustics::Spectrum> in_situ{};
+  bool laboratory_in_octaves = false;  ///< the spectrum holds octaves, each over its three thirds
+  bool in_situ_in_octaves = false;
   std::string laboratory_name{};
   std::string in_situ_name{};
 
@@ -36,6 +38,8 @@ void LayOver(presentation::CurveChart& chart, const Overlay& overlay);
 class ComparisonWindow : public QDialog {
  public:
   using Draw = std::function<void(const Overlay&)>;
+  /// Where it stands beside the main window, pixels.
+  static constexpr int kPreferredWidth = 460;
 
   /// @param family of the open calculation; decides which databases are offered
   /// @param draw redraws the main chart; called after every change of a ticked side, never by closing
@@ -49,6 +53,8 @@ class ComparisonWindow : public QDialog {
  protected:
   /// However it closes: nothing stays ticked or chosen, and the chart stays as last drawn.
   void hideEvent(QHideEvent* event) override;
+  /// The sides stand beside each other, or below where that is too narrow.
+  void resizeEvent(QResizeEvent* event) override;
 
  private:
   Overlay Current() const;

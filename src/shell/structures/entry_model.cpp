@@ -13,6 +13,11 @@ void EntryModel::Fill(std::vector<QStringList> rows) {
   endResetModel();
 }
 
+void EntryModel::Name(int column, const QString& heading) {
+  headings_[column] = heading;
+  emit headerDataChanged(Qt::Horizontal, column, column);
+}
+
 int EntryModel::rowCount(const QModelIndex& parent) const {
   return parent.isValid() ? 0 : static_cast<int>(rows_.size());
 }

@@ -14,6 +14,8 @@ class EntryModel : public QAbstractTableModel {
 
   /// @param rows as many texts each as there are headings
   void Fill(std::vector<QStringList> rows);
+  /// `column` is headed `heading` from now on.
+  void Name(int column, const QString& heading);
 
   int rowCount(const QModelIndex& parent = {}) const override;
   int columnCount(const QModelIndex& parent = {}) const override;

@@ -21,13 +21,12 @@ constexpr std::array kCaptions = {
     kFieldDateRow,      kFieldAreaRow,        kFieldSourceVolumeRow, kFieldReceivingVolumeRow,
     kFieldThicknessRow, kFieldSurfaceMassRow, kFieldSiteRow,         kFieldPictureRow};
 constexpr std::size_t kFieldCount = kCaptions.size();
-constexpr const char* kNoDate = "01/01/2000";
 constexpr const char* kNoPicture = "senza";
 
 std::array<storage::CopiedField, kFieldCount> FieldsOf(const MeasuredTest& test) {
   using storage::NumberField;
   using storage::TextField;
-  return {TextField({test.date.empty() ? kNoDate : test.date}),
+  return {TextField({test.date}),
           NumberField(test.part.area_m2),
           NumberField(test.source_volume_m3),
           NumberField(test.receiving_volume_m3),

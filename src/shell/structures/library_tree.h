@@ -20,11 +20,15 @@ struct TreeNode {
 };
 
 /// Fills `tree` with `nodes` and the files that `source` names for them, all unfolded. A branch without files
-/// is a node without children; one that cannot be read is told of and left without.
+/// is a node without children, or with one that says `empty` where that is not empty; one that cannot be read
+/// is told of and left without.
 void FillTree(QTreeWidget& tree, const std::vector<TreeNode>& nodes, const LibrarySource& source,
-              const shell::WindowTools& tools);
+              const shell::WindowTools& tools, const QString& empty = {});
 
 /// The file that `item` stands for; nothing for a node that only holds others.
 std::optional<LibraryFile> FileOf(const QTreeWidgetItem* item);
+
+/// The branch without files that `item` speaks of; nothing for every other item.
+std::optional<Branch> EmptyBranchOf(const QTreeWidgetItem* item);
 
 }  // namespace velmar::structures

@@ -5,13 +5,17 @@
 #include <QShortcut>
 #include <QSplitter>
 #include <QVBoxLayout>
+#include <algorithm>
 
+#include "acoustics/bands.h"
 #include "foundation/message_rows.h"
 #include "shell/fields/button_row.h"
 #include "shell/structures/extra_data_dialog.h"
 #include "shell/structures/mnemonics.h"
+#include "shell/structures/own_measurement_tools.h"
 #include "shell/structures/test_chooser.h"
 #include "shell/structures/test_details.h"
+#include "storage/library/own_measurements.h"
 
 namespace velmar::structures {
 namespace {
@@ -22,30 +26,48 @@ shell::RememberedSizes SizesOf(QWidget* window, const TestChooser& chooser) {
   return {QLatin1String(kMemoryName), window, nullptr, chooser.Splitter()};
 }
 
+bool HasRatedThirds(const calculation::BandValues& bands) {
+  return std::all_of(
+      bands.begin() + acoustics::kFirstRatedBand, bands.begin() + acoustics::kLastRatedBand + 1,
+      [](const std::optional<double>& value) { return value && *value != calculation::kNotMeasuredDb; });
+}
+
 }  // namespace
 
 MeasuredLibraryWindow::MeasuredLibraryWindow(shell::WindowTools tools, LibrarySource source,
-                                             MeasuredTarget target, QWidget* parent)
+                                             MeasuredTarget target, const FileQuestions& files,
+                                             QWidget* parent)
     : QDialog(parent), tools_(std::move(tools)), target_(std::move(target)) {
   setObjectName(QStringLiteral("Form9"));
   setWindowTitle(Caption());
   TestChooser::Controls controls;
   controls.nodes = LibraryNodes(target_.purpose, tools_);
+  controls.filters_uses = true;
+  if (source.own.add) own_ = new OwnMeasurementTools(tools_, source.own, files, this);
   TestChooser::Listener listener;
   listener.file = [this](const LibraryFile& file, const QString& description) {
     details_->ShowSymbols(SymbolsOf(file.branch));
     details_->ShowDescription(description);
+    if (own_ != nullptr) own_->ShowFile(file);
   };
   listener.test = [this](const std::optional<MeasuredTest>& test) {
     details_->Show(test);
     extra_->setEnabled(test.has_value());
+    if (own_ != nullptr) own_->ShowTest(test ? std::optional(test->part.name) : std::nullopt);
   };
+  if (own_ != nullptr) listener.enter = [this](Branch branch) { own_->EnterNew(branch); };
   chooser_ = new TestChooser(tools_, std::move(source), controls, std::move(listener), this);
   details_ = new TestDetails(tools_, this);  // behind the chooser, as Tab goes
   chooser_->Splitter()->addWidget(details_);
   chooser_->Splitter()->setStretchFactor(2, 2);
   auto* column = new QVBoxLayout(this);
   column->addWidget(chooser_, 1);
+  if (own_ != nullptr) {
+    column->addWidget(own_);
+    connect(own_, &OwnMeasurementTools::Changed, this, [this](Branch branch, const QString& name) {
+      chooser_->ShowTest(branch, std::string(storage::kOwnSeries), name);
+    });
+  }
   column->addWidget(MakeButtons());
   const QFontMetrics metrics = fontMetrics();
   const int character = metrics.averageCharWidth();
@@ -91,8 +113,38 @@ void MeasuredLibraryWindow::Take() {
     tools_.tell(tools_.Text(kNoTestRow));
     return;
   }
-  target_.take(chooser_->Chosen()->part);
+  const std::optional<calculation::FacadePart> part = PartForTarget();
+  if (!part) return;
+  target_.take(*part);
   accept();
+}
+
+std::optional<calculation::FacadePart> MeasuredLibraryWindow::PartForTarget() const {
+  const MeasuredTest& test = *chooser_->Chosen();
+  calculation::FacadePart part = test.part;
+  const auto ask = [this](MessageRow lack, MessageRow offer) {
+    return tools_.ask(tools_.Text(lack) + '\n' + tools_.Text(offer));
+  };
+  switch (target_.needs) {
+    case TargetNeeds::kNothing:
+      break;
+    case TargetNeeds::kRating:
+      if (!part.rating_db && !ask(kNeedsRatingRow, kOfferStatedIndexRow)) return std::nullopt;
+      break;
+    case TargetNeeds::kThirds: {
+      if (HasRatedThirds(part.bands_db)) break;
+      if (!test.derived_thirds_db) {
+        if (!ask(kNeedsThirdsRow, kOfferRatingOnlyRow)) return std::nullopt;
+        break;
+      }
+      if (!ask(kNeedsThirdsRow, kOfferOctavesRow)) return std::nullopt;
+      part.bands_db = *test.derived_thirds_db;
+      const std::string note = shell::FromQt(tools_.Text(kThirdsFromOctavesRow));
+      part.description += part.description.empty() ? note : " (" + note + ")";
+      break;
+    }
+  }
+  return part;
 }
 
 void MeasuredLibraryWindow::ShowExtraData() {

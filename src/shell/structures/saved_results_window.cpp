@@ -4,6 +4,7 @@
 #include <QClipboard>
 #include <QHBoxLayout>
 #include <QHeaderView>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMimeData>
 #include <QPlainTextEdit>
@@ -24,6 +25,12 @@ namespace {
 
 constexpr const char* kMemoryName = "database-risultati";
 constexpr int kNameColumnCharacters = 34;
+constexpr int kRatingColumnCharacters = 12;
+
+// Columns of the grid.
+constexpr int kName = 0;
+constexpr int kRating = 1;
+constexpr int kDescription = 2;
 
 shell::RememberedSizes SizesOf(QWidget* window, QTableView* grid) {
   return {QLatin1String(kMemoryName), window, grid->horizontalHeader(), nullptr};
@@ -37,7 +44,7 @@ SavedResultsWindow::SavedResultsWindow(shell::WindowTools tools, ResultSource so
       tools_(std::move(tools)),
       source_(std::move(source)),
       listener_(std::move(listener)),
-      model_({tools_.Text(kNameHeadingRow), tools_.Text(kDescriptionRow)}),
+      model_({tools_.Text(kNameHeadingRow), QString(), tools_.Text(kDescriptionRow)}),
       shown_(model_) {
   setObjectName(QStringLiteral("Form7"));
   setWindowTitle(tools_.Text(kResultsDatabaseRow));
@@ -65,6 +72,8 @@ QWidget* SavedResultsWindow::MakeKinds() {
   airborne_->setObjectName(QStringLiteral("Option1_0"));
   impact_ = new QRadioButton(tools_.Text(kImpactResultsRow), bar);
   impact_->setObjectName(QStringLiteral("Option1_1"));
+  lining_ = new QRadioButton(tools_.Text(kLiningResultsRow), bar);
+  lining_->setObjectName(QStringLiteral("Option1_2"));
   airborne_->setChecked(true);
   search_ = new QLineEdit(bar);
   search_->setObjectName(QStringLiteral("TextCerca"));
@@ -73,9 +82,14 @@ QWidget* SavedResultsWindow::MakeKinds() {
   search_->setClearButtonEnabled(true);
   row->addWidget(airborne_);
   row->addWidget(impact_);
+  row->addWidget(lining_);
   row->addStretch(1);
   row->addWidget(search_, 2);
-  connect(airborne_, &QRadioButton::toggled, this, [this] { Refresh(); });
+  for (const QRadioButton* kind : {airborne_, impact_, lining_}) {
+    connect(kind, &QRadioButton::toggled, this, [this](bool chosen) {
+      if (chosen) Refresh();
+    });
+  }
   connect(search_, &QLineEdit::textChanged, this, [this](const QString& text) {
     const std::string before = SelectedName();
     shown_.Search(text);
@@ -98,7 +112,8 @@ QWidget* SavedResultsWindow::MakeGrid() {
   grid_->horizontalHeader()->setSortIndicator(-1, Qt::AscendingOrder);
   grid_->horizontalHeader()->setStretchLastSection(true);
   grid_->horizontalHeader()->setHighlightSections(false);
-  grid_->setColumnWidth(0, fontMetrics().averageCharWidth() * kNameColumnCharacters);
+  grid_->setColumnWidth(kName, fontMetrics().averageCharWidth() * kNameColumnCharacters);
+  grid_->setColumnWidth(kRating, fontMetrics().averageCharWidth() * kRatingColumnCharacters);
   grid_->verticalHeader()->hide();
   grid_->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 8);
   connect(grid_->selectionModel(), &QItemSelectionModel::currentRowChanged, this, [this] { ShowSelected(); });
@@ -123,6 +138,13 @@ QWidget* SavedResultsWindow::MakeDetails() {
   description_->setFixedHeight(fontMetrics().height() * 5);
   column->addWidget(name_);
   column->addWidget(description_);
+  messages_ = new QLabel(details);
+  messages_->setObjectName(QStringLiteral("Messaggi"));
+  messages_->setWordWrap(true);
+  messages_->setTextInteractionFlags(Qt::TextSelectableByMouse);
+  messages_->setAccessibleName(tools_.Text(kStoredMessagesRow));
+  messages_->hide();
+  column->addWidget(messages_);
   return details;
 }
 
@@ -153,7 +175,8 @@ void SavedResultsWindow::AddKeys() {
 }
 
 ResultKind SavedResultsWindow::Kind() const {
-  return airborne_->isChecked() ? ResultKind::kAirborne : ResultKind::kImpact;
+  if (lining_->isChecked()) return ResultKind::kLining;
+  return impact_->isChecked() ? ResultKind::kImpact : ResultKind::kAirborne;
 }
 
 std::string SavedResultsWindow::SelectedName() const {
@@ -172,8 +195,11 @@ void SavedResultsWindow::Refresh() {
   std::vector<QStringList> rows;
   tools_.Try([&] {
     for (const ResultEntry& entry : source_.list(Kind()))
-      rows.push_back({shell::ToQt(entry.name), shell::ToQt(entry.description)});
+      rows.push_back({shell::ToQt(entry.name), shell::ToQt(calculation::BoxText(entry.rating_db)),
+                      shell::ToQt(entry.description)});
   });
+  const char* rating = Kind() == ResultKind::kAirborne ? "Rw (dB)" : "Ln,w (dB)";
+  model_.Name(kRating, QLatin1String(rating));
   model_.Fill(std::move(rows));
   const QModelIndexList again =
       shown_.match(shown_.index(0, 0), Qt::DisplayRole, before, 1, Qt::MatchExactly | Qt::MatchCaseSensitive);
@@ -182,13 +208,17 @@ void SavedResultsWindow::Refresh() {
 
 void SavedResultsWindow::ShowSelected() {
   const QModelIndex current = grid_->currentIndex();
-  name_->setText(current.siblingAtColumn(0).data().toString());
+  name_->setText(current.siblingAtColumn(kName).data().toString());
   name_->setCursorPosition(0);
-  description_->setPlainText(current.siblingAtColumn(1).data().toString());
+  description_->setPlainText(current.siblingAtColumn(kDescription).data().toString());
   const bool any = current.isValid();
+  QString messages;
+  if (any) tools_.Try([&] { messages = shell::ToQt(source_.messages(Kind(), SelectedName())); });
+  messages_->setText(messages);
+  messages_->setVisible(!messages.isEmpty());
   copy_->setEnabled(any);
   delete_->setEnabled(any);
-  // A level of impact sound is no reduction index: a facade would be wrong with it.
+  // A level of impact sound or an improvement is no reduction index: a facade would be wrong with it.
   take_->setEnabled(any && Kind() == ResultKind::kAirborne);
 }
 

@@ -8,6 +8,7 @@
 #include "shell/structures/entry_model.h"
 #include "shell/structures/structure_sources.h"
 
+class QLabel;
 class QLineEdit;
 class QPlainTextEdit;
 class QPushButton;
@@ -56,10 +57,12 @@ class SavedResultsWindow : public QDialog {
   EntrySearch shown_;
   QRadioButton* airborne_ = nullptr;
   QRadioButton* impact_ = nullptr;
+  QRadioButton* lining_ = nullptr;
   QLineEdit* search_ = nullptr;
   QTableView* grid_ = nullptr;
   QLineEdit* name_ = nullptr;
   QPlainTextEdit* description_ = nullptr;
+  QLabel* messages_ = nullptr;  ///< what the run of the stored result told
   QPushButton* take_ = nullptr;
   QPushButton* copy_ = nullptr;
   QPushButton* delete_ = nullptr;

@@ -5,7 +5,11 @@
 #include <stdexcept>
 #include <utility>
 
+#include "measurements/octave_steps.h"
+#include "shell/fields/long_work.h"
 #include "storage/library/library_store.h"
+#include "storage/library/own_measurements.h"
+#include "storage/library/own_pictures.h"
 #include "storage/library/pictures.h"
 #include "storage/results/result_copy.h"
 #include "storage/results/results_store.h"
@@ -26,6 +30,9 @@ constexpr std::array kResultTables = {
     std::pair{Branch::kCalculatedLinings, storage::ResultTable::kLining},
 };
 
+/// A calculated result serves for everything.
+constexpr storage::TestUses kUsesOfResults{true, true, true};
+
 template <typename Table>
 auto RowFor(const Table& table, Branch branch) {
   return std::find_if(table.begin(), table.end(), [branch](const auto& row) { return row.first == branch; });
@@ -37,12 +44,16 @@ std::optional<storage::ResultTable> TableOf(Branch branch) {
   return row == kResultTables.end() ? std::nullopt : std::optional(row->second);
 }
 
-storage::LibraryFolder FolderOf(Branch branch) {
-  return storage::FindLibraryFolder(RowFor(kLibraryKeys, branch)->second).value();
-}
-
 storage::ResultTable TableOf(ResultKind kind) {
-  return kind == ResultKind::kAirborne ? storage::ResultTable::kAirborne : storage::ResultTable::kImpact;
+  switch (kind) {
+    case ResultKind::kAirborne:
+      return storage::ResultTable::kAirborne;
+    case ResultKind::kImpact:
+      return storage::ResultTable::kImpact;
+    case ResultKind::kLining:
+      return storage::ResultTable::kLining;
+  }
+  return storage::ResultTable::kAirborne;
 }
 
 MeasuredTest TestOf(const storage::LibraryFolder& folder, storage::MeasuredTest test,
@@ -64,12 +75,19 @@ MeasuredTest TestOf(const storage::LibraryFolder& folder, storage::MeasuredTest 
   shown.source_volume_m3 = test.field.source_volume_m3;
   shown.receiving_volume_m3 = test.field.receiving_volume_m3;
   shown.site = std::move(test.field.site);
-  shown.certificate = test.Proof();
+  shown.certificate = test.certificate;
   shown.date = std::move(test.date);
   shown.laboratory = std::move(test.laboratory);
   shown.client = std::move(test.client);
   shown.notes = std::move(test.notes);
   shown.picture = storage::PictureFile(pictures, folder.folder, test.picture);
+  shown.octave_steps_db = measurements::OctaveSteps(test);
+  shown.derived_thirds_db = measurements::ThirdsFromOctaves(folder, test);
+  shown.index_kind = test.index_kind;
+  shown.index_value = test.index_value;
+  shown.uncertainty_db = test.uncertainty_db;
+  shown.source = test.source;
+  shown.check = storage::CheckRating(folder, test);
   shown.picture_name = std::move(test.picture);
   return shown;
 }
@@ -95,11 +113,12 @@ class Library {
     std::vector<TestEntry> entries;
     if (const auto table = TableOf(file.branch)) {
       for (storage::ListedResult& result : results_.List(*table))
-        entries.push_back({std::move(result.name), std::move(result.description), {}});
+        entries.push_back({std::move(result.name), std::move(result.description), {}, kUsesOfResults});
       return entries;
     }
     for (storage::ListedTest& test : library_.Tests(FolderOf(file.branch), file.path))
-      entries.push_back({std::move(test.name), std::move(test.description), std::move(test.keyword)});
+      entries.push_back(
+          {std::move(test.name), std::move(test.description), std::move(test.keyword), test.uses});
     return entries;
   }
 
@@ -109,6 +128,7 @@ class Library {
       if (!result) return std::nullopt;
       MeasuredTest shown;
       shown.part = PartOf(*result);
+      shown.notes = result->messages;
       return shown;
     }
     const storage::LibraryFolder folder = FolderOf(file.branch);
@@ -125,6 +145,10 @@ class Library {
 };
 
 }  // namespace
+
+storage::LibraryFolder FolderOf(Branch branch) {
+  return storage::FindLibraryFolder(RowFor(kLibraryKeys, branch)->second).value();
+}
 
 calculation::FacadePart PartOf(const storage::SavedResult& result) {
   calculation::FacadePart part;
@@ -146,7 +170,7 @@ ResultSource StoredResults(const std::filesystem::path& file) {
   source.list = [store](ResultKind kind) {
     std::vector<ResultEntry> entries;
     for (storage::ListedResult& result : store->List(TableOf(kind)))
-      entries.push_back({std::move(result.name), std::move(result.description)});
+      entries.push_back({std::move(result.name), result.rating, std::move(result.description)});
     return entries;
   };
   source.find = [store](ResultKind kind, const std::string& name) -> std::optional<calculation::FacadePart> {
@@ -158,11 +182,46 @@ ResultSource StoredResults(const std::filesystem::path& file) {
     const auto result = store->Find(TableOf(kind), name);
     return result ? storage::CopyOf(TableOf(kind), *result) : CopiedTable();
   };
+  source.messages = [store](ResultKind kind, const std::string& name) {
+    const auto result = store->Find(TableOf(kind), name);
+    return result ? result->messages : std::string();
+  };
   source.remove = [store](ResultKind kind, const std::string& name) {
-    return store->Delete(TableOf(kind), name);
+    bool removed = false;
+    shell::RunBeside([&] { removed = store->Delete(TableOf(kind), name); });
+    return removed;
   };
   return source;
 }
+
+namespace {
+
+OwnMeasurementSource OwnMeasurementsIn(const LibraryPlaces& places) {
+  const auto store = std::make_shared<storage::OwnMeasurements>(places.library);
+  OwnMeasurementSource own;
+  own.holds = [store](const LibraryFile& file) {
+    return !TableOf(file.branch) && file.path == store->FileOf(FolderOf(file.branch));
+  };
+  own.all = [store](Branch branch) { return store->All(FolderOf(branch)); };
+  own.add = [store](Branch branch, const std::vector<storage::MeasuredTest>& tests) {
+    return store->Add(FolderOf(branch), tests);
+  };
+  own.change = [store](Branch branch, const std::string& name, const storage::MeasuredTest& test) {
+    return store->Change(FolderOf(branch), name, test);
+  };
+  own.remove = [store](Branch branch, const std::string& name) {
+    return store->Delete(FolderOf(branch), name);
+  };
+  own.keep_picture = [pictures = places.pictures](Branch branch, const std::filesystem::path& file) {
+    return storage::KeepPicture(pictures, FolderOf(branch).folder, file);
+  };
+  own.picture = [pictures = places.pictures](Branch branch, const std::string& picture) {
+    return storage::PictureFile(pictures, FolderOf(branch).folder, picture);
+  };
+  return own;
+}
+
+}  // namespace
 
 LibrarySource MeasuredLibrary(const LibraryPlaces& places, std::shared_ptr<storage::AccessSession> session) {
   const auto library = std::make_shared<const Library>(places, std::move(session));
@@ -172,6 +231,7 @@ LibrarySource MeasuredLibrary(const LibraryPlaces& places, std::shared_ptr<stora
   source.test = [library](const LibraryFile& file, const std::string& name) {
     return library->Test(file, name);
   };
+  source.own = OwnMeasurementsIn(places);
   return source;
 }
 

@@ -6,6 +6,7 @@
 #include "shell/structures/structure_sources.h"
 #include "storage/access/access_session.h"
 #include "storage/results/saved_result.h"
+#include "storage/tables/schema.h"
 
 namespace velmar::structures {
 
@@ -14,6 +15,9 @@ calculation::FacadePart PartOf(const storage::SavedResult& result);
 
 /// The stored results of the results database `file`.
 ResultSource StoredResults(const std::filesystem::path& file);
+
+/// The folder of the library behind `branch`, which must not be one of calculated structures.
+storage::LibraryFolder FolderOf(Branch branch);
 
 /// Where the library lies.
 struct LibraryPlaces {

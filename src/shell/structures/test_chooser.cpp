@@ -6,11 +6,13 @@
 #include <QLineEdit>
 #include <QListView>
 #include <QSplitter>
+#include <QStyle>
 #include <QStyledItemDelegate>
 #include <QTreeWidget>
 #include <QTreeWidgetItemIterator>
 #include <QVBoxLayout>
 #include <algorithm>
+#include <array>
 #include <set>
 #include <utility>
 
@@ -19,8 +21,7 @@
 namespace velmar::structures {
 namespace {
 
-/// Takes the width that the list has: what does not fit is left out in the middle of a name, where names
-/// differ least.
+/// Takes the width that the list has: the end of a name that does not fit is left out, the tool tip has it.
 class FittingNames : public QStyledItemDelegate {
  public:
   using QStyledItemDelegate::QStyledItemDelegate;
@@ -28,6 +29,26 @@ class FittingNames : public QStyledItemDelegate {
     return {1, QStyledItemDelegate::sizeHint(option, index).height()};
   }
 };
+
+/// What a test is to serve for, as the filter lists it.
+enum class Use { kAny, kFacadeByBands, kRatingAlone, kComparison };
+constexpr std::array kUses = {
+    std::pair{Use::kAny, kUsableAnyRow}, std::pair{Use::kFacadeByBands, kUsableBandsRow},
+    std::pair{Use::kRatingAlone, kUsableRatingRow}, std::pair{Use::kComparison, kUsableComparisonRow}};
+
+bool Serves(const storage::TestUses& uses, Use use) {
+  switch (use) {
+    case Use::kAny:
+      return true;
+    case Use::kFacadeByBands:
+      return uses.facade_by_bands;
+    case Use::kRatingAlone:
+      return uses.facade_by_rating && !uses.facade_by_bands;
+    case Use::kComparison:
+      return uses.comparison;
+  }
+  return true;
+}
 
 constexpr int kTreeCharacters = 42;
 constexpr int kListCharacters = 44;
@@ -61,13 +82,21 @@ QWidget* TestChooser::MakeTree(const Controls& controls) {
   tree_->setAccessibleName(tools_.Text(kDatabaseTreeRow));
   tree_->setHeaderHidden(true);
   tree_->setUniformRowHeights(true);
-  tree_->setTextElideMode(Qt::ElideMiddle);
+  tree_->setTextElideMode(Qt::ElideRight);
   tree_->setIndentation(fontMetrics().averageCharWidth() * 2);
   tree_->setMinimumWidth(fontMetrics().averageCharWidth() * kTreeCharacters / 2);
   FillTree();
   connect(tree_, &QTreeWidget::currentItemChanged, this, [this](const QTreeWidgetItem* item) {
     if (const std::optional<LibraryFile> file = FileOf(item)) OpenFile(*file);
   });
+  if (!listener_.enter) return tree_;
+  const auto enter = [this](const QTreeWidgetItem* item) {
+    if (const std::optional<Branch> branch = EmptyBranchOf(item)) listener_.enter(*branch);
+  };
+  connect(tree_, &QTreeWidget::itemActivated, this, enter);
+  // Where one click activates an item, that signal has come already.
+  if (!tree_->style()->styleHint(QStyle::SH_ItemView_ActivateItemOnSingleClick, nullptr, tree_))
+    connect(tree_, &QTreeWidget::itemClicked, this, enter);
   return tree_;
 }
 
@@ -85,6 +114,18 @@ QWidget* TestChooser::MakeList(const Controls& controls) {
   auto* filter = new QHBoxLayout;
   filter->addWidget(label);
   filter->addWidget(keywords_, 1);
+  uses_ = new QComboBox(side);
+  uses_->setObjectName(QLatin1String(controls.list) + QStringLiteral("_uso"));
+  uses_->setAccessibleName(tools_.Text(kUsableForRow));
+  uses_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+  for (const auto& [use, row] : kUses) uses_->addItem(tools_.Text(row));
+  auto* uses_label = new QLabel(tools_.Text(kUsableForRow), side);
+  uses_label->setBuddy(uses_);
+  auto* uses_row = new QHBoxLayout;
+  uses_row->addWidget(uses_label);
+  uses_row->addWidget(uses_, 1);
+  uses_->setVisible(controls.filters_uses);
+  uses_label->setVisible(controls.filters_uses);
   search_ = new QLineEdit(side);
   search_->setObjectName(QLatin1String(controls.list) + QStringLiteral("_cerca"));
   search_->setPlaceholderText(tools_.Text(kStructureSearchRow));
@@ -94,14 +135,16 @@ QWidget* TestChooser::MakeList(const Controls& controls) {
   list_->setObjectName(QLatin1String(controls.list));
   list_->setAccessibleName(tools_.Text(kTestListRow));
   list_->setUniformItemSizes(true);
-  list_->setTextElideMode(Qt::ElideMiddle);
+  list_->setTextElideMode(Qt::ElideRight);
   list_->setItemDelegate(new FittingNames(list_));
   list_->setEditTriggers(QAbstractItemView::NoEditTriggers);
   list_->setModel(&shown_);
   column->addLayout(filter);
+  column->addLayout(uses_row);
   column->addWidget(search_);
   column->addWidget(list_, 1);
   connect(keywords_, &QComboBox::currentIndexChanged, this, [this] { FillList(); });
+  connect(uses_, &QComboBox::currentIndexChanged, this, [this] { FillList(); });
   connect(search_, &QLineEdit::textChanged, this, [this](const QString& text) {
     const QString before = list_->currentIndex().data().toString();
     shown_.Search(text);
@@ -115,12 +158,32 @@ QWidget* TestChooser::MakeList(const Controls& controls) {
   return side;
 }
 
-void TestChooser::FillTree() { structures::FillTree(*tree_, nodes_, source_, tools_); }
+void TestChooser::FillTree() {
+  structures::FillTree(*tree_, nodes_, source_, tools_,
+                       listener_.enter ? tools_.Text(kNoSeriesRow) : QString());
+}
 
 void TestChooser::Refresh() {
-  const std::optional<LibraryFile> before = std::exchange(file_, std::nullopt);
-  const QString keyword = keywords_->currentIndex() > 0 ? keywords_->currentText() : QString();
-  const QString name = chosen_ ? shell::ToQt(chosen_->part.name) : QString();
+  Refill(file_, keywords_->currentIndex() > 0 ? keywords_->currentText() : QString(),
+         chosen_ ? shell::ToQt(chosen_->part.name) : QString());
+}
+
+void TestChooser::ShowTest(Branch branch, const std::string& series, const QString& name) {
+  std::optional<LibraryFile> shown;
+  tools_.Try([&] {
+    for (const LibraryFile& file : source_.files(branch)) {
+      if (file.name == series) shown = file;
+    }
+  });
+  search_->clear();
+  uses_->setCurrentIndex(0);
+  Refill(shown ? shown : file_, QString(), name);
+}
+
+void TestChooser::Refill(const std::optional<LibraryFile>& file, const QString& keyword,
+                         const QString& name) {
+  const std::optional<LibraryFile> before = file;
+  file_.reset();
   {
     const QSignalBlocker quiet(tree_);
     FillTree();
@@ -165,8 +228,9 @@ void TestChooser::FillList() {
   const bool all = keywords_->currentIndex() <= 0;
   const std::string keyword = shell::FromQt(keywords_->currentText());
   std::vector<QStringList> rows;
+  const Use use = kUses.at(static_cast<std::size_t>(std::max(uses_->currentIndex(), 0))).first;
   for (const TestEntry& test : tests_) {
-    if (all || test.keyword == keyword) rows.push_back({shell::ToQt(test.name)});
+    if ((all || test.keyword == keyword) && Serves(test.uses, use)) rows.push_back({shell::ToQt(test.name)});
   }
   Clear();
   model_.Fill(std::move(rows));

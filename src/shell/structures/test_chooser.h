@@ -26,18 +26,25 @@ class TestChooser : public QWidget {
     const char* keywords = "Combo1";
     const char* list = "List1";
     std::vector<TreeNode> nodes{};
+    bool filters_uses = false;  ///< offers the filter of what a test can serve for (`List1_uso`)
   };
   struct Listener {
     /// Another file was opened; the description is that of its first test.
     std::function<void(const LibraryFile&, const QString& description)> file{};
     /// A test was chosen, or none is any more.
     std::function<void(const std::optional<MeasuredTest>&)> test{};
+    /// A branch that holds no series was clicked: a measurement of it is to be entered. Without it such a
+    /// branch shows nothing.
+    std::function<void(Branch)> enter{};
   };
 
   TestChooser(const shell::WindowTools& tools, LibrarySource source, const Controls& controls,
               Listener listener, QWidget* parent = nullptr);
 
   const std::optional<MeasuredTest>& Chosen() const { return chosen_; }
+  const std::optional<LibraryFile>& File() const { return file_; }
+  /// Reads files and tests anew and shows the test `name` of the series `series` of `branch`.
+  void ShowTest(Branch branch, const std::string& series, const QString& name);
   /// No test is chosen any more.
   void Clear();
   /// Reads files and tests anew; what is chosen stays chosen while it is still there.
@@ -48,6 +55,7 @@ class TestChooser : public QWidget {
   QWidget* MakeTree(const Controls& controls);
   QWidget* MakeList(const Controls& controls);
   void FillTree();
+  void Refill(const std::optional<LibraryFile>& file, const QString& keyword, const QString& name);
   void OpenFile(const LibraryFile& file);
   void FillList();
   void Choose(const QString& name);
@@ -64,6 +72,7 @@ class TestChooser : public QWidget {
   QSplitter* splitter_ = nullptr;
   QTreeWidget* tree_ = nullptr;
   QComboBox* keywords_ = nullptr;
+  QComboBox* uses_ = nullptr;
   QLineEdit* search_ = nullptr;
   QListView* list_ = nullptr;
 };

@@ -14,10 +14,12 @@
 namespace velmar::structures {
 namespace {
 
-constexpr std::array<MessageRow, 5> kCertificateRows = {kCertificateRow, kTestDateRow, kLaboratoryRow,
-                                                        kTestClientRow, kTestRemarksRow};
-constexpr std::array<const char*, 5> kCertificateNames = {"TextCertificato", "TextDataProva", "TextEnteProva",
-                                                          "TextRichiedente", "TextInformazione"};
+constexpr std::array<MessageRow, 6> kCertificateRows = {kCertificateRow, kTestDateRow,    kLaboratoryRow,
+                                                        kTestClientRow,  kTestRemarksRow, kSourceCaptionRow};
+constexpr std::array<const char*, 6> kCertificateNames = {
+    "TextCertificato", "TextDataProva", "TextEnteProva", "TextRichiedente", "TextInformazione", "TextFonte"};
+/// Those of the certificate's fields whose texts are short stand in a grid, the others have a line each.
+constexpr std::size_t kShortFields = 4;
 constexpr std::size_t kBandsInARow = 7;
 constexpr double kRatingScale = 1.4;
 
@@ -35,7 +37,39 @@ void ShowFromStart(QLineEdit& box, const QString& text) {
   box.setToolTip(text);
 }
 
+/// "Ottave [dB]: 63 Hz 18 · 125 Hz 20 · ...", empty without octaves.
+QString OctaveLine(const MeasuredTest& test, const shell::WindowTools& tools) {
+  constexpr std::size_t kThirdsInAnOctave = 3;
+  constexpr std::size_t kMiddle = 1;
+  QStringList values;
+  for (std::size_t band = kMiddle; band < test.octave_steps_db.size(); band += kThirdsInAnOctave) {
+    const std::optional<double>& value = test.octave_steps_db.at(band);
+    if (!value) continue;
+    values << QString::number(static_cast<int>(acoustics::BandCentre(band))) + QStringLiteral(" Hz ") +
+                  shell::ToQt(calculation::BoxText(value));
+  }
+  if (values.isEmpty()) return {};
+  return tools.Text(kOctavesFrameRow) + QStringLiteral(": ") + values.join(QStringLiteral(" · "));
+}
+
 }  // namespace
+
+QString RatingRemarks(const BranchSymbols& symbols, const MeasuredTest& test,
+                      const shell::WindowTools& tools) {
+  QStringList remarks;
+  if (test.check.differs)
+    remarks << tools.Text(kRatingDiffersRow) + ' ' + Symbol(symbols.rating) + ' ' +
+                   Decibels(test.check.rating) + QStringLiteral(" dB");
+  const bool other_index = !test.index_kind.empty() && test.index_value;
+  if (other_index)
+    remarks << tools.Text(kStatedIndexRow) + ' ' + shell::ToQt(test.index_kind) + ' ' +
+                   Decibels(test.index_value);
+  const bool octaves_alone = test.derived_thirds_db || test.check.basis == storage::RatingBasis::kOctaves;
+  if (octaves_alone) remarks << tools.Text(kOctavesOnlyRow);
+  if (test.uncertainty_db)
+    remarks << tools.Text(kUncertaintyRow) + QStringLiteral(" ± ") + Decibels(test.uncertainty_db);
+  return remarks.join(QStringLiteral(" · "));
+}
 
 QString RatingLabel(const BranchSymbols& symbols, const calculation::FacadePart& part) {
   QString names = Symbol(symbols.term);
@@ -58,6 +92,13 @@ TestDetails::TestDetails(const shell::WindowTools& tools, QWidget* parent) : QWi
   rating_->setFont(large);
   rating_->setTextInteractionFlags(Qt::TextSelectableByMouse);
   rating_->setMinimumHeight(QFontMetrics(large).height());
+  remarks_ = new QLabel(this);
+  remarks_->setObjectName(QStringLiteral("LabelNote"));
+  remarks_->setWordWrap(true);
+  octaves_ = new QLabel(this);
+  octaves_->setObjectName(QStringLiteral("LabelOttave"));
+  octaves_->setWordWrap(true);
+  octaves_->setTextInteractionFlags(Qt::TextSelectableByMouse);
   description_ = new QPlainTextEdit(this);
   description_->setObjectName(QStringLiteral("Text2"));
   description_->setAccessibleName(tools_.Text(kDescriptionRow));
@@ -71,10 +112,12 @@ TestDetails::TestDetails(const shell::WindowTools& tools, QWidget* parent) : QWi
   pictures->addWidget(curve_, 3);
   pictures->addWidget(picture_, 1);
   column->addWidget(rating_);
+  column->addWidget(remarks_);
   column->addWidget(description_);
   column->addWidget(MakeValues());
   column->addLayout(pictures, 1);
   column->addWidget(MakeBands());
+  column->addWidget(octaves_);
   column->addWidget(MakeCertificate());
   ShowSymbols(SymbolsOf(Branch::kWalls));
   Show(std::nullopt);
@@ -141,14 +184,16 @@ QWidget* TestDetails::MakeCertificate() {
   column->setSpacing(4);
   auto* grid = new QGridLayout;
   grid->setVerticalSpacing(4);
-  auto* notes = new QHBoxLayout;
+  auto* lines = new QGridLayout;
+  lines->setVerticalSpacing(4);
   for (std::size_t i = 0; i < certificate_.size(); ++i) {
     const QString caption = tools_.Text(kCertificateRows[i]);
     certificate_[i] = Box(QLatin1String(kCertificateNames[i]), caption);
     auto* label = new QLabel(caption, certificate);
-    if (i + 1 == certificate_.size()) {  // apart, so that its long caption takes no room from the others
-      notes->addWidget(label);
-      notes->addWidget(certificate_[i], 1);
+    if (i >= kShortFields) {
+      const int row = static_cast<int>(i - kShortFields);
+      lines->addWidget(label, row, 0);
+      lines->addWidget(certificate_[i], row, 1);
       continue;
     }
     const int line = static_cast<int>(i / 2);
@@ -159,7 +204,7 @@ QWidget* TestDetails::MakeCertificate() {
   grid->setColumnStretch(1, 3);
   grid->setColumnStretch(3, 2);
   column->addLayout(grid);
-  column->addLayout(notes);
+  column->addLayout(lines);
   return certificate;
 }
 
@@ -182,6 +227,10 @@ void TestDetails::Show(const std::optional<MeasuredTest>& test) {
   const calculation::FacadePart& part = shown.part;
   const bool small = part.quantity == calculation::PartQuantity::kElementDifference;
   rating_->setText(test ? RatingLabel(symbols_, part) : QString());
+  remarks_->setText(test ? RatingRemarks(symbols_, *test, tools_) : QString());
+  remarks_->setVisible(!remarks_->text().isEmpty());
+  octaves_->setText(OctaveLine(shown, tools_));
+  octaves_->setVisible(!octaves_->text().isEmpty());
   description_->setPlainText(shell::ToQt(part.description));
   const QString area = small ? QStringLiteral("0") : Decibels(part.area_m2);
   const QString mass = part.mass_kg_m2 ? Decibels(part.mass_kg_m2) : QStringLiteral("-");
@@ -193,8 +242,8 @@ void TestDetails::Show(const std::optional<MeasuredTest>& test) {
     const bool measured = value && *value != calculation::kNotMeasuredDb;
     bands_[i]->setText(measured ? shell::ToQt(FormatFixed(*value, 1)) : QString());
   }
-  const std::array<std::string, 5> certificate = {shown.certificate, shown.date, shown.laboratory,
-                                                  shown.client, shown.notes};
+  const std::array<std::string, 6> certificate = {shown.certificate, shown.date,  shown.laboratory,
+                                                  shown.client,      shown.notes, shown.source};
   for (std::size_t i = 0; i < certificate_.size(); ++i)
     ShowFromStart(*certificate_[i], shell::ToQt(certificate[i]));
   curve_->Show(test, symbols_);

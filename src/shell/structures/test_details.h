@@ -53,16 +53,24 @@ class TestDetails : public QWidget {
 
   shell::WindowTools tools_;
   BranchSymbols symbols_{};
-  QLabel* rating_ = nullptr;               ///< `Label3`
+  QLabel* rating_ = nullptr;   ///< `Label3`
+  QLabel* remarks_ = nullptr;  ///< what the bands give, what the source states
+  QLabel* octaves_ = nullptr;
   QPlainTextEdit* description_ = nullptr;  ///< `Text2`
   std::array<QLineEdit*, 5> values_{};     ///< `Text4`, `Text5`, `Text6`, `Text3`, surface mass
   std::array<QLabel*, 5> captions_{};
   QLabel* band_caption_ = nullptr;
   std::array<QLineEdit*, acoustics::kBandCount> bands_{};  ///< `Text1`
-  std::array<QLineEdit*, 5> certificate_{};
+  std::array<QLineEdit*, 6> certificate_{};
   MeasuredCurveView* curve_ = nullptr;
   shell::PictureView* picture_ = nullptr;
 };
+
+/// What is to be known of the rating of `test`, a line: the rating that its bands give where the stated one
+/// is another, the index of its source, that it has octave bands alone, its uncertainty. Empty where it has
+/// nothing to say.
+QString RatingRemarks(const BranchSymbols& symbols, const MeasuredTest& test,
+                      const shell::WindowTools& tools);
 
 /// "Rw(C,Ctr)= 50(-1, -5) dB", "Dnew(C,Ctr)= ...", "Lnw(Ci)= 59(1) dB"; a missing value is left out.
 QString RatingLabel(const BranchSymbols& symbols, const calculation::FacadePart& part);

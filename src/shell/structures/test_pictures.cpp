@@ -23,7 +23,11 @@ void MeasuredCurveView::Show(const std::optional<MeasuredTest>& test, const Bran
       const std::optional<double>& value = test->part.bands_db[i];
       chart_.values[i] = value == calculation::kNotMeasuredDb ? 0.0 : value.value_or(0.0);
     }
-    bare_ = chart_.values == acoustics::Spectrum{};
+    chart_.octaves.emplace();
+    for (std::size_t i = 0; i < chart_.octaves->size(); ++i)
+      chart_.octaves->at(i) = test->octave_steps_db.at(i).value_or(0.0);
+    if (*chart_.octaves == acoustics::Spectrum{}) chart_.octaves.reset();
+    bare_ = chart_.values == acoustics::Spectrum{} && !chart_.octaves;
     chart_.fits_values = true;
     chart_.words.level_axis = symbols.bands;
   }

@@ -1,13 +1,12 @@
 #include "storage/access/conversion.h"
 
-#include <cerrno>
 #include <system_error>
 
 #include <SQLiteCpp/Database.h>
 #include <SQLiteCpp/Statement.h>
-#include <unistd.h>
 
 #include "foundation/message_rows.h"
+#include "platform/file_system.h"
 #include "storage/database/connection.h"
 #include "storage/database/database_failure.h"
 #include "storage/database/file_kind.h"
@@ -26,10 +25,12 @@ fs::path KeepUnderOtherName(const fs::path& file) {
     fs::path name = file;
     name += ".originale";
     if (number > 1) name += std::to_string(number);
-    if (::link(file.c_str(), name.c_str()) == 0) return name;
-    if (errno == EEXIST) continue;
+    std::error_code error;
+    fs::create_hard_link(file, name, error);
+    if (!error) return name;
+    if (error == std::errc::file_exists) continue;
     if (fs::exists(name) || !fs::copy_file(file, name)) continue;
-    SyncToDisk(name);
+    platform::SyncToDisk(name);
     return name;
   }
 }
@@ -84,11 +85,11 @@ std::optional<Conversion> ConvertAccessFile(const AccessReader& reader, const fs
     const Unfinished unfinished(path);
     CopyAccessFile(reader, path, unfinished.Path());
     Conversion conversion{{}, TablesOf(unfinished.Path())};
-    SyncToDisk(unfinished.Path());
+    platform::SyncToDisk(unfinished.Path());
     conversion.original = KeepUnderOtherName(path);
     SetAsideCompanions(path);
     fs::rename(unfinished.Path(), path);
-    SyncToDisk(path.parent_path());
+    platform::SyncToDisk(path.parent_path());
     return conversion;
   } catch (const fs::filesystem_error& error) {
     throw Failed(file, error.what());

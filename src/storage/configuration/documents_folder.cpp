@@ -6,8 +6,7 @@
 #include <string_view>
 #include <system_error>
 
-#include <pwd.h>
-#include <unistd.h>
+#include "platform/file_system.h"
 
 namespace velmar::storage {
 namespace {
@@ -47,12 +46,6 @@ std::string Variable(const char* name) {
   return value == nullptr ? std::string() : std::string(value);
 }
 
-fs::path Home() {
-  if (const std::string home = Variable("HOME"); !home.empty()) return home;
-  const passwd* user = ::getpwuid(::getuid());
-  return user == nullptr || user->pw_dir == nullptr ? fs::path("/") : fs::path(user->pw_dir);
-}
-
 }  // namespace
 
 fs::path CartellaDocumenti(const fs::path& home, const fs::path& settings) {
@@ -70,7 +63,7 @@ fs::path CartellaDocumenti(const fs::path& home, const fs::path& settings) {
 }
 
 fs::path CartellaDocumenti() {
-  const fs::path home = Home();
+  const fs::path home = platform::HomeFolder();
   const std::string settings = Variable("XDG_CONFIG_HOME");
   return CartellaDocumenti(home, settings.empty() ? home / ".config" : fs::path(settings));
 }

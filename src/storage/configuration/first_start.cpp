@@ -3,6 +3,7 @@
 #include <string>
 
 #include "foundation/failure.h"
+#include "platform/file_system.h"
 #include "storage/database/rename.h"
 #include "storage/files/store_failure.h"
 #include "storage/files/unfinished.h"
@@ -31,7 +32,7 @@ void Settle(const fs::path& path) {
   if (folder) {
     for (const fs::directory_entry& entry : fs::directory_iterator(path)) Settle(entry.path());
   }
-  SyncToDisk(path);
+  platform::SyncToDisk(path);
 }
 
 /// @return false when something took the name meanwhile
@@ -39,9 +40,10 @@ bool CopyTo(const fs::path& source, const fs::path& target) {
   fs::create_directories(target.parent_path());
   const Unfinished unfinished(target);
   fs::copy(source, unfinished.Path(), fs::copy_options::recursive);
+  if (fs::is_directory(unfinished.Path())) fs::remove_all(unfinished.Path() / kFormerData);
   Settle(unfinished.Path());
   if (!RenameToFreeName(unfinished.Path(), target)) return false;
-  SyncToDisk(target.parent_path());
+  platform::SyncToDisk(target.parent_path());
   return true;
 }
 

@@ -4,6 +4,10 @@
 
 namespace velmar::storage {
 
+/// The folder of the shipped data with what the first version shipped. It serves comparisons alone and is
+/// copied into no data folder.
+inline constexpr const char* kFormerData = "Former";
+
 enum class DataFolderState {
   kThere,   ///< it existed and was not touched
   kCreated  ///< the shipped default data were copied there

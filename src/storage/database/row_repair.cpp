@@ -9,6 +9,7 @@
 #include <SQLiteCpp/Database.h>
 
 #include "foundation/utf8.h"
+#include "storage/database/connection.h"
 #include "storage/database/database_failure.h"
 #include "storage/database/table_rows.h"
 #include "storage/tables/cell.h"
@@ -140,12 +141,12 @@ std::vector<RowFault> Walk(SQLite::Database& database, const RowRules& rules, bo
 
 }  // namespace
 
-std::vector<RowFault> FindRowFaults(SQLite::Database& database, const RowRules& rules) {
-  return Walk(database, rules, false);
+std::vector<RowFault> FindRowFaults(const std::filesystem::path& file, const RowRules& rules) {
+  return ReadDatabase(file, [&](SQLite::Database& database) { return Walk(database, rules, false); });
 }
 
-std::vector<RowFault> MendRows(SQLite::Database& database, const RowRules& rules) {
-  return Walk(database, rules, true);
+std::vector<RowFault> MendRows(const std::filesystem::path& file, const RowRules& rules) {
+  return ChangeDatabase(file, [&](SQLite::Database& database) { return Walk(database, rules, true); });
 }
 
 }  // namespace velmar::storage

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <filesystem>
 #include <functional>
 #include <limits>
 #include <string>
@@ -8,10 +9,6 @@
 #include <vector>
 
 #include "storage/tables/schema.h"
-
-namespace SQLite {
-class Database;
-}
 
 namespace velmar::storage {
 
@@ -47,13 +44,14 @@ struct RowRules {
   std::function<std::string(const TableSchema& table, std::size_t row, std::size_t column)> shipped_text{};
 };
 
-/// What breaks `rules`, in the order of the file. Throws as TableRows does.
-std::vector<RowFault> FindRowFaults(SQLite::Database& database, const RowRules& rules);
+/// What breaks `rules` in `file`, in the order of the file. Throws as ReadDatabase and TableRows do.
+std::vector<RowFault> FindRowFaults(const std::filesystem::path& file, const RowRules& rules);
 
 /// Mends what breaks `rules`: a missing table is made, empty; a broken text is replaced, or written with
 /// blanks and U+FFFD in place of what it must not hold; a name that shows nothing becomes "(senza nome)",
-/// with a number where that is taken; an impossible number becomes null. To be called inside a change.
+/// with a number where that is taken; an impossible number becomes null. One transaction; throws as
+/// ChangeDatabase does.
 /// @return what was mended
-std::vector<RowFault> MendRows(SQLite::Database& database, const RowRules& rules);
+std::vector<RowFault> MendRows(const std::filesystem::path& file, const RowRules& rules);
 
 }  // namespace velmar::storage

@@ -10,6 +10,7 @@
 #include <SQLiteCpp/Statement.h>
 #include <sqlite3.h>
 
+#include "platform/file_system.h"
 #include "storage/database/connection.h"
 #include "storage/database/database_failure.h"
 #include "storage/database/file_kind.h"
@@ -104,13 +105,13 @@ fs::path KeepDatedCopy(const fs::path& file) {
     if (KindOf(file) == FileKind::kSqlite)
       ReadDatabaseWith(file, [](SQLite::Database& database) { database.execAndGet("PRAGMA user_version"); });
     fs::copy_file(file, unfinished.Path());
-    SyncToDisk(unfinished.Path());
+    platform::SyncToDisk(unfinished.Path());
     for (int number = 1;; ++number) {
       fs::path name = file;
       name += ".copia-" + Today();
       if (number > 1) name += "-" + std::to_string(number);
       if (!RenameToFreeName(unfinished.Path(), name)) continue;
-      SyncToDisk(file.parent_path());
+      platform::SyncToDisk(file.parent_path());
       return name;
     }
   } catch (const fs::filesystem_error& error) {

@@ -3,6 +3,8 @@
 #include <filesystem>
 #include <vector>
 
+#include "platform/open_file.h"
+
 namespace velmar::storage {
 
 /// What is to become a file stands beside it meanwhile, under a name of its own (".velmar-" and a number,
@@ -12,10 +14,10 @@ namespace velmar::storage {
 /// A free name of that kind in `folder`.
 std::filesystem::path UnfinishedName(const std::filesystem::path& folder);
 
-/// Holds what `descriptor` has open under the name `path` until it and its duplicates are closed. Where the
-/// file system knows no locks nothing is held.
+/// Holds what `file` has open under the name `path` until it and its duplicates are closed. Where the file
+/// system knows no locks nothing is held.
 /// @return false when somebody removed it before it was held
-bool Hold(int descriptor, const std::filesystem::path& path);
+bool Hold(platform::OpenFile& file, const std::filesystem::path& path);
 
 /// A folder beside a file for what is to become it. The folder, and what stands in it, disappears with this
 /// object; what is finished has been given its own name meanwhile.
@@ -34,7 +36,7 @@ class Unfinished {
  private:
   std::filesystem::path folder_;
   std::filesystem::path path_;
-  int descriptor_ = -1;
+  platform::OpenFile held_{};
 };
 
 /// The unfinished files and folders in `folder` that no living program holds. Where the file system knows no
@@ -43,8 +45,5 @@ std::vector<std::filesystem::path> AbandonedIn(const std::filesystem::path& fold
 
 /// Removes AbandonedIn() `folder`. Throws nothing.
 void RemoveAbandoned(const std::filesystem::path& folder);
-
-/// Sends a file, or the names in a folder, to the disk, where the file system can do so. Throws nothing.
-void SyncToDisk(const std::filesystem::path& path);
 
 }  // namespace velmar::storage

@@ -3,15 +3,14 @@
 #include <algorithm>
 #include <array>
 #include <cerrno>
+#include <cstddef>
 #include <optional>
 #include <string>
 #include <system_error>
 #include <utility>
 
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
-
+#include "platform/file_system.h"
+#include "platform/open_file.h"
 #include "storage/files/store_failure.h"
 #include "storage/files/unfinished.h"
 
@@ -25,25 +24,6 @@ namespace fs = std::filesystem;
   throw StoreFailure(action, error, path.string(), previous);
 }
 
-/// A file descriptor that closes itself.
-class Descriptor {
- public:
-  explicit Descriptor(int number) : number_(number) {}
-  Descriptor(const Descriptor&) = delete;
-  Descriptor& operator=(const Descriptor&) = delete;
-  ~Descriptor() {
-    if (number_ >= 0) ::close(number_);
-  }
-
-  int Number() const { return number_; }
-  bool IsOpen() const { return number_ >= 0; }
-  /// @return false when the system reports a late write error
-  bool Close() { return ::close(std::exchange(number_, -1)) == 0; }
-
- private:
-  int number_;
-};
-
 /// Removes the temporary file unless it took its final name.
 class Temporary {
  public:
@@ -51,7 +31,8 @@ class Temporary {
   Temporary(const Temporary&) = delete;
   Temporary& operator=(const Temporary&) = delete;
   ~Temporary() {
-    if (!path_.empty()) ::unlink(path_.c_str());
+    std::error_code ignored;
+    if (!path_.empty()) fs::remove(path_, ignored);
   }
 
   const fs::path& Path() const { return path_; }
@@ -75,19 +56,17 @@ fs::path Followed(fs::path path) {
 
 /// What stands at `path` now; nothing when the name is free.
 /// @throws StoreFailure when it may not be replaced
-std::optional<struct stat> Replaceable(const fs::path& path) {
-  struct stat status {};
-  if (::stat(path.c_str(), &status) != 0) {
-    if (errno == ENOENT) return std::nullopt;
-    Fail(StoreAction::kWrite, path, errno);
+std::optional<platform::FileStatus> Replaceable(const fs::path& path) {
+  platform::FileStatus status;
+  if (const int error = platform::StatusAt(path, status); error != 0) {
+    if (error == ENOENT) return std::nullopt;
+    Fail(StoreAction::kWrite, path, error);
   }
-  if (S_ISDIR(status.st_mode)) Fail(StoreAction::kWrite, path, EISDIR);
-  if (!S_ISREG(status.st_mode))
+  if (status.folder) Fail(StoreAction::kWrite, path, EISDIR);
+  if (!status.regular)
     throw StoreFailure(StoreAction::kWrite, StoreReason::kNotAFile, path.string(), "not a regular file");
   // The rename would not ask the file itself; its read-only mark is to hold for the superuser as well.
-  constexpr mode_t kAnyWrite = S_IWUSR | S_IWGRP | S_IWOTH;
-  if ((status.st_mode & kAnyWrite) == 0 || ::access(path.c_str(), W_OK) != 0)
-    Fail(StoreAction::kWrite, path, EACCES);
+  if (!status.marked_writable || !platform::MayWrite(path)) Fail(StoreAction::kWrite, path, EACCES);
   return status;
 }
 
@@ -96,24 +75,12 @@ fs::path FolderOf(const fs::path& path) {
   return folder.empty() ? fs::path(".") : folder;
 }
 
-/// @return false when the system refuses; errno says why
-bool WriteAll(int descriptor, std::string_view bytes) {
-  while (!bytes.empty()) {
-    const ssize_t written = ::write(descriptor, bytes.data(), bytes.size());
-    if (written < 0 && errno != EINTR) return false;
-    if (written > 0) bytes.remove_prefix(static_cast<std::size_t>(written));
-  }
-  return true;
-}
-
 /// A new file in `folder`, held by this program, and its name; no file when the system refuses.
-std::pair<int, fs::path> NewFile(const fs::path& folder) {
-  constexpr mode_t kNewFile = S_IRUSR | S_IWUSR | S_IRGRP | S_IWGRP | S_IROTH | S_IWOTH;
+std::pair<platform::OpenFile, fs::path> NewFile(const fs::path& folder) {
   for (;;) {
-    const fs::path name = UnfinishedName(folder);
-    const int descriptor = ::open(name.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, kNewFile);
-    if (descriptor < 0 || Hold(descriptor, name)) return {descriptor, name};
-    ::close(descriptor);
+    fs::path name = UnfinishedName(folder);
+    platform::OpenFile file = platform::OpenFile::New(name);
+    if (!file.IsOpen() || Hold(file, name)) return {std::move(file), std::move(name)};
   }
 }
 
@@ -121,58 +88,48 @@ std::pair<int, fs::path> NewFile(const fs::path& folder) {
 
 void WriteWhole(const fs::path& path, std::string_view bytes) {
   const fs::path target = Followed(path);
-  const std::optional<struct stat> old = Replaceable(target);
+  const std::optional<platform::FileStatus> old = Replaceable(target);
   const fs::path folder = FolderOf(target);
   RemoveAbandoned(folder);
-  const auto fail = [&] {
-    Fail(StoreAction::kWrite, path, errno, old ? PreviousFile::kIntact : PreviousFile::kNone);
+  const auto refuse = [&](int error) {
+    if (error != 0) Fail(StoreAction::kWrite, path, error, old ? PreviousFile::kIntact : PreviousFile::kNone);
   };
 
-  auto [descriptor, name] = NewFile(folder);
-  Descriptor file(descriptor);
-  if (!file.IsOpen()) fail();
+  auto [file, name] = NewFile(folder);
+  refuse(file.Error());
   Temporary temporary(name);
-  if (old) {
-    // An owner that may not be given is no reason to lose the work.
-    [[maybe_unused]] const int ignored = ::fchown(file.Number(), old->st_uid, old->st_gid);
-    constexpr mode_t kPermissions = 07777;
-    if (::fchmod(file.Number(), old->st_mode & kPermissions) != 0) fail();
-  }
-  if (!WriteAll(file.Number(), bytes)) fail();
-  if (::fsync(file.Number()) != 0) fail();
+  if (old) refuse(file.TakeOverFrom(*old));
+  refuse(file.Write(bytes));
+  refuse(file.Sync());
   // Closing tells a late error; the duplicate holds the file until it has its name.
-  const Descriptor held(::fcntl(file.Number(), F_DUPFD_CLOEXEC, 0));
-  if (!file.Close()) fail();
-  if (::rename(temporary.Path().c_str(), target.c_str()) != 0) fail();
+  const platform::OpenFile held = file.Duplicate();
+  refuse(file.Close());
+  refuse(platform::Rename(temporary.Path(), target));
   temporary.Keep();
-  SyncToDisk(folder);
+  platform::SyncToDisk(folder);
 }
 
 std::string ReadWhole(const fs::path& path, std::size_t size_limit) {
-  // A pipe without a writer must not block.
-  const Descriptor file(::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
-  if (!file.IsOpen()) Fail(StoreAction::kRead, path, errno);
-  struct stat status {};
-  if (::fstat(file.Number(), &status) != 0) Fail(StoreAction::kRead, path, errno);
-  if (S_ISDIR(status.st_mode)) Fail(StoreAction::kRead, path, EISDIR);
-  if (!S_ISREG(status.st_mode))
+  platform::OpenFile file = platform::OpenFile::ForReading(path);
+  if (!file.IsOpen()) Fail(StoreAction::kRead, path, file.Error());
+  platform::FileStatus status;
+  if (const int error = file.Status(status); error != 0) Fail(StoreAction::kRead, path, error);
+  if (status.folder) Fail(StoreAction::kRead, path, EISDIR);
+  if (!status.regular)
     throw StoreFailure(StoreAction::kRead, StoreReason::kNotAFile, path.string(), "not a regular file");
 
   const auto too_large = [&] {
     return StoreFailure(StoreAction::kRead, StoreReason::kTooLarge, path.string(),
                         "larger than " + std::to_string(size_limit) + " bytes");
   };
-  if (static_cast<std::uintmax_t>(status.st_size) > size_limit) throw too_large();
+  if (status.size > size_limit) throw too_large();
 
   std::string bytes;
-  bytes.reserve(static_cast<std::size_t>(status.st_size));
+  bytes.reserve(static_cast<std::size_t>(status.size));
   std::array<char, 65536> buffer{};
   for (;;) {
-    const ssize_t got = ::read(file.Number(), buffer.data(), buffer.size());
-    if (got < 0) {
-      if (errno == EINTR) continue;
-      Fail(StoreAction::kRead, path, errno);
-    }
+    const std::ptrdiff_t got = file.Read(buffer.data(), buffer.size());
+    if (got < 0) Fail(StoreAction::kRead, path, static_cast<int>(-got));
     if (got == 0) return bytes;
     // The size is only what the file had when it was opened.
     if (bytes.size() + static_cast<std::size_t>(got) > size_limit) throw too_large();

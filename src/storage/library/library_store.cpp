@@ -2,7 +2,7 @@
 
 #include <algorithm>
 #include <system_error>
-#include <variant>
+#include <utility>
 
 #include <SQLiteCpp/Database.h>
 
@@ -31,11 +31,6 @@ std::vector<LibraryFile> FilesIn(const fs::path& folder) {
   std::ranges::sort(files, {},
                     [](const LibraryFile& file) { return std::pair(FoldCase(file.name), file.name); });
   return files;
-}
-
-std::string TextOf(const Cell& cell) {
-  const auto* text = std::get_if<std::string>(&cell);
-  return text == nullptr ? std::string() : *text;
 }
 
 }  // namespace
@@ -77,9 +72,10 @@ std::vector<LibraryFile> LibraryStore::Files(const LibraryFolder& folder) const 
 std::vector<ListedTest> LibraryStore::Tests(const LibraryFolder& folder, const fs::path& file) const {
   return ReadDatabase(session_->Readable(file), [&](SQLite::Database& database) {
     std::vector<ListedTest> tests;
-    const TableSchema columns = Only(folder.table, {"Nome", "Descrizione", "Parola chiave"});
-    for (const StoredRow& row : TableRows(database, columns).All()) {
-      tests.push_back({TextOf(row.cells[0]), TextOf(row.cells[1]), TextOf(row.cells[2])});
+    for (const StoredRow& row : TableRows(database, folder.table).All()) {
+      MeasuredTest test = TestFromCells(folder, row.cells);
+      const TestUses uses = UsesOf(test);
+      tests.push_back({std::move(test.name), std::move(test.description), std::move(test.keyword), uses});
     }
     return tests;
   });

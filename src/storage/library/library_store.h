@@ -8,6 +8,7 @@
 
 #include "storage/access/access_session.h"
 #include "storage/library/measured_test.h"
+#include "storage/library/rating_check.h"
 #include "storage/tables/schema.h"
 
 namespace velmar::storage {
@@ -23,6 +24,7 @@ struct ListedTest {
   std::string name{};
   std::string description{};
   std::string keyword{};
+  TestUses uses{};
 };
 
 /// The folder with the tree key `key` ("Rw", "Infissi", "Piccoli elementi", ...); nothing for an unknown one.

@@ -1,6 +1,7 @@
 #include "storage/library/measured_test.h"
 
 #include <string_view>
+#include <utility>
 #include <variant>
 
 namespace velmar::storage {
@@ -25,6 +26,26 @@ class Reader {
  private:
   const TableSchema& schema_;
   const std::vector<Cell>& cells_;
+};
+
+/// Fills cells by the name of their column; a column that the table lacks is passed over.
+class Writer {
+ public:
+  explicit Writer(const TableSchema& schema) : schema_(schema), cells_(schema.columns.size()) {}
+
+  void Number(std::string_view column, const std::optional<double>& value) {
+    const auto place = schema_.Find(column);
+    if (place && value) cells_.at(*place) = *value;
+  }
+  void Text(std::string_view column, const std::string& value) {
+    const auto place = schema_.Find(column);
+    if (place && !value.empty()) cells_.at(*place) = value;
+  }
+  std::vector<Cell> Cells() { return std::move(cells_); }
+
+ private:
+  const TableSchema& schema_;
+  std::vector<Cell> cells_;
 };
 
 bool AreDigits(std::string_view text) {
@@ -88,6 +109,39 @@ MeasuredTest TestFromCells(const LibraryFolder& folder, const std::vector<Cell>&
   test.uncertainty_db = reader.Number("Incertezza (dB)");
   test.source = reader.Text("Fonte");
   return test;
+}
+
+std::vector<Cell> CellsFromTest(const LibraryFolder& folder, const MeasuredTest& test) {
+  Writer writer(folder.table);
+  const std::array<std::string, 2> adaptation = AdaptationColumns(folder);
+  writer.Text("Nome", test.name);
+  writer.Text("Descrizione", test.description);
+  writer.Text("Parola chiave", test.keyword);
+  writer.Number(folder.rating, test.rating);
+  writer.Number(adaptation[0], test.adaptation);
+  writer.Number(adaptation[1], test.other_adaptation);
+  const std::vector<std::string> bands = BandColumns(folder.band_prefix);
+  for (std::size_t i = 0; i < bands.size(); ++i) writer.Number(bands[i], test.bands.at(i));
+  writer.Number("Area (m²)", test.area_m2);
+  writer.Number("m' (kg/m²)", test.mass_kg_m2);
+  writer.Number("s (mm)", test.field.thickness_mm);
+  writer.Number("Ve (m³)", test.field.source_volume_m3);
+  writer.Number("Vr (m³)", test.field.receiving_volume_m3);
+  writer.Text("Cantiere", test.field.site);
+  writer.Text("Certificato", test.certificate);
+  writer.Text("Data Prova", test.date);
+  writer.Text("Ente di prova", test.laboratory);
+  writer.Text("Società richiedente", test.client);
+  writer.Text("Informazione addizionale", test.notes);
+  writer.Text("Immagine", test.picture.empty() ? std::string(kNoTestPicture) : test.picture);
+  writer.Text("Indice", test.index_kind);
+  writer.Number("Valore indice (dB)", test.index_value);
+  writer.Text("Origine indice", test.rating_origin);
+  const std::vector<std::string> octaves = OctaveColumns(folder.band_prefix);
+  for (std::size_t i = 0; i < octaves.size(); ++i) writer.Number(octaves[i], test.octaves.at(i));
+  writer.Number("Incertezza (dB)", test.uncertainty_db);
+  writer.Text("Fonte", test.source);
+  return writer.Cells();
 }
 
 MeasuredCurve CurveOf(const LibraryFolder& folder, const MeasuredTest& test) {

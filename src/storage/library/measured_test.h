@@ -18,6 +18,8 @@ struct FieldData {
   std::optional<double> source_volume_m3{};     ///< "Ve (m³)"
   std::optional<double> receiving_volume_m3{};  ///< "Vr (m³)"
   std::string site{};                           ///< "Cantiere"
+
+  bool operator==(const FieldData&) const = default;
 };
 
 /// A measured structure of the library. Nothing stands for a null.
@@ -50,11 +52,21 @@ struct MeasuredTest {
 
   /// What proves the values: the certificate, or else the publication.
   const std::string& Proof() const { return certificate.empty() ? source : certificate; }
+
+  bool operator==(const MeasuredTest&) const = default;
 };
 
 /// The kinds of index that the column "Indice" names.
 inline constexpr std::array<std::string_view, 9> kIndexKinds = {"Rw",  "STC",    "Ln,w", "IIC",   "ΔRw",
                                                                 "ΔLw", "Dn,e,w", "ΔSTC", "Rw + C"};
+
+/// Where a rating came from, "Origine indice".
+inline constexpr std::string_view kDeclaredOrigin = "dichiarato";
+inline constexpr std::string_view kFromThirdsOrigin = "calcolato dalle bande";
+inline constexpr std::string_view kFromOctavesOrigin = "calcolato dalle bande d'ottava";
+
+/// The picture of a test that has none.
+inline constexpr std::string_view kNoTestPicture = "senza";
 
 /// What a measured test hands over to a facade (`CurvaSperimentale`).
 struct MeasuredCurve {
@@ -77,6 +89,10 @@ std::array<std::string, 2> AdaptationColumns(const LibraryFolder& folder);
 
 /// The test that `cells` hold, in the order of the folder's table.
 MeasuredTest TestFromCells(const LibraryFolder& folder, const std::vector<Cell>& cells);
+
+/// The row of `test`, in the order of the folder's table: TestFromCells() of it is `test` again. What is
+/// empty is null; "Immagine" is "senza" without a picture.
+std::vector<Cell> CellsFromTest(const LibraryFolder& folder, const MeasuredTest& test);
 
 MeasuredCurve CurveOf(const LibraryFolder& folder, const MeasuredTest& test);
 

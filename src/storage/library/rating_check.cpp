@@ -91,7 +91,10 @@ RatingCheck CheckRating(const LibraryFolder& folder, const MeasuredTest& test) {
 }
 
 TestUses UsesOf(const MeasuredTest& test) {
-  return {.facade_by_bands = RatedThirds(test).has_value(), .facade_by_rating = test.rating.has_value()};
+  const auto is_set = [](const std::optional<double>& value) { return value.has_value(); };
+  return {.facade_by_bands = RatedThirds(test).has_value(),
+          .facade_by_rating = test.rating.has_value(),
+          .comparison = std::ranges::any_of(test.bands, is_set) || std::ranges::any_of(test.octaves, is_set)};
 }
 
 }  // namespace velmar::storage

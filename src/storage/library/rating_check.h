@@ -31,6 +31,7 @@ RatingCheck CheckRating(const LibraryFolder& folder, const MeasuredTest& test);
 struct TestUses {
   bool facade_by_bands = false;   ///< every band from 100 Hz to 3150 Hz
   bool facade_by_rating = false;  ///< the rating that its folder's calculations read
+  bool comparison = false;        ///< any band, third octave or octave
 };
 
 TestUses UsesOf(const MeasuredTest& test);

@@ -38,45 +38,51 @@ void ReadSolid(LineCursor& lines, FibrousMaterial& slot) {
 
 }  // namespace
 
+void WriteCavityLayer(LineWriter& out, const Row& row) {
+  out.Blank();
+  WriteNames(out, row.slot, LineBreaks::kBlank);
+  out.Number(row.slot.thickness_mm);
+  out.Integer(HeldMultiplicity(row.multiplicity));
+  out.Number(row.slot.density_kg_m3);
+  out.Boolean(row.slot.porous);
+  if (row.slot.porous) {
+    out.Number(row.slot.flow_resistance_pa_s_m);
+  } else {
+    WriteSolid(out, row.slot);
+  }
+  out.Blank();
+}
+
+void ReadCavityLayer(PartInput& in, Row& row) {
+  in.lines.Blank();
+  row.slot = ReadNames(in.lines);
+  row.slot.thickness_mm = in.lines.Number();
+  row.multiplicity = in.lines.Integer(0, kMaxMultiplicity);
+  row.slot.density_kg_m3 = in.lines.Number();
+  row.slot.porous = in.lines.Boolean();
+  if (row.slot.porous) {
+    row.slot.flow_resistance_pa_s_m = in.lines.Number();
+  } else {
+    ReadSolid(in.lines, row.slot);
+  }
+  in.lines.Blank();
+  ShowSlot(row);
+}
+
 void WriteCavityLayers(LineWriter& out, const CavityLayers& layers) {
   const int count = HeldCount(layers.count, 1, CavityLayers::kCapacity);
   out.Integer(count - 1);
   for (int i = 0; i < count; ++i) {
-    const Row& row = layers.rows.at(static_cast<std::size_t>(i));
     WriteMaterialLabel(out, i + 1);
-    out.Blank();
-    WriteNames(out, row.slot, LineBreaks::kBlank);
-    out.Number(row.slot.thickness_mm);
-    out.Integer(HeldMultiplicity(row.multiplicity));
-    out.Number(row.slot.density_kg_m3);
-    out.Boolean(row.slot.porous);
-    if (row.slot.porous) {
-      out.Number(row.slot.flow_resistance_pa_s_m);
-    } else {
-      WriteSolid(out, row.slot);
-    }
-    out.Blank();
+    WriteCavityLayer(out, layers.rows.at(static_cast<std::size_t>(i)));
   }
 }
 
 void ReadCavityLayers(PartInput& in, CavityLayers& layers) {
   layers.count = in.lines.Integer(0, CavityLayers::kCapacity - 1) + 1;
   for (int i = 0; i < layers.count; ++i) {
-    Row& row = layers.rows.at(static_cast<std::size_t>(i));
     in.lines.Label(kMaterialLabel);
-    in.lines.Blank();
-    row.slot = ReadNames(in.lines);
-    row.slot.thickness_mm = in.lines.Number();
-    row.multiplicity = in.lines.Integer(0, kMaxMultiplicity);
-    row.slot.density_kg_m3 = in.lines.Number();
-    row.slot.porous = in.lines.Boolean();
-    if (row.slot.porous) {
-      row.slot.flow_resistance_pa_s_m = in.lines.Number();
-    } else {
-      ReadSolid(in.lines, row.slot);
-    }
-    in.lines.Blank();
-    ShowSlot(row);
+    ReadCavityLayer(in, layers.rows.at(static_cast<std::size_t>(i)));
   }
 }
 

@@ -6,6 +6,10 @@
 
 namespace velmar::storage {
 
+/// One layer of a cavity, behind its label.
+void WriteCavityLayer(LineWriter& out, const elements::LayerRow<elements::FibrousMaterial>& row);
+void ReadCavityLayer(PartInput& in, elements::LayerRow<elements::FibrousMaterial>& row);
+
 /// The layers of a cavity of "materiale generico": the count less one, then for each layer: label; blank;
 /// name; description; s; number of sheets (integer); density; porous (boolean); E, loss factor and Poisson's
 /// ratio when it is false, Rs when it is true; blank. A typed count above the seven rows there are is written

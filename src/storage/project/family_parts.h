@@ -40,4 +40,7 @@ void ReadLiningPart(PartInput& in, elements::Setup& setup);
 void WriteFacadePart(LineWriter& out, const elements::Setup& setup, const PartLayout& layout);
 void ReadFacadePart(PartInput& in, elements::Setup& setup);
 
+void WriteMultilayerPart(LineWriter& out, const elements::Setup& setup, const PartLayout& layout);
+void ReadMultilayerPart(PartInput& in, elements::Setup& setup);
+
 }  // namespace velmar::storage

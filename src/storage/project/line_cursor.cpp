@@ -19,7 +19,7 @@ constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 /// The first line of `rest`, without what ends it.
 std::string_view FirstLine(std::string_view rest) { return rest.substr(0, rest.find_first_of("\r\n")); }
 
-std::string Listed(std::initializer_list<std::string_view> words) {
+std::string Listed(std::span<const std::string_view> words) {
   std::string list;
   for (const std::string_view word : words) {
     list += list.empty() ? " " : ", ";
@@ -89,9 +89,9 @@ int LineCursor::Integer(int lowest, int highest, std::string& text) {
 
 bool LineCursor::Boolean() { return Choice({"Vero", "True", "Falso", "False"}) < 2; }
 
-int LineCursor::Choice(std::initializer_list<std::string_view> words) {
+int LineCursor::Choice(std::span<const std::string_view> words) {
   const std::string_view line = NextLine();
-  const auto* found = std::ranges::find_if(words, [line](auto word) { return SameWord(word, line); });
+  const auto found = std::ranges::find_if(words, [line](auto word) { return SameWord(word, line); });
   if (found == words.end())
     Fail({kOneOfExpectedRow, Listed(words)}, "one of these was expected:" + Listed(words));
   return static_cast<int>(found - words.begin());

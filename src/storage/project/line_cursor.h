@@ -1,6 +1,7 @@
 #pragma once
 
 #include <initializer_list>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -30,7 +31,10 @@ class LineCursor {
   /// "Vero" or "True", "Falso" or "False", in any case.
   bool Boolean();
   /// The place among `words` of the word that the line is, in any case.
-  int Choice(std::initializer_list<std::string_view> words);
+  int Choice(std::span<const std::string_view> words);
+  int Choice(std::initializer_list<std::string_view> words) {
+    return Choice(std::span(words.begin(), words.size()));
+  }
   /// An empty line.
   void Blank();
   /// A line that begins with `beginning`, in any case.

@@ -35,6 +35,8 @@ void ReadFamilyPart(PartInput& in, Setup& setup) {
       return ReadLiningPart(in, setup);
     case FamilyPart::kFacade:
       return ReadFacadePart(in, setup);
+    case FamilyPart::kMultilayer:
+      return ReadMultilayerPart(in, setup);
   }
 }
 

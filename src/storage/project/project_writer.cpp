@@ -29,6 +29,8 @@ void WriteFamilyPart(LineWriter& out, const Setup& setup, const PartLayout& layo
       return WriteLiningPart(out, setup, layout);
     case FamilyPart::kFacade:
       return WriteFacadePart(out, setup, layout);
+    case FamilyPart::kMultilayer:
+      return WriteMultilayerPart(out, setup, layout);
   }
 }
 

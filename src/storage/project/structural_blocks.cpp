@@ -72,34 +72,40 @@ int HeldCount(int count, int lowest, int highest) { return std::clamp(count, low
 
 int HeldMultiplicity(int multiplicity) { return std::clamp(multiplicity, 0, kMaxMultiplicity); }
 
+void WriteLeafLayer(LineWriter& out, const Row& row, LineBreaks breaks) {
+  out.Blank();
+  WriteNames(out, row.slot, breaks);
+  out.Number(row.slot.thickness_mm);
+  out.Integer(HeldMultiplicity(row.multiplicity));
+  for (const Field field : kLeafFields) out.Number(row.slot.*field);
+  out.Blank();
+}
+
+void ReadLeafLayer(PartInput& in, Row& row) {
+  in.lines.Blank();
+  row.slot = ReadNames(in.lines);
+  row.slot.thickness_mm = in.lines.Number();
+  row.multiplicity = in.lines.Integer(0, kMaxMultiplicity);
+  for (const Field field : kLeafFields) row.slot.*field = in.lines.Number();
+  in.lines.Blank();
+  Refresh(row.slot, in.materials, kRefreshedLeafFields);
+  ShowSlot(row);
+}
+
 void WriteLeaf(LineWriter& out, const LeafLayers& leaf, LineBreaks breaks) {
   const int count = HeldCount(leaf.count, 1, LeafLayers::kCapacity);
   out.Integer(count - 1);
   for (int i = 0; i < count; ++i) {
-    const Row& row = leaf.rows.at(static_cast<std::size_t>(i));
     WriteMaterialLabel(out, i + 1);
-    out.Blank();
-    WriteNames(out, row.slot, breaks);
-    out.Number(row.slot.thickness_mm);
-    out.Integer(HeldMultiplicity(row.multiplicity));
-    for (const Field field : kLeafFields) out.Number(row.slot.*field);
-    out.Blank();
+    WriteLeafLayer(out, leaf.rows.at(static_cast<std::size_t>(i)), breaks);
   }
 }
 
 void ReadLeaf(PartInput& in, LeafLayers& leaf) {
   leaf.count = in.lines.Integer(0, LeafLayers::kCapacity - 1) + 1;
   for (int i = 0; i < leaf.count; ++i) {
-    Row& row = leaf.rows.at(static_cast<std::size_t>(i));
     in.lines.Label(kMaterialLabel);
-    in.lines.Blank();
-    row.slot = ReadNames(in.lines);
-    row.slot.thickness_mm = in.lines.Number();
-    row.multiplicity = in.lines.Integer(0, kMaxMultiplicity);
-    for (const Field field : kLeafFields) row.slot.*field = in.lines.Number();
-    in.lines.Blank();
-    Refresh(row.slot, in.materials, kRefreshedLeafFields);
-    ShowSlot(row);
+    ReadLeafLayer(in, leaf.rows.at(static_cast<std::size_t>(i)));
   }
 }
 

@@ -28,6 +28,12 @@ void ShowSlot(elements::LayerRow<Material>& row) {
   row.thickness_text = FormatShortest(row.slot.thickness_mm);
 }
 
+/// One layer of a leaf, 17 lines: blank; name; description; s; number of sheets (integer); density; E; fc;
+/// loss factor; Poisson's ratio; m'; Lambda; C; Sigma_a; Sigma_u; R; blank.
+void WriteLeafLayer(LineWriter& out, const elements::LayerRow<elements::StructuralMaterial>& row,
+                    LineBreaks breaks);
+void ReadLeafLayer(PartInput& in, elements::LayerRow<elements::StructuralMaterial>& row);
+
 /// The layers of a leaf or a floor: the count less one, then for each layer 18 lines: label; blank; name;
 /// description; s; number of sheets (integer); density; E; fc; loss factor; Poisson's ratio; m'; Lambda; C;
 /// Sigma_a; Sigma_u; R; blank.

@@ -30,14 +30,18 @@ CopiedTable CopyOf(ResultTable table, const SavedResult& result) {
     centres.push_back(NumberField(acoustics::BandCentre(band)));
     values.push_back(BandField(result.bands.at(band)));
   }
-  return {{TextField({kNameHeadingRow}), TextField({result.name})},
-          {TextField({kDescriptionRow}), TextField({result.description})},
-          {TextField({kRatingHeadingRow, " [dB]"}), NumberField(result.rating)},
-          {TextField({kAreaHeadingRow, " [m²]"}), NumberField(result.area_m2)},
-          centres,
-          values,
-          {TextField({impact ? "Ci [dB]" : "C [dB]"}), TextField({impact ? "C50_5000 [dB]" : "Ctr [dB]"})},
-          {NumberField(result.adaptation), NumberField(result.other_adaptation)}};
+  CopiedTable copy = {
+      {TextField({kNameHeadingRow}), TextField({result.name})},
+      {TextField({kDescriptionRow}), TextField({result.description})},
+      {TextField({kRatingHeadingRow, " [dB]"}), NumberField(result.rating)},
+      {TextField({kAreaHeadingRow, " [m²]"}), NumberField(result.area_m2)},
+      centres,
+      values,
+      {TextField({impact ? "Ci [dB]" : "C [dB]"}), TextField({impact ? "C50_5000 [dB]" : "Ctr [dB]"})},
+      {NumberField(result.adaptation), NumberField(result.other_adaptation)}};
+  if (!result.messages.empty())
+    copy.push_back({TextField({kStoredMessagesRow}), TextField({result.messages})});
+  return copy;
 }
 
 }  // namespace velmar::storage

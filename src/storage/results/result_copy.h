@@ -25,8 +25,8 @@ CopiedField NumberField(const std::optional<double>& value);
 using CopiedTable = std::vector<std::vector<CopiedField>>;
 
 /// What "Copia" gives of a stored result: name, description, rating and area with their headings, the 21
-/// bands under theirs, and the adaptation terms. Numbers have a decimal comma; bands
-/// are written with one decimal; a null is empty.
+/// bands under theirs, and the adaptation terms; last what its run told, where it told anything. Numbers have
+/// a decimal comma; bands are written with one decimal; a null is empty.
 CopiedTable CopyOf(ResultTable table, const SavedResult& result);
 
 }  // namespace velmar::storage

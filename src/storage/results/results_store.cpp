@@ -16,6 +16,11 @@ std::string TextOf(const Cell& cell) {
   return text == nullptr ? std::string() : *text;
 }
 
+std::optional<double> NumberOf(const Cell& cell) {
+  const auto* number = std::get_if<double>(&cell);
+  return number == nullptr ? std::nullopt : std::optional(*number);
+}
+
 /// Makes sure that `table` can hold what a run told.
 void AddMessagesColumn(SQLite::Database& database, const TableSchema& schema) {
   if (TableRows(database, schema).Has(kMessagesColumn)) return;
@@ -28,8 +33,9 @@ void AddMessagesColumn(SQLite::Database& database, const TableSchema& schema) {
 std::vector<ListedResult> ResultsStore::List(ResultTable table) const {
   return ReadDatabase(file_, [table](SQLite::Database& database) {
     std::vector<ListedResult> results;
-    for (const StoredRow& row : TableRows(database, Only(SchemaOf(table), {"Nome", "Descrizione"})).All()) {
-      results.push_back({TextOf(row.cells[0]), TextOf(row.cells[1])});
+    const TableSchema listed = Only(SchemaOf(table), {"Nome", "Descrizione", RatingColumn(table)});
+    for (const StoredRow& row : TableRows(database, listed).All()) {
+      results.push_back({TextOf(row.cells[0]), TextOf(row.cells[1]), NumberOf(row.cells[2])});
     }
     return results;
   });

@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "foundation/message.h"
-#include "foundation/message_rows.h"
+#include "foundation/catalogue_rows.h"
 #include "storage/results/saved_result.h"
 
 namespace velmar::storage {
@@ -23,6 +23,7 @@ enum class SaveStatus {
 struct ListedResult {
   std::string name{};
   std::string description{};
+  std::optional<double> rating{};  ///< as SavedResult::rating, dB
 };
 
 /// The results database. Every operation opens the file, works and closes it; a change is one transaction.
@@ -31,7 +32,7 @@ class ResultsStore {
  public:
   explicit ResultsStore(std::filesystem::path file) : file_(std::move(file)) {}
 
-  /// Name and description of every row, in the order of insertion.
+  /// Name, description and rating of every row, in the order of insertion.
   std::vector<ListedResult> List(ResultTable table) const;
 
   /// The row called `name`, case ignored.

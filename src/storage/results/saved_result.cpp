@@ -75,6 +75,8 @@ std::string CutFacadeDescription(const std::string& description) {
   return FirstCharacters(description, kDescriptionLength - dots.size()) + dots;
 }
 
+std::string_view RatingColumn(ResultTable table) { return ColumnsOf(table).rating; }
+
 TableSchema SchemaOf(ResultTable table) {
   TableSchema schema = ShippedSchema(table);
   schema.columns.push_back({kMessagesColumn, ColumnType::kText});

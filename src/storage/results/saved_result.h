@@ -52,6 +52,9 @@ std::string CutFacadeDescription(const std::string& description);
 /// The column of what the run told. Databases of earlier versions have none until a result brings something.
 inline constexpr const char* kMessagesColumn = "Messaggi";
 
+/// The column of SavedResult::rating in `table`.
+std::string_view RatingColumn(ResultTable table);
+
 /// The schema of `table`, kMessagesColumn included.
 TableSchema SchemaOf(ResultTable table);
 

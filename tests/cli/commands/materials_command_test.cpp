@@ -61,6 +61,52 @@ TEST_F(MaterialsCommandTest, ShowsAMaterialWithItsNulls) {
   EXPECT_EQ(Say({"show", "Adamantio"}).code, 3);
 }
 
+TEST_F(MaterialsCommandTest, ImpossibleValuesAreRefusedWithTheField) {
+  const Said said = Say({"edit", "Mattone pieno", "--family", "structural", "Densità (kg/m³)=-1800"});
+  EXPECT_EQ(said.code, 3);
+  EXPECT_NE(said.errors.find("row 2500"), std::string::npos) << said.errors;
+  EXPECT_NE(said.errors.find("row 350: -1800"), std::string::npos) << said.errors;
+  EXPECT_EQ(
+      Say({"edit", "Mattone pieno", "--family", "structural", "--force", "Rapporto di Poisson=0,6"}).code, 3)
+      << "no force makes it possible";
+  EXPECT_EQ(Say({"show", "Mattone pieno", "--json"}).Json()["Densità (kg/m³)"], 1800);
+}
+
+TEST_F(MaterialsCommandTest, ImprobableValuesNeedForce) {
+  const std::vector<std::string> edit = {"edit", "Mattone pieno", "--family", "structural",
+                                         "Modulo di Young E (GPa)=12600"};
+  const Said said = Say(edit);
+  EXPECT_EQ(said.code, 3);
+  EXPECT_NE(said.errors.find("row 2501"), std::string::npos) << said.errors;
+  EXPECT_NE(said.errors.find("row 2503"), std::string::npos) << said.errors;
+  EXPECT_EQ(Say({"show", "Mattone pieno", "--json"}).Json()["Modulo di Young E (GPa)"], 12.6);
+  std::vector<std::string> forced = edit;
+  forced.push_back("--force");
+  EXPECT_EQ(Say(forced).code, 0);
+  EXPECT_EQ(Say({"show", "Mattone pieno", "--json"}).Json()["Modulo di Young E (GPa)"], 12600);
+}
+
+TEST_F(MaterialsCommandTest, MassFrequencyAndSourceFollowAnEdit) {
+  EXPECT_EQ(Say({"edit", "Mattone pieno", "--family", "structural", "s (mm)=240"}).code, 0);
+  auto brick = Say({"show", "Mattone pieno", "--json"}).Json();
+  EXPECT_EQ(brick["m' (kg/m²)"], 432);
+  EXPECT_EQ(brick["Frequenza di coincidenza fc (Hz)"], 104.75);
+  EXPECT_EQ(brick["Fonte"], "valore utente");
+  const std::string source = Say({"show", "Piombo", "--json"}).Json()["Fonte"];
+  EXPECT_EQ(Say({"edit", "Piombo", "--family", "structural", "Parola chiave=fuori elenco"}).code, 0);
+  EXPECT_EQ(Say({"show", "Piombo", "--json"}).Json()["Fonte"], source) << "no number changed";
+  EXPECT_EQ(Say({"edit", "Piombo", "--family", "structural", "Densità (kg/m³)=11300", "Fonte=scheda"}).code,
+            0);
+  EXPECT_EQ(Say({"show", "Piombo", "--json"}).Json()["Fonte"], "scheda");
+}
+
+TEST_F(MaterialsCommandTest, APictureSurvivesAnEdit) {
+  const char* mat = "EPS 50 mm";
+  EXPECT_EQ(Say({"edit", mat, "--family", "resilient", "Immagine=eps.jpg"}).code, 0);
+  EXPECT_EQ(Say({"edit", mat, "--family", "resilient", "Densità (kg/m³)=15"}).code, 0);
+  EXPECT_EQ(Say({"show", mat, "--json"}).Json()["Immagine"], "eps.jpg");
+}
+
 TEST_F(MaterialsCommandTest, AddsChangesAndDeletes) {
   EXPECT_EQ(AddBrick("Laterizio \"di prova\"").code, 0);
   auto brick = Say({"show", "Laterizio \"di prova\"", "--json"}).Json();

@@ -74,7 +74,7 @@ std::map<std::string, std::string> BandRows(const std::string& text) {
   }
   for (std::string level, reference; std::getline(lines, level) && std::getline(lines, reference);) {
     rows.emplace(frequency, level);
-    if (!std::getline(lines, frequency)) break;
+    if (!std::getline(lines, frequency) || frequency.empty()) break;
   }
   return rows;
 }
@@ -171,7 +171,7 @@ TEST_P(EveryCalculation, ExcelReportIsSoundAndTellsEveryNumberUnrounded) {
 INSTANTIATE_TEST_SUITE_P(Families, EveryCalculation,
                          testing::Values(Family::kSingle, Family::kDouble, Family::kSharp, Family::kSeaSingle,
                                          Family::kSea, Family::kImpact, Family::kFacade, Family::kLining,
-                                         Family::kCeiling));
+                                         Family::kCeiling, Family::kMultilayer));
 
 TEST(EveryCalculationHas, AnExample) {
   std::set<elements::Calculation> met;

@@ -261,7 +261,7 @@ TEST(RelationRange, TellsTheValueAndTheEndsThatItLeft) {
   in.mass_kg_m2 = 79.5;
   const auto brick = FirstRangeLeft(kBrick, in);
   ASSERT_TRUE(brick);
-  EXPECT_EQ(*brick, (acoustics::RangeLeft{MessageRow{195}, 79.5, 80.0, 400.0, "kg/m²"}));
+  EXPECT_EQ(*brick, (acoustics::RangeLeft{MessageRow{195}, 79.5, 80.0, 400.0, "kg/m²", MessageRow{3300}}));
   in = Inside(kDoubleConcrete);
   in.cavity_kind = CavityKind::kFibrous;
   EXPECT_EQ(FirstRangeLeft(kDoubleConcrete, in)->unit, "");

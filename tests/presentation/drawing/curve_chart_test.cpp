@@ -71,6 +71,32 @@ TEST(DrawCurveChart, DrawsOverlaysOnlyWhereAsked) {
   EXPECT_EQ(picture.Count(kInSituColour), 0);
 }
 
+TEST(DrawCurveChart, DrawsOctavesAsStepsOverTheirThirds) {
+  CurveChart chart;
+  chart.octaves.emplace();
+  for (std::size_t band = 3; band < 9; ++band) chart.octaves->at(band) = band < 6 ? 30.0 : 40.0;
+  const Picture picture = Drawn(chart);
+  for (const double place : {2.6, 3.0, 4.0, 5.4})  // level from edge to edge of the octave of 125 Hz
+    EXPECT_EQ(
+        picture.At(PointOf(chart, 0, 30.0) + (PointOf(chart, 1, 30.0) - PointOf(chart, 0, 30.0)) * place),
+        kOctavesColour)
+        << place;
+  const QPointF edge = (PointOf(chart, 5, 35.0) + PointOf(chart, 6, 35.0)) / 2.0;
+  EXPECT_EQ(picture.At(edge), kOctavesColour) << "the step between two octaves";
+  EXPECT_NE(picture.At(PointOf(chart, 4, 30.0) + QPointF(0.0, 2.0)), kOctavesColour) << "no dots";
+  EXPECT_NE(picture.At(PointOf(chart, 10, 40.0)), kOctavesColour) << "no value, no line";
+}
+
+TEST(DrawCurveChart, DrawsOctavesOfWhatIsComparedAsStepsToo) {
+  CurveChart chart;
+  chart.laboratory.emplace();
+  chart.laboratory->fill(40.0);
+  chart.laboratory_in_octaves = true;
+  const Picture picture = Drawn(chart);
+  EXPECT_EQ(picture.At(PointOf(chart, 4, 40.0)), kLaboratoryColour);
+  EXPECT_NE(picture.At(PointOf(chart, 4, 40.0) + QPointF(0.0, 2.0)), kLaboratoryColour);
+}
+
 TEST(DrawCurveChart, KeepsALiningBetweenItsBands) {
   CurveChart chart = FlatChart();
   chart.first_band = 3;

@@ -24,10 +24,11 @@ const QSizeF kPortrait(8.27, 11.69);
 const QSizeF kLandscape(11.69, 8.27);
 
 /// `page` on paper of `paper` inches.
-std::unique_ptr<RecordingDevice> Printed(const PaginaDiStampa& page, const QSizeF& paper = kPortrait) {
+std::unique_ptr<RecordingDevice> Printed(const PaginaDiStampa& page, const QSizeF& paper = kPortrait,
+                                         int index = 0) {
   auto device = std::make_unique<RecordingDevice>((paper * kDotsPerInch).toSize());
   QPainter painter(device.get());
-  ComponiPagina(painter, kDotsPerInch, paper, page);
+  ComponiPagina(painter, kDotsPerInch, paper, page, index);
   return device;
 }
 
@@ -113,14 +114,48 @@ TEST(PaginaDi, OfAGenericLiningHasNeitherChartNorBands) {
 
 TEST(PaginaDi, OfAFacadeListsItsPartsWithShareAndClass) {
   const PaginaDiStampa page = PageOf(samples::FacadeOfNine());
-  EXPECT_THAT(page.elements.heads, ElementsAre("Elemento", "Rw (dB)", "Area (m²)", "% Area", "Note"));
+  EXPECT_THAT(page.elements.heads, ElementsAre("Elemento", "Rw; Dn,e,w (dB)", "Area (m²)", "Area (%)", "Note"));
   ASSERT_EQ(page.elements.rows.size(), 10U);
   EXPECT_TRUE(page.elements.rows[0][0].starts_with("parte opaca"));
   EXPECT_THAT(std::vector(page.elements.rows[2].begin() + 1, page.elements.rows[2].end()),
               ElementsAre("39", "1,55", "3,2%", "Classe 1"));
-  EXPECT_THAT(page.elements.rows[9], ElementsAre("infisso: Bocchetta di ventilazione", "46", "-", "-", ""));
+  EXPECT_THAT(page.elements.rows[9], ElementsAre("infisso: Bocchetta di ventilazione", "Dn,e,w 46", "-", "-", ""));
   EXPECT_TRUE(page.structure.empty());
   EXPECT_TRUE(page.section.strips.empty());
+}
+
+TEST(PaginaDi, OfAFacadeWithoutSmallElementsRatesAllPartsByRw) {
+  elements::Setup setup = samples::FacadeOfNine();
+  setup.facade.components[8].area_text = "0,5";
+  const PaginaDiStampa page = PageOf(setup);
+  EXPECT_EQ(page.elements.heads.at(1), "Rw (dB)");
+  EXPECT_EQ(page.elements.rows[9].at(1), "46");
+}
+
+TEST(PaginaDi, OfAFloorNamesTheImprovementByItsCovering) {
+  elements::ResultSet result = ImpactResult();
+  result.delta_lnw = 21.34;
+  elements::Setup setup = samples::FloatingFloor();
+  setup.calculation = Calculation::kImpactFloatingFloor;
+  EXPECT_THAT(PageOf(setup, result).results, ElementsAre("Lnw(Ci)= 58,0 (1) dB", "DLw= 21,3 dB"));
+}
+
+TEST(PaginaDi, PrintsWhatBelongsBesideTheResultInFull) {
+  elements::ResultSet result = samples::Result();
+  result.ranges_left = {{MessageRow{195}, 504, 80, 400, "kg/m²", MessageRow{3300}}};
+  elements::Setup setup = samples::PlasteredBrickWall();
+  setup.calculation = Calculation::kSingleWallBrick;
+  const PaginaDiStampa page =
+      PaginaDi(setup, {373.0, 720.3}, &result, CatalogueWords(), std::nullopt,
+               {{std::string("Rw 52 dB, nessuna stima")}, {std::string("Il risultato sta fuori")}});
+  EXPECT_EQ(page.results_note,
+            "Fuori dal campo di validità della relazione [1]: m' = 504 kg/m² (da 80 a 400). Calcolo "
+            "proseguito per scelta dell'utente.\nRw 52 dB, nessuna stima\nIl risultato sta fuori");
+  for (const QSizeF& paper : {kPortrait, kLandscape}) {
+    const auto printed = Printed(page, paper);
+    EXPECT_TRUE(printed->Says("Rw 52 dB, nessuna stima"));
+    EXPECT_TRUE(printed->Says("Il risultato sta fuori"));
+  }
 }
 
 TEST(PaginaDi, OfTheFloorsInHollowBrickAddsTheirLines) {
@@ -215,20 +250,46 @@ TEST_P(PrintTest, StaysWithinTheFrameAndLegible) {
   }
 }
 
-TEST_P(PrintTest, LeavesNoLayerOut) {
-  const PaginaDiStampa page = PageOf(GetParam().setup);
-  const auto device = Printed(page, GetParam().paper);
+/// The texts of all pages, a line each.
+QString AllText(const PaginaDiStampa& page, const QSizeF& paper) {
   QString all;
-  for (const RecordedText& text : device->Texts()) all += text.text + '\n';
-  std::size_t amounts = 0;
-  for (const StructureBlock& block : page.structure) {
-    for (const StructureLine& line : block.lines) {
-      if (!line.amount.empty()) ++amounts;
-    }
+  for (int index = 0; index < PageCountOf(paper, page); ++index) {
+    const auto device = Printed(page, paper, index);
+    for (const RecordedText& text : device->Texts()) all += text.text + '\n';
   }
-  EXPECT_EQ(static_cast<std::size_t>(all.count("mm\n") + all.count("mm X ")),
-            amounts + static_cast<std::size_t>(all.count("Sp. ")));
-  for (const auto& row : page.elements.rows) EXPECT_TRUE(all.contains(QString::fromStdString(row[1])));
+  return all;
+}
+
+TEST_P(PrintTest, LeavesNothingOutAndCutsNothing) {
+  const PaginaDiStampa page = PageOf(GetParam().setup);
+  const QString all = AllText(page, GetParam().paper).simplified();
+  EXPECT_FALSE(all.contains(QChar(0x2026)));
+  const auto expect_told = [&](const std::string& text) {
+    EXPECT_TRUE(all.contains(QString::fromStdString(text).simplified())) << text;
+  };
+  for (const StructureBlock& block : page.structure) {
+    for (const StructureLine& line : block.lines) expect_told(line.amount);
+  }
+  for (const auto& row : page.elements.rows) expect_told(row[1]);
+  for (const DataField& field : page.data.fields) expect_told(field.value);
+  for (const DataTable& table : page.data.tables) {
+    for (const auto& row : table.rows) expect_told(row.back());
+  }
+}
+
+TEST_P(PrintTest, KeepsItsFurtherPagesWithinTheFrameToo) {
+  const PaginaDiStampa page = PageOf(GetParam().setup);
+  const QSizeF& paper = GetParam().paper;
+  const QRectF frame =
+      QRectF(QPointF(), paper * kDotsPerInch)
+          .adjusted(0.29 * kDotsPerInch, 0.29 * kDotsPerInch, -0.29 * kDotsPerInch, -0.29 * kDotsPerInch);
+  const int count = PageCountOf(paper, page);
+  EXPECT_GT(count, 1);
+  for (int index = 0; index < count; ++index) {
+    const auto device = Printed(page, paper, index);
+    EXPECT_TRUE(frame.contains(device->Extent())) << "page " << index + 1;
+    EXPECT_TRUE(device->Says("pagina " + QString::number(index + 1) + " di " + QString::number(count)));
+  }
 }
 
 TEST_P(PrintTest, LaysNoTextOverAnother) {

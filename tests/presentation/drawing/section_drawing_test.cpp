@@ -57,17 +57,33 @@ TEST(SectionLayout, PointsEveryNumberAtItsStrip) {
   }
 }
 
-TEST(SectionLayout, LeavesNumbersOutRatherThanShrinkingThemTooFar) {
-  const Section floor = Horizontal(SectionOf(samples::ManyThinLayers(10)));
-  const SectionLayout layout =
-      LayoutOf(QRectF(0, 0, 300, 150), floor, QFont(), {.list_names = false, .smallest_number_px = 9.0});
-  EXPECT_GE(layout.label_px, 9.0);
-  ASSERT_GT(layout.labels.size(), 3U);
-  const int step = layout.labels[1].number - layout.labels[0].number;
-  EXPECT_GT(step, 1);
-  for (std::size_t i = 1; i < layout.labels.size(); ++i) {
-    EXPECT_EQ(layout.labels[i].number - layout.labels[i - 1].number, step);
+TEST(SectionLayout, LeavesNoNumberOutWhereRoomIsScarce) {
+  const Section wall = SectionOf(samples::ManyThinLayers(10));
+  for (const Section& section : {wall, Horizontal(wall)}) {
+    for (const QSizeF& size : {QSizeF(300, 150), QSizeF(200, 300), QSizeF(215, 210), QSizeF(400, 120)}) {
+      const SectionLayout layout = LayoutOf(QRectF(QPointF(), size), section, QFont(),
+                                            {.list_names = false, .smallest_number_px = 9.0});
+      ASSERT_EQ(layout.labels.size(), 20U);
+      for (std::size_t i = 0; i < layout.labels.size(); ++i) {
+        const QRectF inner = layout.labels[i].box.adjusted(0.01, 0.01, -0.01, -0.01);
+        for (std::size_t j = 0; j < i; ++j)
+          EXPECT_FALSE(inner.intersects(layout.labels[j].box)) << i << " and " << j << ", " << size.width();
+      }
+      EXPECT_GT(layout.body.width(), 0.0);
+      EXPECT_GT(layout.body.height(), 0.0);
+    }
   }
+}
+
+TEST(SectionLayout, OnPaperTellsTheThicknessOfEachLayerAndOfAir) {
+  const Section section = SectionOf(samples::PlasterboardDoubleWall());
+  const SectionLayout layout = LayoutOf(QRectF(0, 0, 600, 200), section, QFont(), {.paper = true});
+  std::vector<double> told;
+  for (const SectionDimension& dimension : layout.dimensions) told.push_back(dimension.thickness_mm);
+  EXPECT_EQ(told, (std::vector<double>{25.0, 60.0, 40.0, 12.5, 12.5}));
+  ASSERT_EQ(layout.list.size(), 3U);
+  EXPECT_EQ(layout.list[0].text, "Cartongesso standard, 2 x 12,5 mm");
+  EXPECT_TRUE(LayoutOf(QRectF(0, 0, 600, 200), section, QFont(), {}).dimensions.empty());
 }
 
 TEST(SectionLayout, IsToScale) {

@@ -29,13 +29,14 @@ std::string Titled(const std::string& text) {
   return spelled + ")";
 }
 
-TEST(PagePdf, IsOneA4PageOfVectorsWithItsTitle) {
+TEST(PagePdf, IsA4PagesOfVectorsWithItsTitle) {
   for (const elements::Setup& setup :
        {samples::PlasteredBrickWall(), samples::FacadeOfNine(), samples::FloatingFloor()}) {
     const std::string pdf = Pdf(setup, "Parete è 1");
     EXPECT_TRUE(pdf.starts_with("%PDF-"));
     EXPECT_TRUE(pdf.ends_with("%%EOF\n"));
-    EXPECT_THAT(pdf, HasSubstr("/Count 1\n"));
+    // The result first, the inputs behind it.
+    EXPECT_THAT(pdf, HasSubstr("/Count 2\n"));
     EXPECT_THAT(pdf, HasSubstr("/MediaBox [0 0 595"));
     EXPECT_THAT(pdf, Not(HasSubstr("/Subtype /Image")));
     EXPECT_THAT(pdf, HasSubstr(Titled("Parete è 1")));

@@ -137,7 +137,28 @@ ReportRecord RecordOf(const ReportCase& report_case) {
                     .height_emu = 3000000,
                     .alternative_text = ChartDescription(report_case.setup, report_case.result, words)};
   }
-  return ReportRecordOf(report_case.setup, report_case.result, report_case.totals, words, chart);
+  ReportPictures pictures{.chart = std::move(chart)};
+  if (report_case.setup.calculation != elements::Calculation::kCompositeElement) {
+    pictures.section.wide =
+        Picture{.png = "\x89PNG wide",
+                .svg = "<svg xmlns=\"http://www.w3.org/2000/svg\"/>",
+                .width_emu = 6084000,
+                .height_emu = 1728000,
+                .alternative_text = SectionDescription(report_case.totals.thickness_mm, words)};
+    // Twenty layers find no room beside their table.
+    if (report_case.name != "ManyLayers") {
+      pictures.section.small = pictures.section.wide;
+      pictures.section.small->width_emu = 2052000;
+      pictures.section.small->height_emu = 2016000;
+    }
+  }
+  Provenance provenance{.program = "VELMARpro 2.1.0",
+                        .date = "22/11/2026",
+                        .project_file = report_case.name + ".drav",
+                        .fingerprint = std::string(64, 'a')};
+  provenance.sources.structural = [](const auto& one) { return "Hopkins 2007, " + one.name; };
+  return ReportRecordOf(report_case.setup, report_case.result, report_case.totals, words, std::move(pictures),
+                        {}, provenance);
 }
 
 }  // namespace velmar::presentation

@@ -50,12 +50,15 @@ TEST(ResultLine, LeavesOutWhatWasNotCalculated) {
   EXPECT_EQ(ResultLine(Family::kLining, lining), "Rw= 60,0 dB");
 }
 
-TEST(ImprovementLine, StandsForLiningsAlone) {
+TEST(ImprovementLine, StandsForLiningsAndFloors) {
   elements::ResultSet result;
   EXPECT_EQ(ImprovementLine(Family::kCeiling, result), "");
   result.delta_rw = 12.0;
   EXPECT_EQ(ImprovementLine(Family::kCeiling, result), "DRw= 12 dB");
   EXPECT_EQ(ImprovementLine(Family::kDouble, result), "");
+  EXPECT_EQ(ImprovementLine(Family::kImpact, result), "");
+  result.delta_lnw = 21.34;
+  EXPECT_EQ(ImprovementLine(Family::kImpact, result), "DLw= 21,3 dB");
 }
 
 TEST(FormatTerm, IsWholeAndNeverMinusZero) {

@@ -37,6 +37,12 @@ TEST(ResultsCsv, AddsTheNumbersThatTheTableHasNot) {
             ResultsCsv(SmallTable()) + "Rw (0,1) [dB];44,3;\r\nSTC;45;\r\n");
 }
 
+TEST(ResultsCsv, EndsWithTheNotesOfTheResult) {
+  const std::vector<std::string> notes = {"Fuori campo", "Rw 44 dB; nessuna stima"};
+  EXPECT_EQ(ResultsCsv(SmallTable(), {}, notes),
+            ResultsCsv(SmallTable()) + "Fuori campo;;\r\n\"Rw 44 dB; nessuna stima\";;\r\n");
+}
+
 TEST(ResultsCsv, QuotesWhatWouldPartACell) {
   ResultsTable table = SmallTable();
   table.value_heading = "R; \"i\"";

@@ -34,8 +34,32 @@ class CommandsTest : public QObject {
     WindowFixture fixture;
     fixture.Find<QAction>("tutorial")->trigger();
     QCOMPARE(fixture.told.size(), 1);
-    fixture.Find<QAction>("ges_database")->trigger();
-    QCOMPARE(fixture.told.size(), 2);
+  }
+
+  void whatLeadsNowhereIsNotOffered() {
+    const QTemporaryDir folder;
+    WindowFixture fixture;
+    for (const char* name : {"Contatta_m", "ges_database"})
+      QVERIFY(!fixture.Find<QAction>(name)->isVisible());
+    QFile program(folder.filePath("gestione"));
+    QVERIFY(program.open(QIODevice::WriteOnly));
+    fixture.services.places.maintenance_program = program.fileName().toStdString();
+    fixture.services.places.contact = "mailto:assistenza@example.com";
+    QStringList opened;
+    fixture.services.open_address = [&](const QString& address) {
+      opened += address;
+      return true;
+    };
+    fixture.services.start_program = [&](const std::filesystem::path& started) {
+      opened += QString::fromStdString(started.string());
+      return true;
+    };
+    fixture.MakeWindow();
+    for (const char* name : {"Contatta_m", "ges_database"}) {
+      QVERIFY(fixture.Find<QAction>(name)->isVisible());
+      fixture.Find<QAction>(name)->trigger();
+    }
+    QCOMPARE(opened, QStringList({"mailto:assistenza@example.com", program.fileName()}));
   }
 
   void theManualIsHandedToTheSystem() {
@@ -59,7 +83,7 @@ class CommandsTest : public QObject {
     QVERIFY(fixture.told.join(' ').contains(manual));
   }
 
-  void theKindButtonsBeginWithTheirFirstCalculation() {
+  void theKindButtonsAllowToSave() {
     WindowFixture fixture;
     for (int button = 17; button <= 22; ++button) {
       fixture.Find<QAction>("Button_" + QString::number(button))->trigger();
@@ -100,8 +124,10 @@ class CommandsTest : public QObject {
 
   void everyMenuEntryIsThere() {
     const WindowFixture fixture;
-    for (const char* name : {"Apri_Progetto",
+    for (const char* name : {"nuovo_progetto",
+                             "Apri_Progetto",
                              "Salva_Progetto",
+                             "salva_con_nome",
                              "Salva",
                              "mnuFileEsportaWord",
                              "esp_excel",

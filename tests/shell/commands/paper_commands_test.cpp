@@ -22,7 +22,7 @@ namespace {
 
 const QSizeF kPaper(8.27, 11.69);
 constexpr double kDotsPerInch = 150.0;
-constexpr const char* kCannotPrint = "Impossibile stampare dalla stampante selezionata";
+constexpr const char* kCannotPrint = "Impossibile stampare con la stampante selezionata.";
 
 struct Drawn {
   QStringList texts{};
@@ -51,24 +51,24 @@ struct Program {
   }
 
   printing::PrintingBoxes Boxes() {
-    return {.ask_to_print =
-                [this](QWidget*, QPrinter& printer) {
-                  ++print_questions;
-                  printer.setOutputFormat(QPrinter::PdfFormat);
-                  printer.setOutputFileName(print_file);
-                  return !print_file.isEmpty();
-                },
-            .choose_pdf =
-                [this](QWidget*, const QString&) {
-                  return std::optional<std::filesystem::path>(pdf.toStdString());
-                },
-            .choose_printer =
-                [this](QWidget*, const printing::PrinterChoice& choice) {
-                  ++printer_questions;
-                  if (!choice.select("Plotter")) choice.tell_failure(kCannotPrint);
-                },
-            .tell_done = [this](QWidget*, const QString& text) { told << text; },
-            .tell_failure = [this](QWidget*, const QString& text) { told << text; }};
+    return {
+        .ask_to_print =
+            [this](QWidget*, QPrinter& printer) {
+              ++print_questions;
+              printer.setOutputFormat(QPrinter::PdfFormat);
+              printer.setOutputFileName(print_file);
+              return !print_file.isEmpty();
+            },
+        .choose_pdf = [this](
+                          QWidget*,
+                          const QString&) { return std::optional<std::filesystem::path>(pdf.toStdString()); },
+        .choose_printer =
+            [this](QWidget*, const printing::PrinterChoice& choice) {
+              ++printer_questions;
+              if (!choice.select("Plotter")) choice.tell_failure(kCannotPrint);
+            },
+        .tell_written = [this](QWidget*, const QString& text, const std::filesystem::path&) { told << text; },
+        .tell_failure = [this](QWidget*, const QString& text) { told << text; }};
   }
 
   presentation::PaginaDiStampa Page() const {
@@ -122,16 +122,6 @@ class PaperCommandsTest : public QObject {
     QVERIFY(page.texts.size() > 20);
     QCOMPARE(DrawnOf(program.Page()).texts, page.texts);
     QVERIFY(DrawnOf(program.Page()) == page);
-  }
-
-  void thePdfIsOfferedBesideTheProject() {
-    const Program program;
-    const auto document = [&](const std::filesystem::path& project) {
-      return DocumentOf(program.fixture.open, program.fixture.services.words, std::nullopt, project);
-    };
-    QCOMPARE(document(program.fixture.window->windowFilePath().toStdString()).pdf_start,
-             QString(EXAMPLES) + "/parete-forato-intonacata.pdf");
-    QVERIFY(document({}).pdf_start.isEmpty());
   }
 
   void thePageKeepsTheScaleOfTheScreen() {

@@ -187,6 +187,38 @@ class ReportCommandsTest : public QObject {
                           QString(EXAMPLES) + "/parete-forato-intonacata.xlsx Excel (*.xlsx)"}));
   }
 
+  void theDocumentOfAnExampleIsOfferedInTheDocuments() {
+    Program program;
+    QVERIFY(QDir(program.folder.path()).mkdir("Documenti"));
+    program.fixture.services.places.examples = EXAMPLES;
+    program.fixture.services.places.documents = program.folder.filePath("Documenti").toStdString();
+    program.fixture.file.clear();
+    program.fixture.Find<QAction>(kWord.action)->trigger();
+    QCOMPARE(program.fixture.to_save.back().start,
+             program.folder.filePath("Documenti/parete-forato-intonacata.docx"));
+  }
+
+  void itIsToldWhereTheReportIsAndTheFolderIsOfferedAgain() {
+    Program program;
+    QVERIFY(QDir(program.folder.path()).mkpath("lavori/relazioni"));
+    const QString project = program.folder.filePath("lavori/parete.drav");
+    program.fixture.file = project;
+    program.fixture.Find<QAction>("salva_con_nome")->trigger();
+    const QString report = program.Export(kWord, "lavori/relazioni/prima.docx");
+    QCOMPARE(program.fixture.to_save.back().start, program.folder.filePath("lavori/parete.docx"));
+    QCOMPARE(program.fixture.written, QStringList(report));
+    program.fixture.file.clear();
+    program.fixture.Find<QAction>(kExcel.action)->trigger();
+    QCOMPARE(program.fixture.to_save.back().start, program.folder.filePath("lavori/relazioni/parete.xlsx"));
+    // Another job has a folder of its own.
+    QVERIFY(QDir(program.folder.path()).mkdir("altro"));
+    program.fixture.file = program.folder.filePath("altro/solaio.drav");
+    program.fixture.Find<QAction>("salva_con_nome")->trigger();
+    program.fixture.file.clear();
+    program.fixture.Find<QAction>(kExcel.action)->trigger();
+    QCOMPARE(program.fixture.to_save.back().start, program.folder.filePath("altro/solaio.xlsx"));
+  }
+
   void aCancelledDialogWritesNothing() {
     Program program;
     program.fixture.file.clear();
@@ -214,7 +246,7 @@ class ReportCommandsTest : public QObject {
     Program program;
     program.ReplaceTemplate(kWord, Changed(kWord.template_name, [](Package& package) {
                               std::string xml = package.Part("word/document.xml");
-                              const std::string known = "[P1_NOTE]";
+                              const std::string known = "[P1_TITOLO]";
                               xml.insert(xml.find(known), "[P1_CLIENTE] [P9_X] ");
                               package.Put("word/document.xml", xml);
                             }));

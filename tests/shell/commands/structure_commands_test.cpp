@@ -1,17 +1,22 @@
 #include <QAction>
 #include <QCheckBox>
 #include <QDialog>
+#include <QDockWidget>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTest>
+#include <QTimer>
 #include <QToolButton>
 #include <QTreeWidget>
 #include <filesystem>
 #include <fstream>
+#include <future>
+#include <thread>
 
 #include "calculation/run.h"
 #include "calculation/select_calculation.h"
 #include "shell/results/results_panel.h"
+#include "storage/database/connection.h"
 #include "tests/shell/support/stores_program.h"
 
 namespace velmar::shell {
@@ -34,6 +39,19 @@ struct Program : StoresProgram {
     });
   }
 };
+
+/// The curve and the rating are seen whole beside the window `name`, which blocks nothing.
+void CoversNothing(const WindowFixture& fixture, const char* name) {
+  QCoreApplication::processEvents();
+  const auto* beside = fixture.Find<QDialog>(name);
+  QVERIFY(beside->isVisible());
+  QCOMPARE(beside->windowModality(), Qt::NonModal);
+  const QRect covered(beside->mapToGlobal(QPoint(0, 0)), beside->size());
+  for (const char* seen : {"Picture1", "Label4", "SSTab1"}) {
+    const auto* widget = fixture.Find<QWidget>(seen);
+    QVERIFY2(!covered.intersects(QRect(widget->mapToGlobal(QPoint(0, 0)), widget->size())), seen);
+  }
+}
 
 }  // namespace
 
@@ -68,6 +86,34 @@ class StructureCommandsTest : public QObject {
     QVERIFY(program.fixture.open.Result() == calculation::RunCalculation(typed, 0.0, {}).result);
   }
 
+  void aLockIsWaitedForByAWindowThatLives() {
+    Program program;
+    program.fixture.window->OpenProject(EXAMPLES "/parete-forato-intonacata.drav");
+    program.fixture.Run();
+    std::promise<void> held;
+    std::promise<void> let_go;
+    std::thread other([&] {
+      storage::ChangeDatabaseWith(program.places.results, [&](SQLite::Database&) {
+        held.set_value();
+        let_go.get_future().wait();
+      });
+    });
+    held.get_future().wait();
+    // Only a window that goes on handling events lets the other program finish.
+    bool lived = false;
+    QTimer::singleShot(50, program.fixture.window.get(), [&] {
+      lived = true;
+      let_go.set_value();
+    });
+    program.name = "Parete nuova";
+    program.fixture.Find<QAction>("Salva")->trigger();
+    if (!lived) let_go.set_value();
+    other.join();
+    QVERIFY(lived);
+    QVERIFY2(program.fixture.told.isEmpty(), qPrintable(program.fixture.told.join('\n')));
+    QVERIFY(program.fixture.services.saved_result("Parete nuova").has_value());
+  }
+
   void storedNamesFillTheLists() {
     const Program program;
     const std::vector<std::string> names = {"Parete x", "Serramento x"};
@@ -98,23 +144,43 @@ class StructureCommandsTest : public QObject {
     QVERIFY(!chart.laboratory.has_value());
   }
 
-  void theComparisonIsModalFromTheToolBarAlone() {
+  void theComparisonStandsBesideTheResultAndBlocksNothing() {
     Program program;
+    program.fixture.window->resize(1366, 768);
+    program.fixture.window->show();
     program.fixture.Choose("TIPO_PARETE_SINGOLA_0");
     QVERIFY(!program.fixture.Find<QAction>("confronta_risultati")->isEnabled());
     QVERIFY(!program.fixture.Find<QToolButton>("Toolbar1_13")->isEnabled());
     program.fixture.Run();
     program.fixture.Find<QAction>("confronta_risultati")->trigger();
-    auto* beside = program.fixture.Find<QDialog>("Form8");
-    QCOMPARE(beside->windowModality(), Qt::NonModal);
-    beside->close();
+    CoversNothing(program.fixture, "Form8");
+    program.fixture.Find<QDialog>("Form8")->close();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QVERIFY(program.fixture.window->findChildren<QDockWidget*>().isEmpty());
     program.fixture.Find<QToolButton>("Toolbar1_13")->click();
-    QCOMPARE(program.fixture.Find<QDialog>("Form8")->windowModality(), Qt::WindowModal);
+    CoversNothing(program.fixture, "Form8");
+    // A changed input closes it with the result.
+    program.fixture.Type("Text5_0", "80");
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QVERIFY(program.fixture.window->findChildren<QDockWidget*>().isEmpty());
+  }
+
+  void theResultsTableStandsBesideTheCurve() {
+    Program program;
+    program.fixture.window->resize(1366, 768);
+    program.fixture.window->show();
+    program.fixture.Choose("TIPO_PARETE_SINGOLA_0");
+    program.fixture.Run();
+    program.fixture.Find<QAction>("tab_risultati")->trigger();
+    CoversNothing(program.fixture, "Form4");
+    QTest::keyClick(program.fixture.Find<QDialog>("Form4"), Qt::Key_Escape);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QVERIFY(program.fixture.window->findChildren<QDockWidget*>().isEmpty());
   }
 
   void aClosedComparisonStaysInTheDrawingUntilTheNextOne() {
     Program program;
+    program.fixture.window->show();
     program.fixture.Choose("TIPO_PARETE_SINGOLA_0");
     program.fixture.Run();
     program.fixture.Find<QToolButton>("Toolbar1_13")->click();

@@ -4,8 +4,10 @@
 #include <QAction>
 #include <QApplication>
 #include <QCheckBox>
+#include <QClipboard>
 #include <QDialog>
 #include <QDir>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QTabWidget>
 #include <QTest>
@@ -77,6 +79,7 @@ class Album {
         Dialog("Form9"), "TreeView1", kMeasuredWalls, "List1",
         "Parete su montanti in legno, cartongesso 13 mm sui due lati, fibra di cellulosa 90 mm");
     Save(Dialog("Form9"), "libreria");
+    OwnMeasurement();
     Dialog("Form9").findChild<QPushButton*>("Command2")->click();
     Save(Dialog("Form10"), "informazioni-aggiuntive");
     Dialog("Form10").close();
@@ -87,6 +90,23 @@ class Album {
                              "Soletta in calcestruzzo armato 160 mm, laminato su sottopavimento in EPS");
     Save(Dialog("Form9"), "libreria-calpestio");
     Dialog("Form9").close();
+    Settle();
+  }
+
+  /// The example of ISO 717-1, annex C, entered by its bands.
+  void OwnMeasurement() {
+    Dialog("Form9").findChild<QPushButton*>("CommandNuovaMisura")->click();
+    QDialog& editor = Dialog("FormMisura");
+    const std::pair<const char*, const char*> texts[] = {{"TextNome", "Esempio della norma"},
+                                                         {"TextFonte", "UNI EN ISO 717-1, appendice C"},
+                                                         {"TextIndice", "30"}};
+    for (const auto& [box, text] : texts) editor.findChild<QLineEdit*>(box)->setText(text);
+    QApplication::clipboard()->setText(
+        "100\t20,4\n125\t16,3\n160\t17,7\n200\t22,6\n250\t22,4\n315\t22,7\n400\t24,8\n500\t26,6\n630\t28,0\n"
+        "800\t30,5\n1000\t31,8\n1250\t32,5\n1600\t33,4\n2000\t33,0\n2500\t31,0\n3150\t25,5\n");
+    editor.findChild<QPushButton*>("CommandIncolla")->click();
+    Save(editor, "nuova-misura");
+    editor.findChild<QPushButton*>("Command1")->click();
     Settle();
   }
 

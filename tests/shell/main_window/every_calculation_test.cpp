@@ -98,7 +98,7 @@ void FillIn(const WindowFixture& fixture) {
 
 }  // namespace
 
-/// Each of the 47 calculations, from its menu entry to the numbers.
+/// Each calculation, from its menu entry to the numbers.
 class EveryCalculationTest : public QObject {
   Q_OBJECT
 

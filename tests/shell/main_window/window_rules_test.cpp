@@ -1,11 +1,14 @@
 #include <QAbstractButton>
 #include <QAction>
+#include <QApplication>
 #include <QClipboard>
 #include <QComboBox>
 #include <QGuiApplication>
 #include <QLineEdit>
 #include <QMimeData>
+#include <QScreen>
 #include <QTabWidget>
+#include <QTemporaryDir>
 #include <QTest>
 #include <set>
 
@@ -150,7 +153,11 @@ class WindowRulesTest : public QObject {
       QTRY_COMPARE(list->currentText(), chosen);
     }
     QVERIFY(listed >= all);
-    QTest::keyClick(filter, Qt::Key_Home);
+    filter->lineEdit()->selectAll();
+    QTest::keyClicks(filter->lineEdit(), "tut");
+    if (QWidget* hits = QApplication::activePopupWidget()) hits->close();
+    QTest::keyClick(filter, Qt::Key_Return);
+    QCOMPARE(filter->currentText(), QString("tutti"));
     QCOMPARE(list->count(), all);
     QVERIFY2(fixture_->open.Result(), "to look for a material changes nothing");
   }
@@ -162,7 +169,6 @@ class WindowRulesTest : public QObject {
                                << "ComboTenutaAria_0";
     QTest::newRow("hanger") << "mnuCalcoloControsoffittiScelta_1"
                             << "ComboTipoAppendino";
-    QTest::newRow("keyword") << kSingleGeneric << "Combo7_0";
     QTest::newRow("contents") << "TIPO_PARETE_DOPPIA_4"
                               << "ComboTipoIntercSEA";
   }
@@ -197,6 +203,42 @@ class WindowRulesTest : public QObject {
     box->lineEdit()->selectAll();
     QTest::keyClick(box, Qt::Key_V, Qt::ControlModifier);
     QCOMPARE(fixture_->open.Setup().leaf1.rows[0].slot.name, name.toStdString());
+  }
+
+  void aPlaceOutsideTheScreenIsBroughtBack() {
+    const QTemporaryDir folder;
+    fixture_->services.places.settings = folder.filePath("finestra.ini").toStdString();
+    fixture_->MakeWindow();
+    fixture_->window->resize(700, 500);
+    fixture_->window->show();
+    fixture_->window->move(5000, 4000);
+    fixture_->window->close();
+    fixture_->MakeWindow();
+    fixture_->window->show();
+    const QRect screen = fixture_->window->screen()->availableGeometry();
+    // Where a hand takes hold of it.
+    QRect top = fixture_->window->geometry();
+    top.setHeight(20);
+    QCOMPARE(screen.intersected(top).height(), top.height());
+    QVERIFY(screen.intersected(top).width() > 300);
+  }
+
+  void aClickOnALayerGoesToItsRow() {
+    fixture_->Choose("TIPO_PARETE_DOPPIA_0");
+    fixture_->window->show();
+    QVERIFY(QTest::qWaitForWindowActive(fixture_->window.get()));
+    auto* section = fixture_->Find<QWidget>("Disegno");
+    QCOMPARE(section->accessibleName(), QString("Schema struttura"));
+    QVERIFY(!section->accessibleDescription().isEmpty());
+    // Along the middle of the drawing the first strip begins at the left, the last one ends at the right.
+    QTest::mouseClick(section, Qt::LeftButton, {}, {section->width() * 3 / 4, section->height() / 3});
+    QCOMPARE(QApplication::focusWidget()->objectName(), QString("Combo4_0"));
+    section->setFocus();
+    QTest::keyClick(section, Qt::Key_Right);
+    QVERIFY2(section->accessibleDescription().startsWith("1 Mattone pieno"),
+             qPrintable(section->accessibleDescription()));
+    QTest::keyClick(section, Qt::Key_Return);
+    QCOMPARE(QApplication::focusWidget()->objectName(), QString("Combo3_0"));
   }
 
   void aRowIsLitByItsLayerInTheSection() {

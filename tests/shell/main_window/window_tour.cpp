@@ -1,14 +1,17 @@
 // window_tour FOLDER WIDTH HEIGHT light|dark [NAME]: every page of every kind of element as a picture, to be
 // looked at; with NAME only the stations whose name begins so.
 #include <QApplication>
-#include <QDialog>
+#include <QComboBox>
 #include <QDir>
+#include <QLineEdit>
+#include <QMenu>
 #include <QPixmap>
 #include <QTabWidget>
 #include <QTest>
 
 #include "calculation/layer_edits.h"
 #include "shell/commands/about_box.h"
+#include "shell/main_window/kind_card.h"
 #include "shell/project/dimension_dialog.h"
 #include "shell/project/project_information_dialog.h"
 #include "tests/shell/support/window_looks.h"
@@ -79,7 +82,18 @@ class Tour {
     }
   }
 
-  void VisitStart() { Take(*fixture_.window, "inizio"); }
+  void VisitStart() {
+    Take(*fixture_.window, "inizio");
+    for (const int button : {17, 18, 19}) {
+      QMenu* menu = fixture_.Find<KindCard>("Inizio_" + QString::number(button))->Calculations();
+      menu->popup(fixture_.window->mapToGlobal(QPoint(100, 100)));
+      Take(*menu, "menu-" + QString::number(button));
+      menu->close();
+    }
+    fixture_.Find<KindCard>("Inizio_19")->click();
+    fixture_.Run();
+    Take(*fixture_.window, "nuovo-solaio");
+  }
 
   void VisitNotes() {
     fixture_.Choose("TIPO_PARETE_DOPPIA_4");
@@ -87,7 +101,12 @@ class Tour {
     fixture_.told.clear();
     Take(*fixture_.window, "nota-rifiuto");
     fixture_.Choose("TIPO_PARETE_SINGOLA_0");
+    auto* count = fixture_.Find<QComboBox>("Combo1");
+    count->setFocus();
+    count->lineEdit()->selectAll();
+    QTest::keyClicks(count, "3");
     fixture_.Type("Text5_0", "0");
+    QTest::keyClick(fixture_.Find<QLineEdit>("Text5_0"), Qt::Key_Return);
     Take(*fixture_.window, "nota-spessore");
   }
 
@@ -122,7 +141,7 @@ class Tour {
     fixture_.Choose("TIPO_PARETE_SINGOLA_0");
     fixture_.Run();
     fixture_.Choose("tab_risultati");
-    if (auto* table = fixture_.window->findChild<QDialog*>("Form4")) Take(*table, "tabella");
+    Take(*fixture_.window, "tabella");
   }
 
  private:

@@ -61,7 +61,7 @@ TEST_F(EditMaterialTest, GivesNothingWhenTheUserGivesUp) {
 TEST_F(EditMaterialTest, TheDestinationDecidesTheFace) {
   const std::pair<MaterialFamily, const char*> faces[] = {
       {MaterialFamily::kStructural, "Materiale parete"},
-      {MaterialFamily::kFibrous, "Materiali fibrosi"},
+      {MaterialFamily::kFibrous, "Materiale fibroso"},
       {MaterialFamily::kResilient, "materiale resiliente"}};
   for (const auto& [family, caption] : faces) {
     Edit(family, "", [&](QWidget& window) {

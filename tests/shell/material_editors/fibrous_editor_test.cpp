@@ -106,7 +106,7 @@ QString Column(int count, const QString& separator) {
 TEST_F(FibrousEditorTest, ANewMaterialStartsWithItsDefaults) {
   Open();
   Picture(*window_, "form6-fibroso-nuovo");
-  EXPECT_EQ(window_->windowTitle(), "Materiali fibrosi");
+  EXPECT_EQ(window_->windowTitle(), "Materiale fibroso");
   const std::pair<const char*, const char*> boxes[] = {{"Text1", ""},  {"Text2", ""},      {"Text10", "100"},
                                                        {"Text9", ""},  {"Text11", "0,05"}, {"Text12", "0,01"},
                                                        {"Text13", ""}, {"Text14", "4000"}};
@@ -143,6 +143,40 @@ TEST_F(FibrousEditorTest, StoresAPorousMaterial) {
   EXPECT_EQ(row->record.values.absorption[18], 1.05F);
   EXPECT_FALSE(row->record.Holds(&FibrousMaterial::youngs_modulus_gpa));
   EXPECT_EQ(row->picture, "senza");
+}
+
+TEST_F(FibrousEditorTest, ComputesTheEmptyBandsAndMarksThem) {
+  Open();
+  FillIn();
+  Type(*window_, "Text10", "60");
+  Type(*window_, "Text14", "840");
+  Type(*window_, "TextAlfa_0", "0,5");
+  Press(*window_, "CommandCalcola");
+  EXPECT_EQ(Shown(*window_, "TextAlfa_0"), "0,5") << "what stands there stays";
+  EXPECT_EQ(Shown(*window_, "TextAlfa_1"), "0,056");
+  EXPECT_EQ(Shown(*window_, "TextAlfa_18"), "0,995");
+  EXPECT_FALSE(Alfa(0).font().italic());
+  EXPECT_TRUE(Alfa(1).font().italic());
+  Type(*window_, "TextAlfa_18", "0,9");
+  EXPECT_FALSE(Alfa(18).font().italic()) << "typed over";
+  Picture(*window_, "form6-fibroso-calcolato");
+  Save();
+  const auto row = Stored("Feltro");
+  ASSERT_TRUE(row) << told_.join('|').toStdString();
+  EXPECT_EQ(row->record.values.absorption[1], 0.056F);
+  EXPECT_TRUE(row->source.starts_with(
+      "assorbimento calcolato con Delany e Bazley (incidenza normale, 60 mm su parete rigida): 125, 160, "))
+      << row->source;
+  EXPECT_EQ(row->source.find("6300"), std::string::npos) << row->source;
+}
+
+TEST_F(FibrousEditorTest, SaysWhenThereIsNothingToCompute) {
+  Open();
+  FillIn();
+  Type(*window_, "Text14", "");
+  Press(*window_, "CommandCalcola");
+  ASSERT_EQ(told_.size(), 1);
+  EXPECT_TRUE(told_.first().startsWith("Nessuna banda da calcolare"));
 }
 
 TEST_F(FibrousEditorTest, StoresASolidMaterialWithoutWhatItsOptionLeavesOut) {
@@ -227,8 +261,8 @@ TEST_F(FibrousEditorTest, AnImpossibleCoefficientIsToldWithItsBand) {
     Alfa(3).setText(text);
     Save();
     EXPECT_EQ(told_.last().toStdString(),
-              "Il materiale non può essere salvato: i coefficienti di assorbimento devono essere numeri non "
-              "negativi oppure vuoti.\nIl coefficiente di assorbimento deve essere compreso tra 0 e 1,5 alla "
+              "Il materiale non può essere salvato: ogni coefficiente deve essere vuoto o compreso tra 0 e "
+              "1,5.\nIl coefficiente di assorbimento deve essere compreso tra 0 e 1,5 alla "
               "frequenza di 200 Hz: " +
                   std::string(text));
     EXPECT_EQ(Focused(), "TextAlfa_3");
@@ -376,7 +410,8 @@ TEST_F(FibrousEditorTest, EnterGoesToTheNextBandAndSavesFromTheLast) {
 
 TEST_F(FibrousEditorTest, TabGoesAsOneReads) {
   Open();
-  const char* order[] = {"Text1", "Text2", "Text10", "Text9", "Option1_0", "Text14", "Text8", "TextAlfa_0"};
+  const char* order[] = {"Text1",  "Text2", "Text10",    "Text9",     "Option1_0",
+                         "Text14", "Text8", "TextFonte", "TextAlfa_0"};
   for (const char* box : order) {
     EXPECT_EQ(Focused(), box);
     QTest::keyClick(window_->focusWidget(), Qt::Key_Tab);

@@ -63,9 +63,15 @@ TEST_F(ResilientEditorTest, ANewMaterialStartsWithTheKeywordAndTheRule) {
   EXPECT_EQ(Three(), (QStringList{"", "", ""}));
   QStringList labels;
   for (const auto* label : window_->findChildren<QLabel*>()) labels << label->text();
-  EXPECT_TRUE(
-      labels.contains(QString::fromUtf8("Inserire almeno uno dei valori s', ΔLn,w e f0: gli altri sono "
-                                        "calcolati secondo EN 29052-1 per un massetto di 100 kg/m².")));
+  EXPECT_TRUE(labels.contains(
+      QString::fromUtf8("Inserire almeno uno dei valori s', ΔLw e f0: gli altri sono calcolati "
+                        "per un massetto di 100 kg/m² (f0: UNI EN 29052-1, ΔLw: 18,3 − 15 "
+                        "lg(s'/M)).")));
+  EXPECT_EQ(Child<QLabel>(*window_, "LabelDLw12354").text(),
+            QString::fromUtf8("Secondo UNI EN ISO 12354-2, massetto di 100 kg/m²: ΔLw = -"));
+  Type(*window_, "Text3", "10");
+  EXPECT_EQ(Child<QLabel>(*window_, "LabelDLw12354").text(),
+            QString::fromUtf8("Secondo UNI EN ISO 12354-2, massetto di 100 kg/m²: ΔLw = 32,6 dB"));
 }
 
 struct Coupled {
@@ -83,11 +89,11 @@ TEST_P(CoupledResilientTest, TheOthersFollowWhenTheBoxIsLeft) {
   EXPECT_EQ(Three(), GetParam().after);
 }
 
-// s' = 25: f0 = 160 * sqrt(0.25) = 80; 18.3 - 15 lg 25 = -2.669
+// s' = 25: f0 = 160 * sqrt(0.25) = 80; 18.3 - 15 lg(25 / 100) = 27.331
 INSTANTIATE_TEST_SUITE_P(Boxes, CoupledResilientTest,
-                         testing::Values(Coupled{"Stiffness", "Text3", "25", {"25", "-2,7", "80,0"}},
-                                         Coupled{"Improvement", "Text4", "3.3", {"10", "3,3", "50,6"}},
-                                         Coupled{"Resonance", "Text5", "160", {"100", "-11,7", "160"}},
+                         testing::Values(Coupled{"Stiffness", "Text3", "25", {"25", "27,3", "80,0"}},
+                                         Coupled{"Improvement", "Text4", "33.3", {"10", "33,3", "50,6"}},
+                                         Coupled{"Resonance", "Text5", "160", {"100", "18,3", "160"}},
                                          Coupled{"NegativeStiffness", "Text3", "-25", {"-25", "", ""}},
                                          Coupled{"NegativeImprovement", "Text4", "-3", {"", "-3", ""}},
                                          Coupled{"NegativeResonance", "Text5", "-80", {"", "", "-80"}},
@@ -112,7 +118,7 @@ TEST_F(ResilientEditorTest, StoresANewMaterialByOneOfTheThreeValues) {
   EXPECT_EQ(window_->Change()->keyword, "non specificata");
   const auto row = Stored("sughero");
   EXPECT_EQ(row->record.values.dynamic_stiffness_mn_m3, 25.0);
-  EXPECT_EQ(row->record.values.impact_improvement_db, -2.7);
+  EXPECT_EQ(row->record.values.impact_improvement_db, 27.3);
   EXPECT_EQ(row->record.values.density_kg_m3, 0.0);
   EXPECT_EQ(row->picture, "senza");
 }
@@ -177,7 +183,7 @@ TEST_F(ResilientEditorTest, AChangedDensityKeepsTheOtherNumbersToTheLastDigit) {
   const auto row = Stored("Gomma");
   EXPECT_EQ(row->record.values.density_kg_m3, 710.0);
   EXPECT_EQ(row->record.values.resonance_frequency_hz, 80.5912345678);
-  EXPECT_EQ(row->source, "prova");
+  EXPECT_EQ(row->source, "valore utente");
 }
 
 TEST_F(ResilientEditorTest, ANameThatDiffersOnlyInCaseIsRefused) {

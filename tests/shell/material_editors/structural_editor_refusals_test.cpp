@@ -28,7 +28,7 @@ TEST_F(StructuralEditorTest, EveryMissingValueIsNamed) {
   Save();
   EXPECT_EQ(told_, QStringList{"Il materiale non può essere salvato. Inserire i dati mancanti:\n"
                                "- densità (kg/m³)\n- massa superficiale m' (kg/m²)\n"
-                               "- modulo di Young E (GPa)\n- fattore di perdita interna"});
+                               "- modulo di Young E (GPa)\n- fattore di perdita interno"});
   EXPECT_EQ(Focused(), "Text4");
   EXPECT_EQ(Shown(*window_, "Text3"), "12,5");
 }
@@ -42,8 +42,7 @@ TEST_F(StructuralEditorTest, ATextThatIsNoNumberTakesTheFocus) {
     Child<QLineEdit>(*window_, box).setText("dodici");
     Save();
     ASSERT_EQ(told_.size(), 1) << box;
-    EXPECT_TRUE(
-        told_.first().startsWith("Il materiale non è stato salvato: un valore non è un numero valido"));
+    EXPECT_TRUE(told_.first().startsWith("Il materiale non è stato salvato."));
     EXPECT_TRUE(told_.first().endsWith("Non è un numero valido: dodici"));
     EXPECT_EQ(Focused(), box);
     EXPECT_TRUE(window_->isVisible());
@@ -192,6 +191,38 @@ TEST_F(StructuralEditorTest, AMaterialChangedElsewhereIsNotOverwrittenUnasked) {
   Save();
   EXPECT_EQ(Stored("Mattone")->record.values.loss_factor, 0.01);
   EXPECT_EQ(Stored("Mattone")->record.values.critical_frequency_hz, 150.0);
+}
+
+TEST_F(StructuralEditorTest, AnImpossibleValueIsRefusedWithItsBox) {
+  Open();
+  FillIn();
+  Child<QLineEdit>(*window_, "Text9").setText("0,6");
+  Save();
+  ASSERT_EQ(told_.size(), 1);
+  EXPECT_EQ(
+      told_.first(),
+      QString::fromUtf8("Il materiale non può essere salvato. Valori impossibili:\n- rapporto di Poisson: "
+                        "0,6 (da 0 a 0,5)"));
+  EXPECT_EQ(Focused(), "Text9");
+  EXPECT_FALSE(Stored("Gesso"));
+}
+
+TEST_F(StructuralEditorTest, AnImprobableValueIsAskedAbout) {
+  Open();
+  FillIn();
+  Child<QLineEdit>(*window_, "Text6").setText("4100");
+  answer_ = false;
+  Save();
+  ASSERT_EQ(questions_.size(), 1);
+  EXPECT_EQ(
+      questions_.first(),
+      QString::fromUtf8("Valori insoliti per un materiale da costruzione:\n- modulo di Young E (GPa): 4100 "
+                        "(da 0,001 a 450)\nSalvarli comunque?"));
+  EXPECT_TRUE(window_->isVisible());
+  EXPECT_FALSE(Stored("Gesso"));
+  answer_ = true;
+  Save();
+  EXPECT_TRUE(Stored("Gesso"));
 }
 
 }  // namespace

@@ -175,7 +175,7 @@ TEST_F(StructuralEditorTest, ChangingOneBoxKeepsTheOtherNumbersToTheLastDigit) {
   EXPECT_EQ(row->record.values.density_kg_m3, 1799.999987654321);
   EXPECT_EQ(row->record.values.loss_factor, 1.0 / 3.0);
   EXPECT_EQ(row->record.values.thermal_conductivity_w_mk, 0.8);
-  EXPECT_EQ(row->source, "tabella");
+  EXPECT_EQ(row->source, "valore utente");
 }
 
 TEST_F(StructuralEditorTest, ModifyRenames) {
@@ -253,7 +253,7 @@ TEST_F(StructuralEditorTest, EveryControlIsNamedAndEveryLetterLeadsToOnePlace) {
   for (const auto* label : window_->findChildren<QLabel*>())
     if (label->buddy() != nullptr) count(label->text());
   for (const auto* button : window_->findChildren<QPushButton*>()) count(button->text());
-  EXPECT_EQ(letters.size(), 12U);
+  EXPECT_EQ(letters.size(), 14U);
   EXPECT_EQ(std::set<QChar>(letters.begin(), letters.end()).size(), letters.size());
 }
 
@@ -281,6 +281,38 @@ TEST_F(StructuralEditorTest, FitsASmallScreen) {
   Open();
   EXPECT_LE(window_->minimumSizeHint().width(), 1366);
   EXPECT_LE(window_->sizeHint().height(), 700);
+}
+
+TEST_F(StructuralEditorTest, TheSourceIsShownAndCanBeTyped) {
+  store_.Add<StructuralMaterial>({Brick()});
+  Open("Mattone");
+  EXPECT_EQ(Shown(*window_, "TextFonte"), "tabella");
+  Type(*window_, "TextFonte", "certificato 12");
+  Save();
+  EXPECT_EQ(Stored("Mattone")->source, "certificato 12");
+}
+
+TEST_F(StructuralEditorTest, ACopyTakesTheNewValuesAndLeavesTheMaterialAsItWas) {
+  store_.Add<StructuralMaterial>({Brick()});
+  Open("Mattone");
+  Type(*window_, "Text6", "9");
+  Press(*window_, "CommandCopia");
+  EXPECT_TRUE(told_.isEmpty()) << told_.join('|').toStdString();
+  ASSERT_TRUE(window_->Change());
+  EXPECT_EQ(window_->Change()->name, "Mattone (copia)");
+  EXPECT_EQ(window_->Change()->old_name, "");
+  EXPECT_EQ(Stored("Mattone")->record.values.youngs_modulus_gpa, 12.6);
+  EXPECT_EQ(Stored("Mattone")->source, "tabella");
+  const auto copy = Stored("Mattone (copia)");
+  ASSERT_TRUE(copy);
+  EXPECT_EQ(copy->record.values.youngs_modulus_gpa, 9.0);
+  EXPECT_EQ(copy->record.values.thermal_conductivity_w_mk, 0.8);
+  EXPECT_EQ(copy->source, "valore utente");
+}
+
+TEST_F(StructuralEditorTest, ANewMaterialHasNothingToCopy) {
+  Open();
+  EXPECT_FALSE(Child<QPushButton>(*window_, "CommandCopia").isVisible());
 }
 
 }  // namespace

@@ -2,6 +2,7 @@
 
 #include <QCheckBox>
 #include <QHeaderView>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
@@ -30,6 +31,7 @@ class MaterialListWindowTest : public testing::Test {
     listener.changed = [this](const MaterialChange& change) { changed_.push_back(change.name); };
     listener.removed = [this](MaterialFamily, const std::string& name) { removed_.push_back(name); };
     listener.refreshed = [this] { ++refreshed_; };
+    listener.used = [this](MaterialFamily, const std::string&) { return used_; };
     window_ = std::make_unique<MaterialListWindow>(boxes_.Tools(), source_ ? *source_ : materials_.Source(),
                                                    std::move(pick), listener);
     window_->show();
@@ -51,6 +53,7 @@ class MaterialListWindowTest : public testing::Test {
   std::vector<std::string> taken_;
   std::vector<std::string> changed_;
   std::vector<std::string> removed_;
+  std::vector<int> used_;
   int refreshed_ = 0;
 };
 
@@ -312,6 +315,34 @@ TEST_F(MaterialListWindowTest, TenThousandMaterials) {
   Grid().sortByColumn(0, Qt::AscendingOrder);
   EXPECT_EQ(Cell(3, 0), "Materiale numero 0");
   EXPECT_EQ(Cell(5, 0), "Materiale numero 2") << "numbers in names count as numbers";
+}
+
+TEST_F(MaterialListWindowTest, ADeletedMaterialIsPutBack) {
+  source_ = materials_.Source();
+  source_->add = [this](MaterialFamily, const MaterialCells& cells) -> std::optional<Message> {
+    materials_.structural.push_back(storage::RowFromCells<elements::StructuralMaterial>(cells));
+    return std::nullopt;
+  };
+  OpenFromMenu();
+  EXPECT_FALSE(Button("CommandAnnullaElimina").isEnabled());
+  QTest::keyClick(&Grid(), Qt::Key_Down);
+  QTest::keyClick(&Grid(), Qt::Key_Delete);
+  EXPECT_EQ(Rows(), 3);
+  Press("CommandAnnullaElimina");
+  EXPECT_EQ(Rows(), 4);
+  EXPECT_EQ(Selected(), "intonaco di gesso");
+  EXPECT_EQ(materials_.structural.back().source, "prova di laboratorio");
+  EXPECT_THAT(changed_, testing::ElementsAre("intonaco di gesso"));
+  EXPECT_FALSE(Button("CommandAnnullaElimina").isEnabled());
+}
+
+TEST_F(MaterialListWindowTest, ItSaysWhereTheOpenCalculationUsesAMaterial) {
+  used_ = {2, 5};
+  OpenFor(MaterialFamily::kStructural);
+  EXPECT_EQ(Child<QLabel>(*window_, "LabelUso").text(), "Nel calcolo aperto è usato negli strati 2, 5");
+  used_ = {};
+  QTest::keyClick(&Grid(), Qt::Key_Down);
+  EXPECT_EQ(Child<QLabel>(*window_, "LabelUso").text(), "");
 }
 
 }  // namespace

@@ -4,6 +4,8 @@
 #include <QTimer>
 #include <QToolButton>
 
+#include "application/projects.h"
+#include "foundation/failure.h"
 #include "tests/shell/support/materials_program.h"
 
 namespace velmar::shell {
@@ -40,6 +42,49 @@ class MaterialListsTest : public QObject {
     const auto saved = program.fixture.services.read_project(program.fixture.file.toStdString());
     QCOMPARE(saved.leaf1.rows[0].listed, name);
     QCOMPARE(saved.leaf1.rows[0].slot.density_kg_m3, before.leaf1.rows[0].slot.density_kg_m3);
+  }
+
+  void aTableThatCannotBeReadAnewIsToldAndTheListsStay() {
+    MaterialsProgram program;
+    program.fixture.Choose("TIPO_PARETE_SINGOLA_0");
+    const QStringList offered = program.Offered(LayerGroup::kLeaf1);
+    program.fixture.services.material_names = [](MaterialFamily) -> std::vector<storage::ListedMaterial> {
+      throw Failure({{std::string("Il file è in uso da un altro programma.")}}, "locked");
+    };
+    auto* window = program.OpenList();
+    for (const int times : {1, 2}) {
+      MaterialsProgram::Press(*window, "Aggiorna");
+      QCOMPARE(program.fixture.told.size(), times);
+    }
+    QVERIFY(program.fixture.told[0].contains("in uso"));
+    QVERIFY(offered.size() > 40);
+    QCOMPARE(program.Offered(LayerGroup::kLeaf1), offered);
+  }
+
+  void aDatabaseThatFailsIsToldOnceAnActionAndEachTime() {
+    MaterialsProgram program;
+    program.fixture.Choose("TIPO_PARETE_SINGOLA_0");
+    const auto fails = [](std::string_view) -> std::optional<elements::StructuralRecord> {
+      throw Failure({{std::string("Il file è in uso da un altro programma.")}}, "locked");
+    };
+    elements::MaterialLookup broken = program.fixture.services.materials;
+    broken.structural = fails;
+    broken.for_one_operation = {};
+    program.fixture.services.materials =
+        application::ForgivingLookup(broken, [&program](const Failure& failure) {
+          program.fixture.told += Text(program.fixture.services.words, failure.UserMessage());
+        });
+    int told = 0;
+    for (const char* rows : {"4", "6"}) {
+      auto* count = program.fixture.Find<QComboBox>("Combo1");
+      count->setFocus();
+      count->lineEdit()->selectAll();
+      QTest::keyClicks(count, rows);
+      QTest::keyClick(count, Qt::Key_Tab);
+      QCOMPARE(program.fixture.told.size(), ++told);
+      program.fixture.Type("Text5_0", "77");
+      QCOMPARE(program.fixture.told.size(), told);
+    }
   }
 
   void aNewMaterialJoinsListsAndTree() {
@@ -118,8 +163,7 @@ class MaterialListsTest : public QObject {
     program.Choose(elements::Calculation::kDoubleWallGeneric);
     auto* box = program.fixture.Find<QComboBox>("Combo7_0");
     QVERIFY(box->findText(filter) >= 0);
-    box->setCurrentIndex(box->findText(filter));
-    emit box->activated(box->currentIndex());
+    emit box->textActivated(filter);
     const int before = program.List(LayerGroup::kLeaf1, 0)->count();
     program.edit = [&](const std::string&) {
       program.store.Add<StructuralMaterial>({Wall("Tufo di prova", 173, keyword.toStdString())});

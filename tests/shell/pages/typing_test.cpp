@@ -1,3 +1,4 @@
+#include <QAction>
 #include <QApplication>
 #include <QCheckBox>
 #include <QClipboard>
@@ -96,6 +97,12 @@ class TypingTest : public QObject {
     QCOMPARE(fixture_->Find<QComboBox>("Combo3_1")->currentText(), QString());
     QVERIFY(!fixture_->Find<QComboBox>("Combo3_1")->placeholderText().isEmpty());
     QCOMPARE(Setup().leaf1.rows[1].listed, std::string());
+    fixture_->Run();
+    QVERIFY(!fixture_->open.Result());
+    QCOMPARE(fixture_->told, QStringList("Manca il materiale dello strato 2."));
+    QCOMPARE(FieldNote::TextAt(fixture_->Find<QComboBox>("Combo3_1")),
+             QString("Manca il materiale dello strato 2."));
+    QCOMPARE(fixture_->window->focusWidget(), fixture_->Find<QWidget>("Combo3_1"));
   }
 
   void aTypedMaterialIsCalculatedAfterEscapeAndRun() {
@@ -146,6 +153,89 @@ class TypingTest : public QObject {
       QVERIFY(box->hasFocus());
       QCOMPARE(box->currentText(), QString("criptonite"));
       QVERIFY(!FieldNote::TextAt(box).isEmpty());
+    }
+  }
+
+  void aKeywordIsFoundByAPartOfIt() {
+    fixture_->Choose("TIPO_PARETE_SINGOLA_0");
+    auto* box = fixture_->Find<QComboBox>("Combo7_0");
+    TypeInto(box, "etrat");
+    QTest::keyClick(box, Qt::Key_Return);
+    QCOMPARE(box->currentText(), QString("vetrate"));
+    QVERIFY(fixture_->Find<QComboBox>("Combo3_0")->findText("Vetro float") >= 0);
+    QVERIFY(fixture_->Find<QComboBox>("Combo3_0")->findText("Mattone pieno") < 0);
+    TypeInto(box, "criptonite");
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Tab}) {
+      QTest::keyClick(box, key);
+      QVERIFY(box->hasFocus());
+      QVERIFY(FieldNote::TextAt(box).contains("Nessuna parola chiave"));
+    }
+    QTest::keyClick(box, Qt::Key_Escape);
+    QCOMPARE(box->currentText(), QString("vetrate"));
+  }
+
+  void aTableOfLayersIsPastedAsOneStep() {
+    fixture_->Choose("TIPO_PARETE_SINGOLA_0");
+    Paste(
+        "Combo3_0",
+        "Materiale\tmm\tstrati\r\nIntonaco di calce e cemento\t20 mm\t1\r\nForati in laterizio 12 cm\t\t\r\n"
+        "Cartongesso standard\t12,5\t2\r\n");
+    QCOMPARE(fixture_->Find<QComboBox>("Combo1")->currentText(), QString("3"));
+    QCOMPARE(fixture_->Find<QComboBox>("Combo3_0")->currentText(), QString("Intonaco di calce e cemento"));
+    QCOMPARE(Text("Text5_0"), QString("20"));
+    QCOMPARE(fixture_->Find<QComboBox>("Combo3_1")->currentText(), QString("Forati in laterizio 12 cm"));
+    QCOMPARE(Text("Text5_1"), QString("120"));
+    QCOMPARE(Text("Text5_2"), QString("12,5"));
+    QCOMPARE(fixture_->Find<QComboBox>("Combo2_2")->currentText(), QString("2"));
+    QCOMPARE(Setup().leaf1.rows[2].slot.name, std::string("Cartongesso standard"));
+    fixture_->Find<QAction>("annulla")->trigger();
+    QCOMPARE(fixture_->Find<QComboBox>("Combo1")->currentText(), QString("1"));
+    QCOMPARE(fixture_->Find<QComboBox>("Combo3_0")->currentText(), QString("Mattone pieno"));
+  }
+
+  void aTableThatIsRefusedChangesNothing_data() {
+    QTest::addColumn<QString>("table");
+    QTest::addColumn<QString>("reason");
+    QTest::newRow("unknown material") << "Mattone pieno\t120\nCriptonite\t10"
+                                      << "Criptonite";
+    QTest::newRow("thickness") << "Mattone pieno\t-5"
+                               << "-5";
+    QTest::newRow("thickness of nought") << "Mattone pieno\t0"
+                                         << "\"0\"";
+    QTest::newRow("sheets") << "Mattone pieno\t120\t15"
+                            << "15";
+    QTest::newRow("half a sheet") << "Mattone pieno\t120\t1,5"
+                                  << "1,5";
+    QTest::newRow("too many") << QString("Mattone pieno\t120\n").repeated(11) << "10";
+  }
+  void aTableThatIsRefusedChangesNothing() {
+    QFETCH(const QString, table);
+    QFETCH(const QString, reason);
+    fixture_->Choose("TIPO_PARETE_SINGOLA_0");
+    const elements::Setup before = Setup();
+    Paste("Combo3_0", table);
+    QVERIFY(Setup() == before);
+    const QString note = FieldNote::TextAt(fixture_->Find<QComboBox>("Combo3_0"));
+    QVERIFY2(note.contains(reason) && note.contains("ulla è stato cambiato"), qPrintable(note));
+  }
+
+  void aNoteLeavesTheOtherRowsFree() {
+    fixture_->Choose("TIPO_PARETE_SINGOLA_0");
+    TypeInto(fixture_->Find<QComboBox>("Combo1"), "4");
+    for (int row = 0; row < 4; ++row) {
+      const QString name = "Text5_" + QString::number(row);
+      fixture_->Type(name, "0");
+      QTest::keyClick(Field(name), Qt::Key_Return);
+      const auto* note = static_cast<FieldNote*>(fixture_->window->findChild<QWidget*>("NotaCampo"));
+      QVERIFY(note != nullptr);
+      for (int other = 0; other < 4; ++other) {
+        for (const char* array : {"Text5_", "Combo3_", "Combo2_"}) {
+          const auto* field = fixture_->Find<QWidget>(array + QString::number(other));
+          if (field->objectName() == name) continue;
+          const QRect place(field->mapTo(note->parentWidget(), QPoint(0, 0)), field->size());
+          QVERIFY2(!note->Words().intersects(place), qPrintable(name + " over " + field->objectName()));
+        }
+      }
     }
   }
 
@@ -299,6 +389,18 @@ class TypingTest : public QObject {
   const elements::Setup& Setup() const { return fixture_->open.Setup(); }
   QLineEdit* Field(const QString& name) const { return fixture_->Find<QLineEdit>(name); }
   QString Text(const QString& name) const { return Field(name)->text(); }
+  static void TypeInto(QComboBox* box, const QString& keys) {
+    box->setFocus();
+    box->lineEdit()->selectAll();
+    QTest::keyClicks(box->lineEdit(), keys);
+    if (QWidget* hits = QApplication::activePopupWidget()) hits->close();
+  }
+  void Paste(const QString& list, const QString& text) const {
+    auto* box = fixture_->Find<QComboBox>(list);
+    box->setFocus();
+    QApplication::clipboard()->setText(text);
+    QTest::keyClick(box, Qt::Key_V, Qt::ControlModifier);
+  }
   void OpenComponentBands() {
     fixture_->Choose("cal_facciata");
     fixture_->Find<QTabWidget>("SSTab1")->setCurrentIndex(5);

@@ -28,14 +28,14 @@ QByteArray BytesOf(const QString& path) {
   return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
-TEST(PagePrinter, PrintsOneSheet) {
+TEST(PagePrinter, PrintsAsManySheetsAsThePageTakes) {
   const QTemporaryDir folder;
   const QString file = folder.filePath("page.pdf");
   PagePrinter printer(IntoFile(file));
   EXPECT_EQ(printer.Print(SamplePage(), "Parete", nullptr), PrintOutcome::kPrinted);
   const QByteArray bytes = BytesOf(file);
   EXPECT_TRUE(bytes.startsWith("%PDF"));
-  EXPECT_TRUE(bytes.contains("/Count 1\n")) << bytes.size();
+  EXPECT_TRUE(bytes.contains("/Count 2\n")) << bytes.size();
   EXPECT_GT(bytes.size(), 5000);
 }
 

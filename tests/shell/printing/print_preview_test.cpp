@@ -9,6 +9,7 @@
 
 #include <gtest/gtest.h>
 
+#include "shell/printing/page_picture.h"
 #include "tests/shell/printing/sample_page.h"
 
 namespace velmar::printing {
@@ -36,10 +37,10 @@ class ThePreview : public testing::Test {
   }
 
   QSize Shown() const {
-    return preview_.findChild<QLabel*>("Picture1")
-        ->pixmap(Qt::ReturnByValue)
-        .deviceIndependentSize()
-        .toSize();
+    const QSizeF all =
+        preview_.findChild<QLabel*>("Picture1")->pixmap(Qt::ReturnByValue).deviceIndependentSize();
+    // Of one sheet; they stand below each other.
+    return QSizeF(all.width(), all.height() / PageCountOn(asked_.paper, SamplePage())).toSize();
   }
   void Trigger(const char* name) {
     QAction* action = preview_.findChild<QAction*>(name);

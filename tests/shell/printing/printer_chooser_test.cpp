@@ -39,7 +39,7 @@ TEST(PrinterChooser, ListsThePrintersAndMarksTheCurrentOne) {
   const auto* list = chooser.findChild<QListWidget*>("List1");
   EXPECT_EQ(list->count(), 2);
   EXPECT_EQ(list->currentItem()->text(), "Laser");
-  EXPECT_EQ(chooser.windowTitle(), "Selezionare la stampante:");
+  EXPECT_EQ(chooser.windowTitle(), "Seleziona stampante");
 }
 
 TEST(PrinterChooser, SelectsAndCloses) {
@@ -58,7 +58,7 @@ TEST(PrinterChooser, StaysOpenWhenThePrinterCannotBeSelected) {
   chooser.show();
   OkButton(chooser)->click();
   EXPECT_TRUE(chooser.isVisible());
-  EXPECT_THAT(office.told, testing::ElementsAre("Impossibile stampare dalla stampante selezionata"));
+  EXPECT_THAT(office.told, testing::ElementsAre("Impossibile stampare con la stampante selezionata."));
 }
 
 TEST(PrinterChooser, CancelSelectsNothing) {

@@ -30,7 +30,10 @@ struct Answers {
                   return prints;
                 },
             .choose_pdf = [this](QWidget*, const QString&) { return pdf; },
-            .tell_done = [this](QWidget*, const QString& text) { done << text; },
+            .tell_written =
+                [this](QWidget*, const QString& text, const std::filesystem::path& file) {
+                  done << text + ' ' + QString::fromStdString(file.filename().string());
+                },
             .tell_failure = [this](QWidget*, const QString& text) { failures << text; }};
   }
 };
@@ -47,7 +50,7 @@ TEST(SaveDocument, WritesThePdfAndSaysSo) {
   Answers answers{.pdf = folder.filePath("parete è.pdf").toStdString()};
   SaveDocument(Document(), answers.Boxes(), presentation::CatalogueWords(), nullptr);
   EXPECT_TRUE(BytesOf(*answers.pdf).startsWith("%PDF"));
-  EXPECT_THAT(answers.done, testing::ElementsAre("Il documento è stato salvato."));
+  EXPECT_THAT(answers.done, testing::ElementsAre("Il documento è stato salvato. parete è.pdf"));
   EXPECT_THAT(answers.failures, IsEmpty());
 }
 
@@ -88,7 +91,7 @@ TEST(PrintDocument, TellsOfAPrinterThatFails) {
   Answers answers{.prints = true, .print_file = "/no/such/folder/page.pdf"};
   PagePrinter printer(answers.Boxes().ask_to_print);
   PrintDocument(Document(), printer, answers.Boxes(), presentation::CatalogueWords(), nullptr);
-  EXPECT_THAT(answers.failures, testing::ElementsAre("Impossibile stampare dalla stampante selezionata"));
+  EXPECT_THAT(answers.failures, testing::ElementsAre("Impossibile stampare con la stampante selezionata."));
 }
 
 TEST(InstalledPrinters, RefusesAPrinterThatIsNotThere) {

@@ -1,14 +1,20 @@
 #include <QApplication>
+#include <QDesktopServices>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMessageBox>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTest>
+#include <QTimer>
+#include <QTreeWidget>
+#include <QUrl>
 
 #include "calculation/select_calculation.h"
 #include "shell/commands/about_box.h"
 #include "shell/project/dimension_dialog.h"
+#include "shell/project/lost_work_dialog.h"
 #include "shell/project/project_information_dialog.h"
 #include "shell/start/loader_window.h"
 #include "tests/shell/support/window_fixture.h"
@@ -84,6 +90,24 @@ class DialogsTest : public QObject {
     QCOMPARE(dialog.findChild<QGroupBox*>("Frame1")->title(), QString("Dimensioni della parete (SEA)"));
   }
 
+  void theInformationIsCaptionedInTheLanguageOfTheWindow() {
+    WindowFixture fixture;
+    fixture.open.EditKeepingResult([](elements::Setup& setup) {
+      setup.information[0].caption = "Progetto";
+      setup.information[1].caption = "Customer";
+      setup.information[2].caption.clear();
+      setup.information[7].caption = "Cantiere";
+    });
+    const ProjectInformationDialog dialog(fixture.open, fixture.services.words);
+    const auto caption = [&dialog](const char* name) {
+      return dialog.findChild<QLineEdit*>(name)->accessibleName();
+    };
+    QCOMPARE(caption("Text1_0"), QString("Progetto"));
+    QCOMPARE(caption("Text1_1"), QString("Cliente (Customer)"));
+    QCOMPARE(caption("Text1_2"), QString("Progetto n."));
+    QCOMPARE(caption("Text1_7"), QString("Cantiere"));
+  }
+
   void theInformationIsTakenOverByOkAlone() {
     WindowFixture fixture;
     fixture.Choose("TIPO_PARETE_SINGOLA_0");
@@ -102,6 +126,88 @@ class DialogsTest : public QObject {
     QVERIFY(fixture.open.Result());
   }
 
+  void lostWorkIsNamedAndEscIsLater() {
+    WindowFixture fixture;
+    const QDateTime time(QDate(2026, 11, 22), QTime(9, 5));
+    std::vector<LostWork> works(2);
+    works[0].project.path = "/lavori/Rossi/parete nord.drav";
+    works[0].changed = time;
+    works[1].changed = time.addDays(-1);
+    const auto answered = [&](const std::function<void(LostWorkDialog&)>& hand) {
+      LostWorkDialog dialog(works, fixture.services.words);
+      dialog.show();
+      hand(dialog);
+      if (dialog.isVisible()) qFatal("still open");
+      return dialog.Answer();
+    };
+    const auto press = [](const char* button) {
+      return [button](LostWorkDialog& dialog) {
+        QTest::mouseClick(dialog.findChild<QPushButton*>(button), Qt::LeftButton);
+      };
+    };
+    const LostWorkAnswer esc = answered([](LostWorkDialog& dialog) {
+      auto* list = dialog.findChild<QTreeWidget*>("Lavori");
+      const auto row = [list](int place) {
+        const QTreeWidgetItem* item = list->topLevelItem(place);
+        return QStringList({item->text(0), item->text(1), item->text(2)});
+      };
+      QCOMPARE(list->topLevelItemCount(), 2);
+      QCOMPARE(row(0), QStringList({"parete nord", "22/11/2026 09:05", "/lavori/Rossi"}));
+      QCOMPARE(row(1), QStringList({"Nuovo", "21/11/2026 09:05", "mai salvato"}));
+      QTest::keyClick(list, Qt::Key_Escape);
+    });
+    QVERIFY(esc.choice == LostWorkChoice::kLater);
+    QVERIFY(answered(press("Dopo")).choice == LostWorkChoice::kLater);
+    QVERIFY(answered([](LostWorkDialog& dialog) { dialog.close(); }).choice == LostWorkChoice::kLater);
+    const LostWorkAnswer first = answered(press("Recupera"));
+    QVERIFY(first.choice == LostWorkChoice::kRecover);
+    QCOMPARE(first.which, 0U);
+    const LostWorkAnswer second = answered([&](LostWorkDialog& dialog) {
+      QTest::keyClick(dialog.findChild<QTreeWidget*>("Lavori"), Qt::Key_Down);
+      press("Elimina")(dialog);
+    });
+    QVERIFY(second.choice == LostWorkChoice::kDelete);
+    QCOMPARE(second.which, 1U);
+    // Enter is the answer that brings the work back.
+    const LostWorkAnswer enter = answered([](LostWorkDialog& dialog) {
+      QTest::keyClick(dialog.findChild<QTreeWidget*>("Lavori"), Qt::Key_Return);
+    });
+    QVERIFY(enter.choice == LostWorkChoice::kRecover);
+  }
+
+  void theBoxOfAWrittenFileOpensItOrItsFolder_data() {
+    QTest::addColumn<QString>("button");
+    QTest::addColumn<QString>("opened");
+    QTest::newRow("file") << "Apri"
+                          << "/tmp/relazioni/parete è.docx";
+    QTest::newRow("folder") << "Cartella"
+                            << "/tmp/relazioni";
+    QTest::newRow("neither") << "OK"
+                             << "";
+  }
+  void theBoxOfAWrittenFileOpensItOrItsFolder() {
+    QFETCH(const QString, button);
+    QFETCH(const QString, opened);
+    WindowFixture fixture;
+    const Boxes boxes = ScreenBoxes(fixture.services.words);
+    QDesktopServices::setUrlHandler("file", this, "TakeAddress");
+    address_.clear();
+    QString text;
+    QTimer::singleShot(0, this, [&] {
+      auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+      if (box == nullptr) qFatal("no box");
+      text = box->text();
+      for (QAbstractButton* one : box->buttons()) {
+        if (one->text() == button) return one->click();
+      }
+      qFatal("no such button");
+    });
+    boxes.tell_written("Fatto.", "/tmp/relazioni/parete è.docx");
+    QDesktopServices::unsetUrlHandler("file");
+    QCOMPARE(text, QString("Fatto.\n/tmp/relazioni/parete è.docx"));
+    QCOMPARE(address_.toLocalFile(), opened);
+  }
+
   void theAboutBoxTellsTheVersion() {
     WindowFixture fixture;
     const AboutBox box(fixture.services.words, "2.0.1", {});
@@ -117,6 +223,12 @@ class DialogsTest : public QObject {
              QString("Caricamento di 42 materiali fibrosi"));
     QCOMPARE(loader.findChild<QLabel*>("LabelVersione")->text(), QString("VELMARpro versione 2.0.1"));
   }
+
+ public slots:
+  void TakeAddress(const QUrl& address) { address_ = address; }
+
+ private:
+  QUrl address_;
 };
 
 }  // namespace velmar::shell

@@ -39,6 +39,12 @@ copy() { xdotool windowfocus "$table" key ctrl+c || true; }
 try=nothing
 await window_called "VELMARpro - Calcolo previsionale elementi - $(basename "$project" .drav)"
 main=$window
+# What the window manager shows is the title as it stands, without another name of the product behind it.
+title=$(xdotool getwindowname "$main")
+if [[ $title != "VELMARpro - Calcolo previsionale elementi - $(basename "$project" .drav)" ]]; then
+  echo "the title reads: $title" >&2
+  exit 1
+fi
 try=run_and_show
 await window_called "Risultati calcolo"
 table=$window

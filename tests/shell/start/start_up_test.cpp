@@ -6,7 +6,9 @@
 #include <QComboBox>
 #include <QDialog>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMainWindow>
+#include <QMenu>
 #include <QMessageBox>
 #include <QTemporaryDir>
 #include <QTest>
@@ -55,7 +57,8 @@ struct Start {
   QStringList loading;  ///< what the loader said
   int materials = -1;   ///< in the first list of the window
   int boxes_of_start = 0;
-  bool ran = false;  ///< a single wall of the first material
+  bool ran = false;      ///< a single wall of the first material
+  QString context_menu;  ///< of a field: its first entry
   int code = -1;
   bool yes = false;  ///< the answer to every question
   QTemporaryDir home;
@@ -82,6 +85,8 @@ struct Start {
     for (const char* command : {"TIPO_PARETE_SINGOLA_0", "esegui_calcolo"})
       window.findChild<QAction*>(command)->trigger();
     ran = window.findChild<QAction*>("tab_risultati")->isEnabled();
+    const std::unique_ptr<QMenu> menu(window.findChild<QLineEdit*>("Text5_0")->createStandardContextMenu());
+    context_menu = menu->actions().first()->text();
     window.close();
   }
 
@@ -122,6 +127,7 @@ class StartUpTest : public QObject {
     start.Run();
     QCOMPARE(start.boxes, QStringList());
     QVERIFY(start.ran);
+    QVERIFY2(start.context_menu.startsWith("&Annulla"), qPrintable(start.context_menu));
     QCOMPARE(start.code, 0);
     QVERIFY(start.materials >= 120);
     QVERIFY(fs::exists(start.Materials()));
@@ -156,6 +162,7 @@ class StartUpTest : public QObject {
     start.Run();
     QCOMPARE(start.boxes.size(), 1);
     QVERIFY2(start.boxes[0].startsWith("The file was missing"), qPrintable(start.boxes[0]));
+    QVERIFY2(start.context_menu.startsWith("&Undo"), qPrintable(start.context_menu));
     QVERIFY(fs::exists(start.Data() / storage::kMessageDatabase));
     QVERIFY(start.materials >= 120);
   }

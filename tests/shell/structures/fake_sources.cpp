@@ -20,7 +20,8 @@ ResultSource FakeResults::Source() {
     ++lists;
     if (locked) throw LockedFailure();
     std::vector<ResultEntry> entries;
-    for (const calculation::FacadePart& part : tables[kind]) entries.push_back({part.name, part.description});
+    for (const calculation::FacadePart& part : tables[kind])
+      entries.push_back({part.name, part.rating_db, part.description});
     return entries;
   };
   const auto place = [this](ResultKind kind, const std::string& name) {
@@ -32,6 +33,7 @@ ResultSource FakeResults::Source() {
     const auto found = place(kind, name);
     return found == tables[kind].end() ? std::nullopt : std::optional(*found);
   };
+  source.messages = [this](ResultKind /*kind*/, const std::string& name) { return messages[name]; };
   source.copy = [this, place](ResultKind kind, const std::string& name) {
     const auto found = place(kind, name);
     if (found == tables[kind].end()) return CopiedTable();

@@ -28,6 +28,7 @@ class FakeResults {
   ResultSource Source();
 
   std::map<ResultKind, std::vector<calculation::FacadePart>> tables{};
+  std::map<std::string, std::string> messages{};  ///< by the name of the result
   bool locked = false;
   int lists = 0;  ///< how often the list was read
 };

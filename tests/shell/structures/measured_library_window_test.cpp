@@ -64,22 +64,22 @@ class MeasuredLibraryWindowTest : public testing::Test {
 TEST_F(MeasuredLibraryWindowTest, TheTreeFollowsWhatIsChosenFor) {
   Open(0);
   EXPECT_EQ(Child<QTreeWidget>(*window_, "TreeView1").topLevelItem(0)->text(0), "Personalizzato");
-  EXPECT_EQ(Nodes(), (QStringList{"Dati standard Rw", "DB dati calcolati", "Dati in opera"}));
+  EXPECT_EQ(Nodes(), (QStringList{"Dati standard Rw", "Dati calcolati", "Dati in opera"}));
   EXPECT_EQ(window_->windowTitle(), "parte opaca: Database sperimentale");
   Open(3);
-  EXPECT_EQ(Nodes(), (QStringList{"Infissi", "Piccoli elementi", "DB dati calcolati", "Dati in opera"}));
+  EXPECT_EQ(Nodes(), (QStringList{"Infissi", "Piccoli elementi", "Dati calcolati", "Dati in opera"}));
   EXPECT_EQ(window_->windowTitle(), "componente 3: Database sperimentale");
 }
 
 TEST_F(MeasuredLibraryWindowTest, TheMenuShowsAllAirborneOrAllImpactDataToLookAt) {
   OpenFor(LibraryPurpose::kAirborneData);
   EXPECT_EQ(Nodes(), (QStringList{"Dati standard Rw", "Dati standard DRw", "Infissi", "Piccoli elementi",
-                                  "DB dati calcolati", "Dati in opera"}));
+                                  "Dati calcolati", "Dati in opera"}));
   EXPECT_EQ(window_->windowTitle(), "Database sperimentale - Dati di Rw");
   EXPECT_FALSE(Child<QPushButton>(*window_, "Command1").isVisible());
   OpenFor(LibraryPurpose::kImpactData);
   EXPECT_EQ(Nodes(),
-            (QStringList{"Dati standard Lnw", "Dati standard DLw", "DB dati calcolati", "Dati in opera"}));
+            (QStringList{"Dati standard Lnw", "Dati standard DLw", "Dati calcolati", "Dati in opera"}));
   EXPECT_EQ(window_->windowTitle(), "Database sperimentale - Dati di Lnw");
 }
 
@@ -115,11 +115,11 @@ INSTANTIATE_TEST_SUITE_P(
                     SymbolCase{"SmallElements", Branch::kSmallElements, LibraryPurpose::kAirborneData,
                                "Dnew(C,Ctr)= 45(-1, -5) dB", "Dn [dB]", true},
                     SymbolCase{"Floors", Branch::kFloors, LibraryPurpose::kImpactData, "Lnw(Ci)= 45(-1) dB",
-                               "Lni [dB]", true},
+                               "Ln,i [dB]", true},
                     SymbolCase{"Coverings", Branch::kCoverings, LibraryPurpose::kImpactData,
                                "DLw(Ci)= 45(-1) dB", "DLni [dB]", false},
                     SymbolCase{"FieldFloors", Branch::kFieldFloors, LibraryPurpose::kImpactData,
-                               "Lnw(Ci)= 45(-1) dB", "Lni [dB]", true}),
+                               "Lnw(Ci)= 45(-1) dB", "Ln,i [dB]", true}),
     [](const auto& test) { return std::string(test.param.name); });
 
 TEST_F(MeasuredLibraryWindowTest, RefreshingSeesWhatOthersChangedAndKeepsTheChoice) {
@@ -142,8 +142,8 @@ TEST_F(MeasuredLibraryWindowTest, RefreshingSeesWhatOthersChangedAndKeepsTheChoi
 
 TEST_F(MeasuredLibraryWindowTest, TabGoesAsOneReads) {
   Activate(OpenAt(1, "Vetrate", 0));
-  EXPECT_EQ(TabStops(*window_), (QStringList{"TreeView1", "Combo1", "List1_cerca", "List1", "Text2",
-                                             "Command2", "Command1", "Command3"}));
+  EXPECT_EQ(TabStops(*window_), (QStringList{"TreeView1", "Combo1", "List1_uso", "List1_cerca", "List1",
+                                             "Text2", "Command2", "Command1", "Command3"}));
 }
 
 TEST_F(MeasuredLibraryWindowTest, EveryButtonHasALetterOfItsOwn) {
@@ -155,7 +155,7 @@ TEST_F(MeasuredLibraryWindowTest, EveryButtonHasALetterOfItsOwn) {
   }
   EXPECT_EQ(letters.size(), 3);
   EXPECT_EQ(letters.removeDuplicates(), 0);
-  QTest::keyClick(window_.get(), Qt::Key_I, Qt::AltModifier);
+  QTest::keyClick(window_.get(), Qt::Key_D, Qt::AltModifier);
   EXPECT_TRUE(QTest::qWaitFor([this] { return window_->findChild<QDialog*>("Form10") != nullptr; }));
 }
 
@@ -300,7 +300,7 @@ TEST_F(MeasuredLibraryWindowTest, TheExtraDataHoldTheWindowUntilTheyAreClosed) {
   EXPECT_FALSE(window_->isEnabled());
   EXPECT_TRUE(extra->isEnabled());
   Picture(*extra, "form10");
-  EXPECT_EQ(extra->windowTitle(), "Informazioni aggiuntive - VELMARpro");
+  EXPECT_EQ(extra->windowTitle(), "Dati della prova in opera - VELMARpro");
   EXPECT_EQ(Child<QLabel>(*extra, "Label1_1").text().remove('&'), "Ss [m²]");
   EXPECT_EQ(Child<QLineEdit>(*extra, "Text1_0").text(), "12/05/1998");
   EXPECT_EQ(Child<QLineEdit>(*extra, "Text1_1").text(), "2,5");
@@ -337,7 +337,7 @@ TEST_F(MeasuredLibraryWindowTest, ExtraDataWithoutADateShowTheDefault) {
   Press("Command2");
   auto* extra = window_->findChild<QDialog*>("Form10");
   ASSERT_NE(extra, nullptr);
-  EXPECT_EQ(Child<QLineEdit>(*extra, "Text1_0").text(), "01/01/2000");
+  EXPECT_EQ(Child<QLineEdit>(*extra, "Text1_0").text(), "");
   QTest::keyClick(extra, Qt::Key_Escape);
   EXPECT_TRUE(window_->isEnabled());
 }

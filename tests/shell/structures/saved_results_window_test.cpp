@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QHeaderView>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMimeData>
 #include <QPlainTextEdit>
@@ -47,6 +48,19 @@ class SavedResultsWindowTest : public testing::Test {
   std::vector<std::string> removed_;
 };
 
+TEST_F(SavedResultsWindowTest, ALiningIsListedAndDeletedLikeTheOthers) {
+  results_.tables[ResultKind::kLining] = {PartOf("Controparete x", 12)};
+  Open(/*to_take=*/true);
+  QTest::mouseClick(&Child<QRadioButton>(*window_, "Option1_2"), Qt::LeftButton);
+  ASSERT_EQ(Grid().model()->rowCount(), 1);
+  EXPECT_EQ(Cell(0, 0), "Controparete x");
+  EXPECT_FALSE(Child<QPushButton>(*window_, "Seleziona").isEnabled());
+  Press("Elimina");
+  EXPECT_TRUE(results_.tables[ResultKind::kLining].empty());
+  EXPECT_EQ(removed_, std::vector<std::string>{"Controparete x"});
+  EXPECT_EQ(results_.tables[ResultKind::kAirborne].size(), 3U);
+}
+
 TEST_F(SavedResultsWindowTest, ListsNameAndDescriptionOfTheAirborneResultsFirst) {
   Open();
   Picture(*window_, "form7");
@@ -63,6 +77,15 @@ TEST_F(SavedResultsWindowTest, TheOptionShowsTheImpactResults) {
   Child<QRadioButton>(*window_, "Option1_1").click();
   ASSERT_EQ(Grid().model()->rowCount(), 1);
   EXPECT_EQ(Child<QLineEdit>(*window_, "Text2").text(), "Solaio x");
+}
+
+TEST_F(SavedResultsWindowTest, WhatTheRunOfAResultToldStandsBelowIt) {
+  results_.messages["Tramezzo"] = "Fuori dal campo di validità";
+  Open();
+  EXPECT_FALSE(Child<QLabel>(*window_, "Messaggi").isVisible());
+  Grid().selectRow(1);
+  EXPECT_TRUE(Child<QLabel>(*window_, "Messaggi").isVisible());
+  EXPECT_EQ(Child<QLabel>(*window_, "Messaggi").text(), "Fuori dal campo di validità");
 }
 
 TEST_F(SavedResultsWindowTest, LiningsAreNotOffered) {

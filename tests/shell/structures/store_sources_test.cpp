@@ -8,6 +8,7 @@
 #include <QListView>
 #include <QMimeData>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QTest>
 #include <memory>
 
@@ -79,6 +80,18 @@ TEST_F(StoreSourcesTest, AStoredResultIsListedCopiedTakenAndDeleted) {
   window.show();
   QTest::mouseClick(&Child<QPushButton>(window, "Elimina"), Qt::LeftButton);
   EXPECT_TRUE(storage::ResultsStore(places_.results).List(storage::ResultTable::kAirborne).empty());
+}
+
+TEST_F(StoreSourcesTest, AStoredLiningIsDeletedFromItsTable) {
+  Store(storage::ResultTable::kAirborne, "Parete x");
+  Store(storage::ResultTable::kLining, "Controparete x");
+  SavedResultsWindow window(boxes_.Tools(), StoredResults(places_.results), {});
+  window.show();
+  QTest::mouseClick(&Child<QRadioButton>(window, "Option1_2"), Qt::LeftButton);
+  ASSERT_EQ(Child<QLineEdit>(window, "Text2").text(), "Controparete x");
+  QTest::mouseClick(&Child<QPushButton>(window, "Elimina"), Qt::LeftButton);
+  EXPECT_TRUE(storage::ResultsStore(places_.results).List(storage::ResultTable::kLining).empty());
+  EXPECT_EQ(storage::ResultsStore(places_.results).List(storage::ResultTable::kAirborne).size(), 1U);
 }
 
 TEST_F(StoreSourcesTest, CalculatedResultsStandBesideTheMeasuredOnes) {

@@ -7,6 +7,7 @@
 #include <QTest>
 #include <clocale>
 
+#include "application/accuracy_file.h"
 #include "application/projects.h"
 #include "calculation/material_choice.h"
 #include "storage/materials/material_store.h"
@@ -63,6 +64,12 @@ std::vector<storage::ListedMaterial> ListOf(MaterialFamily family) {
   return {};
 }
 
+validation::Accuracy Known() {
+  static const validation::Accuracy accuracy = application::ReadAccuracy(
+      std::filesystem::path(SHARE) / application::kValidationFolder / application::kPredictionsFile);
+  return accuracy;
+}
+
 elements::Setup FirstSetup() {
   elements::Setup setup;
   calculation::SelectFirstMaterials(setup, &Rows<elements::StructuralMaterial>().front().record,
@@ -96,8 +103,24 @@ WindowFixture::WindowFixture() {
   };
   services.boxes.tell = [this](Tone, const QString& text) { told += text; };
   services.boxes.choose_file_to_open = [this](const FileQuestion&) { return file; };
-  services.boxes.choose_file_to_save = [this](const FileQuestion&) { return file; };
+  services.boxes.tell_written = [this](const QString& text, const std::filesystem::path& path) {
+    told += text;
+    written += QString::fromStdString(path.string());
+  };
+  services.boxes.choose_file_to_save = [this](const FileQuestion& question) {
+    to_save.push_back(question);
+    return file;
+  };
+  services.new_setup = FirstSetup;
+  services.ask_about_lost_work = [this](const std::vector<LostWork>& works) {
+    lost.push_back(works);
+    if (lost_answers.empty()) return LostWorkAnswer{};
+    const LostWorkAnswer answer = lost_answers.front();
+    lost_answers.erase(lost_answers.begin());
+    return answer;
+  };
   services.version = "2.0.0";
+  services.accuracy = validation::KnownAccuracy(Known);
   open.Replace(FirstSetup());
   services.overlay = &overlay;
   MakeWindow();
@@ -108,15 +131,24 @@ void WindowFixture::MakeWindow() {
   window = std::make_unique<MainWindow>(services);
 }
 
-void WindowFixture::Choose(const char* control) { Find<QAction>(control)->trigger(); }
+void WindowFixture::Choose(const char* control) {
+  // On the start screen a choice would bring the usual layers of its kind instead of the first materials.
+  if (!open.Setup().calculation) {
+    elements::Setup begun = open.Setup();
+    begun.calculation = elements::Calculation::kSingleWallGeneric;
+    open.Replace(std::move(begun));
+  }
+  Find<QAction>(control)->trigger();
+}
 
-void WindowFixture::Choose(elements::Calculation calculation) {
+QString WindowFixture::ControlOf(elements::Calculation calculation) const {
   const elements::CalculationRow& row = RowOf(calculation);
   const QString group = QString::fromUtf8(row.menu_group.data(), static_cast<int>(row.menu_group.size()));
   const QString entry = group + '_' + QString::number(row.menu_index);
-  const auto* of_several = window->findChild<QAction*>(entry);
-  Choose(qPrintable(of_several != nullptr ? entry : group));
+  return window->findChild<QAction*>(entry) != nullptr ? entry : group;
 }
+
+void WindowFixture::Choose(elements::Calculation calculation) { Choose(qPrintable(ControlOf(calculation))); }
 
 void WindowFixture::Run() { Find<QAction>("esegui_calcolo")->trigger(); }
 

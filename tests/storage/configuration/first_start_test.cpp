@@ -32,6 +32,12 @@ TEST_F(FirstStartTest, CopiesTheShippedDataWhole) {
   EXPECT_EQ(std::distance(fs::directory_iterator(data_.parent_path()), {}), 1) << "nothing unfinished stays";
 }
 
+TEST_F(FirstStartTest, WhatTheFirstVersionShippedIsNotCopied) {
+  WriteFile(shipped_ / "Former/Databases/InterfMess.mdb", "x");
+  PrepareDataFolder(data_, shipped_);
+  EXPECT_FALSE(fs::exists(data_ / "Former"));
+}
+
 TEST_F(FirstStartTest, NeverTouchesAFolderThatIsThere) {
   WriteFile(data_ / "mine.txt", "mine");
   EXPECT_EQ(PrepareDataFolder(data_, shipped_), DataFolderState::kThere);

@@ -24,10 +24,10 @@ class RowRepairTest : public testing::Test {
   RowRepairTest() { MakeTables(file_, {kSchema}); }
 
   std::vector<RowFault> Find(const RowRules& rules = kRules) {
-    return ReadDatabase(file_, [&](SQLite::Database& database) { return FindRowFaults(database, rules); });
+    return FindRowFaults(file_, rules);
   }
   std::vector<RowFault> Mend(const RowRules& rules = kRules) {
-    return ChangeDatabase(file_, [&](SQLite::Database& database) { return MendRows(database, rules); });
+    return MendRows(file_, rules);
   }
   std::vector<StoredRow> Rows() {
     return ReadDatabase(file_, [](SQLite::Database& database) { return TableRows(database, kSchema).All(); });

@@ -54,12 +54,51 @@ TEST_F(LibraryStoreTest, ReadsTestsAndTheirNulls) {
   EXPECT_FALSE(store_.Find(rw_, FileOf("a.mdb"), "altro"));
 }
 
+TEST_F(LibraryStoreTest, TellsWhatEachTestServesFor) {
+  MakeSeries("a.mdb");
+  MeasuredTest thirds;
+  thirds.name = "terzi";
+  for (std::size_t i = 3; i < 19; ++i) thirds.bands[i] = 40;
+  MeasuredTest octaves;
+  octaves.name = "ottave";
+  octaves.octaves[2] = 40;
+  octaves.rating = 38;
+  InsertRows(FileOf("a.mdb"), rw_.table, {CellsFromTest(rw_, thirds), CellsFromTest(rw_, octaves)});
+  const std::vector<ListedTest> tests = store_.Tests(rw_, FileOf("a.mdb"));
+  EXPECT_TRUE(tests[0].uses.facade_by_bands);
+  EXPECT_FALSE(tests[0].uses.facade_by_rating);
+  EXPECT_FALSE(tests[1].uses.facade_by_bands);
+  EXPECT_TRUE(tests[1].uses.facade_by_rating);
+  EXPECT_TRUE(tests[1].uses.comparison);
+}
+
 TEST_F(LibraryStoreTest, ToleratesMissingColumns) {
   fs::create_directories(FileOf("a.mdb").parent_path());
   Execute(FileOf("a.mdb"), {"CREATE TABLE rw_laboratorio (Nome TEXT, [RW (DB)] INTEGER)",
                             "INSERT INTO rw_laboratorio VALUES ('x', 51)"});
   EXPECT_EQ(store_.Tests(rw_, FileOf("a.mdb"))[0].keyword, "");
   EXPECT_EQ(store_.Find(rw_, FileOf("a.mdb"), "x")->rating, 51.0);
+}
+
+TEST_F(LibraryStoreTest, ASeriesOfAnEarlierVersionOpensUnchanged) {
+  fs::create_directories(FileOf("a.mdb").parent_path());
+  TableSchema old = rw_.table;
+  std::erase_if(old.columns, [](const ColumnSchema& column) {
+    return column.name.find("ttava") != std::string::npos || column.name.find("ndice") != std::string::npos ||
+           column.name == "Incertezza (dB)" || column.name == "Fonte";
+  });
+  ASSERT_EQ(old.columns.size(), 35U);
+  MakeTables(FileOf("a.mdb"), {old});
+  Execute(FileOf("a.mdb"), {"INSERT INTO Rw_laboratorio (Nome, [Rw (dB)], [R - 500Hz (dB)], Certificato) VALUES "
+                            "('Muro', 47, 41.5, '3/1991')"});
+  const std::string bytes = ReadFile(FileOf("a.mdb"));
+  ASSERT_EQ(store_.Tests(rw_, FileOf("a.mdb")).size(), 1U);
+  const auto test = store_.Find(rw_, FileOf("a.mdb"), "Muro");
+  EXPECT_EQ(test->rating, 47.0);
+  EXPECT_EQ(test->bands[10], 41.5);
+  EXPECT_EQ(test->certificate, "3/1991");
+  EXPECT_EQ(test->source, "");
+  EXPECT_TRUE(ReadFile(FileOf("a.mdb")) == bytes);
 }
 
 TEST_F(LibraryStoreTest, TheFileOfFieldDataStandsBeforeTheFieldFolders) {

@@ -58,7 +58,8 @@ INSTANTIATE_TEST_SUITE_P(
                     Golden{"pavimento_galleggiante", kFloorWithFloatingScreed},
                     Golden{"controplaccaggio_generico", kLiningGeneric},
                     Golden{"controplaccaggio_ossatura", kLiningFrame},
-                    Golden{"controsoffitto_sea", kCeilingSea}, Golden{"facciata", kCompositeElement}),
+                    Golden{"controsoffitto_sea", kCeilingSea}, Golden{"facciata", kCompositeElement},
+                    Golden{"multistrato", kMultilayerGeneric}),
     NameOf);
 
 /// Files of the older layouts hold the same set-ups; rows 6 and 7 are those of the running program.

@@ -83,23 +83,25 @@ void FillSeaCavity(elements::SeaCavity& cavity, RandomSource& random, int types)
   }
 }
 
+void FillCavityRow(elements::LayerRow<elements::FibrousMaterial>& row, RandomSource& random) {
+  row.slot.name = random.Text();
+  row.slot.description = random.Text();
+  row.slot.thickness_mm = random.Number();
+  row.multiplicity = 1 + random.Below(9);
+  row.slot.density_kg_m3 = random.Number();
+  row.slot.porous = random.Coin();
+  if (row.slot.porous) {
+    row.slot.flow_resistance_pa_s_m = random.Number();
+  } else {
+    FillSolid(row.slot, random);
+  }
+  Show(row);
+}
+
 void FillCavityLayers(elements::CavityLayers& layers, RandomSource& random) {
   layers.count = 1 + random.Below(7);
-  for (std::size_t i = 0; i < static_cast<std::size_t>(layers.count); ++i) {
-    auto& row = layers.rows.at(i);
-    row.slot.name = random.Text();
-    row.slot.description = random.Text();
-    row.slot.thickness_mm = random.Number();
-    row.multiplicity = 1 + random.Below(9);
-    row.slot.density_kg_m3 = random.Number();
-    row.slot.porous = random.Coin();
-    if (row.slot.porous) {
-      row.slot.flow_resistance_pa_s_m = random.Number();
-    } else {
-      FillSolid(row.slot, random);
-    }
-    Show(row);
-  }
+  for (std::size_t i = 0; i < static_cast<std::size_t>(layers.count); ++i)
+    FillCavityRow(layers.rows.at(i), random);
 }
 
 void FillResilient(elements::ResilientLayers& layers, RandomSource& random) {
@@ -168,6 +170,32 @@ void FillSea(Setup& setup, RandomSource& random) {
   FillSeaLeaf(setup.sea_leaf2, random);
 }
 
+void FillMultilayer(elements::Multilayer& list, RandomSource& random) {
+  using elements::StratumKind;
+  list.framed = random.Coin();
+  list.count = 1 + random.Below(elements::Multilayer::kCapacity);
+  for (int i = 0; i < list.count; ++i) {
+    elements::Stratum& stratum = list.strata.at(static_cast<std::size_t>(i));
+    stratum.kind = static_cast<StratumKind>(random.Below(elements::kStratumKindCount));
+    if (elements::TakesSolid(stratum.kind)) {
+      FillLeafRow(stratum.solid, random);
+    } else if (stratum.kind == StratumKind::kFibre) {
+      FillCavityRow(stratum.fibre, random);
+      stratum.flow_resistivity_pa_s_m2 = random.Number();
+    } else {
+      stratum.thickness_text = random.Text();
+    }
+    if (stratum.kind == StratumKind::kProfiledSheet) {
+      stratum.profile_height_text = random.Text();
+      stratum.profile_pitch_text = random.Text();
+    }
+    if (!list.BeginsCavity(i)) continue;
+    stratum.connection =
+        static_cast<elements::CavityConnection>(random.Below(elements::kCavityConnectionCount));
+    stratum.connection_text = random.Text();
+  }
+}
+
 void FillFamily(Setup& setup, Family family, RandomSource& random) {
   switch (family) {
     case Family::kSingle:
@@ -190,6 +218,8 @@ void FillFamily(Setup& setup, Family family, RandomSource& random) {
       return FillLining(setup, random);
     case Family::kFacade:
       return FillFacade(setup, random);
+    case Family::kMultilayer:
+      return FillMultilayer(setup.multilayer, random);
   }
 }
 

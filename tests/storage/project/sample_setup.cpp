@@ -1,5 +1,6 @@
 #include "tests/storage/project/sample_setup.h"
 
+#include <array>
 #include <string>
 
 #include "foundation/decimal.h"
@@ -71,6 +72,30 @@ class Sampler {
       row.multiplicity = 2;
       Show(row);
     }
+  }
+
+  void Multilayer(elements::Multilayer& list) {
+    using elements::StratumKind;
+    constexpr std::array kKinds = {
+        StratumKind::kPlate, StratumKind::kBondedPlate, StratumKind::kFibre,
+        StratumKind::kAir,   StratumKind::kPlate,       StratumKind::kInterlayer,
+        StratumKind::kPlate, StratumKind::kAir,         StratumKind::kProfiledSheet};
+    list.count = static_cast<int>(kKinds.size());
+    list.framed = true;
+    for (std::size_t i = 0; i < kKinds.size(); ++i) {
+      elements::Stratum& stratum = list.strata.at(i);
+      stratum.kind = kKinds.at(i);
+      if (elements::TakesSolid(stratum.kind)) Structural(stratum.solid);
+      if (stratum.kind == StratumKind::kFibre) {
+        Fibre(stratum.fibre);
+        stratum.flow_resistivity_pa_s_m2 = 12500.5;
+      }
+      if (elements::HasThicknessAlone(stratum.kind)) stratum.thickness_text = "1" + std::to_string(i) + ",5";
+    }
+    list.strata[2].connection = elements::CavityConnection::kSteelStuds;
+    list.strata[2].connection_text = "40";
+    list.strata[8].profile_height_text = "35";
+    list.strata[8].profile_pitch_text = "207";
   }
 
   template <typename Element>
@@ -205,7 +230,9 @@ Setup SampleSetup(Calculation calculation, Damping damping) {
   }
   setup.width_text = "4,5";
   setup.height_text = "2,70";
-  if (row.family == Family::kSingle) {
+  if (row.family == Family::kMultilayer) {
+    sampler.Multilayer(setup.multilayer);
+  } else if (row.family == Family::kSingle) {
     sampler.Leaf(setup.leaf1);
   } else if (row.family == Family::kSeaSingle) {
     sampler.SeaLeaf(setup.sea_leaf1);

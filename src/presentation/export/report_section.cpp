@@ -1,0 +1,44 @@
+#include "presentation/export/report_section.h"
+
+#include <QPainter>
+#include <algorithm>
+#include <set>
+
+#include "presentation/drawing/section_drawing.h"
+#include "presentation/export/drawn_picture.h"
+
+namespace velmar::presentation {
+namespace {
+
+constexpr QSizeF kWideMillimetres{169.0, 40.0};
+/// Within the cells from row 13 to row 23 beside the table of layers.
+constexpr QSizeF kSmallMillimetres{57.0, 56.0};
+constexpr std::size_t kMostNumbersInSmall = 9;
+
+std::size_t CountOfNumbers(const Section& section) {
+  std::set<int> numbers;
+  for (const Strip& strip : section.strips) {
+    if (strip.number != 0) numbers.insert(strip.number);
+  }
+  return numbers.size();
+}
+
+}  // namespace
+
+ReportSection ReportSectionOf(const elements::Setup& setup, const Words& words) {
+  const Section section = SectionOf(setup);
+  if (section.strips.empty()) return {};
+  const std::string alternative_text = SectionDescription(section.thickness_mm, words);
+  const auto picture = [&](const QSizeF& millimetres, const SectionOptions& options) {
+    return PictureOf(
+        millimetres, alternative_text,
+        [&](QPainter& painter, const QRectF& area) { DrawSection(painter, area, section, options); }, true);
+  };
+  SectionOptions options = PaperOptions(setup, words);
+  ReportSection drawn{.wide = picture(kWideMillimetres, options)};
+  options.list_names = false;
+  if (CountOfNumbers(section) <= kMostNumbersInSmall) drawn.small = picture(kSmallMillimetres, options);
+  return drawn;
+}
+
+}  // namespace velmar::presentation
