@@ -57,9 +57,10 @@ void ContinuousCalculation::Follow() {
     last_.reset();
   }
   if (open_.Result() || !open_.Setup().calculation) {
+    // A result that stood through a change, as that of a required rating, is no other one.
+    if (tried_ || !last_) NoteResult();
     tried_.reset();
     Await(Wait::kNothing);
-    NoteResult();
   } else if (tried_ != open_.Setup()) {
     Begin();
   }
@@ -123,6 +124,7 @@ void ContinuousCalculation::Finish() {
     Await(Wait::kNothing);
     open_.TakeResult(running_, std::move(*outcome.result));
     NoteResult();
+    tried_.reset();
     return;
   }
   const bool asks = outcome.status == RunStatus::kDeclined && !outcome.messages.empty();

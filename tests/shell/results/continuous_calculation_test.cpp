@@ -190,6 +190,19 @@ class ContinuousCalculationTest : public QObject {
     QVERIFY(Said(fixture, "LabelDifferenza").startsWith("▼ −"));
   }
 
+  void aRequiredRatingIsNoDifference() {
+    WindowFixture fixture;
+    fixture.window->show();
+    Switch(fixture);
+    fixture.Choose(kSingleGeneric);
+    fixture.Type("Text5_0", "100");
+    const QString before = Said(fixture, "LabelPrima");
+    const QString difference = Said(fixture, "LabelDifferenza");
+    fixture.Type("TextRequisito", "50");
+    QCOMPARE(Said(fixture, "LabelPrima"), before);
+    QCOMPARE(Said(fixture, "LabelDifferenza"), difference);
+  }
+
   void anOpenTableFollows() {
     WindowFixture fixture;
     fixture.window->show();
