@@ -8,13 +8,13 @@
 #include "elements/single_numbers.h"
 #include "foundation/decimal.h"
 #include "foundation/message_rows.h"
-#include "foundation/rounding.h"
 #include "presentation/reports/kind_of_element.h"
 #include "presentation/texts/box_number.h"
 #include "presentation/texts/calculation_labels.h"
 #include "presentation/texts/descriptions.h"
 #include "presentation/texts/facade_texts.h"
 #include "presentation/texts/result_lines.h"
+#include "presentation/texts/result_notes.h"
 #include "presentation/texts/results_table.h"
 
 namespace velmar::presentation {
@@ -39,17 +39,6 @@ std::string Improvement(Family family, const elements::ResultSet& result) {
     return "DRw= " + FormatLevel(result.delta_rw) + " dB";
   }
   return ImprovementLine(family, result);
-}
-
-/// The ranges that the user chose to leave, a line each.
-std::string RangesLeft(const elements::ResultSet& result, const Words& words) {
-  std::string text;
-  for (const acoustics::RangeLeft& range : result.ranges_left) {
-    text += (text.empty() ? "" : "\n") + InWords({range.check}, words);
-    if (!range.unit.empty())
-      text += " (" + FormatShortest(RoundToEven(range.value, 4)) + " " + std::string(range.unit) + ")";
-  }
-  return text;
 }
 
 /// The ratings of a base with its lining, out of the improved spectrum.
@@ -156,7 +145,7 @@ ReportRecord ReportRecordOf(const Setup& setup, const elements::ResultSet& resul
   FillDimensions(setup, family, record);
   record.result_line = ResultLine(family, result);
   record.improvement_line = Improvement(family, result);
-  record.messages = RangesLeft(result, words);
+  record.messages = Joined(RangeNotes(*setup.calculation, result, words));
   record.resulting_line = LiningRatings(*setup.calculation, result, words);
   record.rating_note = RatingNote(family, result, words);
   record.further_line = FurtherNumbersLine(*setup.calculation, result);
