@@ -5,16 +5,15 @@
 
 #include "acoustics/airborne_rating.h"
 #include "elements/catalogue.h"
-#include "elements/single_numbers.h"
 #include "foundation/decimal.h"
 #include "foundation/message_rows.h"
-#include "foundation/rounding.h"
 #include "presentation/reports/kind_of_element.h"
 #include "presentation/texts/box_number.h"
 #include "presentation/texts/calculation_labels.h"
 #include "presentation/texts/descriptions.h"
 #include "presentation/texts/facade_texts.h"
 #include "presentation/texts/result_lines.h"
+#include "presentation/texts/result_notes.h"
 #include "presentation/texts/results_table.h"
 
 namespace velmar::presentation {
@@ -37,32 +36,6 @@ std::string Improvement(Family family, const elements::ResultSet& result) {
     return "DRw= " + FormatLevel(result.delta_rw) + " dB";
   }
   return ImprovementLine(family, result);
-}
-
-/// The ranges that the user chose to leave, a line each.
-std::string RangesLeft(const elements::ResultSet& result, const Words& words) {
-  std::string text;
-  for (const acoustics::RangeLeft& range : result.ranges_left) {
-    text += (text.empty() ? "" : "\n") + InWords({range.check}, words);
-    if (!range.unit.empty())
-      text += " (" + FormatShortest(RoundToEven(range.value, 4)) + " " + std::string(range.unit) + ")";
-  }
-  return text;
-}
-
-/// The ratings of a base with its lining, out of the improved spectrum.
-std::string LiningRatings(elements::Calculation calculation, const elements::ResultSet& result,
-                          const Words& words) {
-  if (!IsLining(elements::RowOf(calculation).family) || !result.spectrum) return {};
-  elements::ResultSet resulting;
-  for (const elements::SingleNumber& number : elements::SingleNumbersOf(result, calculation)) {
-    const std::string_view key = number.key;
-    if (key == "Rw") resulting.rw = number.value;
-    if (key == "C") resulting.c = number.value;
-    if (key == "Ctr") resulting.ctr = number.value;
-  }
-  if (!resulting.rw || !resulting.c || !resulting.ctr) return {};
-  return words(kLiningRatingsRow) + " " + ResultLine(Family::kSingle, resulting);
 }
 
 /// Why the rating shown is not that of the curve: a relation moves the curve by a value that is not rounded.
@@ -153,8 +126,8 @@ ReportRecord ReportRecordOf(const Setup& setup, const elements::ResultSet& resul
   FillDimensions(setup, family, record);
   record.result_line = ResultLine(family, result);
   record.improvement_line = Improvement(family, result);
-  record.messages = RangesLeft(result, words);
-  record.resulting_line = LiningRatings(*setup.calculation, result, words);
+  record.messages = Joined(RangeNotes(*setup.calculation, result, words));
+  record.resulting_line = ResultingElementLine(*setup.calculation, result, words);
   record.rating_note = RatingNote(family, result, words);
   if (!record.rating_note.empty()) record.result_line += " *";
   record.further_line = FurtherNumbersLine(*setup.calculation, result);
@@ -175,6 +148,11 @@ ReportRecord ReportRecordOf(const Setup& setup, const elements::ResultSet& resul
     record.hanger_line = WithoutColon(words(kConnectionTypeRow)) + ": " + record.hanger;
   }
   return record;
+}
+
+void AddConfidence(ReportRecord& record, const Message& confidence, const Words& words) {
+  for (const MessageLine& line : confidence)
+    record.messages += (record.messages.empty() ? "" : "\n") + InWords(line, words);
 }
 
 std::string SectionDescription(double thickness_mm, const Words& words) {

@@ -155,19 +155,19 @@ TEST(WordReport, HeadsNothingThatIsEmpty) {
 
 TEST(WordReport, TellsTheRangesThatWereLeft) {
   ReportCase brick = ReportCases().front();
+  brick.setup.calculation = elements::Calculation::kSingleWallBrick;
   brick.result.ranges_left.push_back({.check = MessagePiece(kBrickMassRangeRow),
                                       .value = 504.0,
                                       .lowest = 80.0,
                                       .highest = 400.0,
-                                      .unit = "kg/m²"});
-  const ReportRecord record = RecordOf(brick);
-  const std::string told =
-      "La massa superficiale m' della parete è fuori dal campo di validità della relazione sperimentale (da "
-      "80 a "
-      "400 kg/m²). (504 kg/m²)";
+                                      .unit = "kg/m²",
+                                      .quantity = kRangeMassRow});
+  ReportRecord record = RecordOf(brick);
+  AddConfidence(record, {{std::string("Rw 52 dB, nessuna stima")}}, CatalogueWords());
   EXPECT_THAT(TextOf(Package(WriteWordReport(ShippedTemplate(WordTemplateName(record.family)), record).bytes),
                      kDocument),
-              HasSubstr(told + "\n"));
+              HasSubstr("relazione [1]: m' = 504 kg/m² (da 80 a 400). Calcolo proseguito per scelta "
+                        "dell'utente.\nRw 52 dB, nessuna stima\n"));
 }
 
 TEST(WordReport, TellsWhereTheRatingIsNotThatOfTheCurve) {
