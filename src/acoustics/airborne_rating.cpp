@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "acoustics/logarithm.h"
+#include "acoustics/rating_spectra.h"
 #include "acoustics/unfavourable_deviations.h"
 #include "foundation/failure.h"
 #include "foundation/rounding.h"
@@ -16,8 +17,6 @@ constexpr std::size_t k500Hz = 7;
 // Far beyond any level in dB; up to here every trial shift is an exact whole number.
 constexpr double kLargestLevel = 1e6;
 
-constexpr RatedValues kPinkNoise = {-29, -26, -23, -21, -19, -17, -15, -13,
-                                    -12, -11, -10, -9,  -9,  -9,  -9,  -9};
 constexpr RatedValues kTraffic = {-20, -20, -18, -16, -15, -14, -13, -12,
                                   -11, -9,  -8,  -9,  -10, -11, -13, -15};
 

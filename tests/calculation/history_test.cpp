@@ -135,6 +135,23 @@ TEST_F(Edited, ManyStepsAreKeptAndTheOldestGoFirst) {
   EXPECT_EQ(setup_.leaf1.rows[0].thickness_text, "199");
 }
 
+TEST_F(Edited, WhatIsNamedIsAStepOfItsOwn) {
+  const elements::Setup start = setup_;
+  const Step move{StepKind::kLayerMoved, {Field::kMaterial, LayerGroup::kLeaf1, 1}};
+  for (const int count : {2, 3}) {
+    const elements::Setup before = setup_;
+    setup_.leaf1.count = count;
+    history_.Note(before, setup_, move);
+  }
+  EXPECT_EQ(history_.ToUndo(), move);
+  setup_ = history_.Undo(setup_);
+  EXPECT_EQ(setup_.leaf1.count, 2);
+  setup_ = history_.Undo(setup_);
+  EXPECT_EQ(setup_, start);
+  history_.Note(setup_, setup_, move);
+  EXPECT_EQ(history_.ToUndo(), std::nullopt) << "nothing differs";
+}
+
 TEST(History, HasNothingToGoToAtFirst) {
   History history;
   EXPECT_THROW(history.Undo({}), std::logic_error);

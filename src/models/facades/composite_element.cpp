@@ -3,9 +3,12 @@
 #include <array>
 #include <cmath>
 #include <cstddef>
+#include <numeric>
 #include <string>
+#include <utility>
 
 #include "acoustics/logarithm.h"
+#include "acoustics/rating_spectra.h"
 #include "foundation/failure.h"
 #include "foundation/message_rows.h"
 #include "foundation/rounding.h"
@@ -93,6 +96,14 @@ double BandLevel(const std::vector<WeightedPart>& parts, std::size_t band) {
   return LevelOfShares(sum);
 }
 
+/// `energies` as shares of their sum.
+std::optional<std::vector<double>> Shared(std::vector<double> energies) {
+  const double sum = std::accumulate(energies.begin(), energies.end(), 0.0);
+  if (!(sum > 0.0) || !std::isfinite(sum)) return std::nullopt;
+  for (double& energy : energies) energy /= sum;
+  return energies;
+}
+
 }  // namespace
 
 double TightnessCorrection(int tightness_class) {
@@ -134,6 +145,30 @@ std::variant<CompositeRating, CompositeRefusal> CalculateCompositeRating(const C
   outcome.ctr_db = RoundToEven(LevelOfShares(ctr_sum) - outcome.rw_db);
   outcome.surface_mass_kg_m2 = MeanSurfaceMass(input);
   return outcome;
+}
+
+std::optional<std::vector<double>> SharesByBands(const CompositeElementInput& input) {
+  if (RefuseAreas(input)) return std::nullopt;
+  const std::vector<WeightedPart> parts = WeighParts(input);
+  if (RefuseMissingBands(parts)) return std::nullopt;
+  std::vector<double> energies;
+  for (const WeightedPart& weighted : parts) {
+    double energy = 0.0;
+    for (std::size_t j = 0; j < acoustics::kRatedBandCount; ++j) {
+      const double level = std::abs(weighted.part->bands_db[j + acoustics::kFirstRatedBand]);
+      energy += Transmitted(weighted.weight, level - weighted.correction_db - acoustics::kPinkNoise[j]);
+    }
+    energies.push_back(energy);
+  }
+  return Shared(std::move(energies));
+}
+
+std::optional<std::vector<double>> SharesByRating(const CompositeElementInput& input) {
+  if (RefuseAreas(input)) return std::nullopt;
+  std::vector<double> energies;
+  for (const auto& [part, weight, correction_db] : WeighParts(input))
+    energies.push_back(Transmitted(weight, part->rating_db - correction_db));
+  return Shared(std::move(energies));
 }
 
 }  // namespace velmar::models

@@ -82,4 +82,17 @@ std::variant<CompositeSpectrum, CompositeRefusal> CalculateCompositeSpectrum(
 /// @throws std::out_of_range for an unknown air-tightness class
 std::variant<CompositeRating, CompositeRefusal> CalculateCompositeRating(const CompositeElementInput& input);
 
+/// The share of each part in the energy that the element lets through, the opaque part first; they add up to
+/// 1. Of A-weighted pink noise in front of it (spectrum no. 1 of ISO 717-1, 100 Hz to 3150 Hz), so that what
+/// a part lets through in each band counts as in Rw + C.
+/// @return nothing when the components fill the area, a part has no value in a rated band, or nothing finite
+/// comes through
+/// @throws std::out_of_range for an unknown air-tightness class
+std::optional<std::vector<double>> SharesByBands(const CompositeElementInput& input);
+
+/// The same from the ratings alone, as in the sum that makes Rw.
+/// @return nothing when the components fill the area or nothing finite comes through
+/// @throws std::out_of_range for an unknown air-tightness class
+std::optional<std::vector<double>> SharesByRating(const CompositeElementInput& input);
+
 }  // namespace velmar::models

@@ -1,7 +1,6 @@
 #include <QPainter>
 #include <QPicture>
 #include <algorithm>
-#include <functional>
 
 #include "presentation/drawing/colours.h"
 #include "presentation/drawing/page_annex.h"
@@ -22,7 +21,6 @@ constexpr double kBandTableWidth = 2.4 * kPageInch;
 constexpr double kTallestChart = 3.8 * kPageInch;
 constexpr double kLargestChartPart = 0.44;
 constexpr std::size_t kLongLayerList = 14;
-constexpr double kDrawingPixels = kTextPoints * 96.0 / 72.0;
 
 /// The height of small text under the results, with a little air below it.
 double NoteHeight(const std::string& text, double width) {
@@ -101,15 +99,6 @@ class Composer {
     DrawRule();
   }
 
-  void DrawPixels(const QRectF& area, const std::function<void(const QRectF&)>& draw) {
-    painter_.save();
-    painter_.translate(area.topLeft());
-    painter_.scale(kPagePixel, kPagePixel);
-    painter_.setFont(PixelFont(QFont(QStringLiteral("Arial")), kDrawingPixels));
-    draw(QRectF(QPointF(), area.size() / kPagePixel));
-    painter_.restore();
-  }
-
   /// Chart and result at the left, the bands at the right.
   void DrawResult() {
     const double line = 1.35 * LineHeight(PageFont(kResultPoints, true));
@@ -135,7 +124,8 @@ class Composer {
     }
     const QRectF chart(left.topLeft(), QSizeF(left.width(), height - results));
     if (page_.chart) {
-      DrawPixels(chart, [&](const QRectF& area) { DrawCurveChart(painter_, area, *page_.chart); });
+      DrawInPixels(painter_, chart,
+                   [&](const QRectF& area) { DrawCurveChart(painter_, area, *page_.chart); });
       painter_.setPen(QPen(kVerticalGridColour, kFrameWidth));
       painter_.setBrush(Qt::NoBrush);
       painter_.drawRect(chart);
@@ -216,10 +206,13 @@ class Composer {
       section = room_;
     }
     if (section.isEmpty()) return;
-    SectionOptions options = page_.section_options;
-    options.list_names = false;
-    options.smallest_number_px = kSmallestPoints * 96.0 / 72.0;
-    DrawPixels(section, [&](const QRectF& area) { DrawSection(painter_, area, page_.section, options); });
+    const SectionOptions options = PageSectionOptions(page_);
+    if (SectionLabelPixels(section, page_, options) < options.smallest_number_px) {
+      rest_.section = true;
+      return;
+    }
+    DrawInPixels(painter_, section,
+                 [&](const QRectF& area) { DrawSection(painter_, area, page_.section, options); });
   }
 
   QPainter& painter_;

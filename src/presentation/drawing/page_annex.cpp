@@ -2,10 +2,13 @@
 
 #include <QPainter>
 #include <QPicture>
+#include <algorithm>
 
 #include "presentation/drawing/colours.h"
 #include "presentation/drawing/page_blocks.h"
 #include "presentation/drawing/page_text.h"
+#include "presentation/drawing/section_drawing.h"
+#include "presentation/drawing/section_layout.h"
 #include "presentation/drawing/text.h"
 
 namespace velmar::presentation {
@@ -15,6 +18,7 @@ constexpr double kInset = 0.55 * kPageInch;
 constexpr double kFootTop = 0.52 * kPageInch;
 constexpr double kFootBottom = 0.33 * kPageInch;
 constexpr double kGap = 0.06 * kPageInch;
+constexpr double kSectionHeight = 6.0 * kPageInch;
 
 /// The layers as a table that breaks across pages.
 PageTable LayerRows(const PaginaDiStampa& page) {
@@ -29,6 +33,20 @@ PageTable LayerRows(const PaginaDiStampa& page) {
 }
 
 }  // namespace
+
+SectionOptions PageSectionOptions(const PaginaDiStampa& page) {
+  SectionOptions options = page.section_options;
+  options.list_names = false;
+  options.smallest_number_px = kSmallestPoints * 96.0 / 72.0;
+  return options;
+}
+
+double SectionLabelPixels(const QRectF& area, const PaginaDiStampa& page, const SectionOptions& options) {
+  const QFont font = PixelFont(QFont(QStringLiteral("Arial")), kTextPoints * 96.0 / 72.0);
+  const SectionLayout layout =
+      LayoutOf(QRectF(QPointF(), area.size() / kPagePixel), page.section, font, options);
+  return layout.labels.empty() ? options.smallest_number_px : layout.label_px;
+}
 
 PageAnnex::PageAnnex(const QSizeF& paper, const PaginaDiStampa& page, const PageRest& rest)
     : paper_(paper), title_(page.title), foot_(page.foot) {
@@ -100,6 +118,15 @@ void PageAnnex::AddRest(const PaginaDiStampa& page, const PageRest& rest) {
     AddText(field.value, kTextPoints, false, 0.0);
   }
   if (rest.elements_from > 0) AddTable(page.elements, rest.weights, rest.first_left, rest.elements_from);
+  if (rest.section) {
+    Need(kSectionHeight);
+    const QRectF box(Room().topLeft(), QSizeF(Room().width(), std::min(kSectionHeight, Room().height())));
+    pages_.back().emplace_back([section = page.section, options = PageSectionOptions(page),
+                                box](QPainter& painter) {
+      DrawInPixels(painter, box, [&](const QRectF& area) { DrawSection(painter, area, section, options); });
+    });
+    top_ += box.height() + kGap;
+  }
   if (rest.structure) AddTable(LayerRows(page), {0.6, 7.0, 2.0}, false, 0);
 }
 

@@ -18,7 +18,14 @@ struct PageRest {
   std::vector<double> weights{};    ///< of that table's columns
   bool first_left = false;
   bool structure = false;  ///< the whole list of layers
+  bool section = false;    ///< the drawing, whose numbers would be too small there
 };
+
+/// How the pages draw their section.
+SectionOptions PageSectionOptions(const PaginaDiStampa& page);
+
+/// The height of the numbers of a section drawn into `area`, in pixels of 1/96 inch.
+double SectionLabelPixels(const QRectF& area, const PaginaDiStampa& page, const SectionOptions& options);
 
 /// The pages behind the first: what found no room there, then the inputs of the calculation and its
 /// references. Tables break between rows and repeat their heads. In tenths of a point, as the first page is.

@@ -27,6 +27,16 @@ QFont PageFont(double points, bool bold) {
   return PixelFont(QFont(QStringLiteral("Arial")), points * kPagePoint, bold);
 }
 
+void DrawInPixels(QPainter& painter, const QRectF& area,
+                  const std::function<void(const QRectF& pixels)>& draw) {
+  painter.save();
+  painter.translate(area.topLeft());
+  painter.scale(kPagePixel, kPagePixel);
+  painter.setFont(PixelFont(QFont(QStringLiteral("Arial")), kTextPoints * 96.0 / 72.0));
+  draw(QRectF(QPointF(), area.size() / kPagePixel));
+  painter.restore();
+}
+
 double LineHeight(const QFont& font) { return QFontMetricsF(font).lineSpacing(); }
 
 double WrappedHeight(const QString& text, const QFont& font, double width) {

@@ -3,6 +3,7 @@
 #include <QFont>
 #include <QRectF>
 #include <QString>
+#include <functional>
 
 class QPainter;
 
@@ -22,6 +23,10 @@ inline constexpr double kSmallestPoints = 7.0;
 
 /// The page's font: Arial, or what stands in for it.
 QFont PageFont(double points, bool bold = false);
+
+/// Lets `draw` fill `area` in pixels of 1/96 inch, with the font of charts and sections.
+void DrawInPixels(QPainter& painter, const QRectF& area,
+                  const std::function<void(const QRectF& pixels)>& draw);
 
 /// Distance of two lines of `font`.
 double LineHeight(const QFont& font);

@@ -14,6 +14,8 @@ namespace {
 
 constexpr double kListLine = 1.45;  // in text heights
 constexpr double kLargestListPart = 0.48;
+/// The deepest room for bent leaders, in text heights.
+constexpr double kSteepestBend = 2.9;
 constexpr double kSmallestBody = 0.2;  // of the area; names give way before the strips get smaller
 
 /// A number and its material.
@@ -282,18 +284,20 @@ SectionLayout LayoutOf(const QRectF& area, const Section& section, const QFont& 
                        : section.horizontal ? WidthOf(QStringLiteral("0000,0"), layout.font) + 0.6 * em
                                             : 1.5 * em;
 
-  const LabelBand band = section.horizontal ? BandOf(rows, section, layout, options.smallest_number_px,
-                                                     room.top(), room.bottom(), room.width())
-                                            : BandOf(rows, section, layout, options.smallest_number_px,
-                                                     room.left(), room.right(), room.height());
+  const double arrow = section.horizontal
+                           ? chain + 1.8 * em + WidthOf(DimensionText(section.thickness_mm), layout.font)
+                           : chain + 2.6 * em;
+  const double across = (section.horizontal ? room.width() : room.height()) - arrow - kSteepestBend * em;
+  const LabelBand band =
+      BandOf(rows, section, layout, options.smallest_number_px, section.horizontal ? room.top() : room.left(),
+             section.horizontal ? room.bottom() : room.right(), std::max(across, em));
   layout.label_px = band.lanes.text_px;
   if (section.horizontal) {
-    const double arrow_width = chain + 1.8 * em + WidthOf(DimensionText(section.thickness_mm), layout.font);
-    layout.body = room.adjusted(band.Depth(), 0.0, -arrow_width, 0.0);
-    layout.arrow = QRectF(layout.body.right(), layout.body.top(), arrow_width, layout.body.height());
+    layout.body = room.adjusted(band.Depth(), 0.0, -arrow, 0.0);
+    layout.arrow = QRectF(layout.body.right(), layout.body.top(), arrow, layout.body.height());
   } else {
-    layout.body = room.adjusted(0.0, band.Depth(), 0.0, -2.6 * em - chain);
-    layout.arrow = QRectF(layout.body.left(), layout.body.bottom(), layout.body.width(), 2.6 * em + chain);
+    layout.body = room.adjusted(0.0, band.Depth(), 0.0, -arrow);
+    layout.arrow = QRectF(layout.body.left(), layout.body.bottom(), layout.body.width(), arrow);
   }
   const bool cramped = layout.body.width() < kSmallestBody * area.width() ||
                        layout.body.height() < kSmallestBody * area.height();

@@ -9,7 +9,7 @@
 namespace velmar::presentation {
 namespace {
 
-constexpr QSizeF kMillimetres{116.0, 82.0};
+constexpr QSizeF kMillimetres{116.0, 66.0};
 
 }  // namespace
 

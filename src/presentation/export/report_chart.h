@@ -14,7 +14,7 @@ namespace velmar::presentation {
 std::optional<CurveChart> WholeChartOf(const elements::Setup& setup, const elements::ResultSet& result,
                                        const Words& words, std::optional<CurveChart> shown = std::nullopt);
 
-/// The chart of a result as the picture of a Word report, 116 mm by 82 mm at 300 dots an inch: as wide as the
+/// The chart of a result as the picture of a Word report, 116 mm by 66 mm at 300 dots an inch: as wide as the
 /// column beside the table of bands in the templates. Nothing when the calculation has no curve. A
 /// QGuiApplication must exist. @param shown as in WholeChartOf()
 std::optional<Picture> ReportChartOf(const elements::Setup& setup, const elements::ResultSet& result,

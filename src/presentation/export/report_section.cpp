@@ -10,7 +10,7 @@
 namespace velmar::presentation {
 namespace {
 
-constexpr QSizeF kWideMillimetres{169.0, 48.0};
+constexpr QSizeF kWideMillimetres{169.0, 40.0};
 /// Within the cells from row 13 to row 23 beside the table of layers.
 constexpr QSizeF kSmallMillimetres{57.0, 56.0};
 constexpr std::size_t kMostNumbersInSmall = 9;

@@ -12,6 +12,8 @@ namespace {
 
 const std::vector<double> kWidths = {10, 40, 11, 11, 11, 11, 11, 11, 11, 46};
 constexpr int kLastColumn = 10;
+/// The weight from which on a column holds sentences.
+constexpr double kWideColumn = 3.0;
 
 class DataSheet {
  public:
@@ -31,8 +33,9 @@ class DataSheet {
 
   void Table(const DataTable& table) {
     Title(table.title);
-    Row(table.heads, true);
-    for (const auto& row : table.rows) Row(row, false);
+    const bool wide = !table.weights.empty() && table.weights.back() >= kWideColumn;
+    Row(table.heads, true, wide);
+    for (const auto& row : table.rows) Row(row, false, wide);
     ++row_;
   }
 
@@ -47,7 +50,8 @@ class DataSheet {
   void Space() { ++row_; }
 
  private:
-  void Row(const std::vector<std::string>& cells, bool head) {
+  /// @param wide the last cell takes all columns that are left
+  void Row(const std::vector<std::string>& cells, bool head, bool wide) {
     int column = 1;
     for (const std::string& cell : cells) {
       const CellPlace place{row_, column++};
@@ -65,7 +69,10 @@ class DataSheet {
                              .horizontal = number || head ? "center" : "left",
                              .wrap = true,
                              .bold = head});
-      FitHeight(sheet_, row_, cell, place.column, place.column);
+      const bool spans = wide && place.column == static_cast<int>(cells.size());
+      const int last = spans ? kLastColumn : place.column;
+      if (spans && place.column < kLastColumn) sheet_.MergeRange(place, {row_, kLastColumn});
+      FitHeight(sheet_, row_, cell, place.column, last);
     }
     ++row_;
   }

@@ -22,6 +22,8 @@ namespace {
 using elements::Family;
 using elements::Setup;
 
+/// Of the project information.
+constexpr std::size_t kEngineerRow = 3;
 /// Rw is the reference curve at 500 Hz.
 constexpr double kRatingBelowShift = 4.0;
 
@@ -120,6 +122,7 @@ ReportRecord ReportRecordOf(const Setup& setup, const elements::ResultSet& resul
   const Family family = elements::RowOf(*setup.calculation).family;
   record.footer = FootText(setup.information, provenance);
   record.date = provenance.date;
+  record.engineer = setup.information[kEngineerRow].value;
   record.family = family;
   FillLabels(setup, family, words, record);
   FillBands(setup, family, record);
@@ -129,7 +132,6 @@ ReportRecord ReportRecordOf(const Setup& setup, const elements::ResultSet& resul
   record.messages = Joined(RangeNotes(*setup.calculation, result, words));
   record.resulting_line = ResultingElementLine(*setup.calculation, result, words);
   record.rating_note = RatingNote(family, result, words);
-  if (!record.rating_note.empty()) record.result_line += " *";
   record.further_line = FurtherNumbersLine(*setup.calculation, result);
   record.laboratory_data = Compared(words(kLaboratoryFrameRow), compared.laboratory);
   record.in_situ_data = Compared(words(kInSituRow), compared.in_situ);

@@ -28,17 +28,6 @@ struct ReportBand {
   std::string base{};       ///< of the element under a lining, as entered
 };
 
-/// Who signs a report. Every entry may be empty.
-struct Studio {
-  std::string name{};
-  std::string address{};
-  std::string engineer{};
-  std::string register_number{};
-  std::string footer{};
-  std::optional<Picture> logo{};
-  std::optional<Picture> signature{};
-};
-
 /// The drawing of an element's section. A facade has none.
 struct ReportSection {
   std::optional<Picture> wide{};   ///< with its legend, as wide as the text of a page
@@ -73,7 +62,7 @@ struct ReportRecord {
   std::string messages{};          ///< the ranges left and the interval, a line each
   std::string footer{};            ///< project, code, date and version, for the foot of the pages
   std::string date{};              ///< of the document
-  Studio studio{};
+  std::string engineer{};          ///< who signs
   std::string laboratory_data{};  ///< what the result was compared with: "Dati di laboratorio: ..."; or empty
   std::string in_situ_data{};
 

@@ -30,7 +30,7 @@ bool IsNumber(const std::string& cell) {
 }
 
 void AppendRow(pugi::xml_node table, const std::vector<std::string>& cells, const std::vector<int>& widths,
-               bool head) {
+               bool head, bool align) {
   pugi::xml_node row = table.append_child("w:tr");
   pugi::xml_node properties = row.append_child("w:trPr");
   properties.append_child("w:cantSplit");
@@ -40,7 +40,7 @@ void AppendRow(pugi::xml_node table, const std::vector<std::string>& cells, cons
     SetWidth(cell.append_child("w:tcPr").append_child("w:tcW"), widths[i]);
     pugi::xml_node paragraph = cell.append_child("w:p");
     AppendParagraph(paragraph, head ? "RelazioneTestata" : "RelazioneBande", cells[i]);
-    if (!head && IsNumber(cells[i]))
+    if (align && !head && IsNumber(cells[i]))
       paragraph.child("w:pPr").append_child("w:jc").append_attribute("w:val") = "right";
   }
 }
@@ -66,8 +66,8 @@ void FillTable(pugi::xml_node node, const DataTable& table) {
   const std::vector<int> widths = WidthsOf(table);
   pugi::xml_node grid = node.append_child("w:tblGrid");
   for (const int width : widths) grid.append_child("w:gridCol").append_attribute("w:w") = width;
-  if (!table.heads.empty()) AppendRow(node, table.heads, widths, true);
-  for (const auto& row : table.rows) AppendRow(node, row, widths, false);
+  if (!table.heads.empty()) AppendRow(node, table.heads, widths, true, true);
+  for (const auto& row : table.rows) AppendRow(node, row, widths, false, !table.heads.empty());
 }
 
 }  // namespace

@@ -62,8 +62,6 @@ WrittenReport WriteWordReport(std::string_view docx, const ReportRecord& record)
   document.RepeatRows(StructurePattern(record));
   if (record.chart) document.ReplaceByPicture("P1_RISULTATOGRAFICO", *record.chart);
   if (record.section.wide) document.ReplaceByPicture("P2_DISEGNO", *record.section.wide);
-  if (record.studio.logo) document.ReplaceByPicture("STUDIO_LOGO", *record.studio.logo);
-  if (record.studio.signature) document.ReplaceByPicture("STUDIO_FIRMA", *record.studio.signature);
   document.ReplaceByContent("P3_DATI", DataContent(record.data));
   document.Replace(TextPlaceholders(record));
   WrittenReport report;

@@ -48,6 +48,16 @@ DataField SupportField(const Setup& setup, const CalculationRow& row, const Word
   return {words(kSupportStudsCaptionRow), text.empty() ? kNothing : text + " cm"};
 }
 
+/// What joins the leaves of each cavity of a free list of layers.
+std::string ConnectionsOf(const elements::Multilayer& list, const Words& words) {
+  std::string texts;
+  for (int index = 0; index < list.Count(); ++index) {
+    const std::string text = ConnectionText(list, index, words);
+    if (!text.empty()) texts += (texts.empty() ? "" : "; ") + std::to_string(index + 1) + ": " + text;
+  }
+  return texts.empty() ? kNothing : texts;
+}
+
 /// A field that a set-up has once; nothing for those of layers, parts and base elements, which stand in
 /// tables.
 std::optional<DataField> FieldOf(Field field, const Setup& setup, const CalculationRow& row,
@@ -77,9 +87,18 @@ std::optional<DataField> FieldOf(Field field, const Setup& setup, const Calculat
     case Field::kSimplified:
       return DataField{words(kSimplifiedCaptionRow),
                        words(setup.facade.simplified ? kByRatingsRow : kByBandsRow)};
+    case Field::kConnection:
+      return DataField{words(kCavityConnectionRow), ConnectionsOf(setup.multilayer, words)};
+    case Field::kTracks:
+      return DataField{words(kTracksRow), setup.multilayer.framed ? words(kTickSetRow) : kNothing};
     case Field::kMaterial:
     case Field::kThickness:
     case Field::kSheets:
+    case Field::kStratumKind:
+    case Field::kStratumThickness:
+    case Field::kConnectionNumber:
+    case Field::kProfileHeight:
+    case Field::kProfilePitch:
     case Field::kTick:
     case Field::kDensity:
     case Field::kYoungsModulus:
@@ -176,7 +195,7 @@ DataTable LayerTable(const Setup& setup, const Words& words, const MaterialSourc
                   .weights = {0.6, 3.4, 1.1, 1.0, 1.0, 0.9, 0.8, 1.1, 1.2, 3.6}};
   ForEachLayer(setup, [&](const Layer& layer) {
     const LayerValues values = ValuesOf(setup, layer, sources);
-    table.rows.push_back({std::to_string(layer.number), layer.name, ThicknessOf(layer),
+    table.rows.push_back({std::to_string(layer.number), LayerName(setup, layer, words), ThicknessOf(layer),
                           Value(layer.density_kg_m3), Value(values.youngs_modulus_gpa),
                           Value(values.loss_factor), Value(values.poissons_ratio),
                           Value(values.dynamic_stiffness_mn_m3), Value(values.flow_resistance_pa_s_m),

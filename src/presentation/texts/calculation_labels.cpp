@@ -104,13 +104,13 @@ std::vector<InputText> ConnectionTexts(const elements::Setup& setup, const Words
 }
 
 std::string LayerName(const elements::Setup& setup, const elements::Layer& layer, const Words& words) {
-  const bool tells = layer.stratum && (layer.stratum == elements::StratumKind::kBondedPlate ||
-                                       layer.stratum == elements::StratumKind::kCore ||
-                                       layer.stratum == elements::StratumKind::kProfiledSheet);
-  if (!tells) return layer.name;
-  const std::string name =
-      layer.name + " (" + words({kPlateStratumRow.number + static_cast<int>(*layer.stratum)});
-  if (layer.stratum != elements::StratumKind::kProfiledSheet) return name + ")";
+  using elements::StratumKind;
+  if (!layer.stratum || *layer.stratum == StratumKind::kPlate || *layer.stratum == StratumKind::kFibre)
+    return layer.name;
+  const std::string kind = words({kPlateStratumRow.number + static_cast<int>(*layer.stratum)});
+  if (!elements::TakesSolid(*layer.stratum)) return kind;
+  const std::string name = layer.name + " (" + kind;
+  if (*layer.stratum != StratumKind::kProfiledSheet) return name + ")";
   const elements::Stratum& row = setup.multilayer.strata.at(static_cast<std::size_t>(layer.row));
   return name + ", " + words(kProfileHeightRow) + " " + row.profile_height_text + ", " +
          words(kProfilePitchRow) + " " + row.profile_pitch_text + ")";

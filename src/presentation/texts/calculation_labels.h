@@ -52,7 +52,7 @@ std::vector<InputText> ConnectionTexts(const elements::Setup& setup, const Words
 std::string WithoutColon(std::string caption);
 
 /// The name of a layer; in a free list of layers with what it is there, where it is more than a plate:
-/// "Cartongesso (Lastra incollata)".
+/// "Cartongesso (Lastra incollata)", "PVB".
 std::string LayerName(const elements::Setup& setup, const elements::Layer& layer, const Words& words);
 
 /// What joins the leaves of the cavity that begins at row `index` of a free list of layers, with how many or

@@ -33,6 +33,8 @@ MessageRow ModelReferenceRow(Model model) {
       return kFacadeReferenceRow;
     case Model::kImpactFloor:
       return kImpactReferenceRow;
+    case Model::kLayered:
+      return kLayeredSourceRow;
   }
   return {};
 }

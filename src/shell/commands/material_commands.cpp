@@ -6,6 +6,7 @@
 #include "elements/parts.h"
 #include "foundation/message_rows.h"
 #include "foundation/utf8.h"
+#include "materials/copied_material.h"
 #include "materials/keywords.h"
 #include "shell/fields/put_material.h"
 #include "shell/material_editors/edit_material.h"
@@ -26,7 +27,10 @@ MaterialEditor EditorOf(storage::MaterialStore& store, const presentation::Words
 MaterialCommands::MaterialCommands(calculation::OpenCalculation& open, const Speech& speech,
                                    const std::filesystem::path& settings,
                                    const std::filesystem::path& database, MaterialEditor editor)
-    : open_(open), own_(speech, settings, "materiali.ini"), source_(StoredMaterials(database)) {
+    : open_(open),
+      own_(speech, settings, "materiali.ini"),
+      store_(database),
+      source_(StoredMaterials(database)) {
   if (!editor) return;
   source_.edit = [this, editor = std::move(editor)](QWidget* parent, MaterialFamily family,
                                                     const std::string& name) {
@@ -35,6 +39,9 @@ MaterialCommands::MaterialCommands(calculation::OpenCalculation& open, const Spe
 }
 
 void MaterialCommands::Serve(PageServices& pages) {
+  pages.duplicate_material = [this, &pages](QWidget* parent, const LayerPick& pick) {
+    Duplicate(parent, pick, pages);
+  };
   pages.pick_material = [this, &pages](QWidget* parent, const LayerPick& pick) {
     const auto put = [this, &pages, pick](const std::string& name) {
       open_.Edit([&](elements::Setup& setup) {
@@ -44,6 +51,29 @@ void MaterialCommands::Serve(PageServices& pages) {
     Open(parent, MaterialPick{RowOf(pick.group).family,
                               calculation::LayerTextOf(open_.Setup(), pick.group, pick.row).listed, put});
   };
+}
+
+void MaterialCommands::Duplicate(QWidget* parent, const LayerPick& pick, const PageServices& pages) {
+  const MaterialFamily family = RowOf(pick.group).family;
+  const calculation::LayerText row = calculation::LayerTextOf(open_.Setup(), pick.group, pick.row);
+  std::optional<materials::CopiedMaterial> copy;
+  if (!own_.tools.Try([&] { copy = materials::CopyMaterial(store_, family, row.listed); })) return;
+  if (!copy) {
+    own_.tools.tell(own_.tools.Text(kEditedMaterialGoneRow) + ' ' + ToQt(row.listed));
+    return;
+  }
+  const MaterialListWindow::Listener listener = MakeListener();
+  const auto take = [&](const MaterialChange& change) {
+    listener.changed(change);
+    open_.Edit([&](elements::Setup& setup) {
+      calculation::PutMaterial(setup, pick.group, pick.row, change.name, pages.materials);
+      if (!row.thickness_text.empty())
+        calculation::EnterLayerThickness(setup, pick.group, pick.row, row.thickness_text);
+    });
+  };
+  take({family, "", copy->name, copy->keyword});
+  if (!source_.edit) return;
+  if (const auto edited = source_.edit(parent, family, copy->name)) take(*edited);
 }
 
 void MaterialCommands::ShowList(QWidget* parent) { Open(parent, std::nullopt); }

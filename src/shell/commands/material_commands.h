@@ -59,10 +59,13 @@ class MaterialCommands : public QObject {
 
  private:
   void Open(QWidget* parent, std::optional<MaterialPick> wanted);
+  /// The material of a layer row once more as one of the user's own, in the row with the row's thickness.
+  void Duplicate(QWidget* parent, const LayerPick& pick, const PageServices& pages);
   MaterialListWindow::Listener MakeListener();
 
   calculation::OpenCalculation& open_;
   OwnTools own_;
+  storage::MaterialStore store_;
   MaterialSource source_;
   QPointer<MaterialTreeWindow> tree_;
 };

@@ -1,12 +1,15 @@
 #include "shell/fields/material_box.h"
 
+#include <QAbstractItemView>
 #include <QClipboard>
+#include <QCompleter>
 #include <QDragEnterEvent>
 #include <QDropEvent>
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QMimeData>
+#include <utility>
 
 #include "shell/fields/pasted_bands.h"
 #include "shell/fields/put_material.h"
@@ -27,6 +30,33 @@ MaterialBox::MaterialBox(const QString& object_name, elements::MaterialFamily fa
   setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
   setAcceptDrops(true);
   lineEdit()->setAcceptDrops(false);
+}
+
+void MaterialBox::Tell(FactsOf facts) { facts_ = std::move(facts); }
+
+void MaterialBox::showPopup() {
+  if (!IsTyped()) {
+    emit AboutToOffer();
+    ShowAgain();
+  }
+  if (facts_) {
+    auto* delegate = qobject_cast<FactsDelegate*>(view()->itemDelegate());
+    if (delegate == nullptr) {
+      delegate = new FactsDelegate(facts_, view());
+      view()->setItemDelegate(delegate);
+    }
+    delegate->Forget();
+    view()->setMinimumWidth(width() + FactsDelegate::RoomFor(fontMetrics()));
+  }
+  SearchedBox::showPopup();
+}
+
+void MaterialBox::focusInEvent(QFocusEvent* event) {
+  SearchedBox::focusInEvent(event);
+  if (!facts_ || completer() == nullptr || std::exchange(hits_tell_, true)) return;
+  QAbstractItemView* hits = completer()->popup();
+  hits->setItemDelegate(new FactsDelegate(facts_, hits));
+  hits->setMinimumWidth(width() + FactsDelegate::RoomFor(fontMetrics()));
 }
 
 bool MaterialBox::event(QEvent* event) {

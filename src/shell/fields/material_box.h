@@ -2,6 +2,7 @@
 
 #include "elements/layer_groups.h"
 #include "shell/fields/dragged_material.h"
+#include "shell/fields/facts_delegate.h"
 #include "shell/fields/searched_box.h"
 
 class QMimeData;
@@ -19,13 +20,20 @@ class MaterialBox : public SearchedBox {
 
   /// Chooses `material` as if it were dropped here. @return false when it is of another family
   bool Put(const DraggedMaterial& material);
+  /// The list tells `facts` beside each name from now on.
+  void Tell(FactsOf facts);
+
+  void showPopup() override;
 
  signals:
+  /// The list is about to open: its names may take another order now.
+  void AboutToOffer();
   /// A table was pasted: lines of cells, as a spreadsheet copies them.
   void TablePasted(const QString& text);
 
  protected:
   bool event(QEvent* event) override;
+  void focusInEvent(QFocusEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void keyReleaseEvent(QKeyEvent* event) override;
   void dragEnterEvent(QDragEnterEvent* event) override;
@@ -36,6 +44,8 @@ class MaterialBox : public SearchedBox {
   bool Takes(const QMimeData& mime) const;
 
   elements::MaterialFamily family_;
+  FactsOf facts_{};
+  bool hits_tell_ = false;    ///< the hits of what is typed tell their facts
   bool pasted_name_ = false;  ///< with the key that is still down
 };
 

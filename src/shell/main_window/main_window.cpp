@@ -29,6 +29,7 @@
 #include "shell/pages/input_tabs.h"
 #include "shell/results/requirement_line.h"
 #include "shell/results/results_panel.h"
+#include "shell/results/variant_strip.h"
 #include "shell/second_opinion/second_opinion_panel.h"
 
 namespace velmar::shell {
@@ -84,6 +85,7 @@ MainWindow::MainWindow(const WindowServices& services, QWidget* parent)
                 this),
       calculations_(services.words, this) {
   setObjectName("Form1");
+  materials_.Remember(services.places.settings);
   setWindowIcon(ProductIcon());
   setAcceptDrops(true);
   recent_ = FillMenuBar(*menuBar(), commands_, calculations_, services.words);
@@ -98,6 +100,9 @@ MainWindow::MainWindow(const WindowServices& services, QWidget* parent)
   AddContinuousSwitch();
   // Shortcuts work whether or not their menu was ever open.
   for (const Command& command : Commands()) addAction(commands_.Of(command.id));
+  variants_ = new VariantStrip(services.open, services, results_);
+  results_->AddOverlay(variants_->Curves());
+  results_->AddFoot(variants_);
   opinion_ = new SecondOpinionPanel(services.open, services, services.accuracy, this);
   results_->AddOverlay(opinion_->Curves());
   results_->AddFoot(opinion_);
@@ -174,6 +179,9 @@ void MainWindow::Connect() {
   connect(start_, &StartScreen::KindChosen, this, &MainWindow::Begin);
   connect(start_, &StartScreen::ProjectChosen, this, &MainWindow::OpenProject);
   connect(&commands_, &CommandSet::AboutToAct, &context_, &PageContext::SettleAsked);
+  connect(edit_menu_, &EditMenu::SettleAsked, &context_, &PageContext::SettleAsked);
+  connect(edit_menu_, &EditMenu::FixVariantWanted, variants_, &VariantStrip::Fix);
+  connect(variants_, &VariantStrip::SettleAsked, &context_, &PageContext::SettleAsked);
   connect(&commands_, &CommandSet::AboutToAct, results_->Requirement(), &RequirementLine::Settle);
   connect(&files_, &ProjectFiles::Opened, tabs_, &InputTabs::FocusFirst);
   connect(&files_, &ProjectFiles::Emptied, this, [this] {
@@ -233,6 +241,7 @@ void MainWindow::ShowAll() {
   calculations_.Mark(*setup.calculation);
   header_->Show();
   tabs_->Show(setup);
+  variants_->Show();
   results_->Show();
   opinion_->Follow();
 }

@@ -30,6 +30,7 @@ class InputTabs;
 class ResultsPanel;
 class SecondOpinionPanel;
 class StartScreen;
+class VariantStrip;
 
 /// The main window (`Form1`): composes commands, pages and results around the one open calculation, and owns
 /// no rule.
@@ -84,6 +85,7 @@ class MainWindow : public QMainWindow {
   CalculationActions calculations_;
   CommandToolBar* tool_bar_ = nullptr;
   EditMenu* edit_menu_ = nullptr;
+  VariantStrip* variants_ = nullptr;
   QMenu* recent_ = nullptr;
   QLabel* said_ = nullptr;
   QTimer silence_;

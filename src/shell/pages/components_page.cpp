@@ -15,6 +15,7 @@
 #include "shell/fields/list_boxes.h"
 #include "shell/fields/phrases.h"
 #include "shell/pages/element_form.h"
+#include "shell/pages/facade_table.h"
 #include "shell/pages/layer_row.h"
 #include "shell/pages/page_parts.h"
 
@@ -46,10 +47,17 @@ ElementNames NamesOf(int i) {
 ComponentsPage::ComponentsPage(PageContext& context, QWidget* parent) : Page(parent), context_(context) {
   QVBoxLayout* column = PageLayout(this);
   AddHead(*column);
+  table_ = new FacadeTable(context, this);
+  column->addWidget(table_);
+  column->addSpacing(kPageSpacing);
   tabs_ = new QTabWidget(this);
   tabs_->setObjectName("SSTab2");
   for (int i = 0; i < elements::Facade::kCapacity; ++i) components_.push_back(AddComponent(i));
   column->addWidget(tabs_, 1);
+  connect(table_, &FacadeTable::ComponentWanted, this, [this](int number) {
+    tabs_->setCurrentIndex(number - 1);
+    components_.at(static_cast<std::size_t>(number - 1)).form->setFocus(Qt::OtherFocusReason);
+  });
 }
 
 void ComponentsPage::AddHead(QVBoxLayout& column) {
@@ -116,6 +124,7 @@ ComponentsPage::Component ComponentsPage::AddComponent(int index) {
 void ComponentsPage::Show(const elements::Setup& setup) {
   count_->Show(setup.facade.count_text);
   simplified_->setChecked(setup.facade.simplified);
+  table_->Show(setup);
   const int count = setup.facade.Count();
   for (int i = 0; i < static_cast<int>(components_.size()); ++i) {
     const Component& component = components_.at(static_cast<std::size_t>(i));

@@ -16,8 +16,9 @@ namespace velmar::shell {
 class ChoiceBox;
 class CountBox;
 class ElementForm;
+class FacadeTable;
 
-/// The components of a facade, one inner tab each.
+/// The parts of a facade in a table, and under it the components, one inner tab each.
 class ComponentsPage : public Page {
  public:
   explicit ComponentsPage(PageContext& context, QWidget* parent = nullptr);
@@ -37,6 +38,7 @@ class ComponentsPage : public Page {
   PageContext& context_;
   CountBox* count_ = nullptr;
   QCheckBox* simplified_ = nullptr;
+  FacadeTable* table_ = nullptr;
   QTabWidget* tabs_ = nullptr;
   std::vector<Component> components_;
 };

@@ -20,8 +20,8 @@ ElementName::ElementName(int element, const ElementSourceNames& names, PageConte
   auto* line = new QHBoxLayout(this);
   line->setContentsMargins(0, 0, 0, 0);
   line->addWidget(name_, 1);
-  line->addWidget(MakeChooser(names.chooser));
-  line->addWidget(MakeMeasured(names.measured));
+  if (!names.chooser.isEmpty()) line->addWidget(MakeChooser(names.chooser));
+  if (!names.measured.isEmpty()) line->addWidget(MakeMeasured(names.measured));
 }
 
 void ElementName::Show(const elements::Setup& setup) {

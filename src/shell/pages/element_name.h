@@ -12,7 +12,7 @@ namespace velmar::shell {
 
 class NameBox;
 
-/// The control names of an element's sources.
+/// The control names of an element's sources; an empty one leaves its button away.
 struct ElementSourceNames {
   QString name{};
   QString chooser{};

@@ -2,7 +2,6 @@
 
 #include <QApplication>
 #include <QCheckBox>
-#include <QDrag>
 #include <QEvent>
 #include <QGridLayout>
 #include <QLabel>
@@ -23,6 +22,8 @@
 #include "shell/fields/number_steps.h"
 #include "shell/fields/pasted_bands.h"
 #include "shell/fields/phrases.h"
+#include "shell/pages/layer_tools.h"
+#include "shell/pages/material_facts.h"
 
 namespace velmar::shell {
 namespace {
@@ -60,6 +61,13 @@ LayerRow::LayerRow(const LayerRowPlan& plan, PageContext& context, QGridLayout& 
     : QObject(page), plan_(plan), context_(context) {
   MakeLead(page);
   MakeFields(page);
+  if (number_ != nullptr) {
+    tools_ = new LayerTools(plan.group, plan.index, context, number_, page);
+    for (QWidget* field : {static_cast<QWidget*>(material_), static_cast<QWidget*>(thickness_),
+                           static_cast<QWidget*>(sheets_), static_cast<QWidget*>(chooser_)}) {
+      if (field != nullptr) tools_->Serve(field);
+    }
+  }
   MoveTo(grid, line);
   ForEachWidget([this](QWidget* widget) { widget->installEventFilter(this); });
   connect(&context_, &PageContext::SectionHovered, this,
@@ -101,6 +109,11 @@ void LayerRow::MakeFields(QWidget* page) {
                               context_.materials.NamesOf(plan_.group), page);
   material_->setAccessibleDescription(Text(words, kMaterialRow) + row);
   connect(material_, &MaterialBox::Chosen, this, &LayerRow::PutMaterial);
+  connect(material_, &MaterialBox::AboutToOffer, this, [this] { context_.materials.PutOnTop(plan_.group); });
+  material_->Tell([this, family = group.family](const QString& name) {
+    const QString facts = MaterialFacts(context_.services.materials, family, ToUtf8(name));
+    return context_.materials.Known().IsFavourite(family, name) ? QStringLiteral("★ ") + facts : facts;
+  });
   connect(material_, &MaterialBox::TablePasted, this, &LayerRow::PutTable);
   context_.Watch(material_);
 
@@ -149,11 +162,13 @@ void LayerRow::MoveTo(QGridLayout& grid, int line) {
   grid.addWidget(thickness_, line, kThicknessColumn + plan_.shift);
   if (sheets_ != nullptr) grid.addWidget(sheets_, line, kSheetsColumn + plan_.shift);
   grid.addWidget(chooser_, line, kChooserColumn + plan_.shift);
+  if (tools_ != nullptr) grid.addWidget(tools_->Button(), line, kToolsColumn + plan_.shift);
 }
 
 template <typename Visit>
 void LayerRow::ForEachWidget(Visit&& visit) const {
-  const std::array<QWidget*, 6> widgets = {check_, number_, material_, thickness_, sheets_, chooser_};
+  QWidget* tools = tools_ != nullptr ? tools_->Button() : nullptr;
+  const std::array<QWidget*, 7> widgets = {check_, number_, material_, thickness_, sheets_, chooser_, tools};
   for (QWidget* widget : widgets) {
     if (widget != nullptr) visit(widget);
   }
@@ -166,7 +181,9 @@ bool LayerRow::Holds(const QWidget* widget) const {
 }
 
 void LayerRow::PutMaterial(const std::string& name) {
-  if (!Knows(context_.services.materials, RowOf(plan_.group).family, name)) return;
+  const elements::MaterialFamily family = RowOf(plan_.group).family;
+  if (!Knows(context_.services.materials, family, name)) return;
+  context_.materials.Known().Use(family, FromUtf8(name));
   context_.Edit([&](elements::Setup& setup) {
     calculation::PutMaterial(setup, plan_.group, plan_.index, name, context_.services.materials);
   });
@@ -220,15 +237,9 @@ bool LayerRow::eventFilter(QObject* watched, QEvent* event) {
   } else if (event->type() == QEvent::Leave) {
     emit context_.RowHovered(std::nullopt);
   } else if (event->type() == QEvent::MouseMove && watched == number_) {
-    if (static_cast<QMouseEvent*>(event)->buttons() & Qt::LeftButton) Drag();
+    if (static_cast<QMouseEvent*>(event)->buttons() & Qt::LeftButton) tools_->Drag(material_->currentText());
   }
   return QObject::eventFilter(watched, event);
-}
-
-void LayerRow::Drag() {
-  auto* drag = new QDrag(number_);
-  drag->setMimeData(ToMime({RowOf(plan_.group).family, material_->currentText()}));
-  drag->exec(Qt::CopyAction);
 }
 
 std::vector<QWidget*> AddLayerHeads(QGridLayout& grid, int line, const PageContext& context, bool with_sheets,

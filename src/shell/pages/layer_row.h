@@ -15,6 +15,7 @@ class QWidget;
 namespace velmar::shell {
 
 class CountBox;
+class LayerTools;
 class MaterialBox;
 class NumberField;
 
@@ -29,7 +30,7 @@ struct LayerRowPlan {
 };
 
 /// One row of a layer table, in one line of a grid: number or check, material, thickness, sheets, button of
-/// the material list. Columns: kLeadColumn to kChooserColumn.
+/// the material list, tools of the row. Columns: kLeadColumn to kToolsColumn.
 class LayerRow : public QObject {
   Q_OBJECT
 
@@ -39,6 +40,7 @@ class LayerRow : public QObject {
   static constexpr int kThicknessColumn = 2;
   static constexpr int kSheetsColumn = 3;
   static constexpr int kChooserColumn = 4;
+  static constexpr int kToolsColumn = 5;
 
   LayerRow(const LayerRowPlan& plan, PageContext& context, QGridLayout& grid, int line, QWidget* page);
 
@@ -61,7 +63,6 @@ class LayerRow : public QObject {
   /// A table was pasted over this row and those below it.
   void PutTable(const QString& text);
   void LeaveThickness();
-  void Drag();
   void Light(bool lit);
   template <typename Visit>
   void ForEachWidget(Visit&& visit) const;
@@ -74,6 +75,7 @@ class LayerRow : public QObject {
   NumberField* thickness_ = nullptr;
   CountBox* sheets_ = nullptr;
   QToolButton* chooser_ = nullptr;
+  LayerTools* tools_ = nullptr;  ///< of rows that stand for themselves, not of damping
 };
 
 /// The heads over the columns of layer rows: material, thickness, and sheets where the rows have them.

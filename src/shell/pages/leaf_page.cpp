@@ -9,6 +9,7 @@
 #include "shell/fields/list_boxes.h"
 #include "shell/fields/phrases.h"
 #include "shell/pages/layer_row.h"
+#include "shell/pages/layer_tools.h"
 #include "shell/pages/page_parts.h"
 
 namespace velmar::shell {
@@ -44,6 +45,7 @@ LeafPage::LeafPage(Leaf leaf, PageContext& context, QWidget* parent)
                                       context, *column, this);
   count_ = head.count;
   filter_ = head.filter;
+  turning_ = new TurningButtons(*head.line, context, controls.count, this);
   context_.Watch(count_);
   connect(count_, &CountBox::Edited, this, [this, controls](const std::string& text) {
     context_.Edit([&](elements::Setup& setup) {
@@ -70,6 +72,7 @@ const elements::LeafLayers& LeafPage::Layers(const elements::Setup& setup) const
 void LeafPage::Show(const elements::Setup& setup) {
   const elements::LeafLayers& layers = Layers(setup);
   count_->Show(std::to_string(layers.count));
+  turning_->Show(setup);
   ShowFilter(*filter_, ControlsOf(leaf_).filter, context_);
   for (int i = 0; i < static_cast<int>(rows_.size()); ++i)
     rows_.at(static_cast<std::size_t>(i))->Show(setup, i < layers.count);

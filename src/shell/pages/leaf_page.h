@@ -10,6 +10,7 @@ namespace velmar::shell {
 class CountBox;
 class FilterBox;
 class LayerRow;
+class TurningButtons;
 
 /// The layers of a leaf, a bearing floor or a screed: count, keyword filter, up to ten rows. The same page
 /// serves both leaves.
@@ -29,6 +30,7 @@ class LeafPage : public Page {
   CountBox* count_ = nullptr;
   FilterBox* filter_ = nullptr;
   std::vector<LayerRow*> rows_;
+  TurningButtons* turning_ = nullptr;
 };
 
 }  // namespace velmar::shell

@@ -1,6 +1,9 @@
 #include "shell/pages/material_lists.h"
 
+#include <QHash>
 #include <algorithm>
+#include <functional>
+#include <limits>
 
 #include "foundation/failure.h"
 #include "foundation/message_rows.h"
@@ -132,6 +135,23 @@ QStringListModel* MaterialLists::NamesOf(LayerGroup group) {
     default:
       return &all_.at(At(RowOf(group).family));
   }
+}
+
+void MaterialLists::PutOnTop(LayerGroup group) {
+  QStringListModel* offered = NamesOf(group);
+  const MaterialFamily family = RowOf(group).family;
+  const QStringList now = offered->stringList();
+  // What stood on top before goes back to its place among the others.
+  QHash<QString, qsizetype> places;
+  for (const storage::ListedMaterial& material : Of(family))
+    if (const QString name = FromUtf8(material.name); !places.contains(name))
+      places.insert(name, places.size());
+  QStringList names = now;
+  std::ranges::stable_sort(names, std::ranges::less(), [&](const QString& name) {
+    return places.value(name, std::numeric_limits<qsizetype>::max());
+  });
+  names = known_.OnTop(family, names);
+  if (names != now) offered->setStringList(names);
 }
 
 QStringList MaterialLists::Keywords(FilterId filter) const {

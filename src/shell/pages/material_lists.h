@@ -10,6 +10,7 @@
 #include "materials/keywords.h"
 #include "presentation/texts/words.h"
 #include "shell/fields/material_change.h"
+#include "shell/pages/known_materials.h"
 #include "shell/pages/page_services.h"
 
 namespace velmar::shell {
@@ -23,6 +24,12 @@ inline constexpr std::size_t kFilterCount = 4;
 class MaterialLists {
  public:
   MaterialLists(const presentation::Words& words, const PageServices& services);
+
+  /// What a user reaches for is remembered in `file` from now on; empty: until the program ends.
+  void Remember(const std::filesystem::path& file) { known_ = KnownMaterials(file); }
+  KnownMaterials& Known() { return known_; }
+  /// Favourites and what was used last stand first in what the rows of `group` offer.
+  void PutOnTop(elements::LayerGroup group);
 
   /// Reads the tables again, as after an edit of the material database. The filters keep their keywords.
   void Reload();
@@ -53,6 +60,7 @@ class MaterialLists {
   std::array<QStringListModel, kFilterCount> filtered_;
   std::array<QStringListModel, 3> all_;
   QStringListModel cavity_damping_;
+  KnownMaterials known_{};
 };
 
 }  // namespace velmar::shell

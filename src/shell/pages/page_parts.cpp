@@ -33,6 +33,7 @@ QLabel* LabelFor(QWidget* field, MessageRow row, const PageContext& context, QWi
 TableHead AddTableHead(const TableHeadPlan& plan, PageContext& context, QVBoxLayout& column, QWidget* page) {
   TableHead head;
   QHBoxLayout* line = AddLine(column);
+  head.line = line;
   head.count = new CountBox(plan.count_name, plan.lowest, plan.highest, page);
   head.count->setAccessibleDescription(Text(context.Words(), plan.count_label));
   head.count_label = LabelFor(head.count, plan.count_label, context, page);

@@ -33,6 +33,7 @@ QLabel* LabelFor(QWidget* field, MessageRow row, const PageContext& context, QWi
 
 /// Count of materials and keyword filter, the line over a table of layers.
 struct TableHead {
+  QHBoxLayout* line = nullptr;  ///< more may stand behind
   CountBox* count = nullptr;
   FilterBox* filter = nullptr;
   QLabel* count_label = nullptr;

@@ -40,6 +40,8 @@ struct PageServices {
   std::function<std::optional<calculation::FacadePart>(const std::string& name)> saved_result{};
 
   std::function<void(QWidget* parent, const LayerPick&)> pick_material{};
+  /// Makes a material of the user's own from the one in the row, puts it there and opens its editor.
+  std::function<void(QWidget* parent, const LayerPick&)> duplicate_material{};
   std::function<void(QWidget* parent, const ElementPick&)> pick_saved_result{};
   std::function<void(QWidget* parent, const ElementPick&)> pick_measured{};
 };

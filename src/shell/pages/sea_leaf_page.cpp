@@ -10,6 +10,7 @@
 #include "shell/fields/list_boxes.h"
 #include "shell/fields/phrases.h"
 #include "shell/pages/layer_row.h"
+#include "shell/pages/layer_tools.h"
 #include "shell/pages/page_parts.h"
 
 namespace velmar::shell {
@@ -41,9 +42,10 @@ SeaLeafPage::SeaLeafPage(Side side, PageContext& context, QWidget* parent)
   const SideControls controls = ControlsOf(side);
   constexpr int kCapacity = elements::SeaLeaf::kCapacity;
   QVBoxLayout* column = PageLayout(this);
-  count_ =
-      AddTableHead({.count_name = controls.count, .lowest = 1, .highest = kCapacity}, context, *column, this)
-          .count;
+  const TableHead table_head =
+      AddTableHead({.count_name = controls.count, .lowest = 1, .highest = kCapacity}, context, *column, this);
+  count_ = table_head.count;
+  turning_ = new TurningButtons(*table_head.line, context, controls.count, this);
   context_.Watch(count_);
   connect(count_, &CountBox::Edited, this, [this, controls](const std::string& text) {
     context_.Edit([&](elements::Setup& setup) {
@@ -78,6 +80,7 @@ SeaLeafPage::SeaLeafPage(Side side, PageContext& context, QWidget* parent)
 void SeaLeafPage::Show(const elements::Setup& setup) {
   const int count = side_ == Side::kFirst ? setup.sea_leaf1.count : setup.sea_leaf2.count;
   count_->Show(std::to_string(count));
+  turning_->Show(setup);
   for (int i = 0; i < static_cast<int>(rows_.size()); ++i)
     rows_.at(static_cast<std::size_t>(i))->Show(setup, i < count);
   for (int j = 0; j < static_cast<int>(damping_.size()); ++j)

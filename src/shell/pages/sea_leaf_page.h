@@ -9,6 +9,7 @@ namespace velmar::shell {
 
 class CountBox;
 class LayerRow;
+class TurningButtons;
 
 /// One side of a SEA wall, or the lining: up to three layers, each with a damping layer to its left and
 /// right.
@@ -25,6 +26,7 @@ class SeaLeafPage : public Page {
   Side side_;
   CountBox* count_ = nullptr;
   std::vector<LayerRow*> rows_;
+  TurningButtons* turning_ = nullptr;
   std::vector<LayerRow*> damping_;
 };
 

@@ -30,7 +30,7 @@ using elements::StratumKind;
 constexpr const char* kSheets = "ComboLastre";
 constexpr int kLinesOfRow = 2;
 constexpr int kThicknessColumn = LayerRow::kThicknessColumn + StratumRow::kShift;
-constexpr int kButtonsColumn = LayerRow::kChooserColumn + StratumRow::kShift + 1;
+constexpr int kMenuColumn = LayerRow::kChooserColumn + StratumRow::kShift + 1;
 
 QStringList Items(const presentation::Words& words, MessageRow first, int count) {
   QStringList items;
@@ -64,8 +64,8 @@ StratumRow::StratumRow(int index, PageContext& context, QGridLayout& grid, QWidg
   thickness_ = MakeText("TextSpessoreStrato", kLayerThicknessRow, &Stratum::thickness_text, page);
   thickness_->setToolTip(Text(context.Words(), kLayerThicknessTipRow));
   grid.addWidget(thickness_, line, kThicknessColumn);
-  MakeButtons(page);
-  grid.addWidget(buttons_, line, kButtonsColumn);
+  MakeMenu(page);
+  grid.addWidget(more_, line, kMenuColumn);
   MakeDetail(grid, page);
 }
 
@@ -95,50 +95,38 @@ void StratumRow::Move(int places) {
   emit Moved(to);
 }
 
-void StratumRow::MakeButtons(QWidget* page) {
+void StratumRow::MakeMenu(QWidget* page) {
   const auto& words = context_.Words();
-  buttons_ = new QWidget(page);
-  auto* line = new QHBoxLayout(buttons_);
-  line->setContentsMargins(0, 0, 0, 0);
-  line->setSpacing(0);
-  const auto button = [&](const char* name, const char* icon, MessageRow tip) {
-    auto* made = new QToolButton(buttons_);
-    made->setObjectName(ArrayName(name, index_));
-    made->setIcon(LineIcon(icon));
-    made->setToolTip(Text(words, tip));
-    made->setAccessibleName(Text(words, tip) + ' ' + QString::number(index_ + 1));
-    made->setAutoRaise(true);
-    line->addWidget(made);
-    return made;
-  };
-  up_ = button("CommandStratoSu", "row-up", kMoveStratumUpRow);
-  down_ = button("CommandStratoGiu", "row-down", kMoveStratumDownRow);
-  // The keys and the menu move rows too; two more stops a row would only be in the way of Tab.
-  up_->setFocusPolicy(Qt::NoFocus);
-  down_->setFocusPolicy(Qt::NoFocus);
-  connect(up_, &QToolButton::clicked, this, [this] { Move(-1); });
-  connect(down_, &QToolButton::clicked, this, [this] { Move(+1); });
-
-  auto* more = button("CommandAzioniStrato", "more", kStratumActionsRow);
-  more->setFocusPolicy(Qt::TabFocus);
-  more->setPopupMode(QToolButton::InstantPopup);
-  more->setStyleSheet("QToolButton::menu-indicator { image: none; }");
-  menu_ = new QMenu(more);
-  more->setMenu(menu_);
+  more_ = new QToolButton(page);
+  more_->setObjectName(ArrayName("CommandAzioniStrato", index_));
+  more_->setIcon(LineIcon("more"));
+  more_->setToolTip(Text(words, kStratumActionsRow));
+  more_->setAccessibleName(Text(words, kStratumActionsRow) + ' ' + QString::number(index_ + 1));
+  more_->setAutoRaise(true);
+  more_->setFocusPolicy(Qt::TabFocus);
+  more_->setPopupMode(QToolButton::InstantPopup);
+  more_->setStyleSheet("QToolButton::menu-indicator { image: none; }");
+  auto* menu = new QMenu(more_);
+  more_->setMenu(menu);
   const auto action = [&](const char* name, MessageRow row, auto&& act) {
-    QAction* made = menu_->addAction(Text(words, row));
+    QAction* made = menu->addAction(Text(words, row));
     made->setObjectName(ArrayName(name, index_));
     connect(made, &QAction::triggered, this, act);
+    return made;
   };
-  action("StratoInserisciSopra", kInsertStratumAboveRow,
-         [this] { Rearrange([&](Setup& setup) { calculation::InsertStratum(setup, index_); }); });
-  action("StratoInserisciSotto", kInsertStratumBelowRow,
-         [this] { Rearrange([&](Setup& setup) { calculation::InsertStratum(setup, index_ + 1); }); });
-  action("StratoDuplica", kDuplicateStratumRow,
-         [this] { Rearrange([&](Setup& setup) { calculation::DuplicateStratum(setup, index_); }); });
-  menu_->addSeparator();
-  action("StratoElimina", kRemoveStratumRow,
-         [this] { Rearrange([&](Setup& setup) { calculation::RemoveStratum(setup, index_); }); });
+  up_ = action("StratoSu", kMoveStratumUpRow, [this] { Move(-1); });
+  down_ = action("StratoGiu", kMoveStratumDownRow, [this] { Move(+1); });
+  menu->addSeparator();
+  adding_ = {
+      action("StratoInserisciSopra", kInsertStratumAboveRow,
+             [this] { Rearrange([&](Setup& setup) { calculation::InsertStratum(setup, index_); }); }),
+      action("StratoInserisciSotto", kInsertStratumBelowRow,
+             [this] { Rearrange([&](Setup& setup) { calculation::InsertStratum(setup, index_ + 1); }); }),
+      action("StratoDuplica", kDuplicateStratumRow,
+             [this] { Rearrange([&](Setup& setup) { calculation::DuplicateStratum(setup, index_); }); })};
+  menu->addSeparator();
+  remove_ = action("StratoElimina", kRemoveStratumRow,
+                   [this] { Rearrange([&](Setup& setup) { calculation::RemoveStratum(setup, index_); }); });
 }
 
 void StratumRow::MakeDetail(QGridLayout& grid, QWidget* page) {
@@ -161,7 +149,7 @@ void StratumRow::MakeDetail(QGridLayout& grid, QWidget* page) {
   add(profile_pitch_, kProfilePitchRow);
   line->addStretch(1);
   const int below = 2 + index_ * kLinesOfRow;
-  grid.addWidget(detail_, below, kKindColumn, 1, kButtonsColumn - kKindColumn);
+  grid.addWidget(detail_, below, kKindColumn, 1, kMenuColumn - kKindColumn);
 }
 
 void StratumRow::MakeConnection(QBoxLayout& line, QWidget* page) {
@@ -207,7 +195,7 @@ void StratumRow::Show(const Setup& setup, bool visible) {
   number_->setVisible(visible && bare);
   kind_->setVisible(visible);
   thickness_->setVisible(visible && bare);
-  buttons_->setVisible(visible);
+  more_->setVisible(visible);
   if (!visible) {
     detail_->hide();
     return;
@@ -220,10 +208,8 @@ void StratumRow::Show(const Setup& setup, bool visible) {
   const int count = setup.multilayer.Count();
   up_->setEnabled(index_ > 0);
   down_->setEnabled(index_ + 1 < count);
-  for (QAction* action : menu_->actions()) {
-    const bool removes = action->objectName().startsWith("StratoElimina");
-    action->setEnabled(removes ? count > 1 : count < elements::Multilayer::kCapacity);
-  }
+  for (QAction* action : adding_) action->setEnabled(count < elements::Multilayer::kCapacity);
+  remove_->setEnabled(count > 1);
   ShowDetail(setup);
 }
 
@@ -246,7 +232,7 @@ void StratumRow::ShowDetail(const Setup& setup) {
 
 bool StratumRow::Holds(const QWidget* widget) const {
   if (widget == nullptr) return false;
-  const std::array<const QWidget*, 4> own = {kind_, thickness_, buttons_, detail_};
+  const std::array<const QWidget*, 4> own = {kind_, thickness_, more_, detail_};
   const bool is_own = std::ranges::any_of(
       own, [widget](const QWidget* one) { return one == widget || one->isAncestorOf(widget); });
   return is_own || solid_->Holds(widget) || fibre_->Holds(widget);

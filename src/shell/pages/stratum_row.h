@@ -8,10 +8,10 @@
 #include "foundation/message.h"
 #include "shell/pages/page_context.h"
 
+class QAction;
 class QBoxLayout;
 class QGridLayout;
 class QLabel;
-class QMenu;
 class QToolButton;
 class QWidget;
 
@@ -22,7 +22,7 @@ class LayerRow;
 class NumberField;
 
 /// One row of the free list of layers, in two lines of a grid: number, kind, material or nothing, thickness,
-/// sheets, button of the material list, arrows and a menu; below it what connects the leaves of the cavity
+/// sheets, button of the material list, menu of the row; below it what connects the leaves of the cavity
 /// that begins here, or the shape of a profiled sheet.
 class StratumRow : public QObject {
   Q_OBJECT
@@ -50,7 +50,7 @@ class StratumRow : public QObject {
 
  private:
   void MakeKind(QWidget* page);
-  void MakeButtons(QWidget* page);
+  void MakeMenu(QWidget* page);
   void MakeDetail(QGridLayout& grid, QWidget* page);
   void MakeConnection(QBoxLayout& line, QWidget* page);
   NumberField* MakeText(const char* name, MessageRow caption, std::string elements::Stratum::*text,
@@ -66,10 +66,11 @@ class StratumRow : public QObject {
   LayerRow* solid_ = nullptr;
   LayerRow* fibre_ = nullptr;
   NumberField* thickness_ = nullptr;
-  QWidget* buttons_ = nullptr;
-  QToolButton* up_ = nullptr;
-  QToolButton* down_ = nullptr;
-  QMenu* menu_ = nullptr;
+  QToolButton* more_ = nullptr;
+  QAction* up_ = nullptr;
+  QAction* down_ = nullptr;
+  std::vector<QAction*> adding_;
+  QAction* remove_ = nullptr;
   QWidget* detail_ = nullptr;
   std::vector<QWidget*> of_cavity_;     ///< shown where a cavity begins
   std::vector<QWidget*> of_connected_;  ///< shown where something connects its leaves

@@ -46,7 +46,7 @@ bool Exists(const fs::path& file) {
 }  // namespace
 
 fs::path OwnMeasurements::FileOf(const LibraryFolder& folder) const {
-  return root_ / folder.folder / (std::string(kOwnSeries) + ".mdb");
+  return root_ / folder.folder / fs::path(kOwnSeries).concat(".mdb");
 }
 
 std::vector<MeasuredTest> OwnMeasurements::All(const LibraryFolder& folder) const {

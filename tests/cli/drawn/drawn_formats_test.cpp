@@ -51,9 +51,9 @@ class DrawnTest : public testing::TestWithParam<const char*> {
   }
 };
 
-TEST_P(DrawnTest, PageIsAPdfOfOnePageWithoutADisplay) {
+TEST_P(DrawnTest, PagesAreAPdfWithoutADisplay) {
   const std::string pdf = BytesOf("pdf", ContentOf(GetParam()));
-  EXPECT_THAT(pdf, AllOf(StartsWith("%PDF"), HasSubstr("/Count 1\n"), HasSubstr("%%EOF")));
+  EXPECT_THAT(pdf, AllOf(StartsWith("%PDF"), HasSubstr("/Count "), HasSubstr("%%EOF")));
   EXPECT_GT(pdf.size(), 5000U);
 }
 
@@ -65,8 +65,9 @@ INSTANTIATE_TEST_SUITE_P(Families, DrawnTest,
 TEST_P(DrawnTest, WordAndExcelReportsAreWrittenWithoutADisplay) {
   const ReportContent content = ContentOf(GetParam());
   const presentation::Package word(BytesOf("docx", content));
-  EXPECT_EQ(word.Has("word/media/velmar1.png"), presentation::ShownBands(content.setup).has_value());
-  EXPECT_TRUE(presentation::Package(BytesOf("xlsx", content)).Has("xl/charts/chart1.xml"));
+  EXPECT_TRUE(word.Has("word/media/velmar1.png")) << "a chart, a section, or both";
+  EXPECT_EQ(presentation::Package(BytesOf("xlsx", content)).Has("xl/charts/chart1.xml"),
+            presentation::ShownBands(content.setup).has_value());
 }
 
 TEST_F(DrawnTest, AMissingTemplateIsNamed) {

@@ -74,7 +74,7 @@ std::map<std::string, std::string> BandRows(const std::string& text) {
   }
   for (std::string level, reference; std::getline(lines, level) && std::getline(lines, reference);) {
     rows.emplace(frequency, level);
-    if (!std::getline(lines, frequency)) break;
+    if (!std::getline(lines, frequency) || frequency.empty()) break;
   }
   return rows;
 }

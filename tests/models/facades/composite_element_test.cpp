@@ -305,5 +305,44 @@ TEST(CompositeElement, RandomFacadesGiveFiniteNumbersWhateverTheOrder) {
   EXPECT_GT(calculated, 1000);
 }
 
+// 8 m² of 50 dB and a window of 2 m² and 40 dB: 0,8 against 2 parts in a hundred thousand.
+TEST(Shares, AreThoseOfAreaAndTransmission) {
+  const CompositeElementInput input = Facade(50.0, {{.part = FlatPart(40.0), .area_m2 = 2.0}});
+  for (const auto& shares : {SharesByBands(input), SharesByRating(input)}) {
+    ASSERT_TRUE(shares);
+    EXPECT_NEAR(shares->at(0), 0.8 / 2.8, 1e-12);
+    EXPECT_NEAR(shares->at(1), 2.0 / 2.8, 1e-12);
+  }
+}
+
+TEST(Shares, SeeTheTightnessAndTheSmallElements) {
+  const CompositeElementInput input =
+      Facade(50.0, {{.part = FlatPart(50.0), .area_m2 = 5.0, .tightness_class = 4},
+                    {.part = FlatPart(50.0), .area_m2 = 0.0, .tightness_class = 1}});
+  const auto shares = SharesByBands(input);
+  ASSERT_TRUE(shares);
+  EXPECT_NEAR(shares->at(1) / shares->at(0), std::pow(10.0, 0.2), 1e-12) << "2 dB of class 4";
+  EXPECT_NEAR(shares->at(2) / shares->at(0), 2.0, 1e-12) << "10 m² against 5 m², and no class";
+}
+
+TEST(Shares, WeighTheBandsAsPinkNoise) {
+  // The wall lets everything through at 100 Hz, the window everything at 1250 Hz, where A-weighted pink noise
+  // has 20 dB more.
+  CompositeElementInput input = Facade(200.0, {{.part = FlatPart(200.0), .area_m2 = 5.0}});
+  input.opaque.bands_db[3] = 10.0;
+  input.components[0].part.bands_db[14] = 10.0;
+  const auto shares = SharesByBands(input);
+  ASSERT_TRUE(shares);
+  EXPECT_NEAR(shares->at(1) / shares->at(0), 100.0, 1e-9);
+}
+
+TEST(Shares, AreNothingWhereTheElementIsRefused) {
+  EXPECT_FALSE(SharesByBands(Facade(50.0, {{.part = FlatPart(40.0), .area_m2 = 10.0}})));
+  EXPECT_FALSE(SharesByRating(Facade(50.0, {{.part = FlatPart(40.0), .area_m2 = 10.0}})));
+  CompositeElementInput input = Facade(50.0, {{.part = FlatPart(40.0), .area_m2 = 2.0}});
+  input.opaque.bands_db[10] = 0.0;
+  EXPECT_FALSE(SharesByBands(input));
+}
+
 }  // namespace
 }  // namespace velmar::models

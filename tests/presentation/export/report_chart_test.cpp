@@ -85,10 +85,10 @@ TEST(ReportChartOf, IsASharpPictureAsWideAsItsColumn) {
   const auto picture = ReportChartOf(samples::PlasteredBrickWall(), samples::Result(), CatalogueWords());
   ASSERT_TRUE(picture);
   EXPECT_EQ(picture->width_emu, 116 * 36000);
-  EXPECT_EQ(picture->height_emu, 82 * 36000);
+  EXPECT_EQ(picture->height_emu, 66 * 36000);
   const QImage image = QImage::fromData(QByteArray::fromStdString(picture->png), "PNG");
   EXPECT_NEAR(image.width(), 116.0 / 25.4 * 300.0, 1.0);
-  EXPECT_NEAR(image.height(), 82.0 / 25.4 * 300.0, 1.0);
+  EXPECT_NEAR(image.height(), 66.0 / 25.4 * 300.0, 1.0);
   EXPECT_EQ(image.pixelColor(1, 1), QColor(Qt::white));
   EXPECT_NE(picture->alternative_text.find("Rw(C; Ctr)= 51,0 (-1; -3) dB"), std::string::npos);
 }

@@ -82,7 +82,7 @@ TEST(WordDocument, ReplacesInHeaders) {
 TEST(WordDocument, TellsWhatIsLeft) {
   WordDocument document(DocumentOf(Paragraph({"[P1_", "MIO] [P1_NORMA]"})));
   document.Replace({{"P1_NORMA", "[P1_FALSO]"}});
-  EXPECT_THAT(document.Left(), ElementsAre("[CODICE_ALLEGATO]", "[P1_MIO]", "[P1_TIPO_ELEMENTO]"));
+  EXPECT_THAT(document.Left(), ElementsAre("[CODICE_ALLEGATO]", "[P1_MIO]", "[P1_PROGETTO]"));
 }
 
 struct Block {

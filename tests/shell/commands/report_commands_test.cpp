@@ -246,7 +246,7 @@ class ReportCommandsTest : public QObject {
     Program program;
     program.ReplaceTemplate(kWord, Changed(kWord.template_name, [](Package& package) {
                               std::string xml = package.Part("word/document.xml");
-                              const std::string known = "[P1_NOTE]";
+                              const std::string known = "[P1_TITOLO]";
                               xml.insert(xml.find(known), "[P1_CLIENTE] [P9_X] ");
                               package.Put("word/document.xml", xml);
                             }));

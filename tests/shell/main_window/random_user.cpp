@@ -8,9 +8,11 @@
 #include <QDir>
 #include <QLineEdit>
 #include <QMimeData>
+#include <QRegularExpression>
 #include <QTabBar>
 #include <QTest>
 #include <QTimer>
+#include <QToolButton>
 
 #include "shell/fields/material_box.h"
 
@@ -67,6 +69,8 @@ const std::vector<RandomUser::Action>& RandomUser::Actions() {
       {"drop a material", &RandomUser::DropMaterial},
       {"go back and forth", &RandomUser::GoBackAndForth, 2},
       {"go back", &RandomUser::GoBack},
+      {"move layers", &RandomUser::MoveLayers, 3},
+      {"use variants", &RandomUser::UseVariants, 2},
       {"switch the continuous calculation", &RandomUser::SwitchContinuous},
       {"step a number", &RandomUser::StepNumber, 3},
   };
@@ -117,6 +121,55 @@ void RandomUser::GoBackAndForth() {
     fixture_.Find<QAction>("annulla")->trigger();
   for (; steps > 0; --steps) fixture_.Find<QAction>("ripeti")->trigger();
   if (fixture_.open.Setup() != before) qFatal("the steps back and forth do not lead to where they began");
+}
+
+// A step of layers is taken back as one, by menu, keys or the element as a whole.
+void RandomUser::MoveLayers() {
+  const elements::Setup before = fixture_.open.Setup();
+  const auto step_before = fixture_.open.Steps().ToUndo();
+  if (Pick(5) == 0) {
+    auto* action = fixture_.Find<QAction>(Pick(2) == 0 ? "gira" : "specchia");
+    if (action->isEnabled()) action->trigger();
+  } else if (auto* field = AnyShown<QLineEdit>()) {
+    QWidget* keys = field->parentWidget()->inherits("QComboBox") ? field->parentWidget() : field;
+    keys->setFocus();
+    QTest::keyClick(
+        keys,
+        OneOf(QList{Qt::Key_Up, Qt::Key_Down, Qt::Key_I, Qt::Key_D, Qt::Key_Delete, Qt::Key_C, Qt::Key_V}),
+        Qt::ControlModifier | Qt::ShiftModifier);
+  }
+  if (Pick(2) == 0 || fixture_.open.Setup() == before || step_before == fixture_.open.Steps().ToUndo())
+    return;
+  const elements::Setup after = fixture_.open.Setup();
+  fixture_.Find<QAction>("annulla")->trigger();
+  fixture_.Find<QAction>("ripeti")->trigger();
+  if (fixture_.open.Setup() != after) qFatal("a step of layers does not come back as it was");
+}
+
+// What a variant gives back is what was fixed, whatever was done in between.
+void RandomUser::UseVariants() {
+  const auto buttons = fixture_.window->findChildren<QToolButton*>(QRegularExpression("^Variante_"));
+  if (buttons.isEmpty() || Pick(4) == 0) {
+    const elements::Setup before = fixture_.open.Setup();
+    fixture_.Find<QAction>("fissa_variante")->trigger();
+    elements::Setup after = fixture_.open.Setup();
+    after.further = before.further;
+    if (after != before && !fixture_.open.Steps().ToUndo()) qFatal("fixing a variant changed the set-up");
+    return;
+  }
+  QToolButton* button = OneOf(buttons);
+  if (!button->isVisible()) return;
+  switch (Pick(4)) {
+    case 0:
+      QTest::keyClick(button, Qt::Key_Delete);
+      return;
+    case 1:
+      QTest::keyClick(button, Pick(2) == 0 ? Qt::Key_Left : Qt::Key_Right,
+                      Qt::ControlModifier | Qt::ShiftModifier);
+      return;
+    default:
+      button->click();
+  }
 }
 
 void RandomUser::GoBack() { fixture_.Find<QAction>("annulla")->trigger(); }

@@ -56,6 +56,8 @@ class RandomUser {
   void AnswerDialog();
   void GoBackAndForth();
   void GoBack();
+  void MoveLayers();
+  void UseVariants();
   void SwitchContinuous();
   void StepNumber();
 

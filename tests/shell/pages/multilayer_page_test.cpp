@@ -8,7 +8,6 @@
 #include <QPushButton>
 #include <QTemporaryDir>
 #include <QTest>
-#include <QToolButton>
 
 #include "tests/shell/support/window_fixture.h"
 
@@ -56,12 +55,12 @@ class MultilayerPageTest : public QObject {
 
   void rowsMoveAndEachPressIsUndoneByItself() {
     const elements::Setup before = fixture_->open.Setup();
-    Button("CommandStratoSu", 1)->click();
+    Menu("StratoSu", 1);
     QCOMPARE(Kinds(), QStringList({"Aria", "Lastra", "Lastra"}));
-    Button("CommandStratoGiu", 1)->click();
+    Menu("StratoGiu", 1);
     QCOMPARE(Kinds(), QStringList({"Aria", "Lastra", "Lastra"}));
-    QVERIFY(!Button("CommandStratoSu", 0)->isEnabled());
-    QVERIFY(!Button("CommandStratoGiu", 2)->isEnabled());
+    QVERIFY(!Action("StratoSu", 0)->isEnabled());
+    QVERIFY(!Action("StratoGiu", 2)->isEnabled());
     Menu("StratoInserisciSotto", 2);
     Menu("StratoInserisciSotto", 2);
     QCOMPARE(Kinds().size(), 5);
@@ -143,9 +142,6 @@ class MultilayerPageTest : public QObject {
     for (int row = 0; row < fixture_->open.Setup().multilayer.Count(); ++row)
       kinds += fixture_->Find<QComboBox>("ComboTipoStrato_" + QString::number(row))->currentText();
     return kinds;
-  }
-  QToolButton* Button(const char* name, int row) const {
-    return fixture_->Find<QToolButton>(name + QString("_%1").arg(row));
   }
   QAction* Action(const char* name, int row) const {
     return fixture_->Find<QAction>(name + QString("_%1").arg(row));
