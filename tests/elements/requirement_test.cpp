@@ -6,7 +6,7 @@ namespace velmar::elements {
 namespace {
 
 TEST(Requirement, StandsInTheKeyedValuesUnderItsName) {
-  Setup setup;
+  elements::Setup setup;
   EXPECT_EQ(RequirementOf(setup), std::nullopt);
   SetRequirement(setup, 50.5);
   EXPECT_EQ(setup.further.Entries(), (std::vector<KeyedValues::Entry>{{"requisito.valore", "50,5"}}));

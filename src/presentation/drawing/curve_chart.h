@@ -64,14 +64,6 @@ struct FurtherCurve {
   QColor colour{};
 };
 
-/// A curve that stands behind that of the result, as that of a variant.
-struct FurtherCurve {
-  std::string name{};
-  acoustics::Spectrum values{};
-
-  bool operator==(const FurtherCurve&) const = default;
-};
-
 /// A result as curves over the bands. A value of exactly 0 is a band without a value. Levels in dB.
 struct CurveChart {
   acoustics::Spectrum values{};
@@ -86,8 +78,7 @@ struct CurveChart {
   std::optional<acoustics::Spectrum> octaves;  ///< octaves of the same structure, as steps behind `values`
   std::string laboratory_name{};               ///< of the structure compared with; empty: none is chosen
   std::string in_situ_name{};
-  std::vector<FurtherCurve> further{};  ///< thin and dashed, each with its name in the legend
-  bool autoscale = false;               ///< false: 10 to 80 dB
+  bool autoscale = false;    ///< false: 10 to 80 dB
   bool fits_values = false;  ///< the scale is that of the values alone, from the lowest to the highest
   std::size_t first_band = 0;
   std::size_t last_band = acoustics::kBandCount - 1;

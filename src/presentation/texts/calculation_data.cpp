@@ -318,7 +318,7 @@ void AddProvenance(const Provenance& provenance, const Words& words, std::vector
   fields.push_back({words(kFingerprintCaptionRow), provenance.fingerprint});
 }
 
-constexpr Field kLastField = Field::kSimplified;
+constexpr Field kLastField = Field::kTracks;
 
 }  // namespace
 

@@ -43,6 +43,9 @@ class SearchedBox : public QuietBox {
   void MarkTyped() { typed_ = true; }
   /// @return false when nothing has what is typed in its name
   bool TakeTyped();
+  bool IsTyped() const { return typed_; }
+  /// Shows the entry that counts once more, as after another order of the list.
+  void ShowAgain();
 
   bool event(QEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;
@@ -50,7 +53,6 @@ class SearchedBox : public QuietBox {
   void keyPressEvent(QKeyEvent* event) override;
 
  private:
-  void ShowAgain();
   void OfferHits(const QString& typed);
   QStringList Names() const;
 

@@ -85,6 +85,9 @@ DifferenceLine::DifferenceLine(const presentation::Words& words, QWidget* parent
     line->addWidget(label, label == reason_ ? 1 : 0);
   }
   reason_->setToolTip({});
+  for (QLabel* label : {difference_, former_})
+    label->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Preferred);
+  line->addStretch(0);
   hide();
 }
 

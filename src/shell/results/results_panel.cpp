@@ -187,10 +187,9 @@ QWidget* ResultsPanel::MakeChart() {
   auto* foot = new QHBoxLayout;
   foot->setSpacing(2 * kPageSpacing);
   foot->addWidget(requirement_);
-  foot->addStretch(1);
+  foot->addWidget(values_, 1);
   foot->addWidget(autoscale_);
   column->addWidget(chart_, 1);
-  column->addWidget(values_);
   column->addLayout(foot);
   return frame;
 }

@@ -1,11 +1,13 @@
 #include "shell/results/variant_strip.h"
 
+#include <QColor>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QMenu>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QToolButton>
+#include <array>
 #include <cmath>
 #include <utility>
 
@@ -22,6 +24,9 @@ using calculation::Step;
 using calculation::StepKind;
 
 constexpr int kMostLetters = 24;
+/// Of the variants' curves, the first one again behind the last.
+constexpr std::array<QColor, 4> kCurveColours = {QColor{0x2F, 0x6B, 0xC4}, QColor{0x8C, 0x61, 0x2C},
+                                                 QColor{0x6F, 0x4E, 0xB5}, QColor{0x59, 0x59, 0x59}};
 
 QString Whole(double value) {
   QString text = FromUtf8(FormatShortest(RoundToEven(value)));
@@ -80,7 +85,7 @@ VariantStrip::VariantStrip(calculation::OpenCalculation& open, const Speech& spe
   curves_->setCheckable(true);
   curves_->setChecked(true);
   curves_->setFocusPolicy(Qt::TabFocus);
-  connect(curves_, &QToolButton::toggled, this, &VariantStrip::CurvesToggled);
+  connect(curves_, &QToolButton::toggled, &overlay_, &ChartOverlay::Changed);
   row->addWidget(area_, 1);
   row->addWidget(curves_, 0, Qt::AlignRight | Qt::AlignVCenter);
   row->addWidget(fix_, 0, Qt::AlignRight | Qt::AlignVCenter);
@@ -138,16 +143,16 @@ void VariantStrip::Show() {
   area_->setFixedHeight(area_->widget()->sizeHint().height() + bar / 2);
 }
 
-std::vector<presentation::FurtherCurve> VariantStrip::Curves() const {
-  std::vector<presentation::FurtherCurve> curves;
+void VariantStrip::LayOver(presentation::CurveChart& chart) const {
   const auto& now = open_.Result();
-  if (!now || !curves_->isChecked()) return curves;
-  for (const Entry& entry : entries_) {
+  if (!now || !curves_->isChecked()) return;
+  for (std::size_t i = 0; i < entries_.size(); ++i) {
+    const Entry& entry = entries_[i];
     if (entry.is_open || !entry.result || !entry.result->spectrum) continue;
-    if (entry.result->lnw.has_value() == now->lnw.has_value())
-      curves.push_back({ToUtf8(Shortened(entry.variant.name)), *entry.result->spectrum});
+    if (entry.result->lnw.has_value() != now->lnw.has_value()) continue;
+    chart.further.push_back({ToUtf8(Shortened(entry.variant.name)), *entry.result->spectrum,
+                             kCurveColours.at(i % kCurveColours.size())});
   }
-  return curves;
 }
 
 void VariantStrip::ShowButton(const Entry& entry) {

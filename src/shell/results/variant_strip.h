@@ -9,6 +9,7 @@
 #include "elements/variants.h"
 #include "presentation/drawing/curve_chart.h"
 #include "shell/fields/boxes.h"
+#include "shell/results/chart_overlay.h"
 
 class QHBoxLayout;
 class QMenu;
@@ -34,7 +35,7 @@ class VariantStrip : public QWidget {
 
   /// The curves of the variants that are not open, of the same quantity as the open result; none while they
   /// are not wanted.
-  std::vector<presentation::FurtherCurve> Curves() const;
+  ChartOverlay& Curves() { return overlay_; }
 
  public slots:
   /// The open set-up and its result are kept as a variant; a box says where that cannot be.
@@ -43,13 +44,20 @@ class VariantStrip : public QWidget {
  signals:
   /// Whatever was typed and is not yet taken is to be taken now.
   void SettleAsked();
-  /// The curves of the variants are wanted, or not any longer.
-  void CurvesToggled();
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
+  class Overlay : public ChartOverlay {
+   public:
+    explicit Overlay(const VariantStrip& strip) : strip_(strip) {}
+    void LayOver(presentation::CurveChart& chart) override { strip_.LayOver(chart); }
+
+   private:
+    const VariantStrip& strip_;
+  };
+
   /// A variant as it is shown.
   struct Entry {
     elements::Variant variant{};
@@ -61,6 +69,7 @@ class VariantStrip : public QWidget {
   };
 
   void Read();
+  void LayOver(presentation::CurveChart& chart) const;
   QToolButton* MakeButton(int index);
   void ShowButton(const Entry& entry);
   QString ButtonText(const Entry& entry) const;
@@ -77,6 +86,7 @@ class VariantStrip : public QWidget {
 
   calculation::OpenCalculation& open_;
   const Speech& speech_;
+  Overlay overlay_{*this};
   std::vector<elements::Variant> read_{};
   std::vector<Entry> entries_{};
   QScrollArea* area_ = nullptr;

@@ -162,18 +162,5 @@ TEST(DottedBands, StandWhereThereIsAValue) {
   EXPECT_THAT(DottedBands(values, 3, 18), ElementsAre(3));
 }
 
-TEST(FurtherCurves, WidenAFittedScale) {
-  CurveChart chart;
-  chart.values.fill(40.0);
-  chart.autoscale = true;
-  FurtherCurve variant{.name = "B"};
-  variant.values.fill(45.0);
-  variant.values[5] = 61.0;
-  variant.values[6] = 0.0;
-  chart.further.push_back(variant);
-  EXPECT_EQ(RangeOf(chart).maximum, 61.0);
-  EXPECT_EQ(RangeOf(chart).minimum, 40.0) << "a band without a value is none";
-}
-
 }  // namespace
 }  // namespace velmar::presentation

@@ -81,7 +81,7 @@ class NewElementTest : public QObject {
     QCOMPARE(Headings(menu(18)),
              QStringList({"(Parete doppia)", "(Vetrate)", "(Cartongesso SEA)",
                           "(Cartongesso, per tipo di ossatura)", "(Cartongesso, per lastre e orditura)",
-                          "(Parete leggera [Sharp])"}));
+                          "(Parete leggera [Sharp])", "(Altri modelli)"}));
     const QStringList double_walls = LinesOf(menu(18));
     QCOMPARE(double_walls.value(double_walls.indexOf("Collegamento puntuale") - 1),
              QString("(Cartongesso SEA)"));

@@ -110,6 +110,29 @@ class Tour {
     Take(*fixture_.window, "nota-spessore");
   }
 
+  /// A thickness is stepped with the continuous calculation on, under a required rating.
+  void VisitContinuous() {
+    fixture_.window->OpenProject(std::string(EXAMPLES) + "/doppia-forati-lana.drav");
+    fixture_.Find<QAction>("calcolo_continuo")->setChecked(true);
+    fixture_.Type("TextRequisito", "53");
+    fixture_.Find<QWidget>("Text5_1")->setFocus();
+    for (int step = 0; step < 4; ++step)
+      QTest::keyClick(fixture_.Find<QWidget>("Text5_1"), Qt::Key_Up, Qt::ControlModifier);
+    Take(*fixture_.window, "continuo");
+    auto* chart = fixture_.Find<QWidget>("Picture1");
+    chart->setFocus();
+    for (const Qt::Key key : {Qt::Key_Right, Qt::Key_Plus, Qt::Key_Plus, Qt::Key_Plus, Qt::Key_Plus})
+      QTest::keyClick(chart, key);
+    Take(*fixture_.window, "continuo-da-vicino");
+    QTest::keyClick(chart, Qt::Key_0);
+    fixture_.window->OpenProject(std::string(EXAMPLES) + "/parete-fuori-campo.drav");
+    Take(*fixture_.window, "continuo-domanda");
+    fixture_.window->OpenProject(std::string(EXAMPLES) + "/calpestio-galleggiante.drav");
+    fixture_.Type("TextRequisito", "50");
+    Take(*fixture_.window, "continuo-calpestio");
+    fixture_.Find<QAction>("calcolo_continuo")->setChecked(false);
+  }
+
   void VisitDialogs() {
     const auto& words = fixture_.services.words;
     Show(DimensionDialog(fixture_.open, words), "dimensioni");
@@ -153,6 +176,7 @@ int main(int argc, char** argv) {
     if (QString(station.name).startsWith(only)) tour.Visit(station);
   }
   if (only.isEmpty() || only == "note") tour.VisitNotes();
+  if (only.isEmpty() || only == "continuo") tour.VisitContinuous();
   if (only.isEmpty() || only == "dialoghi") tour.VisitDialogs();
   return 0;
 }
