@@ -126,7 +126,7 @@ void FacadeTable::AddNumbers(Row& row, int element) {
     row.area = new NumberField(ArrayName("TuttiArea", element), NumberKind::kArea, this);
     row.area->setAccessibleName(Text(context_.Words(), kPartAreaRow) + ' ' + of);
     row.area->setToolTip(Text(context_.Words(), kAreaTipRow));
-    narrow(row.area, 4);
+    narrow(row.area, 5);
     context_.Watch(row.area);
     connect(row.area, &NumberField::Edited, this, [this, element](const std::string& text) {
       context_.Edit([&](Setup& setup) {
