@@ -114,7 +114,7 @@ void FacadeTable::AddNumbers(Row& row, int element) {
   const int line = element + 1;
   const QString of = element == 0 ? Text(context_.Words(), kOpaquePartRow) : QString::number(element);
   const auto narrow = [](QWidget* field, int letters) {
-    field->setFixedWidth(field->fontMetrics().horizontalAdvance('0') * letters + 12);
+    field->setFixedWidth(field->fontMetrics().horizontalAdvance('0') * letters + 10);
   };
   if (element == 0) {
     row.opaque_area = new QLabel(this);
