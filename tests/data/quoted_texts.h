@@ -88,7 +88,7 @@ inline constexpr QuotedText kQuotedTexts[] = {
     {172, "Parete 2 SEA"},
     {173, "Intercapedine SEA"},
     {177, "S (mm):"},
-    {217, "m' (Kg/m²):"},
+    {217, "m' (kg/m²):"},
     {218, "(Calcolato)"},
     {283, "Materiale generico"},
     {414, "Parete desolidarizzata"},

@@ -100,8 +100,10 @@ void DrawLegend(QPainter& painter, const ChartLayout& layout) {
 void DrawCurves(QPainter& painter, const ChartLayout& layout, const CurveChart& chart,
                 const ChartRange& range) {
   painter.save();
-  // The surface's edge cuts what runs out above and below; at the sides a dot on the edge stays whole.
-  painter.setClipRect(layout.plot.adjusted(-kDotDiameter, 0.0, kDotDiameter, 0.0), Qt::IntersectClip);
+  // The surface's edge cuts what runs out above and below; at the sides a dot on the edge stays whole, but of a
+  // part of the chart nothing stands outside.
+  const double beyond = chart.marks.window.IsWhole() ? kDotDiameter : 0.0;
+  painter.setClipRect(layout.plot.adjusted(-beyond, 0.0, beyond, 0.0), Qt::IntersectClip);
   painter.setRenderHint(QPainter::Antialiasing);
   DrawDeviations(painter, layout, chart, range);
   DrawRequirement(painter, layout, chart, range);

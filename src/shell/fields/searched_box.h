@@ -28,6 +28,9 @@ class SearchedBox : public QuietBox {
   /// Shows `name` as the entry that counts. What is being typed stays.
   void Show(const std::string& name);
 
+  /// Whether what stands in the box was typed and is not taken yet.
+  bool IsTyped() const { return typed_; }
+
  public slots:
   /// What leaving the box does, while it keeps the focus.
   void Settle();
@@ -43,7 +46,6 @@ class SearchedBox : public QuietBox {
   void MarkTyped() { typed_ = true; }
   /// @return false when nothing has what is typed in its name
   bool TakeTyped();
-  bool IsTyped() const { return typed_; }
   /// Shows the entry that counts once more, as after another order of the list.
   void ShowAgain();
 

@@ -121,6 +121,8 @@ QToolButton* VariantStrip::MakeButton(int index) {
   connect(button, &QToolButton::clicked, this, [this, index] { GoTo(index); });
   connect(button, &QWidget::customContextMenuRequested, this, [this, index] { OpenMenu(index); });
   line_->insertWidget(index, button);
+  // At once, not with the next layout: it may be given the focus.
+  button->show();
   return button;
 }
 

@@ -10,6 +10,7 @@
 #include "foundation/decimal.h"
 #include "foundation/message_rows.h"
 #include "presentation/reports/word_placeholders.h"
+#include "tests/presentation/drawing/catalogue_words.h"
 #include "tests/presentation/reports/opened_report.h"
 
 namespace velmar::presentation {

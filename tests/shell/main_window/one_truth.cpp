@@ -10,6 +10,8 @@
 #include "elements/layer_groups.h"
 #include "foundation/decimal.h"
 #include "presentation/drawing/section.h"
+#include "shell/fields/name_box.h"
+#include "shell/fields/searched_box.h"
 
 namespace velmar::shell {
 namespace {
@@ -135,7 +137,11 @@ class Look {
   }
 
   static bool IsTypedIn(const QWidget* widget) {
-    // Also while a list of hits lies over the window.
+    // A list of hits that lies over the window takes the focus with it where there is no screen.
+    const auto* searched = qobject_cast<const SearchedBox*>(widget);
+    if (searched != nullptr && searched->IsTyped()) return true;
+    const auto* named = qobject_cast<const NameBox*>(widget);
+    if (named != nullptr && named->lineEdit()->isModified()) return true;
     const QWidget* focus = widget->window()->focusWidget();
     return focus != nullptr && (focus == widget || widget->isAncestorOf(focus));
   }

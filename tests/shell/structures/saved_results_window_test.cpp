@@ -66,7 +66,8 @@ TEST_F(SavedResultsWindowTest, ListsNameAndDescriptionOfTheAirborneResultsFirst)
   Picture(*window_, "form7");
   ASSERT_EQ(Grid().model()->rowCount(), 3);
   EXPECT_EQ(Cell(0, 0), "Parete x");
-  EXPECT_EQ(Cell(0, 1), "Parete x: descrizione");
+  EXPECT_EQ(Cell(0, 1), "45");
+  EXPECT_EQ(Cell(0, 2), "Parete x: descrizione");
   EXPECT_EQ(Child<QLineEdit>(*window_, "Text2").text(), "Parete x");
   EXPECT_EQ(Child<QPlainTextEdit>(*window_, "Text1").toPlainText(), "Parete x: descrizione");
   EXPECT_EQ(window_->windowTitle(), "Database risultati");
@@ -86,11 +87,6 @@ TEST_F(SavedResultsWindowTest, WhatTheRunOfAResultToldStandsBelowIt) {
   Grid().selectRow(1);
   EXPECT_TRUE(Child<QLabel>(*window_, "Messaggi").isVisible());
   EXPECT_EQ(Child<QLabel>(*window_, "Messaggi").text(), "Fuori dal campo di validità");
-}
-
-TEST_F(SavedResultsWindowTest, LiningsAreNotOffered) {
-  Open();
-  EXPECT_EQ(window_->findChildren<QRadioButton*>().size(), 2);
 }
 
 TEST_F(SavedResultsWindowTest, SearchLooksInNameAndDescriptionWhateverTheCase) {
