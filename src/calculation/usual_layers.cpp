@@ -243,12 +243,32 @@ bool HasFill(std::span<const UsualLayer> layers) {
   return false;
 }
 
+/// Triple glazing 4/12/4/12/4 in the size of a measured window: the element that no other calculation has.
+void PutTripleGlazing(Setup& setup, const elements::MaterialLookup& materials) {
+  constexpr int kRows = 5;
+  setup.multilayer.count = kRows;
+  setup.width_text = "1,23";
+  setup.height_text = "1,48";
+  for (int row = 0; row < kRows; ++row) {
+    elements::Stratum& stratum = setup.multilayer.strata.at(static_cast<std::size_t>(row));
+    const bool is_pane = row % 2 == 0;
+    stratum.kind = is_pane ? elements::StratumKind::kPlate : elements::StratumKind::kAir;
+    if (!is_pane) {
+      stratum.thickness_text = "12";
+    } else if (PutMaterial(setup, LayerGroup::kStratumSolid, row, std::string(kFloat), materials)) {
+      EnterLayerThickness(setup, LayerGroup::kStratumSolid, row, "4");
+    }
+  }
+}
+
 }  // namespace
 
 std::span<const UsualLayer> UsualLayersOf(Calculation calculation) { return UsualOf(calculation).layers; }
 
 void BeginElement(Setup& setup, Calculation calculation, const elements::MaterialLookup& tables) {
   SelectCalculation(setup, calculation);
+  if (calculation == kMultilayerGeneric)
+    return PutTripleGlazing(setup, elements::ForOneOperation(tables));
   const UsualElement usual = UsualOf(calculation);
   if (HasFill(usual.layers)) setup.sea_cavity.type = SeaCavityType::kFibre;
   PutLayers(setup, usual.layers, elements::ForOneOperation(tables));

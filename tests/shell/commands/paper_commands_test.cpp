@@ -72,7 +72,7 @@ struct Program {
   }
 
   presentation::PaginaDiStampa Page() const {
-    return DocumentOf(fixture.open, fixture.services.words, fixture.Results().Chart(), {}).page;
+    return DocumentOf(fixture.open, fixture.services.words, fixture.Results().Chart(), {}, {}).page;
   }
 
   /// As the comparison window does while it is open.

@@ -139,6 +139,8 @@ class NewElementTest : public QObject {
              QStringList({"Calcestruzzo armato 160 x1",
                           "Pannello minerale anticalpestio (MW-T) 30 mm, s' 10 30 x1",
                           "Massetto sabbia-cemento 50 x1"}));
+    QCOMPARE(layers(Calculation::kMultilayerGeneric),
+             QStringList({"Vetro float 4 x1", "Vetro float 4 x1", "Vetro float 4 x1"}));
     QCOMPARE(layers(Calculation::kDoubleWallPlasterboardCommonStuds),
              QStringList({"Cartongesso standard 12.5 x2", "Cartongesso standard 12.5 x2"}));
   }
