@@ -170,8 +170,8 @@ class PaperCommandsTest : public QObject {
     QTest::addColumn<int>("entry");
     QTest::addColumn<QString>("ending");
     QTest::addColumn<QByteArray>("begin");
-    QTest::newRow("PNG") << 1 << ".png" << QByteArray("\x89PNG");
-    QTest::newRow("SVG") << 2 << ".svg" << QByteArray("<?xml");
+    QTest::newRow("PNG") << 2 << ".png" << QByteArray("\x89PNG");
+    QTest::newRow("SVG") << 3 << ".svg" << QByteArray("<?xml");
   }
   void theChartIsSavedAsAPictureWholeOrNotAtAll() {
     QFETCH(const int, entry);
