@@ -33,9 +33,11 @@ presentation::ReportRecord RecordOf(const ReportContent& content, bool with_char
   if (with_chart) {
     pictures.chart = presentation::ReportChartOf(content.setup, content.result, content.words);
   }
-  return presentation::ReportRecordOf(content.setup, content.result,
-                                      {content.totals.thickness_mm, content.totals.surface_mass_kg_m2},
-                                      content.words, std::move(pictures), {}, ProvenanceOfContent(content));
+  presentation::ReportRecord record = presentation::ReportRecordOf(
+      content.setup, content.result, {content.totals.thickness_mm, content.totals.surface_mass_kg_m2},
+      content.words, std::move(pictures), {}, ProvenanceOfContent(content));
+  AddConfidence(record, content.confidence, content.words);
+  return record;
 }
 
 }  // namespace

@@ -5,7 +5,6 @@
 
 #include "acoustics/airborne_rating.h"
 #include "elements/catalogue.h"
-#include "elements/single_numbers.h"
 #include "foundation/decimal.h"
 #include "foundation/message_rows.h"
 #include "presentation/reports/kind_of_element.h"
@@ -39,21 +38,6 @@ std::string Improvement(Family family, const elements::ResultSet& result) {
     return "DRw= " + FormatLevel(result.delta_rw) + " dB";
   }
   return ImprovementLine(family, result);
-}
-
-/// The ratings of a base with its lining, out of the improved spectrum.
-std::string LiningRatings(elements::Calculation calculation, const elements::ResultSet& result,
-                          const Words& words) {
-  if (!IsLining(elements::RowOf(calculation).family) || !result.spectrum) return {};
-  elements::ResultSet resulting;
-  for (const elements::SingleNumber& number : elements::SingleNumbersOf(result, calculation)) {
-    const std::string_view key = number.key;
-    if (key == "Rw") resulting.rw = number.value;
-    if (key == "C") resulting.c = number.value;
-    if (key == "Ctr") resulting.ctr = number.value;
-  }
-  if (!resulting.rw || !resulting.c || !resulting.ctr) return {};
-  return words(kLiningRatingsRow) + " " + ResultLine(Family::kSingle, resulting);
 }
 
 /// Why the rating shown is not that of the curve: a relation moves the curve by a value that is not rounded.
@@ -146,7 +130,7 @@ ReportRecord ReportRecordOf(const Setup& setup, const elements::ResultSet& resul
   record.result_line = ResultLine(family, result);
   record.improvement_line = Improvement(family, result);
   record.messages = Joined(RangeNotes(*setup.calculation, result, words));
-  record.resulting_line = LiningRatings(*setup.calculation, result, words);
+  record.resulting_line = ResultingElementLine(*setup.calculation, result, words);
   record.rating_note = RatingNote(family, result, words);
   record.further_line = FurtherNumbersLine(*setup.calculation, result);
   record.laboratory_data = Compared(words(kLaboratoryFrameRow), compared.laboratory);
@@ -166,6 +150,11 @@ ReportRecord ReportRecordOf(const Setup& setup, const elements::ResultSet& resul
     record.hanger_line = WithoutColon(words(kConnectionTypeRow)) + ": " + record.hanger;
   }
   return record;
+}
+
+void AddConfidence(ReportRecord& record, const Message& confidence, const Words& words) {
+  for (const MessageLine& line : confidence)
+    record.messages += (record.messages.empty() ? "" : "\n") + InWords(line, words);
 }
 
 std::string SectionDescription(double thickness_mm, const Words& words) {

@@ -59,7 +59,7 @@ struct ReportRecord {
   std::string further_line{};      ///< "C50-5000= -1; Ctr,50-5000= -5 dB; STC= 44"; empty where there is none
   std::string resulting_line{};    ///< of a lining: the ratings of base and lining together; or empty
   std::string rating_note{};       ///< why the rating shown is not that of the curve; or empty
-  std::string messages{};          ///< the ranges that were left, a line each; or empty
+  std::string messages{};          ///< the ranges left and the interval, a line each
   std::string footer{};            ///< project, code, date and version, for the foot of the pages
   std::string date{};              ///< of the document
   std::string engineer{};          ///< who signs
@@ -110,6 +110,9 @@ struct ReportPictures {
 ReportRecord ReportRecordOf(const elements::Setup& setup, const elements::ResultSet& result,
                             const ElementTotals& totals, const Words& words, ReportPictures pictures = {},
                             const ComparedStructures& compared = {}, const Provenance& provenance = {});
+
+/// Tells in `record` what is known of the error of its result, below the ranges that were left.
+void AddConfidence(ReportRecord& record, const Message& confidence, const Words& words);
 
 /// What a reader hears who cannot see the section of an element of `thickness_mm`.
 std::string SectionDescription(double thickness_mm, const Words& words);

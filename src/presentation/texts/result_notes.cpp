@@ -46,7 +46,7 @@ std::string ResultingElementLine(elements::Calculation calculation, const elemen
   resulting.ctr = Find(numbers, "Ctr");
   // The generic linings give ratings alone.
   if (!resulting.rw || !resulting.c || !resulting.ctr) return {};
-  return words(kResultingElementRow) + " " + ResultLine(elements::Family::kSingle, resulting);
+  return words(kLiningRatingsRow) + " " + ResultLine(elements::Family::kSingle, resulting);
 }
 
 std::vector<std::string> ResultNotes(elements::Calculation calculation, const elements::ResultSet& result,

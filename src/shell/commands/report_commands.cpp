@@ -16,6 +16,7 @@
 #include "storage/files/open_elsewhere.h"
 #include "storage/files/whole_file.h"
 #include "storage/project/project_writer.h"
+#include "validation/second_opinion.h"
 
 namespace velmar::shell {
 namespace {
@@ -30,7 +31,7 @@ presentation::ReportRecord RecordOf(const Desk& desk, const presentation::Materi
   const elements::ResultSet& result = *desk.open.Result();
   const calculation::Totals& totals = desk.open.CurrentTotals();
   const std::optional<presentation::CurveChart>& shown = desk.results.Chart();
-  return presentation::ReportRecordOf(
+  presentation::ReportRecord record = presentation::ReportRecordOf(
       setup, result, {totals.thickness_mm, totals.surface_mass_kg_m2}, desk.speech.words,
       {.chart = presentation::ReportChartOf(setup, result, desk.speech.words, shown),
        .section = presentation::ReportSectionOf(setup, desk.speech.words)},
@@ -38,6 +39,8 @@ presentation::ReportRecord RecordOf(const Desk& desk, const presentation::Materi
             : presentation::ComparedStructures{},
       presentation::ProvenanceOf(storage::WriteProject(setup), desk.files.File().filename().string(),
                                  sources));
+  AddConfidence(record, validation::ConfidenceOf(setup, result, desk.accuracy.Get()), desk.speech.words);
+  return record;
 }
 
 /// The template's path; one that is missing is told.

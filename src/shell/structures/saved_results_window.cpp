@@ -143,7 +143,7 @@ QWidget* SavedResultsWindow::MakeDetails() {
   messages_->setObjectName(QStringLiteral("Messaggi"));
   messages_->setWordWrap(true);
   messages_->setTextInteractionFlags(Qt::TextSelectableByMouse);
-  messages_->setAccessibleName(tools_.Text(kStoredMessagesRow));
+  messages_->setAccessibleName(tools_.Text(kMessagesTitleRow));
   messages_->hide();
   column->addWidget(messages_);
   return details;

@@ -40,7 +40,7 @@ CopiedTable CopyOf(ResultTable table, const SavedResult& result) {
       {TextField({impact ? "Ci [dB]" : "C [dB]"}), TextField({impact ? "C50_5000 [dB]" : "Ctr [dB]"})},
       {NumberField(result.adaptation), NumberField(result.other_adaptation)}};
   if (!result.messages.empty())
-    copy.push_back({TextField({kStoredMessagesRow}), TextField({result.messages})});
+    copy.push_back({TextField({kMessagesTitleRow}), TextField({result.messages})});
   return copy;
 }
 

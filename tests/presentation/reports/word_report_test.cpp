@@ -154,19 +154,19 @@ TEST(WordReport, HeadsNothingThatIsEmpty) {
 
 TEST(WordReport, TellsTheRangesThatWereLeft) {
   ReportCase brick = ReportCases().front();
+  brick.setup.calculation = elements::Calculation::kSingleWallBrick;
   brick.result.ranges_left.push_back({.check = MessagePiece(kBrickMassRangeRow),
                                       .value = 504.0,
                                       .lowest = 80.0,
                                       .highest = 400.0,
-                                      .unit = "kg/m²"});
-  const ReportRecord record = RecordOf(brick);
-  const Package package(WriteWordReport(ShippedTemplate(WordTemplateName(record.family)), record).bytes);
-  EXPECT_THAT(TextOf(package, kDocument), HasSubstr("504 kg/m²"));
-  EXPECT_THAT(TextOf(Package(WriteWordReport(ShippedTemplate(WordTemplateName(record.family)),
-                                             RecordOf(ReportCases().front()))
-                                 .bytes),
+                                      .unit = "kg/m²",
+                                      .quantity = kRangeMassRow});
+  ReportRecord record = RecordOf(brick);
+  AddConfidence(record, {{std::string("Rw 52 dB, nessuna stima")}}, CatalogueWords());
+  EXPECT_THAT(TextOf(Package(WriteWordReport(ShippedTemplate(WordTemplateName(record.family)), record).bytes),
                      kDocument),
-              Not(HasSubstr("504 kg/m²")));
+              HasSubstr("relazione [1]: m' = 504 kg/m² (da 80 a 400). Calcolo proseguito per scelta "
+                        "dell'utente.\nRw 52 dB, nessuna stima\n"));
 }
 
 TEST(WordReport, TellsWhereTheRatingIsNotThatOfTheCurve) {

@@ -13,12 +13,13 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 
 std::string Italian(MessageRow row) {
-  static const std::map<int, std::string> words = {
-      {3300, "m'"}, {3307, "intercapedine senza fibra"},
-      {3309, "da"}, {3310, "a"},
-      {3314, "Fuori dal campo di validità della relazione"},
-      {3315, "Calcolo proseguito per scelta dell'utente."},
-      {3316, "Elemento risultante:"}};
+  static const std::map<int, std::string> words = {{3300, "m'"},
+                                                   {3307, "intercapedine senza fibra"},
+                                                   {3309, "da"},
+                                                   {3310, "a"},
+                                                   {3314, "Fuori dal campo di validità della relazione"},
+                                                   {3315, "Calcolo proseguito per scelta dell'utente."},
+                                                   {3573, "Elemento risultante:"}};
   const auto at = words.find(row.number);
   return at == words.end() ? "row " + std::to_string(row.number) : at->second;
 }
