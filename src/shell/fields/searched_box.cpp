@@ -25,9 +25,11 @@ SearchedBox::SearchedBox(const QString& object_name, QAbstractItemModel* names, 
     OfferHits(text);
   });
   connect(this, &QComboBox::textActivated, this, [this](const QString& name) { Choose(name); });
-  // A model that is filled anew would show its first name.
-  connect(
-      names, &QAbstractItemModel::modelReset, this, [this] { setEditText(shown_); }, Qt::QueuedConnection);
+  // A model that is filled anew would show its first name; the list itself has followed it by now.
+  connect(names, &QAbstractItemModel::modelReset, this, [this] {
+    typed_ = false;
+    setEditText(shown_);
+  });
 }
 
 void SearchedBox::Show(const std::string& name) {

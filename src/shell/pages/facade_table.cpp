@@ -48,7 +48,7 @@ FacadeTable::FacadeTable(PageContext& context, QWidget* parent)
     : QWidget(parent), context_(context), grid_(new QGridLayout(this)) {
   setObjectName("TabellaFacciata");
   grid_->setContentsMargins(0, 0, 0, 0);
-  grid_->setHorizontalSpacing(6);
+  grid_->setHorizontalSpacing(4);
   grid_->setVerticalSpacing(4);
   grid_->setColumnStretch(kName, 3);
   grid_->setColumnStretch(kShare, 2);
@@ -114,7 +114,7 @@ void FacadeTable::AddNumbers(Row& row, int element) {
   const int line = element + 1;
   const QString of = element == 0 ? Text(context_.Words(), kOpaquePartRow) : QString::number(element);
   const auto narrow = [](QWidget* field, int letters) {
-    field->setFixedWidth(field->fontMetrics().horizontalAdvance('0') * letters + 14);
+    field->setFixedWidth(field->fontMetrics().horizontalAdvance('0') * letters + 10);
   };
   if (element == 0) {
     row.opaque_area = new QLabel(this);
@@ -126,7 +126,7 @@ void FacadeTable::AddNumbers(Row& row, int element) {
     row.area = new NumberField(ArrayName("TuttiArea", element), NumberKind::kArea, this);
     row.area->setAccessibleName(Text(context_.Words(), kPartAreaRow) + ' ' + of);
     row.area->setToolTip(Text(context_.Words(), kAreaTipRow));
-    narrow(row.area, 6);
+    narrow(row.area, 5);
     context_.Watch(row.area);
     connect(row.area, &NumberField::Edited, this, [this, element](const std::string& text) {
       context_.Edit([&](Setup& setup) {
@@ -142,7 +142,7 @@ void FacadeTable::AddNumbers(Row& row, int element) {
     auto* box = new NumberField(ArrayName(kNames.at(i), element),
                                 term == 0 ? NumberKind::kReal : NumberKind::kTerm, this);
     box->setAccessibleName(QString(kCaptions.at(i)) + ' ' + of);
-    narrow(box, 4);
+    narrow(box, term == 0 ? 4 : 3);
     context_.Watch(box);
     connect(box, &NumberField::Edited, this, [this, element, term](const std::string& text) {
       context_.Edit([&](Setup& setup) {

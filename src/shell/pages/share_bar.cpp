@@ -33,7 +33,7 @@ QString ShareBar::Text() const {
 }
 
 QSize ShareBar::sizeHint() const {
-  return {fontMetrics().horizontalAdvance(QStringLiteral("100 % ")) * 2, fontMetrics().height() + 6};
+  return {fontMetrics().horizontalAdvance(QStringLiteral("< 0,1 % ")) * 6 / 5, fontMetrics().height() + 6};
 }
 
 void ShareBar::paintEvent(QPaintEvent* /*event*/) {
