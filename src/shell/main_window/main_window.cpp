@@ -191,6 +191,11 @@ void MainWindow::Connect() {
   connect(&files_, &ProjectFiles::Saved, this, [this](const std::filesystem::path& file) {
     Say(Text(services_.words, kProjectSavedRow) + ' ' + QString::fromStdString(file.string()));
   });
+  connect(&files_, &ProjectFiles::Recovered, this, [this] {
+    const QString name = files_.File().empty() ? Text(services_.words, kNewProjectRow)
+                                               : QFileInfo(windowFilePath()).completeBaseName();
+    Say(Text(services_.words, kRecoveredRow) + ' ' + name);
+  });
   connect(&recovery_, &Recovery::Kept, this, [this] {
     if (memory_.IsFirst(QStringLiteral("chiusura"))) Say(Text(services_.words, kClosingKeepsWorkRow));
   });
@@ -282,10 +287,7 @@ void MainWindow::OpenProject(const std::filesystem::path& project) {
 
 void MainWindow::OfferRecovery() {
   tabs_->LayOutAnew();
-  if (!files_.OfferRecovery()) return;
-  const QString name = files_.File().empty() ? Text(services_.words, kNewProjectRow)
-                                             : QFileInfo(windowFilePath()).completeBaseName();
-  Say(Text(services_.words, kRecoveredRow) + ' ' + name);
+  files_.OfferRecovery();
 }
 
 void MainWindow::FollowMaterials(const MaterialCommands& commands) {

@@ -48,10 +48,10 @@ LeafPage::LeafPage(Leaf leaf, PageContext& context, QWidget* parent)
   turning_ = new TurningButtons(*head.line, context, controls.count, this);
   context_.Watch(count_);
   connect(count_, &CountBox::Edited, this, [this, controls](const std::string& text) {
-    context_.Edit([&](elements::Setup& setup) {
+    context_.Edit([&](elements::Setup& setup, const elements::MaterialLookup& tables) {
       leaf_ == Leaf::kFirst ? calculation::EnterLeaf1Count(setup, text)
                             : calculation::EnterLeaf2Count(setup, text);
-      calculation::ReloadLayers(setup, controls.group, context_.services.materials);
+      calculation::ReloadLayers(setup, controls.group, tables);
     });
   });
 

@@ -2,6 +2,7 @@
 
 #include <QObject>
 #include <optional>
+#include <type_traits>
 #include <utility>
 
 #include "calculation/material_choice.h"
@@ -31,13 +32,21 @@ class PageContext : public QObject {
   const presentation::Words& Words() const { return speech.words; }
 
   /// The way of a page to change the set-up. Layer rows that come into use by it read their material.
+  /// @param change is handed the set-up and, where it asks for them, the materials: as one operation with
+  /// what
+  ///               the rows read, so that a database that fails is told once
   /// @param named what is done, where that is more than the difference tells
   template <typename Change>
   void Edit(Change&& change, const std::optional<calculation::Step>& named = std::nullopt) {
     open.Edit(
         [&](elements::Setup& setup) {
-          std::forward<Change>(change)(setup);
-          calculation::LoadRowsInUse(setup, services.materials);
+          const elements::MaterialLookup tables = elements::ForOneOperation(services.materials);
+          if constexpr (std::is_invocable_v<Change, elements::Setup&, const elements::MaterialLookup&>) {
+            std::forward<Change>(change)(setup, tables);
+          } else {
+            std::forward<Change>(change)(setup);
+          }
+          calculation::LoadRowsInUse(setup, tables);
         },
         named);
   }

@@ -26,9 +26,9 @@ ResilientLayersPage::ResilientLayersPage(PageContext& context, QWidget* parent)
   filter_ = head.filter;
   context_.Watch(count_);
   connect(count_, &CountBox::Edited, this, [this](const std::string& text) {
-    context_.Edit([&](elements::Setup& setup) {
+    context_.Edit([&](elements::Setup& setup, const elements::MaterialLookup& tables) {
       calculation::EnterResilientCount(setup, text);
-      calculation::ReloadLayers(setup, elements::LayerGroup::kResilient, context_.services.materials);
+      calculation::ReloadLayers(setup, elements::LayerGroup::kResilient, tables);
     });
   });
 

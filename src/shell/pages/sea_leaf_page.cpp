@@ -48,9 +48,9 @@ SeaLeafPage::SeaLeafPage(Side side, PageContext& context, QWidget* parent)
   turning_ = new TurningButtons(*table_head.line, context, controls.count, this);
   context_.Watch(count_);
   connect(count_, &CountBox::Edited, this, [this, controls](const std::string& text) {
-    context_.Edit([&](elements::Setup& setup) {
+    context_.Edit([&](elements::Setup& setup, const elements::MaterialLookup& tables) {
       calculation::EnterSeaCount(LeafOf(setup, side_), text);
-      calculation::ReloadLayers(setup, controls.layers, context_.services.materials);
+      calculation::ReloadLayers(setup, controls.layers, tables);
     });
   });
 

@@ -157,6 +157,7 @@ bool ProjectFiles::Recover(LostWork work) {
   }
   Rename(work.project);
   open_.DropResult();  // it is unsaved work again
+  emit Recovered();
   recovery_.TakeOver(std::move(work));
   recovery_.Keep();
   emit Opened();

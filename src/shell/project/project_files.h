@@ -44,7 +44,7 @@ class ProjectFiles : public QObject {
   void GiveUp() { open_.MarkSaved(); }
 
   /// Offers unsaved work that earlier runs left behind. @return whether some was opened: unsaved still, and
-  /// under its project's name
+  /// under its project's name.
   bool OfferRecovery();
 
   /// Another calculation was chosen in the place of `before`. Work on another kind of element is a work of
@@ -64,6 +64,8 @@ class ProjectFiles : public QObject {
  signals:
   /// Another project was read.
   void Opened();
+  /// Unsaved work of an earlier run was opened.
+  void Recovered();
   /// The open work was put aside for a new one.
   void Emptied();
   /// The project has another name, and another file behind it.

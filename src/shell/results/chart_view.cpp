@@ -233,14 +233,13 @@ void ChartView::CopyNumbers() const {
 
 void ChartView::Save(bool as_svg) {
   const MessageRow title = as_svg ? kSaveSvgRow : kSavePngRow;
-  QString path = speech_.boxes.choose_file_to_save(
-      {.title = Text(speech_.words, title), .filter = as_svg ? "SVG (*.svg)" : "PNG (*.png)"});
-  if (path.isEmpty()) return;
-  const QString ending = as_svg ? ".svg" : ".png";
-  if (!path.endsWith(ending, Qt::CaseInsensitive)) path += ending;
+  const auto path = AskFileToSave(
+      speech_, {.title = Text(speech_.words, title), .filter = as_svg ? "SVG (*.svg)" : "PNG (*.png)"},
+      as_svg ? ".svg" : ".png");
+  if (!path) return;
   try {
-    storage::WriteWhole(ToUtf8(path), as_svg ? presentation::ChartSvg(Plain(), chart_.words.calculated)
-                                             : Png(Picture(kPictureScale)));
+    storage::WriteWhole(*path, as_svg ? presentation::ChartSvg(Plain(), chart_.words.calculated)
+                                      : Png(Picture(kPictureScale)));
   } catch (const Failure& failure) {
     speech_.boxes.tell(Tone::kCritical, Text(speech_.words, failure.UserMessage()));
   }

@@ -22,6 +22,7 @@ void OpenTable::Show(QWidget* parent) {
     emit Toggled();
   });
   StandBeside(window_, parent, ResultsTableWindow::kPreferredWidth);
+  window_->setFocus();  // its keys are those of the table, not of the field that was left
   emit Toggled();
 }
 

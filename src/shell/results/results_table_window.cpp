@@ -45,6 +45,7 @@ ResultsTableWindow::ResultsTableWindow(const presentation::ResultsTable& table,
   view_->setObjectName("Tabella");
   view_->setAccessibleName(frame->title());
   FillTable();
+  setFocusProxy(view_);
   inner->addWidget(view_);
   column->addWidget(frame, 1);
 

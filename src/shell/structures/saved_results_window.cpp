@@ -14,6 +14,7 @@
 #include <QTableView>
 #include <QVBoxLayout>
 #include <algorithm>
+#include <array>
 
 #include "foundation/message_rows.h"
 #include "shell/fields/button_row.h"
@@ -198,8 +199,8 @@ void SavedResultsWindow::Refresh() {
       rows.push_back({shell::ToQt(entry.name), shell::ToQt(calculation::BoxText(entry.rating_db)),
                       shell::ToQt(entry.description)});
   });
-  const char* rating = Kind() == ResultKind::kAirborne ? "Rw (dB)" : "Ln,w (dB)";
-  model_.Name(kRating, QLatin1String(rating));
+  constexpr std::array kRatings = {"Rw (dB)", "Ln,w (dB)", "ΔRw (dB)"};
+  model_.Name(kRating, QString::fromUtf8(kRatings.at(static_cast<std::size_t>(Kind()))));
   model_.Fill(std::move(rows));
   const QModelIndexList again =
       shown_.match(shown_.index(0, 0), Qt::DisplayRole, before, 1, Qt::MatchExactly | Qt::MatchCaseSensitive);

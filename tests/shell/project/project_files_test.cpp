@@ -420,6 +420,7 @@ class ProjectFilesTest : public QObject {
     const QTemporaryDir folder;
     WindowFixture fixture;
     fixture.window->show();
+    QVERIFY(QTest::qWaitForWindowActive(fixture.window.get()));
     fixture.Choose(kSingleGeneric);
     fixture.file = folder.filePath("parete.drav");
     fixture.Find<QAction>("Salva_Progetto")->trigger();

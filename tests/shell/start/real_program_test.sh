@@ -33,8 +33,8 @@ window_called() { window=$(xdotool search --onlyvisible --name "^$1\$" 2>/dev/nu
 table_copied() {
   copied=$(timeout 5 xclip -selection clipboard -o 2>/dev/null) && grep -q '^Ctr \[dB\]' <<<"$copied"
 }
-run_and_show() { xdotool windowfocus "$main" key F5 key F6 || true; }
-copy() { xdotool windowfocus "$table" key ctrl+c || true; }
+# The table stands in the window and takes the focus with F6.
+run_show_and_copy() { xdotool windowfocus "$main" key F5 key F6 key ctrl+c || true; }
 
 try=nothing
 await window_called "VELMARpro - Calcolo previsionale elementi - $(basename "$project" .drav)"
@@ -45,10 +45,7 @@ if [[ $title != "VELMARpro - Calcolo previsionale elementi - $(basename "$projec
   echo "the title reads: $title" >&2
   exit 1
 fi
-try=run_and_show
-await window_called "Risultati calcolo"
-table=$window
-try=copy
+try=run_show_and_copy
 await table_copied
 
 # What the table shows: whole ratings, levels with one decimal.

@@ -54,6 +54,7 @@ TEST_F(SavedResultsWindowTest, ALiningIsListedAndDeletedLikeTheOthers) {
   QTest::mouseClick(&Child<QRadioButton>(*window_, "Option1_2"), Qt::LeftButton);
   ASSERT_EQ(Grid().model()->rowCount(), 1);
   EXPECT_EQ(Cell(0, 0), "Controparete x");
+  EXPECT_EQ(Grid().model()->headerData(1, Qt::Horizontal).toString(), "ΔRw (dB)");
   EXPECT_FALSE(Child<QPushButton>(*window_, "Seleziona").isEnabled());
   Press("Elimina");
   EXPECT_TRUE(results_.tables[ResultKind::kLining].empty());
