@@ -167,7 +167,8 @@ TEST(WordReport, TellsTheRangesThatWereLeft) {
   EXPECT_THAT(TextOf(Package(WriteWordReport(ShippedTemplate(WordTemplateName(record.family)), record).bytes),
                      kDocument),
               HasSubstr("relazione [1]: m' = 504 kg/m² (da 80 a 400). Calcolo proseguito per scelta "
-                        "dell'utente.\nRw 52 dB, nessuna stima\n"));
+                        "dell'utente.\001"
+                        "Rw 52 dB, nessuna stima\n"));
 }
 
 TEST(WordReport, TellsWhereTheRatingIsNotThatOfTheCurve) {

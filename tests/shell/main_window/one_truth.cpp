@@ -263,7 +263,8 @@ class Look {
 
   // Each numbered strip is a row that is shown, with its number and its material.
   void LookAtSection() {
-    if (!setup_.calculation) return;
+    // The rows of a free list of layers have a test of their own.
+    if (!setup_.calculation || setup_.calculation == elements::Calculation::kMultilayerGeneric) return;
     for (const presentation::Strip& strip : presentation::SectionOf(setup_).strips) {
       if (strip.number == 0 || !strip.place.group) continue;
       const elements::LayerGroupRow& group = RowOf(*strip.place.group);
