@@ -80,6 +80,8 @@ const std::vector<RandomUser::Action>& RandomUser::Actions() {
 RandomUser::RandomUser(WindowFixture& fixture, std::mt19937::result_type seed)
     : fixture_(fixture), random_(seed) {
   for (const QFileInfo& file : QDir(EXAMPLES).entryInfoList({"*.drav"})) examples_ += file.filePath();
+  // Originals, as for a user: saving to the open file would change them in the sources.
+  fixture_.services.places.examples = EXAMPLES;
   QObject::connect(&any_dialog_, &QTimer::timeout, &any_dialog_, [this] { AnswerDialog(); });
   any_dialog_.start(20);
 }
