@@ -251,7 +251,9 @@ class WindowRulesTest : public QObject {
       return count;
     };
     QCOMPARE(lit(), 0);
-    QTest::mouseMove(section, {section->width() / 4, section->height() / 2});
+    // Where the drawing stands in its view depends on what is written beside it.
+    for (int x = 0; x < section->width() && lit() == 0; x += 4)
+      QTest::mouseMove(section, {x, section->height() / 2});
     QCOMPARE(lit(), 1);
     QEvent leave(QEvent::Leave);
     QApplication::sendEvent(section, &leave);
