@@ -5,8 +5,8 @@
 #include <vector>
 
 #include "acoustics/bands.h"
-#include "foundation/message.h"
 #include "foundation/catalogue_rows.h"
+#include "foundation/message.h"
 
 namespace velmar::models {
 

@@ -2,8 +2,8 @@
 
 #include <optional>
 
-#include "foundation/message.h"
 #include "foundation/catalogue_rows.h"
+#include "foundation/message.h"
 #include "models/sea/lining.h"
 
 namespace velmar::models {

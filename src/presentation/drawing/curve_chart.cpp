@@ -43,8 +43,8 @@ void DrawCurve(QPainter& painter, const ChartLayout& layout, const CurveChart& c
     return chart.marks.pale_outside && outside ? Paler(colour) : colour;
   };
   for (const ChartSegment& segment : CurveSegments(values, chart.first_band, chart.last_band)) {
-    painter.setPen(QPen(colour_between(segment.from, segment.to), kCurveWidth, style, Qt::RoundCap,
-                        Qt::RoundJoin));
+    painter.setPen(
+        QPen(colour_between(segment.from, segment.to), kCurveWidth, style, Qt::RoundCap, Qt::RoundJoin));
     painter.drawLine(at(segment.from), at(segment.to));
   }
   for (const std::size_t band : DottedBands(values, chart.first_band, chart.last_band)) {
@@ -100,8 +100,8 @@ void DrawLegend(QPainter& painter, const ChartLayout& layout) {
 void DrawCurves(QPainter& painter, const ChartLayout& layout, const CurveChart& chart,
                 const ChartRange& range) {
   painter.save();
-  // The surface's edge cuts what runs out above and below; at the sides a dot on the edge stays whole, but of a
-  // part of the chart nothing stands outside.
+  // The surface's edge cuts what runs out above and below; at the sides a dot on the edge stays whole, but of
+  // a part of the chart nothing stands outside.
   const double beyond = chart.marks.window.IsWhole() ? kDotDiameter : 0.0;
   painter.setClipRect(layout.plot.adjusted(-beyond, 0.0, beyond, 0.0), Qt::IntersectClip);
   painter.setRenderHint(QPainter::Antialiasing);

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "elements/layer_groups.h"
-#include "foundation/message.h"
 #include "foundation/catalogue_rows.h"
+#include "foundation/message.h"
 
 namespace velmar::shell {
 

@@ -2,8 +2,8 @@
 
 #include <QString>
 
-#include "foundation/message.h"
 #include "foundation/catalogue_rows.h"
+#include "foundation/message.h"
 #include "shell/pages/material_lists.h"
 #include "shell/pages/page_context.h"
 

@@ -12,8 +12,8 @@ class QSplitter;
 namespace velmar::shell {
 
 /// What the window remembers from one start to the next, in a file of the user's own: sizes, recent projects,
-/// where documents go, what was said already, the switch of the continuous calculation. With an empty path only
-/// as long as the program runs, and no sizes and projects.
+/// where documents go, what was said already, the switch of the continuous calculation. With an empty path
+/// only as long as the program runs, and no sizes and projects.
 class WindowMemory {
  public:
   explicit WindowMemory(std::filesystem::path file);
