@@ -5,6 +5,7 @@
 
 #include "calculation/cavity_rules.h"
 #include "calculation/layer_edits.h"
+#include "calculation/layer_moves.h"
 #include "calculation/select_calculation.h"
 #include "foundation/decimal.h"
 
@@ -190,33 +191,12 @@ UsualElement UsualOf(Calculation calculation) {
   }
 }
 
-void SetCount(Setup& setup, LayerGroup group, int count) {
-  switch (group) {
-    case LayerGroup::kLeaf1:
-      setup.leaf1.count = count;
-      return;
-    case LayerGroup::kLeaf2:
-      setup.leaf2.count = count;
-      return;
-    case LayerGroup::kResilient:
-      setup.resilient.count = count;
-      return;
-    case LayerGroup::kSeaLeaf1:
-      setup.sea_leaf1.count = count;
-      return;
-    case LayerGroup::kSeaLeaf2:
-      setup.sea_leaf2.count = count;
-      return;
-    default:
-      return;  // the type of the cavity says how many fills there are
-  }
-}
-
 void PutLayers(Setup& setup, std::span<const UsualLayer> layers, const elements::MaterialLookup& materials) {
   std::map<LayerGroup, int> rows;
   for (const UsualLayer& layer : layers) {
     const int row = rows[layer.group]++;
-    SetCount(setup, layer.group, row + 1);
+    // The type of a SEA cavity says how many fills there are.
+    if (HasFreeCount(layer.group)) SetLayerCount(setup, layer.group, row + 1);
     if (!PutMaterial(setup, layer.group, row, std::string(layer.material), materials)) continue;
     if (layer.thickness_mm > 0.0)
       EnterLayerThickness(setup, layer.group, row, FormatShortest(layer.thickness_mm));
