@@ -240,7 +240,7 @@ void SecondOpinionPanel::AddModel(const ModelOpinion& model, int row, bool impac
   if (!chosen) grid->addWidget(TickOf(model, ColourOf(*work_.Opinion(), model.id)), row, kTick);
   QString name = Text(speech_.words, model.name);
   if (chosen) name += QStringLiteral(" (") + Text(speech_.words, kOpinionChosenRow) + ')';
-  if (model.best) name += QStringLiteral(" ") + QString::fromUtf8(kBestMark);
+  if (model.best) name += QChar(QChar::Nbsp) + QString::fromUtf8(kBestMark);
   QLabel* shown = add("Modello", name, kName, Qt::AlignLeft);
   shown->setWordWrap(true);
   if (model.best) {
