@@ -11,6 +11,7 @@ namespace velmar::shell {
 class HelpCommands;
 class MaterialCommands;
 class OpenTable;
+class PageContext;
 class PaperCommands;
 class ProjectFiles;
 class ReportCommands;
@@ -23,6 +24,7 @@ struct Desk {
   QWidget& window;  ///< above which boxes and windows open
   calculation::OpenCalculation& open;
   const Speech& speech;
+  const PageContext& pages;
   ProjectFiles& files;
   OpenTable& table;
   const ResultsPanel& results;

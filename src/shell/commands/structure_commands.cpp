@@ -84,13 +84,14 @@ void StructureCommands::Take(const ElementPick& pick, const calculation::FacadeP
 }
 
 void StructureCommands::ShowSavedResults(QWidget* parent) {
-  ShowAndWait(new SavedResultsWindow(own_.tools, results_, {}, parent));
+  ShowAndWait(new SavedResultsWindow(own_.tools, results_, SavedResultsWindow::Purpose::kList, parent));
 }
 
 void StructureCommands::PickSavedResult(QWidget* parent, const ElementPick& pick) {
-  SavedResultsWindow::Listener listener;
-  listener.take = [this, pick](const calculation::FacadePart& part) { Take(pick, part); };
-  ShowAndWait(new SavedResultsWindow(own_.tools, results_, std::move(listener), parent));
+  auto* window = new SavedResultsWindow(own_.tools, results_, SavedResultsWindow::Purpose::kTake, parent);
+  connect(window, &SavedResultsWindow::Taken, this,
+          [this, pick](const calculation::FacadePart& part) { Take(pick, part); });
+  ShowAndWait(window);
 }
 
 void StructureCommands::PickMeasured(QWidget* parent, const ElementPick& pick) {

@@ -55,7 +55,7 @@ class MainWindow : public QMainWindow {
 
  private:
   void MakeCentre();
-  void AddContinuousSwitch();
+  void AddContinuousSwitch(QMenu& menu);
   void Connect();
   void Choose(elements::Calculation calculation);
   void Begin(elements::ElementButton kind);

@@ -116,6 +116,7 @@ void LayerRow::MakeFields(QWidget* page) {
   });
   connect(material_, &MaterialBox::TablePasted, this, &LayerRow::PutTable);
   context_.Watch(material_);
+  context_.Place({.field = elements::Field::kMaterial, .group = plan_.group, .index = plan_.index}, material_);
 
   thickness_ = new NumberField(ArrayName(group.thickness_box, plan_.index), NumberKind::kReal, page);
   thickness_->setAccessibleName(Text(words, kLayerThicknessRow) + row);
@@ -128,6 +129,7 @@ void LayerRow::MakeFields(QWidget* page) {
   });
   connect(thickness_, &NumberField::Left, this, &LayerRow::LeaveThickness);
   context_.Watch(thickness_);
+  context_.Place({.field = elements::Field::kThickness, .group = plan_.group, .index = plan_.index}, thickness_);
 
   if (plan_.count_box != nullptr) {
     sheets_ = new CountBox(ArrayName(plan_.count_box, plan_.index), 1, calculation::kMostSheets, page);

@@ -15,6 +15,7 @@
 #include "shell/structures/test_chooser.h"
 #include "shell/structures/test_details.h"
 #include "shell/windows/button_row.h"
+#include "shell/windows/phrases.h"
 #include "storage/library/own_measurements.h"
 
 namespace velmar::structures {
@@ -44,19 +45,20 @@ MeasuredLibraryWindow::MeasuredLibraryWindow(shell::WindowTools tools, LibrarySo
   controls.nodes = LibraryNodes(target_.purpose, tools_);
   controls.filters_uses = true;
   if (source.own.add) own_ = new OwnMeasurementTools(tools_, source.own, files, this);
-  TestChooser::Listener listener;
-  listener.file = [this](const LibraryFile& file, const QString& description) {
-    details_->ShowSymbols(SymbolsOf(file.branch));
-    details_->ShowDescription(description);
-    if (own_ != nullptr) own_->ShowFile(file);
-  };
-  listener.test = [this](const std::optional<MeasuredTest>& test) {
+  controls.enters = own_ != nullptr;
+  chooser_ = new TestChooser(tools_, std::move(source), controls, this);
+  connect(chooser_, &TestChooser::FileOpened, this,
+          [this](const LibraryFile& file, const QString& description) {
+            details_->ShowSymbols(SymbolsOf(file.branch));
+            details_->ShowDescription(description);
+            if (own_ != nullptr) own_->ShowFile(file);
+          });
+  connect(chooser_, &TestChooser::TestChosen, this, [this](const std::optional<MeasuredTest>& test) {
     details_->Show(test);
     extra_->setEnabled(test.has_value());
     if (own_ != nullptr) own_->ShowTest(test ? std::optional(test->part.name) : std::nullopt);
-  };
-  if (own_ != nullptr) listener.enter = [this](Branch branch) { own_->EnterNew(branch); };
-  chooser_ = new TestChooser(tools_, std::move(source), controls, std::move(listener), this);
+  });
+  if (own_ != nullptr) connect(chooser_, &TestChooser::EntryWanted, own_, &OwnMeasurementTools::EnterNew);
   details_ = new TestDetails(tools_, this);  // behind the chooser, as Tab goes
   chooser_->Splitter()->addWidget(details_);
   chooser_->Splitter()->setStretchFactor(2, 2);
@@ -139,7 +141,7 @@ std::optional<calculation::FacadePart> MeasuredLibraryWindow::PartForTarget() co
       }
       if (!ask(kNeedsThirdsRow, kOfferOctavesRow)) return std::nullopt;
       part.bands_db = *test.derived_thirds_db;
-      const std::string note = shell::FromQt(tools_.Text(kThirdsFromOctavesRow));
+      const std::string note = shell::ToUtf8(tools_.Text(kThirdsFromOctavesRow));
       part.description += part.description.empty() ? note : " (" + note + ")";
       break;
     }

@@ -44,7 +44,6 @@ class OwnMeasurementTools : public QWidget {
   void Import();
   void Export();
   Branch Current() const;
-  QString InWords(const Message& message) const;
 
   shell::WindowTools tools_;
   OwnMeasurementSource own_;

@@ -22,6 +22,8 @@ struct WindowTools {
 
   /// The words of `row`.
   QString Text(MessageRow row) const;
+  /// The lines of a box, joined with line breaks.
+  QString Text(const Message& message) const;
   /// What `failure` says to the user, line by line.
   void Tell(const Failure& failure) const;
 
@@ -37,10 +39,6 @@ struct WindowTools {
     }
   }
 };
-
-/// UTF-8 to Qt and back.
-QString ToQt(const std::string& text);
-std::string FromQt(const QString& text);
 
 /// The pieces of a window whose sizes are remembered under `name`; any but the window may be null.
 struct RememberedSizes {
