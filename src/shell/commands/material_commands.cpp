@@ -60,7 +60,7 @@ void MaterialCommands::Duplicate(QWidget* parent, const LayerPick& pick, const P
   std::optional<materials::CopiedMaterial> copy;
   if (!own_.tools.Try([&] { copy = materials::CopyMaterial(store_, family, row.listed); })) return;
   if (!copy) {
-    own_.tools.tell(own_.tools.Text(kEditedMaterialGoneRow) + ' ' + FromUtf8(row.listed));
+    own_.tools.Tell(own_.tools.Text(kEditedMaterialGoneRow) + ' ' + FromUtf8(row.listed));
     return;
   }
   const auto take = [&](const MaterialChange& change) {

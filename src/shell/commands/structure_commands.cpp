@@ -103,9 +103,7 @@ void StructureCommands::PickMeasured(QWidget* parent, const ElementPick& pick) {
 }
 
 void StructureCommands::ShowLibrary(QWidget* parent, structures::MeasuredTarget target) {
-  ShowAndWait(new MeasuredLibraryWindow(
-      own_.tools, library_, std::move(target),
-      {.open = speech_.boxes.choose_file_to_open, .save = speech_.boxes.choose_file_to_save}, parent));
+  ShowAndWait(new MeasuredLibraryWindow(own_.tools, library_, std::move(target), parent));
 }
 
 void StructureCommands::ShowAirborneData(QWidget* parent) {
@@ -137,8 +135,8 @@ void StructureCommands::Store(QWidget* /*parent*/) {
     storage::ResultsStore store(results_file_);
     storage::SaveStatus status{};
     RunBeside([&] { status = store.Save(storage::TableFor(RowOf(*setup.calculation).family), row); });
-    if (status == storage::SaveStatus::kNameExists) own_.tools.tell(Text(speech_.words, kResultExistsRow));
-    if (status == storage::SaveStatus::kBadName) own_.tools.tell(Text(speech_.words, kBadResultNameRow));
+    if (status == storage::SaveStatus::kNameExists) own_.tools.Tell(Text(speech_.words, kResultExistsRow));
+    if (status == storage::SaveStatus::kBadName) own_.tools.Tell(Text(speech_.words, kBadResultNameRow));
   });
 }
 

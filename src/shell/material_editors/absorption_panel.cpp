@@ -157,7 +157,7 @@ void AbsorptionPanel::DrawCurve() {
 }
 
 void AbsorptionPanel::AskAndClear() {
-  if (!tools_.ask(tools_.Text(kClearQuestionRow))) return;
+  if (!tools_.Ask(tools_.Text(kClearQuestionRow))) return;
   Show({});
   boxes_.front()->setFocus();
 }
@@ -165,7 +165,7 @@ void AbsorptionPanel::AskAndClear() {
 void AbsorptionPanel::TakeColumn(const QString& cells, std::size_t band) {
   const auto read = materials::ReadPastedAbsorption(shell::ToUtf8(cells), band);
   if (const auto* refusal = std::get_if<Message>(&read)) {
-    tools_.tell(shell::FromUtf8(presentation::InWords(refusal->front(), tools_.words)));
+    tools_.Tell(shell::FromUtf8(presentation::InWords(refusal->front(), tools_.words)));
     return;
   }
   const auto& pasted = std::get<materials::PastedAbsorption>(read);

@@ -49,7 +49,7 @@ std::optional<shell::MaterialChange> Open(const Opening& opening) {
   if (!read) return std::nullopt;
   if (!opening.name.empty() && !row) {
     const MessageLine gone{kEditedMaterialGoneRow, " " + opening.name};
-    opening.tools.tell(shell::FromUtf8(presentation::InWords(gone, opening.tools.words)));
+    opening.tools.Tell(shell::FromUtf8(presentation::InWords(gone, opening.tools.words)));
     return std::nullopt;
   }
   const std::string picture = row ? row->picture : storage::kNoPicture;

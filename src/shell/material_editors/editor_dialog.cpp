@@ -5,8 +5,8 @@
 #include <QPushButton>
 
 #include "foundation/message_rows.h"
-#include "shell/material_editors/mnemonics.h"
 #include "shell/material_editors/number_box.h"
+#include "shell/windows/mnemonics.h"
 #include "shell/windows/phrases.h"
 
 namespace velmar::material_editors {
@@ -42,7 +42,7 @@ QHBoxLayout* EditorDialog::MakeButtons(bool with_copy) {
 }
 
 void EditorDialog::Finish(QLineEdit* first) {
-  AssignMnemonics(*this);
+  shell::SetMnemonics(*this);
   if (!shell::RestoreSizes(tools_.memory, {memory_name_, this, nullptr, nullptr})) resize(sizeHint());
   first->setFocus();
   first->selectAll();
@@ -51,10 +51,10 @@ void EditorDialog::Finish(QLineEdit* first) {
 void EditorDialog::Save(bool as_copy) {
   // Enter saves from within a box, whose number still has to reach the boxes that follow from it.
   if (auto* box = dynamic_cast<NumberBox*>(focusWidget())) box->Leave();
-  const AskUser ask = [this](const Message& question) { return tools_.ask(tools_.Text(question)); };
+  const AskUser ask = [this](const Message& question) { return tools_.Ask(tools_.Text(question)); };
   const SaveOutcome outcome = as_copy ? StoreCopy(shell::ToUtf8(tools_.Text(kCopyNameRow)), ask) : Store(ask);
   if (outcome.refusal) {
-    tools_.tell(tools_.Text(outcome.refusal->message));
+    tools_.Tell(tools_.Text(outcome.refusal->message));
     if (auto* box = findChild<QWidget*>(shell::FromUtf8(outcome.refusal->box))) {
       box->setFocus();
       if (auto* line = qobject_cast<QLineEdit*>(box)) line->selectAll();
@@ -67,7 +67,7 @@ void EditorDialog::Save(bool as_copy) {
 }
 
 void EditorDialog::reject() {
-  if (Changed() && !tools_.ask(tools_.Text(kUnsavedMaterialRow))) return;
+  if (Changed() && !tools_.Ask(tools_.Text(kUnsavedMaterialRow))) return;
   QDialog::reject();
 }
 

@@ -126,7 +126,7 @@ void FibrousEditor::ComputeAbsorption() {
   const FibrousEntry entry = Entry();
   const materials::ComputedAbsorption computed = materials::ComputeMissing(entry);
   if (computed.bands.empty()) {
-    Tools().tell(Tools().Text(kNothingToComputeRow));
+    Tools().Tell(Tools().Text(kNothingToComputeRow));
     return;
   }
   computed_from_ = entry;

@@ -240,7 +240,7 @@ void MaterialListWindow::Take() {
   bool there = false;
   if (!tools_.Try([&] { there = source_.find(family_, name).has_value(); })) return;
   if (!there) {  // deleted by another program since the list was read
-    tools_.tell(tools_.Text(kMaterialGoneRow));
+    tools_.Tell(tools_.Text(kMaterialGoneRow));
     Refresh();
     return;
   }
@@ -267,7 +267,7 @@ void MaterialListWindow::Delete() {
   if (name.empty()) return;
   const QString question =
       tools_.Text(kDeleteMaterialQuestionRow) + QStringLiteral(" \"%1\"?").arg(FromUtf8(name));
-  if (!tools_.ask(question)) return;
+  if (!tools_.Ask(question)) return;
   const int row = grid_->SelectedRow();
   std::optional<MaterialCells> cells;
   const bool removed = tools_.Try([&] {
@@ -287,7 +287,7 @@ void MaterialListWindow::UndoDelete() {
   std::optional<Message> refusal;
   if (!tools_.Try([&] { refusal = source_.add(deleted_->family, deleted_->cells); })) return;
   if (refusal) {
-    tools_.tell(tools_.Text(*refusal));
+    tools_.Tell(tools_.Text(*refusal));
     return;
   }
   const Deleted back = *std::exchange(deleted_, std::nullopt);

@@ -7,7 +7,7 @@
 #include <QLabel>
 #include <QLineEdit>
 
-#include "calculation/edits/element_choice.h"
+#include "calculation/edits/element_numbers.h"
 #include "foundation/message_rows.h"
 #include "shell/fields/number_field.h"
 #include "shell/page_parts/element_name.h"
@@ -158,7 +158,7 @@ void ElementForm::AddLine(QLabel* label, const std::vector<QWidget*>& fields) {
 
 void ElementForm::AddBands(const ElementNames& names) {
   bands_ = new BandBoxes(names.bands_frame, names.bands, context_.Words(), this);
-  for (int band = 0; NumberField* box : bands_->Boxes()) {
+  for (int band = 0; NumberField * box : bands_->Boxes()) {
     context_.Watch(box);
     context_.Place({.field = Field::kBand, .index = element_, .band = band++}, box);
   }

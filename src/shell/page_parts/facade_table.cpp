@@ -8,7 +8,7 @@
 #include <QToolButton>
 #include <utility>
 
-#include "calculation/edits/element_choice.h"
+#include "calculation/edits/element_numbers.h"
 #include "foundation/decimal.h"
 #include "foundation/message_rows.h"
 #include "shell/fields/list_boxes.h"

@@ -9,7 +9,7 @@
 #include <QVBoxLayout>
 
 #include "calculation/edits/count_rules.h"
-#include "calculation/edits/element_choice.h"
+#include "calculation/edits/element_numbers.h"
 #include "foundation/decimal.h"
 #include "foundation/message_rows.h"
 #include "shell/fields/list_boxes.h"

@@ -10,9 +10,9 @@
 #include "foundation/message_rows.h"
 #include "presentation/drawing/colours.h"
 #include "shell/structures/comparison_panel.h"
-#include "shell/structures/mnemonics.h"
 #include "shell/structures/test_chooser.h"
 #include "shell/structures/tree_nodes.h"
+#include "shell/windows/mnemonics.h"
 
 namespace velmar::structures {
 namespace {
@@ -96,7 +96,7 @@ ComparisonWindow::ComparisonWindow(shell::WindowTools tools, const LibrarySource
   column->addLayout(buttons);
   resize(fontMetrics().averageCharWidth() * 170, fontMetrics().height() * 34);
   shell::RestoreSizes(tools_.memory, SizesOf(this, sides_));
-  SetMnemonics(*this);
+  shell::SetMnemonics(*this);
   connect(new QShortcut(QKeySequence::Refresh, this), &QShortcut::activated, this, [this] {
     laboratory_->Refresh();
     in_situ_->Refresh();

@@ -12,7 +12,7 @@
 
 #include "foundation/message_rows.h"
 #include "shell/structures/copied_table.h"
-#include "shell/structures/mnemonics.h"
+#include "shell/windows/mnemonics.h"
 #include "shell/windows/phrases.h"
 
 namespace velmar::structures {
@@ -73,7 +73,7 @@ ExtraDataDialog::ExtraDataDialog(const shell::WindowTools& tools, const Measured
   buttons->addWidget(close);
   column->addLayout(form);
   column->addLayout(buttons);
-  SetMnemonics(*this);
+  shell::SetMnemonics(*this);
   connect(copy, &QPushButton::clicked, this, [table, words = tools.words] {
     QApplication::clipboard()->setMimeData(ClipboardOf(table, words));
   });

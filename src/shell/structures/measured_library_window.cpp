@@ -10,11 +10,11 @@
 #include "acoustics/bands.h"
 #include "foundation/message_rows.h"
 #include "shell/structures/extra_data_dialog.h"
-#include "shell/structures/mnemonics.h"
 #include "shell/structures/own_measurement_tools.h"
 #include "shell/structures/test_chooser.h"
 #include "shell/structures/test_details.h"
 #include "shell/windows/button_row.h"
+#include "shell/windows/mnemonics.h"
 #include "shell/windows/phrases.h"
 #include "storage/library/own_measurements.h"
 
@@ -36,15 +36,14 @@ bool HasRatedThirds(const calculation::BandValues& bands) {
 }  // namespace
 
 MeasuredLibraryWindow::MeasuredLibraryWindow(shell::WindowTools tools, LibrarySource source,
-                                             MeasuredTarget target, const FileQuestions& files,
-                                             QWidget* parent)
+                                             MeasuredTarget target, QWidget* parent)
     : QDialog(parent), tools_(std::move(tools)), target_(std::move(target)) {
   setObjectName(QStringLiteral("Form9"));
   setWindowTitle(Caption());
   TestChooser::Controls controls;
   controls.nodes = LibraryNodes(target_.purpose, tools_);
   controls.filters_uses = true;
-  if (source.own.add) own_ = new OwnMeasurementTools(tools_, source.own, files, this);
+  if (source.own.add) own_ = new OwnMeasurementTools(tools_, source.own, this);
   controls.enters = own_ != nullptr;
   chooser_ = new TestChooser(tools_, std::move(source), controls, this);
   connect(chooser_, &TestChooser::FileOpened, this,
@@ -76,7 +75,7 @@ MeasuredLibraryWindow::MeasuredLibraryWindow(shell::WindowTools tools, LibrarySo
   resize(character * 190, metrics.height() * 40);
   chooser_->Splitter()->setSizes({character * 44, character * 44, character * 102});
   shell::RestoreSizes(tools_.memory, SizesOf(this, *chooser_));
-  SetMnemonics(*this);
+  shell::SetMnemonics(*this);
   connect(new QShortcut(QKeySequence::Refresh, this), &QShortcut::activated, chooser_, &TestChooser::Refresh);
 }
 
@@ -112,7 +111,7 @@ QWidget* MeasuredLibraryWindow::MakeButtons() {
 
 void MeasuredLibraryWindow::Take() {
   if (!chooser_->Chosen()) {
-    tools_.tell(tools_.Text(kNoTestRow));
+    tools_.Tell(tools_.Text(kNoTestRow));
     return;
   }
   const std::optional<calculation::FacadePart> part = PartForTarget();
@@ -125,7 +124,7 @@ std::optional<calculation::FacadePart> MeasuredLibraryWindow::PartForTarget() co
   const MeasuredTest& test = *chooser_->Chosen();
   calculation::FacadePart part = test.part;
   const auto ask = [this](MessageRow lack, MessageRow offer) {
-    return tools_.ask(tools_.Text(lack) + '\n' + tools_.Text(offer));
+    return tools_.Ask(tools_.Text(lack) + '\n' + tools_.Text(offer));
   };
   switch (target_.needs) {
     case TargetNeeds::kNothing:

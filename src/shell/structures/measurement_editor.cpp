@@ -17,8 +17,8 @@
 #include "presentation/texts/words.h"
 #include "shell/fields/number_field.h"
 #include "shell/structures/measurement_fields.h"
-#include "shell/structures/mnemonics.h"
 #include "shell/structures/store_sources.h"
+#include "shell/windows/mnemonics.h"
 #include "shell/windows/phrases.h"
 #include "shell/windows/picture_view.h"
 #include "storage/files/whole_file.h"
@@ -77,13 +77,9 @@ QString Symbol(std::string_view symbol) {
 
 }  // namespace
 
-MeasurementEditor::MeasurementEditor(shell::WindowTools tools, OwnMeasurementSource own, FileQuestions files,
+MeasurementEditor::MeasurementEditor(shell::WindowTools tools, OwnMeasurementSource own,
                                      MeasurementToEdit edited, QWidget* parent)
-    : QDialog(parent),
-      tools_(std::move(tools)),
-      own_(std::move(own)),
-      files_(std::move(files)),
-      edited_(std::move(edited)) {
+    : QDialog(parent), tools_(std::move(tools)), own_(std::move(own)), edited_(std::move(edited)) {
   setObjectName(QStringLiteral("FormMisura"));
   setWindowTitle(tools_.Text(edited_.test ? kEditMeasurementRow : kNewMeasurementRow) +
                  QStringLiteral(" - VELMARpro"));
@@ -114,7 +110,7 @@ MeasurementEditor::MeasurementEditor(shell::WindowTools tools, OwnMeasurementSou
   shown_first_ = Entry();
   if (!shell::RestoreSizes(tools_.memory, {QLatin1String(kMemoryName), this, nullptr, nullptr}))
     resize(sizeHint());
-  SetMnemonics(*this);
+  shell::SetMnemonics(*this);
   name_->setFocus();
 }
 
@@ -221,7 +217,7 @@ QWidget* MeasurementEditor::MakePicture() {
   auto* choose = new QPushButton(tools_.Text(kChoosePictureRow) + QStringLiteral("…"), place);
   choose->setObjectName(QStringLiteral("CommandImmagine"));
   choose->setAutoDefault(false);
-  choose->setVisible(static_cast<bool>(files_.open));
+  choose->setVisible(static_cast<bool>(tools_.boxes.choose_file_to_open));
   auto* none = new QPushButton(tools_.Text(kNoPictureButtonRow), place);
   none->setObjectName(QStringLiteral("CommandSenza"));
   none->setAutoDefault(false);
@@ -333,20 +329,20 @@ void MeasurementEditor::ShowPicture(const std::string& picture) {
 }
 
 void MeasurementEditor::ChoosePicture() {
-  const QString file =
-      files_.open({tools_.Text(kChoosePictureRow),
-                   tools_.Text(kPictureFilterRow) + QStringLiteral(" (*.png *.jpg *.jpeg *.bmp *.svg)"),
-                   {}});
+  const QString file = tools_.boxes.choose_file_to_open(
+      {tools_.Text(kChoosePictureRow),
+       tools_.Text(kPictureFilterRow) + QStringLiteral(" (*.png *.jpg *.jpeg *.bmp *.svg)"),
+       {}});
   if (file.isEmpty()) return;
   tools_.Try([&] { ShowPicture(own_.keep_picture(Kind(), shell::ToUtf8(file))); });
 }
 
 void MeasurementEditor::ReadFile() {
-  if (!files_.open) return;
-  const QString file =
-      files_.open({tools_.Text(kReadBandsFileRow),
-                   tools_.Text(kNotReadTextFileRow) + QStringLiteral(" (*.txt *.csv *.tsv *.asc);;* (*)"),
-                   {}});
+  if (!tools_.boxes.choose_file_to_open) return;
+  const QString file = tools_.boxes.choose_file_to_open(
+      {tools_.Text(kReadBandsFileRow),
+       tools_.Text(kNotReadTextFileRow) + QStringLiteral(" (*.txt *.csv *.tsv *.asc);;* (*)"),
+       {}});
   if (file.isEmpty()) return;
   tools_.Try([&] {
     const std::string bytes = storage::ReadWhole(shell::ToUtf8(file), kTextSizeLimit);
@@ -357,7 +353,7 @@ void MeasurementEditor::ReadFile() {
 void MeasurementEditor::Save() {
   const auto checked = measurements::TestOf(FolderOf(Kind()), Entry());
   if (const auto* refusal = std::get_if<measurements::MeasurementRefusal>(&checked)) {
-    tools_.tell(tools_.Text(refusal->message));
+    tools_.Tell(tools_.Text(refusal->message));
     if (auto* box = findChild<QLineEdit*>(shell::FromUtf8(refusal->field))) {
       box->setFocus();
       box->selectAll();
@@ -375,7 +371,7 @@ void MeasurementEditor::Save() {
   });
   if (!done) return;
   if (refusal) {
-    tools_.tell(tools_.Text(*refusal));
+    tools_.Tell(tools_.Text(*refusal));
     name_->setFocus();
     return;
   }
@@ -384,7 +380,7 @@ void MeasurementEditor::Save() {
 }
 
 void MeasurementEditor::reject() {
-  if (Entry() != shown_first_ && !tools_.ask(tools_.Text(kUnsavedMeasurementRow))) return;
+  if (Entry() != shown_first_ && !tools_.Ask(tools_.Text(kUnsavedMeasurementRow))) return;
   QDialog::reject();
 }
 

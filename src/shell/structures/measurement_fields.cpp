@@ -123,7 +123,7 @@ void MeasurementBands::Read(const QString& text, const std::string& symbol) {
       }
       lines << shell::FromUtf8(presentation::InWords(line, tools_.words));
     }
-    tools_.tell(lines.join('\n'));
+    tools_.Tell(lines.join('\n'));
     return;
   }
   measurements::MeasurementEntry entry;

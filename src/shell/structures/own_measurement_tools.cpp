@@ -44,8 +44,8 @@ std::variant<std::vector<storage::MeasuredTest>, measurements::RefusedText> Test
 }  // namespace
 
 OwnMeasurementTools::OwnMeasurementTools(const shell::WindowTools& tools, OwnMeasurementSource own,
-                                         FileQuestions files, QWidget* parent)
-    : QWidget(parent), tools_(tools), own_(std::move(own)), files_(std::move(files)) {
+                                         QWidget* parent)
+    : QWidget(parent), tools_(tools), own_(std::move(own)) {
   auto* row = new QHBoxLayout(this);
   row->setContentsMargins(0, 0, 0, 0);
   const auto add = [&](const char* name, MessageRow text, MessageRow tip, auto action) {
@@ -66,8 +66,8 @@ OwnMeasurementTools::OwnMeasurementTools(const shell::WindowTools& tools, OwnMea
   row->addStretch(1);
   import_ = add("CommandImporta", kImportMeasurementsRow, kImportMeasurementsTipRow, [this] { Import(); });
   export_ = add("CommandEsporta", kExportMeasurementsRow, kExportMeasurementsTipRow, [this] { Export(); });
-  import_->setVisible(static_cast<bool>(files_.open));
-  export_->setVisible(static_cast<bool>(files_.save));
+  import_->setVisible(static_cast<bool>(tools_.boxes.choose_file_to_open));
+  export_->setVisible(static_cast<bool>(tools_.boxes.choose_file_to_save));
   ShowButtons();
 }
 
@@ -102,14 +102,14 @@ void OwnMeasurementTools::Edit() {
   if (!tools_.Try([&] { tests = own_.all(file_->branch); })) return;
   const auto found = std::ranges::find(tests, *name_, &storage::MeasuredTest::name);
   if (found == tests.end()) {
-    tools_.tell(tools_.Text(Message{{kMeasurementGoneRow, " " + *name_}}));
+    tools_.Tell(tools_.Text(Message{{kMeasurementGoneRow, " " + *name_}}));
     return;
   }
   Open({file_->branch, *found});
 }
 
 void OwnMeasurementTools::Open(MeasurementToEdit edited) {
-  auto* editor = new MeasurementEditor(tools_, own_, files_, std::move(edited), this);
+  auto* editor = new MeasurementEditor(tools_, own_, std::move(edited), this);
   editor->setAttribute(Qt::WA_DeleteOnClose);
   editor->setWindowModality(Qt::WindowModal);
   connect(editor, &QDialog::accepted, this,
@@ -125,7 +125,7 @@ void OwnMeasurementTools::Delete() {
   if (removed) {
     deleted_ = Deleted{branch, *std::move(removed)};
   } else {
-    tools_.tell(tools_.Text(Message{{kMeasurementGoneRow, " " + *name_}}));
+    tools_.Tell(tools_.Text(Message{{kMeasurementGoneRow, " " + *name_}}));
   }
   emit Changed(branch, QString());
   ShowButtons();
@@ -136,7 +136,7 @@ void OwnMeasurementTools::UndoDelete() {
   std::optional<Message> refusal;
   if (!tools_.Try([&] { refusal = own_.add(deleted_->branch, {deleted_->test}); })) return;
   if (refusal) {
-    tools_.tell(tools_.Text(*refusal));
+    tools_.Tell(tools_.Text(*refusal));
     return;
   }
   const Deleted back = *std::exchange(deleted_, std::nullopt);
@@ -145,10 +145,10 @@ void OwnMeasurementTools::UndoDelete() {
 }
 
 void OwnMeasurementTools::Import() {
-  const QString file =
-      files_.open({tools_.Text(kImportMeasurementsRow),
-                   tools_.Text(kNotReadTextFileRow) + QStringLiteral(" (*.csv *.txt *.tsv *.asc);;* (*)"),
-                   {}});
+  const QString file = tools_.boxes.choose_file_to_open(
+      {tools_.Text(kImportMeasurementsRow),
+       tools_.Text(kNotReadTextFileRow) + QStringLiteral(" (*.csv *.txt *.tsv *.asc);;* (*)"),
+       {}});
   if (file.isEmpty()) return;
   const Branch branch = Current();
   tools_.Try([&] {
@@ -164,12 +164,12 @@ void OwnMeasurementTools::Import() {
       told.insert(told.end(), refused->lines.begin(),
                   refused->lines.begin() + static_cast<std::ptrdiff_t>(shown));
       if (shown < refused->lines.size()) told.push_back({std::string("…")});
-      tools_.tell(tools_.Text(told));
+      tools_.Tell(tools_.Text(told));
       return;
     }
     const auto& tests = std::get<std::vector<storage::MeasuredTest>>(read);
     if (const auto refusal = own_.add(branch, tests)) {
-      tools_.tell(tools_.Text(*refusal));
+      tools_.Tell(tools_.Text(*refusal));
       return;
     }
     emit Changed(branch, shell::FromUtf8(tests.front().name));
@@ -178,8 +178,9 @@ void OwnMeasurementTools::Import() {
 
 void OwnMeasurementTools::Export() {
   if (!file_) return;
-  const QString file = files_.save({tools_.Text(kExportMeasurementsRow), QStringLiteral("CSV (*.csv)"),
-                                    shell::FromUtf8(file_->name) + QStringLiteral(".csv")});
+  const QString file =
+      tools_.boxes.choose_file_to_save({tools_.Text(kExportMeasurementsRow), QStringLiteral("CSV (*.csv)"),
+                                        shell::FromUtf8(file_->name) + QStringLiteral(".csv")});
   if (file.isEmpty()) return;
   tools_.Try([&] {
     storage::WriteWhole(shell::ToUtf8(file),

@@ -18,8 +18,8 @@
 
 #include "foundation/message_rows.h"
 #include "shell/structures/copied_table.h"
-#include "shell/structures/mnemonics.h"
 #include "shell/windows/button_row.h"
+#include "shell/windows/mnemonics.h"
 #include "shell/windows/phrases.h"
 
 namespace velmar::structures {
@@ -59,7 +59,7 @@ SavedResultsWindow::SavedResultsWindow(shell::WindowTools tools, ResultSource so
   if (!shell::RestoreSizes(tools_.memory, SizesOf(this, grid_)))
     resize(metrics.averageCharWidth() * 130, metrics.height() * 34);
   AddKeys();
-  SetMnemonics(*this);
+  shell::SetMnemonics(*this);
   Refresh();
   search_->setFocus();
 }
@@ -238,7 +238,7 @@ void SavedResultsWindow::Delete() {
   if (name.empty()) return;
   const QString question =
       tools_.Text(kDeleteResultQuestionRow) + QLatin1Char(' ') + shell::FromUtf8(name) + QLatin1Char('?');
-  if (!tools_.ask(question)) return;
+  if (!tools_.Ask(question)) return;
   const int row = grid_->currentIndex().row();
   bool removed = false;
   if (!tools_.Try([&] { removed = source_.remove(Kind(), name); })) return;
@@ -253,7 +253,7 @@ void SavedResultsWindow::Take() {
   std::optional<calculation::FacadePart> part;
   if (!tools_.Try([&] { part = source_.find(Kind(), name); })) return;
   if (!part) {  // deleted by another program since the list was read
-    tools_.tell(tools_.Text(kEntryGoneRow));
+    tools_.Tell(tools_.Text(kEntryGoneRow));
     Refresh();
     return;
   }

@@ -19,7 +19,7 @@ QString Key(const RememberedSizes& sizes, const char* piece) {
 QString WindowTools::Text(MessageRow row) const { return shell::Text(words, row); }
 QString WindowTools::Text(const Message& message) const { return shell::Text(words, message); }
 
-void WindowTools::Tell(const Failure& failure) const { tell(Text(failure.UserMessage())); }
+void WindowTools::Tell(const Failure& failure) const { Tell(Text(failure.UserMessage())); }
 
 bool RestoreSizes(const QSettings* memory, const RememberedSizes& sizes) {
   if (memory == nullptr) return false;

@@ -18,4 +18,11 @@ void EnterComponentArea(std::string& box, const std::string& text);
 /// while an area is missing or negative. Decides nothing: the run checks the areas.
 std::optional<double> AreaShare(const elements::Setup& setup, int index);
 
+/// Whether `text` is a dimension that a dialog takes: a number other than 0.
+bool IsDimension(const std::string& text);
+
+/// The dimensions of the element in metres: they become its width and height, or the area of a facade with
+/// one decimal, ties to even. @param width, height texts of which IsDimension() holds
+void EnterDimensions(elements::Setup& setup, const std::string& width, const std::string& height);
+
 }  // namespace velmar::calculation

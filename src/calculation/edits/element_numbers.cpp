@@ -1,4 +1,4 @@
-#include "calculation/edits/element_choice.h"
+#include "calculation/edits/element_numbers.h"
 
 #include "foundation/decimal.h"
 
@@ -30,6 +30,19 @@ std::optional<double> AreaShare(const elements::Setup& setup, int index) {
   const std::optional<double> part_m2 = ParseDecimal(text);
   if (!part_m2 || *part_m2 < 0.0) return std::nullopt;
   return *part_m2 / *whole_m2 * 100.0;
+}
+
+bool IsDimension(const std::string& text) { return ParseDecimal(text).value_or(0.0) != 0.0; }
+
+void EnterDimensions(elements::Setup& setup, const std::string& width, const std::string& height) {
+  const bool facade = setup.calculation && RowOf(*setup.calculation).Reads(elements::Field::kArea);
+  if (facade) {
+    setup.base.area_text =
+        FormatFixed(ParseDecimal(width).value_or(0.0) * ParseDecimal(height).value_or(0.0), 1);
+    return;
+  }
+  setup.width_text = width;
+  setup.height_text = height;
 }
 
 }  // namespace velmar::calculation

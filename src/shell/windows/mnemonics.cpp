@@ -1,10 +1,10 @@
-#include "shell/structures/mnemonics.h"
+#include "shell/windows/mnemonics.h"
 
 #include <QAbstractButton>
 #include <QLabel>
 #include <QSet>
 
-namespace velmar::structures {
+namespace velmar::shell {
 namespace {
 
 bool IsFree(QChar letter, const QSet<QChar>& taken) {
@@ -43,4 +43,4 @@ void SetMnemonics(QWidget& window) {
   }
 }
 
-}  // namespace velmar::structures
+}  // namespace velmar::shell
