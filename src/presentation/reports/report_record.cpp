@@ -1,5 +1,7 @@
 #include "presentation/reports/report_record.h"
 
+#include <algorithm>
+#include <array>
 #include <string_view>
 #include <utility>
 
@@ -7,7 +9,6 @@
 #include "elements/catalogue.h"
 #include "foundation/decimal.h"
 #include "foundation/message_rows.h"
-#include "presentation/reports/kind_of_element.h"
 #include "presentation/texts/box_number.h"
 #include "presentation/texts/calculation_labels.h"
 #include "presentation/texts/descriptions.h"
@@ -18,6 +19,33 @@
 
 namespace velmar::presentation {
 namespace {
+
+using elements::Orientation;
+
+struct Kind {
+  Orientation orientation{};
+  MessageRow row{};
+};
+
+constexpr std::array<Kind, 8> kKinds = {{{Orientation::kVerticalSingle, kSingleWallKindRow},
+                                         {Orientation::kVerticalDouble, kDoubleWallKindRow},
+                                         {Orientation::kHorizontalSingle, kFloorKindRow},
+                                         {Orientation::kHorizontalDouble, kScreedFloorKindRow},
+                                         {Orientation::kLining, kWallLiningRow},
+                                         {Orientation::kCeiling, kCeilingRow},
+                                         {Orientation::kComposite, kFacadeKindRow},
+                                         {Orientation::kMultilayer, kMultilayerRow}}};
+
+/// The row that names the kind of element in reports: single or double wall, glazing, floor, lining and so
+/// on. Row 0 before a choice.
+MessageRow KindOfElementRow(const elements::Setup& setup) {
+  if (!setup.calculation) return {};
+  if (elements::IsGlazing(*setup.calculation)) return kGlazingRow;
+  if (elements::RowOf(*setup.calculation).Reads(elements::Field::kDecoupling) && setup.decoupled)
+    return kDecoupledBrickRow;
+  const Orientation orientation = elements::RowOf(*setup.calculation).orientation;
+  return std::ranges::find(kKinds, orientation, &Kind::orientation)->row;
+}
 
 using elements::Family;
 using elements::Setup;

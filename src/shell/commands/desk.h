@@ -1,7 +1,7 @@
 #pragma once
 
-#include "calculation/open_calculation.h"
-#include "shell/fields/boxes.h"
+#include "calculation/open/open_calculation.h"
+#include "shell/windows/boxes.h"
 #include "validation/known_accuracy.h"
 
 class QWidget;
@@ -11,6 +11,7 @@ namespace velmar::shell {
 class HelpCommands;
 class MaterialCommands;
 class OpenTable;
+class PageContext;
 class PaperCommands;
 class ProjectFiles;
 class ReportCommands;
@@ -23,6 +24,7 @@ struct Desk {
   QWidget& window;  ///< above which boxes and windows open
   calculation::OpenCalculation& open;
   const Speech& speech;
+  const PageContext& pages;
   ProjectFiles& files;
   OpenTable& table;
   const ResultsPanel& results;

@@ -4,7 +4,7 @@
 
 #include "foundation/message_rows.h"
 #include "shell/commands/about_box.h"
-#include "shell/fields/phrases.h"
+#include "shell/windows/phrases.h"
 
 namespace velmar::shell {
 namespace {
@@ -14,7 +14,7 @@ bool Exists(const std::filesystem::path& file) {
   return std::filesystem::exists(file, error);
 }
 
-QString ToQt(const std::filesystem::path& path) { return QString::fromStdString(path.string()); }
+QString FromUtf8(const std::filesystem::path& path) { return QString::fromStdString(path.string()); }
 
 }  // namespace
 
@@ -25,9 +25,9 @@ void HelpCommands::TellMissing(MessageRow row, const QString& what) const {
 void HelpCommands::ShowManual(QWidget* /*parent*/) {
   const std::filesystem::path& manual = places_.manual;
   if (!Exists(manual)) {
-    TellMissing(kNoManualRow, ToQt(manual));
-  } else if (!services_.open_address(QUrl::fromLocalFile(ToQt(manual)).toString())) {
-    TellMissing(kNotOpenedRow, ToQt(manual));
+    TellMissing(kNoManualRow, FromUtf8(manual));
+  } else if (!services_.open_address(QUrl::fromLocalFile(FromUtf8(manual)).toString())) {
+    TellMissing(kNotOpenedRow, FromUtf8(manual));
   }
 }
 
@@ -51,7 +51,8 @@ bool HelpCommands::HasMaintenance() const { return Exists(places_.maintenance_pr
 
 void HelpCommands::StartMaintenance(QWidget* /*parent*/) {
   const std::filesystem::path& program = places_.maintenance_program;
-  if (!HasMaintenance() || !services_.start_program(program)) TellMissing(kNoMaintenanceRow, ToQt(program));
+  if (!HasMaintenance() || !services_.start_program(program))
+    TellMissing(kNoMaintenanceRow, FromUtf8(program));
 }
 
 }  // namespace velmar::shell

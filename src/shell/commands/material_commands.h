@@ -7,15 +7,15 @@
 #include <optional>
 #include <string>
 
-#include "calculation/open_calculation.h"
+#include "calculation/open/open_calculation.h"
 #include "shell/commands/own_tools.h"
-#include "shell/fields/boxes.h"
 #include "shell/fields/material_change.h"
-#include "shell/fields/window_tools.h"
 #include "shell/materials/material_list_window.h"
 #include "shell/materials/material_source.h"
 #include "shell/materials/material_tree_window.h"
-#include "shell/pages/page_services.h"
+#include "shell/page_parts/page_services.h"
+#include "shell/windows/boxes.h"
+#include "shell/windows/window_tools.h"
 #include "storage/materials/material_store.h"
 
 namespace velmar::shell {
@@ -61,7 +61,9 @@ class MaterialCommands : public QObject {
   void Open(QWidget* parent, std::optional<MaterialPick> wanted);
   /// The material of a layer row once more as one of the user's own, in the row with the row's thickness.
   void Duplicate(QWidget* parent, const LayerPick& pick, const PageServices& pages);
-  MaterialListWindow::Listener MakeListener();
+  void TellChange(const MaterialChange& change);
+  /// The numbers of the layers of the open calculation that hold `name`.
+  std::vector<int> LayersThatHold(elements::MaterialFamily family, const std::string& name) const;
 
   calculation::OpenCalculation& open_;
   OwnTools own_;

@@ -9,7 +9,7 @@
 #include "shell/commands/calculation_menu.h"
 #include "shell/commands/command_set.h"
 #include "shell/commands/help_commands.h"
-#include "shell/fields/phrases.h"
+#include "shell/windows/phrases.h"
 
 namespace velmar::shell {
 namespace {
@@ -28,8 +28,8 @@ QMenu* AddMenu(QMenuBar& bar, const presentation::Words& words, MessageRow row, 
 
 }  // namespace
 
-QMenu* FillMenuBar(QMenuBar& bar, const CommandSet& commands, const CalculationActions& calculations,
-                   const presentation::Words& words) {
+OpenMenus FillMenuBar(QMenuBar& bar, const CommandSet& commands, const CalculationActions& calculations,
+                      const presentation::Words& words) {
   QMenu* file = AddMenu(bar, words, kFileMenuRow, "File");
   Add(*file, commands, {kNewProject, kOpenProject});
   QMenu* recent = file->addMenu(Text(words, kRecentMenuRow));
@@ -66,7 +66,7 @@ QMenu* FillMenuBar(QMenuBar& bar, const CommandSet& commands, const CalculationA
   commands.Of(kMaintenance)->setVisible(reach != nullptr && reach->HasMaintenance());
   help->addSeparator();
   Add(*help, commands, {kAbout});
-  return recent;
+  return {recent, calculation};
 }
 
 }  // namespace velmar::shell

@@ -13,16 +13,14 @@
 #include <QStatusBar>
 #include <QVBoxLayout>
 
-#include "calculation/select_calculation.h"
-#include "calculation/usual_layers.h"
+#include "calculation/edits/select_calculation.h"
+#include "calculation/edits/usual_layers.h"
 #include "foundation/failure.h"
 #include "foundation/message_rows.h"
 #include "shell/commands/edit_menu.h"
 #include "shell/commands/menus.h"
 #include "shell/commands/tool_bar.h"
-#include "shell/fields/icons.h"
 #include "shell/fields/material_change.h"
-#include "shell/fields/phrases.h"
 #include "shell/main_window/continuous_switch.h"
 #include "shell/main_window/start_screen.h"
 #include "shell/pages/element_header.h"
@@ -31,6 +29,8 @@
 #include "shell/results/results_panel.h"
 #include "shell/results/variant_strip.h"
 #include "shell/second_opinion/second_opinion_panel.h"
+#include "shell/windows/icons.h"
+#include "shell/windows/phrases.h"
 
 namespace velmar::shell {
 namespace {
@@ -73,6 +73,7 @@ MainWindow::MainWindow(const WindowServices& services, QWidget* parent)
       commands_({.window = *this,
                  .open = services.open,
                  .speech = services,
+                 .pages = context_,
                  .files = files_,
                  .table = table_,
                  .results = *results_,
@@ -88,7 +89,8 @@ MainWindow::MainWindow(const WindowServices& services, QWidget* parent)
   materials_.Remember(services.places.settings);
   setWindowIcon(ProductIcon());
   setAcceptDrops(true);
-  recent_ = FillMenuBar(*menuBar(), commands_, calculations_, services.words);
+  const OpenMenus menus = FillMenuBar(*menuBar(), commands_, calculations_, services.words);
+  recent_ = menus.recent;
   edit_menu_ = new EditMenu(services.open, services.words, this);
   menuBar()->insertMenu(menuBar()->actions().at(1), edit_menu_);
   connect(qApp, &QApplication::focusChanged, this, [this] {
@@ -97,7 +99,9 @@ MainWindow::MainWindow(const WindowServices& services, QWidget* parent)
   });
   tool_bar_ = new CommandToolBar(commands_, calculations_, services.words, this);
   addToolBar(tool_bar_);
-  AddContinuousSwitch();
+  AddContinuousSwitch(*menus.calculation);
+  for (const elements::Field dimension : {elements::Field::kWidth, elements::Field::kHeight})
+    context_.Place({.field = dimension}, tool_bar_->ButtonOf(CommandId::kDimensions));
   // Shortcuts work whether or not their menu was ever open.
   for (const Command& command : Commands()) addAction(commands_.Of(command.id));
   variants_ = new VariantStrip(services.open, services, results_);
@@ -122,7 +126,8 @@ void MainWindow::MakeCentre() {
   auto* column = new QVBoxLayout(inputs);
   column->setContentsMargins(0, 0, 0, 0);
   column->setSpacing(0);
-  header_ = new ElementHeader(context_, [this] { commands_.Of(CommandId::kDimensions)->trigger(); });
+  header_ = new ElementHeader(context_);
+  connect(header_, &ElementHeader::DimensionsWanted, commands_.Of(CommandId::kDimensions), &QAction::trigger);
   tabs_ = new InputTabs(context_);
   column->addWidget(header_);
   column->addWidget(tabs_, 1);
@@ -160,11 +165,11 @@ void MainWindow::Say(const QString& text) {
   silence_.start();
 }
 
-void MainWindow::AddContinuousSwitch() {
+void MainWindow::AddContinuousSwitch(QMenu& menu) {
   auto* on = new ContinuousSwitch(continuous_, memory_, services_.words, this);
   addAction(on);
   tool_bar_->AddBehindRun(on);
-  menuBar()->findChild<QMenu*>("calcolo")->insertAction(commands_.Of(CommandId::kCompareBeside), on);
+  menu.insertAction(commands_.Of(CommandId::kCompareBeside), on);
   results_->Follow(continuous_);
   connect(&work_, &OpenWork::AboutToTell, &continuous_, &ContinuousCalculation::Follow);
 }

@@ -4,7 +4,8 @@
 #include <QPainter>
 #include <QStyledItemDelegate>
 
-#include "shell/fields/icons.h"
+#include "shell/windows/icons.h"
+#include "shell/windows/phrases.h"
 
 namespace velmar::shell {
 namespace {
@@ -49,7 +50,7 @@ class ProjectDelegate : public QStyledItemDelegate {
   }
 };
 
-QString ToQt(const std::filesystem::path& path) { return QString::fromStdString(path.string()); }
+QString FromUtf8(const std::filesystem::path& path) { return QString::fromStdString(path.string()); }
 
 /// Shipped files are named in small letters with dashes.
 QString InWords(QString name) {
@@ -73,11 +74,11 @@ void ProjectList::Show(const std::vector<std::filesystem::path>& projects, const
                        bool with_folders) {
   clear();
   for (const std::filesystem::path& project : projects) {
-    const QString name = with_folders ? ToQt(project.stem()) : InWords(ToQt(project.stem()));
+    const QString name = with_folders ? FromUtf8(project.stem()) : InWords(FromUtf8(project.stem()));
     auto* item = new QListWidgetItem(LineIcon("open"), name, this);
-    item->setData(kPathRole, ToQt(project));
-    if (with_folders) item->setData(kFolderRole, QDir::toNativeSeparators(ToQt(project.parent_path())));
-    item->setToolTip(ToQt(project));
+    item->setData(kPathRole, FromUtf8(project));
+    if (with_folders) item->setData(kFolderRole, QDir::toNativeSeparators(FromUtf8(project.parent_path())));
+    item->setToolTip(FromUtf8(project));
   }
   if (!projects.empty()) return;
   auto* item = new QListWidgetItem(none, this);

@@ -5,8 +5,8 @@
 #include <string>
 #include <vector>
 
-#include "shell/fields/window_tools.h"
 #include "shell/material_editors/edited_material.h"
+#include "shell/windows/window_tools.h"
 
 class QHBoxLayout;
 class QLineEdit;
@@ -45,7 +45,6 @@ class EditorDialog : public QDialog {
 
  private:
   void Save(bool as_copy);
-  QString InWords(const Message& message) const;
 
   shell::WindowTools tools_;
   QString memory_name_;

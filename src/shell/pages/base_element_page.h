@@ -1,7 +1,7 @@
 #pragma once
 
+#include "shell/page_parts/page_context.h"
 #include "shell/pages/page.h"
-#include "shell/pages/page_context.h"
 
 class QCheckBox;
 class QLabel;
@@ -17,6 +17,8 @@ class BaseElementPage : public Page {
   explicit BaseElementPage(PageContext& context, QWidget* parent = nullptr);
 
   void Show(const elements::Setup& setup) override;
+  /// Where the element is named or chosen.
+  QWidget* NameField() const;
 
  private:
   void AddPlainBase();

@@ -7,8 +7,8 @@
 #include <QRadioButton>
 #include <QVBoxLayout>
 
-#include "calculation/cavity_rules.h"
-#include "calculation/count_rules.h"
+#include "calculation/edits/cavity_rules.h"
+#include "calculation/edits/count_rules.h"
 #include "foundation/decimal.h"
 #include "foundation/message_rows.h"
 #include "shell/fields/corrections.h"
@@ -16,9 +16,9 @@
 #include "shell/fields/list_boxes.h"
 #include "shell/fields/number_field.h"
 #include "shell/fields/number_steps.h"
-#include "shell/fields/phrases.h"
-#include "shell/pages/layer_row.h"
-#include "shell/pages/page_parts.h"
+#include "shell/page_parts/layer_row.h"
+#include "shell/page_parts/page_layout.h"
+#include "shell/windows/phrases.h"
 
 namespace velmar::shell {
 namespace {
@@ -44,6 +44,7 @@ void CavityPage::AddDepth(QVBoxLayout& column) {
   depth_->setAccessibleName(label->text());
   depth_->setToolTip(Text(context_.Words(), kDepthTipRow));
   context_.Watch(depth_);
+  context_.Place({.field = elements::Field::kCavityDepth}, depth_);
   connect(depth_, &NumberField::Edited, this, [this](const std::string& text) {
     context_.Edit([&](elements::Setup& setup) { setup.cavity.depth_text = text; });
   });
@@ -93,6 +94,8 @@ void CavityPage::AddKinds(QVBoxLayout& column) {
     kinds_.at(i) = kind;
   }
   context_.Watch(fibre_);
+  context_.Place({.field = elements::Field::kCavityKind}, kinds_.front());
+  context_.Place({.field = elements::Field::kFibreThickness}, fibre_);
   connect(fibre_, &NumberField::Edited, this, [this](const std::string& text) {
     context_.Edit([&](elements::Setup& setup) { calculation::EnterFibreThickness(setup, text); });
   });

@@ -8,16 +8,16 @@
 #include <QTabWidget>
 #include <QVBoxLayout>
 
-#include "calculation/count_rules.h"
-#include "calculation/element_choice.h"
+#include "calculation/edits/count_rules.h"
+#include "calculation/edits/element_numbers.h"
 #include "foundation/decimal.h"
 #include "foundation/message_rows.h"
 #include "shell/fields/list_boxes.h"
-#include "shell/fields/phrases.h"
-#include "shell/pages/element_form.h"
-#include "shell/pages/facade_table.h"
-#include "shell/pages/layer_row.h"
-#include "shell/pages/page_parts.h"
+#include "shell/page_parts/element_form.h"
+#include "shell/page_parts/facade_table.h"
+#include "shell/page_parts/layer_row.h"
+#include "shell/page_parts/page_layout.h"
+#include "shell/windows/phrases.h"
 
 namespace velmar::shell {
 namespace {
@@ -98,6 +98,7 @@ ComponentsPage::Component ComponentsPage::AddComponent(int index) {
   QStringList classes = {Text(words, kClassZeroRow)};
   for (int i = 1; i <= kHighestClass; ++i)
     classes += Text(words, kAirTightnessClassRow) + ' ' + QString::number(i);
+  context_.Place({.field = elements::Field::kTightness, .index = index + 1}, component.tightness);
   component.tightness->Offer(classes);
   component.tightness->setAccessibleDescription(label->text());
   connect(component.tightness, &QComboBox::activated, this, [this, index](int chosen) {

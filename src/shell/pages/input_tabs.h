@@ -4,11 +4,12 @@
 #include <array>
 #include <optional>
 
-#include "shell/pages/page_context.h"
+#include "shell/page_parts/page_context.h"
 #include "shell/pages/tab_layout.h"
 
 namespace velmar::shell {
 
+class BaseElementPage;
 class Page;
 
 /// The tab strip with the input pages (`SSTab1`). Each calculation shows its own tabs; Ctrl+1 to Ctrl+9 reach
@@ -35,6 +36,7 @@ class InputTabs : public QTabWidget {
   void LayOut(elements::Calculation calculation);
 
   PageContext& context_;
+  BaseElementPage* base_;
   std::array<Page*, kTabCount> pages_{};
   std::optional<elements::Calculation> laid_out_;
 };

@@ -17,6 +17,7 @@
 #include <utility>
 
 #include "foundation/message_rows.h"
+#include "shell/windows/phrases.h"
 
 namespace velmar::structures {
 namespace {
@@ -56,11 +57,11 @@ constexpr int kListCharacters = 44;
 }  // namespace
 
 TestChooser::TestChooser(const shell::WindowTools& tools, LibrarySource source, const Controls& controls,
-                         Listener listener, QWidget* parent)
+                         QWidget* parent)
     : QWidget(parent),
       tools_(tools),
       source_(std::move(source)),
-      listener_(std::move(listener)),
+      enters_(controls.enters),
       model_({tools.Text(kNameHeadingRow)}),
       shown_(model_),
       nodes_(controls.nodes) {
@@ -89,9 +90,9 @@ QWidget* TestChooser::MakeTree(const Controls& controls) {
   connect(tree_, &QTreeWidget::currentItemChanged, this, [this](const QTreeWidgetItem* item) {
     if (const std::optional<LibraryFile> file = FileOf(item)) OpenFile(*file);
   });
-  if (!listener_.enter) return tree_;
+  if (!enters_) return tree_;
   const auto enter = [this](const QTreeWidgetItem* item) {
-    if (const std::optional<Branch> branch = EmptyBranchOf(item)) listener_.enter(*branch);
+    if (const std::optional<Branch> branch = EmptyBranchOf(item)) emit EntryWanted(*branch);
   };
   connect(tree_, &QTreeWidget::itemActivated, this, enter);
   // Where one click activates an item, that signal has come already.
@@ -159,13 +160,12 @@ QWidget* TestChooser::MakeList(const Controls& controls) {
 }
 
 void TestChooser::FillTree() {
-  structures::FillTree(*tree_, nodes_, source_, tools_,
-                       listener_.enter ? tools_.Text(kNoSeriesRow) : QString());
+  structures::FillTree(*tree_, nodes_, source_, tools_, enters_ ? tools_.Text(kNoSeriesRow) : QString());
 }
 
 void TestChooser::Refresh() {
   Refill(file_, keywords_->currentIndex() > 0 ? keywords_->currentText() : QString(),
-         chosen_ ? shell::ToQt(chosen_->part.name) : QString());
+         chosen_ ? shell::FromUtf8(chosen_->part.name) : QString());
 }
 
 void TestChooser::ShowTest(Branch branch, const std::string& series, const QString& name) {
@@ -216,21 +216,21 @@ void TestChooser::OpenFile(const LibraryFile& file) {
     keywords_->addItem(tools_.Text(kAllKeywordsRow));
     std::set<std::string> listed = {std::string()};
     for (const TestEntry& test : tests_) {
-      if (listed.insert(test.keyword).second) keywords_->addItem(shell::ToQt(test.keyword));
+      if (listed.insert(test.keyword).second) keywords_->addItem(shell::FromUtf8(test.keyword));
     }
   }
   FillList();
-  if (listener_.file)
-    listener_.file(file, tests_.empty() ? QString() : shell::ToQt(tests_.front().description));
+  emit FileOpened(file, tests_.empty() ? QString() : shell::FromUtf8(tests_.front().description));
 }
 
 void TestChooser::FillList() {
   const bool all = keywords_->currentIndex() <= 0;
-  const std::string keyword = shell::FromQt(keywords_->currentText());
+  const std::string keyword = shell::ToUtf8(keywords_->currentText());
   std::vector<QStringList> rows;
   const Use use = kUses.at(static_cast<std::size_t>(std::max(uses_->currentIndex(), 0))).first;
   for (const TestEntry& test : tests_) {
-    if ((all || test.keyword == keyword) && Serves(test.uses, use)) rows.push_back({shell::ToQt(test.name)});
+    if ((all || test.keyword == keyword) && Serves(test.uses, use))
+      rows.push_back({shell::FromUtf8(test.name)});
   }
   Clear();
   model_.Fill(std::move(rows));
@@ -240,15 +240,15 @@ void TestChooser::Clear() {
   list_->selectionModel()->clear();
   if (!chosen_) return;
   chosen_.reset();
-  if (listener_.test) listener_.test(chosen_);
+  emit TestChosen(chosen_);
 }
 
 void TestChooser::Choose(const QString& name) {
   std::optional<MeasuredTest> found;
-  if (file_ && !name.isEmpty()) tools_.Try([&] { found = source_.test(*file_, shell::FromQt(name)); });
+  if (file_ && !name.isEmpty()) tools_.Try([&] { found = source_.test(*file_, shell::ToUtf8(name)); });
   if (!found && !chosen_) return;
   chosen_ = std::move(found);
-  if (listener_.test) listener_.test(chosen_);
+  emit TestChosen(chosen_);
 }
 
 }  // namespace velmar::structures

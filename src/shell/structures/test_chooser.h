@@ -1,13 +1,12 @@
 #pragma once
 
 #include <QWidget>
-#include <functional>
 #include <optional>
 
-#include "shell/fields/window_tools.h"
 #include "shell/structures/entry_model.h"
 #include "shell/structures/library_tree.h"
 #include "shell/structures/structure_sources.h"
+#include "shell/windows/window_tools.h"
 
 class QComboBox;
 class QLineEdit;
@@ -19,6 +18,8 @@ namespace velmar::structures {
 
 /// Tree of files, keyword filter, search and list of tests: what library and comparison choose a test with.
 class TestChooser : public QWidget {
+  Q_OBJECT
+
  public:
   /// Object names of the controls, and what they show.
   struct Controls {
@@ -27,19 +28,12 @@ class TestChooser : public QWidget {
     const char* list = "List1";
     std::vector<TreeNode> nodes{};
     bool filters_uses = false;  ///< offers the filter of what a test can serve for (`List1_uso`)
-  };
-  struct Listener {
-    /// Another file was opened; the description is that of its first test.
-    std::function<void(const LibraryFile&, const QString& description)> file{};
-    /// A test was chosen, or none is any more.
-    std::function<void(const std::optional<MeasuredTest>&)> test{};
-    /// A branch that holds no series was clicked: a measurement of it is to be entered. Without it such a
-    /// branch shows nothing.
-    std::function<void(Branch)> enter{};
+    bool enters =
+        false;  ///< a branch that holds no series asks for one; without it such a branch shows nothing
   };
 
   TestChooser(const shell::WindowTools& tools, LibrarySource source, const Controls& controls,
-              Listener listener, QWidget* parent = nullptr);
+              QWidget* parent = nullptr);
 
   const std::optional<MeasuredTest>& Chosen() const { return chosen_; }
   const std::optional<LibraryFile>& File() const { return file_; }
@@ -50,6 +44,14 @@ class TestChooser : public QWidget {
   /// Reads files and tests anew; what is chosen stays chosen while it is still there.
   void Refresh();
   QSplitter* Splitter() const { return splitter_; }
+
+ signals:
+  /// Another file was opened; the description is that of its first test.
+  void FileOpened(const velmar::structures::LibraryFile& file, const QString& description);
+  /// A test was chosen, or none is any more.
+  void TestChosen(const std::optional<velmar::structures::MeasuredTest>& test);
+  /// A branch that holds no series was clicked: a measurement of it is to be entered.
+  void EntryWanted(velmar::structures::Branch branch);
 
  private:
   QWidget* MakeTree(const Controls& controls);
@@ -62,7 +64,7 @@ class TestChooser : public QWidget {
 
   shell::WindowTools tools_;
   LibrarySource source_;
-  Listener listener_;
+  bool enters_;
   EntryModel model_;
   EntrySearch shown_;
   std::vector<TreeNode> nodes_;
