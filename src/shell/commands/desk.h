@@ -14,6 +14,7 @@ class OpenTable;
 class PaperCommands;
 class ProjectFiles;
 class ReportCommands;
+struct DocumentServices;
 class ResultsPanel;
 class StructureCommands;
 
@@ -32,6 +33,7 @@ struct Desk {
   MaterialCommands* materials = nullptr;
   PaperCommands* paper = nullptr;
   ReportCommands* reports = nullptr;
+  DocumentServices* documents = nullptr;
 };
 
 }  // namespace velmar::shell
