@@ -16,7 +16,7 @@
 #include <utility>
 #include <vector>
 
-#include "presentation/reports/package.h"
+#include "presentation/documents/package.h"
 
 namespace {
 

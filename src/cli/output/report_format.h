@@ -4,7 +4,7 @@
 #include <optional>
 #include <string>
 
-#include "calculation/totals.h"
+#include "calculation/runs/totals.h"
 #include "elements/result_set.h"
 #include "elements/setup.h"
 #include "elements/studio_profile.h"

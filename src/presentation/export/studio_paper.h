@@ -7,7 +7,7 @@
 
 #include "elements/studio_profile.h"
 #include "foundation/message.h"
-#include "presentation/reports/picture.h"
+#include "presentation/documents/picture.h"
 #include "presentation/texts/letterhead.h"
 
 namespace velmar::presentation {

@@ -10,7 +10,7 @@
 #include "shell/commands/command_set.h"
 #include "shell/commands/help_commands.h"
 #include "shell/documents/language_menu.h"
-#include "shell/fields/phrases.h"
+#include "shell/windows/phrases.h"
 
 namespace velmar::shell {
 namespace {

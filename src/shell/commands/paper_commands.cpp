@@ -3,9 +3,9 @@
 #include "presentation/drawing/printed_page.h"
 #include "presentation/export/document_provenance.h"
 #include "presentation/export/report_chart.h"
-#include "shell/fields/phrases.h"
 #include "shell/project/project_files.h"
 #include "shell/results/results_panel.h"
+#include "shell/windows/phrases.h"
 #include "storage/project/project_writer.h"
 #include "validation/second_opinion.h"
 

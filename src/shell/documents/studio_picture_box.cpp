@@ -7,7 +7,7 @@
 #include "foundation/failure.h"
 #include "foundation/message_rows.h"
 #include "presentation/export/studio_paper.h"
-#include "shell/fields/phrases.h"
+#include "shell/windows/phrases.h"
 
 namespace velmar::shell {
 namespace {

@@ -4,7 +4,7 @@
 #include <QWidget>
 #include <string>
 
-#include "shell/fields/boxes.h"
+#include "shell/windows/boxes.h"
 #include "storage/profile/studio_profile_store.h"
 
 class QPushButton;

@@ -18,7 +18,7 @@
 #include "presentation/drawing/page_text.h"
 #include "presentation/export/studio_paper.h"
 #include "shell/documents/studio_picture_box.h"
-#include "shell/fields/phrases.h"
+#include "shell/windows/phrases.h"
 
 namespace velmar::shell {
 namespace {

@@ -6,7 +6,7 @@
 
 #include "elements/studio_profile.h"
 #include "shell/documents/document_services.h"
-#include "shell/fields/boxes.h"
+#include "shell/windows/boxes.h"
 #include "storage/profile/studio_profile_store.h"
 
 class QComboBox;
