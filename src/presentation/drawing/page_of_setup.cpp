@@ -232,6 +232,9 @@ void TellProvenance(PaginaDiStampa& page, const Setup& setup, const Words& words
                     const Provenance& provenance, DocumentLanguage language) {
   page.data = ForPaper(CalculationDataOf(setup, words, provenance), language);
   page.foot.left = FootText(setup.information, provenance);
+  page.author = setup.information[kEngineerRow].value;
+  page.subject = words(kDocumentSubjectRow);
+  page.program = provenance.program;
 }
 
 void TellStudio(PaginaDiStampa& page, const Setup& setup, PageStudio studio, const Words& words,
@@ -240,6 +243,7 @@ void TellStudio(PaginaDiStampa& page, const Setup& setup, PageStudio studio, con
   studio.signer = engineer.empty() ? studio.words.signer : engineer;
   studio.signer_caption = words(kSignerCaptionRow);
   studio.date = provenance.date;
+  if (!studio.words.name.empty()) page.author = studio.words.name;
   page.studio = std::move(studio);
 }
 
@@ -260,6 +264,7 @@ PaginaDiStampa InBoth(PaginaDiStampa italian, const PaginaDiStampa& english) {
       block.lines[line].name = InBoth(block.lines[line].name, other.lines[line].name);
   }
   italian.data = InBoth(std::move(italian.data), english.data);
+  italian.subject = InBoth(italian.subject, english.subject);
   italian.foot.page = InBoth(italian.foot.page, english.foot.page);
   italian.foot.of = InBoth(italian.foot.of, english.foot.of);
   italian.studio.signer_caption = InBoth(italian.studio.signer_caption, english.studio.signer_caption);

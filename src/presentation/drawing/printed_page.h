@@ -79,6 +79,9 @@ struct PaginaDiStampa {
   CalculationData data{};  ///< every input, on the pages behind the first
   PageFoot foot{};
   PageStudio studio{};
+  std::string author{};   ///< of the document, among its properties
+  std::string subject{};  ///< the same
+  std::string program{};  ///< the same, with its version
 };
 
 /// The totals of an element as the window shows them.

@@ -10,6 +10,7 @@
 #include "storage/profile/studio_profile_store.h"
 
 class QComboBox;
+class QFormLayout;
 class QLabel;
 class QPushButton;
 
@@ -34,7 +35,7 @@ class StudioProfileDialog : public QDialog {
     QLabel* note = nullptr;
   };
 
-  void AddFields(class QFormLayout& form);
+  void AddFields(QFormLayout& form);
   elements::StudioProfile Entered() const;
   void Fill(const elements::StudioProfile& profile);
   /// Shows what does not fit and the preview. @return whether everything may be saved
