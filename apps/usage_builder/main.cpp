@@ -41,7 +41,7 @@ UsageCommand UsageIn(const std::string& language, const fs::path& share) {
   velmar::cli::Services services;
   services.words = [&messages](velmar::MessageRow row) { return messages.Text(row); };
   services.report_formats = {velmar::cli::CsvFormat()};
-  for (velmar::cli::ReportFormat& format : velmar::cli::DrawnFormats(share / "Templates"))
+  for (velmar::cli::ReportFormat& format : velmar::cli::DrawnFormats({.templates = share / "Templates"}))
     services.report_formats.push_back(std::move(format));
   velmar::cli::Parsed parsed;
   CLI::App app;

@@ -13,6 +13,7 @@
 #include "shell/commands/report_commands.h"
 #include "shell/commands/run_command.h"
 #include "shell/commands/structure_commands.h"
+#include "shell/documents/studio_profile_dialog.h"
 #include "shell/project/dimension_dialog.h"
 #include "shell/project/project_files.h"
 #include "shell/project/project_information_dialog.h"
@@ -44,6 +45,13 @@ template <typename Window>
 void Dialog(CommandSet& commands) {
   const Desk& desk = commands.At();
   Window(desk.open, desk.speech.words, &desk.window).exec();
+}
+
+void ShowStudioProfile(CommandSet& commands) {
+  const Desk& desk = commands.At();
+  if (desk.documents == nullptr)
+    return desk.speech.boxes.tell(Tone::kInformation, Text(desk.speech.words, kNoWindowRow));
+  StudioProfileDialog(*desk.documents, desk.speech, &desk.window).exec();
 }
 
 template <ElementButton kind>
@@ -119,6 +127,8 @@ constexpr std::array<Command, kCommandCount> kCommands = {{
             Of<&Desk::help, &HelpCommands::ShowAbout>},
     Command{kChoosePrinter,      0,  "Scegli_stampante",          kChoosePrinterMenuRow, {}, "",           "",       N::kNothing,
             Of<&Desk::paper, &PaperCommands::ChoosePrinter>},
+    Command{kStudioProfile,      0,  "profilo_studio",            kStudioMenuRow, {}, "",           "",       N::kNothing,
+            ShowStudioProfile},
 }};
 // clang-format on
 

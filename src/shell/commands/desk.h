@@ -15,6 +15,7 @@ class PageContext;
 class PaperCommands;
 class ProjectFiles;
 class ReportCommands;
+struct DocumentServices;
 class ResultsPanel;
 class StructureCommands;
 
@@ -34,6 +35,7 @@ struct Desk {
   MaterialCommands* materials = nullptr;
   PaperCommands* paper = nullptr;
   ReportCommands* reports = nullptr;
+  DocumentServices* documents = nullptr;
 };
 
 }  // namespace velmar::shell

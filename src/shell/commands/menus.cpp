@@ -9,6 +9,7 @@
 #include "shell/commands/calculation_menu.h"
 #include "shell/commands/command_set.h"
 #include "shell/commands/help_commands.h"
+#include "shell/documents/language_menu.h"
 #include "shell/windows/phrases.h"
 
 namespace velmar::shell {
@@ -37,8 +38,10 @@ OpenMenus FillMenuBar(QMenuBar& bar, const CommandSet& commands, const Calculati
   Add(*file, commands, {kSaveProject, kSaveProjectAs, kStoreResult});
   file->addSeparator();
   Add(*file, commands, {kExportWord, kExportExcel, kPrint, kPrintPreview, kChoosePrinter});
+  if (DocumentServices* documents = commands.At().documents)
+    file->addMenu(new LanguageMenu(*documents, words, file));
   file->addSeparator();
-  Add(*file, commands, {kProjectInformation});
+  Add(*file, commands, {kProjectInformation, kStudioProfile});
   file->addSeparator();
   Add(*file, commands, {kExit});
 

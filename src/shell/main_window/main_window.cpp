@@ -82,7 +82,8 @@ MainWindow::MainWindow(const WindowServices& services, QWidget* parent)
                  .structures = services.structure_commands,
                  .materials = services.material_commands,
                  .paper = services.paper_commands,
-                 .reports = services.report_commands},
+                 .reports = services.report_commands,
+                 .documents = services.documents},
                 this),
       calculations_(services.words, this) {
   setObjectName("Form1");
