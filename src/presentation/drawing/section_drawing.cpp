@@ -215,6 +215,7 @@ void DrawSection(QPainter& painter, const QRectF& area, const Section& section,
   if (!section.strips.empty()) {
     const SectionLayout layout = LayoutOf(area, section, painter.font(), options);
     DrawStrips(painter, layout, section, options);
+    if (options.strips_alone) return painter.restore();
     DrawLabels(painter, layout, options);
     DrawChain(painter, layout, section);
     DrawDimension(painter, layout, section);

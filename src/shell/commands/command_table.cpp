@@ -119,6 +119,8 @@ constexpr std::array<Command, kCommandCount> kCommands = {{
             Of<&Desk::help, &HelpCommands::ShowAbout>},
     Command{kChoosePrinter,      0,  "Scegli_stampante",          kChoosePrinterMenuRow, {}, "",           "",       N::kNothing,
             Of<&Desk::paper, &PaperCommands::ChoosePrinter>},
+    Command{kSaveAsTemplate,     0,  "salva_come_modello",        kSaveAsTemplateRow, {}, "",           "",       N::kCalculation,
+            [](CommandSet& all) { all.At().files.KeepAsTemplate(); }},
 }};
 // clang-format on
 

@@ -10,6 +10,7 @@
 #include "shell/commands/command_set.h"
 #include "shell/commands/help_commands.h"
 #include "shell/fields/phrases.h"
+#include "shell/project/project_files.h"
 
 namespace velmar::shell {
 namespace {
@@ -34,7 +35,8 @@ QMenu* FillMenuBar(QMenuBar& bar, const CommandSet& commands, const CalculationA
   Add(*file, commands, {kNewProject, kOpenProject});
   QMenu* recent = file->addMenu(Text(words, kRecentMenuRow));
   recent->setObjectName("Recenti");
-  Add(*file, commands, {kSaveProject, kSaveProjectAs, kStoreResult});
+  Add(*file, commands, {kSaveProject, kSaveProjectAs, kSaveAsTemplate, kStoreResult});
+  commands.Of(kSaveAsTemplate)->setVisible(commands.At().files.OwnTemplates().AreKept());
   file->addSeparator();
   Add(*file, commands, {kExportWord, kExportExcel, kPrint, kPrintPreview, kChoosePrinter});
   file->addSeparator();

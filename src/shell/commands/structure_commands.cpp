@@ -3,6 +3,7 @@
 #include <QWidget>
 #include <utility>
 
+#include "calculation/facade_overview.h"
 #include "calculation/facade_parts.h"
 #include "elements/catalogue.h"
 #include "foundation/failure.h"
@@ -80,7 +81,10 @@ std::optional<calculation::FacadePart> StructureCommands::Find(const std::string
 }
 
 void StructureCommands::Take(const ElementPick& pick, const calculation::FacadePart& part) {
-  open_.Edit([&](elements::Setup& setup) { TakePart(setup, pick.component, part); });
+  open_.Edit([&](elements::Setup& setup) {
+    while (setup.facade.Count() < pick.component) calculation::AddComponent(setup);
+    TakePart(setup, pick.component, part);
+  });
 }
 
 void StructureCommands::ShowSavedResults(QWidget* parent) {
