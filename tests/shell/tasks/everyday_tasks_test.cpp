@@ -86,7 +86,7 @@ class EverydayTasksTest : public QObject {
     WindowFixture fixture;
     Show(fixture);
     hand_.Choose(CalculationsOf(fixture, 17), "TIPO_PARETE_SINGOLA_2");
-    hand_.Click(fixture.Find<QWidget>("Combo3_1"));
+    hand_.Click(fixture.Find<QComboBox>("Combo3_1")->lineEdit());
     hand_.Enter("semipieno 1200");
     hand_.Press(Qt::Key_F5);
     QCOMPARE(fixture.asked, QStringList());
@@ -125,11 +125,11 @@ class EverydayTasksTest : public QObject {
     WindowFixture fixture;
     Show(fixture);
     hand_.Choose(CalculationsOf(fixture, 18), "TIPO_PARETE_DOPPIA_2");
-    hand_.Click(fixture.Find<QWidget>("Combo3_1"));
+    hand_.Click(fixture.Find<QComboBox>("Combo3_1")->lineEdit());
     hand_.Enter("semipieno 1200");
     hand_.Enter("80");
     hand_.Press(Qt::Key_2, Qt::ControlModifier);
-    hand_.Click(fixture.Find<QWidget>("Combo4_0"));
+    hand_.Click(fixture.Find<QComboBox>("Combo4_0")->lineEdit());
     hand_.Enter("semipieno 1200");
     hand_.Press(Qt::Key_3, Qt::ControlModifier);
     hand_.Enter("60");

@@ -39,11 +39,13 @@ void Hand::Click(QWidget* widget) {
     qFatal("nothing to click at: %s", qPrintable(widget->objectName()));
   QTest::mouseClick(widget, Qt::LeftButton);
   ++count_;
+  QApplication::processEvents();
 }
 
 void Hand::Press(Qt::Key key, Qt::KeyboardModifiers modifiers) {
   ++count_;
   QTest::keyClick(&Focused(), key, modifiers);
+  QApplication::processEvents();
 }
 
 void Hand::Turn(QWidget* widget, int notches) {
@@ -59,6 +61,7 @@ void Hand::Enter(const QString& text, Qt::Key leave) {
   letters_ += static_cast<int>(text.size());
   QTest::keyClicks(&Focused(), text);
   QTest::keyClick(&Focused(), leave);
+  QApplication::processEvents();
 }
 
 void Hand::Choose(QWidget* button, const QString& action) {
