@@ -14,8 +14,8 @@
 #include "foundation/rounding.h"
 #include "presentation/drawing/section_drawing.h"
 #include "shell/commands/command_table.h"
-#include "shell/fields/icons.h"
-#include "shell/fields/phrases.h"
+#include "shell/windows/icons.h"
+#include "shell/windows/phrases.h"
 
 namespace velmar::shell {
 namespace {

@@ -3,13 +3,13 @@
 #include <QtConcurrentRun>
 #include <utility>
 
-#include "calculation/totals.h"
+#include "calculation/runs/totals.h"
 #include "foundation/decimal.h"
 #include "foundation/message_rows.h"
 #include "foundation/rounding.h"
 #include "shell/commands/calculation_captions.h"
 #include "shell/commands/command_table.h"
-#include "shell/fields/phrases.h"
+#include "shell/windows/phrases.h"
 
 namespace velmar::shell {
 namespace {

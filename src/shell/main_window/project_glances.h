@@ -9,7 +9,7 @@
 #include <optional>
 #include <vector>
 
-#include "calculation/run.h"
+#include "calculation/runs/run.h"
 #include "elements/catalogue.h"
 #include "elements/setup.h"
 #include "presentation/drawing/section.h"

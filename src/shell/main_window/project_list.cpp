@@ -8,9 +8,9 @@
 #include <utility>
 
 #include "foundation/message_rows.h"
-#include "shell/fields/icons.h"
-#include "shell/fields/phrases.h"
 #include "shell/main_window/project_glances.h"
+#include "shell/windows/icons.h"
+#include "shell/windows/phrases.h"
 
 namespace velmar::shell {
 namespace {

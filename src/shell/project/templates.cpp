@@ -6,8 +6,8 @@
 
 #include "foundation/failure.h"
 #include "foundation/message_rows.h"
-#include "shell/fields/phrases.h"
 #include "shell/project/project_files.h"
+#include "shell/windows/phrases.h"
 
 namespace velmar::shell {
 namespace {

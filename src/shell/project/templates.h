@@ -5,8 +5,8 @@
 #include <vector>
 
 #include "elements/setup.h"
-#include "shell/fields/boxes.h"
 #include "shell/project/project_services.h"
+#include "shell/windows/boxes.h"
 
 namespace velmar::shell {
 

@@ -6,10 +6,10 @@
 #include <map>
 #include <optional>
 
-#include "shell/fields/window_tools.h"
 #include "shell/structures/entry_model.h"
 #include "shell/structures/library_tree.h"
 #include "shell/structures/structure_sources.h"
+#include "shell/windows/window_tools.h"
 
 class QComboBox;
 class QLineEdit;

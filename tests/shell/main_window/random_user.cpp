@@ -15,7 +15,7 @@
 #include <QTimer>
 #include <QToolButton>
 
-#include "calculation/run.h"
+#include "calculation/runs/run.h"
 #include "elements/variants.h"
 #include "shell/fields/material_box.h"
 

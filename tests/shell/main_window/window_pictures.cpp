@@ -8,7 +8,7 @@
 #include <QTabWidget>
 #include <QTest>
 
-#include "calculation/layer_edits.h"
+#include "calculation/edits/layer_edits.h"
 #include "tests/shell/support/window_looks.h"
 
 namespace {

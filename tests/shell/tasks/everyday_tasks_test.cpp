@@ -14,7 +14,7 @@
 #include <QToolButton>
 #include <cmath>
 
-#include "presentation/reports/package.h"
+#include "presentation/documents/package.h"
 #include "shell/commands/report_commands.h"
 #include "shell/main_window/kind_card.h"
 #include "tests/shell/support/materials_program.h"
