@@ -220,6 +220,7 @@ void DrawSection(QPainter& painter, const QRectF& area, const Section& section,
   if (!section.strips.empty()) {
     const SectionLayout layout = LayoutOf(area, section, painter.font(), options);
     DrawStrips(painter, layout, section, options);
+    if (options.strips_alone) return painter.restore();
     DrawLabels(painter, layout, options);
     DrawChain(painter, layout, section, options.language);
     DrawDimension(painter, layout, section, options.language);

@@ -16,6 +16,7 @@ namespace velmar::presentation {
 struct SectionOptions {
   int highlighted_number = 0;       ///< the row to light up; 0 for none
   bool list_names = true;           ///< numbers and names beside or below the section, where there is room
+  bool strips_alone = false;        ///< nothing beside the strips, which take the whole area
   double smallest_number_px = 4.0;  ///< where numbers would have to be smaller, they stand in more lanes
   bool paper = false;  ///< with the thickness of each layer beside it, where it fits, and behind its name
   elements::DocumentLanguage language = elements::DocumentLanguage::kItalian;  ///< of the decimal sign

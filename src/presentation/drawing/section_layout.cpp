@@ -271,6 +271,11 @@ SectionLayout LayoutOf(const QRectF& area, const Section& section, const QFont& 
   layout.text_px = std::clamp(std::min(area.width(), area.height()) / 10.0, 5.0, PixelsOf(font));
   layout.font = PixelFont(font, layout.text_px);
   if (section.strips.empty() || area.isEmpty()) return layout;
+  if (options.strips_alone) {
+    layout.body = area.adjusted(0.5, 0.5, -0.5, -0.5);
+    PlaceStrips(layout, section);
+    return layout;
+  }
   const double em = layout.text_px;
   QRectF room = area.adjusted(0.6 * em, 0.6 * em, -0.6 * em, -0.6 * em);
 

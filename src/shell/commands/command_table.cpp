@@ -129,6 +129,8 @@ constexpr std::array<Command, kCommandCount> kCommands = {{
             Of<&Desk::paper, &PaperCommands::ChoosePrinter>},
     Command{kStudioProfile,      0,  "profilo_studio",            kStudioMenuRow, {}, "",           "",       N::kNothing,
             ShowStudioProfile},
+    Command{kSaveAsTemplate,     0,  "salva_come_modello",        kSaveAsTemplateRow, {}, "",           "",       N::kCalculation,
+            [](CommandSet& all) { all.At().files.KeepAsTemplate(); }},
 }};
 // clang-format on
 

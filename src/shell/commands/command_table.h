@@ -46,8 +46,9 @@ enum class CommandId {
   kAbout,
   kChoosePrinter,
   kStudioProfile,
+  kSaveAsTemplate,
 };
-inline constexpr std::size_t kCommandCount = static_cast<std::size_t>(CommandId::kStudioProfile) + 1;
+inline constexpr std::size_t kCommandCount = static_cast<std::size_t>(CommandId::kSaveAsTemplate) + 1;
 
 /// What must be there before a command can do anything.
 enum class Needs {

@@ -10,6 +10,7 @@
 #include "shell/commands/command_set.h"
 #include "shell/commands/help_commands.h"
 #include "shell/documents/language_menu.h"
+#include "shell/project/project_files.h"
 #include "shell/windows/phrases.h"
 
 namespace velmar::shell {
@@ -35,7 +36,8 @@ OpenMenus FillMenuBar(QMenuBar& bar, const CommandSet& commands, const Calculati
   Add(*file, commands, {kNewProject, kOpenProject});
   QMenu* recent = file->addMenu(Text(words, kRecentMenuRow));
   recent->setObjectName("Recenti");
-  Add(*file, commands, {kSaveProject, kSaveProjectAs, kStoreResult});
+  Add(*file, commands, {kSaveProject, kSaveProjectAs, kSaveAsTemplate, kStoreResult});
+  commands.Of(kSaveAsTemplate)->setVisible(commands.At().files.OwnTemplates().AreKept());
   file->addSeparator();
   Add(*file, commands, {kExportWord, kExportExcel, kPrint, kPrintPreview, kChoosePrinter});
   if (DocumentServices* documents = commands.At().documents)

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "calculation/edits/facade_parts.h"
+#include "calculation/runs/facade_overview.h"
 #include "elements/catalogue.h"
 #include "foundation/failure.h"
 #include "foundation/message_rows.h"
@@ -80,7 +81,10 @@ std::optional<calculation::FacadePart> StructureCommands::Find(const std::string
 }
 
 void StructureCommands::Take(const ElementPick& pick, const calculation::FacadePart& part) {
-  open_.Edit([&](elements::Setup& setup) { TakePart(setup, pick.component, part); });
+  open_.Edit([&](elements::Setup& setup) {
+    while (setup.facade.Count() < pick.component) calculation::AddComponent(setup);
+    TakePart(setup, pick.component, part);
+  });
 }
 
 void StructureCommands::ShowSavedResults(QWidget* parent) {

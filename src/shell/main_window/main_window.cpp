@@ -138,7 +138,7 @@ void MainWindow::MakeCentre() {
   sides_->addWidget(results_);
   sides_->setStretchFactor(0, 0);
   sides_->setStretchFactor(1, 1);
-  start_ = new StartScreen(services_.words, calculations_);
+  start_ = new StartScreen(services_.words, calculations_, services_.look_at_project);
   centre_ = new QStackedWidget(this);
   centre_->addWidget(start_);
   centre_->addWidget(sides_);
@@ -184,6 +184,17 @@ void MainWindow::Connect() {
   connect(&calculations_, &CalculationActions::Chosen, this, &MainWindow::Choose);
   connect(start_, &StartScreen::KindChosen, this, &MainWindow::Begin);
   connect(start_, &StartScreen::ProjectChosen, this, &MainWindow::OpenProject);
+  connect(start_, &StartScreen::TemplateChosen, this, &MainWindow::BeginWith);
+  connect(start_, &StartScreen::TemplateRenamingWanted, this, [this](const std::filesystem::path& pattern) {
+    if (files_.OwnTemplates().Rename(pattern)) ShowProjects();
+  });
+  connect(start_, &StartScreen::TemplateRemovalWanted, this, [this](const std::filesystem::path& pattern) {
+    if (files_.OwnTemplates().Remove(pattern)) ShowProjects();
+  });
+  connect(&files_, &ProjectFiles::TemplateKept, this, [this](const std::filesystem::path& file) {
+    Say(Text(services_.words, kTemplateKeptRow) + ' ' + FromUtf8(file.stem()));
+    ShowProjects();
+  });
   connect(&commands_, &CommandSet::AboutToAct, &context_, &PageContext::SettleAsked);
   connect(edit_menu_, &EditMenu::SettleAsked, &context_, &PageContext::SettleAsked);
   connect(edit_menu_, &EditMenu::FixVariantWanted, variants_, &VariantStrip::Fix);
@@ -236,6 +247,7 @@ void MainWindow::Choose(elements::Calculation calculation) {
     }
   });
   files_.FollowChoice(before);
+  if (begins) tabs_->FocusFirst();
 }
 
 void MainWindow::ShowAll() {
@@ -274,7 +286,10 @@ void MainWindow::ShowName() {
 
 void MainWindow::ShowProjects() {
   const auto recent = memory_.RecentProjects();
-  start_->ShowProjects(recent, ProjectsIn(services_.places.examples));
+  start_->ShowProjects({.recent = recent,
+                        .templates = files_.OwnTemplates().All(),
+                        .examples = ProjectsIn(services_.places.examples)},
+                       services_.open.Setup());
   recent_->clear();
   recent_->setEnabled(!recent.empty());
   for (const std::filesystem::path& project : recent)
@@ -289,6 +304,11 @@ void MainWindow::ShowProjects() {
 void MainWindow::OpenProject(const std::filesystem::path& project) {
   tabs_->LayOutAnew();
   files_.Open(project);
+}
+
+void MainWindow::BeginWith(const std::filesystem::path& pattern) {
+  tabs_->LayOutAnew();
+  files_.Begin(pattern);
 }
 
 void MainWindow::OfferRecovery() {

@@ -2,6 +2,7 @@
 
 #include <QFocusEvent>
 #include <QKeyEvent>
+#include <QTimer>
 #include <algorithm>
 #include <array>
 #include <charconv>
@@ -87,7 +88,10 @@ void NumberBox::keyPressEvent(QKeyEvent* event) {
 
 void NumberBox::focusInEvent(QFocusEvent* event) {
   QLineEdit::focusInEvent(event);
-  if (event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason) selectAll();
+  if (!MovesOn(*event)) return;
+  selectAll();
+  // The press of the mouse that brought the focus puts the caret afterwards.
+  if (event->reason() == Qt::MouseFocusReason) QTimer::singleShot(0, this, &QLineEdit::selectAll);
 }
 
 void NumberBox::focusOutEvent(QFocusEvent* event) {

@@ -61,6 +61,7 @@ WindowPlaces Places() {
   if (const auto shipped = storage::ShippedDataFolder(program)) places.examples = *shipped / "Examples";
   places.documents = storage::CartellaDocumenti();
   places.settings = folder(QStandardPaths::AppConfigLocation) / "finestra.ini";
+  places.templates = folder(QStandardPaths::AppDataLocation) / "modelli";
   places.recovery = folder(QStandardPaths::AppDataLocation) / "recupero";
   return places;
 }
@@ -137,6 +138,13 @@ struct Desktop {
       storage::OpenedProject project = application::OpenProject(file, open.Setup(), services.materials);
       unknown = project.setup.calculation ? storage::StoredCalculation() : project.stored;
       return std::move(project.setup);
+    };
+    services.look_at_project = [file = store.File()](const std::filesystem::path& project,
+                                                     const elements::Setup& current) {
+      return application::OpenProject(
+                 project, current,
+                 application::ForgivingLookup(storage::MaterialLookupIn(file), [](const Failure&) {}))
+          .setup;
     };
     services.write_project = [this](const std::filesystem::path& file, const elements::Setup& setup) {
       storage::SaveProject(file, setup, unknown);

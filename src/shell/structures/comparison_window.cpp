@@ -96,6 +96,7 @@ ComparisonWindow::ComparisonWindow(shell::WindowTools tools, const LibrarySource
   column->addLayout(buttons);
   resize(fontMetrics().averageCharWidth() * 170, fontMetrics().height() * 34);
   shell::RestoreSizes(tools_.memory, SizesOf(this, sides_));
+  laboratory_->Chooser()->FocusSearch();
   shell::SetMnemonics(*this);
   connect(new QShortcut(QKeySequence::Refresh, this), &QShortcut::activated, this, [this] {
     laboratory_->Refresh();

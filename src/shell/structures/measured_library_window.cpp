@@ -76,6 +76,7 @@ MeasuredLibraryWindow::MeasuredLibraryWindow(shell::WindowTools tools, LibrarySo
   chooser_->Splitter()->setSizes({character * 44, character * 44, character * 102});
   shell::RestoreSizes(tools_.memory, SizesOf(this, *chooser_));
   shell::SetMnemonics(*this);
+  chooser_->FocusSearch();
   connect(new QShortcut(QKeySequence::Refresh, this), &QShortcut::activated, chooser_, &TestChooser::Refresh);
 }
 

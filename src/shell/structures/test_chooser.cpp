@@ -16,6 +16,7 @@
 #include <set>
 #include <utility>
 
+#include "foundation/failure.h"
 #include "foundation/message_rows.h"
 #include "shell/windows/phrases.h"
 
@@ -51,6 +52,8 @@ bool Serves(const storage::TestUses& uses, Use use) {
   return true;
 }
 
+/// Letters that are worth a look into other files.
+constexpr qsizetype kShortestSearch = 3;
 constexpr int kTreeCharacters = 42;
 constexpr int kListCharacters = 44;
 
@@ -151,7 +154,9 @@ QWidget* TestChooser::MakeList(const Controls& controls) {
     shown_.Search(text);
     // The view moves on to a neighbour of a row that goes; nobody chose that one.
     if (list_->currentIndex().data().toString() != before) Clear();
+    SearchOtherFiles();
   });
+  connect(search_, &QLineEdit::returnPressed, this, &TestChooser::TakeHit);
   connect(list_->selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] {
     const QModelIndexList selected = list_->selectionModel()->selectedIndexes();
     Choose(selected.isEmpty() ? QString() : selected.first().data().toString());
@@ -164,6 +169,7 @@ void TestChooser::FillTree() {
 }
 
 void TestChooser::Refresh() {
+  searched_.clear();
   Refill(file_, keywords_->currentIndex() > 0 ? keywords_->currentText() : QString(),
          chosen_ ? shell::FromUtf8(chosen_->part.name) : QString());
 }
@@ -177,6 +183,7 @@ void TestChooser::ShowTest(Branch branch, const std::string& series, const QStri
   });
   search_->clear();
   uses_->setCurrentIndex(0);
+  searched_.clear();
   Refill(shown ? shown : file_, QString(), name);
 }
 
@@ -234,6 +241,45 @@ void TestChooser::FillList() {
   }
   Clear();
   model_.Fill(std::move(rows));
+}
+
+void TestChooser::FocusSearch() { search_->setFocus(Qt::OtherFocusReason); }
+
+void TestChooser::SearchOtherFiles() {
+  if (shown_.rowCount() > 0 || search_->text().trimmed().size() < kShortestSearch) return;
+  const std::optional<LibraryFile> file = FirstFileWithHit();
+  if (!file) return;
+  {
+    const QSignalBlocker quiet(uses_);
+    uses_->setCurrentIndex(0);
+  }
+  Refill(file, QString(), QString());
+}
+
+std::optional<LibraryFile> TestChooser::FirstFileWithHit() {
+  EntryModel names({QString()});
+  EntrySearch hits(names);
+  hits.Search(search_->text());
+  for (QTreeWidgetItemIterator item(tree_); *item != nullptr; ++item) {
+    const std::optional<LibraryFile> file = FileOf(*item);
+    if (!file || file == file_) continue;
+    const auto [known, is_new] = searched_.try_emplace(file->path);
+    try {
+      for (const TestEntry& test : is_new ? source_.tests(*file) : std::vector<TestEntry>())
+        known->second.push_back({shell::FromUtf8(test.name)});
+    } catch (const Failure&) {
+      continue;  // opening that file tells why
+    }
+    names.Fill(known->second);
+    if (hits.rowCount() > 0) return file;
+  }
+  return std::nullopt;
+}
+
+void TestChooser::TakeHit() {
+  const bool searched = !search_->text().trimmed().isEmpty();
+  if (searched && !list_->currentIndex().isValid() && shown_.rowCount() > 0)
+    list_->setCurrentIndex(shown_.index(0, 0));
 }
 
 void TestChooser::Clear() {

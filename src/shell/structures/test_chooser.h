@@ -1,6 +1,8 @@
 #pragma once
 
 #include <QWidget>
+#include <filesystem>
+#include <map>
 #include <optional>
 
 #include "shell/structures/entry_model.h"
@@ -43,6 +45,8 @@ class TestChooser : public QWidget {
   void Clear();
   /// Reads files and tests anew; what is chosen stays chosen while it is still there.
   void Refresh();
+  /// What is typed next is searched for, in the open file first and then in the others.
+  void FocusSearch();
   QSplitter* Splitter() const { return splitter_; }
 
  signals:
@@ -61,6 +65,11 @@ class TestChooser : public QWidget {
   void OpenFile(const LibraryFile& file);
   void FillList();
   void Choose(const QString& name);
+  /// Where the open file has no hit, the first one that has is opened.
+  void SearchOtherFiles();
+  std::optional<LibraryFile> FirstFileWithHit();
+  /// Enter in the search: the first hit is chosen.
+  void TakeHit();
 
   shell::WindowTools tools_;
   LibrarySource source_;
@@ -71,6 +80,7 @@ class TestChooser : public QWidget {
   std::optional<LibraryFile> file_;
   std::vector<TestEntry> tests_;
   std::optional<MeasuredTest> chosen_;
+  std::map<std::filesystem::path, std::vector<QStringList>> searched_;  ///< names of files that were searched
   QSplitter* splitter_ = nullptr;
   QTreeWidget* tree_ = nullptr;
   QComboBox* keywords_ = nullptr;

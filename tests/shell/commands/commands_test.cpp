@@ -128,6 +128,7 @@ class CommandsTest : public QObject {
                              "Apri_Progetto",
                              "Salva_Progetto",
                              "salva_con_nome",
+                             "salva_come_modello",
                              "Salva",
                              "mnuFileEsportaWord",
                              "esp_excel",

@@ -257,11 +257,10 @@ class ProjectFilesTest : public QObject {
     fixture.services.places.examples = EXAMPLES;
     fixture.MakeWindow();
     fixture.window->show();
-    auto* list = fixture.Find<QListWidget>("Esempi");
-    QCOMPARE(list->count(), static_cast<int>(ProjectsIn(EXAMPLES).size()));
+    auto* list = fixture.Find<QListWidget>("Costruzioni");
     QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualItemRect(list->item(2)).center());
     QTRY_VERIFY(fixture.open.Setup().calculation.has_value());
-    QVERIFY(fixture.window->windowTitle().endsWith(" - calpestio-galleggiante"));
+    QVERIFY(fixture.window->windowTitle().endsWith(" - usuale-03-doppia-forati-8-8"));
     QVERIFY(!list->isVisible());
   }
 
