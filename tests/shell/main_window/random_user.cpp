@@ -18,29 +18,17 @@
 #include "calculation/runs/run.h"
 #include "elements/variants.h"
 #include "shell/fields/material_box.h"
+#include "tests/shell/support/typed_texts.h"
 
 namespace velmar::shell {
 namespace {
 
-const QStringList kNumbers = {"0",   "1",  "8",   "12,5", "12.5",  "250", "7",  "1E3", "1e-3",
-                              "100", "40", "3,6", "2",    "0,001", "60",  "55", "",    "1000000"};
-const QStringList kGarbage = {
-    "-",    ",",     "1E", "1E400", "E5", "--",       "1,,2", "abc",  "9999999999999999", "nan", "inf",
-    "0x10", "è€ß日", "\t", " ",     "'",  "<b>3</b>", "-5",   "1E-9", ",5E2,3",           "50 ", "1 000,5"};
 /// More than the edits between two looks can take.
 constexpr int kMostSteps = 500;
 constexpr std::array kKeys = {Qt::Key_Tab,       Qt::Key_Backtab, Qt::Key_Return,   Qt::Key_Escape,
                               Qt::Key_Space,     Qt::Key_Home,    Qt::Key_End,      Qt::Key_Delete,
                               Qt::Key_Backspace, Qt::Key_PageUp,  Qt::Key_PageDown, Qt::Key_Up,
                               Qt::Key_Down,      Qt::Key_F5,      Qt::Key_F6};
-
-/// Any character, also those that no key of a test keyboard has.
-void SendText(QWidget* widget, const QString& text) {
-  for (const QChar letter : text) {
-    QKeyEvent press(QEvent::KeyPress, 0, Qt::NoModifier, QString(letter));
-    QApplication::sendEvent(widget, &press);
-  }
-}
 
 /// `setup` without what a variant leaves to the project.
 elements::Setup Alone(elements::Setup setup) {
