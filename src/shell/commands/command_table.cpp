@@ -111,7 +111,7 @@ constexpr std::array<Command, kCommandCount> kCommands = {{
             Of<&Desk::materials, &MaterialCommands::ShowList>},
     Command{kCompareBeside,      0,  "confronta_risultati",       kCompareMenuRow, {}, "compare",    "F7",     N::kSpectrum,
             Of<&Desk::structures, &StructureCommands::Compare>},
-    Command{kTutorial,           0,  "tutorial",                  kTutorialMenuRow, {}, "",           "F1",     N::kNothing,
+    Command{kTutorial,           0,  "tutorial",                  kTutorialMenuRow, {}, "",           "",       N::kNothing,
             Of<&Desk::help, &HelpCommands::ShowManual>},
     Command{kContact,            0,  "Contatta_m",                kContactMenuRow, {}, "",           "",       N::kNothing,
             Of<&Desk::help, &HelpCommands::Contact>},
@@ -119,6 +119,8 @@ constexpr std::array<Command, kCommandCount> kCommands = {{
             Of<&Desk::help, &HelpCommands::ShowAbout>},
     Command{kChoosePrinter,      0,  "Scegli_stampante",          kChoosePrinterMenuRow, {}, "",           "",       N::kNothing,
             Of<&Desk::paper, &PaperCommands::ChoosePrinter>},
+    Command{kHelpHere,           0,  "aiuto_qui",                 kHelpHereMenuRow, {}, "",           "F1",     N::kNothing,
+            Of<&Desk::help, &HelpCommands::ShowHelp>},
 }};
 // clang-format on
 

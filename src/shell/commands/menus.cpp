@@ -60,7 +60,7 @@ QMenu* FillMenuBar(QMenuBar& bar, const CommandSet& commands, const CalculationA
   Add(*calculation, commands, {kRun, kCompareBeside, kShowTable});
 
   QMenu* help = AddMenu(bar, words, kHelpMenuRow, "help");
-  Add(*help, commands, {kTutorial, kContact});
+  Add(*help, commands, {kHelpHere, kTutorial, kContact});
   const HelpCommands* reach = commands.At().help;
   commands.Of(kContact)->setVisible(reach != nullptr && reach->HasContact());
   commands.Of(kMaintenance)->setVisible(reach != nullptr && reach->HasMaintenance());
