@@ -8,12 +8,14 @@
 #include <QPageSize>
 #include <QPainter>
 #include <QPdfWriter>
+#include <algorithm>
 #include <clocale>
 #include <cstdio>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <regex>
+#include <sstream>
 #include <stdexcept>
 
 #include "application/accuracy_file.h"
@@ -21,6 +23,7 @@
 #include "manual_builder/accuracy_figures.h"
 #include "manual_builder/example_figures.h"
 #include "manual_builder/front_pages.h"
+#include "manual_builder/index_pages.h"
 #include "manual_builder/lists.h"
 #include "manual_builder/manual_pages.h"
 #include "manual_builder/navigation.h"
@@ -100,7 +103,23 @@ void WriteText(const std::string& text, const Places& places, const fs::path& fo
   if (!out) throw std::runtime_error("cannot write into " + folder.string());
 }
 
-void Paint(const manual::FrontPages& front, const manual::ManualPages& pages, const fs::path& file) {
+/// What the PDF is made of.
+struct Book {
+  const manual::FrontPages& front;
+  const manual::ManualPages& text;
+  const manual::IndexPages& index;
+
+  int Count() const { return front.Count() + text.Count() + index.Count(); }
+
+  void PaintPage(QPainter& painter, int page) const {
+    const int of_text = page - front.Count();
+    if (of_text < 0) return front.PaintPage(painter, page);
+    if (of_text < text.Count()) return text.PaintPage(painter, of_text);
+    index.PaintPage(painter, of_text - text.Count());
+  }
+};
+
+void Paint(const Book& book, const fs::path& file) {
   QPdfWriter writer(QString::fromStdString(file.string()));
   writer.setResolution(kDotsPerInch);
   writer.setPageSize(QPageSize(QPageSize::A4));
@@ -111,35 +130,40 @@ void Paint(const manual::FrontPages& front, const manual::ManualPages& pages, co
   if (!painter.begin(&writer)) throw std::runtime_error("cannot write " + file.string());
   painter.scale(writer.width() / manual::PageLook::kPage.width(),
                 writer.height() / manual::PageLook::kPage.height());
-  const int count = front.Count() + pages.Count();
-  for (int page = 0; page < count; ++page) {
+  for (int page = 0; page < book.Count(); ++page) {
     if (page > 0 && !writer.newPage()) throw std::runtime_error("cannot write " + file.string());
-    if (page < front.Count()) {
-      front.PaintPage(painter, page);
-    } else {
-      pages.PaintPage(painter, page - front.Count());
-    }
+    book.PaintPage(painter, page);
     if (page > 0) manual::PaintFoot(painter, kTitle, QString::number(page + 1));
   }
   painter.end();
 }
 
-void WritePdf(const std::string& text, const fs::path& folder, const std::string& version,
-              const fs::path& file) {
+std::vector<std::string> TermsIn(const fs::path& file) {
+  std::istringstream lines(TextOf(file));
+  std::vector<std::string> terms;
+  for (std::string line; std::getline(lines, line);) {
+    if (!line.empty()) terms.push_back(line);
+  }
+  return terms;
+}
+
+void WritePdf(const std::string& text, const Places& places, const fs::path& folder, const fs::path& file) {
   const manual::ManualPages pages(QString::fromStdString(text), QString::fromStdString(folder.string()));
   if (!pages.MissingPictures().isEmpty())
     throw std::runtime_error("no picture " + pages.MissingPictures().constFirst().toStdString());
   if (!pages.HoldsWholeText()) throw std::runtime_error("the text runs over its last page");
-  const manual::FrontPages front("Manuale d'uso", kSubtitle, QString::fromStdString("Versione " + version),
-                                 pages.Headings());
-  Paint(front, pages, file);
   std::vector<manual::PlacedHeading> headings = pages.Headings();
-  for (manual::PlacedHeading& heading : headings) heading.page += front.Count();
-  std::vector<manual::PlacedLink> links = front.Links();
-  for (manual::PlacedLink link : pages.Links()) {
-    link.page += front.Count();
-    links.push_back(link);
-  }
+  std::vector<manual::PlacedLink> links = pages.Links();
+  const std::vector<std::string> terms = TermsIn(places.manual / "indice-analitico.txt");
+  const manual::FrontPages front("Manuale d'uso", kSubtitle,
+                                 QString::fromStdString("Versione " + places.version), headings);
+  const manual::IndexPages index(terms, pages, front.Count() + 1);
+  const auto behind_front = [&](auto& placed) { placed.page += front.Count(); };
+  std::ranges::for_each(headings, behind_front);
+  std::ranges::for_each(links, behind_front);
+  std::ranges::copy(front.Links(), std::back_inserter(links));
+  headings.push_back({{2, "Indice analitico", "indice-analitico"}, front.Count() + pages.Count(), 0.0});
+  Paint({front, pages, index}, file);
   manual::AddNavigation(file.string(), headings, links);
 }
 
@@ -162,7 +186,7 @@ int main(int count, char** arguments) {
   try {
     const std::string text = ManualText(places);
     WriteText(text, places, places.out / "manuale");
-    WritePdf(text, places.out / "manuale", places.version, places.out / "VELMARpro - Manuale d'uso.pdf");
+    WritePdf(text, places, places.out / "manuale", places.out / "VELMARpro - Manuale d'uso.pdf");
     return 0;
   } catch (const std::exception& failure) {
     std::fprintf(stderr, "velmar-build-manual: %s\n", failure.what());

@@ -314,6 +314,19 @@ void ManualPages::FindLinks() {
   }
 }
 
+std::map<int, int> ManualPages::PagesOf(const QString& term) const {
+  std::map<int, int> pages;
+  for (QTextCursor hit = document_.find(term, 0, QTextDocument::FindWholeWords); !hit.isNull();
+       hit = document_.find(term, hit, QTextDocument::FindWholeWords)) {
+    const QTextBlock block = hit.block();
+    const QTextLine line = block.layout()->lineForTextPosition(hit.selectionStart() - block.position());
+    const double top =
+        document_.documentLayout()->blockBoundingRect(block).top() + (line.isValid() ? line.y() : 0.0);
+    ++pages[static_cast<int>(top / kText.height())];
+  }
+  return pages;
+}
+
 bool ManualPages::HoldsWholeText() const {
   const QRectF last = document_.documentLayout()->blockBoundingRect(document_.lastBlock());
   return last.height() > 0.0 && last.bottom() <= Count() * kText.height();

@@ -4,6 +4,7 @@
 #include <QString>
 #include <QStringList>
 #include <QTextDocument>
+#include <map>
 #include <vector>
 
 #include "presentation/manual/manual_headings.h"
@@ -61,6 +62,9 @@ class ManualPages {
   const std::vector<PlacedHeading>& Headings() const { return headings_; }
   /// Every link to a heading.
   const std::vector<PlacedLink>& Links() const { return links_; }
+
+  /// On which pages, from 0, `term` stands as a whole word, and how often.
+  std::map<int, int> PagesOf(const QString& term) const;
 
   /// Paints page `page` on a painter whose unit is the point.
   void PaintPage(QPainter& painter, int page) const;
