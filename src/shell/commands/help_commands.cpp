@@ -9,9 +9,9 @@
 #include "foundation/message_rows.h"
 #include "shell/commands/about_box.h"
 #include "shell/commands/desk.h"
-#include "shell/fields/phrases.h"
 #include "shell/manual/help_chapters.h"
 #include "shell/manual/manual_window.h"
+#include "shell/windows/phrases.h"
 
 namespace velmar::shell {
 namespace {

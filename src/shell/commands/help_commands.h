@@ -7,7 +7,7 @@
 #include <functional>
 #include <string_view>
 
-#include "shell/fields/boxes.h"
+#include "shell/windows/boxes.h"
 
 class QWidget;
 

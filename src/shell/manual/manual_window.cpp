@@ -20,7 +20,7 @@
 
 #include "foundation/catalogue_rows.h"
 #include "foundation/texts_rows.h"
-#include "shell/fields/phrases.h"
+#include "shell/windows/phrases.h"
 
 namespace velmar::shell {
 namespace {
