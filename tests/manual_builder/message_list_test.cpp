@@ -16,7 +16,9 @@ using testing::Not;
 
 class MessageListTest : public testing::Test {
  protected:
-  MessageListTest() : folder_(fs::temp_directory_path() / "messaggi") {
+  MessageListTest()
+      : folder_(fs::temp_directory_path() /
+                (std::string("messaggi-") + testing::UnitTest::GetInstance()->current_test_info()->name())) {
     fs::create_directories(folder_);
     Write("catalogo.csv",
           "row,name,use,Italiano,English\n"

@@ -42,10 +42,11 @@ std::span<const HelpChapter> HelpChapters() { return kChapters; }
 
 std::string_view ChapterOf(elements::Calculation calculation) {
   using enum elements::Family;
-  using enum elements::Orientation;
+  using elements::Orientation;
   const elements::CalculationRow& row = elements::RowOf(calculation);
   if (row.glazing) return "vetri-e-vetrocamere";
-  if (row.orientation == kHorizontalSingle || row.orientation == kHorizontalDouble) return "solai";
+  if (row.orientation == Orientation::kHorizontalSingle || row.orientation == Orientation::kHorizontalDouble)
+    return "solai";
   switch (row.family) {
     case kSingle:
       return "pareti-semplici";
