@@ -119,7 +119,7 @@ constexpr std::array<Command, kCommandCount> kCommands = {{
             Of<&Desk::help, &HelpCommands::ShowAbout>},
     Command{kChoosePrinter,      0,  "Scegli_stampante",          kChoosePrinterMenuRow, {}, "",           "",       N::kNothing,
             Of<&Desk::paper, &PaperCommands::ChoosePrinter>},
-    Command{kHelpHere,           0,  "aiuto_qui",                 kHelpHereMenuRow, {}, "",           "F1",     N::kNothing,
+    Command{kHelpHere,           0,  "aiuto_qui",                 kHelpMenuRow, {}, "",           "F1",     N::kNothing,
             Of<&Desk::help, &HelpCommands::ShowHelp>},
 }};
 // clang-format on

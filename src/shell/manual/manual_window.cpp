@@ -39,16 +39,16 @@ ManualWindow::ManualWindow(const presentation::Words& words, const QString& mark
                            QWidget* parent)
     : QDialog(parent), words_(words) {
   setObjectName("FormManuale");
-  setWindowTitle(Text(words_, kManualTitleRow));
+  setWindowTitle(Text(words_, kHelpMenuRow));
   setWindowFlag(Qt::WindowMaximizeButtonHint);
   auto* column = new QVBoxLayout(this);
   auto* bar = new QHBoxLayout;
-  back_ = new QPushButton(Text(words_, kManualBackRow));
+  back_ = new QPushButton(QStringLiteral("←"));
   back_->setObjectName("CommandIndietro");
   back_->setEnabled(false);
   search_ = new QLineEdit;
   search_->setObjectName("TextCerca");
-  search_->setPlaceholderText(Text(words_, kManualSearchRow));
+  search_->setPlaceholderText(Text(words_, kStructureSearchRow));
   search_->setAccessibleName(search_->placeholderText());
   search_->setClearButtonEnabled(true);
   search_->installEventFilter(this);
@@ -63,7 +63,7 @@ ManualWindow::ManualWindow(const presentation::Words& words, const QString& mark
   contents_ = new QTreeWidget;
   contents_->setObjectName("Indice");
   contents_->setHeaderHidden(true);
-  contents_->setAccessibleName(Text(words_, kManualContentsRow));
+  contents_->setAccessibleName(windowTitle());
   MakeText(markdown, folder);
   FindHeadings(markdown.toStdString());
   FillContents();
@@ -74,7 +74,7 @@ ManualWindow::ManualWindow(const presentation::Words& words, const QString& mark
   column->addWidget(sides, 1);
 
   auto* buttons = new QDialogButtonBox;
-  auto* pdf = buttons->addButton(Text(words_, kManualPdfRow), QDialogButtonBox::ActionRole);
+  auto* pdf = buttons->addButton(Text(words_, kPdfFilesRow), QDialogButtonBox::ActionRole);
   pdf->setObjectName("CommandPdf");
   buttons->addButton(Text(words_, kCloseRow), QDialogButtonBox::RejectRole);
   // Enter belongs to the search.
@@ -197,6 +197,14 @@ std::string ManualWindow::ChapterShown() const {
   return shown;
 }
 
+int ManualWindow::CountOf(const QString& wanted) const {
+  int count = 0;
+  for (QTextCursor hit = text_->document()->find(wanted); !hit.isNull();
+       hit = text_->document()->find(wanted, hit))
+    ++count;
+  return count;
+}
+
 void ManualWindow::Search(bool backward) {
   const QString wanted = search_->text();
   if (wanted.isEmpty()) return;
@@ -209,7 +217,7 @@ void ManualWindow::Search(bool backward) {
     text_->setTextCursor(cursor);
     found = text_->find(wanted, flags);
   }
-  found_->setText(found ? QString() : Text(words_, kManualNotFoundRow));
+  found_->setText(QString::number(found ? CountOf(wanted) : 0));
 }
 
 bool ManualWindow::eventFilter(QObject* watched, QEvent* event) {

@@ -16,7 +16,7 @@ class QTreeWidget;
 
 namespace velmar::shell {
 
-/// The user manual in a window: contents, search and text. It blocks nothing.
+/// The user manual in a window: contents, search with the number of its hits, and text. It blocks nothing.
 class ManualWindow : public QDialog {
   Q_OBJECT
  public:
@@ -41,6 +41,7 @@ class ManualWindow : public QDialog {
   void FindHeadings(const std::string& markdown);
   void FillContents();
   void Search(bool backward);
+  int CountOf(const QString& wanted) const;
   void GoTo(int position);
   void GoBack();
   bool eventFilter(QObject* watched, QEvent* event) override;
