@@ -119,7 +119,7 @@ constexpr std::array<Command, kCommandCount> kCommands = {{
             Of<&Desk::materials, &MaterialCommands::ShowList>},
     Command{kCompareBeside,      0,  "confronta_risultati",       kCompareMenuRow, {}, "compare",    "F7",     N::kSpectrum,
             Of<&Desk::structures, &StructureCommands::Compare>},
-    Command{kTutorial,           0,  "tutorial",                  kTutorialMenuRow, {}, "",           "F1",     N::kNothing,
+    Command{kTutorial,           0,  "tutorial",                  kTutorialMenuRow, {}, "",           "",       N::kNothing,
             Of<&Desk::help, &HelpCommands::ShowManual>},
     Command{kContact,            0,  "Contatta_m",                kContactMenuRow, {}, "",           "",       N::kNothing,
             Of<&Desk::help, &HelpCommands::Contact>},
@@ -131,6 +131,8 @@ constexpr std::array<Command, kCommandCount> kCommands = {{
             ShowStudioProfile},
     Command{kSaveAsTemplate,     0,  "salva_come_modello",        kSaveAsTemplateRow, {}, "",           "",       N::kCalculation,
             [](CommandSet& all) { all.At().files.KeepAsTemplate(); }},
+    Command{kHelpHere,           0,  "aiuto_qui",                 kHelpMenuRow, {}, "",           "F1",     N::kNothing,
+            Of<&Desk::help, &HelpCommands::ShowHelp>},
 }};
 // clang-format on
 

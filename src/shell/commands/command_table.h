@@ -47,8 +47,9 @@ enum class CommandId {
   kChoosePrinter,
   kStudioProfile,
   kSaveAsTemplate,
+  kHelpHere,
 };
-inline constexpr std::size_t kCommandCount = static_cast<std::size_t>(CommandId::kSaveAsTemplate) + 1;
+inline constexpr std::size_t kCommandCount = static_cast<std::size_t>(CommandId::kHelpHere) + 1;
 
 /// What must be there before a command can do anything.
 enum class Needs {

@@ -65,7 +65,7 @@ OpenMenus FillMenuBar(QMenuBar& bar, const CommandSet& commands, const Calculati
   Add(*calculation, commands, {kRun, kCompareBeside, kShowTable});
 
   QMenu* help = AddMenu(bar, words, kHelpMenuRow, "help");
-  Add(*help, commands, {kTutorial, kContact});
+  Add(*help, commands, {kHelpHere, kTutorial, kContact});
   const HelpCommands* reach = commands.At().help;
   commands.Of(kContact)->setVisible(reach != nullptr && reach->HasContact());
   commands.Of(kMaintenance)->setVisible(reach != nullptr && reach->HasMaintenance());

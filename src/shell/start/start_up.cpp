@@ -57,6 +57,7 @@ WindowPlaces Places() {
   };
   WindowPlaces places;
   places.manual = storage::ManualFile(program);
+  places.manual_text = storage::ManualText(program);
   places.maintenance_program = program / kMaintenanceProgram;
   if (const auto shipped = storage::ShippedDataFolder(program)) places.examples = *shipped / "Examples";
   places.documents = storage::CartellaDocumenti();

@@ -146,6 +146,7 @@ class CommandsTest : public QObject {
                              "esegui_calcolo",
                              "confronta_risultati",
                              "tab_risultati",
+                             "aiuto_qui",
                              "tutorial",
                              "Contatta_m",
                              "Versione"}) {
