@@ -1,6 +1,6 @@
 // An Excel template is filled or refused; what was filled opens again.
 #include "foundation/failure.h"
-#include "presentation/reports/workbook.h"
+#include "presentation/documents/workbook.h"
 #include "tests/fuzz/outside_bytes.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
