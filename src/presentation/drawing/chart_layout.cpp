@@ -12,15 +12,17 @@ constexpr double kLegendLine = 1.5;  ///< in heights of the text
 
 std::vector<LegendEntry> EntriesOf(const CurveChart& chart) {
   std::vector<LegendEntry> entries;
-  const auto add = [&entries](bool shown, const std::string& text, const QColor& colour, bool dotted) {
-    if (shown && !text.empty()) entries.push_back({FromWords(text), colour, dotted, {}});
+  const auto add = [&entries](bool shown, const std::string& text, const QColor& colour, bool dotted,
+                              Qt::PenStyle style = Qt::SolidLine) {
+    if (shown && !text.empty()) entries.push_back({FromWords(text), colour, dotted, style, {}});
   };
   add(chart.shift.has_value(), chart.words.calculated, kCalculatedColour, true);
   add(chart.shift.has_value(), chart.words.reference, kReferenceColour, false);
   add(chart.laboratory.has_value(), chart.words.laboratory, kLaboratoryColour, true);
   add(chart.in_situ.has_value(), chart.words.in_situ, kInSituColour, true);
   add(chart.base.has_value(), chart.words.base, kBaseColour, true);
-  for (const FurtherCurve& curve : chart.further) add(true, curve.name, curve.colour, true);
+  for (const FurtherCurve& curve : chart.further)
+    add(true, curve.name, curve.colour, !curve.in_octaves, curve.style);
   add(chart.marks.former.has_value(), chart.words.former, kFormerColour, false);
   return entries;
 }

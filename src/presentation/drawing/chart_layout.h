@@ -16,6 +16,7 @@ struct LegendEntry {
   QString text{};
   QColor colour{};
   bool dotted = true;  ///< a curve with dots; the reference curve has none
+  Qt::PenStyle style = Qt::SolidLine;
   QRectF box{};
 };
 

@@ -55,9 +55,9 @@ void DrawCurve(QPainter& painter, const ChartLayout& layout, const CurveChart& c
 /// Values of octaves, each over its three thirds: a level line with an edge where the octave ends, and no
 /// dots.
 void DrawSteps(QPainter& painter, const ChartLayout& layout, const CurveChart& chart, const ChartRange& range,
-               const acoustics::Spectrum& values, const QColor& colour) {
+               const acoustics::Spectrum& values, const QColor& colour, Qt::PenStyle style) {
   constexpr double kHalfBand = 0.5;
-  painter.setPen(QPen(colour, kCurveWidth, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin));
+  painter.setPen(QPen(colour, kCurveWidth, style, Qt::FlatCap, Qt::MiterJoin));
   QPolygonF line;
   for (std::size_t band = chart.first_band; band <= chart.last_band; ++band) {
     if (values.at(band) == 0.0) {
@@ -75,12 +75,12 @@ void DrawSteps(QPainter& painter, const ChartLayout& layout, const CurveChart& c
 /// A curve that stands beside the result.
 void DrawBeside(QPainter& painter, const ChartLayout& layout, const CurveChart& chart,
                 const ChartRange& range, const std::optional<acoustics::Spectrum>& values,
-                const QColor& colour, bool in_octaves) {
+                const QColor& colour, bool in_octaves, Qt::PenStyle style = Qt::SolidLine) {
   if (!values) return;
   if (in_octaves) {
-    DrawSteps(painter, layout, chart, range, *values, colour);
+    DrawSteps(painter, layout, chart, range, *values, colour, style);
   } else {
-    DrawCurve(painter, layout, chart, range, *values, colour);
+    DrawCurve(painter, layout, chart, range, *values, colour, style);
   }
 }
 
@@ -89,7 +89,7 @@ void DrawLegend(QPainter& painter, const ChartLayout& layout) {
     const double y = entry.box.center().y();
     const QPointF begin(entry.box.left(), y);
     const QPointF end(entry.box.left() + 1.6 * layout.text_px, y);
-    painter.setPen(QPen(entry.colour, entry.dotted ? kCurveWidth : kReferenceWidth));
+    painter.setPen(QPen(entry.colour, entry.dotted ? kCurveWidth : kReferenceWidth, entry.style));
     painter.drawLine(begin, end);
     if (entry.dotted) DrawDot(painter, (begin + end) / 2.0, entry.colour);
     painter.setPen(kInkColour);
@@ -115,7 +115,7 @@ void DrawCurves(QPainter& painter, const ChartLayout& layout, const CurveChart& 
   DrawBeside(painter, layout, chart, range, chart.laboratory, kLaboratoryColour, chart.laboratory_in_octaves);
   DrawBeside(painter, layout, chart, range, chart.in_situ, kInSituColour, chart.in_situ_in_octaves);
   for (const FurtherCurve& curve : chart.further)
-    DrawCurve(painter, layout, chart, range, curve.values, curve.colour, Qt::DotLine);
+    DrawBeside(painter, layout, chart, range, curve.values, curve.colour, curve.in_octaves, curve.style);
   painter.restore();
 }
 

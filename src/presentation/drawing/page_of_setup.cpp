@@ -171,9 +171,10 @@ PaginaDiStampa PaginaDi(const Setup& setup, const PageTotals& totals, const elem
   page.structure = StructureOf(setup, words);
   if (!page.structure.empty()) page.structure_heading = words(kLayersTitleRow);
   page.structure_notes = NotesOf(row, totals, result);
-  page.section = SectionOf(setup);
+  page.section = SectionOf(setup, words);
   page.section_options = PaperOptions(setup, words);
   page.data = CalculationDataOf(setup, words);
+  if (page.chart) AddComparison(page.data, page.chart->comparison, words);
   page.foot = {.page = words(kPageRow), .of = words(kPageOfRow)};
   return page;
 }
@@ -181,6 +182,7 @@ PaginaDiStampa PaginaDi(const Setup& setup, const PageTotals& totals, const elem
 void TellProvenance(PaginaDiStampa& page, const Setup& setup, const Words& words,
                     const Provenance& provenance) {
   page.data = CalculationDataOf(setup, words, provenance);
+  if (page.chart) AddComparison(page.data, page.chart->comparison, words);
   page.foot.left = FootText(setup.information, provenance);
 }
 

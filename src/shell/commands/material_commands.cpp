@@ -3,7 +3,6 @@
 #include <utility>
 
 #include "calculation/layer_edits.h"
-#include "elements/parts.h"
 #include "foundation/message_rows.h"
 #include "foundation/utf8.h"
 #include "materials/copied_material.h"
@@ -115,16 +114,15 @@ MaterialListWindow::Listener MaterialCommands::MakeListener() {
     if (tree_) tree_->Refresh();
   };
   listener.used = [this](MaterialFamily family, const std::string& name) {
-    std::vector<int> numbers;
-    if (!open_.Setup().calculation) return numbers;
-    for (const elements::Part& part : PartsOf(open_.Setup())) {
-      for (const elements::Layer& layer : part.layers) {
-        const bool same = layer.group && RowOf(*layer.group).family == family && SameName(layer.name, name);
-        if (same) numbers.push_back(layer.number);
-      }
-    }
-    return numbers;
+    return storage::LayersHolding(open_.Setup(), family, name);
   };
+  if (where_) {
+    listener.projects = [this](MaterialFamily family, const std::string& name) {
+      return [where = where_(), family, name](const std::atomic<bool>& stop) {
+        return storage::FindMaterialUses(where, family, name, stop);
+      };
+    };
+  }
   return listener;
 }
 

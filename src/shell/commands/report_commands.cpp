@@ -39,6 +39,7 @@ presentation::ReportRecord RecordOf(const Desk& desk, const presentation::Materi
             : presentation::ComparedStructures{},
       presentation::ProvenanceOf(storage::WriteProject(setup), desk.files.File().filename().string(),
                                  sources));
+  if (shown) AddComparison(record.data, shown->comparison, desk.speech.words);
   AddConfidence(record, validation::ConfidenceOf(setup, result, desk.accuracy.Get()), desk.speech.words);
   return record;
 }

@@ -15,6 +15,7 @@
 #include "foundation/message_rows.h"
 #include "presentation/texts/words.h"
 #include "shell/fields/button_row.h"
+#include "shell/fields/search_field.h"
 #include "shell/materials/material_texts.h"
 
 namespace velmar::shell {
@@ -91,13 +92,18 @@ QWidget* MaterialListWindow::MakeHead() {
     families_.at(i) = option;
   }
   if (!pick_) row->addStretch(1);
-  search_ = new QLineEdit(head);
-  search_->setObjectName(QStringLiteral("TextCerca"));
-  search_->setPlaceholderText(tools_.Text(kMaterialSearchRow));
-  search_->setAccessibleName(tools_.Text(kMaterialSearchRow));
-  search_->setClearButtonEnabled(true);
+  search_ = new SearchField(QStringLiteral("TextCerca"), tools_.Text(kMaterialSearchRow), head);
   search_->installEventFilter(this);
   connect(search_, &QLineEdit::textChanged, this, [this](const QString& text) { SearchFor(text); });
+  connect(search_, &SearchField::Entered, this, [this] {
+    if (grid_->SelectedName().empty()) {
+      search_->SayNoHit(tools_.words);
+    } else if (pick_) {
+      Take();
+    } else {
+      grid_->setFocus();
+    }
+  });
   row->addWidget(search_, 2);
   return head;
 }
@@ -156,6 +162,9 @@ QWidget* MaterialListWindow::MakeButtons() {
   undo_->setToolTip(tools_.Text(kMaterialDeletedUndoTipRow));
   undo_->setVisible(static_cast<bool>(source_.add));
   undo_->setEnabled(false);
+  where_ = add("CommandUso", kWhereUsedRow, [this] { ShowProjects(); });
+  where_->setToolTip(tools_.Text(kWhereUsedTipRow));
+  where_->setVisible(static_cast<bool>(listener_.projects));
   bar->AddStretch();
   add("Aggiorna", kRefreshRow, [this] { RefreshAsAsked(); })->setToolTip(tools_.Text(kRefreshTipRow));
   take_ = add("CmdSeleziona", kSelectMaterialRow, [this] { Take(); });
@@ -195,7 +204,7 @@ bool MaterialListWindow::Refresh() {
 void MaterialListWindow::SearchFor(const QString& text) {
   const std::string before = grid_->SelectedName();
   shown_.Search(text);
-  if (before.empty() || grid_->SelectedName() != before) grid_->SelectRow(0);
+  if (!grid_->SelectBest(text) && (before.empty() || grid_->SelectedName() != before)) grid_->SelectRow(0);
   grid_->scrollTo(grid_->currentIndex());
   ShowSelected();
 }
@@ -206,6 +215,7 @@ void MaterialListWindow::ShowSelected() {
   name_->setCursorPosition(0);
   edit_->setEnabled(!name.empty() && source_.edit);
   delete_->setEnabled(!name.empty());
+  where_->setEnabled(!name.empty());
   ShowUse(name);
   take_->setEnabled(!name.empty());
 }
@@ -299,6 +309,15 @@ void MaterialListWindow::UndoDelete() {
     grid_->SelectName(back.name);
   }
   if (listener_.changed) listener_.changed({back.family, {}, back.name, {}});
+}
+
+void MaterialListWindow::ShowProjects() {
+  const std::string name = grid_->SelectedName();
+  if (name.empty() || !listener_.projects) return;
+  auto* window = new MaterialUseWindow(tools_, name, listener_.projects(family_, name), this);
+  window->setAttribute(Qt::WA_DeleteOnClose);
+  window->setWindowModality(Qt::WindowModal);
+  window->show();
 }
 
 void MaterialListWindow::ShowUse(const std::string& name) {

@@ -11,6 +11,7 @@
 #include "shell/materials/material_grid.h"
 #include "shell/materials/material_model.h"
 #include "shell/materials/material_source.h"
+#include "shell/materials/material_use_window.h"
 
 class QCheckBox;
 class QLabel;
@@ -19,6 +20,8 @@ class QPushButton;
 class QRadioButton;
 
 namespace velmar::shell {
+
+class SearchField;
 
 /// A layer row that a material is picked for (`DestinazioneMateriale`, `IndiceStrato`).
 struct MaterialPick {
@@ -39,6 +42,8 @@ class MaterialListWindow : public QDialog {
     std::function<void()> refreshed{};
     /// The numbers of the layers of the open calculation that hold a material; without it nothing is told.
     std::function<std::vector<int>(elements::MaterialFamily, const std::string& name)> used{};
+    /// How the projects that use a material are looked for; without it they are not.
+    std::function<MaterialUseWindow::Search(elements::MaterialFamily, const std::string& name)> projects{};
   };
 
   MaterialListWindow(WindowTools tools, MaterialSource source, std::optional<MaterialPick> pick,
@@ -68,6 +73,7 @@ class MaterialListWindow : public QDialog {
   void Delete();
   void UndoDelete();
   void ShowUse(const std::string& name);
+  void ShowProjects();
 
   /// The row that was deleted last.
   struct Deleted {
@@ -84,13 +90,14 @@ class MaterialListWindow : public QDialog {
   MaterialModel model_;
   MaterialSearch shown_;
   std::array<QRadioButton*, 3> families_{};
-  QLineEdit* search_ = nullptr;
+  SearchField* search_ = nullptr;
   MaterialGrid* grid_ = nullptr;
   QCheckBox* all_columns_ = nullptr;
   QLineEdit* name_ = nullptr;
   QPushButton* new_ = nullptr;
   QPushButton* edit_ = nullptr;
   QPushButton* delete_ = nullptr;
+  QPushButton* where_ = nullptr;
   QPushButton* undo_ = nullptr;
   QLabel* use_ = nullptr;  ///< where the open calculation uses the selected material
   std::optional<Deleted> deleted_;

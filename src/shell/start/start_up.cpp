@@ -24,6 +24,7 @@
 #include "shell/commands/report_commands.h"
 #include "shell/commands/structure_commands.h"
 #include "shell/fields/dark_outlines.h"
+#include "shell/fields/long_work.h"
 #include "shell/fields/phrases.h"
 #include "shell/main_window/main_window.h"
 #include "shell/project/lost_work_dialog.h"
@@ -116,9 +117,13 @@ struct Desktop {
     services.version = QApplication::applicationVersion();
     services.places = Places();
     services.materials =
-        application::ForgivingLookup(storage::MaterialLookupIn(store.File()),
+        application::ForgivingLookup(storage::MaterialLookupIn(store.File(), storage::kWindowPatienceMs),
                                      [this](const Failure& failure) { Tell(failure.UserMessage()); });
-    services.material_names = [this](MaterialFamily family) { return store.List(family); };
+    services.material_names = [this](MaterialFamily family) {
+      std::vector<storage::ListedMaterial> names;
+      RunBeside([&] { names = store.List(family); });
+      return names;
+    };
     services.read_project = [this](const std::filesystem::path& file) {
       storage::OpenedProject project = application::OpenProject(file, open.Setup(), services.materials);
       unknown = project.setup.calculation ? storage::StoredCalculation() : project.stored;

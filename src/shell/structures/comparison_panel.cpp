@@ -2,22 +2,23 @@
 
 #include <QCheckBox>
 #include <QHBoxLayout>
-#include <QIcon>
 #include <QLabel>
-#include <QPainter>
-#include <QPixmap>
 #include <QPlainTextEdit>
+#include <QPushButton>
 #include <QSignalBlocker>
 #include <QSplitter>
 #include <QVBoxLayout>
 
 #include "foundation/message_rows.h"
+#include "shell/structures/compared_test.h"
+#include "shell/structures/curve_sample.h"
 #include "shell/structures/test_chooser.h"
 
 namespace velmar::structures {
 namespace {
 
 constexpr double kRatingScale = 1.4;
+constexpr int kDescriptionLines = 3;
 
 QLabel* MakeLabel(const char* name, QWidget* parent) {
   auto* label = new QLabel(parent);
@@ -27,35 +28,19 @@ QLabel* MakeLabel(const char* name, QWidget* parent) {
   return label;
 }
 
-/// A piece of the curve, as the legend of the chart shows it.
-QIcon SampleOf(const QColor& colour, const QSize& size) {
-  constexpr qreal kSharpness = 3.0;
-  constexpr qreal kDotDiameter = 6.0;
-  QPixmap sample(size * kSharpness);
-  sample.setDevicePixelRatio(kSharpness);
-  sample.fill(Qt::transparent);
-  QPainter painter(&sample);
-  painter.setRenderHint(QPainter::Antialiasing);
-  const QPointF centre(size.width() / 2.0, size.height() / 2.0);
-  painter.setPen(QPen(colour, 2.0));
-  painter.drawLine(QPointF(0.0, centre.y()), QPointF(size.width(), centre.y()));
-  painter.setPen(Qt::NoPen);
-  painter.setBrush(colour);
-  painter.drawEllipse(centre, kDotDiameter / 2.0, kDotDiameter / 2.0);
-  return QIcon(sample);
-}
-
 }  // namespace
 
 ComparisonPanel::ComparisonPanel(const shell::WindowTools& tools, LibrarySource source, const Look& look,
-                                 std::function<void()> changed, QWidget* parent)
-    : QGroupBox(tools.Text(look.caption), parent), tools_(tools), changed_(std::move(changed)) {
+                                 QWidget* parent)
+    : QGroupBox(parent), tools_(tools) {
   setObjectName(QLatin1String(look.frame));
+  setAccessibleName(tools.Text(look.caption));
+  setFlat(true);
   check_ = new QCheckBox(tools.Text(look.check_caption), this);
   check_->setObjectName(QLatin1String(look.check));
   const QSize sample(fontMetrics().height() * 3 / 2, fontMetrics().height());
   check_->setIconSize(sample);
-  check_->setIcon(SampleOf(look.colour, sample));
+  check_->setIcon(SampleOf({look.colour}, sample));
   database_ = MakeLabel(look.database, this);
   rating_ = MakeLabel(look.rating, this);
   QFont large = font();
@@ -71,6 +56,9 @@ ComparisonPanel::ComparisonPanel(const shell::WindowTools& tools, LibrarySource 
     database_->setText(shell::ToQt(file.name));
   };
   listener.test = [this](const std::optional<MeasuredTest>& test) { Show(test); };
+  listener.meant = [this] {
+    if (curve_ && !full_) emit AddWanted();
+  };
   chooser_ = new TestChooser(tools, std::move(source), controls, std::move(listener), this);
   description_ = new QPlainTextEdit(this);
   description_->setObjectName(QLatin1String(look.description));
@@ -78,14 +66,21 @@ ComparisonPanel::ComparisonPanel(const shell::WindowTools& tools, LibrarySource 
   description_->setReadOnly(true);
   description_->setTabChangesFocus(true);
   description_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-  description_->setFixedHeight(fontMetrics().height() * 4);
+  description_->setFixedHeight(fontMetrics().height() * kDescriptionLines);
+  add_ = new QPushButton(tools.Text(kAddCurveRow), this);
+  add_->setObjectName(QLatin1String(look.add));
+  add_->setAutoDefault(false);
+  connect(add_, &QPushButton::clicked, this, &ComparisonPanel::AddWanted);
+  auto* chosen = new QHBoxLayout;
+  chosen->addWidget(rating_, 1);
+  chosen->addWidget(add_);
   auto* column = new QVBoxLayout(this);
   column->addWidget(check_);
   column->addWidget(database_);
   column->addWidget(chooser_, 1);
-  column->addWidget(rating_);
+  column->addLayout(chosen);
   column->addWidget(description_);
-  connect(check_, &QCheckBox::toggled, this, [this] { changed_(); });
+  connect(check_, &QCheckBox::toggled, this, &ComparisonPanel::Changed);
   Reset();
 }
 
@@ -97,15 +92,8 @@ std::string ComparisonPanel::Name() const {
 
 void ComparisonPanel::Show(const std::optional<MeasuredTest>& test) {
   const MeasuredTest shown = test.value_or(MeasuredTest{});
-  for (std::size_t i = 0; i < bands_.size(); ++i) {
-    const std::optional<double>& value = shown.part.bands_db[i];
-    bands_[i] = value == calculation::kNotMeasuredDb ? 0.0 : value.value_or(0.0);
-  }
-  are_octaves_ = false;
-  if (bands_ == acoustics::Spectrum{}) {
-    for (std::size_t i = 0; i < bands_.size(); ++i) bands_[i] = shown.octave_steps_db.at(i).value_or(0.0);
-    are_octaves_ = bands_ != acoustics::Spectrum{};
-  }
+  curve_.reset();
+  if (test) curve_ = Compared(chooser_->File() ? chooser_->File()->branch : Branch{}, *test);
   const QString rating = shell::ToQt(calculation::BoxText(shown.part.rating_db));
   const QString none = test ? QStringLiteral("-") : tools_.Text(kNoStructureRow);
   rating_->setText(rating.isEmpty() ? none : rating + QStringLiteral(" dB"));
@@ -113,8 +101,17 @@ void ComparisonPanel::Show(const std::optional<MeasuredTest>& test) {
   QString description = shell::ToQt(shown.part.description);
   if (!shown.notes.empty()) description += (description.isEmpty() ? "" : "\n") + shell::ToQt(shown.notes);
   description_->setPlainText(description);
-  if (IsTicked()) changed_();
+  OfferToAdd(full_);
+  if (IsTicked()) emit Changed();
 }
+
+void ComparisonPanel::OfferToAdd(bool full) {
+  full_ = full;
+  add_->setEnabled(curve_ && !full);
+  add_->setToolTip(tools_.Text(full ? kComparisonFullRow : curve_ ? kAddCurveTipRow : kNoCurveToAddRow));
+}
+
+void ComparisonPanel::Untick() { check_->setChecked(false); }
 
 void ComparisonPanel::Refresh() { chooser_->Refresh(); }
 

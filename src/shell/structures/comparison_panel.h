@@ -2,10 +2,10 @@
 
 #include <QColor>
 #include <QGroupBox>
-#include <functional>
 #include <optional>
 
 #include "acoustics/bands.h"
+#include "presentation/texts/compared_curves.h"
 #include "shell/fields/window_tools.h"
 #include "shell/structures/library_tree.h"
 #include "shell/structures/structure_sources.h"
@@ -13,6 +13,7 @@
 class QCheckBox;
 class QLabel;
 class QPlainTextEdit;
+class QPushButton;
 
 namespace velmar::structures {
 
@@ -20,6 +21,8 @@ class TestChooser;
 
 /// One side of the comparison: chooses a structure and says whether its curve is laid over the chart.
 class ComparisonPanel : public QGroupBox {
+  Q_OBJECT
+
  public:
   /// Object names and words of the side.
   struct Look {
@@ -31,6 +34,7 @@ class ComparisonPanel : public QGroupBox {
     const char* description = "";
     const char* database = "";
     const char* rating = "";
+    const char* add = "";
     MessageRow caption{};
     MessageRow check_caption{};
     QColor colour{};  ///< of the curve
@@ -38,32 +42,40 @@ class ComparisonPanel : public QGroupBox {
   };
 
   ComparisonPanel(const shell::WindowTools& tools, LibrarySource source, const Look& look,
-                  std::function<void()> changed, QWidget* parent = nullptr);
+                  QWidget* parent = nullptr);
 
   bool IsTicked() const;
-  /// The chosen structure's bands in dB, 0 where it has none; all 0 without one.
-  const acoustics::Spectrum& Bands() const { return bands_; }
-  /// Whether Bands() are octaves, each over its three thirds: the structure has no thirds.
-  bool AreOctaves() const { return are_octaves_; }
+  /// No curve of this side is wanted any more.
+  void Untick();
+  /// The curve of the chosen structure; nothing without one that has a curve.
+  const std::optional<presentation::ComparedCurve>& Curve() const { return curve_; }
   /// The name of the chosen structure while the side is ticked, otherwise empty.
   std::string Name() const;
+  /// Whether curves can be added; @param full why they cannot: the comparison holds no more.
+  void OfferToAdd(bool full);
   /// Nothing ticked, nothing chosen.
   void Reset();
   /// Reads the databases anew; what is chosen stays chosen while it is still there.
   void Refresh();
   TestChooser* Chooser() const { return chooser_; }
 
+ signals:
+  /// The curve of this side came or went, or is another.
+  void Changed();
+  /// The curve of the chosen structure is to be kept in the comparison.
+  void AddWanted();
+
  private:
   void Show(const std::optional<MeasuredTest>& test);
 
   shell::WindowTools tools_;
-  std::function<void()> changed_;
-  acoustics::Spectrum bands_{};
-  bool are_octaves_ = false;
+  std::optional<presentation::ComparedCurve> curve_{};
+  bool full_ = false;
   QCheckBox* check_ = nullptr;
   TestChooser* chooser_ = nullptr;
   QLabel* database_ = nullptr;
   QLabel* rating_ = nullptr;
+  QPushButton* add_ = nullptr;
   QPlainTextEdit* description_ = nullptr;
 };
 

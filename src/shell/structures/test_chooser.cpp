@@ -17,6 +17,9 @@
 #include <utility>
 
 #include "foundation/message_rows.h"
+#include "shell/fields/corrections.h"
+#include "shell/fields/filter_box.h"
+#include "shell/fields/search_field.h"
 
 namespace velmar::structures {
 namespace {
@@ -104,11 +107,11 @@ QWidget* TestChooser::MakeList(const Controls& controls) {
   auto* side = new QWidget(this);
   auto* column = new QVBoxLayout(side);
   column->setContentsMargins(0, 0, 0, 0);
-  keywords_ = new QComboBox(side);
-  keywords_->setObjectName(QLatin1String(controls.keywords));
+  keywords_ = new shell::FilterBox(QLatin1String(controls.keywords), side);
   keywords_->setAccessibleName(tools_.Text(kKeywordFilterRow));
   keywords_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-  keywords_->addItem(tools_.Text(kAllKeywordsRow));
+  keywords_->Offer({tools_.Text(kAllKeywordsRow)});
+  ShowKeyword(QString());
   auto* label = new QLabel(tools_.Text(kKeywordFilterRow), side);
   label->setBuddy(keywords_);
   auto* filter = new QHBoxLayout;
@@ -126,11 +129,8 @@ QWidget* TestChooser::MakeList(const Controls& controls) {
   uses_row->addWidget(uses_, 1);
   uses_->setVisible(controls.filters_uses);
   uses_label->setVisible(controls.filters_uses);
-  search_ = new QLineEdit(side);
-  search_->setObjectName(QLatin1String(controls.list) + QStringLiteral("_cerca"));
-  search_->setPlaceholderText(tools_.Text(kStructureSearchRow));
-  search_->setAccessibleName(tools_.Text(kStructureSearchRow));
-  search_->setClearButtonEnabled(true);
+  search_ = new shell::SearchField(QLatin1String(controls.list) + QStringLiteral("_cerca"),
+                                   tools_.Text(kStructureSearchRow), side);
   list_ = new QListView(side);
   list_->setObjectName(QLatin1String(controls.list));
   list_->setAccessibleName(tools_.Text(kTestListRow));
@@ -143,7 +143,14 @@ QWidget* TestChooser::MakeList(const Controls& controls) {
   column->addLayout(uses_row);
   column->addWidget(search_);
   column->addWidget(list_, 1);
-  connect(keywords_, &QComboBox::currentIndexChanged, this, [this] { FillList(); });
+  connect(keywords_, &shell::FilterBox::Chosen, this, [this](const std::string& keyword) {
+    const bool all = keyword == shell::FromQt(tools_.Text(kAllKeywordsRow));
+    ShowKeyword(all ? QString() : shell::ToQt(keyword));
+    FillList();
+  });
+  connect(keywords_, &shell::FilterBox::Corrected, this, [this](shell::Correction correction, int limit) {
+    NoteCorrection(keywords_, correction, limit, tools_.words);
+  });
   connect(uses_, &QComboBox::currentIndexChanged, this, [this] { FillList(); });
   connect(search_, &QLineEdit::textChanged, this, [this](const QString& text) {
     const QString before = list_->currentIndex().data().toString();
@@ -151,6 +158,13 @@ QWidget* TestChooser::MakeList(const Controls& controls) {
     // The view moves on to a neighbour of a row that goes; nobody chose that one.
     if (list_->currentIndex().data().toString() != before) Clear();
   });
+  connect(search_, &shell::SearchField::Entered, this, [this] {
+    const int best = shown_.BestHit(search_->text(), 0);
+    if (best < 0) return search_->SayNoHit(tools_.words);
+    list_->setCurrentIndex(shown_.index(best, 0));
+    list_->setFocus();
+  });
+  if (listener_.meant) connect(list_, &QListView::activated, this, [this] { listener_.meant(); });
   connect(list_->selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] {
     const QModelIndexList selected = list_->selectionModel()->selectedIndexes();
     Choose(selected.isEmpty() ? QString() : selected.first().data().toString());
@@ -164,8 +178,7 @@ void TestChooser::FillTree() {
 }
 
 void TestChooser::Refresh() {
-  Refill(file_, keywords_->currentIndex() > 0 ? keywords_->currentText() : QString(),
-         chosen_ ? shell::ToQt(chosen_->part.name) : QString());
+  Refill(file_, keyword_, chosen_ ? shell::ToQt(chosen_->part.name) : QString());
 }
 
 void TestChooser::ShowTest(Branch branch, const std::string& series, const QString& name) {
@@ -199,7 +212,10 @@ void TestChooser::Refill(const std::optional<LibraryFile>& file, const QString& 
     return;
   }
   OpenFile(*before);
-  keywords_->setCurrentIndex(std::max(keywords_->findText(keyword), 0));
+  if (keywords_->findText(keyword) > 0) {
+    ShowKeyword(keyword);
+    FillList();
+  }
   const QModelIndexList again =
       shown_.match(shown_.index(0, 0), Qt::DisplayRole, name, 1, Qt::MatchExactly | Qt::MatchCaseSensitive);
   if (!name.isEmpty() && !again.isEmpty()) list_->setCurrentIndex(again.first());
@@ -211,26 +227,31 @@ void TestChooser::OpenFile(const LibraryFile& file) {
   file_ = file;
   tests_ = std::move(tests);
   {
-    const QSignalBlocker quiet(keywords_);
-    keywords_->clear();
-    keywords_->addItem(tools_.Text(kAllKeywordsRow));
+    QStringList keywords = {tools_.Text(kAllKeywordsRow)};
     std::set<std::string> listed = {std::string()};
     for (const TestEntry& test : tests_) {
-      if (listed.insert(test.keyword).second) keywords_->addItem(shell::ToQt(test.keyword));
+      if (listed.insert(test.keyword).second) keywords << shell::ToQt(test.keyword);
     }
+    keywords_->Offer(keywords);
+    ShowKeyword(QString());
   }
   FillList();
   if (listener_.file)
     listener_.file(file, tests_.empty() ? QString() : shell::ToQt(tests_.front().description));
 }
 
+void TestChooser::ShowKeyword(const QString& keyword) {
+  keyword_ = keyword;
+  keywords_->Show(shell::FromQt(keyword.isEmpty() ? tools_.Text(kAllKeywordsRow) : keyword));
+}
+
 void TestChooser::FillList() {
-  const bool all = keywords_->currentIndex() <= 0;
-  const std::string keyword = shell::FromQt(keywords_->currentText());
+  const std::string keyword = shell::FromQt(keyword_);
   std::vector<QStringList> rows;
   const Use use = kUses.at(static_cast<std::size_t>(std::max(uses_->currentIndex(), 0))).first;
   for (const TestEntry& test : tests_) {
-    if ((all || test.keyword == keyword) && Serves(test.uses, use)) rows.push_back({shell::ToQt(test.name)});
+    if ((keyword.empty() || test.keyword == keyword) && Serves(test.uses, use))
+      rows.push_back({shell::ToQt(test.name)});
   }
   Clear();
   model_.Fill(std::move(rows));

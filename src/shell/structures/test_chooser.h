@@ -10,10 +10,14 @@
 #include "shell/structures/structure_sources.h"
 
 class QComboBox;
-class QLineEdit;
 class QListView;
 class QSplitter;
 class QTreeWidget;
+
+namespace velmar::shell {
+class FilterBox;
+class SearchField;
+}  // namespace velmar::shell
 
 namespace velmar::structures {
 
@@ -36,6 +40,8 @@ class TestChooser : public QWidget {
     /// A branch that holds no series was clicked: a measurement of it is to be entered. Without it such a
     /// branch shows nothing.
     std::function<void(Branch)> enter{};
+    /// The chosen test was meant: a double click on it, or Enter in the list.
+    std::function<void()> meant{};
   };
 
   TestChooser(const shell::WindowTools& tools, LibrarySource source, const Controls& controls,
@@ -57,6 +63,7 @@ class TestChooser : public QWidget {
   void FillTree();
   void Refill(const std::optional<LibraryFile>& file, const QString& keyword, const QString& name);
   void OpenFile(const LibraryFile& file);
+  void ShowKeyword(const QString& keyword);
   void FillList();
   void Choose(const QString& name);
 
@@ -71,9 +78,10 @@ class TestChooser : public QWidget {
   std::optional<MeasuredTest> chosen_;
   QSplitter* splitter_ = nullptr;
   QTreeWidget* tree_ = nullptr;
-  QComboBox* keywords_ = nullptr;
+  shell::FilterBox* keywords_ = nullptr;
+  QString keyword_{};  ///< that filters the list; empty for all
   QComboBox* uses_ = nullptr;
-  QLineEdit* search_ = nullptr;
+  shell::SearchField* search_ = nullptr;
   QListView* list_ = nullptr;
 };
 
