@@ -88,7 +88,7 @@ Section SectionOf(const Setup& setup, const Words& words) {
   if (row.stacks.Has(elements::Stack::kComponents)) return section;
   section.horizontal = IsHorizontal(row.orientation);
   Stack stack;
-  const std::string fibre_name = words ? words(kFibreFillRow) : std::string();
+  const std::string fibre_name = words ? words(kFibrousCavityRow) : std::string();
   for (const elements::Part& part : elements::PartsAsTheyStand(setup)) Add(stack, part, fibre_name);
   section.thickness_mm = stack.PositionMm();
   section.strips = stack.Take();

@@ -155,6 +155,7 @@ void CavityPage::Show(const elements::Setup& setup) {
   kinds_.back()->setVisible(row.generic_cavity);
   const int number = elements::FibreNumberOf(setup);
   fibre_number_->setText(number > 0 ? "n. " + QString::number(number) : QString());
+  fibre_number_->setAccessibleName(Text(context_.Words(), kFibreFillRow) + ' ' + fibre_number_->text());
   // Without its field the words end before the thickness they ask for.
   QString words = Text(context_.Words(), kKindRows.at(1));
   if (!reads_fibre) words = words.section(" - ", 0, 0);

@@ -10,12 +10,37 @@ acoustics::Spectrum ThirdsOf(const calculation::BandValues& bands) {
   return levels;
 }
 
+/// As the ratings of a comparison are written, the same in every language.
+const char* SymbolOf(Branch branch) {
+  switch (branch) {
+    case Branch::kFieldWalls:
+      return "R'w";
+    case Branch::kFloors:
+    case Branch::kCalculatedFloors:
+      return "Ln,w";
+    case Branch::kFieldFloors:
+      return "L'n,w";
+    case Branch::kLinings:
+    case Branch::kCalculatedLinings:
+      return "ΔRw";
+    case Branch::kCoverings:
+      return "ΔLw";
+    case Branch::kSmallElements:
+      return "Dn,e,w";
+    case Branch::kWalls:
+    case Branch::kOpenings:
+    case Branch::kCalculatedWalls:
+      break;
+  }
+  return "Rw";
+}
+
 }  // namespace
 
 std::optional<presentation::ComparedCurve> Compared(Branch branch, const MeasuredTest& test) {
   presentation::ComparedCurve curve;
   curve.name = test.part.name;
-  curve.symbol = SymbolsOf(branch).rating;
+  curve.symbol = SymbolOf(branch);
   curve.levels = ThirdsOf(test.part.bands_db);
   if (curve.levels == acoustics::Spectrum{}) {
     curve.levels = ThirdsOf(test.octave_steps_db);

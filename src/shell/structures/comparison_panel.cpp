@@ -60,6 +60,10 @@ ComparisonPanel::ComparisonPanel(const shell::WindowTools& tools, LibrarySource 
     if (curve_ && !full_) emit AddWanted();
   };
   chooser_ = new TestChooser(tools, std::move(source), controls, std::move(listener), this);
+  add_ = new QPushButton(tools.Text(kAddCurveRow), this);
+  add_->setObjectName(QLatin1String(look.add));
+  add_->setAutoDefault(false);
+  connect(add_, &QPushButton::clicked, this, &ComparisonPanel::AddWanted);
   description_ = new QPlainTextEdit(this);
   description_->setObjectName(QLatin1String(look.description));
   description_->setAccessibleName(tools.Text(kDescriptionRow));
@@ -67,10 +71,6 @@ ComparisonPanel::ComparisonPanel(const shell::WindowTools& tools, LibrarySource 
   description_->setTabChangesFocus(true);
   description_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   description_->setFixedHeight(fontMetrics().height() * kDescriptionLines);
-  add_ = new QPushButton(tools.Text(kAddCurveRow), this);
-  add_->setObjectName(QLatin1String(look.add));
-  add_->setAutoDefault(false);
-  connect(add_, &QPushButton::clicked, this, &ComparisonPanel::AddWanted);
   auto* chosen = new QHBoxLayout;
   chosen->addWidget(rating_, 1);
   chosen->addWidget(add_);

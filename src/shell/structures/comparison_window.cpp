@@ -101,15 +101,16 @@ ComparisonWindow::~ComparisonWindow() { shell::SaveSizes(tools_.memory, SizesOf(
 
 void ComparisonWindow::MakeSides(const LibrarySource& source, elements::Family family) {
   const bool is_impact = family == elements::Family::kImpact;
-  ComparisonPanel::Look look = LaboratoryLook();
-  look.nodes = LaboratoryNodes(family, tools_);
-  laboratory_ = new ComparisonPanel(tools_, source, look, this);
-  look = InSituLook();
-  look.nodes = InSituNodes(family, tools_);
-  in_situ_ = new ComparisonPanel(tools_, source, look, this);
-  variants_ = new VariantsPanel(tools_, is_impact, this);
+  // In the order in which Tab goes through them.
   curves_ = new ComparedCurvesList(tools_, is_impact, this);
   auto* sides = new QTabWidget(this);
+  ComparisonPanel::Look look = LaboratoryLook();
+  look.nodes = LaboratoryNodes(family, tools_);
+  laboratory_ = new ComparisonPanel(tools_, source, look, sides);
+  look = InSituLook();
+  look.nodes = InSituNodes(family, tools_);
+  in_situ_ = new ComparisonPanel(tools_, source, look, sides);
+  variants_ = new VariantsPanel(tools_, is_impact, sides);
   sides->setObjectName(QStringLiteral("ConfrontoLati"));
   sides->setDocumentMode(true);
   sides->addTab(laboratory_, laboratory_->accessibleName());

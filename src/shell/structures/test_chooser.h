@@ -57,6 +57,9 @@ class TestChooser : public QWidget {
   void Refresh();
   QSplitter* Splitter() const { return splitter_; }
 
+ protected:
+  void keyPressEvent(QKeyEvent* event) override;
+
  private:
   QWidget* MakeTree(const Controls& controls);
   QWidget* MakeList(const Controls& controls);

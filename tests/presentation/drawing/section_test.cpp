@@ -78,7 +78,7 @@ TEST(SectionOf, PutsTheCavityBetweenTheLeaves) {
 
 TEST(SectionOf, NamesTheFibreOfACavity) {
   const Section section = SectionOf(samples::PlasterboardDoubleWall(), CatalogueWords());
-  EXPECT_EQ(section.strips[2].name, "Materiale fibroso o poroso");
+  EXPECT_EQ(section.strips[2].name, "Intercapedine con materiale fibroso o poroso");
   EXPECT_EQ(section.strips[3].name, "");
   EXPECT_EQ(SectionOf(samples::PlasterboardDoubleWall()).strips[2].name, "");
 }

@@ -104,7 +104,7 @@ TEST(ComparedCurves, AResultIsItsCurveWithItsNumbers) {
   EXPECT_EQ(wall->other_term, -6.0);
   result.lnw = 70;
   result.ci = -11;
-  const auto floor = ComparedResult("x", result, elements::Calculation::kFloorWithFloatingScreed);
+  const auto floor = ComparedResult("x", result, elements::Calculation::kImpactFloatingFloor);
   EXPECT_EQ(floor->symbol, "Ln,w");
   EXPECT_EQ(floor->rating, 70.0);
   EXPECT_EQ(floor->term, -11.0);

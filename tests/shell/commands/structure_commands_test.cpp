@@ -181,7 +181,7 @@ class StructureCommandsTest : public QObject {
   }
 
   void aClosedComparisonLeavesNothingInTheDrawing() {
-    const Program program;
+    Program program;
     program.fixture.Choose("TIPO_PARETE_SINGOLA_0");
     program.fixture.Run();
     program.fixture.Find<QToolButton>("Toolbar1_13")->click();
@@ -209,7 +209,7 @@ class StructureCommandsTest : public QObject {
   }
   void anotherElementOrProjectEndsTheComparison() {
     QFETCH(const bool, project);
-    const Program program;
+    Program program;
     const char* example = EXAMPLES "/parete-forato-intonacata.drav";
     program.fixture.window->OpenProject(example);
     program.fixture.Find<QAction>("calcolo_continuo")->trigger();
@@ -238,7 +238,7 @@ class StructureCommandsTest : public QObject {
   }
 
   void variantsOfTheProjectAreComparedAndDrawnOnce() {
-    const Program program;
+    Program program;
     program.fixture.window->OpenProject(EXAMPLES "/parete-forato-intonacata.drav");
     program.fixture.Run();
     program.fixture.Find<QToolButton>("FissaVariante")->click();
