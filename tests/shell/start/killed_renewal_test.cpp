@@ -98,12 +98,12 @@ struct Contents {
   bool operator==(const Contents&) const = default;
 };
 
+/// Copies that it keeps, and what it has not finished.
 bool IsOfTheProgram(const fs::path& relative) {
-  const std::string first = relative.begin()->string();
   const std::string name = relative.filename().string();
-  return first.starts_with(kShippedCopy) || name.find(".copia-") != std::string::npos ||
-         name.find(".velmar-") != std::string::npos || name.ends_with("-journal") ||
-         relative.string().find("/.velmar-") != std::string::npos || name.starts_with(".");
+  const bool hidden =
+      std::ranges::any_of(relative, [](const fs::path& part) { return part.string().starts_with('.'); });
+  return hidden || name.find(".copia-") != std::string::npos || name.ends_with("-journal");
 }
 
 Contents ContentsOf(const fs::path& folder) {
