@@ -2,8 +2,8 @@
 
 #include <optional>
 
+#include "presentation/documents/picture.h"
 #include "presentation/drawing/curve_chart.h"
-#include "presentation/reports/picture.h"
 
 namespace velmar::presentation {
 

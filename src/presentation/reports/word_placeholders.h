@@ -1,8 +1,8 @@
 #pragma once
 
-#include "presentation/reports/placeholders.h"
+#include "presentation/documents/placeholders.h"
+#include "presentation/documents/word_document.h"
 #include "presentation/reports/report_record.h"
-#include "presentation/reports/word_document.h"
 
 namespace velmar::presentation {
 

@@ -2,8 +2,8 @@
 
 #include <vector>
 
-#include "presentation/reports/word_content.h"
-#include "presentation/reports/word_document.h"
+#include "presentation/documents/word_content.h"
+#include "presentation/documents/word_document.h"
 #include "presentation/reports/word_placeholders.h"
 
 namespace velmar::presentation {

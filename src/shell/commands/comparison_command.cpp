@@ -2,11 +2,11 @@
 
 #include <utility>
 
-#include "calculation/variants.h"
+#include "calculation/open/variants.h"
 #include "elements/catalogue.h"
 #include "elements/variants.h"
 #include "foundation/message_rows.h"
-#include "shell/fields/docked.h"
+#include "shell/windows/docked.h"
 
 namespace velmar::shell {
 

@@ -7,7 +7,7 @@
 #include <future>
 #include <string>
 
-#include "shell/fields/window_tools.h"
+#include "shell/windows/window_tools.h"
 #include "storage/project/material_uses.h"
 
 class QLabel;

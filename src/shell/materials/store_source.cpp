@@ -3,7 +3,7 @@
 #include <memory>
 #include <type_traits>
 
-#include "shell/fields/long_work.h"
+#include "shell/windows/long_work.h"
 #include "storage/materials/material_store.h"
 
 namespace velmar::shell {

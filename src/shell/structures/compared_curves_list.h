@@ -8,7 +8,7 @@
 #include "presentation/drawing/compared_looks.h"
 #include "presentation/drawing/curve_chart.h"
 #include "presentation/texts/compared_curves.h"
-#include "shell/fields/window_tools.h"
+#include "shell/windows/window_tools.h"
 
 class QComboBox;
 class QTableWidget;

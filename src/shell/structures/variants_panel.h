@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "presentation/texts/compared_curves.h"
-#include "shell/fields/window_tools.h"
+#include "shell/windows/window_tools.h"
 
 class QLabel;
 class QListWidget;

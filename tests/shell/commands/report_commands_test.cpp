@@ -7,7 +7,7 @@
 #include <QTest>
 #include <optional>
 
-#include "presentation/reports/package.h"
+#include "presentation/documents/package.h"
 #include "presentation/reports/word_report.h"
 #include "tests/shell/support/window_fixture.h"
 #include "tests/storage/support/full_disk.h"
