@@ -28,7 +28,7 @@ using presentation::CurveLook;
 constexpr std::array kSideLooks = {CurveLook{presentation::kCalculatedColour},
                                    CurveLook{presentation::kLaboratoryColour},
                                    CurveLook{presentation::kInSituColour}};
-constexpr int kShownRows = 6;
+constexpr int kShownRows = 5;
 
 QString Cell(const std::string& text) { return shell::ToQt(text).replace('-', QChar(0x2212)); }
 
