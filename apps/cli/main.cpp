@@ -27,6 +27,17 @@ std::filesystem::path TemplateFolder(const velmar::application::Environment& env
   return *environment.shipped / "Templates";
 }
 
+ReportPlaces PlacesOf(const velmar::application::Environment& environment) {
+  ReportPlaces places{.templates = TemplateFolder(environment),
+                      .data_folder = environment.configuration.LeggiCartellaDati(),
+                      .catalogue = environment.configuration.PercorsoInterfMess()};
+  if (environment.shipped) {
+    places.shipped_templates = *environment.shipped / "Templates";
+    places.shipped_catalogue = *environment.shipped / velmar::storage::kMessageDatabase;
+  }
+  return places;
+}
+
 velmar::cli::Services OpenServices(const velmar::cli::Opening& opening) {
   velmar::application::Environment environment =
       opening.mends ? velmar::application::OpenEnvironmentForMending(opening.data_folder)
@@ -36,9 +47,10 @@ velmar::cli::Services OpenServices(const velmar::cli::Opening& opening) {
     return messages.Text(row);
   };
   services.report_formats = {velmar::cli::CsvFormat()};
-  for (velmar::cli::ReportFormat& format : FurtherReportFormats(TemplateFolder(environment))) {
+  for (velmar::cli::ReportFormat& format : FurtherReportFormats(PlacesOf(environment))) {
     services.report_formats.push_back(std::move(format));
   }
+  services.readable_picture = IsReadablePicture;
   services.material_database = environment.configuration.PercorsoDatabase();
   services.result_database = environment.configuration.PercorsoDatabaseTeorico();
   services.library_folder = environment.configuration.CartellaLibreria();

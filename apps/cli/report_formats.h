@@ -1,10 +1,22 @@
 #pragma once
 
 #include <filesystem>
+#include <string>
 #include <vector>
 
 #include "cli/output/report_format.h"
 
-/// The kinds of report that this program was built with, beyond the plain table. `templates` is the folder of
-/// the Word and Excel templates.
-std::vector<velmar::cli::ReportFormat> FurtherReportFormats(const std::filesystem::path& templates);
+/// Where documents find their templates, texts and studio profile.
+struct ReportPlaces {
+  std::filesystem::path templates{};  ///< folder of the Word and Excel templates
+  std::filesystem::path shipped_templates{};
+  std::filesystem::path data_folder{};
+  std::filesystem::path catalogue{};
+  std::filesystem::path shipped_catalogue{};
+};
+
+/// The kinds of report that this program was built with, beyond the plain table.
+std::vector<velmar::cli::ReportFormat> FurtherReportFormats(const ReportPlaces& places);
+
+/// Whether the bytes of a picture file can be read; always true in a program that draws nothing.
+bool IsReadablePicture(const std::string& bytes);

@@ -3,13 +3,13 @@
 #include <QAbstractTextDocumentLayout>
 #include <QFileInfo>
 #include <QFont>
-#include <QPagedPaintDevice>
 #include <QPainter>
 #include <QTextBlock>
 #include <QTextFrame>
 #include <QTextList>
 #include <QTextTable>
 #include <QUrl>
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <vector>
@@ -18,19 +18,18 @@ namespace velmar::manual {
 namespace {
 
 // The document counts in points: sizes of letters are given as its units.
-constexpr QSizeF kPage{595.0, 842.0};
-constexpr double kSideMargin = 62.0;
-constexpr double kTopMargin = 56.0;
-constexpr double kFootHeight = 56.0;
-constexpr QSizeF kText{kPage.width() - 2 * kSideMargin, kPage.height() - kTopMargin - kFootHeight};
+constexpr QSizeF kText = PageLook::kText;
 constexpr int kTextPoints = 10;
 constexpr int kFootPoints = 8;
 constexpr int kCodePoints = 8;
+constexpr int kWideTablePoints = 8;
+constexpr int kWideTableColumns = 6;  ///< from as many on a table is wide
 constexpr double kLineHeightPercent = 128.0;
 constexpr double kPictureWidth = 0.8;  ///< of the text's width
 /// A heading or table that starts lower on its page than this goes to the next one.
 constexpr double kLowestHeading = 0.86;
 constexpr double kLowestTable = 0.8;
+constexpr int kMostRounds = 4;  ///< of moving headings, each of which may push others down
 
 const QColor kInk(0x16, 0x25, 0x4B);
 const QColor kQuiet(0x6B, 0x72, 0x80);
@@ -44,8 +43,9 @@ struct HeadingLook {
   double above = 0.0;
   double below = 0.0;
 };
-constexpr std::array kHeadings = {HeadingLook{22, 0.0, 12.0}, HeadingLook{14, 20.0, 6.0},
-                                  HeadingLook{11, 14.0, 4.0}};
+constexpr int kChapterLevel = 2;
+constexpr std::array kHeadings = {HeadingLook{22, 0.0, 12.0}, HeadingLook{17, 0.0, 10.0},
+                                  HeadingLook{12, 14.0, 4.0}};
 
 const HeadingLook& LookOf(int level) {
   const auto place = static_cast<std::size_t>(level - 1);
@@ -116,8 +116,7 @@ void DressText(const QTextBlock& block) {
 
 }  // namespace
 
-ManualPages::ManualPages(const QString& markdown, const QString& folder, QString product)
-    : product_(std::move(product)) {
+ManualPages::ManualPages(const QString& markdown, const QString& folder) {
   QFont letters("Liberation Sans");
   letters.setPixelSize(kTextPoints);
   letters.setHintingPreference(QFont::PreferNoHinting);
@@ -125,13 +124,26 @@ ManualPages::ManualPages(const QString& markdown, const QString& folder, QString
   document_.setBaseUrl(QUrl::fromLocalFile(folder + '/'));
   document_.setDocumentMargin(0.0);
   document_.setMarkdown(markdown, QTextDocument::MarkdownDialectGitHub);
+  LeaveOutTitle();
   DressBlocks();
   DressPictures(folder);
   DressTables();
   document_.setPageSize(kText);
   KeepTogether();
+  for (int round = 0; round < kMostRounds && KeepHeadingsWithText(); ++round) continue;
   // Breaks set afterwards leave blocks without a place: everything is laid out anew.
   document_.markContentsDirty(0, document_.characterCount());
+  FindHeadings();
+  FindLinks();
+}
+
+void ManualPages::LeaveOutTitle() {
+  if (document_.begin().blockFormat().headingLevel() != 1) return;
+  QTextCursor cursor(document_.begin());
+  cursor.movePosition(QTextCursor::NextBlock, QTextCursor::KeepAnchor);
+  const QTextBlockFormat look = cursor.blockFormat();
+  cursor.removeSelectedText();
+  cursor.setBlockFormat(look);
 }
 
 void ManualPages::DressBlocks() {
@@ -198,6 +210,12 @@ void ManualPages::DressTables() {
         tight.setBottomMargin(0.0);
         tight.setAlignment(Qt::AlignLeft);
         cursor.mergeBlockFormat(tight);
+        if (table->columns() >= kWideTableColumns) {
+          cursor.setPosition(cell.lastCursorPosition().position(), QTextCursor::KeepAnchor);
+          QTextCharFormat small;
+          small.setProperty(QTextFormat::FontPixelSize, kWideTablePoints);
+          cursor.mergeCharFormat(small);
+        }
         if (row > 0) continue;
         QTextTableCellFormat ground = cell.format().toTableCellFormat();
         ground.setBackground(kHeadGround);
@@ -207,14 +225,24 @@ void ManualPages::DressTables() {
   }
 }
 
+double ManualPages::TopOf(const QTextBlock& block) const {
+  const QTextFrame* frame = QTextCursor(block).currentFrame();
+  const QAbstractTextDocumentLayout& layout = *document_.documentLayout();
+  return frame != nullptr && frame != document_.rootFrame()
+             ? layout.frameBoundingRect(const_cast<QTextFrame*>(frame)).top()
+             : layout.blockBoundingRect(block).top();
+}
+
 void ManualPages::KeepTogether() {
   const auto height_on_page = [this](const QRectF& place) {
     return std::fmod(place.top(), kText.height()) / kText.height();
   };
   const QAbstractTextDocumentLayout& layout = *document_.documentLayout();
   for (QTextBlock block = document_.begin(); block.isValid(); block = block.next()) {
-    const bool heading = block.blockFormat().headingLevel() > 0;
-    if (heading && height_on_page(layout.blockBoundingRect(block)) >= kLowestHeading) BreakBefore(block);
+    const int level = block.blockFormat().headingLevel();
+    const bool begins = level == kChapterLevel && block.position() > 0;
+    if (begins || (level > 0 && height_on_page(layout.blockBoundingRect(block)) >= kLowestHeading))
+      BreakBefore(block);
   }
   for (QTextFrame* frame : document_.rootFrame()->childFrames()) {
     if (height_on_page(layout.frameBoundingRect(frame)) < kLowestTable) continue;
@@ -230,25 +258,83 @@ void ManualPages::KeepTogether() {
   }
 }
 
+// A picture or a table that finds no room under its heading would leave it alone at the foot of the page.
+bool ManualPages::KeepHeadingsWithText() {
+  bool moved = false;
+  const auto page_of = [](double top) { return static_cast<int>(top / kText.height()); };
+  for (QTextBlock block = document_.begin(); block.isValid(); block = block.next()) {
+    if (block.blockFormat().headingLevel() == 0) continue;
+    QTextBlock text = block.next();
+    while (text.isValid() && text.blockFormat().headingLevel() > 0) text = text.next();
+    if (!text.isValid() || page_of(TopOf(text)) == page_of(TopOf(block))) continue;
+    QTextBlock first = block;
+    while (first.previous().isValid() && first.previous().blockFormat().headingLevel() > 0)
+      first = first.previous();
+    if (first.blockFormat().pageBreakPolicy() & QTextFormat::PageBreak_AlwaysBefore) continue;
+    BreakBefore(first);
+    moved = true;
+  }
+  return moved;
+}
+
+void ManualPages::FindHeadings() {
+  for (QTextBlock block = document_.begin(); block.isValid(); block = block.next()) {
+    const int level = block.blockFormat().headingLevel();
+    if (level == 0) continue;
+    const double top = TopOf(block);
+    const int page = static_cast<int>(top / kText.height());
+    const std::string title = block.text().toStdString();
+    headings_.push_back({{level, title, presentation::AnchorOf(title)},
+                         page,
+                         PageLook::kTopMargin + top - page * kText.height()});
+  }
+}
+
+void ManualPages::FindLinks() {
+  for (QTextBlock block = document_.begin(); block.isValid(); block = block.next()) {
+    ForEachFragment(block, [this, &block](const QTextFragment& fragment) {
+      const QString address = fragment.charFormat().anchorHref();
+      if (!address.startsWith('#')) return;
+      const QPointF origin = document_.documentLayout()->blockBoundingRect(block).topLeft();
+      const int from = fragment.position() - block.position();
+      const int to = from + fragment.length();
+      for (int i = 0; i < block.layout()->lineCount(); ++i) {
+        const QTextLine line = block.layout()->lineAt(i);
+        const int first = std::max(from, line.textStart());
+        const int last = std::min(to, line.textStart() + line.textLength());
+        if (first >= last) continue;
+        QRectF place(line.cursorToX(first), line.y(), line.cursorToX(last) - line.cursorToX(first),
+                     line.height());
+        place.translate(origin);
+        const int page = static_cast<int>(place.top() / kText.height());
+        place.translate(PageLook::kSideMargin, PageLook::kTopMargin - page * kText.height());
+        links_.push_back({page, place, address.mid(1).toStdString()});
+      }
+    });
+  }
+}
+
+std::map<int, int> ManualPages::PagesOf(const QString& term) const {
+  std::map<int, int> pages;
+  for (QTextCursor hit = document_.find(term, 0, QTextDocument::FindWholeWords); !hit.isNull();
+       hit = document_.find(term, hit, QTextDocument::FindWholeWords)) {
+    const QTextBlock block = hit.block();
+    const QTextLine line = block.layout()->lineForTextPosition(hit.selectionStart() - block.position());
+    const double top =
+        document_.documentLayout()->blockBoundingRect(block).top() + (line.isValid() ? line.y() : 0.0);
+    ++pages[static_cast<int>(top / kText.height())];
+  }
+  return pages;
+}
+
 bool ManualPages::HoldsWholeText() const {
   const QRectF last = document_.documentLayout()->blockBoundingRect(document_.lastBlock());
   return last.height() > 0.0 && last.bottom() <= Count() * kText.height();
 }
 
-bool ManualPages::PaintOn(QPagedPaintDevice& device) const {
-  QPainter painter;
-  if (!painter.begin(&device)) return false;
-  painter.scale(device.width() / kPage.width(), device.height() / kPage.height());
-  for (int page = 0; page < Count(); ++page) {
-    if (page > 0 && !device.newPage()) return false;
-    PaintPage(painter, page);
-  }
-  return painter.end();
-}
-
 void ManualPages::PaintPage(QPainter& painter, int page) const {
   painter.save();
-  painter.translate(kSideMargin, kTopMargin - page * kText.height());
+  painter.translate(PageLook::kSideMargin, PageLook::kTopMargin - page * kText.height());
   const QRectF seen(0.0, page * kText.height(), kText.width(), kText.height());
   // Two units less: a picture that begins on the next page would show its edge.
   painter.setClipRect(seen.adjusted(0.0, 0.0, 0.0, -2.0));
@@ -257,17 +343,21 @@ void ManualPages::PaintPage(QPainter& painter, int page) const {
   context.palette.setColor(QPalette::Text, Qt::black);
   document_.documentLayout()->draw(&painter, context);
   painter.restore();
+}
 
-  QFont letters = document_.defaultFont();
+void PaintFoot(QPainter& painter, const QString& product, const QString& number) {
+  QFont letters("Liberation Sans");
   letters.setPixelSize(kFootPoints);
+  letters.setHintingPreference(QFont::PreferNoHinting);
   painter.setFont(letters);
   painter.setPen(QPen(kRule, 0.5));
-  const double line = kPage.height() - kFootHeight + 14.0;
-  painter.drawLine(QPointF(kSideMargin, line), QPointF(kPage.width() - kSideMargin, line));
+  const double line = PageLook::kPage.height() - PageLook::kFootHeight + 14.0;
+  painter.drawLine(QPointF(PageLook::kSideMargin, line),
+                   QPointF(PageLook::kPage.width() - PageLook::kSideMargin, line));
   painter.setPen(kQuiet);
-  const QRectF foot(kSideMargin, line + 5.0, kText.width(), 14.0);
-  painter.drawText(foot, Qt::AlignLeft | Qt::AlignVCenter, product_);
-  painter.drawText(foot, Qt::AlignRight | Qt::AlignVCenter, QString("%1 / %2").arg(page + 1).arg(Count()));
+  const QRectF foot(PageLook::kSideMargin, line + 5.0, kText.width(), 14.0);
+  painter.drawText(foot, Qt::AlignLeft | Qt::AlignVCenter, product);
+  painter.drawText(foot, Qt::AlignRight | Qt::AlignVCenter, number);
 }
 
 }  // namespace velmar::manual

@@ -103,6 +103,7 @@ ExitCode ReportOne(const ReportCommand& command, const path& project, const Serv
       .confidence = std::move(confidence),
       .words = services.words,
       .file = project.filename().string(),
+      .language = command.language,
       .sources = application::MaterialSourcesIn(services.material_database, services.words),
       .tell = [&](const Message& message) { WriteMessage(message, services.words, errors); }};
   return WriteReports(command, project, content, services, errors);

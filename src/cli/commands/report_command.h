@@ -3,19 +3,23 @@
 #include <filesystem>
 #include <iosfwd>
 #include <map>
+#include <optional>
 #include <string>
 #include <vector>
 
 #include "cli/commands/services.h"
 #include "cli/output/exit_code.h"
+#include "elements/studio_profile.h"
 
 namespace velmar::cli {
 
-/// `report FILE... --docx OUT | --xlsx OUT | --pdf OUT | --csv OUT | --svg OUT [--answer yes|no]`
+/// `report FILE... --docx OUT | --xlsx OUT | --pdf OUT | --csv OUT | --svg OUT [--language it|en|it+en]
+/// [--answer yes|no]`
 struct ReportCommand {
   std::vector<std::filesystem::path> projects{};
   std::map<std::string, std::filesystem::path> targets{};  ///< by the format's extension; a file or a folder
   bool go_on_outside_ranges = false;                       ///< the answer to every question
+  std::optional<elements::DocumentLanguage> language{};    ///< none: as the studio profile says
 };
 
 /// Opens and runs every project and writes its reports, each file whole or not at all. A target that is a

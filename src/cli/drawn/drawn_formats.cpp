@@ -20,10 +20,8 @@ std::optional<presentation::CurveChart> WholeChart(const ReportContent& content)
   return presentation::WholeChartOf(content.setup, content.result, content.words);
 }
 
-std::string Pdf(const ReportContent& content) {
-  presentation::PaginaDiStampa page = PageOf(content);
-  TellProvenance(page, content.setup, content.words, ProvenanceOfContent(content));
-  return presentation::PagePdf(page, content.name);
+std::string Pdf(const application::DocumentPlaces& places, const ReportContent& content) {
+  return presentation::PagePdf(PageOf(content, StyleOfContent(places, content)), content.name);
 }
 
 std::string Svg(const ReportContent& content) {
@@ -40,7 +38,25 @@ presentation::PaginaDiStampa PageOf(const ReportContent& content) {
                                 &content.result, content.words, WholeChart(content), content.confidence);
 }
 
-std::vector<ReportFormat> DrawnFormats(const std::filesystem::path& templates) {
+presentation::PaginaDiStampa PageOf(const ReportContent& content, const application::DocumentStyle& style) {
+  const std::optional<presentation::CurveChart> chart =
+      presentation::WholeChartOf(content.setup, content.result, style.Captions());
+  const auto page_in = [&](const presentation::Words& words, elements::DocumentLanguage language) {
+    presentation::PaginaDiStampa page = presentation::PaginaDi(
+        content.setup, {content.totals.thickness_mm, content.totals.surface_mass_kg_m2}, &content.result,
+        words, chart, content.confidence, language);
+    const presentation::Provenance provenance = ProvenanceOfContent(content, language);
+    TellProvenance(page, content.setup, words, provenance, language);
+    TellStudio(page, content.setup, PageStudioOf(style), words, provenance);
+    return page;
+  };
+  presentation::PaginaDiStampa page = application::InLanguages(style, page_in);
+  if (style.english)
+    page.section_options = presentation::PaperOptions(content.setup, style.Captions(), style.language);
+  return page;
+}
+
+std::vector<ReportFormat> DrawnFormats(const application::DocumentPlaces& places) {
   const auto display = std::make_shared<OffscreenDisplay>();
   const auto drawn = [display](std::function<std::string(const ReportContent&)> bytes) {
     return [display, bytes = std::move(bytes)](const ReportContent& content) {
@@ -48,13 +64,12 @@ std::vector<ReportFormat> DrawnFormats(const std::filesystem::path& templates) {
       return bytes(content);
     };
   };
-  const auto word = [templates](const ReportContent& content) { return WordReportBytes(templates, content); };
-  const auto excel = [templates](const ReportContent& content) {
-    return ExcelReportBytes(templates, content);
-  };
+  const auto word = [places](const ReportContent& content) { return WordReportBytes(places, content); };
+  const auto excel = [places](const ReportContent& content) { return ExcelReportBytes(places, content); };
+  const auto pdf = [places](const ReportContent& content) { return Pdf(places, content); };
   return {{.extension = "docx", .help = kWordHelpRow, .bytes = drawn(word)},
           {.extension = "xlsx", .help = kExcelHelpRow, .bytes = drawn(excel)},
-          {.extension = "pdf", .help = kPdfHelpRow, .bytes = drawn(Pdf)},
+          {.extension = "pdf", .help = kPdfHelpRow, .bytes = drawn(pdf)},
           {.extension = "svg", .help = kSvgHelpRow, .bytes = drawn(Svg)}};
 }
 

@@ -18,8 +18,7 @@ namespace {
 
 constexpr std::size_t kLargestTemplate = std::size_t{64} << 20U;
 
-std::string ReadTemplate(const std::filesystem::path& templates, std::string_view name) {
-  const std::filesystem::path file = templates / name;
+std::string ReadTemplate(const std::filesystem::path& file) {
   std::error_code error;
   if (!std::filesystem::is_regular_file(file, error)) {
     throw Failure({{kTemplateMissingRow}, {file.string()}}, "no template " + file.string());
@@ -27,29 +26,44 @@ std::string ReadTemplate(const std::filesystem::path& templates, std::string_vie
   return storage::ReadWhole(file, kLargestTemplate);
 }
 
-presentation::ReportRecord RecordOf(const ReportContent& content, bool with_chart) {
-  presentation::ReportPictures pictures{.section =
-                                            presentation::ReportSectionOf(content.setup, content.words)};
-  if (with_chart) {
-    pictures.chart = presentation::ReportChartOf(content.setup, content.result, content.words);
-  }
-  presentation::ReportRecord record = presentation::ReportRecordOf(
-      content.setup, content.result, {content.totals.thickness_mm, content.totals.surface_mass_kg_m2},
-      content.words, std::move(pictures), {}, ProvenanceOfContent(content));
-  AddConfidence(record, content.confidence, content.words);
+presentation::ReportRecord RecordOf(const ReportContent& content, const application::DocumentStyle& style,
+                                    bool with_chart) {
+  const presentation::Words captions = style.Captions();
+  presentation::ReportPictures pictures{
+      .section = presentation::ReportSectionOf(content.setup, captions, style.language)};
+  if (with_chart) pictures.chart = presentation::ReportChartOf(content.setup, content.result, captions);
+  const auto record_in = [&](const presentation::Words& words, elements::DocumentLanguage language) {
+    presentation::ReportRecord record = presentation::ReportRecordOf(
+        content.setup, content.result, {content.totals.thickness_mm, content.totals.surface_mass_kg_m2},
+        words, pictures, {}, ProvenanceOfContent(content, language));
+    record.language = language;
+    AddConfidence(record, content.confidence, words);
+    return record;
+  };
+  presentation::ReportRecord record = application::InLanguages(style, record_in);
+  PutStudio(record, style.studio.words, style.studio.logo, style.studio.signature);
   return record;
 }
 
 }  // namespace
 
-presentation::Provenance ProvenanceOfContent(const ReportContent& content) {
-  return presentation::ProvenanceOf(storage::WriteProject(content.setup), content.file, content.sources);
+presentation::Provenance ProvenanceOfContent(const ReportContent& content,
+                                             elements::DocumentLanguage language) {
+  return presentation::ProvenanceOf(storage::WriteProject(content.setup), content.file, content.sources,
+                                    language);
 }
 
-std::string WordReportBytes(const std::filesystem::path& templates, const ReportContent& content) {
-  const presentation::ReportRecord record = RecordOf(content, true);
+application::DocumentStyle StyleOfContent(const application::DocumentPlaces& places,
+                                          const ReportContent& content) {
+  return application::StyleOf(places, content.language, content.words, content.tell);
+}
+
+std::string WordReportBytes(const application::DocumentPlaces& places, const ReportContent& content) {
+  const application::DocumentStyle style = StyleOfContent(places, content);
+  const presentation::ReportRecord record = RecordOf(content, style, true);
   presentation::WrittenReport report = presentation::WriteWordReport(
-      ReadTemplate(templates, presentation::WordTemplateName(record.family)), record);
+      ReadTemplate(application::TemplateFile(places, presentation::WordTemplateName(record.family), style)),
+      record);
   if (!report.unknown_placeholders.empty() && content.tell) {
     MessageLine line = {kUnknownPlaceholdersRow};
     for (const std::string& name : report.unknown_placeholders) line.emplace_back(" " + name);
@@ -58,9 +72,11 @@ std::string WordReportBytes(const std::filesystem::path& templates, const Report
   return std::move(report.bytes);
 }
 
-std::string ExcelReportBytes(const std::filesystem::path& templates, const ReportContent& content) {
-  return presentation::WriteExcelReport(ReadTemplate(templates, presentation::kExcelTemplateName),
-                                        RecordOf(content, false));
+std::string ExcelReportBytes(const application::DocumentPlaces& places, const ReportContent& content) {
+  const application::DocumentStyle style = StyleOfContent(places, content);
+  return presentation::WriteExcelReport(
+      ReadTemplate(application::TemplateFile(places, presentation::kExcelTemplateName, style)),
+      RecordOf(content, style, false));
 }
 
 }  // namespace velmar::cli

@@ -47,6 +47,7 @@ ExitCode ExecuteParsed(const CLI::App& app, Parsed& parsed, const Services& serv
   if (app.got_subcommand("import")) return Execute(parsed.import, services, out, errors);
   parsed.models.go_on_outside_ranges = parsed.answer == "yes";
   if (app.got_subcommand("models")) return Execute(parsed.models, services, out, errors);
+  if (app.got_subcommand("profile")) return Execute(parsed.profile, services, out, errors);
   if (app.got_subcommand("validate")) return Execute(parsed.validate, services, out, errors);
   if (app.got_subcommand("report")) return Execute(parsed.report, services, errors);
   if (app.got_subcommand(kDoctorCommand)) return Execute(parsed.doctor, services, out);

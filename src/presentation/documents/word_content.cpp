@@ -26,11 +26,11 @@ void SetWidth(pugi::xml_node node, int width) {
 
 /// Numbers stand right, words left.
 bool IsNumber(const std::string& cell) {
-  return !cell.empty() && cell.find_first_not_of("0123456789,-+ x") == std::string::npos;
+  return !cell.empty() && cell.find_first_not_of("0123456789,.-+ x") == std::string::npos;
 }
 
 void AppendRow(pugi::xml_node table, const std::vector<std::string>& cells, const std::vector<int>& widths,
-               bool head, bool align) {
+               bool head, const std::vector<bool>& right) {
   pugi::xml_node row = table.append_child("w:tr");
   pugi::xml_node properties = row.append_child("w:trPr");
   properties.append_child("w:cantSplit");
@@ -40,7 +40,7 @@ void AppendRow(pugi::xml_node table, const std::vector<std::string>& cells, cons
     SetWidth(cell.append_child("w:tcPr").append_child("w:tcW"), widths[i]);
     pugi::xml_node paragraph = cell.append_child("w:p");
     AppendParagraph(paragraph, head ? "RelazioneTestata" : "RelazioneBande", cells[i]);
-    if (align && !head && IsNumber(cells[i]))
+    if (i < right.size() && right[i] && (head || IsNumber(cells[i])))
       paragraph.child("w:pPr").append_child("w:jc").append_attribute("w:val") = "right";
   }
 }
@@ -55,6 +55,16 @@ std::vector<int> WidthsOf(const DataTable& table) {
   return widths;
 }
 
+/// Whether a column holds numbers alone; a table without heads has none.
+std::vector<bool> NumberColumns(const DataTable& table) {
+  std::vector<bool> numbers(table.heads.size(), true);
+  for (const auto& row : table.rows) {
+    for (std::size_t i = 0; i < numbers.size(); ++i)
+      numbers[i] = numbers[i] && (row[i].empty() || row[i] == "–" || IsNumber(row[i]));
+  }
+  return numbers;
+}
+
 void FillTable(pugi::xml_node node, const DataTable& table) {
   pugi::xml_node properties = node.append_child("w:tblPr");
   properties.append_child("w:tblStyle").append_attribute("w:val") = "RelazioneTabellaDati";
@@ -66,8 +76,9 @@ void FillTable(pugi::xml_node node, const DataTable& table) {
   const std::vector<int> widths = WidthsOf(table);
   pugi::xml_node grid = node.append_child("w:tblGrid");
   for (const int width : widths) grid.append_child("w:gridCol").append_attribute("w:w") = width;
-  if (!table.heads.empty()) AppendRow(node, table.heads, widths, true, true);
-  for (const auto& row : table.rows) AppendRow(node, row, widths, false, !table.heads.empty());
+  const std::vector<bool> right = NumberColumns(table);
+  if (!table.heads.empty()) AppendRow(node, table.heads, widths, true, right);
+  for (const auto& row : table.rows) AppendRow(node, row, widths, false, right);
 }
 
 }  // namespace

@@ -9,6 +9,7 @@
 
 #include <pugixml.hpp>
 
+#include "presentation/documents/document_properties.h"
 #include "presentation/documents/package.h"
 #include "presentation/documents/picture.h"
 #include "presentation/documents/placeholders.h"
@@ -53,6 +54,8 @@ class WordDocument {
 
   /// Puts `content` before each paragraph that holds placeholder `name`, which goes.
   void ReplaceByContent(std::string_view name, const std::vector<WordContent>& content);
+
+  void SetProperties(const DocumentProperties& properties) { SetDocumentProperties(package_, properties); }
 
   /// The placeholders that are still there.
   std::set<std::string> Left() const;

@@ -2,9 +2,11 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdlib>
 #include <utility>
 
 #include "foundation/message_rows.h"
+#include "foundation/utf8.h"
 #include "presentation/documents/picture_parts.h"
 #include "presentation/documents/relationships.h"
 #include "presentation/documents/template_failure.h"
@@ -90,6 +92,20 @@ void SetText(pugi::xml_node node, long long value) {
   node.append_child(pugi::node_pcdata).set_value(std::to_string(value).c_str());
 }
 
+/// `name` as far as a sheet may be called so.
+std::string SheetName(const std::string& name) {
+  constexpr std::size_t kMostCharacters = 26;  // a number may come behind
+  std::string allowed;
+  std::string_view rest = std::string_view(name).substr(0, name.find(" / "));
+  for (std::size_t count = 0; !rest.empty() && count < kMostCharacters; ++count) {
+    const char32_t character = TakeCharacter(rest);
+    AppendCharacter(allowed, std::u32string_view(U"[]:*?/\\'").find(character) == std::u32string_view::npos
+                                 ? character
+                                 : U'-');
+  }
+  return allowed;
+}
+
 /// A picture that keeps its size and moves with the cell at its corner.
 void AppendAnchor(pugi::xml_node drawing, CellPlace corner, const Picture& picture,
                   const PictureLinks& links) {
@@ -162,9 +178,10 @@ Worksheet& Workbook::AddSheet(const std::string& name, bool landscape, const std
   AddContentType(package_, part(), kSheetContent);
   pugi::xml_document workbook = ParseXml(package_.Part(main_part_), main_part_);
   pugi::xml_node sheets = workbook.child("workbook").child("sheets");
-  std::string free = name;
+  const std::string allowed = SheetName(name);
+  std::string free = allowed;
   for (int copy = 2; sheets.find_child_by_attribute("name", free.c_str()); ++copy)
-    free = name + " " + std::to_string(copy);
+    free = allowed + " " + std::to_string(copy);
   int highest = 0;
   for (const pugi::xml_node node : sheets.children("sheet"))
     highest = std::max(highest, node.attribute("sheetId").as_int());
@@ -195,6 +212,21 @@ std::string Workbook::DrawingOf(Worksheet& sheet) {
   AddContentType(package_, part(), kDrawingContent);
   sheet.SetDrawing(AddRelationship(package_, PartOf(sheet), kDrawingType, part()));
   return part();
+}
+
+void Workbook::PrintDownTo(int row) {
+  pugi::xml_document workbook = ParseXml(package_.Part(main_part_), main_part_);
+  for (const pugi::xml_node name : workbook.child("workbook").child("definedNames").children("definedName")) {
+    if (std::string_view(name.attribute("name").value()) != "_xlnm.Print_Area" ||
+        name.attribute("localSheetId").as_int() != 0)
+      continue;
+    std::string area = name.text().get();
+    const std::size_t last = area.rfind('$');
+    if (last == std::string::npos || std::atoi(area.c_str() + last + 1) >= row) return;
+    name.text().set((area.substr(0, last + 1) + std::to_string(row)).c_str());
+    package_.Put(main_part_, XmlBytes(workbook));
+    return;
+  }
 }
 
 void Workbook::RemoveCharts() {

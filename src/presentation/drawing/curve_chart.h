@@ -14,6 +14,7 @@
 #include "acoustics/unfavourable_deviations.h"
 #include "elements/result_set.h"
 #include "elements/setup.h"
+#include "presentation/drawing/curve_look.h"
 #include "presentation/texts/compared_curves.h"
 #include "presentation/texts/words.h"
 
@@ -32,10 +33,11 @@ struct ChartWords {
   std::string in_situ{};
   std::string base{};
   std::string former{};
-  std::string required{};    ///< at the curve of the required rating
-  std::string deviation{};   ///< of one band
-  std::string deviations{};  ///< with their sum
-  std::string note{};        ///< in the middle of the plot, as where there is no curve
+  std::string required{};         ///< at the curve of the required rating
+  std::string deviation{};        ///< of one band
+  std::string deviations{};       ///< with their sum
+  std::string deviations_note{};  ///< below the sum, as why it is larger than allowed
+  std::string note{};             ///< in the middle of the plot, as where there is no curve
 };
 
 /// The part of a chart that is seen, in its logical units: one a band across, 0 to 90 upwards.
@@ -63,8 +65,8 @@ struct FurtherCurve {
   std::string name{};  ///< in the legend
   acoustics::Spectrum values{};
   QColor colour{};
-  Qt::PenStyle style = Qt::DotLine;
-  bool in_octaves = false;  ///< its values are octaves, drawn as steps over the thirds
+  std::optional<CurveLook> look{};  ///< nothing: the look of its place among the others
+  bool in_octaves = false;          ///< its values are octaves, drawn as steps over the thirds
 };
 
 /// A result as curves over the bands. A value of exactly 0 is a band without a value. Levels in dB.
@@ -91,6 +93,9 @@ struct CurveChart {
   ChartMarks marks{};
   ChartWords words{};
 };
+
+/// The look of the curve `index` of `curves`.
+CurveLook LookOf(const std::vector<FurtherCurve>& curves, std::size_t index);
 
 /// The chart of a result; nothing when it has no curve (generic linings, a facade by single numbers).
 std::optional<CurveChart> CurveChartOf(const elements::Setup& setup, const elements::ResultSet& result,

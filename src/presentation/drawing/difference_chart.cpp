@@ -13,7 +13,6 @@ namespace {
 
 constexpr double kLineWidth = 1.0;
 constexpr double kCurveWidth = 2.0;
-constexpr double kDotDiameter = 4.0;
 constexpr double kGap = 4.0;
 constexpr double kTens = 10.0;
 constexpr double kHalfBand = 0.5;
@@ -43,7 +42,7 @@ Layout LayoutOf(const QRectF& area, const DifferenceChart& chart, const QFont& f
   return layout;
 }
 
-void DrawGrid(QPainter& painter, const Layout& layout, const CurveLook& zero) {
+void DrawGrid(QPainter& painter, const Layout& layout, const ComparedLook& zero) {
   painter.setRenderHint(QPainter::Antialiasing, false);
   painter.setPen(QPen(kVerticalGridColour, kLineWidth));
   for (std::size_t band = 0; band <= kLastBand; ++band) {
@@ -53,7 +52,7 @@ void DrawGrid(QPainter& painter, const Layout& layout, const CurveLook& zero) {
   painter.setPen(QPen(kHorizontalGridColour, kLineWidth));
   for (const double part : {-1.0, -0.5, 0.5, 1.0})
     painter.drawLine(layout.At(0.0, part * layout.top), layout.At(kLastBand, part * layout.top));
-  painter.setPen(QPen(zero.colour, kCurveWidth, zero.style));
+  painter.setPen(QPen(zero.colour, kCurveWidth, zero.look.dashes));
   painter.drawLine(layout.At(0.0, 0.0), layout.At(kLastBand, 0.0));
 }
 
@@ -92,13 +91,9 @@ void DrawCurve(QPainter& painter, const Layout& layout, const DifferenceChart::C
       dots << layout.At(x, *difference);
     }
   }
-  painter.setPen(QPen(curve.look.colour, kCurveWidth, curve.look.style, Qt::FlatCap, Qt::RoundJoin));
+  painter.setPen(QPen(curve.look.colour, kCurveWidth, curve.look.look.dashes, Qt::FlatCap, Qt::RoundJoin));
   painter.drawPolyline(curve.in_octaves ? line : dots);
-  painter.setPen(Qt::NoPen);
-  painter.setBrush(curve.look.colour);
-  for (const QPointF& dot : std::as_const(dots))
-    painter.drawEllipse(dot, kDotDiameter / 2.0, kDotDiameter / 2.0);
-  painter.setBrush(Qt::NoBrush);
+  for (const QPointF& dot : std::as_const(dots)) DrawMark(painter, dot, curve.look.look, curve.look.colour);
 }
 
 }  // namespace

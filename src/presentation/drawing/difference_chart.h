@@ -18,11 +18,11 @@ namespace velmar::presentation {
 struct DifferenceChart {
   struct Curve {
     BandDifferences differences_db{};
-    CurveLook look{};
+    ComparedLook look{};
     bool in_octaves = false;  ///< one of the two is known by octaves: steps, as their curves are
   };
   std::vector<Curve> curves{};
-  CurveLook zero{};          ///< of the curve that the others are compared with
+  ComparedLook zero{};       ///< of the curve that the others are compared with
   std::string level_axis{};  ///< UTF-8; an empty text is not drawn
 };
 

@@ -1,11 +1,9 @@
 #pragma once
 
 #include <QObject>
-#include <filesystem>
-#include <utility>
 
-#include "presentation/texts/calculation_data.h"
 #include "shell/commands/desk.h"
+#include "shell/documents/document_services.h"
 
 namespace velmar::shell {
 
@@ -14,18 +12,15 @@ namespace velmar::shell {
 class ReportCommands : public QObject {
   Q_OBJECT
  public:
-  /// @param templates folder of the templates
-  /// @param sources tells where the values of materials come from
-  explicit ReportCommands(std::filesystem::path templates, presentation::MaterialSources sources = {})
-      : templates_(std::move(templates)), sources_(std::move(sources)) {}
+  /// @param documents outlives the commands
+  explicit ReportCommands(const DocumentServices& documents) : documents_(documents) {}
 
  public slots:
   void ExportWord(const velmar::shell::Desk& desk);
   void ExportExcel(const velmar::shell::Desk& desk);
 
  private:
-  std::filesystem::path templates_;
-  presentation::MaterialSources sources_;
+  const DocumentServices& documents_;
 };
 
 }  // namespace velmar::shell

@@ -15,6 +15,7 @@ SearchField::SearchField(const QString& object_name, const QString& caption, QWi
 }
 
 void SearchField::SayNoHit(const presentation::Words& words) {
+  without_hit_ = true;
   NoteCorrection(this, Correction::kNoEntry, 0, words);
 }
 
@@ -23,8 +24,13 @@ void SearchField::keyPressEvent(QKeyEvent* event) {
     QLineEdit::keyPressEvent(event);
     return;
   }
-  event->accept();
+  without_hit_ = false;
   emit Entered();
+  if (without_hit_) {
+    event->accept();
+  } else {
+    QLineEdit::keyPressEvent(event);
+  }
 }
 
 }  // namespace velmar::shell

@@ -6,8 +6,8 @@
 
 namespace velmar::shell {
 
-/// The search above a list. Enter takes the best hit, which is left to whoever shows the list: it reaches no
-/// default button.
+/// The search above a list. Enter takes the best hit, which is left to whoever shows the list, and goes on to
+/// the default button of its window; where nothing was found it goes no further.
 class SearchField : public QLineEdit {
   Q_OBJECT
 
@@ -24,6 +24,9 @@ class SearchField : public QLineEdit {
 
  protected:
   void keyPressEvent(QKeyEvent* event) override;
+
+ private:
+  bool without_hit_ = false;  ///< of the Enter that is told
 };
 
 }  // namespace velmar::shell

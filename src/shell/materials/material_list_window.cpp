@@ -17,6 +17,7 @@
 #include "shell/fields/search_field.h"
 #include "shell/materials/material_texts.h"
 #include "shell/windows/button_row.h"
+#include "shell/windows/phrases.h"
 
 namespace velmar::shell {
 namespace {
@@ -48,12 +49,12 @@ bool Moves(int key) {
 }  // namespace
 
 MaterialListWindow::MaterialListWindow(WindowTools tools, MaterialSource source,
-                                       std::optional<MaterialPick> pick, Listener listener, QWidget* parent)
+                                       std::optional<MaterialPick> pick, UsedIn used, QWidget* parent)
     : QDialog(parent),
       tools_(std::move(tools)),
       source_(std::move(source)),
       pick_(std::move(pick)),
-      listener_(std::move(listener)),
+      used_(std::move(used)),
       model_(tools_),
       shown_(model_) {
   setObjectName(QStringLiteral("Form2"));
@@ -98,9 +99,7 @@ QWidget* MaterialListWindow::MakeHead() {
   connect(search_, &SearchField::Entered, this, [this] {
     if (grid_->SelectedName().empty()) {
       search_->SayNoHit(tools_.words);
-    } else if (pick_) {
-      Take();
-    } else {
+    } else if (!pick_) {
       grid_->setFocus();
     }
   });
@@ -109,20 +108,19 @@ QWidget* MaterialListWindow::MakeHead() {
 }
 
 void MaterialListWindow::MakeGrid() {
-  MaterialGrid::Hands hands;
-  hands.choose = [this] {
+  grid_ = new MaterialGrid(model_, shown_, this);
+  connect(grid_, &MaterialGrid::Chosen, this, [this] {
     if (pick_) {
       Take();
     } else {
       Edit(grid_->SelectedName());
     }
-  };
-  hands.remove = [this] { Delete(); };
-  hands.type = [this](QKeyEvent* event) {
+  });
+  connect(grid_, &MaterialGrid::RemoveWanted, this, &MaterialListWindow::Delete);
+  connect(grid_, &MaterialGrid::Typed, this, [this](QKeyEvent* event) {
     search_->setFocus();
     QApplication::sendEvent(search_, event);
-  };
-  grid_ = new MaterialGrid(model_, shown_, std::move(hands), this);
+  });
   connect(grid_->selectionModel(), &QItemSelectionModel::currentRowChanged, this, [this] { ShowSelected(); });
 }
 
@@ -164,7 +162,7 @@ QWidget* MaterialListWindow::MakeButtons() {
   undo_->setEnabled(false);
   where_ = add("CommandUso", kWhereUsedRow, [this] { ShowProjects(); });
   where_->setToolTip(tools_.Text(kWhereUsedTipRow));
-  where_->setVisible(static_cast<bool>(listener_.projects));
+  where_->hide();
   bar->AddStretch();
   add("Aggiorna", kRefreshRow, [this] { RefreshAsAsked(); })->setToolTip(tools_.Text(kRefreshTipRow));
   take_ = add("CmdSeleziona", kSelectMaterialRow, [this] { Take(); });
@@ -211,7 +209,7 @@ void MaterialListWindow::SearchFor(const QString& text) {
 
 void MaterialListWindow::ShowSelected() {
   const std::string name = grid_->SelectedName();
-  name_->setText(ToQt(name));
+  name_->setText(FromUtf8(name));
   name_->setCursorPosition(0);
   edit_->setEnabled(!name.empty() && source_.edit);
   delete_->setEnabled(!name.empty());
@@ -241,7 +239,7 @@ void MaterialListWindow::keyPressEvent(QKeyEvent* event) {
 }
 
 void MaterialListWindow::RefreshAsAsked() {
-  if (Refresh() && listener_.refreshed) listener_.refreshed();
+  if (Refresh()) emit Refreshed();
 }
 
 void MaterialListWindow::Take() {
@@ -250,7 +248,7 @@ void MaterialListWindow::Take() {
   bool there = false;
   if (!tools_.Try([&] { there = source_.find(family_, name).has_value(); })) return;
   if (!there) {  // deleted by another program since the list was read
-    tools_.tell(tools_.Text(kMaterialGoneRow));
+    tools_.Tell(tools_.Text(kMaterialGoneRow));
     Refresh();
     return;
   }
@@ -269,15 +267,15 @@ void MaterialListWindow::Edit(const std::string& name) {
     search_->clear();
     grid_->SelectName(change->name);
   }
-  if (listener_.changed) listener_.changed(*change);
+  emit Changed(*change);
 }
 
 void MaterialListWindow::Delete() {
   const std::string name = grid_->SelectedName();
   if (name.empty()) return;
   const QString question =
-      tools_.Text(kDeleteMaterialQuestionRow) + QStringLiteral(" \"%1\"?").arg(ToQt(name));
-  if (!tools_.ask(question)) return;
+      tools_.Text(kDeleteMaterialQuestionRow) + QStringLiteral(" \"%1\"?").arg(FromUtf8(name));
+  if (!tools_.Ask(question)) return;
   const int row = grid_->SelectedRow();
   std::optional<MaterialCells> cells;
   const bool removed = tools_.Try([&] {
@@ -289,7 +287,7 @@ void MaterialListWindow::Delete() {
   undo_->setEnabled(deleted_.has_value());
   Refresh();
   grid_->SelectRow(row);
-  if (listener_.removed) listener_.removed(family_, name);
+  emit Removed(family_, name);
 }
 
 void MaterialListWindow::UndoDelete() {
@@ -297,9 +295,7 @@ void MaterialListWindow::UndoDelete() {
   std::optional<Message> refusal;
   if (!tools_.Try([&] { refusal = source_.add(deleted_->family, deleted_->cells); })) return;
   if (refusal) {
-    QStringList lines;
-    for (const MessageLine& line : *refusal) lines << ToQt(presentation::InWords(line, tools_.words));
-    tools_.tell(lines.join('\n'));
+    tools_.Tell(tools_.Text(*refusal));
     return;
   }
   const Deleted back = *std::exchange(deleted_, std::nullopt);
@@ -308,13 +304,18 @@ void MaterialListWindow::UndoDelete() {
     Refresh();
     grid_->SelectName(back.name);
   }
-  if (listener_.changed) listener_.changed({back.family, {}, back.name, {}});
+  emit Changed({back.family, {}, back.name, {}});
+}
+
+void MaterialListWindow::LookForProjectsBy(ProjectSearch search) {
+  projects_ = std::move(search);
+  where_->setVisible(static_cast<bool>(projects_));
 }
 
 void MaterialListWindow::ShowProjects() {
   const std::string name = grid_->SelectedName();
-  if (name.empty() || !listener_.projects) return;
-  auto* window = new MaterialUseWindow(tools_, name, listener_.projects(family_, name), this);
+  if (name.empty() || !projects_) return;
+  auto* window = new MaterialUseWindow(tools_, name, projects_(family_, name), this);
   window->setAttribute(Qt::WA_DeleteOnClose);
   window->setWindowModality(Qt::WindowModal);
   window->show();
@@ -322,8 +323,8 @@ void MaterialListWindow::ShowProjects() {
 
 void MaterialListWindow::ShowUse(const std::string& name) {
   QStringList numbers;
-  if (listener_.used && !name.empty()) {
-    for (const int number : listener_.used(family_, name)) numbers << QString::number(number);
+  if (used_ && !name.empty()) {
+    for (const int number : used_(family_, name)) numbers << QString::number(number);
   }
   use_->setText(numbers.isEmpty() ? QString()
                                   : tools_.Text(kUsedInLayersRow) + ' ' + numbers.join(QStringLiteral(", ")));

@@ -10,6 +10,7 @@
 #include <chrono>
 
 #include "foundation/message_rows.h"
+#include "shell/windows/phrases.h"
 
 namespace velmar::shell {
 namespace {
@@ -17,14 +18,14 @@ namespace {
 constexpr std::chrono::milliseconds kLookEvery{50};
 constexpr int kUnreadableLines = 4;
 
-QString Shown(const std::filesystem::path& path) { return ToQt(path.string()); }
+QString Shown(const std::filesystem::path& path) { return FromUtf8(path.string()); }
 
 /// "strati 1, 3 · varianti A, B"
 QString WhereIn(const storage::ProjectUse& use, const WindowTools& tools) {
   QStringList numbers;
   for (const int number : use.layers) numbers << QString::number(number);
   QStringList variants;
-  for (const std::string& variant : use.variants) variants << ToQt(variant);
+  for (const std::string& variant : use.variants) variants << FromUtf8(variant);
   QStringList places;
   if (!numbers.isEmpty()) places << tools.Text(kUseLayersRow) + ' ' + numbers.join(QStringLiteral(", "));
   if (!variants.isEmpty()) places << tools.Text(kUseVariantsRow) + ' ' + variants.join(QStringLiteral(", "));
@@ -37,7 +38,7 @@ MaterialUseWindow::MaterialUseWindow(const WindowTools& tools, const std::string
                                      QWidget* parent)
     : QDialog(parent), tools_(tools) {
   setObjectName(QStringLiteral("UsoMateriale"));
-  setWindowTitle(tools.Text(kWhereUsedTitleRow) + QStringLiteral(" - ") + ToQt(name));
+  setWindowTitle(tools.Text(kWhereUsedTitleRow) + QStringLiteral(" - ") + FromUtf8(name));
   said_ = new QLabel(tools.Text(kUseSearchingRow), this);
   said_->setObjectName(QStringLiteral("UsoEsito"));
   said_->setWordWrap(true);
@@ -84,7 +85,7 @@ MaterialUseWindow::~MaterialUseWindow() { stop_ = true; }
 void MaterialUseWindow::Show(const storage::MaterialUses& uses) {
   for (const storage::ProjectUse& use : uses.projects) {
     auto* item = new QTreeWidgetItem(
-        list_, {ToQt(use.file.stem().string()), WhereIn(use, tools_), Shown(use.file.parent_path())});
+        list_, {FromUtf8(use.file.stem().string()), WhereIn(use, tools_), Shown(use.file.parent_path())});
     for (int column = 0; column < list_->columnCount(); ++column)
       item->setToolTip(column, item->text(column));
     item->setToolTip(0, Shown(use.file));

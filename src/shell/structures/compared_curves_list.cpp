@@ -17,20 +17,22 @@
 #include "presentation/drawing/compared_looks.h"
 #include "shell/structures/curve_sample.h"
 #include "shell/structures/difference_view.h"
+#include "shell/windows/phrases.h"
 
 namespace velmar::structures {
 namespace {
 
 using presentation::ComparedCurve;
-using presentation::CurveLook;
+using presentation::ComparedLook;
 
 /// In the order of Side.
-constexpr std::array kSideLooks = {CurveLook{presentation::kCalculatedColour},
-                                   CurveLook{presentation::kLaboratoryColour},
-                                   CurveLook{presentation::kInSituColour}};
+constexpr std::array kSideLooks = {
+    ComparedLook{presentation::kCalculatedColour, presentation::kCalculatedLook},
+    ComparedLook{presentation::kLaboratoryColour, presentation::kLaboratoryLook},
+    ComparedLook{presentation::kInSituColour, presentation::kInSituLook}};
 constexpr int kShownRows = 5;
 
-QString Cell(const std::string& text) { return shell::ToQt(text).replace('-', QChar(0x2212)); }
+QString Cell(const std::string& text) { return shell::FromUtf8(text).replace('-', QChar(0x2212)); }
 
 QToolButton* MakeButton(const char* name, Qt::ArrowType arrow, QWidget* parent) {
   auto* button = new QToolButton(parent);
@@ -50,7 +52,7 @@ ComparedCurvesList::ComparedCurvesList(const shell::WindowTools& tools, bool is_
   table_->setObjectName(QStringLiteral("TabellaConfronto"));
   table_->setAccessibleName(tools.Text(kComparedCurvesRow));
   QStringList heads = {tools.Text(kCurveHeadingRow)};
-  for (const std::string& head : presentation::RatingHeads(is_impact)) heads << shell::ToQt(head);
+  for (const std::string& head : presentation::RatingHeads(is_impact)) heads << shell::FromUtf8(head);
   heads << QStringLiteral("Δ");
   table_->setColumnCount(static_cast<int>(heads.size()));
   table_->setHorizontalHeaderLabels(heads);
@@ -159,8 +161,8 @@ void ComparedCurvesList::Clear() {
 std::vector<presentation::FurtherCurve> ComparedCurvesList::Added() const {
   std::vector<presentation::FurtherCurve> curves;
   for (const AddedCurve& added : added_) {
-    const CurveLook& look = presentation::kComparedLooks.at(added.look);
-    curves.push_back({added.curve.name, added.curve.levels, look.colour, look.style, added.curve.in_octaves});
+    const ComparedLook& look = presentation::kComparedLooks.at(added.look);
+    curves.push_back({added.curve.name, added.curve.levels, look.colour, look.look, added.curve.in_octaves});
   }
   return curves;
 }
@@ -241,7 +243,7 @@ void ComparedCurvesList::Show(std::optional<Key> selected) {
 
 void ComparedCurvesList::ShowRow(int index, const Row& row, const std::optional<double>& difference) {
   const ComparedCurve& curve = *row.curve;
-  QStringList cells = {shell::ToQt(curve.name), Cell(presentation::RatingCell(curve, is_impact_)),
+  QStringList cells = {shell::FromUtf8(curve.name), Cell(presentation::RatingCell(curve, is_impact_)),
                        Cell(presentation::SignedCell(curve.term))};
   if (!is_impact_) cells << Cell(presentation::SignedCell(curve.other_term));
   cells << Cell(presentation::SignedCell(difference));
@@ -261,7 +263,7 @@ void ComparedCurvesList::ShowChoice(const std::vector<Row>& rows) {
   from_->clear();
   from_->addItem(tools_.Text(kNoDifferenceRow));
   for (const Row& row : rows) {
-    from_->addItem(shell::ToQt(row.curve->name), row.key);
+    from_->addItem(shell::FromUtf8(row.curve->name), row.key);
     if (row.key == against_) from_->setCurrentIndex(from_->count() - 1);
   }
   from_->setToolTip(from_->currentText());

@@ -68,7 +68,7 @@ class ComparedCurvesList : public QWidget {
   struct Row {
     Key key = 0;
     const presentation::ComparedCurve* curve = nullptr;
-    presentation::CurveLook look{};
+    presentation::ComparedLook look{};
   };
 
   QWidget* MakeButtons();

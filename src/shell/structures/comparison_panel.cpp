@@ -13,6 +13,7 @@
 #include "shell/structures/compared_test.h"
 #include "shell/structures/curve_sample.h"
 #include "shell/structures/test_chooser.h"
+#include "shell/windows/phrases.h"
 
 namespace velmar::structures {
 namespace {
@@ -40,7 +41,7 @@ ComparisonPanel::ComparisonPanel(const shell::WindowTools& tools, LibrarySource 
   check_->setObjectName(QLatin1String(look.check));
   const QSize sample(fontMetrics().height() * 3 / 2, fontMetrics().height());
   check_->setIconSize(sample);
-  check_->setIcon(SampleOf({look.colour}, sample));
+  check_->setIcon(SampleOf(look.look, sample));
   database_ = MakeLabel(look.database, this);
   rating_ = MakeLabel(look.rating, this);
   QFont large = font();
@@ -51,15 +52,13 @@ ComparisonPanel::ComparisonPanel(const shell::WindowTools& tools, LibrarySource 
   controls.keywords = look.keywords;
   controls.list = look.list;
   controls.nodes = look.nodes;
-  TestChooser::Listener listener;
-  listener.file = [this](const LibraryFile& file, const QString&) {
-    database_->setText(shell::ToQt(file.name));
-  };
-  listener.test = [this](const std::optional<MeasuredTest>& test) { Show(test); };
-  listener.meant = [this] {
+  chooser_ = new TestChooser(tools, std::move(source), controls, this);
+  connect(chooser_, &TestChooser::FileOpened, this,
+          [this](const LibraryFile& file) { database_->setText(shell::FromUtf8(file.name)); });
+  connect(chooser_, &TestChooser::TestChosen, this, &ComparisonPanel::Show);
+  connect(chooser_, &TestChooser::Meant, this, [this] {
     if (curve_ && !full_) emit AddWanted();
-  };
-  chooser_ = new TestChooser(tools, std::move(source), controls, std::move(listener), this);
+  });
   add_ = new QPushButton(tools.Text(kAddCurveRow), this);
   add_->setObjectName(QLatin1String(look.add));
   add_->setAutoDefault(false);
@@ -94,12 +93,12 @@ void ComparisonPanel::Show(const std::optional<MeasuredTest>& test) {
   const MeasuredTest shown = test.value_or(MeasuredTest{});
   curve_.reset();
   if (test) curve_ = Compared(chooser_->File() ? chooser_->File()->branch : Branch{}, *test);
-  const QString rating = shell::ToQt(calculation::BoxText(shown.part.rating_db));
+  const QString rating = shell::FromUtf8(calculation::BoxText(shown.part.rating_db));
   const QString none = test ? QStringLiteral("-") : tools_.Text(kNoStructureRow);
   rating_->setText(rating.isEmpty() ? none : rating + QStringLiteral(" dB"));
   rating_->setEnabled(test.has_value());
-  QString description = shell::ToQt(shown.part.description);
-  if (!shown.notes.empty()) description += (description.isEmpty() ? "" : "\n") + shell::ToQt(shown.notes);
+  QString description = shell::FromUtf8(shown.part.description);
+  if (!shown.notes.empty()) description += (description.isEmpty() ? "" : "\n") + shell::FromUtf8(shown.notes);
   description_->setPlainText(description);
   OfferToAdd(full_);
   if (IsTicked()) emit Changed();

@@ -1,10 +1,10 @@
 #pragma once
 
-#include <QColor>
 #include <QGroupBox>
 #include <optional>
 
 #include "acoustics/bands.h"
+#include "presentation/drawing/compared_looks.h"
 #include "presentation/texts/compared_curves.h"
 #include "shell/structures/library_tree.h"
 #include "shell/structures/structure_sources.h"
@@ -37,7 +37,7 @@ class ComparisonPanel : public QGroupBox {
     const char* add = "";
     MessageRow caption{};
     MessageRow check_caption{};
-    QColor colour{};  ///< of the curve
+    presentation::ComparedLook look{};  ///< of the curve
     std::vector<TreeNode> nodes{};
   };
 

@@ -11,10 +11,10 @@
 #include "presentation/drawing/colours.h"
 #include "shell/structures/compared_curves_list.h"
 #include "shell/structures/comparison_panel.h"
-#include "shell/structures/mnemonics.h"
 #include "shell/structures/test_chooser.h"
 #include "shell/structures/tree_nodes.h"
 #include "shell/structures/variants_panel.h"
+#include "shell/windows/mnemonics.h"
 
 namespace velmar::structures {
 namespace {
@@ -38,7 +38,7 @@ ComparisonPanel::Look LaboratoryLook() {
   look.add = "ConfrontoAggiungi_0";
   look.caption = kLaboratoryFrameRow;
   look.check_caption = kLaboratoryCheckRow;
-  look.colour = presentation::kLaboratoryColour;
+  look.look = {presentation::kLaboratoryColour, presentation::kLaboratoryLook};
   return look;
 }
 
@@ -55,7 +55,7 @@ ComparisonPanel::Look InSituLook() {
   look.add = "ConfrontoAggiungi_1";
   look.caption = kInSituRow;
   look.check_caption = kInSituCheckRow;
-  look.colour = presentation::kInSituColour;
+  look.look = {presentation::kInSituColour, presentation::kInSituLook};
   return look;
 }
 
@@ -90,7 +90,8 @@ ComparisonWindow::ComparisonWindow(shell::WindowTools tools, const LibrarySource
   column->addLayout(buttons);
   resize(fontMetrics().averageCharWidth() * 100, fontMetrics().height() * 46);
   shell::RestoreSizes(tools_.memory, SizesOf(this, halves_));
-  SetMnemonics(*this);
+  laboratory_->Chooser()->FocusSearch();
+  shell::SetMnemonics(*this);
   connect(new QShortcut(QKeySequence::Refresh, this), &QShortcut::activated, this, [this] {
     laboratory_->Refresh();
     in_situ_->Refresh();

@@ -8,6 +8,7 @@
 #include <algorithm>
 
 #include "foundation/message_rows.h"
+#include "shell/windows/phrases.h"
 
 namespace velmar::structures {
 
@@ -48,9 +49,10 @@ void VariantsPanel::Show(const std::vector<presentation::ComparedCurve>& variant
   list_->clear();
   for (const presentation::ComparedCurve& variant : variants_) {
     const std::string heads = presentation::RatingHeads(is_impact_).front();
-    const QString rating = shell::ToQt(heads + ' ' + presentation::RatingCell(variant, is_impact_) + " dB");
-    list_->addItem(shell::ToQt(variant.name) + QStringLiteral("  ·  ") + rating);
-    list_->item(list_->count() - 1)->setToolTip(shell::ToQt(variant.name));
+    const QString rating =
+        shell::FromUtf8(heads + ' ' + presentation::RatingCell(variant, is_impact_) + " dB");
+    list_->addItem(shell::FromUtf8(variant.name) + QStringLiteral("  ·  ") + rating);
+    list_->item(list_->count() - 1)->setToolTip(shell::FromUtf8(variant.name));
     if (chosen && chosen->name == variant.name) list_->setCurrentRow(list_->count() - 1);
   }
   OfferToAdd(full_);

@@ -173,11 +173,11 @@ TEST(CurveChartOf, GivesNoneWhereThereIsNoCurve) {
 
 TEST(DrawCurveChart, AComparedCurveIsToldByItsDashesToo) {
   CurveChart chart = FlatChart();
-  FurtherCurve compared{.name = "Muro", .colour = QColor(0x00, 0x72, 0xB2), .style = Qt::SolidLine};
+  FurtherCurve compared{.name = "Muro", .colour = QColor(0x00, 0x72, 0xB2), .look = CurveLook{Qt::SolidLine}};
   compared.values.fill(30.0);
   chart.further = {compared};
   const int solid = Drawn(chart).Count(compared.colour);
-  chart.further[0].style = Qt::DashLine;
+  chart.further[0].look = CurveLook{Qt::DashLine};
   const int dashed = Drawn(chart).Count(compared.colour);
   EXPECT_LT(dashed, solid * 9 / 10);
   EXPECT_GT(dashed, solid / 4);
@@ -185,8 +185,10 @@ TEST(DrawCurveChart, AComparedCurveIsToldByItsDashesToo) {
 
 TEST(DrawCurveChart, AComparedCurveOfOctavesHasSteps) {
   CurveChart chart = FlatChart();
-  FurtherCurve compared{
-      .name = "Muro", .colour = QColor(0x00, 0x72, 0xB2), .style = Qt::SolidLine, .in_octaves = true};
+  FurtherCurve compared{.name = "Muro",
+                        .colour = QColor(0x00, 0x72, 0xB2),
+                        .look = CurveLook{Qt::SolidLine},
+                        .in_octaves = true};
   for (std::size_t band = 0; band < compared.values.size(); ++band)
     compared.values[band] = 30.0 + 5.0 * static_cast<double>(band / 3);
   chart.further = {compared};

@@ -18,7 +18,7 @@ DifferenceChart With(double difference_db) {
   chart.zero = {kCalculatedColour};
   DifferenceChart::Curve curve;
   curve.differences_db.fill(difference_db);
-  curve.look = {kBlue};
+  curve.look = {kBlue, {Qt::SolidLine, CurveMark::kDot}};
   chart.curves = {curve};
   chart.level_axis = "Differenza [dB]";
   return chart;

@@ -254,7 +254,7 @@ class StructureCommandsTest : public QObject {
     comparison->findChild<QPushButton*>("ConfrontoAggiungi_2")->click();
     QCOMPARE(program.fixture.Results().Chart()->further.size(), std::size_t{1});
     QCOMPARE(FromUtf8(program.fixture.Results().Chart()->further.front().name), name);
-    QVERIFY(program.fixture.Results().Chart()->further.front().style != Qt::DotLine);
+    QVERIFY(program.fixture.Results().Chart()->further.front().look.has_value());
     // Without its variant the curve goes at once.
     program.fixture.Find<QToolButton>("Variante_0")->setFocus();
     QTest::keyClick(program.fixture.Find<QToolButton>("Variante_0"), Qt::Key_Delete);

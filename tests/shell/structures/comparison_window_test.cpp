@@ -250,6 +250,8 @@ TEST_F(ComparisonWindowTest, AFileThatCannotBeReadIsTold) {
 
 TEST_F(ComparisonWindowTest, TabGoesAsOneReads) {
   Activate(Open());
+  EXPECT_EQ(window_->focusWidget()->objectName(), "List1_cerca") << "a letter begins the search";
+  Child<QWidget>(*window_, "TabellaConfronto").setFocus();
   EXPECT_EQ(TabStops(*window_),
             (QStringList{"TabellaConfronto", "ConfrontoRispetto", "qt_tabwidget_tabbar", "Check1",
                          "TreeView1", "Combo1", "List1_cerca", "List1", "Text1", "Command1"}));
@@ -323,10 +325,11 @@ TEST_F(ComparisonWindowTest, CurvesDifferInColourAndDash) {
   for (std::size_t i = 0; i < presentation::kComparedLooks.size(); ++i) {
     for (std::size_t j = 0; j < i; ++j)
       EXPECT_NE(presentation::kComparedLooks.at(i).colour, presentation::kComparedLooks.at(j).colour);
-    EXPECT_NE(presentation::kComparedLooks.at(i).style, Qt::SolidLine);
+    EXPECT_NE(presentation::kComparedLooks.at(i).look.dashes, Qt::SolidLine);
   }
   for (std::size_t i = 1; i < presentation::kComparedLooks.size(); ++i)
-    EXPECT_NE(presentation::kComparedLooks.at(i).style, presentation::kComparedLooks.at(i - 1).style);
+    EXPECT_NE(presentation::kComparedLooks.at(i).look.dashes,
+              presentation::kComparedLooks.at(i - 1).look.dashes);
 }
 
 TEST_F(ComparisonWindowTest, ARemovedCurveLeavesTheOthersTheirColour) {
