@@ -4,6 +4,8 @@
 
 #include <benchmark/benchmark.h>
 
+#include "bench/many_materials.h"
+#include "storage/configuration/configuration.h"
 #include "storage/materials/material_store.h"
 #include "storage/project/project_reader.h"
 #include "storage/project/project_writer.h"
@@ -27,21 +29,10 @@ void ProjectIsSaved(benchmark::State& state, const std::string& name) {
   for (auto _ : state) SaveProject(folder / "progetto.drav", project.setup, project.stored);
 }
 
-/// `count` rows like the first of the shipped ones.
-void Fill(const std::filesystem::path& file, int count) {
-  std::filesystem::copy_file(std::filesystem::path(SHARE) / "Databases" / "Database" / "Database.mdb", file);
-  std::filesystem::permissions(file, std::filesystem::perms::owner_all);
-  MaterialStore store(file);
-  std::vector<StructuralRow> rows(static_cast<std::size_t>(count),
-                                  *store.First<elements::StructuralMaterial>());
-  for (int i = 0; i < count; ++i)
-    rows[static_cast<std::size_t>(i)].record.values.name = "Materiale numero " + std::to_string(i);
-  if (store.Add(rows)) throw std::runtime_error("the rows are refused");
-}
-
 void MaterialsAreListed(benchmark::State& state) {
   const TemporaryFolder folder;
-  Fill(folder / "Database.mdb", static_cast<int>(state.range(0)));
+  std::filesystem::copy_file(std::filesystem::path(SHARE) / kMaterialDatabase, folder / "Database.mdb");
+  AddMaterials(folder / "Database.mdb", static_cast<int>(state.range(0)));
   const MaterialStore store(folder / "Database.mdb");
   for (auto _ : state) benchmark::DoNotOptimize(store.List(elements::MaterialFamily::kStructural));
 }

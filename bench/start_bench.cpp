@@ -15,10 +15,11 @@
 
 #include <sys/resource.h>
 
+#include "bench/many_materials.h"
 #include "shell/start/desktop_application.h"
 #include "shell/start/start_up.h"
+#include "storage/configuration/configuration.h"
 #include "storage/configuration/documents_folder.h"
-#include "storage/materials/material_store.h"
 
 namespace velmar {
 namespace {
@@ -29,14 +30,7 @@ void Fill(int count) {
   const fs::path data = storage::CartellaDocumenti() / "VELMARpro";
   fs::create_directories(data.parent_path());
   fs::copy(SHARE, data, fs::copy_options::recursive);
-  const fs::path file = data / "Databases" / "Database" / "Database.mdb";
-  fs::permissions(file, fs::perms::owner_all);
-  storage::MaterialStore store(file);
-  std::vector<storage::StructuralRow> rows(static_cast<std::size_t>(count),
-                                           *store.First<elements::StructuralMaterial>());
-  for (int i = 0; i < count; ++i)
-    rows[static_cast<std::size_t>(i)].record.values.name = "Materiale numero " + std::to_string(i);
-  if (store.Add(rows)) std::abort();
+  AddMaterials(data / storage::kMaterialDatabase, count);
 }
 
 double Now() {

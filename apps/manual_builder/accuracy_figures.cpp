@@ -45,7 +45,7 @@ std::string ErrorTable(const std::vector<AccuracyRow>& table, const Arguments& g
     }
     if (!name.empty()) throw std::runtime_error("nothing was measured in the group " + group);
   }
-  return TableText({"Costruzioni misurate", "Calcolo o modello", "Grandezza", "Misure / fonti", "Media [dB]",
+  return TableText({"Costruzioni misurate", "Calcolo o modello", "Indice", "Misure / fonti", "Media [dB]",
                     "Valore quadratico medio [dB]", "Peggiore [dB]", "Entro 3 dB"},
                    rows);
 }

@@ -3,6 +3,7 @@
 #include <QAbstractTextDocumentLayout>
 #include <QFileInfo>
 #include <QFont>
+#include <QImageReader>
 #include <QPainter>
 #include <QTextBlock>
 #include <QTextFrame>
@@ -12,6 +13,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <numeric>
 #include <vector>
 
 namespace velmar::manual {
@@ -25,11 +27,11 @@ constexpr int kCodePoints = 8;
 constexpr int kWideTablePoints = 8;
 constexpr int kWideTableColumns = 6;  ///< from as many on a table is wide
 constexpr double kLineHeightPercent = 128.0;
-constexpr double kPictureWidth = 0.8;  ///< of the text's width
+constexpr double kPictureWidth = 0.8;  ///< of the text's width, at most
+constexpr double kPointsAPixel = 0.45;
 /// A heading or table that starts lower on its page than this goes to the next one.
 constexpr double kLowestHeading = 0.86;
 constexpr double kLowestTable = 0.8;
-constexpr int kMostRounds = 4;  ///< of moving headings, each of which may push others down
 
 const QColor kInk(0x16, 0x25, 0x4B);
 const QColor kQuiet(0x6B, 0x72, 0x80);
@@ -114,6 +116,48 @@ void DressText(const QTextBlock& block) {
   cursor.mergeBlockFormat(look);
 }
 
+/// How the width of `table` is shared, in hundredths, by what its columns hold: words are not broken, long
+/// texts are.
+QList<QTextLength> WidthsOf(const QTextTable& table) {
+  constexpr qsizetype kLongestLine = 36;  // letters
+  constexpr qsizetype kMargin = 2;
+  std::vector<qsizetype> letters(static_cast<std::size_t>(table.columns()), 0);
+  for (int column = 0; column < table.columns(); ++column) {
+    qsizetype& widest = letters[static_cast<std::size_t>(column)];
+    for (int row = 0; row < table.rows(); ++row) {
+      const QString text = table.cellAt(row, column).firstCursorPosition().block().text();
+      for (const QString& word : text.split(' ')) widest = std::max(widest, word.size() + kMargin);
+      if (row > 0) widest = std::max(widest, std::min(text.size(), kLongestLine) + kMargin);
+    }
+  }
+  const qsizetype all = std::accumulate(letters.begin(), letters.end(), qsizetype{0});
+  QList<QTextLength> widths;
+  for (const qsizetype of_column : letters) {
+    widths += QTextLength(QTextLength::PercentageLength,
+                          100.0 * static_cast<double>(of_column) / static_cast<double>(all));
+  }
+  return widths;
+}
+
+/// The heading that a block belongs under, or the first of several that stand together; the block itself
+/// where it follows text.
+QTextBlock FirstHeadingAbove(QTextBlock block) {
+  while (block.previous().isValid() && block.previous().blockFormat().headingLevel() > 0)
+    block = block.previous();
+  return block;
+}
+
+/// What follows a heading and those below it.
+QTextBlock TextBelow(const QTextBlock& heading) {
+  QTextBlock text = heading.next();
+  while (text.isValid() && text.blockFormat().headingLevel() > 0) text = text.next();
+  return text;
+}
+
+bool Breaks(const QTextBlock& block) {
+  return (block.blockFormat().pageBreakPolicy() & QTextFormat::PageBreak_AlwaysBefore) != 0;
+}
+
 }  // namespace
 
 ManualPages::ManualPages(const QString& markdown, const QString& folder) {
@@ -130,9 +174,6 @@ ManualPages::ManualPages(const QString& markdown, const QString& folder) {
   DressTables();
   document_.setPageSize(kText);
   KeepTogether();
-  for (int round = 0; round < kMostRounds && KeepHeadingsWithText(); ++round) continue;
-  // Breaks set afterwards leave blocks without a place: everything is laid out anew.
-  document_.markContentsDirty(0, document_.characterCount());
   FindHeadings();
   FindLinks();
 }
@@ -165,7 +206,9 @@ void ManualPages::DressPictures(const QString& folder) {
       QTextImageFormat picture = fragment.charFormat().toImageFormat();
       const QString words = picture.property(QTextFormat::ImageAltText).toString();
       if (!QFileInfo::exists(folder + '/' + picture.name())) missing_pictures_ += picture.name();
-      picture.setWidth(kText.width() * kPictureWidth);
+      // A small window is not drawn larger than it is sharp.
+      const double natural = QImageReader(folder + '/' + picture.name()).size().width() * kPointsAPixel;
+      picture.setWidth(std::min(kText.width() * kPictureWidth, natural));
       QTextCursor cursor(&document_);
       cursor.setPosition(fragment.position());
       cursor.setPosition(fragment.position() + fragment.length(), QTextCursor::KeepAnchor);
@@ -201,6 +244,7 @@ void ManualPages::DressTables() {
     look.setTopMargin(4.0);
     look.setBottomMargin(10.0);
     look.setHeaderRowCount(1);
+    look.setColumnWidthConstraints(WidthsOf(*table));
     table->setFormat(look);
     for (int row = 0; row < table->rows(); ++row) {
       for (int column = 0; column < table->columns(); ++column) {
@@ -233,48 +277,47 @@ double ManualPages::TopOf(const QTextBlock& block) const {
              : layout.blockBoundingRect(block).top();
 }
 
-void ManualPages::KeepTogether() {
-  const auto height_on_page = [this](const QRectF& place) {
-    return std::fmod(place.top(), kText.height()) / kText.height();
-  };
-  const QAbstractTextDocumentLayout& layout = *document_.documentLayout();
-  for (QTextBlock block = document_.begin(); block.isValid(); block = block.next()) {
-    const int level = block.blockFormat().headingLevel();
-    const bool begins = level == kChapterLevel && block.position() > 0;
-    if (begins || (level > 0 && height_on_page(layout.blockBoundingRect(block)) >= kLowestHeading))
-      BreakBefore(block);
-  }
-  for (QTextFrame* frame : document_.rootFrame()->childFrames()) {
-    if (height_on_page(layout.frameBoundingRect(frame)) < kLowestTable) continue;
-    // A heading goes with its table.
-    const QTextBlock before = document_.findBlock(frame->firstPosition()).previous();
-    if (before.isValid() && before.blockFormat().headingLevel() > 0) {
-      BreakBefore(before);
-      continue;
-    }
-    QTextFrameFormat look = frame->frameFormat();
-    look.setPageBreakPolicy(QTextFormat::PageBreak_AlwaysBefore);
-    frame->setFrameFormat(look);
-  }
+void ManualPages::MoveToNextPage(const QTextBlock& block) {
+  BreakBefore(block);
+  // What follows has no place until it is laid out anew.
+  document_.markContentsDirty(block.position(), document_.characterCount() - block.position());
 }
 
-// A picture or a table that finds no room under its heading would leave it alone at the foot of the page.
-bool ManualPages::KeepHeadingsWithText() {
-  bool moved = false;
-  const auto page_of = [](double top) { return static_cast<int>(top / kText.height()); };
+// From above downwards: what is moved moves all that follows.
+void ManualPages::KeepTogether() {
+  const auto page_of = [this](const QTextBlock& block) {
+    return static_cast<int>(TopOf(block) / kText.height());
+  };
+  const auto height_on_page = [this](const QTextBlock& block) {
+    return std::fmod(TopOf(block), kText.height()) / kText.height();
+  };
   for (QTextBlock block = document_.begin(); block.isValid(); block = block.next()) {
-    if (block.blockFormat().headingLevel() == 0) continue;
-    QTextBlock text = block.next();
-    while (text.isValid() && text.blockFormat().headingLevel() > 0) text = text.next();
-    if (!text.isValid() || page_of(TopOf(text)) == page_of(TopOf(block))) continue;
-    QTextBlock first = block;
-    while (first.previous().isValid() && first.previous().blockFormat().headingLevel() > 0)
-      first = first.previous();
-    if (first.blockFormat().pageBreakPolicy() & QTextFormat::PageBreak_AlwaysBefore) continue;
-    BreakBefore(first);
-    moved = true;
+    const int level = block.blockFormat().headingLevel();
+    if (level == kChapterLevel && block.position() > 0) BreakBefore(block);
   }
-  return moved;
+  document_.markContentsDirty(0, document_.characterCount());
+  for (QTextBlock block = document_.begin(); block.isValid(); block = block.next()) {
+    if (block.blockFormat().headingLevel() > 0) {
+      const QTextBlock text = TextBelow(block);
+      // A picture or a table that finds no room under its heading would leave it alone at the foot.
+      const bool alone = text.isValid() && page_of(text) != page_of(block);
+      const QTextBlock first = FirstHeadingAbove(block);
+      if ((alone || height_on_page(block) >= kLowestHeading) && !Breaks(first)) MoveToNextPage(first);
+      continue;
+    }
+    QTextTable* table = QTextCursor(block).currentTable();
+    if (table == nullptr || table->firstPosition() != block.position()) continue;
+    if (height_on_page(block) < kLowestTable) continue;
+    const QTextBlock first = FirstHeadingAbove(block);
+    if (first != block) {
+      if (!Breaks(first)) MoveToNextPage(first);
+      continue;
+    }
+    QTextTableFormat look = table->format();
+    look.setPageBreakPolicy(QTextFormat::PageBreak_AlwaysBefore);
+    table->setFormat(look);
+    document_.markContentsDirty(block.position(), document_.characterCount() - block.position());
+  }
 }
 
 void ManualPages::FindHeadings() {

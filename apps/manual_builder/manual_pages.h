@@ -75,7 +75,7 @@ class ManualPages {
   void DressPictures(const QString& folder);
   void DressTables();
   void KeepTogether();
-  bool KeepHeadingsWithText();
+  void MoveToNextPage(const QTextBlock& block);
   double TopOf(const QTextBlock& block) const;
   void FindHeadings();
   void FindLinks();

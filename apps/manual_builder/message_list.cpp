@@ -120,6 +120,15 @@ std::string MessageTable(const std::string& group, const Catalogue& catalogue,
     if (known.group == group) rows.push_back({catalogue.rows.at(known.row).words, known.words});
   }
   if (rows.empty() || group == kNoMessage) throw std::runtime_error("no messages in the group " + group);
+  // Advice that is the same for all stands once, in the chapter.
+  const bool same = std::ranges::all_of(rows, [&rows](const auto& row) { return row[1] == rows.front()[1]; });
+  if (same && rows.size() > 1) {
+    std::vector<std::vector<std::string>> once;
+    for (const auto& row : rows) {
+      if (std::ranges::find(once, std::vector{row[0]}) == once.end()) once.push_back({row[0]});
+    }
+    return TableText({"Messaggio"}, once);
+  }
   return TableText({"Messaggio", "Che cosa fare"}, rows);
 }
 

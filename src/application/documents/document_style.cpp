@@ -79,6 +79,12 @@ DocumentStyle StyleOf(const DocumentPlaces& places, std::optional<DocumentLangua
   return style;
 }
 
+elements::Setup CaptionedIn(elements::Setup setup, const Words& words) {
+  for (std::size_t row = 0; row < elements::kCaptionedInformationRows; ++row)
+    setup.information.at(row).caption = words(elements::kInformationCaptions.at(row));
+  return setup;
+}
+
 std::filesystem::path TemplateFile(const DocumentPlaces& places, std::string_view name,
                                    const DocumentStyle& style) {
   const std::string in_language = presentation::WithLanguage(name, style.asked);

@@ -6,6 +6,7 @@
 #include <string_view>
 #include <utility>
 
+#include "elements/setup.h"
 #include "elements/studio_profile.h"
 #include "foundation/message.h"
 #include "presentation/drawing/printed_page.h"
@@ -46,12 +47,19 @@ struct DocumentStyle {
 DocumentStyle StyleOf(const DocumentPlaces& places, std::optional<DocumentLanguage> asked,
                       const presentation::Words& words, const std::function<void(const Message&)>& tell);
 
-/// What `build`, called with words and the language of numbers, makes in the languages of `style`.
+/// `setup` for a document in `words`: its captions of project information, which are those of the program
+/// that wrote the project, in these words.
+elements::Setup CaptionedIn(elements::Setup setup, const presentation::Words& words);
+
+/// What `build`, called with `setup`, words and the language of numbers, makes in the languages of `style`.
+/// In English the set-up has English captions.
 template <typename Build>
-auto InLanguages(const DocumentStyle& style, const Build& build) {
-  auto document = build(style.words, style.language);
+auto InLanguages(const DocumentStyle& style, const elements::Setup& setup, const Build& build) {
+  if (style.asked == DocumentLanguage::kEnglish)
+    return build(CaptionedIn(setup, style.words), style.words, style.language);
+  auto document = build(setup, style.words, style.language);
   if (!style.english) return document;
-  return InBoth(std::move(document), build(style.english, style.language));
+  return InBoth(std::move(document), build(CaptionedIn(setup, style.english), style.english, style.language));
 }
 
 /// The template called `name` in the language of `style`: the user's own, else the shipped one; where there

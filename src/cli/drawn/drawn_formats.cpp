@@ -41,16 +41,17 @@ presentation::PaginaDiStampa PageOf(const ReportContent& content) {
 presentation::PaginaDiStampa PageOf(const ReportContent& content, const application::DocumentStyle& style) {
   const std::optional<presentation::CurveChart> chart =
       presentation::WholeChartOf(content.setup, content.result, style.Captions());
-  const auto page_in = [&](const presentation::Words& words, elements::DocumentLanguage language) {
-    presentation::PaginaDiStampa page = presentation::PaginaDi(
-        content.setup, {content.totals.thickness_mm, content.totals.surface_mass_kg_m2}, &content.result,
-        words, chart, content.confidence, language);
+  const auto page_in = [&](const elements::Setup& setup, const presentation::Words& words,
+                           elements::DocumentLanguage language) {
+    presentation::PaginaDiStampa page =
+        presentation::PaginaDi(setup, {content.totals.thickness_mm, content.totals.surface_mass_kg_m2},
+                               &content.result, words, chart, content.confidence, language);
     const presentation::Provenance provenance = ProvenanceOfContent(content, language);
-    TellProvenance(page, content.setup, words, provenance, language);
-    TellStudio(page, content.setup, PageStudioOf(style), words, provenance);
+    TellProvenance(page, setup, words, provenance, language);
+    TellStudio(page, setup, PageStudioOf(style), words, provenance);
     return page;
   };
-  presentation::PaginaDiStampa page = application::InLanguages(style, page_in);
+  presentation::PaginaDiStampa page = application::InLanguages(style, content.setup, page_in);
   if (style.english)
     page.section_options = presentation::PaperOptions(content.setup, style.Captions(), style.language);
   return page;

@@ -32,15 +32,16 @@ presentation::ReportRecord RecordOf(const ReportContent& content, const applicat
   presentation::ReportPictures pictures{
       .section = presentation::ReportSectionOf(content.setup, captions, style.language)};
   if (with_chart) pictures.chart = presentation::ReportChartOf(content.setup, content.result, captions);
-  const auto record_in = [&](const presentation::Words& words, elements::DocumentLanguage language) {
+  const auto record_in = [&](const elements::Setup& setup, const presentation::Words& words,
+                             elements::DocumentLanguage language) {
     presentation::ReportRecord record = presentation::ReportRecordOf(
-        content.setup, content.result, {content.totals.thickness_mm, content.totals.surface_mass_kg_m2},
-        words, pictures, {}, ProvenanceOfContent(content, language));
+        setup, content.result, {content.totals.thickness_mm, content.totals.surface_mass_kg_m2}, words,
+        pictures, {}, ProvenanceOfContent(content, language));
     record.language = language;
     AddConfidence(record, content.confidence, words);
     return record;
   };
-  presentation::ReportRecord record = application::InLanguages(style, record_in);
+  presentation::ReportRecord record = application::InLanguages(style, content.setup, record_in);
   PutStudio(record, style.studio.words, style.studio.logo, style.studio.signature);
   return record;
 }

@@ -2,6 +2,7 @@
 
 #include <cmath>
 #include <numeric>
+#include <string_view>
 #include <vector>
 
 namespace velmar::presentation {
@@ -25,7 +26,10 @@ void SetWidth(pugi::xml_node node, int width) {
 }
 
 /// Numbers stand right, words left.
-bool IsNumber(const std::string& cell) {
+bool IsNumber(std::string cell) {
+  constexpr std::string_view kMinus = "\u2212";
+  for (std::size_t at = cell.find(kMinus); at != std::string::npos; at = cell.find(kMinus))
+    cell.replace(at, kMinus.size(), "-");
   return !cell.empty() && cell.find_first_not_of("0123456789,.-+ x") == std::string::npos;
 }
 

@@ -36,6 +36,7 @@ CurveLook FurtherLook(std::size_t index) {
 }
 
 void DrawDashed(QPainter& painter, const QPolygonF& line, const CurveLook& look, const QColor& colour) {
+  if (line.size() < 2) return;
   painter.setPen(QPen(colour, look.width, look.dashes, Qt::RoundCap, Qt::RoundJoin));
   painter.drawPolyline(line);
 }

@@ -216,6 +216,8 @@ ReportRecord InBoth(ReportRecord italian, const ReportRecord& english) {
   for (const Text text : {&ReportRecord::description, &ReportRecord::rating_note, &ReportRecord::messages,
                           &ReportRecord::generic_note})
     italian.*text = InBoth(italian.*text, english.*text, "\n");
+  for (std::size_t i = 0; i < italian.information.size(); ++i)
+    italian.information[i].caption = InBoth(italian.information[i].caption, english.information[i].caption);
   italian.properties.subject = InBoth(italian.properties.subject, english.properties.subject);
   for (std::size_t i = 0; i < italian.structure.size() && i < english.structure.size(); ++i) {
     italian.structure[i].name = InBoth(italian.structure[i].name, english.structure[i].name);

@@ -50,13 +50,13 @@ void HelpCommands::ShowHelp(const Desk& desk) {
 }
 
 void HelpCommands::ShowChapter(std::string_view anchor, QWidget* parent) {
-  QFile file(ToQt(places_.manual_text));
+  QFile file(FromUtf8(places_.manual_text));
   if (!file.open(QIODevice::ReadOnly)) return TellMissing(kNoManualRow, file.fileName());
   // A modal window blocks those that are not its own.
   if (manual_ != nullptr && manual_->parentWidget() != parent) delete manual_.data();
   if (manual_ == nullptr) {
     manual_ = new ManualWindow(speech_.words, QString::fromUtf8(file.readAll()),
-                               ToQt(places_.manual_text.parent_path()), parent);
+                               FromUtf8(places_.manual_text.parent_path()), parent);
     manual_->setAttribute(Qt::WA_DeleteOnClose);
     connect(manual_, &ManualWindow::PdfWanted, this, [this] { ShowManual(manual_); });
   }

@@ -20,18 +20,19 @@ printing::PrintedDocument DocumentOf(const calculation::OpenCalculation& open, c
   const std::optional<presentation::CurveChart> whole =
       result ? presentation::WholeChartOf(setup, *result, style.Captions(), chart) : std::nullopt;
   const std::string project = storage::WriteProject(setup);
-  const auto page_in = [&](const presentation::Words& words, elements::DocumentLanguage language) {
+  const auto page_in = [&](const elements::Setup& told, const presentation::Words& words,
+                           elements::DocumentLanguage language) {
     presentation::PaginaDiStampa page =
-        presentation::PaginaDi(setup, {totals.thickness_mm, totals.surface_mass_kg_m2},
+        presentation::PaginaDi(told, {totals.thickness_mm, totals.surface_mass_kg_m2},
                                result ? &*result : nullptr, words, whole, confidence, language);
     const presentation::Provenance provenance =
         presentation::ProvenanceOf(project, origin.project_file, origin.sources, language);
-    TellProvenance(page, setup, words, provenance, language);
-    TellStudio(page, setup, PageStudioOf(style), words, provenance);
+    TellProvenance(page, told, words, provenance, language);
+    TellStudio(page, told, PageStudioOf(style), words, provenance);
     return page;
   };
   printing::PrintedDocument document;
-  document.page = application::InLanguages(style, page_in);
+  document.page = application::InLanguages(style, setup, page_in);
   if (style.english)
     document.page.section_options = presentation::PaperOptions(setup, style.Captions(), style.language);
   document.title = document.page.title;

@@ -44,9 +44,10 @@ presentation::ReportRecord RecordOf(const Desk& desk, const DocumentServices& do
   const presentation::ReportPictures pictures{
       .chart = presentation::ReportChartOf(setup, result, style.Captions(), shown),
       .section = presentation::ReportSectionOf(setup, style.Captions(), style.language)};
-  const auto record_in = [&](const presentation::Words& words, elements::DocumentLanguage language) {
+  const auto record_in = [&](const elements::Setup& told, const presentation::Words& words,
+                             elements::DocumentLanguage language) {
     presentation::ReportRecord record = presentation::ReportRecordOf(
-        setup, result, {totals.thickness_mm, totals.surface_mass_kg_m2}, words, pictures,
+        told, result, {totals.thickness_mm, totals.surface_mass_kg_m2}, words, pictures,
         shown ? presentation::ComparedStructures{shown->laboratory_name, shown->in_situ_name}
               : presentation::ComparedStructures{},
         presentation::ProvenanceOf(storage::WriteProject(setup), desk.files.File().filename().string(),
@@ -56,7 +57,7 @@ presentation::ReportRecord RecordOf(const Desk& desk, const DocumentServices& do
     AddConfidence(record, validation::ConfidenceOf(setup, result, desk.accuracy.Get()), words);
     return record;
   };
-  presentation::ReportRecord record = application::InLanguages(style, record_in);
+  presentation::ReportRecord record = application::InLanguages(style, setup, record_in);
   PutStudio(record, style.studio.words, style.studio.logo, style.studio.signature);
   return record;
 }

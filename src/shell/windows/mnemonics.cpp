@@ -35,11 +35,11 @@ QString WithMnemonic(QString text, QSet<QChar>& taken) {
 
 void SetMnemonics(QWidget& window) {
   QSet<QChar> taken;
-  for (QWidget* widget : window.findChildren<QWidget*>()) {
-    if (auto* button = qobject_cast<QAbstractButton*>(widget); button != nullptr && !button->text().isEmpty())
-      button->setText(WithMnemonic(button->text(), taken));
-    if (auto* label = qobject_cast<QLabel*>(widget); label != nullptr && label->buddy() != nullptr)
-      label->setText(WithMnemonic(label->text(), taken));
+  // What acts comes first: a button keeps the first letter of its words.
+  for (auto* button : window.findChildren<QAbstractButton*>())
+    button->setText(WithMnemonic(button->text(), taken));
+  for (auto* label : window.findChildren<QLabel*>()) {
+    if (label->buddy() != nullptr) label->setText(WithMnemonic(label->text(), taken));
   }
 }
 

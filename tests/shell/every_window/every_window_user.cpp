@@ -27,7 +27,7 @@
 namespace velmar::shell {
 namespace {
 
-constexpr int kActionsInACommand = 12;
+constexpr int kActionsInACommand = 8;
 constexpr int kTickMs = 2;
 /// Ticks without an action before a program that does nothing is said to hang: two minutes.
 constexpr int kPatience = 60'000;
