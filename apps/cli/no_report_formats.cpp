@@ -3,3 +3,8 @@
 std::vector<velmar::cli::ReportFormat> FurtherReportFormats(const std::filesystem::path& /*templates*/) {
   return {};
 }
+
+velmar::cli::TogetherReports FurtherTogetherReports(const std::filesystem::path& /*templates*/,
+                                                    const velmar::cli::Services& /*services*/) {
+  return {};
+}

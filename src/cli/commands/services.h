@@ -26,6 +26,7 @@ struct Services {
   /// What is known of the errors of calculations and models.
   std::function<validation::Accuracy()> accuracy = [] { return validation::Accuracy(); };
   std::vector<ReportFormat> report_formats{};  ///< each an option of `report`
+  TogetherReports together{};                  ///< of `report --together`; without formats where nothing draws
 };
 
 }  // namespace velmar::cli

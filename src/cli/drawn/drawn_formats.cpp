@@ -4,11 +4,10 @@
 #include <memory>
 #include <optional>
 
-#include "cli/drawn/office_formats.h"
 #include "cli/drawn/offscreen_display.h"
+#include "documents/office_reports.h"
 #include "foundation/failure.h"
 #include "foundation/message_rows.h"
-#include "presentation/drawing/printed_page.h"
 #include "presentation/export/chart_svg.h"
 #include "presentation/export/page_pdf.h"
 #include "presentation/export/report_chart.h"
@@ -21,9 +20,7 @@ std::optional<presentation::CurveChart> WholeChart(const ReportContent& content)
 }
 
 std::string Pdf(const ReportContent& content) {
-  presentation::PaginaDiStampa page = PageOf(content);
-  TellProvenance(page, content.setup, content.words, ProvenanceOfContent(content));
-  return presentation::PagePdf(page, content.name);
+  return presentation::PagePdf(documents::PageOf(content), content.name);
 }
 
 std::string Svg(const ReportContent& content) {
@@ -34,12 +31,6 @@ std::string Svg(const ReportContent& content) {
 
 }  // namespace
 
-presentation::PaginaDiStampa PageOf(const ReportContent& content) {
-  return presentation::PaginaDi(content.setup,
-                                {content.totals.thickness_mm, content.totals.surface_mass_kg_m2},
-                                &content.result, content.words, WholeChart(content), content.confidence);
-}
-
 std::vector<ReportFormat> DrawnFormats(const std::filesystem::path& templates) {
   const auto display = std::make_shared<OffscreenDisplay>();
   const auto drawn = [display](std::function<std::string(const ReportContent&)> bytes) {
@@ -48,14 +39,32 @@ std::vector<ReportFormat> DrawnFormats(const std::filesystem::path& templates) {
       return bytes(content);
     };
   };
-  const auto word = [templates](const ReportContent& content) { return WordReportBytes(templates, content); };
+  const auto word = [templates](const ReportContent& content) { return documents::WordReportBytes(templates, content); };
   const auto excel = [templates](const ReportContent& content) {
-    return ExcelReportBytes(templates, content);
+    return documents::ExcelReportBytes(templates, content);
   };
   return {{.extension = "docx", .help = kWordHelpRow, .bytes = drawn(word)},
           {.extension = "xlsx", .help = kExcelHelpRow, .bytes = drawn(excel)},
           {.extension = "pdf", .help = kPdfHelpRow, .bytes = drawn(Pdf)},
           {.extension = "svg", .help = kSvgHelpRow, .bytes = drawn(Svg)}};
+}
+
+TogetherReports DrawnTogether(std::function<documents::ScheduleTools()> tools) {
+  const auto display = std::make_shared<OffscreenDisplay>();
+  const auto make = [display, tools = std::move(tools)](const TogetherOrder& order) {
+    display->Open();
+    documents::MadeSchedule made = *documents::MakeSchedule(
+        {.projects = order.projects,
+         .format = documents::ScheduleFormatOf(order.extension).value(),
+         .title = order.title,
+         .go_on_outside_ranges = order.go_on_outside_ranges},
+        tools());
+    TogetherDocument document{.bytes = std::move(made.bytes), .remarks = std::move(made.remarks)};
+    for (documents::FailedProject& failed : made.failed)
+      document.failed.push_back({std::move(failed.project), std::move(failed.reason)});
+    return document;
+  };
+  return {.extensions = {"docx", "pdf", "xlsx"}, .make = make};
 }
 
 }  // namespace velmar::cli

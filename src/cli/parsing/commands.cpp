@@ -32,6 +32,10 @@ void AddReport(CLI::App& app, Parsed& parsed, const Services& services) {
     };
     command->add_option_function<std::string>("--" + format.extension, take, services.words(format.help));
   }
+  if (!services.together.extensions.empty()) {
+    command->add_flag("--together", parsed.report.together, services.words(kTogetherHelpRow));
+    command->add_option("--title", parsed.report.title, services.words(kScheduleTitleHelpRow));
+  }
   AddAnswer(*command, parsed, services.words);
 }
 

@@ -1,6 +1,9 @@
 #pragma once
 
+#include <optional>
+
 #include "elements/setup.h"
+#include "presentation/reports/picture.h"
 #include "presentation/reports/report_record.h"
 #include "presentation/texts/words.h"
 
@@ -10,5 +13,9 @@ namespace velmar::presentation {
 /// The small one is missing where its numbers would not be legible; both for an element without layers. A
 /// QGuiApplication must exist.
 ReportSection ReportSectionOf(const elements::Setup& setup, const Words& words);
+
+/// The strips of the section of `setup` in small, for a row of a table: 26 mm by 11 mm, as vectors with a
+/// bitmap beside it. Nothing for an element without layers. A QGuiApplication must exist.
+std::optional<Picture> SectionThumbnailOf(const elements::Setup& setup, const Words& words);
 
 }  // namespace velmar::presentation

@@ -172,8 +172,7 @@ void WriteSection(Workbook& workbook, const ReportRecord& record) {
 
 }  // namespace
 
-std::string WriteExcelReport(std::string_view xlsx, const ReportRecord& record) {
-  Workbook workbook(xlsx);
+void FillExcelReport(Workbook& workbook, const ReportRecord& record) {
   Worksheet& sheet = workbook.Sheet();
   sheet.SetText(kTitle, record.title);
   sheet.SetText(kKind, record.kind_of_element);
@@ -200,6 +199,11 @@ std::string WriteExcelReport(std::string_view xlsx, const ReportRecord& record) 
   WriteRemarks(workbook, record);
   WriteSection(workbook, record);
   WriteDataSheet(workbook, record.data);
+}
+
+std::string WriteExcelReport(std::string_view xlsx, const ReportRecord& record) {
+  Workbook workbook(xlsx);
+  FillExcelReport(workbook, record);
   return workbook.Bytes();
 }
 

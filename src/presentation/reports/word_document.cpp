@@ -108,23 +108,41 @@ void WordDocument::Replace(const Placeholders& values) {
 }
 
 void WordDocument::ReplaceByPicture(std::string_view name, const Picture& picture) {
-  PictureParts media;
-  const Placeholders mark = {{std::string(name), std::string(1, kPictureMark)}};
+  ReplaceByPictures({{std::string(name), picture}});
+}
+
+void WordDocument::ReplaceByPictures(const std::map<std::string, Picture>& pictures) {
+  std::map<std::string, PictureParts> media;
   std::uint32_t number = 1;
   for (const StoryPart& part : parts_) number = std::max(number, FreeDrawingNumber(part.xml));
   for (StoryPart& part : parts_) {
-    PictureLinks links;
-    const auto make_picture = [&](pugi::xml_node run, pugi::xml_node before) {
-      if (media.png.empty()) media = AddPictureParts(package_, "word/media", picture);
-      if (links.png.empty()) {
-        links.png = AddRelationship(package_, part.name, kImageRelationship, media.png);
-        if (!media.svg.empty())
-          links.svg = AddRelationship(package_, part.name, kImageRelationship, media.svg);
+    std::map<std::string, PictureLinks> links;
+    const auto insert = [&](const std::string& name, pugi::xml_node run, pugi::xml_node before) {
+      const Picture& picture = pictures.at(name);
+      PictureParts& files = media[name];
+      if (files.png.empty()) files = AddPictureParts(package_, "word/media", picture);
+      PictureLinks& link = links[name];
+      if (link.png.empty()) {
+        link.png = AddRelationship(package_, part.name, kImageRelationship, files.png);
+        if (!files.svg.empty()) link.svg = AddRelationship(package_, part.name, kImageRelationship, files.svg);
       }
-      InsertDrawing(run, before, picture, links, number++);
+      InsertDrawing(run, before, picture, link, number++);
     };
-    for (const pugi::xml_node paragraph : ParagraphsOf(part.xml))
-      ReplaceIn(part, paragraph, mark, make_picture);
+    for (const pugi::xml_node paragraph : ParagraphsOf(part.xml)) {
+      const std::string text = ParagraphText(paragraph).Text();
+      std::vector<std::string> names;
+      Placeholders marks;
+      for (auto found = FindPlaceholder(text, 0); found;
+           found = FindPlaceholder(text, found->begin + found->length)) {
+        if (!pictures.contains(found->name)) continue;
+        names.push_back(found->name);
+        marks.emplace(found->name, std::string(1, kPictureMark));
+      }
+      if (names.empty()) continue;
+      auto next = names.begin();
+      ReplaceIn(part, paragraph, marks,
+                [&](pugi::xml_node run, pugi::xml_node before) { insert(*next++, run, before); });
+    }
   }
 }
 

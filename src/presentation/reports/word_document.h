@@ -2,6 +2,7 @@
 
 #include <deque>
 #include <functional>
+#include <map>
 #include <set>
 #include <string>
 #include <string_view>
@@ -50,6 +51,9 @@ class WordDocument {
 
   /// Puts `picture` in the place of placeholder `name`, wherever it stands.
   void ReplaceByPicture(std::string_view name, const Picture& picture);
+
+  /// The same for many placeholders in one walk.
+  void ReplaceByPictures(const std::map<std::string, Picture>& pictures);
 
   /// Puts `content` before each paragraph that holds placeholder `name`, which goes.
   void ReplaceByContent(std::string_view name, const std::vector<WordContent>& content);

@@ -151,7 +151,8 @@ void Workbook::ChangeStyle(Worksheet& sheet, CellPlace place, const StyleChange&
   sheet.SetStyle(place, styles_.Derived(sheet.StyleOf(place), change));
 }
 
-Worksheet& Workbook::AddSheet(const std::string& name, bool landscape, const std::vector<double>& widths) {
+Worksheet& Workbook::AddSheet(const std::string& wanted, bool landscape, const std::vector<double>& widths,
+                              bool beside) {
   int number = 1;
   const auto part = [&] {
     return FolderOf(main_part_) + "worksheets/velmar" + std::to_string(number) + ".xml";
@@ -162,9 +163,7 @@ Worksheet& Workbook::AddSheet(const std::string& name, bool landscape, const std
   AddContentType(package_, part(), kSheetContent);
   pugi::xml_document workbook = ParseXml(package_.Part(main_part_), main_part_);
   pugi::xml_node sheets = workbook.child("workbook").child("sheets");
-  std::string free = name;
-  for (int copy = 2; sheets.find_child_by_attribute("name", free.c_str()); ++copy)
-    free = name + " " + std::to_string(copy);
+  const std::string free = FreeSheetName(copy_prefix_.empty() || !beside ? wanted : copy_prefix_ + " " + wanted);
   int highest = 0;
   for (const pugi::xml_node node : sheets.children("sheet"))
     highest = std::max(highest, node.attribute("sheetId").as_int());
@@ -247,7 +246,7 @@ void Workbook::AddPicture(Worksheet& sheet, CellPlace corner, const Picture& pic
 
 void Workbook::ForgetOldValues() {
   for (const std::string& chain : TargetsOf(package_, main_part_, "calcChain")) {
-    if (!sheet_.LostFormula()) continue;
+    if (!lost_formula_) continue;
     package_.Remove(chain);
     RemoveRelationship(package_, main_part_, chain);
     RemoveContentType(package_, chain);
@@ -269,10 +268,15 @@ void Workbook::ForgetOldValues() {
   package_.Put(main_part_, XmlBytes(workbook));
 }
 
-std::string Workbook::Bytes() {
+void Workbook::Flush() {
+  lost_formula_ |= sheet_.LostFormula();
   if (sheet_.LostFormula() || sheet_.HasFormula()) ForgetOldValues();
   package_.Put(sheet_part_, sheet_.Bytes());
   for (const AddedSheet& added : added_) package_.Put(added.part, added.sheet.Bytes());
+}
+
+std::string Workbook::Bytes() {
+  Flush();
   if (styles_.Changed()) package_.Put(styles_part_, styles_.Bytes());
   return package_.Bytes();
 }

@@ -119,6 +119,8 @@ constexpr std::array<Command, kCommandCount> kCommands = {{
             Of<&Desk::help, &HelpCommands::ShowAbout>},
     Command{kChoosePrinter,      0,  "Scegli_stampante",          kChoosePrinterMenuRow, {}, "",           "",       N::kNothing,
             Of<&Desk::paper, &PaperCommands::ChoosePrinter>},
+    Command{kReportProjects,     0,  "relazione_progetti",        kScheduleMenuRow, {}, "",           "",       N::kNothing,
+            Of<&Desk::reports, &ReportCommands::ReportProjects>},
 }};
 // clang-format on
 

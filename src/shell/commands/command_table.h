@@ -45,8 +45,9 @@ enum class CommandId {
   kContact,
   kAbout,
   kChoosePrinter,
+  kReportProjects,
 };
-inline constexpr std::size_t kCommandCount = static_cast<std::size_t>(CommandId::kChoosePrinter) + 1;
+inline constexpr std::size_t kCommandCount = static_cast<std::size_t>(CommandId::kReportProjects) + 1;
 
 /// What must be there before a command can do anything.
 enum class Needs {

@@ -1,5 +1,6 @@
 #include "shell/commands/report_commands.h"
 
+#include <QFileDialog>
 #include <system_error>
 
 #include "foundation/failure.h"
@@ -13,6 +14,7 @@
 #include "shell/fields/phrases.h"
 #include "shell/project/project_files.h"
 #include "shell/results/results_panel.h"
+#include "shell/schedule/schedule_dialog.h"
 #include "storage/files/open_elsewhere.h"
 #include "storage/files/whole_file.h"
 #include "storage/project/project_writer.h"
@@ -110,5 +112,27 @@ void Export(Kind kind, const std::filesystem::path& templates, const presentatio
 void ReportCommands::ExportWord(const Desk& desk) { Export(Kind::kWord, templates_, sources_, desk); }
 
 void ReportCommands::ExportExcel(const Desk& desk) { Export(Kind::kExcel, templates_, sources_, desk); }
+
+void ReportCommands::ReportProjects(const Desk& desk) {
+  const auto tools = [this, &desk] {
+    return documents::ScheduleTools{.words = desk.speech.words,
+                                    .materials = materials_,
+                                    .sources = sources_,
+                                    .templates = templates_,
+                                    .accuracy = desk.accuracy.Get()};
+  };
+  const auto choose = [&desk](const FileQuestion& question) {
+    return QFileDialog::getOpenFileNames(&desk.window, question.title, question.start, question.filter);
+  };
+  ScheduleDialog dialog(
+      desk.speech,
+      {.tools = tools,
+       .choose_projects = choose_projects_ ? choose_projects_ : choose,
+       .propose = [&desk](const QString& ending) { return desk.files.ProposeDocument(ending); },
+       .written = [&desk](const std::filesystem::path& file) { desk.files.DocumentWritten(file); }},
+      &desk.window);
+  if (!desk.files.File().empty()) dialog.Add({FromUtf8(desk.files.File().string())});
+  dialog.exec();
+}
 
 }  // namespace velmar::shell

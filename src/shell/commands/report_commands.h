@@ -1,9 +1,12 @@
 #pragma once
 
 #include <QObject>
+#include <QStringList>
 #include <filesystem>
+#include <functional>
 #include <utility>
 
+#include "elements/material_record.h"
 #include "presentation/texts/calculation_data.h"
 #include "shell/commands/desk.h"
 
@@ -16,16 +19,27 @@ class ReportCommands : public QObject {
  public:
   /// @param templates folder of the templates
   /// @param sources tells where the values of materials come from
-  explicit ReportCommands(std::filesystem::path templates, presentation::MaterialSources sources = {})
-      : templates_(std::move(templates)), sources_(std::move(sources)) {}
+  /// @param materials of projects that are opened for a report of several
+  explicit ReportCommands(std::filesystem::path templates, presentation::MaterialSources sources = {},
+                          elements::MaterialLookup materials = {})
+      : templates_(std::move(templates)), sources_(std::move(sources)), materials_(std::move(materials)) {}
+
+  /// How project files are asked for; as it stands by the screen's dialog.
+  void ChooseProjectsBy(std::function<QStringList(const FileQuestion&)> choose) {
+    choose_projects_ = std::move(choose);
+  }
 
  public slots:
   void ExportWord(const velmar::shell::Desk& desk);
   void ExportExcel(const velmar::shell::Desk& desk);
+  /// Opens the window that makes one document of several projects.
+  void ReportProjects(const velmar::shell::Desk& desk);
 
  private:
   std::filesystem::path templates_;
   presentation::MaterialSources sources_;
+  elements::MaterialLookup materials_;
+  std::function<QStringList(const FileQuestion&)> choose_projects_{};
 };
 
 }  // namespace velmar::shell

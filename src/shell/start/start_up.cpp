@@ -146,7 +146,8 @@ struct Desktop {
     paper_commands = std::make_unique<PaperCommands>(PaperBoxes(services));
     report_commands = std::make_unique<ReportCommands>(
         environment.configuration.CartellaTemplates(),
-        application::MaterialSourcesIn(environment.configuration.PercorsoDatabase(), services.words));
+        application::MaterialSourcesIn(environment.configuration.PercorsoDatabase(), services.words),
+        services.materials);
     services.Add(*structure_commands);
     services.Add(*material_commands);
     services.paper_commands = paper_commands.get();

@@ -1,4 +1,4 @@
-#include "cli/drawn/office_formats.h"
+#include "documents/office_reports.h"
 
 #include <system_error>
 #include <utility>
@@ -13,10 +13,12 @@
 #include "storage/files/whole_file.h"
 #include "storage/project/project_writer.h"
 
-namespace velmar::cli {
+namespace velmar::documents {
 namespace {
 
 constexpr std::size_t kLargestTemplate = std::size_t{64} << 20U;
+
+}  // namespace
 
 std::string ReadTemplate(const std::filesystem::path& templates, std::string_view name) {
   const std::filesystem::path file = templates / name;
@@ -40,10 +42,17 @@ presentation::ReportRecord RecordOf(const ReportContent& content, bool with_char
   return record;
 }
 
-}  // namespace
-
 presentation::Provenance ProvenanceOfContent(const ReportContent& content) {
   return presentation::ProvenanceOf(storage::WriteProject(content.setup), content.file, content.sources);
+}
+
+presentation::PaginaDiStampa PageOf(const ReportContent& content) {
+  presentation::PaginaDiStampa page = presentation::PaginaDi(
+      content.setup, {content.totals.thickness_mm, content.totals.surface_mass_kg_m2}, &content.result,
+      content.words, presentation::WholeChartOf(content.setup, content.result, content.words),
+      content.confidence);
+  TellProvenance(page, content.setup, content.words, ProvenanceOfContent(content));
+  return page;
 }
 
 std::string WordReportBytes(const std::filesystem::path& templates, const ReportContent& content) {
@@ -63,4 +72,4 @@ std::string ExcelReportBytes(const std::filesystem::path& templates, const Repor
                                         RecordOf(content, false));
 }
 
-}  // namespace velmar::cli
+}  // namespace velmar::documents

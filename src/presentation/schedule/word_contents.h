@@ -1,0 +1,26 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include <pugixml.hpp>
+
+namespace velmar::presentation {
+
+/// A line of a list of contents.
+struct ContentsEntry {
+  std::string text{};
+  std::string bookmark{};  ///< around the heading
+};
+
+/// Makes `paragraph`, which is empty, a heading in `style`.
+void AppendHeading(pugi::xml_node paragraph, const char* style, const std::string& text);
+
+/// Puts the bookmark `name` around what stands in `paragraph`.
+void MarkHeading(pugi::xml_node paragraph, const std::string& name, int number);
+
+/// Puts a list of contents of the headings of the first level before `before`: a field that a word processor
+/// brings up to date, each line with a link to its heading and the number of its page.
+void InsertContents(pugi::xml_node before, const std::vector<ContentsEntry>& entries);
+
+}  // namespace velmar::presentation
