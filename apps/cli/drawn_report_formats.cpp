@@ -1,5 +1,6 @@
 #include "application/material_sources.h"
 #include "cli/drawn/drawn_formats.h"
+#include "documents/template_file.h"
 #include "report_formats.h"
 
 std::vector<velmar::cli::ReportFormat> FurtherReportFormats(const std::filesystem::path& templates) {
@@ -16,4 +17,8 @@ velmar::cli::TogetherReports FurtherTogetherReports(const std::filesystem::path&
         .templates = templates,
         .accuracy = services.accuracy()};
   });
+}
+
+std::function<velmar::Message(const std::filesystem::path&)> TemplateCheck() {
+  return velmar::documents::CheckTemplateFile;
 }

@@ -64,6 +64,7 @@ velmar::cli::Services OpenServices(const velmar::cli::Opening& opening) {
   };
   services.materials = velmar::application::ForgivingLookup(
       velmar::storage::MaterialLookupIn(environment.configuration.PercorsoDatabase()), tell);
+  services.check_template = TemplateCheck();
   services.together = FurtherTogetherReports(TemplateFolder(environment), services);
   for (const velmar::Message& warning : environment.warnings)
     velmar::cli::WriteMessage(warning, services.words, std::cerr);

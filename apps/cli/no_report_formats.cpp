@@ -8,3 +8,5 @@ velmar::cli::TogetherReports FurtherTogetherReports(const std::filesystem::path&
                                                     const velmar::cli::Services& /*services*/) {
   return {};
 }
+
+std::function<velmar::Message(const std::filesystem::path&)> TemplateCheck() { return {}; }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <filesystem>
+#include <functional>
 #include <vector>
 
 #include "cli/commands/services.h"
@@ -14,3 +15,6 @@ std::vector<velmar::cli::ReportFormat> FurtherReportFormats(const std::filesyste
 /// @param templates as above @param services what they are made with, but for these reports
 velmar::cli::TogetherReports FurtherTogetherReports(const std::filesystem::path& templates,
                                                     const velmar::cli::Services& services);
+
+/// What `report --check-template` asks; empty where nothing draws.
+std::function<velmar::Message(const std::filesystem::path&)> TemplateCheck();

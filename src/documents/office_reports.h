@@ -2,7 +2,6 @@
 
 #include <filesystem>
 #include <string>
-#include <string_view>
 
 #include "application/report_content.h"
 #include "presentation/drawing/printed_page.h"
@@ -21,9 +20,6 @@ presentation::ReportRecord RecordOf(const ReportContent& content, bool with_char
 
 /// The page that the window prints of `content` when nothing is laid over its chart, with its provenance.
 presentation::PaginaDiStampa PageOf(const ReportContent& content);
-
-/// The template `name` in `templates`. @throws Failure when it is missing or cannot be read
-std::string ReadTemplate(const std::filesystem::path& templates, std::string_view name);
 
 /// The Word report out of the template in `templates`. A QGuiApplication must exist.
 /// @throws Failure when the template is missing or cannot be used

@@ -7,6 +7,7 @@
 
 #include "application/project_run.h"
 #include "documents/office_reports.h"
+#include "documents/template_file.h"
 #include "foundation/failure.h"
 #include "foundation/message_rows.h"
 #include "foundation/utf8.h"
@@ -187,8 +188,9 @@ class Maker {
     });
     if (!all) return false;
     made_.bytes =
-        presentation::WriteWordSchedule(ReadTemplate(tools_.templates, presentation::kScheduleTemplateName),
-                                        schedule_, chapters, tools_.words);
+        WithTemplate(tools_.templates / presentation::kScheduleTemplateName, [&](const std::string& bytes) {
+          return presentation::WriteWordSchedule(bytes, schedule_, chapters, tools_.words);
+        });
     return true;
   }
 
@@ -198,9 +200,10 @@ class Maker {
       chapters.push_back({element.code, RecordOf(content, false)});
     });
     if (!all) return false;
-    made_.bytes = presentation::WriteExcelSchedule(
-        ReadTemplate(tools_.templates, presentation::kExcelTemplateName), schedule_, std::move(chapters),
-        tools_.words);
+    made_.bytes =
+        WithTemplate(tools_.templates / presentation::kExcelTemplateName, [&](const std::string& bytes) {
+          return presentation::WriteExcelSchedule(bytes, schedule_, std::move(chapters), tools_.words);
+        });
     return true;
   }
 

@@ -201,4 +201,19 @@ ExitCode Execute(const ReportCommand& command, const Services& services, std::os
   return code;
 }
 
+ExitCode CheckTemplate(const path& file, const Services& services, std::ostream& out, std::ostream& errors) {
+  try {
+    const Message findings = services.check_template(file);
+    if (findings.empty()) {
+      out << services.words(kTemplateGoodRow) << ' ' << WithReplacements(file.string()) << '\n';
+      return ExitCode::kDone;
+    }
+    out << services.words(kTemplateCheckedRow) << ' ' << WithReplacements(file.string()) << ":\n";
+    WriteMessage(findings, services.words, out);
+    return ExitCode::kFailed;
+  } catch (const Failure& failure) {
+    return TellFailure(failure, services.words, errors);
+  }
+}
+
 }  // namespace velmar::cli

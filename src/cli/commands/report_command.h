@@ -3,6 +3,7 @@
 #include <filesystem>
 #include <iosfwd>
 #include <map>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -17,9 +18,15 @@ struct ReportCommand {
   std::vector<std::filesystem::path> projects{};
   std::map<std::string, std::filesystem::path> targets{};  ///< by the format's extension; a file or a folder
   bool go_on_outside_ranges = false;                       ///< the answer to every question
+  std::optional<std::filesystem::path> checked_template{};  ///< no report: a template to be checked
   bool together = false;                                   ///< one document of all projects
   std::string title{};                                     ///< of that document; empty: the usual one
 };
+
+/// Says on `out` what is wrong with the document template `file`; writes nothing.
+/// @return "failed" when a report made of it would not be as its author meant
+ExitCode CheckTemplate(const std::filesystem::path& file, const Services& services, std::ostream& out,
+                       std::ostream& errors);
 
 /// Opens and runs every project and writes its reports, each file whole or not at all. A target that is a
 /// folder takes files named after the projects; several projects need one. Targets that would meet each

@@ -26,6 +26,9 @@ struct Services {
   /// What is known of the errors of calculations and models.
   std::function<validation::Accuracy()> accuracy = [] { return validation::Accuracy(); };
   std::vector<ReportFormat> report_formats{};  ///< each an option of `report`
+  /// What is wrong with a document template, a line each; empty where nothing draws. @throws Failure when no
+  /// report can be made of it
+  std::function<Message(const std::filesystem::path&)> check_template{};
   TogetherReports together{};                  ///< of `report --together`; without formats where nothing draws
 };
 

@@ -53,4 +53,6 @@ std::optional<Picture> SectionThumbnailOf(const elements::Setup& setup, const Wo
       true);
 }
 
+std::int64_t ReportSectionWidth() { return Emu(kWideMillimetres.width()); }
+
 }  // namespace velmar::presentation

@@ -5,12 +5,14 @@
 
 #include "foundation/message_rows.h"
 #include "presentation/reports/filled_text.h"
+#include "presentation/reports/outside_links.h"
 #include "presentation/reports/paragraph_text.h"
 #include "presentation/reports/picture_parts.h"
 #include "presentation/reports/relationships.h"
 #include "presentation/reports/template_failure.h"
 #include "presentation/reports/word_blocks.h"
 #include "presentation/reports/word_picture.h"
+#include "presentation/reports/word_room.h"
 #include "presentation/reports/word_rows.h"
 #include "presentation/reports/xml_part.h"
 
@@ -44,10 +46,13 @@ void RestoreBrackets(pugi::xml_node root) {
   for (const pugi::xml_node paragraph : ParagraphsOf(root)) {
     ParagraphText text(paragraph);
     const std::string joined = text.Text();
+    std::vector<ParagraphText::Replacement> brackets;
     for (std::size_t at = joined.find(kValueBracket); at != std::string::npos;
          at = joined.find(kValueBracket, at + 1)) {
-      text.Replace(at, 1, "[");
+      brackets.push_back({.begin = at, .length = 1, .value = "["});
     }
+    if (brackets.empty()) continue;
+    text.Replace(brackets);
     text.WriteBack([](pugi::xml_node, pugi::xml_node) {});
   }
 }
@@ -56,6 +61,8 @@ void RestoreBrackets(pugi::xml_node root) {
 
 WordDocument::WordDocument(std::string_view docx)
     : package_(docx), main_part_(MainPart(package_, "wordprocessingml")) {
+  RefuseDoctypes(package_);
+  CutOutsideLinks(package_);
   std::vector<std::string> names = {main_part_};
   for (const std::string_view kind : kStoryKinds) {
     const std::vector<std::string> targets = TargetsOf(package_, main_part_, kind);
@@ -81,6 +88,31 @@ void WordDocument::RepeatRows(const RowPattern& pattern) {
 
 void WordDocument::RemoveBlock(std::string_view start, std::string_view end) {
   for (StoryPart& part : parts_) part.changed |= RemoveBlocks(part.xml, start, end);
+}
+
+std::set<std::string> WordDocument::Unpaired(std::string_view start, std::string_view end) const {
+  std::set<std::string> unpaired;
+  for (const StoryPart& part : parts_) unpaired.merge(UnpairedMarkers(part.xml, start, end));
+  return unpaired;
+}
+
+std::vector<WidePicture> WordDocument::WidePictures(
+    const std::map<std::string, std::int64_t>& widths_emu) const {
+  std::vector<WidePicture> wide;
+  for (const StoryPart& part : parts_) {
+    const std::int64_t page = PageRoom(parts_.front().xml);
+    for (const pugi::xml_node paragraph : ParagraphsOf(part.xml)) {
+      const std::int64_t room = RoomOf(paragraph, page);
+      for (const auto& [name, width] : widths_emu) {
+        if (width > room && HoldsPlaceholder(ParagraphText(paragraph).Text(), name))
+          wide.push_back({"[" + name + "]", width, room});
+      }
+      for (const WidePicture& picture : PicturesIn(paragraph)) {
+        if (picture.width_emu > room) wide.push_back({picture.name, picture.width_emu, room});
+      }
+    }
+  }
+  return wide;
 }
 
 void WordDocument::RemoveMarker(std::string_view marker) {

@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "elements/catalogue.h"
+#include "foundation/message.h"
 #include "presentation/reports/report_record.h"
 
 namespace velmar::presentation {
@@ -16,6 +17,10 @@ std::string_view WordTemplateName(elements::Family family);
 struct WrittenReport {
   std::string bytes{};
   std::set<std::string> unknown_placeholders{};  ///< left in the document as they stood
+  std::set<std::string> unpaired_markers{};      ///< of blocks that stay because an end is missing
+
+  /// What the user is to know of it, a line each.
+  Message Remarks() const;
 };
 
 /// Fills the Word template `docx` with `record`. The same record and template give the same bytes.

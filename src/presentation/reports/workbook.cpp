@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "foundation/message_rows.h"
+#include "presentation/reports/outside_links.h"
 #include "presentation/reports/picture_parts.h"
 #include "presentation/reports/relationships.h"
 #include "presentation/reports/template_failure.h"
@@ -145,7 +146,11 @@ Workbook::Workbook(std::string_view xlsx)
       sheet_part_(FirstSheet(package_, main_part_)),
       styles_part_(StylesPart(package_, main_part_)),
       sheet_(package_.Part(sheet_part_), sheet_part_),
-      styles_(package_.Part(styles_part_), styles_part_) {}
+      styles_(package_.Part(styles_part_), styles_part_) {
+  RefuseDoctypes(package_);
+  for (const OutsideLink& link : OutsideLinksOf(package_))
+    throw TemplateFailure(kTemplateLinksRow, link.part + ": " + link.target);
+}
 
 void Workbook::ChangeStyle(Worksheet& sheet, CellPlace place, const StyleChange& change) {
   sheet.SetStyle(place, styles_.Derived(sheet.StyleOf(place), change));

@@ -138,8 +138,11 @@ std::string ChapterHeading(const ScheduleElement& element) {
 }
 
 void NameElements(std::vector<ScheduleElement>& elements, const std::vector<std::string>& projects) {
-  const std::set<std::string> different(projects.begin(), projects.end());
-  const bool speaking = different.size() == projects.size() && !different.contains("");
+  std::set<std::string> different = {""};
+  bool speaking = true;
+  for (std::size_t i = 0; i < elements.size(); ++i) {
+    if (elements[i].failure.empty()) speaking = different.insert(projects[i]).second && speaking;
+  }
   for (std::size_t i = 0; i < elements.size(); ++i) {
     const std::string& file = elements[i].file;
     elements[i].title = speaking ? projects[i] : file.substr(0, file.rfind('.'));

@@ -81,8 +81,8 @@ ScheduleElement ScheduleElementOf(const elements::Setup& setup, const elements::
 /// The chapter's heading: code and title.
 std::string ChapterHeading(const ScheduleElement& element);
 
-/// Gives every element its title: what its project is called where all are called differently, else the
-/// name of the file without ending.
+/// Gives every element its title: what its project is called where all that have a result are called
+/// differently, else the name of the file without ending.
 void NameElements(std::vector<ScheduleElement>& elements, const std::vector<std::string>& projects);
 
 /// The value that all of `texts` share; an empty text when they differ.

@@ -81,4 +81,10 @@ std::string WriteWordSchedule(std::string_view docx, const Schedule& schedule,
   return binder.Bytes();
 }
 
+std::set<std::string> SchedulePlaceholders() {
+  std::set<std::string> known = {"A_INDICE", "A_QUADRO", "A_NON_RIUSCITI", "A_CAPITOLI"};
+  for (const auto& [name, value] : CoverPlaceholders({}, {})) known.insert(name);
+  return known;
+}
+
 }  // namespace velmar::presentation

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <set>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -22,5 +23,8 @@ struct WordChapter {
 /// @throws TemplateFailure when a template cannot be used
 std::string WriteWordSchedule(std::string_view docx, const Schedule& schedule,
                               const std::vector<WordChapter>& chapters, const Words& words);
+
+/// Every placeholder that the template around the chapters may hold.
+std::set<std::string> SchedulePlaceholders();
 
 }  // namespace velmar::presentation

@@ -121,6 +121,8 @@ constexpr std::array<Command, kCommandCount> kCommands = {{
             Of<&Desk::paper, &PaperCommands::ChoosePrinter>},
     Command{kReportProjects,     0,  "relazione_progetti",        kScheduleMenuRow, {}, "",           "",       N::kNothing,
             Of<&Desk::reports, &ReportCommands::ReportProjects>},
+    Command{kCheckTemplate,      0,  "controlla_modello",         kCheckTemplateMenuRow, {}, "",           "",       N::kNothing,
+            Of<&Desk::reports, &ReportCommands::CheckTemplate>},
 }};
 // clang-format on
 

@@ -46,8 +46,9 @@ enum class CommandId {
   kAbout,
   kChoosePrinter,
   kReportProjects,
+  kCheckTemplate,
 };
-inline constexpr std::size_t kCommandCount = static_cast<std::size_t>(CommandId::kReportProjects) + 1;
+inline constexpr std::size_t kCommandCount = static_cast<std::size_t>(CommandId::kCheckTemplate) + 1;
 
 /// What must be there before a command can do anything.
 enum class Needs {

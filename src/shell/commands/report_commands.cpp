@@ -1,8 +1,10 @@
 #include "shell/commands/report_commands.h"
 
+#include <QDir>
 #include <QFileDialog>
 #include <system_error>
 
+#include "documents/template_file.h"
 #include "foundation/failure.h"
 #include "foundation/message_rows.h"
 #include "presentation/export/document_provenance.h"
@@ -22,8 +24,6 @@
 
 namespace velmar::shell {
 namespace {
-
-constexpr std::size_t kTemplateLimit = std::size_t{64} * 1024 * 1024;
 
 enum class Kind { kWord, kExcel };
 
@@ -75,17 +75,15 @@ QString Write(Kind kind, const std::filesystem::path& pattern, const presentatio
               const std::filesystem::path& file, const presentation::Words& words) {
   if (storage::IsOpenElsewhere(file))
     throw Failure({{kFillingFailedRow}}, "open elsewhere: " + file.string());
-  const std::string bytes = storage::ReadWhole(pattern, kTemplateLimit);
   QString told = Text(words, kDocumentSavedRow);
-  if (kind == Kind::kExcel) {
-    storage::WriteWhole(file, presentation::WriteExcelReport(bytes, record));
-    return told;
-  }
-  const presentation::WrittenReport report = presentation::WriteWordReport(bytes, record);
-  storage::WriteWhole(file, report.bytes);
-  if (report.unknown_placeholders.empty()) return told;
-  told += '\n' + Text(words, kUnknownPlaceholdersRow);
-  for (const std::string& name : report.unknown_placeholders) told += ' ' + FromUtf8(name);
+  const std::string bytes = documents::WithTemplate(pattern, [&](const std::string& from) {
+    if (kind == Kind::kExcel) return presentation::WriteExcelReport(from, record);
+    presentation::WrittenReport report = presentation::WriteWordReport(from, record);
+    const Message remarks = report.Remarks();
+    if (!remarks.empty()) told += '\n' + Text(words, remarks);
+    return std::move(report.bytes);
+  });
+  storage::WriteWhole(file, bytes);
   return told;
 }
 
@@ -133,6 +131,24 @@ void ReportCommands::ReportProjects(const Desk& desk) {
       &desk.window);
   if (!desk.files.File().empty()) dialog.Add({FromUtf8(desk.files.File().string())});
   dialog.exec();
+}
+
+void ReportCommands::CheckTemplate(const Desk& desk) {
+  const QString chosen = desk.speech.boxes.choose_file_to_open(
+      {.title = Text(desk.speech.words, kCheckTemplateMenuRow).remove(QChar(0x2026)),
+       .filter = Text(desk.speech.words, kTemplateFilesRow) + " (*.docx *.xlsx)",
+       .start = FromUtf8(templates_.string())});
+  if (chosen.isEmpty()) return;
+  try {
+    const Message findings = documents::CheckTemplateFile(ToUtf8(chosen));
+    const QString name = QDir::toNativeSeparators(chosen);
+    desk.speech.boxes.tell(findings.empty() ? Tone::kInformation : Tone::kCritical,
+                           findings.empty() ? Text(desk.speech.words, kTemplateGoodRow) + ' ' + name
+                                            : Text(desk.speech.words, kTemplateCheckedRow) + ' ' + name +
+                                                  ":\n" + Text(desk.speech.words, findings));
+  } catch (const Failure& failure) {
+    desk.speech.boxes.tell(Tone::kCritical, Text(desk.speech.words, failure.UserMessage()));
+  }
 }
 
 }  // namespace velmar::shell

@@ -34,6 +34,8 @@ class ReportCommands : public QObject {
   void ExportExcel(const velmar::shell::Desk& desk);
   /// Opens the window that makes one document of several projects.
   void ReportProjects(const velmar::shell::Desk& desk);
+  /// Asks for a document template and says what is wrong with it.
+  void CheckTemplate(const velmar::shell::Desk& desk);
 
  private:
   std::filesystem::path templates_;
