@@ -14,7 +14,7 @@
 #include <utility>
 #include <vector>
 
-#include "presentation/reports/package.h"
+#include "presentation/documents/package.h"
 
 namespace {
 

@@ -1,7 +1,7 @@
 #include "application/project_run.h"
 
 #include "application/projects.h"
-#include "calculation/open_calculation.h"
+#include "calculation/open/open_calculation.h"
 #include "foundation/failure.h"
 #include "foundation/message_rows.h"
 

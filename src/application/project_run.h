@@ -2,8 +2,8 @@
 
 #include <filesystem>
 
-#include "calculation/run.h"
-#include "calculation/totals.h"
+#include "calculation/runs/run.h"
+#include "calculation/runs/totals.h"
 #include "elements/material_record.h"
 #include "elements/setup.h"
 #include "storage/project/project_reader.h"

@@ -4,7 +4,7 @@
 #include <string_view>
 #include <utility>
 
-#include "calculation/select_calculation.h"
+#include "calculation/edits/select_calculation.h"
 #include "foundation/failure.h"
 
 namespace velmar::application {

@@ -3,7 +3,7 @@
 #include <functional>
 #include <string>
 
-#include "calculation/totals.h"
+#include "calculation/runs/totals.h"
 #include "elements/result_set.h"
 #include "elements/setup.h"
 #include "foundation/message.h"

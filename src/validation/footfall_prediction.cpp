@@ -4,7 +4,7 @@
 #include <variant>
 
 #include "acoustics/impact_numbers.h"
-#include "calculation/entered_numbers.h"
+#include "calculation/runs/entered_numbers.h"
 
 namespace velmar::validation {
 namespace {

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "calculation/multilayer_input.h"
+#include "calculation/runs/multilayer_input.h"
 #include "foundation/decimal.h"
 #include "validation/element_kind.h"
 

@@ -5,7 +5,7 @@
 #include <variant>
 #include <vector>
 
-#include "calculation/run.h"
+#include "calculation/runs/run.h"
 #include "foundation/decimal.h"
 #include "validation/layered_input.h"
 #include "validation/model_prediction.h"

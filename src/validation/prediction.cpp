@@ -5,8 +5,8 @@
 
 #include "acoustics/airborne_numbers.h"
 #include "acoustics/airborne_rating.h"
-#include "calculation/run.h"
-#include "calculation/totals.h"
+#include "calculation/runs/run.h"
+#include "calculation/runs/totals.h"
 #include "elements/parts.h"
 #include "foundation/decimal.h"
 

@@ -6,7 +6,7 @@
 
 #include "acoustics/airborne_rating.h"
 #include "acoustics/impact_numbers.h"
-#include "calculation/run.h"
+#include "calculation/runs/run.h"
 #include "foundation/decimal.h"
 #include "foundation/failure.h"
 #include "foundation/message_rows.h"

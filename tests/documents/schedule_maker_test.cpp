@@ -11,7 +11,7 @@
 
 #include "foundation/failure.h"
 #include "foundation/message_rows.h"
-#include "presentation/reports/package.h"
+#include "presentation/documents/package.h"
 #include "storage/materials/material_store.h"
 #include "tests/presentation/drawing/catalogue_words.h"
 #include "tests/storage/support/temporary_folder.h"

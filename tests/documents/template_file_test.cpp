@@ -9,9 +9,9 @@
 
 #include "foundation/failure.h"
 #include "foundation/message_rows.h"
-#include "presentation/reports/package.h"
-#include "presentation/reports/relationships.h"
-#include "presentation/reports/word_document.h"
+#include "presentation/documents/package.h"
+#include "presentation/documents/relationships.h"
+#include "presentation/documents/word_document.h"
 #include "presentation/reports/word_report.h"
 #include "presentation/texts/words.h"
 #include "tests/presentation/drawing/catalogue_words.h"

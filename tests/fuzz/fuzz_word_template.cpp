@@ -1,6 +1,6 @@
 // A Word template is filled or refused; what was filled opens again.
 #include "foundation/failure.h"
-#include "presentation/reports/word_document.h"
+#include "presentation/documents/word_document.h"
 #include "tests/fuzz/outside_bytes.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {

@@ -5,7 +5,7 @@
 
 #include <gtest/gtest.h>
 
-#include "calculation/run.h"
+#include "calculation/runs/run.h"
 #include "tests/validation/shipped_measurements.h"
 #include "validation/accuracy.h"
 #include "validation/model_prediction.h"

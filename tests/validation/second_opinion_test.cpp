@@ -5,7 +5,7 @@
 
 #include <gtest/gtest.h>
 
-#include "calculation/run.h"
+#include "calculation/runs/run.h"
 #include "tests/validation/shipped_measurements.h"
 #include "validation/model_choice.h"
 #include "validation/model_prediction.h"
@@ -172,7 +172,8 @@ TEST(ConfidenceLines, OfAFloorSpeakOfLevels) {
   const elements::Setup setup = SetupOf("fl-mat-8-screed30-tile", Calculation::kImpactFloatingFloor);
   elements::ResultSet result;
   result.lnw = 62.0;
-  const Message lines = ConfidenceLines(setup, result, {.interval = Interval{.low = 48, .high = 58, .count = 9}});
+  const Message lines =
+      ConfidenceLines(setup, result, {.interval = Interval{.low = 48, .high = 58, .count = 9}});
   ASSERT_EQ(lines.size(), 2U);
   EXPECT_EQ(lines[0].front(), MessagePiece(std::string("Ln,w 62 dB · ")));
   EXPECT_EQ(lines[1], MessageLine{MessageRow{3319}});

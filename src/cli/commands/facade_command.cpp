@@ -5,7 +5,7 @@
 #include <string_view>
 
 #include "application/projects.h"
-#include "calculation/facade_parts.h"
+#include "calculation/edits/facade_parts.h"
 #include "cli/output/failure_report.h"
 #include "cli/output/outcome_table.h"
 #include "foundation/decimal.h"

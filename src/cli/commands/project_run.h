@@ -3,8 +3,8 @@
 #include <filesystem>
 #include <vector>
 
-#include "calculation/run.h"
-#include "calculation/totals.h"
+#include "calculation/runs/run.h"
+#include "calculation/runs/totals.h"
 #include "cli/output/exit_code.h"
 #include "cli/output/outcome_json.h"
 #include "elements/material_record.h"

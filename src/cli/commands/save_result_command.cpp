@@ -5,7 +5,7 @@
 #include <nlohmann/json.hpp>
 
 #include "application/projects.h"
-#include "calculation/open_calculation.h"
+#include "calculation/open/open_calculation.h"
 #include "cli/output/failure_report.h"
 #include "cli/output/outcome_json.h"
 #include "cli/output/outcome_table.h"

@@ -6,8 +6,8 @@
 
 #include <nlohmann/json_fwd.hpp>
 
-#include "calculation/run.h"
-#include "calculation/totals.h"
+#include "calculation/runs/run.h"
+#include "calculation/runs/totals.h"
 #include "elements/result_set.h"
 #include "elements/single_numbers.h"
 #include "presentation/texts/words.h"

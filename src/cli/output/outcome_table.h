@@ -3,7 +3,7 @@
 #include <iosfwd>
 #include <span>
 
-#include "calculation/totals.h"
+#include "calculation/runs/totals.h"
 #include "cli/output/outcome_json.h"
 #include "elements/result_set.h"
 #include "elements/single_numbers.h"

@@ -5,7 +5,7 @@
 #include <functional>
 #include <string>
 
-#include "presentation/reports/picture.h"
+#include "presentation/documents/picture.h"
 
 class QPainter;
 class QRectF;

@@ -3,8 +3,8 @@
 #include <cstdint>
 #include <optional>
 
+#include "presentation/documents/picture.h"
 #include "presentation/drawing/curve_chart.h"
-#include "presentation/reports/picture.h"
 
 namespace velmar::presentation {
 

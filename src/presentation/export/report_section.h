@@ -4,7 +4,7 @@
 #include <optional>
 
 #include "elements/setup.h"
-#include "presentation/reports/picture.h"
+#include "presentation/documents/picture.h"
 #include "presentation/reports/report_record.h"
 #include "presentation/texts/words.h"
 

@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "foundation/decimal.h"
-#include "presentation/reports/cell_text.h"
+#include "presentation/documents/cell_text.h"
 
 namespace velmar::presentation {
 namespace {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "presentation/reports/workbook.h"
+#include "presentation/documents/workbook.h"
 #include "presentation/texts/calculation_data.h"
 
 namespace velmar::presentation {

@@ -2,10 +2,10 @@
 
 #include "elements/catalogue.h"
 #include "foundation/decimal.h"
-#include "presentation/reports/cell_text.h"
+#include "presentation/documents/cell_text.h"
+#include "presentation/documents/workbook.h"
 #include "presentation/reports/data_sheet.h"
 #include "presentation/reports/layer_table.h"
-#include "presentation/reports/workbook.h"
 
 namespace velmar::presentation {
 namespace {

@@ -4,7 +4,7 @@
 #include <string_view>
 
 #include "presentation/reports/report_record.h"
-#include "presentation/reports/workbook.h"
+#include "presentation/documents/workbook.h"
 
 namespace velmar::presentation {
 

@@ -5,7 +5,7 @@
 
 #include "elements/catalogue.h"
 #include "foundation/decimal.h"
-#include "presentation/reports/cell_text.h"
+#include "presentation/documents/cell_text.h"
 #include "presentation/reports/word_placeholders.h"
 
 namespace velmar::presentation {

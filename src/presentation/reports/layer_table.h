@@ -1,7 +1,7 @@
 #pragma once
 
+#include "presentation/documents/workbook.h"
 #include "presentation/reports/report_record.h"
-#include "presentation/reports/workbook.h"
 
 namespace velmar::presentation {
 

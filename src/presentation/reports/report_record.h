@@ -8,7 +8,7 @@
 #include "acoustics/bands.h"
 #include "elements/result_set.h"
 #include "elements/setup.h"
-#include "presentation/reports/picture.h"
+#include "presentation/documents/picture.h"
 #include "presentation/reports/structure_rows.h"
 #include "presentation/texts/calculation_data.h"
 #include "presentation/texts/words.h"

@@ -5,9 +5,8 @@
 #include <string>
 #include <string_view>
 
-#include "presentation/reports/placeholders.h"
+#include "presentation/documents/placeholders.h"
 #include "presentation/reports/report_record.h"
-#include "presentation/reports/word_document.h"
 
 namespace velmar::presentation {
 

@@ -4,8 +4,8 @@
 #include <vector>
 
 #include "foundation/message_rows.h"
-#include "presentation/reports/word_content.h"
-#include "presentation/reports/word_document.h"
+#include "presentation/documents/word_content.h"
+#include "presentation/documents/word_document.h"
 #include "presentation/reports/word_placeholders.h"
 
 namespace velmar::presentation {

@@ -4,7 +4,7 @@
 #include <functional>
 #include <utility>
 
-#include "presentation/reports/xml_part.h"
+#include "presentation/documents/xml_part.h"
 
 namespace velmar::presentation {
 namespace {

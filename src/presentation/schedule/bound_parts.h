@@ -8,8 +8,8 @@
 
 #include <pugixml.hpp>
 
-#include "presentation/reports/package.h"
-#include "presentation/reports/relationships.h"
+#include "presentation/documents/package.h"
+#include "presentation/documents/relationships.h"
 
 namespace velmar::presentation {
 

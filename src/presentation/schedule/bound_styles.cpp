@@ -4,7 +4,7 @@
 #include <sstream>
 #include <utility>
 
-#include "presentation/reports/xml_part.h"
+#include "presentation/documents/xml_part.h"
 
 namespace velmar::presentation {
 namespace {

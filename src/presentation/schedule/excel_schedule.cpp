@@ -5,9 +5,9 @@
 #include <utility>
 
 #include "foundation/utf8.h"
-#include "presentation/reports/cell_text.h"
+#include "presentation/documents/cell_text.h"
 #include "presentation/reports/excel_report.h"
-#include "presentation/reports/workbook.h"
+#include "presentation/documents/workbook.h"
 
 namespace velmar::presentation {
 namespace {

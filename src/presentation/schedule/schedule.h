@@ -7,7 +7,7 @@
 
 #include "elements/result_set.h"
 #include "elements/setup.h"
-#include "presentation/reports/picture.h"
+#include "presentation/documents/picture.h"
 #include "presentation/reports/report_record.h"
 #include "presentation/texts/words.h"
 

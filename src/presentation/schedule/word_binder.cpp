@@ -6,11 +6,11 @@
 #include <sstream>
 
 #include "foundation/message_rows.h"
-#include "presentation/reports/paragraph_text.h"
-#include "presentation/reports/placeholders.h"
-#include "presentation/reports/relationships.h"
-#include "presentation/reports/template_failure.h"
-#include "presentation/reports/xml_part.h"
+#include "presentation/documents/paragraph_text.h"
+#include "presentation/documents/placeholders.h"
+#include "presentation/documents/relationships.h"
+#include "presentation/documents/template_failure.h"
+#include "presentation/documents/xml_part.h"
 #include "presentation/schedule/bound_notes.h"
 #include "presentation/schedule/word_contents.h"
 

@@ -9,7 +9,7 @@
 
 #include <pugixml.hpp>
 
-#include "presentation/reports/package.h"
+#include "presentation/documents/package.h"
 #include "presentation/schedule/bound_parts.h"
 #include "presentation/schedule/bound_styles.h"
 

@@ -1,6 +1,6 @@
 #include "presentation/schedule/word_contents.h"
 
-#include "presentation/reports/xml_part.h"
+#include "presentation/documents/xml_part.h"
 
 namespace velmar::presentation {
 namespace {

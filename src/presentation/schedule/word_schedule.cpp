@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <map>
 
-#include "presentation/reports/word_content.h"
-#include "presentation/reports/word_document.h"
+#include "presentation/documents/word_content.h"
+#include "presentation/documents/word_document.h"
 #include "presentation/schedule/word_binder.h"
 
 namespace velmar::presentation {

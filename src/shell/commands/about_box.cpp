@@ -8,9 +8,9 @@
 #include <QVBoxLayout>
 
 #include "foundation/message_rows.h"
-#include "shell/fields/boxes.h"
-#include "shell/fields/icons.h"
-#include "shell/fields/phrases.h"
+#include "shell/windows/boxes.h"
+#include "shell/windows/icons.h"
+#include "shell/windows/phrases.h"
 
 namespace velmar::shell {
 namespace {

@@ -14,7 +14,7 @@
 
 #include "foundation/message_rows.h"
 #include "shell/commands/calculation_captions.h"
-#include "shell/fields/phrases.h"
+#include "shell/windows/phrases.h"
 
 namespace velmar::shell {
 namespace {

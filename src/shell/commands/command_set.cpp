@@ -3,8 +3,8 @@
 #include <QAction>
 #include <QKeySequence>
 
-#include "shell/fields/icons.h"
-#include "shell/fields/phrases.h"
+#include "shell/windows/icons.h"
+#include "shell/windows/phrases.h"
 
 namespace velmar::shell {
 

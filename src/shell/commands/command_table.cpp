@@ -13,11 +13,11 @@
 #include "shell/commands/report_commands.h"
 #include "shell/commands/run_command.h"
 #include "shell/commands/structure_commands.h"
-#include "shell/fields/phrases.h"
 #include "shell/project/dimension_dialog.h"
 #include "shell/project/project_files.h"
 #include "shell/project/project_information_dialog.h"
 #include "shell/results/open_table.h"
+#include "shell/windows/phrases.h"
 
 namespace velmar::shell {
 namespace {

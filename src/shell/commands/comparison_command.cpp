@@ -3,7 +3,7 @@
 #include <utility>
 
 #include "elements/catalogue.h"
-#include "shell/fields/docked.h"
+#include "shell/windows/docked.h"
 
 namespace velmar::shell {
 

@@ -3,12 +3,12 @@
 #include <QPointer>
 
 #include "acoustics/bands.h"
-#include "calculation/open_calculation.h"
+#include "calculation/open/open_calculation.h"
 #include "presentation/drawing/curve_chart.h"
-#include "shell/fields/window_tools.h"
 #include "shell/results/chart_overlay.h"
 #include "shell/structures/comparison_window.h"
 #include "shell/structures/structure_sources.h"
+#include "shell/windows/window_tools.h"
 
 namespace velmar::shell {
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "calculation/open_calculation.h"
-#include "shell/fields/boxes.h"
+#include "calculation/open/open_calculation.h"
+#include "shell/windows/boxes.h"
 #include "validation/known_accuracy.h"
 
 class QWidget;

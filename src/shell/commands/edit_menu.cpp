@@ -2,10 +2,10 @@
 
 #include <QAction>
 
-#include "calculation/layer_moves.h"
+#include "calculation/edits/layer_moves.h"
 #include "foundation/message_rows.h"
 #include "shell/commands/step_words.h"
-#include "shell/fields/phrases.h"
+#include "shell/windows/phrases.h"
 
 namespace velmar::shell {
 

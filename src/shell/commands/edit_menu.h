@@ -2,7 +2,7 @@
 
 #include <QMenu>
 
-#include "calculation/open_calculation.h"
+#include "calculation/open/open_calculation.h"
 #include "presentation/texts/words.h"
 
 namespace velmar::shell {

@@ -4,7 +4,7 @@
 
 #include "foundation/message_rows.h"
 #include "shell/commands/about_box.h"
-#include "shell/fields/phrases.h"
+#include "shell/windows/phrases.h"
 
 namespace velmar::shell {
 namespace {

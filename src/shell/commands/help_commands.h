@@ -5,7 +5,7 @@
 #include <filesystem>
 #include <functional>
 
-#include "shell/fields/boxes.h"
+#include "shell/windows/boxes.h"
 
 class QWidget;
 

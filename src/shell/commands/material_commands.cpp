@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "calculation/layer_edits.h"
+#include "calculation/edits/layer_edits.h"
 #include "elements/parts.h"
 #include "foundation/message_rows.h"
 #include "foundation/utf8.h"

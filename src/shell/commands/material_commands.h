@@ -7,15 +7,15 @@
 #include <optional>
 #include <string>
 
-#include "calculation/open_calculation.h"
+#include "calculation/open/open_calculation.h"
 #include "shell/commands/own_tools.h"
-#include "shell/fields/boxes.h"
 #include "shell/fields/material_change.h"
-#include "shell/fields/window_tools.h"
 #include "shell/materials/material_list_window.h"
 #include "shell/materials/material_source.h"
 #include "shell/materials/material_tree_window.h"
-#include "shell/pages/page_services.h"
+#include "shell/page_parts/page_services.h"
+#include "shell/windows/boxes.h"
+#include "shell/windows/window_tools.h"
 #include "storage/materials/material_store.h"
 
 namespace velmar::shell {

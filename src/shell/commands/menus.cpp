@@ -9,7 +9,7 @@
 #include "shell/commands/calculation_menu.h"
 #include "shell/commands/command_set.h"
 #include "shell/commands/help_commands.h"
-#include "shell/fields/phrases.h"
+#include "shell/windows/phrases.h"
 
 namespace velmar::shell {
 namespace {

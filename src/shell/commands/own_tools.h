@@ -4,8 +4,8 @@
 #include <filesystem>
 #include <memory>
 
-#include "shell/fields/boxes.h"
-#include "shell/fields/window_tools.h"
+#include "shell/windows/boxes.h"
+#include "shell/windows/window_tools.h"
 
 namespace velmar::shell {
 

@@ -3,7 +3,7 @@
 #include <QObject>
 #include <optional>
 
-#include "calculation/open_calculation.h"
+#include "calculation/open/open_calculation.h"
 #include "presentation/drawing/curve_chart.h"
 #include "shell/commands/desk.h"
 #include "shell/printing/page_printer.h"

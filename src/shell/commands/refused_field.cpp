@@ -3,7 +3,7 @@
 #include <array>
 
 #include "elements/layer_groups.h"
-#include "shell/fields/phrases.h"
+#include "shell/windows/phrases.h"
 
 namespace velmar::shell {
 namespace {

@@ -6,8 +6,8 @@
 
 #include "foundation/message_rows.h"
 #include "shell/commands/refused_field.h"
-#include "shell/fields/phrases.h"
 #include "shell/fields/reveal.h"
+#include "shell/windows/phrases.h"
 
 namespace velmar::shell {
 namespace {

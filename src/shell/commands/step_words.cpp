@@ -2,7 +2,7 @@
 
 #include "elements/parts.h"
 #include "foundation/message_rows.h"
-#include "shell/fields/phrases.h"
+#include "shell/windows/phrases.h"
 
 namespace velmar::shell {
 namespace {

@@ -2,7 +2,7 @@
 
 #include <QString>
 
-#include "calculation/history.h"
+#include "calculation/open/history.h"
 #include "elements/setup.h"
 #include "presentation/texts/words.h"
 

@@ -3,16 +3,16 @@
 #include <QWidget>
 #include <utility>
 
-#include "calculation/facade_parts.h"
+#include "calculation/edits/facade_parts.h"
 #include "elements/catalogue.h"
 #include "foundation/failure.h"
 #include "foundation/message_rows.h"
 #include "presentation/texts/descriptions.h"
 #include "presentation/texts/result_notes.h"
-#include "shell/fields/long_work.h"
-#include "shell/fields/phrases.h"
-#include "shell/pages/element_parts.h"
+#include "shell/page_parts/element_parts.h"
 #include "shell/structures/saved_results_window.h"
+#include "shell/windows/long_work.h"
+#include "shell/windows/phrases.h"
 #include "storage/results/result_to_save.h"
 #include "storage/results/results_store.h"
 

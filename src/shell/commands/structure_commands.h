@@ -7,14 +7,14 @@
 #include <string>
 #include <vector>
 
-#include "calculation/open_calculation.h"
+#include "calculation/open/open_calculation.h"
 #include "shell/commands/comparison_command.h"
 #include "shell/commands/own_tools.h"
-#include "shell/fields/boxes.h"
-#include "shell/fields/window_tools.h"
-#include "shell/pages/page_services.h"
+#include "shell/page_parts/page_services.h"
 #include "shell/structures/measured_library_window.h"
 #include "shell/structures/store_sources.h"
+#include "shell/windows/boxes.h"
+#include "shell/windows/window_tools.h"
 
 namespace velmar::shell {
 

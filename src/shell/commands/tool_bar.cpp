@@ -9,8 +9,8 @@
 #include "foundation/message_rows.h"
 #include "shell/commands/calculation_menu.h"
 #include "shell/commands/command_set.h"
-#include "shell/fields/icons.h"
-#include "shell/fields/phrases.h"
+#include "shell/windows/icons.h"
+#include "shell/windows/phrases.h"
 
 namespace velmar::shell {
 namespace {

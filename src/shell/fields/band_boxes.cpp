@@ -13,7 +13,7 @@
 #include "foundation/message_rows.h"
 #include "shell/fields/number_field.h"
 #include "shell/fields/pasted_bands.h"
-#include "shell/fields/phrases.h"
+#include "shell/windows/phrases.h"
 
 namespace velmar::shell {
 namespace {

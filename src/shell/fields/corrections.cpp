@@ -2,7 +2,7 @@
 
 #include "foundation/message_rows.h"
 #include "shell/fields/field_note.h"
-#include "shell/fields/phrases.h"
+#include "shell/windows/phrases.h"
 
 namespace velmar::shell {
 namespace {

@@ -7,8 +7,8 @@
 #include <QWheelEvent>
 
 #include "shell/fields/number_field.h"
-#include "shell/fields/phrases.h"
 #include "shell/fields/selection.h"
+#include "shell/windows/phrases.h"
 
 namespace velmar::shell {
 

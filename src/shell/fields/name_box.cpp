@@ -3,8 +3,8 @@
 #include <QFocusEvent>
 #include <QLineEdit>
 
-#include "shell/fields/phrases.h"
 #include "shell/fields/selection.h"
+#include "shell/windows/phrases.h"
 
 namespace velmar::shell {
 

@@ -8,8 +8,8 @@
 
 #include "foundation/decimal.h"
 #include "shell/fields/key_filters.h"
-#include "shell/fields/phrases.h"
 #include "shell/fields/selection.h"
+#include "shell/windows/phrases.h"
 
 namespace velmar::shell {
 namespace {

@@ -7,7 +7,7 @@
 #include "foundation/decimal.h"
 #include "foundation/rounding.h"
 #include "shell/fields/number_field.h"
-#include "shell/fields/phrases.h"
+#include "shell/windows/phrases.h"
 
 namespace velmar::shell {
 namespace {

@@ -6,7 +6,7 @@
 
 #include "acoustics/bands.h"
 #include "foundation/decimal.h"
-#include "shell/fields/phrases.h"
+#include "shell/windows/phrases.h"
 
 namespace velmar::shell {
 namespace {

@@ -6,8 +6,8 @@
 #include <QLineEdit>
 
 #include "shell/fields/name_search.h"
-#include "shell/fields/phrases.h"
 #include "shell/fields/selection.h"
+#include "shell/windows/phrases.h"
 
 namespace velmar::shell {
 

@@ -1,10 +1,10 @@
 #include "shell/main_window/continuous_switch.h"
 
 #include "foundation/message_rows.h"
-#include "shell/fields/icons.h"
-#include "shell/fields/phrases.h"
 #include "shell/project/window_memory.h"
 #include "shell/results/continuous_calculation.h"
+#include "shell/windows/icons.h"
+#include "shell/windows/phrases.h"
 
 namespace velmar::shell {
 

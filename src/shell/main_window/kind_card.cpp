@@ -5,7 +5,7 @@
 #include <QPainter>
 #include <QToolButton>
 
-#include "shell/fields/icons.h"
+#include "shell/windows/icons.h"
 
 namespace velmar::shell {
 namespace {

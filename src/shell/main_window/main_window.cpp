@@ -13,16 +13,14 @@
 #include <QStatusBar>
 #include <QVBoxLayout>
 
-#include "calculation/select_calculation.h"
-#include "calculation/usual_layers.h"
+#include "calculation/edits/select_calculation.h"
+#include "calculation/edits/usual_layers.h"
 #include "foundation/failure.h"
 #include "foundation/message_rows.h"
 #include "shell/commands/edit_menu.h"
 #include "shell/commands/menus.h"
 #include "shell/commands/tool_bar.h"
-#include "shell/fields/icons.h"
 #include "shell/fields/material_change.h"
-#include "shell/fields/phrases.h"
 #include "shell/main_window/continuous_switch.h"
 #include "shell/main_window/start_screen.h"
 #include "shell/pages/element_header.h"
@@ -31,6 +29,8 @@
 #include "shell/results/results_panel.h"
 #include "shell/results/variant_strip.h"
 #include "shell/second_opinion/second_opinion_panel.h"
+#include "shell/windows/icons.h"
+#include "shell/windows/phrases.h"
 
 namespace velmar::shell {
 namespace {

@@ -8,7 +8,7 @@
 #include "shell/commands/command_set.h"
 #include "shell/commands/help_commands.h"
 #include "shell/main_window/window_services.h"
-#include "shell/pages/page_context.h"
+#include "shell/page_parts/page_context.h"
 #include "shell/project/open_work.h"
 #include "shell/project/project_files.h"
 #include "shell/project/recovery.h"

@@ -4,7 +4,7 @@
 #include <QPainter>
 #include <QStyledItemDelegate>
 
-#include "shell/fields/icons.h"
+#include "shell/windows/icons.h"
 
 namespace velmar::shell {
 namespace {

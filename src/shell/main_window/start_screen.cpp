@@ -10,9 +10,9 @@
 #include "foundation/message_rows.h"
 #include "shell/commands/calculation_menu.h"
 #include "shell/commands/command_table.h"
-#include "shell/fields/phrases.h"
 #include "shell/main_window/kind_card.h"
 #include "shell/main_window/project_list.h"
+#include "shell/windows/phrases.h"
 
 namespace velmar::shell {
 namespace {

@@ -2,16 +2,16 @@
 
 #include <filesystem>
 
-#include "calculation/open_calculation.h"
+#include "calculation/open/open_calculation.h"
 #include "shell/commands/help_commands.h"
 #include "shell/commands/material_commands.h"
 #include "shell/commands/paper_commands.h"
 #include "shell/commands/report_commands.h"
 #include "shell/commands/structure_commands.h"
-#include "shell/fields/boxes.h"
-#include "shell/pages/page_services.h"
+#include "shell/page_parts/page_services.h"
 #include "shell/project/project_services.h"
 #include "shell/results/chart_overlay.h"
+#include "shell/windows/boxes.h"
 #include "validation/known_accuracy.h"
 
 namespace velmar::shell {

@@ -5,7 +5,7 @@
 #include <QKeyEvent>
 
 #include "materials/pasted_absorption.h"
-#include "shell/fields/window_tools.h"
+#include "shell/windows/window_tools.h"
 
 namespace velmar::material_editors {
 namespace {

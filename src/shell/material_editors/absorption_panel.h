@@ -8,7 +8,7 @@
 
 #include "elements/materials.h"
 #include "presentation/drawing/absorption_chart.h"
-#include "shell/fields/window_tools.h"
+#include "shell/windows/window_tools.h"
 
 class QPushButton;
 

@@ -6,7 +6,7 @@
 #include "elements/layer_groups.h"
 #include "materials/keywords.h"
 #include "shell/fields/material_change.h"
-#include "shell/fields/window_tools.h"
+#include "shell/windows/window_tools.h"
 #include "storage/materials/material_store.h"
 
 class QWidget;

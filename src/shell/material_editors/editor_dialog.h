@@ -5,8 +5,8 @@
 #include <string>
 #include <vector>
 
-#include "shell/fields/window_tools.h"
 #include "shell/material_editors/edited_material.h"
+#include "shell/windows/window_tools.h"
 
 class QHBoxLayout;
 class QLineEdit;

@@ -5,8 +5,8 @@
 #include <QLineEdit>
 
 #include "foundation/message_rows.h"
-#include "shell/fields/picture_view.h"
 #include "shell/material_editors/number_box.h"
+#include "shell/windows/picture_view.h"
 
 namespace velmar::material_editors {
 namespace {

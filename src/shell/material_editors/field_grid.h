@@ -3,7 +3,7 @@
 #include <filesystem>
 
 #include "foundation/message.h"
-#include "shell/fields/window_tools.h"
+#include "shell/windows/window_tools.h"
 
 class QGridLayout;
 class QLabel;

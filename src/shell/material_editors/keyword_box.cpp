@@ -3,7 +3,7 @@
 #include <QCompleter>
 #include <QWheelEvent>
 
-#include "shell/fields/window_tools.h"
+#include "shell/windows/window_tools.h"
 
 namespace velmar::material_editors {
 

@@ -8,7 +8,7 @@
 
 #include "foundation/decimal.h"
 #include "shell/fields/key_filters.h"
-#include "shell/fields/window_tools.h"
+#include "shell/windows/window_tools.h"
 
 namespace velmar::material_editors {
 namespace {

@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "elements/layer_groups.h"
-#include "shell/fields/window_tools.h"
+#include "shell/windows/window_tools.h"
 #include "storage/tables/cell.h"
 
 namespace velmar::shell {

@@ -14,8 +14,8 @@
 
 #include "foundation/message_rows.h"
 #include "presentation/texts/words.h"
-#include "shell/fields/button_row.h"
 #include "shell/materials/material_texts.h"
+#include "shell/windows/button_row.h"
 
 namespace velmar::shell {
 namespace {

@@ -7,10 +7,10 @@
 #include <string>
 #include <vector>
 
-#include "shell/fields/window_tools.h"
 #include "shell/materials/material_grid.h"
 #include "shell/materials/material_model.h"
 #include "shell/materials/material_source.h"
+#include "shell/windows/window_tools.h"
 
 class QCheckBox;
 class QLabel;

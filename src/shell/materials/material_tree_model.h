@@ -10,7 +10,7 @@
 
 #include "elements/layer_groups.h"
 #include "shell/fields/dragged_material.h"
-#include "shell/fields/window_tools.h"
+#include "shell/windows/window_tools.h"
 #include "storage/materials/material_row.h"
 
 namespace velmar::shell {

@@ -6,9 +6,9 @@
 #include <vector>
 
 #include "shell/fields/dragged_material.h"
-#include "shell/fields/window_tools.h"
 #include "shell/materials/material_source.h"
 #include "shell/materials/material_tree_model.h"
+#include "shell/windows/window_tools.h"
 
 class QFormLayout;
 class QLabel;

@@ -2,7 +2,7 @@
 
 #include <memory>
 
-#include "shell/fields/long_work.h"
+#include "shell/windows/long_work.h"
 #include "storage/materials/material_store.h"
 
 namespace velmar::shell {

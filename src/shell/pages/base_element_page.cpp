@@ -8,9 +8,9 @@
 #include "foundation/message_rows.h"
 #include "shell/fields/number_field.h"
 #include "shell/fields/number_steps.h"
-#include "shell/fields/phrases.h"
-#include "shell/pages/element_form.h"
-#include "shell/pages/page_parts.h"
+#include "shell/page_parts/element_form.h"
+#include "shell/page_parts/page_layout.h"
+#include "shell/windows/phrases.h"
 
 namespace velmar::shell {
 namespace {

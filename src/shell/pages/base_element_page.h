@@ -1,7 +1,7 @@
 #pragma once
 
+#include "shell/page_parts/page_context.h"
 #include "shell/pages/page.h"
-#include "shell/pages/page_context.h"
 
 class QCheckBox;
 class QLabel;

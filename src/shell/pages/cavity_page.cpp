@@ -7,8 +7,8 @@
 #include <QRadioButton>
 #include <QVBoxLayout>
 
-#include "calculation/cavity_rules.h"
-#include "calculation/count_rules.h"
+#include "calculation/edits/cavity_rules.h"
+#include "calculation/edits/count_rules.h"
 #include "foundation/decimal.h"
 #include "foundation/message_rows.h"
 #include "shell/fields/corrections.h"
@@ -16,9 +16,9 @@
 #include "shell/fields/list_boxes.h"
 #include "shell/fields/number_field.h"
 #include "shell/fields/number_steps.h"
-#include "shell/fields/phrases.h"
-#include "shell/pages/layer_row.h"
-#include "shell/pages/page_parts.h"
+#include "shell/page_parts/layer_row.h"
+#include "shell/page_parts/page_layout.h"
+#include "shell/windows/phrases.h"
 
 namespace velmar::shell {
 namespace {

@@ -3,8 +3,8 @@
 #include <array>
 #include <vector>
 
+#include "shell/page_parts/page_context.h"
 #include "shell/pages/page.h"
-#include "shell/pages/page_context.h"
 
 class QLabel;
 class QRadioButton;

@@ -8,16 +8,16 @@
 #include <QTabWidget>
 #include <QVBoxLayout>
 
-#include "calculation/count_rules.h"
-#include "calculation/element_choice.h"
+#include "calculation/edits/count_rules.h"
+#include "calculation/edits/element_choice.h"
 #include "foundation/decimal.h"
 #include "foundation/message_rows.h"
 #include "shell/fields/list_boxes.h"
-#include "shell/fields/phrases.h"
-#include "shell/pages/element_form.h"
-#include "shell/pages/facade_table.h"
-#include "shell/pages/layer_row.h"
-#include "shell/pages/page_parts.h"
+#include "shell/page_parts/element_form.h"
+#include "shell/page_parts/facade_table.h"
+#include "shell/page_parts/layer_row.h"
+#include "shell/page_parts/page_layout.h"
+#include "shell/windows/phrases.h"
 
 namespace velmar::shell {
 namespace {

@@ -11,11 +11,11 @@
 #include "foundation/decimal.h"
 #include "foundation/message_rows.h"
 #include "presentation/texts/calculation_labels.h"
-#include "shell/fields/icons.h"
 #include "shell/fields/list_boxes.h"
 #include "shell/fields/number_field.h"
-#include "shell/fields/phrases.h"
-#include "shell/pages/page_parts.h"
+#include "shell/page_parts/page_layout.h"
+#include "shell/windows/icons.h"
+#include "shell/windows/phrases.h"
 
 namespace velmar::shell {
 namespace {

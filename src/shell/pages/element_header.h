@@ -3,7 +3,7 @@
 #include <QWidget>
 #include <array>
 
-#include "shell/pages/page_context.h"
+#include "shell/page_parts/page_context.h"
 
 class QCheckBox;
 class QLabel;

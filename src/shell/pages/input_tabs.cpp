@@ -5,9 +5,7 @@
 #include <QShortcut>
 #include <algorithm>
 
-#include "shell/fields/icons.h"
 #include "shell/fields/number_field.h"
-#include "shell/fields/phrases.h"
 #include "shell/pages/base_element_page.h"
 #include "shell/pages/cavity_page.h"
 #include "shell/pages/components_page.h"
@@ -16,6 +14,8 @@
 #include "shell/pages/resilient_layers_page.h"
 #include "shell/pages/sea_cavity_page.h"
 #include "shell/pages/sea_leaf_page.h"
+#include "shell/windows/icons.h"
+#include "shell/windows/phrases.h"
 
 namespace velmar::shell {
 namespace {

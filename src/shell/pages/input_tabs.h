@@ -4,7 +4,7 @@
 #include <array>
 #include <optional>
 
-#include "shell/pages/page_context.h"
+#include "shell/page_parts/page_context.h"
 #include "shell/pages/tab_layout.h"
 
 namespace velmar::shell {

@@ -2,8 +2,8 @@
 
 #include <vector>
 
+#include "shell/page_parts/page_context.h"
 #include "shell/pages/page.h"
-#include "shell/pages/page_context.h"
 
 namespace velmar::shell {
 

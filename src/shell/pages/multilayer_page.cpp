@@ -11,13 +11,13 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
-#include "calculation/multilayer_edits.h"
+#include "calculation/edits/multilayer_edits.h"
 #include "foundation/message_rows.h"
 #include "shell/fields/list_boxes.h"
-#include "shell/fields/phrases.h"
-#include "shell/pages/layer_row.h"
-#include "shell/pages/page_parts.h"
-#include "shell/pages/stratum_row.h"
+#include "shell/page_parts/layer_row.h"
+#include "shell/page_parts/page_layout.h"
+#include "shell/page_parts/stratum_row.h"
+#include "shell/windows/phrases.h"
 
 namespace velmar::shell {
 

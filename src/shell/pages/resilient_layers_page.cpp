@@ -3,12 +3,12 @@
 #include <QGridLayout>
 #include <QVBoxLayout>
 
-#include "calculation/count_rules.h"
-#include "calculation/material_choice.h"
+#include "calculation/edits/count_rules.h"
+#include "calculation/edits/material_choice.h"
 #include "shell/fields/filter_box.h"
 #include "shell/fields/list_boxes.h"
-#include "shell/pages/layer_row.h"
-#include "shell/pages/page_parts.h"
+#include "shell/page_parts/layer_row.h"
+#include "shell/page_parts/page_layout.h"
 
 namespace velmar::shell {
 

@@ -5,16 +5,16 @@
 #include <QLabel>
 #include <QVBoxLayout>
 
-#include "calculation/cavity_rules.h"
-#include "calculation/layer_edits.h"
+#include "calculation/edits/cavity_rules.h"
+#include "calculation/edits/layer_edits.h"
 #include "foundation/message_rows.h"
 #include "shell/fields/corrections.h"
 #include "shell/fields/list_boxes.h"
 #include "shell/fields/number_field.h"
 #include "shell/fields/number_steps.h"
-#include "shell/fields/phrases.h"
-#include "shell/pages/layer_row.h"
-#include "shell/pages/page_parts.h"
+#include "shell/page_parts/layer_row.h"
+#include "shell/page_parts/page_layout.h"
+#include "shell/windows/phrases.h"
 
 namespace velmar::shell {
 namespace {

@@ -4,14 +4,14 @@
 #include <QLabel>
 #include <QVBoxLayout>
 
-#include "calculation/count_rules.h"
-#include "calculation/material_choice.h"
+#include "calculation/edits/count_rules.h"
+#include "calculation/edits/material_choice.h"
 #include "foundation/message_rows.h"
 #include "shell/fields/list_boxes.h"
-#include "shell/fields/phrases.h"
-#include "shell/pages/layer_row.h"
-#include "shell/pages/layer_tools.h"
-#include "shell/pages/page_parts.h"
+#include "shell/page_parts/layer_row.h"
+#include "shell/page_parts/layer_tools.h"
+#include "shell/page_parts/page_layout.h"
+#include "shell/windows/phrases.h"
 
 namespace velmar::shell {
 namespace {

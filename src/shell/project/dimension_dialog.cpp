@@ -5,12 +5,12 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-#include "calculation/dimensions.h"
+#include "calculation/edits/dimensions.h"
 #include "foundation/message_rows.h"
-#include "shell/fields/boxes.h"
 #include "shell/fields/field_note.h"
 #include "shell/fields/number_field.h"
-#include "shell/fields/phrases.h"
+#include "shell/windows/boxes.h"
+#include "shell/windows/phrases.h"
 
 namespace velmar::shell {
 namespace {

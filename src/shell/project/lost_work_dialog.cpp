@@ -9,8 +9,8 @@
 #include <algorithm>
 
 #include "foundation/message_rows.h"
-#include "shell/fields/button_row.h"
-#include "shell/fields/phrases.h"
+#include "shell/windows/button_row.h"
+#include "shell/windows/phrases.h"
 
 namespace velmar::shell {
 namespace {

@@ -2,7 +2,7 @@
 
 #include <QObject>
 
-#include "calculation/open_calculation.h"
+#include "calculation/open/open_calculation.h"
 
 namespace velmar::shell {
 

@@ -5,12 +5,12 @@
 #include <optional>
 #include <vector>
 
-#include "calculation/open_calculation.h"
-#include "shell/fields/boxes.h"
+#include "calculation/open/open_calculation.h"
 #include "shell/project/project_services.h"
 #include "shell/project/proposed_files.h"
 #include "shell/project/recovery.h"
 #include "shell/project/window_memory.h"
+#include "shell/windows/boxes.h"
 
 namespace velmar::shell {
 

@@ -9,7 +9,7 @@
 #include <functional>
 
 #include "foundation/message_rows.h"
-#include "shell/fields/phrases.h"
+#include "shell/windows/phrases.h"
 
 namespace velmar::shell {
 namespace {

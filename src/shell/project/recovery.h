@@ -8,7 +8,7 @@
 #include <optional>
 #include <vector>
 
-#include "calculation/open_calculation.h"
+#include "calculation/open/open_calculation.h"
 #include "shell/project/lost_work.h"
 #include "shell/project/project_services.h"
 

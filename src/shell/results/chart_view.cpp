@@ -19,8 +19,8 @@
 #include "foundation/message_rows.h"
 #include "presentation/drawing/chart_numbers.h"
 #include "presentation/export/chart_svg.h"
-#include "shell/fields/phrases.h"
 #include "shell/results/chart_zoom.h"
+#include "shell/windows/phrases.h"
 #include "storage/files/whole_file.h"
 
 namespace velmar::shell {

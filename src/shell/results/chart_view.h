@@ -3,7 +3,7 @@
 #include <QWidget>
 
 #include "presentation/drawing/curve_chart.h"
-#include "shell/fields/boxes.h"
+#include "shell/windows/boxes.h"
 
 namespace velmar::shell {
 

@@ -7,7 +7,7 @@
 #include <future>
 #include <optional>
 
-#include "calculation/open_calculation.h"
+#include "calculation/open/open_calculation.h"
 
 namespace velmar::shell {
 

@@ -6,9 +6,9 @@
 #include "foundation/decimal.h"
 #include "foundation/message_rows.h"
 #include "foundation/rounding.h"
-#include "shell/fields/phrases.h"
-#include "shell/pages/page_parts.h"
+#include "shell/page_parts/page_layout.h"
 #include "shell/results/continuous_calculation.h"
+#include "shell/windows/phrases.h"
 
 namespace velmar::shell {
 namespace {

@@ -1,6 +1,6 @@
 #include "shell/results/open_table.h"
 
-#include "shell/fields/docked.h"
+#include "shell/windows/docked.h"
 
 namespace velmar::shell {
 

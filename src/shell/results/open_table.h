@@ -3,7 +3,7 @@
 #include <QObject>
 #include <QPointer>
 
-#include "calculation/open_calculation.h"
+#include "calculation/open/open_calculation.h"
 #include "presentation/texts/words.h"
 #include "shell/results/results_table_window.h"
 

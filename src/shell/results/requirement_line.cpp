@@ -9,7 +9,7 @@
 #include "presentation/texts/requirement_text.h"
 #include "shell/fields/number_field.h"
 #include "shell/fields/number_steps.h"
-#include "shell/fields/phrases.h"
+#include "shell/windows/phrases.h"
 
 namespace velmar::shell {
 

@@ -2,7 +2,7 @@
 
 #include <QWidget>
 
-#include "calculation/open_calculation.h"
+#include "calculation/open/open_calculation.h"
 #include "presentation/texts/words.h"
 
 class QLabel;

@@ -4,8 +4,8 @@
 #include <QVBoxLayout>
 
 #include "presentation/texts/result_notes.h"
-#include "shell/fields/phrases.h"
-#include "shell/pages/page_parts.h"
+#include "shell/page_parts/page_layout.h"
+#include "shell/windows/phrases.h"
 #include "validation/second_opinion.h"
 
 namespace velmar::shell {

@@ -4,7 +4,7 @@
 
 #include "elements/result_set.h"
 #include "elements/setup.h"
-#include "shell/fields/boxes.h"
+#include "shell/windows/boxes.h"
 #include "validation/accuracy.h"
 
 class QLabel;

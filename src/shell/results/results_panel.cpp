@@ -17,8 +17,7 @@
 #include "foundation/message_rows.h"
 #include "foundation/rounding.h"
 #include "presentation/drawing/curve_chart.h"
-#include "shell/fields/phrases.h"
-#include "shell/pages/page_parts.h"
+#include "shell/page_parts/page_layout.h"
 #include "shell/results/chart_view.h"
 #include "shell/results/continuous_calculation.h"
 #include "shell/results/difference_line.h"
@@ -26,6 +25,7 @@
 #include "shell/results/result_notes_view.h"
 #include "shell/results/section_view.h"
 #include "shell/results/single_numbers_panel.h"
+#include "shell/windows/phrases.h"
 
 namespace velmar::shell {
 namespace {

@@ -4,11 +4,11 @@
 #include <optional>
 #include <vector>
 
-#include "calculation/open_calculation.h"
+#include "calculation/open/open_calculation.h"
 #include "presentation/drawing/curve_chart.h"
 #include "presentation/drawing/section.h"
-#include "shell/fields/boxes.h"
 #include "shell/results/chart_overlay.h"
+#include "shell/windows/boxes.h"
 #include "validation/known_accuracy.h"
 
 class QCheckBox;

@@ -12,7 +12,7 @@
 
 #include "acoustics/bands.h"
 #include "foundation/message_rows.h"
-#include "shell/fields/phrases.h"
+#include "shell/windows/phrases.h"
 
 namespace velmar::shell {
 namespace {

@@ -10,7 +10,7 @@
 
 #include "foundation/decimal.h"
 #include "presentation/drawing/section_drawing.h"
-#include "shell/fields/phrases.h"
+#include "shell/windows/phrases.h"
 
 namespace velmar::shell {
 namespace {

@@ -11,11 +11,11 @@
 #include <cmath>
 #include <utility>
 
-#include "calculation/variants.h"
+#include "calculation/open/variants.h"
 #include "foundation/decimal.h"
 #include "foundation/message_rows.h"
 #include "foundation/rounding.h"
-#include "shell/fields/phrases.h"
+#include "shell/windows/phrases.h"
 
 namespace velmar::shell {
 namespace {

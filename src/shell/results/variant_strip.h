@@ -4,12 +4,12 @@
 #include <optional>
 #include <vector>
 
-#include "calculation/open_calculation.h"
-#include "calculation/totals.h"
+#include "calculation/open/open_calculation.h"
+#include "calculation/runs/totals.h"
 #include "elements/variants.h"
 #include "presentation/drawing/curve_chart.h"
-#include "shell/fields/boxes.h"
 #include "shell/results/chart_overlay.h"
+#include "shell/windows/boxes.h"
 
 class QHBoxLayout;
 class QMenu;

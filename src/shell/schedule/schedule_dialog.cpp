@@ -19,7 +19,7 @@
 
 #include "foundation/failure.h"
 #include "foundation/message_rows.h"
-#include "shell/fields/phrases.h"
+#include "shell/windows/phrases.h"
 
 namespace velmar::shell {
 namespace {

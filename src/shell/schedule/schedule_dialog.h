@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "documents/schedule_maker.h"
-#include "shell/fields/boxes.h"
+#include "shell/windows/boxes.h"
 #include "shell/schedule/schedule_job.h"
 
 class QCheckBox;

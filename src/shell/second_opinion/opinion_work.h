@@ -4,7 +4,7 @@
 #include <QObject>
 #include <optional>
 
-#include "calculation/open_calculation.h"
+#include "calculation/open/open_calculation.h"
 #include "validation/known_accuracy.h"
 #include "validation/second_opinion.h"
 

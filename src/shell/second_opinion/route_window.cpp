@@ -7,7 +7,7 @@
 
 #include "foundation/decimal.h"
 #include "foundation/message_rows.h"
-#include "shell/fields/phrases.h"
+#include "shell/windows/phrases.h"
 #include "validation/model_route.h"
 
 namespace velmar::shell {

@@ -15,8 +15,8 @@
 #include "foundation/rounding.h"
 #include "presentation/drawing/colours.h"
 #include "presentation/texts/result_lines.h"
-#include "shell/fields/phrases.h"
-#include "shell/pages/page_parts.h"
+#include "shell/page_parts/page_layout.h"
+#include "shell/windows/phrases.h"
 
 namespace velmar::shell {
 namespace {

@@ -5,11 +5,11 @@
 #include <set>
 #include <string>
 
-#include "calculation/open_calculation.h"
-#include "shell/fields/boxes.h"
+#include "calculation/open/open_calculation.h"
 #include "shell/results/chart_overlay.h"
 #include "shell/second_opinion/opinion_work.h"
 #include "shell/second_opinion/route_window.h"
+#include "shell/windows/boxes.h"
 
 class QGridLayout;
 class QLabel;

@@ -4,9 +4,9 @@
 #include <QMessageBox>
 
 #include "foundation/failure.h"
-#include "shell/fields/long_work.h"
-#include "shell/fields/phrases.h"
 #include "shell/start/loader_window.h"
+#include "shell/windows/long_work.h"
+#include "shell/windows/phrases.h"
 
 namespace velmar::shell {
 namespace {

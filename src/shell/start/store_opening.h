@@ -3,7 +3,7 @@
 #include <exception>
 
 #include "application/environment.h"
-#include "shell/fields/boxes.h"
+#include "shell/windows/boxes.h"
 
 namespace velmar::shell {
 

@@ -6,9 +6,9 @@
 #include <optional>
 
 #include "acoustics/bands.h"
-#include "shell/fields/window_tools.h"
 #include "shell/structures/library_tree.h"
 #include "shell/structures/structure_sources.h"
+#include "shell/windows/window_tools.h"
 
 class QCheckBox;
 class QLabel;

@@ -8,8 +8,8 @@
 #include "acoustics/bands.h"
 #include "elements/catalogue.h"
 #include "presentation/drawing/curve_chart.h"
-#include "shell/fields/window_tools.h"
 #include "shell/structures/structure_sources.h"
+#include "shell/windows/window_tools.h"
 
 class QSplitter;
 

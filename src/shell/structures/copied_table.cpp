@@ -4,7 +4,7 @@
 #include <QMimeData>
 #include <QStringList>
 
-#include "shell/fields/window_tools.h"
+#include "shell/windows/window_tools.h"
 
 namespace velmar::structures {
 namespace {

@@ -2,8 +2,8 @@
 
 #include <QDialog>
 
-#include "shell/fields/window_tools.h"
 #include "shell/structures/structure_sources.h"
+#include "shell/windows/window_tools.h"
 
 namespace velmar::structures {
 

@@ -4,8 +4,8 @@
 #include <optional>
 #include <vector>
 
-#include "shell/fields/window_tools.h"
 #include "shell/structures/structure_sources.h"
+#include "shell/windows/window_tools.h"
 
 class QTreeWidget;
 class QTreeWidgetItem;

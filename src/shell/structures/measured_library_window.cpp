@@ -9,12 +9,12 @@
 
 #include "acoustics/bands.h"
 #include "foundation/message_rows.h"
-#include "shell/fields/button_row.h"
 #include "shell/structures/extra_data_dialog.h"
 #include "shell/structures/mnemonics.h"
 #include "shell/structures/own_measurement_tools.h"
 #include "shell/structures/test_chooser.h"
 #include "shell/structures/test_details.h"
+#include "shell/windows/button_row.h"
 #include "storage/library/own_measurements.h"
 
 namespace velmar::structures {

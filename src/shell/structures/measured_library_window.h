@@ -4,10 +4,10 @@
 #include <functional>
 #include <optional>
 
-#include "shell/fields/window_tools.h"
 #include "shell/structures/measurement_editor.h"
 #include "shell/structures/structure_sources.h"
 #include "shell/structures/tree_nodes.h"
+#include "shell/windows/window_tools.h"
 
 class QPushButton;
 

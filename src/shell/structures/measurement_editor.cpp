@@ -11,15 +11,15 @@
 #include <QVBoxLayout>
 #include <variant>
 
-#include "calculation/facade_parts.h"
+#include "calculation/edits/facade_parts.h"
 #include "foundation/message_rows.h"
 #include "measurements/band_text.h"
 #include "presentation/texts/words.h"
 #include "shell/fields/number_field.h"
-#include "shell/fields/picture_view.h"
 #include "shell/structures/measurement_fields.h"
 #include "shell/structures/mnemonics.h"
 #include "shell/structures/store_sources.h"
+#include "shell/windows/picture_view.h"
 #include "storage/files/whole_file.h"
 
 namespace velmar::structures {

@@ -7,9 +7,9 @@
 #include <vector>
 
 #include "measurements/measurement_entry.h"
-#include "shell/fields/boxes.h"
-#include "shell/fields/window_tools.h"
 #include "shell/structures/structure_sources.h"
+#include "shell/windows/boxes.h"
+#include "shell/windows/window_tools.h"
 
 class QComboBox;
 class QFormLayout;

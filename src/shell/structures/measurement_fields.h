@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "measurements/measurement_entry.h"
-#include "shell/fields/window_tools.h"
+#include "shell/windows/window_tools.h"
 
 namespace velmar::shell {
 class NumberField;

@@ -4,9 +4,9 @@
 #include <optional>
 #include <string>
 
-#include "shell/fields/window_tools.h"
 #include "shell/structures/measurement_editor.h"
 #include "shell/structures/structure_sources.h"
+#include "shell/windows/window_tools.h"
 
 class QPushButton;
 

@@ -17,9 +17,9 @@
 #include <array>
 
 #include "foundation/message_rows.h"
-#include "shell/fields/button_row.h"
 #include "shell/structures/copied_table.h"
 #include "shell/structures/mnemonics.h"
+#include "shell/windows/button_row.h"
 
 namespace velmar::structures {
 namespace {

@@ -4,9 +4,9 @@
 #include <functional>
 #include <optional>
 
-#include "shell/fields/window_tools.h"
 #include "shell/structures/entry_model.h"
 #include "shell/structures/structure_sources.h"
+#include "shell/windows/window_tools.h"
 
 class QLabel;
 class QLineEdit;

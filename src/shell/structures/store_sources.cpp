@@ -6,7 +6,7 @@
 #include <utility>
 
 #include "measurements/octave_steps.h"
-#include "shell/fields/long_work.h"
+#include "shell/windows/long_work.h"
 #include "storage/library/library_store.h"
 #include "storage/library/own_measurements.h"
 #include "storage/library/own_pictures.h"

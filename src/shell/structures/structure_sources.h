@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "calculation/facade_parts.h"
+#include "calculation/edits/facade_parts.h"
 #include "shell/structures/branches.h"
 #include "storage/library/measured_test.h"
 #include "storage/library/rating_check.h"

@@ -5,9 +5,9 @@
 #include <optional>
 
 #include "presentation/drawing/curve_chart.h"
-#include "shell/fields/picture_view.h"
-#include "shell/fields/window_tools.h"
 #include "shell/structures/structure_sources.h"
+#include "shell/windows/picture_view.h"
+#include "shell/windows/window_tools.h"
 
 class QLabel;
 class QLineEdit;

@@ -7,7 +7,7 @@
 #include "cli/commands/project_run.h"
 #include "cli/drawn/drawn_formats.h"
 #include "foundation/failure.h"
-#include "presentation/reports/package.h"
+#include "presentation/documents/package.h"
 #include "storage/materials/material_store.h"
 #include "tests/presentation/drawing/catalogue_words.h"
 #include "tests/storage/support/temporary_folder.h"

@@ -12,7 +12,7 @@
 
 #include "cli/commands/project_run.h"
 #include "foundation/failure.h"
-#include "presentation/reports/package.h"
+#include "presentation/documents/package.h"
 #include "presentation/texts/results_table.h"
 #include "storage/materials/material_store.h"
 #include "tests/presentation/drawing/catalogue_words.h"

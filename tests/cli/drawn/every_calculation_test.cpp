@@ -18,8 +18,8 @@
 #include "foundation/decimal.h"
 #include "presentation/texts/results_table.h"
 #include "storage/materials/material_store.h"
+#include "tests/presentation/documents/opened_report.h"
 #include "tests/presentation/drawing/catalogue_words.h"
-#include "tests/presentation/reports/opened_report.h"
 
 namespace velmar::cli {
 namespace {

@@ -9,8 +9,8 @@
 #include "presentation/drawing/printed_page.h"
 #include "presentation/reports/excel_report.h"
 #include "presentation/reports/word_report.h"
+#include "tests/presentation/documents/opened_report.h"
 #include "tests/presentation/drawing/catalogue_words.h"
-#include "tests/presentation/reports/opened_report.h"
 #include "tests/presentation/sample_setups.h"
 
 // A consultant signs the paper: whatever the outcome depends on has to be read there. Results and totals are

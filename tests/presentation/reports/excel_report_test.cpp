@@ -7,9 +7,9 @@
 #include <gtest/gtest.h>
 
 #include "foundation/decimal.h"
+#include "presentation/documents/workbook.h"
 #include "presentation/reports/layer_table.h"
-#include "presentation/reports/workbook.h"
-#include "tests/presentation/reports/opened_report.h"
+#include "tests/presentation/documents/opened_report.h"
 
 namespace velmar::presentation {
 namespace {

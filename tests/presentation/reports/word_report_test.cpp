@@ -10,8 +10,8 @@
 #include "foundation/decimal.h"
 #include "foundation/message_rows.h"
 #include "presentation/reports/word_placeholders.h"
+#include "tests/presentation/documents/opened_report.h"
 #include "tests/presentation/drawing/catalogue_words.h"
-#include "tests/presentation/reports/opened_report.h"
 
 namespace velmar::presentation {
 namespace {

@@ -7,9 +7,9 @@
 
 #include "foundation/utf8.h"
 #include "presentation/reports/excel_report.h"
-#include "presentation/reports/package.h"
-#include "presentation/reports/relationships.h"
-#include "presentation/reports/xml_part.h"
+#include "presentation/documents/package.h"
+#include "presentation/documents/relationships.h"
+#include "presentation/documents/xml_part.h"
 #include "tests/presentation/drawing/catalogue_words.h"
 #include "tests/presentation/reports/opened_report.h"
 

@@ -6,9 +6,9 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "presentation/reports/template_failure.h"
+#include "presentation/documents/template_failure.h"
 #include "presentation/reports/word_report.h"
-#include "presentation/reports/xml_part.h"
+#include "presentation/documents/xml_part.h"
 #include "presentation/schedule/word_schedule.h"
 #include "tests/presentation/drawing/catalogue_words.h"
 #include "tests/presentation/reports/opened_report.h"

@@ -10,7 +10,7 @@
 
 #include <sys/resource.h>
 
-#include "presentation/reports/package.h"
+#include "presentation/documents/package.h"
 #include "presentation/reports/word_report.h"
 #include "tests/shell/support/window_fixture.h"
 

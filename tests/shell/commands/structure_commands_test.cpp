@@ -13,8 +13,8 @@
 #include <future>
 #include <thread>
 
-#include "calculation/run.h"
-#include "calculation/select_calculation.h"
+#include "calculation/edits/select_calculation.h"
+#include "calculation/runs/run.h"
 #include "shell/results/results_panel.h"
 #include "storage/database/connection.h"
 #include "tests/shell/support/stores_program.h"

@@ -5,7 +5,7 @@
 #include <QTabWidget>
 #include <QTest>
 
-#include "calculation/refusals.h"
+#include "calculation/runs/refusals.h"
 #include "shell/commands/refused_field.h"
 #include "shell/fields/field_note.h"
 #include "tests/shell/support/window_fixture.h"

@@ -9,8 +9,8 @@
 #include <QTemporaryDir>
 #include <QTest>
 
-#include "calculation/run.h"
-#include "calculation/select_calculation.h"
+#include "calculation/edits/select_calculation.h"
+#include "calculation/runs/run.h"
 #include "elements/layer_groups.h"
 #include "shell/pages/tab_layout.h"
 #include "tests/shell/support/window_fixture.h"

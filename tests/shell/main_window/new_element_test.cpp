@@ -4,7 +4,7 @@
 #include <QTest>
 #include <QToolButton>
 
-#include "calculation/usual_layers.h"
+#include "calculation/edits/usual_layers.h"
 #include "elements/parts.h"
 #include "shell/main_window/kind_card.h"
 #include "tests/shell/support/window_fixture.h"

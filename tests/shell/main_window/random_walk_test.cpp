@@ -4,7 +4,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 
-#include "calculation/run.h"
+#include "calculation/runs/run.h"
 #include "foundation/decimal.h"
 #include "foundation/rounding.h"
 #include "tests/shell/main_window/one_truth.h"

@@ -4,7 +4,7 @@
 #include <QPixmap>
 #include <QTabWidget>
 
-#include "calculation/layer_edits.h"
+#include "calculation/edits/layer_edits.h"
 #include "tests/shell/support/window_looks.h"
 
 int main(int argc, char** argv) {

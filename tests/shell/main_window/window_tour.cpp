@@ -9,7 +9,7 @@
 #include <QTabWidget>
 #include <QTest>
 
-#include "calculation/layer_edits.h"
+#include "calculation/edits/layer_edits.h"
 #include "shell/commands/about_box.h"
 #include "shell/main_window/kind_card.h"
 #include "shell/project/dimension_dialog.h"

@@ -9,7 +9,7 @@
 #include <filesystem>
 #include <functional>
 
-#include "shell/fields/picture_view.h"
+#include "shell/windows/picture_view.h"
 #include "tests/shell/material_editors/editor_fixture.h"
 
 namespace velmar::material_editors {

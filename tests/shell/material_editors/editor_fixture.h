@@ -11,7 +11,7 @@
 #include <gtest/gtest.h>
 
 #include "materials/keywords.h"
-#include "shell/fields/window_tools.h"
+#include "shell/windows/window_tools.h"
 #include "storage/materials/material_store.h"
 #include "tests/storage/support/temporary_folder.h"
 

@@ -10,7 +10,7 @@
 
 #include <gmock/gmock.h>
 
-#include "shell/fields/picture_view.h"
+#include "shell/windows/picture_view.h"
 #include "tests/shell/material_editors/editor_fixture.h"
 
 namespace velmar::material_editors {

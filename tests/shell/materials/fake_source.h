@@ -9,10 +9,10 @@
 #include <string>
 #include <vector>
 
-#include "shell/fields/window_tools.h"
 #include "shell/materials/material_source.h"
+#include "shell/windows/window_tools.h"
 #include "storage/materials/material_row.h"
-#include "tests/shell/fields/fake_boxes.h"
+#include "tests/shell/windows/fake_boxes.h"
 
 namespace velmar::shell {
 

@@ -11,7 +11,7 @@
 #include <QTreeWidget>
 #include <QUrl>
 
-#include "calculation/select_calculation.h"
+#include "calculation/edits/select_calculation.h"
 #include "shell/commands/about_box.h"
 #include "shell/project/dimension_dialog.h"
 #include "shell/project/lost_work_dialog.h"

@@ -8,7 +8,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 
-#include "calculation/run.h"
+#include "calculation/runs/run.h"
 #include "foundation/failure.h"
 #include "tests/shell/support/window_fixture.h"
 

@@ -210,7 +210,12 @@ class StartUpTest : public QObject {
     QCOMPARE(start.loading.filter("Conversione in corso").size(), yes ? 1 : 0);
     QCOMPARE(start.materials, materials);
     QCOMPARE(start.ran, yes);
-    QVERIFY2(start.boxes.size() == (yes ? 2 : 3), "without a material the run says what is missing");
+    QVERIFY2(start.boxes.size() == (yes ? 2 : 4), qPrintable(start.boxes.join("\n--\n")));
+    if (!yes) {
+      // The usual layers of a new element are looked up in it, and the run then has no material.
+      QVERIFY2(start.boxes[2].contains("Convertire prima il database"), qPrintable(start.boxes[2]));
+      QVERIFY2(start.boxes[3].contains("Manca il materiale dello strato 1"), qPrintable(start.boxes[3]));
+    }
     QCOMPARE(start.code, 0);
   }
 };

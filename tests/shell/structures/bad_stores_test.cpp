@@ -15,10 +15,10 @@
 #include <SQLiteCpp/Database.h>
 #include <gmock/gmock.h>
 
-#include "shell/fields/picture_view.h"
 #include "shell/structures/comparison_window.h"
 #include "shell/structures/measured_library_window.h"
 #include "shell/structures/saved_results_window.h"
+#include "shell/windows/picture_view.h"
 #include "storage/library/library_store.h"
 #include "tests/shell/structures/stores_fixture.h"
 #include "tests/storage/support/databases.h"

@@ -11,9 +11,9 @@
 #include <string>
 #include <vector>
 
-#include "shell/fields/window_tools.h"
 #include "shell/structures/structure_sources.h"
-#include "tests/shell/fields/fake_boxes.h"
+#include "shell/windows/window_tools.h"
+#include "tests/shell/windows/fake_boxes.h"
 
 namespace velmar::structures {
 

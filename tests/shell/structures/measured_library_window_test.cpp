@@ -14,7 +14,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "calculation/run.h"
+#include "calculation/runs/run.h"
 #include "elements/catalogue.h"
 #include "shell/structures/saved_results_window.h"
 #include "shell/structures/test_details.h"

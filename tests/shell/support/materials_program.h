@@ -13,12 +13,12 @@
 #include <optional>
 #include <string>
 
-#include "calculation/layer_edits.h"
-#include "calculation/select_calculation.h"
+#include "calculation/edits/layer_edits.h"
+#include "calculation/edits/select_calculation.h"
 #include "shell/commands/material_commands.h"
 #include "shell/fields/material_box.h"
-#include "shell/fields/phrases.h"
-#include "shell/pages/layer_row.h"
+#include "shell/page_parts/layer_row.h"
+#include "shell/windows/phrases.h"
 #include "storage/materials/material_store.h"
 #include "tests/shell/support/window_fixture.h"
 

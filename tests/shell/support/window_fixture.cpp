@@ -9,7 +9,7 @@
 
 #include "application/accuracy_file.h"
 #include "application/projects.h"
-#include "calculation/material_choice.h"
+#include "calculation/edits/material_choice.h"
 #include "storage/materials/material_store.h"
 #include "storage/messages/message_table_reader.h"
 #include "storage/project/project_writer.h"

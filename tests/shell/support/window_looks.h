@@ -3,7 +3,7 @@
 #include <QApplication>
 #include <QPalette>
 
-#include "shell/fields/dark_outlines.h"
+#include "shell/windows/dark_outlines.h"
 #include "tests/shell/support/window_fixture.h"
 
 namespace velmar::shell {

@@ -1,0 +1,51 @@
+#include "shell/windows/docked.h"
+
+#include <QCloseEvent>
+#include <QDialog>
+#include <QDockWidget>
+#include <QMainWindow>
+#include <QPointer>
+
+namespace velmar::shell {
+namespace {
+
+/// Closes with its dialog, and its dialog with it.
+class Dock : public QDockWidget {
+ public:
+  Dock(QDialog* dialog, QWidget* window) : QDockWidget(dialog->windowTitle(), window), dialog_(dialog) {
+    setObjectName("Accanto" + dialog->objectName());
+    setAttribute(Qt::WA_DeleteOnClose);
+    dialog->setWindowFlags(Qt::Widget);
+    setWidget(dialog);
+    connect(dialog, &QDialog::finished, this, &QObject::deleteLater);
+    connect(dialog, &QObject::destroyed, this, &QObject::deleteLater);
+  }
+
+ protected:
+  void closeEvent(QCloseEvent* event) override {
+    if (dialog_) dialog_->close();
+    QDockWidget::closeEvent(event);
+  }
+
+ private:
+  QPointer<QDialog> dialog_;
+};
+
+}  // namespace
+
+void StandBeside(QDialog* dialog, QWidget* window, int width) {
+  auto* main = qobject_cast<QMainWindow*>(window);
+  if (main == nullptr) {
+    dialog->show();
+    return;
+  }
+  auto* dock = new Dock(dialog, main);
+  if (!main->restoreDockWidget(dock)) {
+    main->addDockWidget(Qt::RightDockWidgetArea, dock);
+    main->resizeDocks({dock}, {width}, Qt::Horizontal);
+  }
+  dock->show();
+  dialog->show();
+}
+
+}  // namespace velmar::shell

@@ -1,0 +1,19 @@
+#include "tests/shell/windows/fake_boxes.h"
+
+#include "tests/presentation/drawing/catalogue_words.h"
+
+namespace velmar::shell {
+
+WindowTools FakeBoxes::Tools() {
+  WindowTools tools;
+  tools.words = presentation::CatalogueWords();
+  tools.ask = [this](const QString& question) {
+    questions << question;
+    return answer;
+  };
+  tools.tell = [this](const QString& text) { told << text; };
+  tools.memory = memory.get();
+  return tools;
+}
+
+}  // namespace velmar::shell
