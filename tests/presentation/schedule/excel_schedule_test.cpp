@@ -11,7 +11,7 @@
 #include "presentation/documents/relationships.h"
 #include "presentation/documents/xml_part.h"
 #include "tests/presentation/drawing/catalogue_words.h"
-#include "tests/presentation/reports/opened_report.h"
+#include "tests/presentation/documents/opened_report.h"
 
 namespace velmar::presentation {
 namespace {

@@ -5,7 +5,7 @@
 
 #include "elements/requirement.h"
 #include "tests/presentation/drawing/catalogue_words.h"
-#include "tests/presentation/reports/opened_report.h"
+#include "tests/presentation/documents/opened_report.h"
 
 namespace velmar::presentation {
 namespace {
