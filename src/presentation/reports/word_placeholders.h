@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "presentation/documents/placeholders.h"
+#include "presentation/documents/word_document.h"
 #include "presentation/reports/report_record.h"
 
 namespace velmar::presentation {
