@@ -45,9 +45,9 @@ int main(int argc, char** argv) {
       .words = velmar::presentation::CatalogueWords(),
       .materials = velmar::storage::MaterialLookupIn(SHARE "/Databases/Database/Database.mdb"),
       .templates = SHARE "/Templates"};
-  for (const auto& [name, format] : {std::pair{"Word", ScheduleFormat::kWord},
-                                     std::pair{"PDF", ScheduleFormat::kPdf},
-                                     std::pair{"Excel", ScheduleFormat::kExcel}}) {
+  for (const auto& [name, format] :
+       {std::pair{"Word", ScheduleFormat::kWord}, std::pair{"PDF", ScheduleFormat::kPdf},
+        std::pair{"Excel", ScheduleFormat::kExcel}}) {
     const auto start = std::chrono::steady_clock::now();
     const auto made = velmar::documents::MakeSchedule(
         {.projects = Projects(), .format = format, .go_on_outside_ranges = true}, tools);

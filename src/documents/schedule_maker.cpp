@@ -23,8 +23,8 @@ namespace velmar::documents {
 namespace {
 
 namespace fs = std::filesystem;
-using presentation::ScheduleElement;
 using presentation::InWords;
+using presentation::ScheduleElement;
 
 /// Of the project information.
 constexpr std::size_t kProjectRow = 0;
@@ -68,7 +68,7 @@ class Maker {
     NameElements(schedule_.elements, InformationOf(kProjectRow));
     FillCover();
     if (std::ranges::all_of(contents_, [](const auto& content) { return !content; })) NothingToWrite();
-    const bool bound = order_.format == ScheduleFormat::kExcel   ? BindExcel()
+    const bool bound = order_.format == ScheduleFormat::kExcel ? BindExcel()
                        : order_.format == ScheduleFormat::kPdf ? BindPdf()
                                                                : BindWord();
     if (!bound) return std::nullopt;
@@ -210,8 +210,7 @@ class Maker {
   bool BindPdf() {
     std::vector<presentation::PageChapter> chapters;
     const bool all = ForEachChapter([&](const ScheduleElement& element, const ReportContent& content) {
-      chapters.push_back(
-          {ChapterHeading(element), PageOf(content), presentation::SectionOf(content.setup)});
+      chapters.push_back({ChapterHeading(element), PageOf(content), presentation::SectionOf(content.setup)});
     });
     if (!all) return false;
     made_.bytes = presentation::SchedulePdf(schedule_, chapters, tools_.words);

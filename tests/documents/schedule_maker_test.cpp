@@ -77,9 +77,9 @@ TEST(ScheduleMaker, AProjectThatFailsIsNamedAndTheOthersAreWritten) {
   const storage::TemporaryFolder folder;
   storage::WriteFile(folder / "rotto.drav", "VELMAR 2.0.0\r\nProgetto\r\n");
   for (const ScheduleFormat format : {ScheduleFormat::kWord, ScheduleFormat::kExcel, ScheduleFormat::kPdf}) {
-    const MadeSchedule made = Make({.projects = {kThree[0], folder / "rotto.drav",
-                                                 Example("parete-fuori-campo"), kThree[1]},
-                                    .format = format});
+    const MadeSchedule made =
+        Make({.projects = {kThree[0], folder / "rotto.drav", Example("parete-fuori-campo"), kThree[1]},
+              .format = format});
     ASSERT_THAT(made.failed, SizeIs(2));
     EXPECT_EQ(made.failed[0].project.filename(), "rotto.drav");
     EXPECT_EQ(made.failed[1].reason.back(), MessageLine{kScheduleDeclinedRow});
@@ -94,8 +94,7 @@ TEST(ScheduleMaker, AProjectThatFailsIsNamedAndTheOthersAreWritten) {
 }
 
 TEST(ScheduleMaker, WhatGoesOnOutsideItsRangeIsMarked) {
-  const MadeSchedule made =
-      Make({.projects = {Example("parete-fuori-campo")}, .go_on_outside_ranges = true});
+  const MadeSchedule made = Make({.projects = {Example("parete-fuori-campo")}, .go_on_outside_ranges = true});
   EXPECT_THAT(made.failed, SizeIs(0));
   const std::string text = TextOf(made.bytes);
   EXPECT_THAT(text, HasSubstr(" *\n"));
@@ -128,11 +127,12 @@ TEST(ScheduleMaker, NoProjectAndNoResultGiveNoDocument) {
 TEST(ScheduleMaker, StopsWhenItIsTold) {
   for (std::size_t last = 0; last < 7; ++last) {
     std::size_t steps = 0;
-    const auto made = MakeSchedule({.projects = kThree}, Tools(), [&](std::size_t done, std::size_t all, auto&) {
-      EXPECT_EQ(all, 7U);
-      EXPECT_EQ(done, steps++);
-      return done < last;
-    });
+    const auto made =
+        MakeSchedule({.projects = kThree}, Tools(), [&](std::size_t done, std::size_t all, auto&) {
+          EXPECT_EQ(all, 7U);
+          EXPECT_EQ(done, steps++);
+          return done < last;
+        });
     EXPECT_FALSE(made) << last;
     EXPECT_EQ(steps, last + 1);
   }

@@ -104,8 +104,9 @@ TEST_F(TemplateFile, TellsAPictureThatIsWiderThanItsCell) {
 
 TEST_F(TemplateFile, WhatWouldBeLoadedFromOutsideIsToldAndStaysOut) {
   const std::filesystem::path file = Changed("Template_calcolo_drav_calc.docx", [](Package& package) {
-    presentation::PutLinks(package, "word/settings.xml",
-                           {{.id = "rId1", .type = kAttached, .target = "file:///C:/m.dotm", .external = true}});
+    presentation::PutLinks(
+        package, "word/settings.xml",
+        {{.id = "rId1", .type = kAttached, .target = "file:///C:/m.dotm", .external = true}});
     std::string settings = package.Part("word/settings.xml");
     const std::string place = "<w:defaultTabStop";
     package.Put("word/settings.xml",

@@ -144,11 +144,11 @@ ExitCode ReportTogether(const ReportCommand& command, const std::string& extensi
   try {
     const path file = TogetherTarget(extension, target, services);
     if (storage::IsOpenElsewhere(file)) throw Failure(Told(kFillingFailedRow, file), "open elsewhere");
-    const TogetherDocument document = services.together.make({.projects = command.projects,
-                                                              .extension = extension,
-                                                              .title = command.title,
-                                                              .go_on_outside_ranges =
-                                                                  command.go_on_outside_ranges});
+    const TogetherDocument document =
+        services.together.make({.projects = command.projects,
+                                .extension = extension,
+                                .title = command.title,
+                                .go_on_outside_ranges = command.go_on_outside_ranges});
     storage::WriteWhole(file, document.bytes);
     for (const Message& remark : document.remarks) WriteMessage(remark, services.words, errors);
     if (document.failed.empty()) return ExitCode::kDone;

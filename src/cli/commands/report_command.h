@@ -16,11 +16,11 @@ namespace velmar::cli {
 /// `report FILE... --together --docx OUT | --xlsx OUT | --pdf OUT [--title TEXT]`
 struct ReportCommand {
   std::vector<std::filesystem::path> projects{};
-  std::map<std::string, std::filesystem::path> targets{};  ///< by the format's extension; a file or a folder
-  bool go_on_outside_ranges = false;                       ///< the answer to every question
+  std::map<std::string, std::filesystem::path> targets{};   ///< by the format's extension; a file or a folder
+  bool go_on_outside_ranges = false;                        ///< the answer to every question
   std::optional<std::filesystem::path> checked_template{};  ///< no report: a template to be checked
-  bool together = false;                                   ///< one document of all projects
-  std::string title{};                                     ///< of that document; empty: the usual one
+  bool together = false;                                    ///< one document of all projects
+  std::string title{};                                      ///< of that document; empty: the usual one
 };
 
 /// Says on `out` what is wrong with the document template `file`; writes nothing.

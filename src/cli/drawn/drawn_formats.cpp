@@ -39,7 +39,9 @@ std::vector<ReportFormat> DrawnFormats(const std::filesystem::path& templates) {
       return bytes(content);
     };
   };
-  const auto word = [templates](const ReportContent& content) { return documents::WordReportBytes(templates, content); };
+  const auto word = [templates](const ReportContent& content) {
+    return documents::WordReportBytes(templates, content);
+  };
   const auto excel = [templates](const ReportContent& content) {
     return documents::ExcelReportBytes(templates, content);
   };
@@ -53,12 +55,12 @@ TogetherReports DrawnTogether(std::function<documents::ScheduleTools()> tools) {
   const auto display = std::make_shared<OffscreenDisplay>();
   const auto make = [display, tools = std::move(tools)](const TogetherOrder& order) {
     display->Open();
-    documents::MadeSchedule made = *documents::MakeSchedule(
-        {.projects = order.projects,
-         .format = documents::ScheduleFormatOf(order.extension).value(),
-         .title = order.title,
-         .go_on_outside_ranges = order.go_on_outside_ranges},
-        tools());
+    documents::MadeSchedule made =
+        *documents::MakeSchedule({.projects = order.projects,
+                                  .format = documents::ScheduleFormatOf(order.extension).value(),
+                                  .title = order.title,
+                                  .go_on_outside_ranges = order.go_on_outside_ranges},
+                                 tools());
     TogetherDocument document{.bytes = std::move(made.bytes), .remarks = std::move(made.remarks)};
     for (documents::FailedProject& failed : made.failed)
       document.failed.push_back({std::move(failed.project), std::move(failed.reason)});

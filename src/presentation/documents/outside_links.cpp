@@ -33,7 +33,8 @@ std::string KindOf(const std::string& type) { return type.substr(type.rfind('/')
 
 bool Loads(const WrittenLink& link) { return link.external && KindOf(link.type) != "hyperlink"; }
 
-/// Takes out what names one of `ids` below `root`: the attribute of a picture that is linked, else the element.
+/// Takes out what names one of `ids` below `root`: the attribute of a picture that is linked, else the
+/// element.
 void RemoveNaming(pugi::xml_node root, const std::vector<std::string>& ids) {
   for (pugi::xml_node node = root.first_child(); node;) {
     const pugi::xml_node next = node.next_sibling();

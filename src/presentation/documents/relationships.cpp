@@ -77,7 +77,8 @@ std::vector<WrittenLink> LinksOf(const Package& package, const std::string& part
   if (!package.Has(RelationshipsPart(part))) return links;
   for (const Relationship& inside : RelationshipsOf(package, part))
     links.push_back({.id = inside.id, .type = inside.type, .target = inside.target});
-  const pugi::xml_document document = ParseXml(package.Part(RelationshipsPart(part)), RelationshipsPart(part));
+  const pugi::xml_document document =
+      ParseXml(package.Part(RelationshipsPart(part)), RelationshipsPart(part));
   for (const pugi::xml_node node : document.document_element().children("Relationship")) {
     if (std::string_view(node.attribute("TargetMode").value()) != "External") continue;
     links.push_back({.id = node.attribute("Id").value(),

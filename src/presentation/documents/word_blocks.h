@@ -9,8 +9,8 @@
 namespace velmar::presentation {
 
 /// Removes all that stands below `root` from marker `start` to marker `end`, both included, as often as the
-/// pair occurs. A table that the block cuts keeps its cells, emptied. A start without an end of its own, before
-/// the next start, stays with what follows it.
+/// pair occurs. A table that the block cuts keeps its cells, emptied. A start without an end of its own,
+/// before the next start, stays with what follows it.
 /// @return whether anything was removed
 bool RemoveBlocks(pugi::xml_node root, std::string_view start, std::string_view end);
 

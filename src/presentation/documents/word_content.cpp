@@ -53,8 +53,7 @@ std::vector<int> WidthsOf(const DataTable& table, int width) {
   if (!table.heads.empty()) weights.resize(table.heads.size(), 1.0);
   const double sum = std::accumulate(weights.begin(), weights.end(), 0.0);
   std::vector<int> widths;
-  for (const double weight : weights)
-    widths.push_back(static_cast<int>(std::lround(weight / sum * width)));
+  for (const double weight : weights) widths.push_back(static_cast<int>(std::lround(weight / sum * width)));
   return widths;
 }
 

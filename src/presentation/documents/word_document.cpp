@@ -156,7 +156,8 @@ void WordDocument::ReplaceByPictures(const std::map<std::string, Picture>& pictu
       PictureLinks& link = links[name];
       if (link.png.empty()) {
         link.png = AddRelationship(package_, part.name, kImageRelationship, files.png);
-        if (!files.svg.empty()) link.svg = AddRelationship(package_, part.name, kImageRelationship, files.svg);
+        if (!files.svg.empty())
+          link.svg = AddRelationship(package_, part.name, kImageRelationship, files.svg);
       }
       InsertDrawing(run, before, picture, link, number++);
     };

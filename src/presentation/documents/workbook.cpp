@@ -168,7 +168,8 @@ Worksheet& Workbook::AddSheet(const std::string& wanted, bool landscape, const s
   AddContentType(package_, part(), kSheetContent);
   pugi::xml_document workbook = ParseXml(package_.Part(main_part_), main_part_);
   pugi::xml_node sheets = workbook.child("workbook").child("sheets");
-  const std::string free = FreeSheetName(copy_prefix_.empty() || !beside ? wanted : copy_prefix_ + " " + wanted);
+  const std::string free =
+      FreeSheetName(copy_prefix_.empty() || !beside ? wanted : copy_prefix_ + " " + wanted);
   int highest = 0;
   for (const pugi::xml_node node : sheets.children("sheet"))
     highest = std::max(highest, node.attribute("sheetId").as_int());

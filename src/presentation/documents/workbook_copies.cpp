@@ -76,16 +76,16 @@ std::string FreePart(const Package& package, const std::string& part) {
 
 std::string Workbook::FreeSheetName(const std::string& wanted) const {
   std::string allowed;
-  for (const char letter : wanted) allowed += std::string_view("[]:*?/\\").find(letter) != std::string_view::npos ? '-' : letter;
+  for (const char letter : wanted)
+    allowed += std::string_view("[]:*?/\\").find(letter) != std::string_view::npos ? '-' : letter;
   while (!allowed.empty() && (allowed.front() == '\'' || allowed.front() == ' ')) allowed.erase(0, 1);
   if (allowed.empty()) allowed = "1";
   const pugi::xml_document workbook = ParseXml(package_.Part(main_part_), main_part_);
   const auto taken = [&](const std::string& name) {
-    return static_cast<bool>(
-        workbook.child("workbook").child("sheets").find_child([&](pugi::xml_node node) {
-          // They are the same in either case of letters.
-          return SameName(node.attribute("name").value(), name);
-        }));
+    return static_cast<bool>(workbook.child("workbook").child("sheets").find_child([&](pugi::xml_node node) {
+      // They are the same in either case of letters.
+      return SameName(node.attribute("name").value(), name);
+    }));
   };
   const auto cut = [&](const std::string& ending) {
     std::string name = FirstCharacters(allowed, kLongestSheetName - ending.size());

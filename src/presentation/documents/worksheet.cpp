@@ -217,10 +217,11 @@ void Worksheet::AddLink(CellPlace place, const std::string& sheet) {
   if (!list) {
     // The parts of a sheet have a fixed order.
     pugi::xml_node next;
-    for (const char* name : {"extLst", "tableParts", "webPublishItems", "controls", "oleObjects", "picture",
-                             "drawingHF", "legacyDrawingHF", "legacyDrawing", "drawing", "smartTags",
-                             "ignoredErrors", "cellWatches", "customProperties", "colBreaks", "rowBreaks",
-                             "headerFooter", "pageSetup", "pageMargins", "printOptions"}) {
+    for (const char* name :
+         {"extLst",    "tableParts",    "webPublishItems", "controls",         "oleObjects",
+          "picture",   "drawingHF",     "legacyDrawingHF", "legacyDrawing",    "drawing",
+          "smartTags", "ignoredErrors", "cellWatches",     "customProperties", "colBreaks",
+          "rowBreaks", "headerFooter",  "pageSetup",       "pageMargins",      "printOptions"}) {
       if (const pugi::xml_node node = root.child(name)) next = node;
     }
     list = next ? root.insert_child_before("hyperlinks", next) : root.append_child("hyperlinks");

@@ -221,9 +221,8 @@ void DrawTablePage(QPainter& painter, const QSizeF& paper, const DrawnRows& tabl
       const QRectF box(columns.lefts[table.drawing_column] + 0.5 * kCellPadding,
                        top + 0.5 * (height - kDrawingHeight) + 0.5 * kCellPadding,
                        columns.widths[table.drawing_column] - kCellPadding, kDrawingHeight - kCellPadding);
-      DrawInPixels(painter, box, [&](const QRectF& pixels) {
-        DrawSectionStrips(painter, pixels, table.sections[row]);
-      });
+      DrawInPixels(painter, box,
+                   [&](const QRectF& pixels) { DrawSectionStrips(painter, pixels, table.sections[row]); });
     }
     top += height;
     painter.setPen(QPen(kVerticalGridColour, kRule));

@@ -230,11 +230,10 @@ void DrawSectionStrips(QPainter& painter, const QRectF& area, const Section& sec
   for (const Strip& strip : section.strips) {
     const double from = strip.position_mm / section.thickness_mm;
     const double depth = strip.thickness_mm / section.thickness_mm;
-    layout.strips.push_back(section.horizontal
-                                ? QRectF(area.left(), area.top() + from * area.height(), area.width(),
-                                         depth * area.height())
-                                : QRectF(area.left() + from * area.width(), area.top(), depth * area.width(),
-                                         area.height()));
+    layout.strips.push_back(
+        section.horizontal
+            ? QRectF(area.left(), area.top() + from * area.height(), area.width(), depth * area.height())
+            : QRectF(area.left() + from * area.width(), area.top(), depth * area.width(), area.height()));
   }
   painter.save();
   DrawStrips(painter, layout, section, {});

@@ -38,7 +38,8 @@ std::string TextString(const std::string& utf8) {
   std::string text = "<FEFF";
   for (const QChar character : QString::fromStdString(utf8)) {
     for (int shift = 12; shift >= 0; shift -= 4)
-      text += kDigits[(static_cast<std::size_t>(character.unicode()) >> static_cast<std::size_t>(shift)) & 15U];
+      text +=
+          kDigits[(static_cast<std::size_t>(character.unicode()) >> static_cast<std::size_t>(shift)) & 15U];
   }
   return text + ">";
 }
@@ -117,10 +118,13 @@ class UpdatedPdf {
       pdf_ += std::to_string(object) + " 1\n" + entry.data();
     }
     const std::size_t size = trailer_.find("/Size");
-    const std::size_t behind = trailer_.find_first_not_of("0123456789", trailer_.find_first_of("0123456789", size));
-    std::string trailer = trailer_.substr(0, size) + "/Size " + std::to_string(next_) + trailer_.substr(behind);
+    const std::size_t behind =
+        trailer_.find_first_not_of("0123456789", trailer_.find_first_of("0123456789", size));
+    std::string trailer =
+        trailer_.substr(0, size) + "/Size " + std::to_string(next_) + trailer_.substr(behind);
     trailer.insert(trailer.find("<<") + 2, "\n/Prev " + std::to_string(table_));
-    pdf_ += trailer + (trailer.back() == '\n' ? "" : "\n") + "startxref\n" + std::to_string(table) + "\n%%EOF\n";
+    pdf_ +=
+        trailer + (trailer.back() == '\n' ? "" : "\n") + "startxref\n" + std::to_string(table) + "\n%%EOF\n";
     return std::move(pdf_);
   }
 
@@ -173,10 +177,10 @@ void AddLinks(UpdatedPdf& pdf, const std::vector<PdfLink>& links) {
     const std::size_t page = pdf.Page(link.page);
     const double height = PageHeight(pdf, page);
     const std::size_t object = pdf.Reserve();
-    pdf.Put(object, "<<\n/Type /Annot\n/Subtype /Link\n/Border [0 0 0]\n/Rect [" +
-                        Decimal(link.box.left()) + " " + Decimal(height - link.box.bottom()) + " " +
-                        Decimal(link.box.right()) + " " + Decimal(height - link.box.top()) + "]\n/Dest [" +
-                        Reference(pdf.Page(link.target)) + " /Fit]\n>>");
+    pdf.Put(object, "<<\n/Type /Annot\n/Subtype /Link\n/Border [0 0 0]\n/Rect [" + Decimal(link.box.left()) +
+                        " " + Decimal(height - link.box.bottom()) + " " + Decimal(link.box.right()) + " " +
+                        Decimal(height - link.box.top()) + "]\n/Dest [" + Reference(pdf.Page(link.target)) +
+                        " /Fit]\n>>");
     of_pages[page] += Reference(object) + " ";
   }
   for (const auto& [page, annotations] : of_pages) {

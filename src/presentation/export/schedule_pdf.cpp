@@ -110,9 +110,9 @@ class Pages {
     draw(paper);
     if (drawn_ > 1) {
       const ScheduleCover& cover = schedule_.cover;
-      DrawFrontFoot(painter_, paper, cover.title + (cover.date.empty() ? "" : " · " + cover.date),
-                    words_.page + " " + std::to_string(drawn_) + " " + words_.of + " " +
-                        std::to_string(count_));
+      DrawFrontFoot(
+          painter_, paper, cover.title + (cover.date.empty() ? "" : " · " + cover.date),
+          words_.page + " " + std::to_string(drawn_) + " " + words_.of + " " + std::to_string(count_));
     }
     painter_.restore();
   }

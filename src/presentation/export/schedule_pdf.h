@@ -16,8 +16,8 @@ struct PageChapter {
   Section section{};  ///< for the table of elements
 };
 
-/// A PDF file of A4 pages: cover, contents, table of the elements (on its side), then the pages of `chapters`,
-/// numbered through, with bookmarks. A QGuiApplication must exist.
+/// A PDF file of A4 pages: cover, contents, table of the elements (on its side), then the pages of
+/// `chapters`, numbered through, with bookmarks. A QGuiApplication must exist.
 /// @param chapters one for every element of `schedule` that has a result, in their order
 std::string SchedulePdf(const Schedule& schedule, const std::vector<PageChapter>& chapters,
                         const Words& words);

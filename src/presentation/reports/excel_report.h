@@ -3,8 +3,8 @@
 #include <string>
 #include <string_view>
 
-#include "presentation/reports/report_record.h"
 #include "presentation/documents/workbook.h"
+#include "presentation/reports/report_record.h"
 
 namespace velmar::presentation {
 

@@ -7,8 +7,8 @@
 
 namespace velmar::presentation {
 
-/// The lists of numbered paragraphs of a chapter, taken into `numbering` of the document that it is bound into
-/// under numbers that are free; each chapter begins to count anew. @return old number -> new number
+/// The lists of numbered paragraphs of a chapter, taken into `numbering` of the document that it is bound
+/// into under numbers that are free; each chapter begins to count anew. @return old number -> new number
 std::map<std::string, std::string> TakeLists(pugi::xml_node numbering, pugi::xml_node chapter);
 
 /// The same for footnotes or endnotes, but for their separators.

@@ -28,7 +28,8 @@ bool NamesAStyle(pugi::xml_node node) {
   return false;
 }
 
-/// Puts what the document's defaults say below the style `style`: a style of its own, `id`, on which it stands.
+/// Puts what the document's defaults say below the style `style`: a style of its own, `id`, on which it
+/// stands.
 void StandOnDefaults(pugi::xml_node styles, pugi::xml_node style, pugi::xml_node defaults,
                      const std::string& id) {
   pugi::xml_node base = styles.insert_child_before("w:style", style);
@@ -54,9 +55,8 @@ std::string FreeId(pugi::xml_node styles, const std::string& id) {
 }
 
 bool NameTaken(pugi::xml_node styles, const std::string& name) {
-  return static_cast<bool>(styles.find_child([&](pugi::xml_node style) {
-    return name == style.child("w:name").attribute("w:val").value();
-  }));
+  return static_cast<bool>(styles.find_child(
+      [&](pugi::xml_node style) { return name == style.child("w:name").attribute("w:val").value(); }));
 }
 
 }  // namespace

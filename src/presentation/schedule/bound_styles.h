@@ -12,7 +12,7 @@ namespace velmar::presentation {
 /// What a document's styles are called in the document into which it is bound.
 struct StyleNames {
   std::map<std::string, std::string> new_names{};  ///< of styles that had to be renamed
-  std::string unnamed_paragraphs{};  ///< the style that paragraphs without one need; empty: none
+  std::string unnamed_paragraphs{};     ///< the style that paragraphs without one need; empty: none
   std::vector<std::string> chapters{};  ///< styles (by their old names) that head a whole document
 };
 

@@ -6,8 +6,8 @@
 
 #include "foundation/utf8.h"
 #include "presentation/documents/cell_text.h"
-#include "presentation/reports/excel_report.h"
 #include "presentation/documents/workbook.h"
+#include "presentation/reports/excel_report.h"
 
 namespace velmar::presentation {
 namespace {

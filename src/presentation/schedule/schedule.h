@@ -31,8 +31,8 @@ struct ScheduleElement {
   bool outside_range = false;              ///< the user chose to go on outside a range
   std::string requirement{};               ///< "Rw ≥ 50 dB"; empty where none is required
   std::string verdict{};                   ///< "mancano 4"
-  std::string remark{};   ///< of a lining: the ratings of base and lining together; or empty
-  std::string failure{};  ///< why the project gave no result; empty: it has a chapter
+  std::string remark{};                    ///< of a lining: the ratings of base and lining together; or empty
+  std::string failure{};                   ///< why the project gave no result; empty: it has a chapter
 };
 
 /// What stands on the cover. An empty line is left out.
@@ -53,8 +53,8 @@ struct Schedule {
 /// The words that a report of several projects sets, in the language of the user.
 struct ScheduleWords {
   std::string contents{};
-  std::string table{};   ///< title of the table of elements
-  std::string failed{};  ///< title of the list of projects that gave no result
+  std::string table{};    ///< title of the table of elements
+  std::string failed{};   ///< title of the list of projects that gave no result
   std::string outside{};  ///< what the mark behind a rating says
   std::string project{};
   std::string client{};

@@ -36,7 +36,8 @@ QMenu* FillMenuBar(QMenuBar& bar, const CommandSet& commands, const CalculationA
   recent->setObjectName("Recenti");
   Add(*file, commands, {kSaveProject, kSaveProjectAs, kStoreResult});
   file->addSeparator();
-  Add(*file, commands, {kExportWord, kExportExcel, kReportProjects, kCheckTemplate, kPrint, kPrintPreview, kChoosePrinter});
+  Add(*file, commands,
+      {kExportWord, kExportExcel, kReportProjects, kCheckTemplate, kPrint, kPrintPreview, kChoosePrinter});
   file->addSeparator();
   Add(*file, commands, {kProjectInformation});
   file->addSeparator();

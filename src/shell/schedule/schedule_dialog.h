@@ -6,8 +6,8 @@
 #include <vector>
 
 #include "documents/schedule_maker.h"
-#include "shell/windows/boxes.h"
 #include "shell/schedule/schedule_job.h"
+#include "shell/windows/boxes.h"
 
 class QCheckBox;
 class QComboBox;

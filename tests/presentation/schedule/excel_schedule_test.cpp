@@ -6,12 +6,12 @@
 #include <gtest/gtest.h>
 
 #include "foundation/utf8.h"
-#include "presentation/reports/excel_report.h"
 #include "presentation/documents/package.h"
 #include "presentation/documents/relationships.h"
 #include "presentation/documents/xml_part.h"
-#include "tests/presentation/drawing/catalogue_words.h"
+#include "presentation/reports/excel_report.h"
 #include "tests/presentation/documents/opened_report.h"
+#include "tests/presentation/drawing/catalogue_words.h"
 
 namespace velmar::presentation {
 namespace {
@@ -95,8 +95,8 @@ TEST(ExcelSchedule, EverySheetHoldsItsElementAndItsChartReadsIt) {
       }
     }
     // Past the sheets beside it.
-    for (++at; at < sheets.size() && sheets[at].first.starts_with(name + " ") &&
-               !sheets[at].first.ends_with(" 2");)
+    for (++at;
+         at < sheets.size() && sheets[at].first.starts_with(name + " ") && !sheets[at].first.ends_with(" 2");)
       ++at;
   }
   EXPECT_EQ(at, sheets.size());

@@ -4,8 +4,8 @@
 #include <gtest/gtest.h>
 
 #include "elements/requirement.h"
-#include "tests/presentation/drawing/catalogue_words.h"
 #include "tests/presentation/documents/opened_report.h"
+#include "tests/presentation/drawing/catalogue_words.h"
 
 namespace velmar::presentation {
 namespace {
@@ -29,8 +29,8 @@ TEST(Schedule, AWallShowsWhatItsResultSays) {
   ScheduleElement element = ElementOf("BrickWall", 60.0);
   element.title = "Divisorio";
   EXPECT_THAT(ScheduleCells(element),
-              ElementsAre("3", HasSubstr("Divisorio\nParete singola"), "–", "150", "141,0", "54,0", "-2", "-6",
-                          "–", "–", "–", "Rw ≥ 60 dB", "mancano 6"));
+              ElementsAre("3", HasSubstr("Divisorio\nParete singola"), "–", "150", "141,0", "54,0", "-2",
+                          "-6", "–", "–", "–", "Rw ≥ 60 dB", "mancano 6"));
 }
 
 TEST(Schedule, AFloorStandsUnderTheImpactLevel) {

@@ -7,11 +7,11 @@
 #include <gtest/gtest.h>
 
 #include "presentation/documents/template_failure.h"
-#include "presentation/reports/word_report.h"
 #include "presentation/documents/xml_part.h"
+#include "presentation/reports/word_report.h"
 #include "presentation/schedule/word_schedule.h"
-#include "tests/presentation/drawing/catalogue_words.h"
 #include "tests/presentation/documents/opened_report.h"
+#include "tests/presentation/drawing/catalogue_words.h"
 
 namespace velmar::presentation {
 namespace {
@@ -56,9 +56,8 @@ Package AllCases() {
     element.title = one.name;
     element.drawing = Picture{.png = "\x89PNG small " + one.name, .width_emu = 936000, .height_emu = 396000};
     const ReportRecord record = RecordOf(one);
-    chapters.push_back(
-        {ChapterHeading(element),
-         WriteWordReport(ShippedTemplate(WordTemplateName(record.family)), record).bytes});
+    chapters.push_back({ChapterHeading(element),
+                        WriteWordReport(ShippedTemplate(WordTemplateName(record.family)), record).bytes});
     schedule.elements.push_back(std::move(element));
   }
   schedule.elements.push_back({.code = "99", .file = "rotto.drav", .failure = "Il file è danneggiato."});
@@ -102,17 +101,18 @@ TEST(WordBinder, EachChapterHasHeadingContentsAndItsOwnSection) {
 }
 
 /// The shipped template with another body, as a user might have made it; `change` may do more.
-std::string UsersDocument(const std::string& body,
-                          const std::function<void(Package&)>& change = [](Package&) {}) {
+std::string UsersDocument(
+    const std::string& body, const std::function<void(Package&)>& change = [](Package&) {}) {
   Package package(ShippedTemplate("Template_calcolo_drav_calc.docx"));
-  package.Put(kMain, std::string("<w:document ") + kNames + "><w:body>" + body +
-                         "<w:sectPr/></w:body></w:document>");
+  package.Put(
+      kMain, std::string("<w:document ") + kNames + "><w:body>" + body + "<w:sectPr/></w:body></w:document>");
   change(package);
   return package.Bytes();
 }
 
 std::string Carrier() {
-  return UsersDocument("<w:p><w:r><w:t>[A_INDICE]</w:t></w:r></w:p><w:p><w:r><w:t>[A_CAPITOLI]</w:t></w:r></w:p>");
+  return UsersDocument(
+      "<w:p><w:r><w:t>[A_INDICE]</w:t></w:r></w:p><w:p><w:r><w:t>[A_CAPITOLI]</w:t></w:r></w:p>");
 }
 
 std::string Paragraph(const std::string& text, const std::string& properties = "") {
@@ -165,13 +165,12 @@ TEST(WordBinder, ListsBeginAnewAndNotesKeepTheirText) {
                       R"(<w:footnote w:id="2">)" + Paragraph(note) + "</w:footnote></w:footnotes>");
       for (const char* kind : {"numbering", "footnotes"}) {
         const std::string part = std::string("word/") + kind + ".xml";
-        AddRelationship(package, kMain,
-                        std::string("http://schemas.openxmlformats.org/officeDocument/2006/relationships/") +
-                            kind,
-                        part);
-        AddContentType(package, part,
-                       std::string("application/vnd.openxmlformats-officedocument.wordprocessingml.") + kind +
-                           "+xml");
+        AddRelationship(
+            package, kMain,
+            std::string("http://schemas.openxmlformats.org/officeDocument/2006/relationships/") + kind, part);
+        AddContentType(
+            package, part,
+            std::string("application/vnd.openxmlformats-officedocument.wordprocessingml.") + kind + "+xml");
       }
     });
   };
