@@ -102,6 +102,22 @@ class UpdatedPdf {
     Put(object, body.insert(open + 2, "\n" + entry));
   }
 
+  /// Adds references to the list of annotations of the page that `object` is.
+  void AddAnnotations(std::size_t object, const std::string& references) {
+    const std::string page = Body(object);
+    const std::size_t key = page.find("/Annots");
+    if (key == std::string::npos) {
+      Extend(object, "/Annots [" + references + "]");
+      return;
+    }
+    // The list is an object of its own.
+    const std::size_t list = NumberAt(page, key + 7);
+    std::string body = Body(list);
+    const std::size_t open = body.find('[');
+    if (open == std::string::npos) Unknown("no list of annotations");
+    Put(list, body.insert(open + 1, "\n" + references));
+  }
+
   std::string Bytes() {
     std::map<std::size_t, std::size_t> places;
     if (pdf_.back() != '\n') pdf_ += '\n';
@@ -183,10 +199,7 @@ void AddLinks(UpdatedPdf& pdf, const std::vector<PdfLink>& links) {
                         " /Fit]\n>>");
     of_pages[page] += Reference(object) + " ";
   }
-  for (const auto& [page, annotations] : of_pages) {
-    if (pdf.Body(page).find("/Annots") != std::string::npos) Unknown("a page has links already");
-    pdf.Extend(page, "/Annots [" + annotations + "]");
-  }
+  for (const auto& [page, annotations] : of_pages) pdf.AddAnnotations(page, annotations);
 }
 
 }  // namespace
