@@ -6,6 +6,8 @@ namespace velmar::presentation {
 namespace {
 
 constexpr const char* kEntryStyle = "TOC1";
+/// In place of a page number until a word processor has laid out the pages.
+constexpr const char* kNotCounted = "…";
 
 void AppendText(pugi::xml_node parent, const std::string& text) {
   pugi::xml_node node = parent.append_child("w:r").append_child("w:t");
@@ -41,16 +43,9 @@ void MarkHeading(pugi::xml_node paragraph, const std::string& name, int number) 
 
 void InsertContents(pugi::xml_node before, const std::vector<ContentsEntry>& entries) {
   pugi::xml_node body = before.parent();
-  pugi::xml_node paragraph;
   for (const ContentsEntry& entry : entries) {
-    const bool first = !paragraph;
-    paragraph = body.insert_child_before("w:p", before);
+    pugi::xml_node paragraph = body.insert_child_before("w:p", before);
     paragraph.append_child("w:pPr").append_child("w:pStyle").append_attribute("w:val") = kEntryStyle;
-    if (first) {
-      AppendFieldMark(paragraph, "begin");
-      AppendInstruction(paragraph, "TOC \\o \"1-1\" \\h \\z");
-      AppendFieldMark(paragraph, "separate");
-    }
     pugi::xml_node link = paragraph.append_child("w:hyperlink");
     link.append_attribute("w:anchor") = entry.bookmark.c_str();
     link.append_attribute("w:history") = 1;
@@ -59,10 +54,9 @@ void InsertContents(pugi::xml_node before, const std::vector<ContentsEntry>& ent
     AppendFieldMark(link, "begin");
     AppendInstruction(link, "PAGEREF " + entry.bookmark + " \\h");
     AppendFieldMark(link, "separate");
-    AppendText(link, "…");
+    AppendText(link, kNotCounted);
     AppendFieldMark(link, "end");
   }
-  if (paragraph) AppendFieldMark(paragraph, "end");
 }
 
 }  // namespace velmar::presentation

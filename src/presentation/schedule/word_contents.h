@@ -19,8 +19,9 @@ void AppendHeading(pugi::xml_node paragraph, const char* style, const std::strin
 /// Puts the bookmark `name` around what stands in `paragraph`.
 void MarkHeading(pugi::xml_node paragraph, const std::string& name, int number);
 
-/// Puts a list of contents of the headings of the first level before `before`: a field that a word processor
-/// brings up to date, each line with a link to its heading and the number of its page.
+/// Puts a list of contents before `before`: each line with a link to its heading and the number of its page
+/// as a field of its own. Inside the field of a whole list some word processors take the numbers for text and
+/// never count them.
 void InsertContents(pugi::xml_node before, const std::vector<ContentsEntry>& entries);
 
 }  // namespace velmar::presentation
