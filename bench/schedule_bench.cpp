@@ -44,7 +44,7 @@ int main(int argc, char** argv) {
   const velmar::documents::ScheduleTools tools{
       .words = velmar::presentation::CatalogueWords(),
       .materials = velmar::storage::MaterialLookupIn(SHARE "/Databases/Database/Database.mdb"),
-      .templates = SHARE "/Templates"};
+      .places = {.templates = SHARE "/Templates"}};
   for (const auto& [name, format] :
        {std::pair{"Word", ScheduleFormat::kWord}, std::pair{"PDF", ScheduleFormat::kPdf},
         std::pair{"Excel", ScheduleFormat::kExcel}}) {

@@ -47,9 +47,25 @@ function(add_layer name)
                              "set(${name}_uses ${LAYER_USES})\nset(${name}_libraries ${LAYER_LIBRARIES})\n")
 endfunction()
 
+# chosen_among_window_tests(program result): whether a test program of windows or pictures is built and run; else it
+# is built only when its name is given.
+function(chosen_among_window_tests program result)
+  set(${result} ON PARENT_SCOPE)
+  if(VELMAR_WINDOW_TESTS AND NOT program IN_LIST VELMAR_WINDOW_TESTS)
+    set_target_properties(${program} PROPERTIES EXCLUDE_FROM_ALL ON)
+    set(${result} OFF PARENT_SCOPE)
+  endif()
+endfunction()
+
 # add_program_tests(program label [ENVIRONMENT ...]): the tests of a GoogleTest program, each known to CTest by its
 # name. Under the sanitizers a program starts slowly and stands for all its tests at once.
 function(add_program_tests program label)
+  if(program MATCHES "^(shell|presentation_drawing|presentation_export|presentation_paper)_")
+    chosen_among_window_tests(${program} chosen)
+    if(NOT chosen)
+      return()
+    endif()
+  endif()
   if(VELMAR_SANITIZE)
     add_test(NAME "${label}" COMMAND ${program})
     set_tests_properties("${label}" PROPERTIES LABELS ${label} ${ARGN})

@@ -14,6 +14,8 @@ pkg_check_modules(LIBZIP REQUIRED IMPORTED_TARGET libzip)
 pkg_check_modules(INIH REQUIRED IMPORTED_TARGET INIReader)
 pkg_check_modules(LIBMDB REQUIRED IMPORTED_TARGET libmdb)
 if(VELMAR_WITH_WINDOWS)
+  # Bookmarks and links of the manual, while building.
+  pkg_check_modules(QPDF REQUIRED IMPORTED_TARGET libqpdf)
   find_package(Qt6 6.4 REQUIRED COMPONENTS Core Concurrent Gui Widgets PrintSupport Svg Test)
 endif()
 include(GoogleTest)

@@ -6,6 +6,15 @@
 
 #include <sys/resource.h>
 
+// g++ and clang each have their own way of telling.
+#ifdef __SANITIZE_ADDRESS__
+#define VELMAR_ADDRESS_SANITIZER
+#elif defined(__has_feature)
+#if __has_feature(address_sanitizer)
+#define VELMAR_ADDRESS_SANITIZER
+#endif
+#endif
+
 namespace velmar::access_reader {
 namespace {
 
@@ -22,7 +31,7 @@ unsigned ProcessorSeconds(std::uintmax_t bytes) {
 }
 
 void LimitThisProcess(unsigned processor_seconds) {
-#ifndef __SANITIZE_ADDRESS__
+#ifndef VELMAR_ADDRESS_SANITIZER
   // The address sanitizer reserves terabytes of address space for its shadow.
   SetLimit(RLIMIT_AS, rlim_t{512} << 20U);
 #endif

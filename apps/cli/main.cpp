@@ -27,6 +27,17 @@ std::filesystem::path TemplateFolder(const velmar::application::Environment& env
   return *environment.shipped / "Templates";
 }
 
+ReportPlaces PlacesOf(const velmar::application::Environment& environment) {
+  ReportPlaces places{.templates = TemplateFolder(environment),
+                      .data_folder = environment.configuration.LeggiCartellaDati(),
+                      .catalogue = environment.configuration.PercorsoInterfMess()};
+  if (environment.shipped) {
+    places.shipped_templates = *environment.shipped / "Templates";
+    places.shipped_catalogue = *environment.shipped / velmar::storage::kMessageDatabase;
+  }
+  return places;
+}
+
 velmar::cli::Services OpenServices(const velmar::cli::Opening& opening) {
   velmar::application::Environment environment =
       opening.mends ? velmar::application::OpenEnvironmentForMending(opening.data_folder)
@@ -35,10 +46,12 @@ velmar::cli::Services OpenServices(const velmar::cli::Opening& opening) {
   services.words = [messages = std::move(environment.messages)](velmar::MessageRow row) {
     return messages.Text(row);
   };
+  const ReportPlaces places = PlacesOf(environment);
   services.report_formats = {velmar::cli::CsvFormat()};
-  for (velmar::cli::ReportFormat& format : FurtherReportFormats(TemplateFolder(environment))) {
+  for (velmar::cli::ReportFormat& format : FurtherReportFormats(places)) {
     services.report_formats.push_back(std::move(format));
   }
+  services.readable_picture = IsReadablePicture;
   services.material_database = environment.configuration.PercorsoDatabase();
   services.result_database = environment.configuration.PercorsoDatabaseTeorico();
   services.library_folder = environment.configuration.CartellaLibreria();
@@ -65,7 +78,7 @@ velmar::cli::Services OpenServices(const velmar::cli::Opening& opening) {
   services.materials = velmar::application::ForgivingLookup(
       velmar::storage::MaterialLookupIn(environment.configuration.PercorsoDatabase()), tell);
   services.check_template = TemplateCheck();
-  services.together = FurtherTogetherReports(TemplateFolder(environment), services);
+  services.together = FurtherTogetherReports(places, services);
   for (const velmar::Message& warning : environment.warnings)
     velmar::cli::WriteMessage(warning, services.words, std::cerr);
   velmar::cli::WriteMessage(velmar::cli::ConversionAdvice(environment.configuration.PercorsoInterfMess()),

@@ -1,10 +1,10 @@
 #include "report_formats.h"
 
-std::vector<velmar::cli::ReportFormat> FurtherReportFormats(const std::filesystem::path& /*templates*/) {
-  return {};
-}
+std::vector<velmar::cli::ReportFormat> FurtherReportFormats(const ReportPlaces& /*places*/) { return {}; }
 
-velmar::cli::TogetherReports FurtherTogetherReports(const std::filesystem::path& /*templates*/,
+bool IsReadablePicture(const std::string& /*bytes*/) { return true; }
+
+velmar::cli::TogetherReports FurtherTogetherReports(const ReportPlaces& /*places*/,
                                                     const velmar::cli::Services& /*services*/) {
   return {};
 }

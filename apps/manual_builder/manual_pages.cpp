@@ -3,31 +3,32 @@
 #include <QAbstractTextDocumentLayout>
 #include <QFileInfo>
 #include <QFont>
-#include <QPagedPaintDevice>
+#include <QImageReader>
 #include <QPainter>
 #include <QTextBlock>
 #include <QTextFrame>
 #include <QTextList>
 #include <QTextTable>
 #include <QUrl>
+#include <algorithm>
 #include <array>
 #include <cmath>
+#include <numeric>
 #include <vector>
 
 namespace velmar::manual {
 namespace {
 
 // The document counts in points: sizes of letters are given as its units.
-constexpr QSizeF kPage{595.0, 842.0};
-constexpr double kSideMargin = 62.0;
-constexpr double kTopMargin = 56.0;
-constexpr double kFootHeight = 56.0;
-constexpr QSizeF kText{kPage.width() - 2 * kSideMargin, kPage.height() - kTopMargin - kFootHeight};
+constexpr QSizeF kText = PageLook::kText;
 constexpr int kTextPoints = 10;
 constexpr int kFootPoints = 8;
 constexpr int kCodePoints = 8;
+constexpr int kWideTablePoints = 8;
+constexpr int kWideTableColumns = 6;  ///< from as many on a table is wide
 constexpr double kLineHeightPercent = 128.0;
-constexpr double kPictureWidth = 0.8;  ///< of the text's width
+constexpr double kPictureWidth = 0.8;  ///< of the text's width, at most
+constexpr double kPointsAPixel = 0.45;
 /// A heading or table that starts lower on its page than this goes to the next one.
 constexpr double kLowestHeading = 0.86;
 constexpr double kLowestTable = 0.8;
@@ -44,8 +45,9 @@ struct HeadingLook {
   double above = 0.0;
   double below = 0.0;
 };
-constexpr std::array kHeadings = {HeadingLook{22, 0.0, 12.0}, HeadingLook{14, 20.0, 6.0},
-                                  HeadingLook{11, 14.0, 4.0}};
+constexpr int kChapterLevel = 2;
+constexpr std::array kHeadings = {HeadingLook{22, 0.0, 12.0}, HeadingLook{17, 0.0, 10.0},
+                                  HeadingLook{12, 14.0, 4.0}};
 
 const HeadingLook& LookOf(int level) {
   const auto place = static_cast<std::size_t>(level - 1);
@@ -114,10 +116,51 @@ void DressText(const QTextBlock& block) {
   cursor.mergeBlockFormat(look);
 }
 
+/// How the width of `table` is shared, in hundredths, by what its columns hold: words are not broken, long
+/// texts are.
+QList<QTextLength> WidthsOf(const QTextTable& table) {
+  constexpr qsizetype kLongestLine = 36;  // letters
+  constexpr qsizetype kMargin = 2;
+  std::vector<qsizetype> letters(static_cast<std::size_t>(table.columns()), 0);
+  for (int column = 0; column < table.columns(); ++column) {
+    qsizetype& widest = letters[static_cast<std::size_t>(column)];
+    for (int row = 0; row < table.rows(); ++row) {
+      const QString text = table.cellAt(row, column).firstCursorPosition().block().text();
+      for (const QString& word : text.split(' ')) widest = std::max(widest, word.size() + kMargin);
+      if (row > 0) widest = std::max(widest, std::min(text.size(), kLongestLine) + kMargin);
+    }
+  }
+  const qsizetype all = std::accumulate(letters.begin(), letters.end(), qsizetype{0});
+  QList<QTextLength> widths;
+  for (const qsizetype of_column : letters) {
+    widths += QTextLength(QTextLength::PercentageLength,
+                          100.0 * static_cast<double>(of_column) / static_cast<double>(all));
+  }
+  return widths;
+}
+
+/// The heading that a block belongs under, or the first of several that stand together; the block itself
+/// where it follows text.
+QTextBlock FirstHeadingAbove(QTextBlock block) {
+  while (block.previous().isValid() && block.previous().blockFormat().headingLevel() > 0)
+    block = block.previous();
+  return block;
+}
+
+/// What follows a heading and those below it.
+QTextBlock TextBelow(const QTextBlock& heading) {
+  QTextBlock text = heading.next();
+  while (text.isValid() && text.blockFormat().headingLevel() > 0) text = text.next();
+  return text;
+}
+
+bool Breaks(const QTextBlock& block) {
+  return (block.blockFormat().pageBreakPolicy() & QTextFormat::PageBreak_AlwaysBefore) != 0;
+}
+
 }  // namespace
 
-ManualPages::ManualPages(const QString& markdown, const QString& folder, QString product)
-    : product_(std::move(product)) {
+ManualPages::ManualPages(const QString& markdown, const QString& folder) {
   QFont letters("Liberation Sans");
   letters.setPixelSize(kTextPoints);
   letters.setHintingPreference(QFont::PreferNoHinting);
@@ -125,13 +168,23 @@ ManualPages::ManualPages(const QString& markdown, const QString& folder, QString
   document_.setBaseUrl(QUrl::fromLocalFile(folder + '/'));
   document_.setDocumentMargin(0.0);
   document_.setMarkdown(markdown, QTextDocument::MarkdownDialectGitHub);
+  LeaveOutTitle();
   DressBlocks();
   DressPictures(folder);
   DressTables();
   document_.setPageSize(kText);
   KeepTogether();
-  // Breaks set afterwards leave blocks without a place: everything is laid out anew.
-  document_.markContentsDirty(0, document_.characterCount());
+  FindHeadings();
+  FindLinks();
+}
+
+void ManualPages::LeaveOutTitle() {
+  if (document_.begin().blockFormat().headingLevel() != 1) return;
+  QTextCursor cursor(document_.begin());
+  cursor.movePosition(QTextCursor::NextBlock, QTextCursor::KeepAnchor);
+  const QTextBlockFormat look = cursor.blockFormat();
+  cursor.removeSelectedText();
+  cursor.setBlockFormat(look);
 }
 
 void ManualPages::DressBlocks() {
@@ -153,7 +206,9 @@ void ManualPages::DressPictures(const QString& folder) {
       QTextImageFormat picture = fragment.charFormat().toImageFormat();
       const QString words = picture.property(QTextFormat::ImageAltText).toString();
       if (!QFileInfo::exists(folder + '/' + picture.name())) missing_pictures_ += picture.name();
-      picture.setWidth(kText.width() * kPictureWidth);
+      // A small window is not drawn larger than it is sharp.
+      const double natural = QImageReader(folder + '/' + picture.name()).size().width() * kPointsAPixel;
+      picture.setWidth(std::min(kText.width() * kPictureWidth, natural));
       QTextCursor cursor(&document_);
       cursor.setPosition(fragment.position());
       cursor.setPosition(fragment.position() + fragment.length(), QTextCursor::KeepAnchor);
@@ -189,6 +244,7 @@ void ManualPages::DressTables() {
     look.setTopMargin(4.0);
     look.setBottomMargin(10.0);
     look.setHeaderRowCount(1);
+    look.setColumnWidthConstraints(WidthsOf(*table));
     table->setFormat(look);
     for (int row = 0; row < table->rows(); ++row) {
       for (int column = 0; column < table->columns(); ++column) {
@@ -198,6 +254,12 @@ void ManualPages::DressTables() {
         tight.setBottomMargin(0.0);
         tight.setAlignment(Qt::AlignLeft);
         cursor.mergeBlockFormat(tight);
+        if (table->columns() >= kWideTableColumns) {
+          cursor.setPosition(cell.lastCursorPosition().position(), QTextCursor::KeepAnchor);
+          QTextCharFormat small;
+          small.setProperty(QTextFormat::FontPixelSize, kWideTablePoints);
+          cursor.mergeCharFormat(small);
+        }
         if (row > 0) continue;
         QTextTableCellFormat ground = cell.format().toTableCellFormat();
         ground.setBackground(kHeadGround);
@@ -207,27 +269,105 @@ void ManualPages::DressTables() {
   }
 }
 
-void ManualPages::KeepTogether() {
-  const auto height_on_page = [this](const QRectF& place) {
-    return std::fmod(place.top(), kText.height()) / kText.height();
-  };
+double ManualPages::TopOf(const QTextBlock& block) const {
+  const QTextFrame* frame = QTextCursor(block).currentFrame();
   const QAbstractTextDocumentLayout& layout = *document_.documentLayout();
+  return frame != nullptr && frame != document_.rootFrame()
+             ? layout.frameBoundingRect(const_cast<QTextFrame*>(frame)).top()
+             : layout.blockBoundingRect(block).top();
+}
+
+void ManualPages::MoveToNextPage(const QTextBlock& block) {
+  BreakBefore(block);
+  // What follows has no place until it is laid out anew.
+  document_.markContentsDirty(block.position(), document_.characterCount() - block.position());
+}
+
+// From above downwards: what is moved moves all that follows.
+void ManualPages::KeepTogether() {
+  const auto page_of = [this](const QTextBlock& block) {
+    return static_cast<int>(TopOf(block) / kText.height());
+  };
+  const auto height_on_page = [this](const QTextBlock& block) {
+    return std::fmod(TopOf(block), kText.height()) / kText.height();
+  };
   for (QTextBlock block = document_.begin(); block.isValid(); block = block.next()) {
-    const bool heading = block.blockFormat().headingLevel() > 0;
-    if (heading && height_on_page(layout.blockBoundingRect(block)) >= kLowestHeading) BreakBefore(block);
+    const int level = block.blockFormat().headingLevel();
+    if (level == kChapterLevel && block.position() > 0) BreakBefore(block);
   }
-  for (QTextFrame* frame : document_.rootFrame()->childFrames()) {
-    if (height_on_page(layout.frameBoundingRect(frame)) < kLowestTable) continue;
-    // A heading goes with its table.
-    const QTextBlock before = document_.findBlock(frame->firstPosition()).previous();
-    if (before.isValid() && before.blockFormat().headingLevel() > 0) {
-      BreakBefore(before);
+  document_.markContentsDirty(0, document_.characterCount());
+  for (QTextBlock block = document_.begin(); block.isValid(); block = block.next()) {
+    if (block.blockFormat().headingLevel() > 0) {
+      const QTextBlock text = TextBelow(block);
+      // A picture or a table that finds no room under its heading would leave it alone at the foot.
+      const bool alone = text.isValid() && page_of(text) != page_of(block);
+      const QTextBlock first = FirstHeadingAbove(block);
+      if ((alone || height_on_page(block) >= kLowestHeading) && !Breaks(first)) MoveToNextPage(first);
       continue;
     }
-    QTextFrameFormat look = frame->frameFormat();
+    QTextTable* table = QTextCursor(block).currentTable();
+    if (table == nullptr || table->firstPosition() != block.position()) continue;
+    if (height_on_page(block) < kLowestTable) continue;
+    const QTextBlock first = FirstHeadingAbove(block);
+    if (first != block) {
+      if (!Breaks(first)) MoveToNextPage(first);
+      continue;
+    }
+    QTextTableFormat look = table->format();
     look.setPageBreakPolicy(QTextFormat::PageBreak_AlwaysBefore);
-    frame->setFrameFormat(look);
+    table->setFormat(look);
+    document_.markContentsDirty(block.position(), document_.characterCount() - block.position());
   }
+}
+
+void ManualPages::FindHeadings() {
+  for (QTextBlock block = document_.begin(); block.isValid(); block = block.next()) {
+    const int level = block.blockFormat().headingLevel();
+    if (level == 0) continue;
+    const double top = TopOf(block);
+    const int page = static_cast<int>(top / kText.height());
+    const std::string title = block.text().toStdString();
+    headings_.push_back({{level, title, presentation::AnchorOf(title)},
+                         page,
+                         PageLook::kTopMargin + top - page * kText.height()});
+  }
+}
+
+void ManualPages::FindLinks() {
+  for (QTextBlock block = document_.begin(); block.isValid(); block = block.next()) {
+    ForEachFragment(block, [this, &block](const QTextFragment& fragment) {
+      const QString address = fragment.charFormat().anchorHref();
+      if (!address.startsWith('#')) return;
+      const QPointF origin = document_.documentLayout()->blockBoundingRect(block).topLeft();
+      const int from = fragment.position() - block.position();
+      const int to = from + fragment.length();
+      for (int i = 0; i < block.layout()->lineCount(); ++i) {
+        const QTextLine line = block.layout()->lineAt(i);
+        const int first = std::max(from, line.textStart());
+        const int last = std::min(to, line.textStart() + line.textLength());
+        if (first >= last) continue;
+        QRectF place(line.cursorToX(first), line.y(), line.cursorToX(last) - line.cursorToX(first),
+                     line.height());
+        place.translate(origin);
+        const int page = static_cast<int>(place.top() / kText.height());
+        place.translate(PageLook::kSideMargin, PageLook::kTopMargin - page * kText.height());
+        links_.push_back({page, place, address.mid(1).toStdString()});
+      }
+    });
+  }
+}
+
+std::map<int, int> ManualPages::PagesOf(const QString& term) const {
+  std::map<int, int> pages;
+  for (QTextCursor hit = document_.find(term, 0, QTextDocument::FindWholeWords); !hit.isNull();
+       hit = document_.find(term, hit, QTextDocument::FindWholeWords)) {
+    const QTextBlock block = hit.block();
+    const QTextLine line = block.layout()->lineForTextPosition(hit.selectionStart() - block.position());
+    const double top =
+        document_.documentLayout()->blockBoundingRect(block).top() + (line.isValid() ? line.y() : 0.0);
+    ++pages[static_cast<int>(top / kText.height())];
+  }
+  return pages;
 }
 
 bool ManualPages::HoldsWholeText() const {
@@ -235,20 +375,9 @@ bool ManualPages::HoldsWholeText() const {
   return last.height() > 0.0 && last.bottom() <= Count() * kText.height();
 }
 
-bool ManualPages::PaintOn(QPagedPaintDevice& device) const {
-  QPainter painter;
-  if (!painter.begin(&device)) return false;
-  painter.scale(device.width() / kPage.width(), device.height() / kPage.height());
-  for (int page = 0; page < Count(); ++page) {
-    if (page > 0 && !device.newPage()) return false;
-    PaintPage(painter, page);
-  }
-  return painter.end();
-}
-
 void ManualPages::PaintPage(QPainter& painter, int page) const {
   painter.save();
-  painter.translate(kSideMargin, kTopMargin - page * kText.height());
+  painter.translate(PageLook::kSideMargin, PageLook::kTopMargin - page * kText.height());
   const QRectF seen(0.0, page * kText.height(), kText.width(), kText.height());
   // Two units less: a picture that begins on the next page would show its edge.
   painter.setClipRect(seen.adjusted(0.0, 0.0, 0.0, -2.0));
@@ -257,17 +386,21 @@ void ManualPages::PaintPage(QPainter& painter, int page) const {
   context.palette.setColor(QPalette::Text, Qt::black);
   document_.documentLayout()->draw(&painter, context);
   painter.restore();
+}
 
-  QFont letters = document_.defaultFont();
+void PaintFoot(QPainter& painter, const QString& product, const QString& number) {
+  QFont letters("Liberation Sans");
   letters.setPixelSize(kFootPoints);
+  letters.setHintingPreference(QFont::PreferNoHinting);
   painter.setFont(letters);
   painter.setPen(QPen(kRule, 0.5));
-  const double line = kPage.height() - kFootHeight + 14.0;
-  painter.drawLine(QPointF(kSideMargin, line), QPointF(kPage.width() - kSideMargin, line));
+  const double line = PageLook::kPage.height() - PageLook::kFootHeight + 14.0;
+  painter.drawLine(QPointF(PageLook::kSideMargin, line),
+                   QPointF(PageLook::kPage.width() - PageLook::kSideMargin, line));
   painter.setPen(kQuiet);
-  const QRectF foot(kSideMargin, line + 5.0, kText.width(), 14.0);
-  painter.drawText(foot, Qt::AlignLeft | Qt::AlignVCenter, product_);
-  painter.drawText(foot, Qt::AlignRight | Qt::AlignVCenter, QString("%1 / %2").arg(page + 1).arg(Count()));
+  const QRectF foot(PageLook::kSideMargin, line + 5.0, kText.width(), 14.0);
+  painter.drawText(foot, Qt::AlignLeft | Qt::AlignVCenter, product);
+  painter.drawText(foot, Qt::AlignRight | Qt::AlignVCenter, number);
 }
 
 }  // namespace velmar::manual

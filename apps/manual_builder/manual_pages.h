@@ -1,22 +1,54 @@
 #pragma once
 
+#include <QRectF>
 #include <QString>
 #include <QStringList>
 #include <QTextDocument>
+#include <map>
+#include <vector>
+
+#include "presentation/manual/manual_headings.h"
 
 class QPagedPaintDevice;
 class QPainter;
+class QTextBlock;
 
 namespace velmar::manual {
 
-/// The user manual set for A4: headings that stay with their text, pictures as wide as the text, tables with
-/// lines, a number on every page. Lengths in points.
+/// A heading on its page.
+struct PlacedHeading {
+  presentation::ManualHeading heading{};
+  int page = 0;      ///< from 0
+  double top = 0.0;  ///< on the sheet, points from its upper edge
+};
+
+/// Words that lead to a heading.
+struct PlacedLink {
+  int page = 0;
+  QRectF place{};  ///< on the sheet, points from its upper left corner
+  std::string anchor{};
+};
+
+/// What a page of a document of A4 is made of: its margins and the line at its foot.
+struct PageLook {
+  static constexpr QSizeF kPage{595.0, 842.0};
+  static constexpr double kSideMargin = 62.0;
+  static constexpr double kTopMargin = 56.0;
+  static constexpr double kFootHeight = 56.0;
+  static constexpr QSizeF kText{kPage.width() - 2 * kSideMargin, kPage.height() - kTopMargin - kFootHeight};
+};
+
+/// Draws the line at the foot of a page. `number` is what stands on the right.
+void PaintFoot(QPainter& painter, const QString& product, const QString& number);
+
+/// The text of the user manual set for A4: chapters that begin on a page of their own, headings that stay
+/// with their text, pictures, tables with lines. Lengths in points. The title of the manual stands on its
+/// front page and is left out here.
 class ManualPages {
  public:
   /// @param markdown the manual's text
   /// @param folder where its pictures lie
-  /// @param product the name at the foot of each page
-  ManualPages(const QString& markdown, const QString& folder, QString product);
+  ManualPages(const QString& markdown, const QString& folder);
 
   int Count() const { return document_.pageCount(); }
 
@@ -26,20 +58,32 @@ class ManualPages {
   /// Whether the last line of the text stands on a page.
   bool HoldsWholeText() const;
 
-  /// Paints every page on `device`, which is an A4 page without margins.
-  /// @return whether all could be painted
-  bool PaintOn(QPagedPaintDevice& device) const;
+  /// Every heading on its page.
+  const std::vector<PlacedHeading>& Headings() const { return headings_; }
+  /// Every link to a heading.
+  const std::vector<PlacedLink>& Links() const { return links_; }
+
+  /// On which pages, from 0, `term` stands as a whole word, and how often.
+  std::map<int, int> PagesOf(const QString& term) const;
+
+  /// Paints page `page` on a painter whose unit is the point.
+  void PaintPage(QPainter& painter, int page) const;
 
  private:
+  void LeaveOutTitle();
   void DressBlocks();
   void DressPictures(const QString& folder);
   void DressTables();
   void KeepTogether();
-  void PaintPage(QPainter& painter, int page) const;
+  void MoveToNextPage(const QTextBlock& block);
+  double TopOf(const QTextBlock& block) const;
+  void FindHeadings();
+  void FindLinks();
 
   mutable QTextDocument document_;
-  QString product_;
-  QStringList missing_pictures_;
+  QStringList missing_pictures_{};
+  std::vector<PlacedHeading> headings_{};
+  std::vector<PlacedLink> links_{};
 };
 
 }  // namespace velmar::manual

@@ -7,13 +7,9 @@
 #include <iterator>
 #include <stdexcept>
 
-#include "cli/drawn/drawn_formats.h"
-#include "cli/output/report_format.h"
-#include "cli/parsing/commands.h"
-#include "cli/parsing/usage_words.h"
-#include "storage/messages/message_table_reader.h"
 #include "usage_builder/completions.h"
 #include "usage_builder/manual_page.h"
+#include "usage_builder/usage_of_velmar.h"
 
 namespace {
 
@@ -34,25 +30,9 @@ void Write(const fs::path& file, const std::string& text) {
   if (!out) throw std::runtime_error("cannot write " + file.string());
 }
 
-/// The command line in `language`, as a tree.
-UsageCommand UsageIn(const std::string& language, const fs::path& share) {
-  const velmar::storage::MessageTable messages =
-      velmar::storage::ReadMessageTable(share / "Databases/InterfMess.mdb", language);
-  velmar::cli::Services services;
-  services.words = [&messages](velmar::MessageRow row) { return messages.Text(row); };
-  services.report_formats = {velmar::cli::CsvFormat()};
-  for (velmar::cli::ReportFormat& format : velmar::cli::DrawnFormats(share / "Templates"))
-    services.report_formats.push_back(std::move(format));
-  velmar::cli::Parsed parsed;
-  CLI::App app;
-  velmar::cli::AddCommands(app, parsed, services);
-  velmar::cli::SayHelpIn(services.words, app);
-  return velmar::usage_builder::UsageOf(app, "velmar");
-}
-
 void BuildUsage(const fs::path& share, const fs::path& man, const fs::path& target) {
-  const UsageCommand italian = UsageIn("Italiano", share);
-  const UsageCommand english = UsageIn("English", share);
+  const UsageCommand italian = velmar::usage_builder::UsageOfVelmar("Italiano", share);
+  const UsageCommand english = velmar::usage_builder::UsageOfVelmar("English", share);
   Write(target / "bash/velmar", velmar::usage_builder::BashCompletion(italian));
   Write(target / "zsh/_velmar", velmar::usage_builder::ZshCompletion(italian));
   Write(target / "fish/velmar.fish", velmar::usage_builder::FishCompletion(italian));

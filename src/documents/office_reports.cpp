@@ -12,35 +12,64 @@
 
 namespace velmar::documents {
 
-presentation::ReportRecord RecordOf(const ReportContent& content, bool with_chart) {
-  presentation::ReportPictures pictures{.section =
-                                            presentation::ReportSectionOf(content.setup, content.words)};
-  if (with_chart) {
-    pictures.chart = presentation::ReportChartOf(content.setup, content.result, content.words);
-  }
-  presentation::ReportRecord record = presentation::ReportRecordOf(
-      content.setup, content.result, {content.totals.thickness_mm, content.totals.surface_mass_kg_m2},
-      content.words, std::move(pictures), {}, ProvenanceOfContent(content));
-  AddConfidence(record, content.confidence, content.words);
+presentation::ReportRecord RecordOf(const ReportContent& content, const application::DocumentStyle& style,
+                                    bool with_chart) {
+  const presentation::Words captions = style.Captions();
+  presentation::ReportPictures pictures{
+      .section = presentation::ReportSectionOf(content.setup, captions, style.language)};
+  if (with_chart) pictures.chart = presentation::ReportChartOf(content.setup, content.result, captions);
+  const auto record_in = [&](const elements::Setup& setup, const presentation::Words& words,
+                             elements::DocumentLanguage language) {
+    presentation::ReportRecord record = presentation::ReportRecordOf(
+        setup, content.result, {content.totals.thickness_mm, content.totals.surface_mass_kg_m2}, words,
+        pictures, {}, ProvenanceOfContent(content, language));
+    record.language = language;
+    AddConfidence(record, content.confidence, words);
+    return record;
+  };
+  presentation::ReportRecord record = application::InLanguages(style, content.setup, record_in);
+  PutStudio(record, style.studio.words, style.studio.logo, style.studio.signature);
   return record;
 }
 
-presentation::Provenance ProvenanceOfContent(const ReportContent& content) {
-  return presentation::ProvenanceOf(storage::WriteProject(content.setup), content.file, content.sources);
+presentation::Provenance ProvenanceOfContent(const ReportContent& content,
+                                             elements::DocumentLanguage language) {
+  return presentation::ProvenanceOf(storage::WriteProject(content.setup), content.file, content.sources,
+                                    language);
 }
 
-presentation::PaginaDiStampa PageOf(const ReportContent& content) {
-  presentation::PaginaDiStampa page = presentation::PaginaDi(
-      content.setup, {content.totals.thickness_mm, content.totals.surface_mass_kg_m2}, &content.result,
-      content.words, presentation::WholeChartOf(content.setup, content.result, content.words),
-      content.confidence);
-  TellProvenance(page, content.setup, content.words, ProvenanceOfContent(content));
+application::DocumentStyle StyleOfContent(const application::DocumentPlaces& places,
+                                          const ReportContent& content) {
+  return application::StyleOf(places, content.language, content.words, content.tell);
+}
+
+presentation::PaginaDiStampa PageOf(const ReportContent& content, const application::DocumentStyle& style) {
+  const std::optional<presentation::CurveChart> chart =
+      presentation::WholeChartOf(content.setup, content.result, style.Captions());
+  const auto page_in = [&](const elements::Setup& setup, const presentation::Words& words,
+                           elements::DocumentLanguage language) {
+    presentation::PaginaDiStampa page =
+        presentation::PaginaDi(setup, {content.totals.thickness_mm, content.totals.surface_mass_kg_m2},
+                               &content.result, words, chart, content.confidence, language);
+    const presentation::Provenance provenance = ProvenanceOfContent(content, language);
+    TellProvenance(page, setup, words, provenance, language);
+    TellStudio(page, setup, PageStudioOf(style), words, provenance);
+    return page;
+  };
+  presentation::PaginaDiStampa page = application::InLanguages(style, content.setup, page_in);
+  if (style.english)
+    page.section_options = presentation::PaperOptions(content.setup, style.Captions(), style.language);
   return page;
 }
 
-std::string WordReportBytes(const std::filesystem::path& templates, const ReportContent& content) {
-  const presentation::ReportRecord record = RecordOf(content, true);
-  return WithTemplate(templates / presentation::WordTemplateName(record.family),
+std::string WordReportBytes(const application::DocumentPlaces& places, const ReportContent& content) {
+  return WordReportBytes(places, StyleOfContent(places, content), content);
+}
+
+std::string WordReportBytes(const application::DocumentPlaces& places,
+                            const application::DocumentStyle& style, const ReportContent& content) {
+  const presentation::ReportRecord record = RecordOf(content, style, true);
+  return WithTemplate(application::TemplateFile(places, presentation::WordTemplateName(record.family), style),
                       [&](const std::string& bytes) {
                         presentation::WrittenReport report = presentation::WriteWordReport(bytes, record);
                         const Message remarks = report.Remarks();
@@ -49,10 +78,12 @@ std::string WordReportBytes(const std::filesystem::path& templates, const Report
                       });
 }
 
-std::string ExcelReportBytes(const std::filesystem::path& templates, const ReportContent& content) {
-  return WithTemplate(templates / presentation::kExcelTemplateName, [&](const std::string& bytes) {
-    return presentation::WriteExcelReport(bytes, RecordOf(content, false));
-  });
+std::string ExcelReportBytes(const application::DocumentPlaces& places, const ReportContent& content) {
+  const application::DocumentStyle style = StyleOfContent(places, content);
+  return WithTemplate(application::TemplateFile(places, presentation::kExcelTemplateName, style),
+                      [&](const std::string& bytes) {
+                        return presentation::WriteExcelReport(bytes, RecordOf(content, style, false));
+                      });
 }
 
 }  // namespace velmar::documents

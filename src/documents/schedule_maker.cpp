@@ -1,6 +1,5 @@
 #include "documents/schedule_maker.h"
 
-#include <QDate>
 #include <algorithm>
 #include <exception>
 #include <utility>
@@ -11,6 +10,7 @@
 #include "foundation/failure.h"
 #include "foundation/message_rows.h"
 #include "foundation/utf8.h"
+#include "presentation/export/document_provenance.h"
 #include "presentation/export/report_section.h"
 #include "presentation/export/schedule_pdf.h"
 #include "presentation/reports/excel_report.h"
@@ -57,7 +57,11 @@ Message ReasonOf(const std::exception& exception) {
 class Maker {
  public:
   Maker(const ScheduleOrder& order, const ScheduleTools& tools, const WatchSchedule& watch)
-      : order_(order), tools_(tools), watch_(watch) {}
+      : order_(order),
+        tools_(tools),
+        watch_(watch),
+        style_(application::StyleOf(tools.places, order.language, tools.words,
+                                    [this](const Message& message) { Remark(message); })) {}
 
   std::optional<MadeSchedule> Make() {
     if (order_.projects.empty()) throw Failure({{kScheduleNothingRow}}, "no project");
@@ -82,7 +86,7 @@ class Maker {
   }
 
   void Fail(std::size_t place, Message reason) {
-    schedule_.elements[place].failure = InLines(reason, tools_.words);
+    schedule_.elements[place].failure = InLines(reason, style_.words);
     contents_[place].reset();
     made_.failed.push_back({order_.projects[place], std::move(reason)});
   }
@@ -112,9 +116,9 @@ class Maker {
       const ReportContent& content = *contents_.back();
       ScheduleElement element = presentation::ScheduleElementOf(
           content.setup, content.result, {content.totals.thickness_mm, content.totals.surface_mass_kg_m2},
-          tools_.words, place + 1);
+          style_.words, place + 1);
       element.file = file;
-      element.drawing = presentation::SectionThumbnailOf(content.setup, tools_.words);
+      element.drawing = presentation::SectionThumbnailOf(content.setup, style_.words);
       schedule_.elements.back() = std::move(element);
     } catch (const std::exception& exception) {
       Fail(place, ReasonOf(exception));
@@ -155,11 +159,12 @@ class Maker {
   }
 
   void FillCover() {
-    schedule_.cover = {.title = order_.title.empty() ? tools_.words(kScheduleTitleRow) : order_.title,
+    schedule_.language = style_.language;
+    schedule_.cover = {.title = order_.title.empty() ? style_.Captions()(kScheduleTitleRow) : order_.title,
                        .project = Shared(kProjectRow),
                        .client = Shared(kClientRow),
-                       .studio = order_.studio,
-                       .date = QDate::currentDate().toString(QStringLiteral("dd/MM/yyyy")).toStdString()};
+                       .studio = style_.studio.words.name,
+                       .date = presentation::ProvenanceOf({}, {}, {}, style_.language).date};
   }
 
   /// Calls `make` for every project with a result; one that fails there has no chapter after all.
@@ -184,25 +189,27 @@ class Maker {
   bool BindWord() {
     std::vector<presentation::WordChapter> chapters;
     const bool all = ForEachChapter([&](const ScheduleElement& element, const ReportContent& content) {
-      chapters.push_back({ChapterHeading(element), WordReportBytes(tools_.templates, content)});
+      chapters.push_back({ChapterHeading(element), WordReportBytes(tools_.places, style_, content)});
     });
     if (!all) return false;
     made_.bytes =
-        WithTemplate(tools_.templates / presentation::kScheduleTemplateName, [&](const std::string& bytes) {
-          return presentation::WriteWordSchedule(bytes, schedule_, chapters, tools_.words);
-        });
+        WithTemplate(application::TemplateFile(tools_.places, presentation::kScheduleTemplateName, style_),
+                     [&](const std::string& bytes) {
+                       return presentation::WriteWordSchedule(bytes, schedule_, chapters, style_.Captions());
+                     });
     return true;
   }
 
   bool BindExcel() {
     std::vector<presentation::ExcelChapter> chapters;
     const bool all = ForEachChapter([&](const ScheduleElement& element, const ReportContent& content) {
-      chapters.push_back({element.code, RecordOf(content, false)});
+      chapters.push_back({element.code, RecordOf(content, style_, false)});
     });
     if (!all) return false;
-    made_.bytes =
-        WithTemplate(tools_.templates / presentation::kExcelTemplateName, [&](const std::string& bytes) {
-          return presentation::WriteExcelSchedule(bytes, schedule_, std::move(chapters), tools_.words);
+    made_.bytes = WithTemplate(
+        application::TemplateFile(tools_.places, presentation::kExcelTemplateName, style_),
+        [&](const std::string& bytes) {
+          return presentation::WriteExcelSchedule(bytes, schedule_, std::move(chapters), style_.Captions());
         });
     return true;
   }
@@ -210,10 +217,11 @@ class Maker {
   bool BindPdf() {
     std::vector<presentation::PageChapter> chapters;
     const bool all = ForEachChapter([&](const ScheduleElement& element, const ReportContent& content) {
-      chapters.push_back({ChapterHeading(element), PageOf(content), presentation::SectionOf(content.setup)});
+      chapters.push_back(
+          {ChapterHeading(element), PageOf(content, style_), presentation::SectionOf(content.setup)});
     });
     if (!all) return false;
-    made_.bytes = presentation::SchedulePdf(schedule_, chapters, tools_.words);
+    made_.bytes = presentation::SchedulePdf(schedule_, chapters, style_.Captions());
     return true;
   }
 
@@ -224,6 +232,7 @@ class Maker {
   std::vector<std::optional<ReportContent>> contents_{};  ///< beside the elements of the schedule
   MadeSchedule made_{};
   std::size_t done_ = 0;
+  application::DocumentStyle style_;  ///< behind what it tells its remarks to
 };
 
 }  // namespace

@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "application/documents/document_style.h"
 #include "elements/material_record.h"
 #include "foundation/message.h"
 #include "presentation/texts/calculation_data.h"
@@ -24,8 +25,8 @@ std::optional<ScheduleFormat> ScheduleFormatOf(std::string_view extension);
 struct ScheduleOrder {
   std::vector<std::filesystem::path> projects{};  ///< in the order of the chapters
   ScheduleFormat format = ScheduleFormat::kWord;
-  std::string title{};   ///< empty: the usual one
-  std::string studio{};  ///< who made it; may be empty
+  std::string title{};                                   ///< empty: the usual one
+  std::optional<elements::DocumentLanguage> language{};  ///< none: as the studio profile says
   bool go_on_outside_ranges = false;
 };
 
@@ -34,8 +35,8 @@ struct ScheduleTools {
   presentation::Words words{};
   elements::MaterialLookup materials{};
   presentation::MaterialSources sources{};
-  std::filesystem::path templates{};  ///< folder
-  validation::Accuracy accuracy{};    ///< of the errors of the models
+  application::DocumentPlaces places{};
+  validation::Accuracy accuracy{};  ///< of the errors of the models
 };
 
 /// A project that has no chapter, and why.

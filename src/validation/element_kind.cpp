@@ -9,6 +9,7 @@
 #include "elements/parts.h"
 #include "foundation/decimal.h"
 #include "foundation/message_rows.h"
+#include "models/layered/leaf.h"
 
 namespace velmar::validation {
 namespace {
@@ -113,7 +114,6 @@ static_assert(KindsStandInTheirOrder());
 
 constexpr double kMetresPerMillimetre = 0.001;
 constexpr double kPascalPerGigapascal = 1e9;
-constexpr double kHeavyLeaf_kg_m2 = 60.0;
 constexpr double kThinnestTimberSlab_mm = 100.0;
 constexpr double kThickestSheet_mm = 50.0;
 constexpr double kThickestPane_mm = 30.0;
@@ -127,6 +127,7 @@ constexpr double kLaminatedLossFactor = 0.01;
 struct Sheet {
   double thickness_mm = 0.0;
   double density_kg_m3 = 0.0;
+  double youngs_modulus_pa = 0.0;
   double wave_speed_m_s = 0.0;
   double loss_factor = 0.0;
 
@@ -136,10 +137,11 @@ using Leaf = std::vector<Sheet>;
 
 void Add(Leaf& leaf, const StructuralMaterial& slot, int multiplicity) {
   if (slot.thickness_mm <= 0.0 || slot.density_kg_m3 <= 0.0) return;
+  const double modulus_pa = std::max(0.0, slot.youngs_modulus_gpa) * kPascalPerGigapascal;
   leaf.push_back({.thickness_mm = slot.thickness_mm * multiplicity,
                   .density_kg_m3 = slot.density_kg_m3,
-                  .wave_speed_m_s = std::sqrt(std::max(0.0, slot.youngs_modulus_gpa) * kPascalPerGigapascal /
-                                              slot.density_kg_m3),
+                  .youngs_modulus_pa = modulus_pa,
+                  .wave_speed_m_s = std::sqrt(modulus_pa / slot.density_kg_m3),
                   .loss_factor = slot.loss_factor});
 }
 
@@ -196,7 +198,8 @@ ElementKind SingleLeafKind(const Leaf& leaf) {
   if (leaf.empty()) return ElementKind::kOther;
   const Sheet sheet = HeaviestOf(leaf);
   const double thickness_mm = ThicknessOf(leaf);
-  if (Within(sheet.density_kg_m3, 2400.0, 2601.0) && sheet.wave_speed_m_s >= 4000.0 &&
+  const bool heavy = MassOf(leaf) >= models::kHeavyLeaf;
+  if (models::IsGlass(sheet.density_kg_m3, sheet.youngs_modulus_pa, heavy) &&
       thickness_mm <= kThickestPane_mm) {
     return sheet.loss_factor >= kLaminatedLossFactor ? ElementKind::kLaminatedPane : ElementKind::kSinglePane;
   }
@@ -273,8 +276,8 @@ ElementKind TwoLeavesKind(const Setup& setup, elements::Frame frame, const Leaf&
     return GlazingKind(*depth_mm);
   }
   if (elements::IsGlazing(*setup.calculation)) return ElementKind::kOther;
-  const bool first_heavy = MassOf(first) >= kHeavyLeaf_kg_m2;
-  const bool second_heavy = MassOf(second) >= kHeavyLeaf_kg_m2;
+  const bool first_heavy = MassOf(first) >= models::kHeavyLeaf;
+  const bool second_heavy = MassOf(second) >= models::kHeavyLeaf;
   if (first_heavy && second_heavy) return ElementKind::kMasonryCavityWall;
   if (first_heavy || second_heavy || *setup.calculation == Calculation::kDoubleWallSeaBrick) {
     return ElementKind::kOther;
@@ -353,7 +356,7 @@ ElementKind KindOfList(const elements::Multilayer& list) {
   };
   if (std::ranges::all_of(element.leaves, is_pane)) return GlazingKind(element.depth_mm);
   const auto is_light = [](const ListedLeaf& leaf) {
-    return !leaf.shaped && !leaf.laminated && !leaf.sheets.empty() && MassOf(leaf.sheets) < kHeavyLeaf_kg_m2;
+    return !leaf.shaped && !leaf.laminated && !leaf.sheets.empty() && MassOf(leaf.sheets) < models::kHeavyLeaf;
   };
   return std::ranges::all_of(element.leaves, is_light) ? KindOfConnection(element.connection)
                                                        : ElementKind::kOther;

@@ -12,6 +12,7 @@
 #include "foundation/failure.h"
 #include "foundation/message_rows.h"
 #include "presentation/documents/package.h"
+#include "presentation/texts/paper_text.h"
 #include "storage/materials/material_store.h"
 #include "tests/presentation/drawing/catalogue_words.h"
 #include "tests/storage/support/temporary_folder.h"
@@ -29,7 +30,7 @@ path Example(const std::string& name) { return path(EXAMPLES) / (name + ".drav")
 ScheduleTools Tools() {
   return {.words = presentation::CatalogueWords(),
           .materials = storage::MaterialLookupIn(SHIPPED "/Databases/Database/Database.mdb"),
-          .templates = SHIPPED "/Templates"};
+          .places = {.templates = SHIPPED "/Templates"}};
 }
 
 MadeSchedule Make(const ScheduleOrder& order) { return MakeSchedule(order, Tools()).value(); }
@@ -68,9 +69,10 @@ TEST(ScheduleMaker, EveryChapterHoldsTheNumbersOfItsRun) {
   const std::string third = "3 – Tramezzo in forati da 8 cm, intonacato";
   const std::string wall = ChapterOf(text, "1 – Parete in semipieni da 12 cm, intonacata", second);
   const std::string floor = ChapterOf(text, second, third);
-  EXPECT_THAT(wall, HasSubstr("\nRw(C; Ctr)= 44,0 (-1; -4) dB\n"));
-  EXPECT_THAT(floor, HasSubstr("\nLnw(Ci)= 41,0 (2) dB\n"));
-  EXPECT_THAT(ChapterOf(text, third, ""), HasSubstr("\nRw(C; Ctr)= 39,0 (-1; -3) dB\n"));
+  EXPECT_THAT(wall, HasSubstr("\n" + presentation::ForPaper("Rw(C; Ctr)= 44,0 (-1; -4) dB") + "\n"));
+  EXPECT_THAT(floor, HasSubstr("\n" + presentation::ForPaper("Lnw(Ci)= 41,0 (2) dB") + "\n"));
+  EXPECT_THAT(ChapterOf(text, third, ""),
+              HasSubstr("\n" + presentation::ForPaper("Rw(C; Ctr)= 39,0 (-1; -3) dB") + "\n"));
 }
 
 TEST(ScheduleMaker, AProjectThatFailsIsNamedAndTheOthersAreWritten) {

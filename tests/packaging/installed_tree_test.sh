@@ -11,7 +11,7 @@ mkdir -p "$HOME"
 
 missing=0
 for file in "bin/velmar" "bin/velmarpro" "lib/velmarpro/velmar-access-reader" \
-  "share/doc/velmarpro/VELMARpro - Manuale d'uso.pdf" "share/doc/velmarpro/copyright" \
+  "share/doc/velmarpro/VELMARpro - Manuale d'uso.pdf" share/doc/velmarpro/manuale/manuale.md "share/doc/velmarpro/copyright" \
   "share/doc/velmarpro/changelog.gz" "share/velmarpro/Databases/InterfMess.mdb" \
   "share/velmarpro/Templates/Formato_drav.xlsx" "share/velmarpro/Examples/parete-forato-intonacata.drav" \
   "share/applications/velmarpro.desktop" "share/mime/packages/velmarpro.xml" \

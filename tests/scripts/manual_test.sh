@@ -8,7 +8,7 @@ words() { grep -oE '[[:alpha:]]{4,}' | sort -u; }
 
 export LC_ALL=C.UTF-8
 set_text=$(pdftotext -layout "$pdf" -)
-headings=$(sed -nE 's/^#+ //p' "$text" | sed -E 's/`//g')
+headings=$(sed -nE 's/^##+ //p' "$text" | sed -E 's/`//g')
 [[ $(wc -l <<<"$headings") -ge 8 ]] || { echo "no headings in $text"; exit 1; }
 awk 'NR == FNR { wanted[++count] = $0; next }
      { gsub(/^[ \t\f]+|[ \t]+$/, "") }

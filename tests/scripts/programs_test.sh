@@ -8,7 +8,7 @@ here=$(cd "$(dirname "$0")" && pwd)
 cd "${2:-$here/../..}"
 
 # install-deps itself names packages, which are called like their programs.
-others=(scripts/check* scripts/report-pictures scripts/package scripts/try-package scripts/install-deps)
+others=(scripts/check* scripts/report-pictures scripts/package scripts/try-package scripts/coverage scripts/install-deps)
 if [[ $1 == tests ]]; then
   mapfile -t scripts < <(find run test .ci scripts tests -type f \( ! -path 'tests/*' -o -name '*.sh' \) |
     grep -vxFf <(printf '%s\n' "${others[@]}" tests/scripts/programs_sabotage_test.sh))

@@ -266,6 +266,19 @@ void SelectFirstFibrous(Setup& setup, const elements::FibrousRecord& record) {
 
 }  // namespace
 
+bool IsMaterial(const elements::MaterialLookup& materials, elements::MaterialFamily family,
+                const std::string& name) {
+  switch (family) {
+    case elements::MaterialFamily::kStructural:
+      return materials.structural(name).has_value();
+    case elements::MaterialFamily::kFibrous:
+      return materials.fibrous(name).has_value();
+    case elements::MaterialFamily::kResilient:
+      return materials.resilient(name).has_value();
+  }
+  return false;
+}
+
 bool ChooseMaterial(Setup& setup, LayerGroup group, int index, const std::string& name,
                     const elements::MaterialLookup& materials) {
   switch (RowOf(group).family) {

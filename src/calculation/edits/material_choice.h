@@ -8,6 +8,10 @@
 
 namespace velmar::calculation {
 
+/// Whether the table of `family` has a material called `name`, letter case aside.
+bool IsMaterial(const elements::MaterialLookup& materials, elements::MaterialFamily family,
+                const std::string& name);
+
 /// A material is chosen in row `index` of `group`: the row's slot takes the record's values, its box the
 /// default thickness, so a thickness typed earlier is lost. A number that the table leaves empty keeps the
 /// slot's value.

@@ -5,6 +5,8 @@
 
 #include "calculation/edits/cavity_rules.h"
 #include "calculation/edits/layer_edits.h"
+#include "calculation/edits/layer_moves.h"
+#include "calculation/edits/material_choice.h"
 #include "foundation/decimal.h"
 #include "foundation/message_rows.h"
 
@@ -21,18 +23,6 @@ struct TypedLayer {
   std::string thickness{};  ///< mm; empty: that of the material
   int sheets = 1;
 };
-
-bool IsKnown(const elements::MaterialLookup& materials, MaterialFamily family, const std::string& name) {
-  switch (family) {
-    case MaterialFamily::kStructural:
-      return materials.structural(name).has_value();
-    case MaterialFamily::kFibrous:
-      return materials.fibrous(name).has_value();
-    case MaterialFamily::kResilient:
-      return materials.resilient(name).has_value();
-  }
-  return false;
-}
 
 std::string WithoutUnit(std::string text) {
   constexpr std::string_view kUnit = "mm";
@@ -58,7 +48,7 @@ void StripTable(TableCells& lines, MaterialFamily family, const elements::Materi
   }
   if (lines.size() < 2) return;
   const std::vector<std::string>& head = lines.front();
-  const bool headings = !IsKnown(materials, family, head[0]) && !CellAt(head, 1).empty() &&
+  const bool headings = !IsMaterial(materials, family, head[0]) && !CellAt(head, 1).empty() &&
                         !ParseDecimal(WithoutUnit(CellAt(head, 1)));
   if (headings) lines.erase(lines.begin());
 }
@@ -69,7 +59,8 @@ MessageLine Quoting(MessageRow row, const std::string& cell) { return {row, " \"
 std::optional<MessageLine> Read(const std::vector<std::string>& cells, MaterialFamily family,
                                 const elements::MaterialLookup& materials, TypedLayer& layer) {
   layer.material = cells[0];
-  if (!IsKnown(materials, family, layer.material)) return Quoting(kPasteUnknownMaterialRow, layer.material);
+  if (!IsMaterial(materials, family, layer.material))
+    return Quoting(kPasteUnknownMaterialRow, layer.material);
   layer.thickness = WithoutUnit(CellAt(cells, 1));
   if (!layer.thickness.empty() && !(ParseDecimal(layer.thickness).value_or(0.0) > 0.0))
     return Quoting(kPasteBadThicknessRow, CellAt(cells, 1));
@@ -81,34 +72,14 @@ std::optional<MessageLine> Read(const std::vector<std::string>& cells, MaterialF
   return std::nullopt;
 }
 
-/// The count of `group` where the user sets it; nothing where it follows from something else.
-int* FreeCount(Setup& setup, LayerGroup group) {
-  switch (group) {
-    case LayerGroup::kLeaf1:
-      return &setup.leaf1.count;
-    case LayerGroup::kLeaf2:
-      return &setup.leaf2.count;
-    case LayerGroup::kSeaLeaf1:
-      return &setup.sea_leaf1.count;
-    case LayerGroup::kSeaLeaf2:
-      return &setup.sea_leaf2.count;
-    case LayerGroup::kCavity:
-      return &setup.cavity.layers.count;
-    case LayerGroup::kResilient:
-      return &setup.resilient.count;
-    default:
-      return nullptr;
-  }
-}
-
 bool HasSheets(LayerGroup group) {
   return group == LayerGroup::kLeaf1 || group == LayerGroup::kLeaf2 || group == LayerGroup::kCavity ||
          group == LayerGroup::kResilient;
 }
 
 /// How many lines the rows from `first` on take. Damping layers lie apart, each beside a layer of its own.
-int RoomFrom(Setup& setup, LayerGroup group, int first) {
-  if (FreeCount(setup, group) != nullptr) return RowOf(group).capacity - first;
+int RoomFrom(const Setup& setup, LayerGroup group, int first) {
+  if (HasFreeCount(group)) return RowOf(group).capacity - first;
   const bool damping = group == LayerGroup::kSeaDamping1 || group == LayerGroup::kSeaDamping2 ||
                        group == LayerGroup::kSeaCavityDamping;
   return damping ? 1 : RowsInUse(setup, group) - first;
@@ -130,7 +101,7 @@ std::optional<MessageLine> PutTable(Setup& setup, LayerGroup group, int first, T
     if (auto refusal = Read(lines[i], family, materials, layers[i])) return refusal;
     if (layers[i].sheets > 1 && !HasSheets(group)) return Quoting(kPasteBadSheetsRow, lines[i][2]);
   }
-  if (int* count = FreeCount(setup, group)) *count = std::max(*count, first + needed);
+  if (HasFreeCount(group)) SetLayerCount(setup, group, std::max(RowsInUse(setup, group), first + needed));
   const std::string cavity_depth = setup.cavity.depth_text;
   const std::string sea_cavity_depth = setup.sea_cavity.depth_text;
   for (int i = 0; i < needed; ++i) {

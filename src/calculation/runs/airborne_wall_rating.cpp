@@ -6,7 +6,6 @@
 
 #include "acoustics/airborne_rating.h"
 #include "foundation/message_rows.h"
-#include "models/relations/apply_relation.h"
 #include "models/relations/relation.h"
 
 namespace velmar::calculation {

@@ -107,6 +107,14 @@ void AddComponent(Setup& setup) {
   SetCount(setup, setup.facade.Count() + 1);
 }
 
+std::optional<int> FreeComponent(const Setup& setup) {
+  const int last = setup.facade.Count();
+  elements::FacadeComponent entered = setup.facade.components.at(static_cast<std::size_t>(last - 1));
+  entered.tightness_class = 0;
+  if (entered == elements::FacadeComponent{}) return last;
+  return CanAddComponent(setup) ? std::optional(last + 1) : std::nullopt;
+}
+
 void DuplicateComponent(Setup& setup, int number) {
   RequireComponent(setup, number);
   AddComponent(setup);

@@ -34,6 +34,9 @@ bool CanRemoveComponent(const elements::Setup& setup);
 /// The first component of the reserve is in use from now on, as by its count.
 /// @throws std::out_of_range where CanAddComponent() says no
 void AddComponent(elements::Setup& setup);
+/// The number of the component that a further part becomes: the last one in use while nothing is entered in
+/// it, else the first of the reserve. Nothing where there is no room.
+std::optional<int> FreeComponent(const elements::Setup& setup);
 /// Component `number` (from 1) stands twice, one behind the other.
 /// @throws std::out_of_range where CanAddComponent() says no, or for a component that is not in use
 void DuplicateComponent(elements::Setup& setup, int number);

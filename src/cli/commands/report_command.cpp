@@ -103,6 +103,7 @@ ExitCode ReportOne(const ReportCommand& command, const path& project, const Serv
       .confidence = std::move(confidence),
       .words = services.words,
       .file = project.filename().string(),
+      .language = command.language,
       .sources = application::MaterialSourcesIn(services.material_database, services.words),
       .tell = [&](const Message& message) { WriteMessage(message, services.words, errors); }};
   return WriteReports(command, project, content, services, errors);
@@ -148,7 +149,8 @@ ExitCode ReportTogether(const ReportCommand& command, const std::string& extensi
         services.together.make({.projects = command.projects,
                                 .extension = extension,
                                 .title = command.title,
-                                .go_on_outside_ranges = command.go_on_outside_ranges});
+                                .go_on_outside_ranges = command.go_on_outside_ranges,
+                                .language = command.language});
     storage::WriteWhole(file, document.bytes);
     for (const Message& remark : document.remarks) WriteMessage(remark, services.words, errors);
     if (document.failed.empty()) return ExitCode::kDone;

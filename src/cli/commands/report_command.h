@@ -9,15 +9,18 @@
 
 #include "cli/commands/services.h"
 #include "cli/output/exit_code.h"
+#include "elements/studio_profile.h"
 
 namespace velmar::cli {
 
-/// `report FILE... --docx OUT | --xlsx OUT | --pdf OUT | --csv OUT | --svg OUT [--answer yes|no]`,
+/// `report FILE... --docx OUT | --xlsx OUT | --pdf OUT | --csv OUT | --svg OUT [--language it|en|it+en]
+/// [--answer yes|no]`,
 /// `report FILE... --together --docx OUT | --xlsx OUT | --pdf OUT [--title TEXT]`
 struct ReportCommand {
   std::vector<std::filesystem::path> projects{};
   std::map<std::string, std::filesystem::path> targets{};   ///< by the format's extension; a file or a folder
   bool go_on_outside_ranges = false;                        ///< the answer to every question
+  std::optional<elements::DocumentLanguage> language{};     ///< none: as the studio profile says
   std::optional<std::filesystem::path> checked_template{};  ///< no report: a template to be checked
   bool together = false;                                    ///< one document of all projects
   std::string title{};                                      ///< of that document; empty: the usual one

@@ -3,6 +3,7 @@
 #include <filesystem>
 #include <functional>
 #include <optional>
+#include <string>
 #include <vector>
 
 #include "cli/output/report_format.h"
@@ -25,6 +26,8 @@ struct Services {
   std::filesystem::path validation_folder{};  ///< the measured constructions that came with the program
   /// What is known of the errors of calculations and models.
   std::function<validation::Accuracy()> accuracy = [] { return validation::Accuracy(); };
+  /// Whether the bytes of a picture file can be drawn.
+  std::function<bool(const std::string& bytes)> readable_picture = [](const std::string&) { return true; };
   std::vector<ReportFormat> report_formats{};  ///< each an option of `report`
   /// What is wrong with a document template, a line each; empty where nothing draws. @throws Failure when no
   /// report can be made of it

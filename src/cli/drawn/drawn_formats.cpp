@@ -19,8 +19,9 @@ std::optional<presentation::CurveChart> WholeChart(const ReportContent& content)
   return presentation::WholeChartOf(content.setup, content.result, content.words);
 }
 
-std::string Pdf(const ReportContent& content) {
-  return presentation::PagePdf(documents::PageOf(content), content.name);
+std::string Pdf(const application::DocumentPlaces& places, const ReportContent& content) {
+  return presentation::PagePdf(documents::PageOf(content, documents::StyleOfContent(places, content)),
+                               content.name);
 }
 
 std::string Svg(const ReportContent& content) {
@@ -31,7 +32,7 @@ std::string Svg(const ReportContent& content) {
 
 }  // namespace
 
-std::vector<ReportFormat> DrawnFormats(const std::filesystem::path& templates) {
+std::vector<ReportFormat> DrawnFormats(const application::DocumentPlaces& places) {
   const auto display = std::make_shared<OffscreenDisplay>();
   const auto drawn = [display](std::function<std::string(const ReportContent&)> bytes) {
     return [display, bytes = std::move(bytes)](const ReportContent& content) {
@@ -39,15 +40,16 @@ std::vector<ReportFormat> DrawnFormats(const std::filesystem::path& templates) {
       return bytes(content);
     };
   };
-  const auto word = [templates](const ReportContent& content) {
-    return documents::WordReportBytes(templates, content);
+  const auto word = [places](const ReportContent& content) {
+    return documents::WordReportBytes(places, content);
   };
-  const auto excel = [templates](const ReportContent& content) {
-    return documents::ExcelReportBytes(templates, content);
+  const auto excel = [places](const ReportContent& content) {
+    return documents::ExcelReportBytes(places, content);
   };
+  const auto pdf = [places](const ReportContent& content) { return Pdf(places, content); };
   return {{.extension = "docx", .help = kWordHelpRow, .bytes = drawn(word)},
           {.extension = "xlsx", .help = kExcelHelpRow, .bytes = drawn(excel)},
-          {.extension = "pdf", .help = kPdfHelpRow, .bytes = drawn(Pdf)},
+          {.extension = "pdf", .help = kPdfHelpRow, .bytes = drawn(pdf)},
           {.extension = "svg", .help = kSvgHelpRow, .bytes = drawn(Svg)}};
 }
 
@@ -59,6 +61,7 @@ TogetherReports DrawnTogether(std::function<documents::ScheduleTools()> tools) {
         *documents::MakeSchedule({.projects = order.projects,
                                   .format = documents::ScheduleFormatOf(order.extension).value(),
                                   .title = order.title,
+                                  .language = order.language,
                                   .go_on_outside_ranges = order.go_on_outside_ranges},
                                  tools());
     TogetherDocument document{.bytes = std::move(made.bytes), .remarks = std::move(made.remarks)};

@@ -2,10 +2,12 @@
 
 #include <filesystem>
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
 #include "application/report_content.h"
+#include "elements/studio_profile.h"
 #include "foundation/message.h"
 
 namespace velmar::cli {
@@ -26,6 +28,7 @@ struct TogetherOrder {
   std::string extension{};  ///< of its format
   std::string title{};      ///< empty: the usual one
   bool go_on_outside_ranges = false;
+  std::optional<elements::DocumentLanguage> language{};  ///< none: as the studio profile says
 };
 
 /// A project that gave no result, and why.

@@ -57,6 +57,7 @@ ExitCode ExecuteParsed(const CLI::App& app, Parsed& parsed, const Services& serv
   if (app.got_subcommand("import")) return Execute(parsed.import, services, out, errors);
   parsed.models.go_on_outside_ranges = parsed.answer == "yes";
   if (app.got_subcommand("models")) return Execute(parsed.models, services, out, errors);
+  if (app.got_subcommand("profile")) return Execute(parsed.profile, services, out, errors);
   if (app.got_subcommand("validate")) return Execute(parsed.validate, services, out, errors);
   if (app.got_subcommand("references")) return Execute(parsed.references, services.words, out);
   if (app.got_subcommand("report")) return Report(app, parsed.report, services, out, errors);

@@ -39,7 +39,30 @@ void AddReport(CLI::App& app, Parsed& parsed, const Services& services) {
     command->add_flag("--together", parsed.report.together, services.words(kTogetherHelpRow));
     command->add_option("--title", parsed.report.title, services.words(kScheduleTitleHelpRow));
   }
+  const auto take_language = [&parsed](const std::string& code) {
+    parsed.report.language = elements::LanguageOfCode(code);
+  };
+  command
+      ->add_option_function<std::string>("--language", take_language, services.words(kReportLanguageHelpRow))
+      ->check(CLI::IsMember({"it", "en", "it+en"}).description(""))
+      ->type_name("it|en|it+en");
   AddAnswer(*command, parsed, services.words);
+}
+
+void AddProfile(CLI::App& app, Parsed& parsed, const presentation::Words& words) {
+  CLI::App* group = app.add_subcommand("profile", words(kProfileHelpRow));
+  group->require_subcommand(1);
+  const auto add = [&](const char* name, MessageRow help, ProfileAction action) {
+    CLI::App* command = group->add_subcommand(name, words(help));
+    command->add_flag("--json", parsed.profile.json, words(kJsonHelpRow));
+    command->callback([&parsed, action] { parsed.profile.action = action; });
+    return command;
+  };
+  add("show", kProfileShowHelpRow, ProfileAction::kShow);
+  CLI::App* set = add("set", kProfileSetHelpRow, ProfileAction::kSet);
+  set->add_option("KEY", parsed.profile.key, words(kProfileKeyHelpRow))->required();
+  set->add_option("VALUE", parsed.profile.value, words(kProfileValueHelpRow))->required();
+  add("clear", kProfileClearHelpRow, ProfileAction::kClear);
 }
 
 void AddSave(CLI::App& app, Parsed& parsed, const presentation::Words& words) {
@@ -243,6 +266,7 @@ void AddCommands(CLI::App& app, Parsed& parsed, const Services& services) {
   AddReport(app, parsed, services);
   AddFacade(app, parsed, words);
   AddDoctor(app, parsed, words);
+  AddProfile(app, parsed, words);
   AddModels(app, parsed, words);
   AddValidate(app, parsed, words);
 }

@@ -13,6 +13,7 @@
 #include "cli/commands/materials_command.h"
 #include "cli/commands/models_command.h"
 #include "cli/commands/own_measurements_command.h"
+#include "cli/commands/profile_command.h"
 #include "cli/commands/rate_command.h"
 #include "cli/commands/references_command.h"
 #include "cli/commands/report_command.h"
@@ -47,6 +48,7 @@ struct Parsed {
   FacadeCommand facade{};
   DoctorCommand doctor{};
   ModelsCommand models{};
+  ProfileCommand profile{};
   ValidateCommand validate{};
 };
 

@@ -154,6 +154,11 @@ LeafProperties PropertiesOf(const OrthotropicPlate& plate) {
   return leaf;
 }
 
+/// Of quasi-longitudinal waves in a bar, m/s; 0 without a density.
+double WaveSpeed(double density_kg_m3, double youngs_modulus_pa) {
+  return density_kg_m3 > 0.0 ? std::sqrt(std::max(0.0, youngs_modulus_pa) / density_kg_m3) : 0.0;
+}
+
 }  // namespace
 
 double MountedLossFactor(SolidKind kind, double loss_factor) {
@@ -187,10 +192,16 @@ OrthotropicPlate CorrugatedSheet(const SolidLayer& sheet, double profile_height_
           .kind = sheet.kind};
 }
 
+bool IsGlass(double density_kg_m3, double youngs_modulus_pa, bool heavy) {
+  const double speed = WaveSpeed(density_kg_m3, youngs_modulus_pa);
+  if (density_kg_m3 >= 2400.0) return density_kg_m3 <= 2600.0 && speed >= 4000.0;
+  return !heavy && density_kg_m3 >= 2330.0 && speed >= 4200.0;
+}
+
 SolidKind KindOfSolid(double density_kg_m3, double youngs_modulus_pa, bool heavy) {
   const double rho = density_kg_m3;
-  const double speed = rho > 0.0 ? std::sqrt(std::max(0.0, youngs_modulus_pa) / rho) : 0.0;
-  if (rho >= 2400.0 && rho <= 2600.0 && speed >= 4000.0) return SolidKind::kGlass;
+  const double speed = WaveSpeed(rho, youngs_modulus_pa);
+  if (IsGlass(rho, youngs_modulus_pa, heavy)) return SolidKind::kGlass;
   if (heavy) return SolidKind::kMasonry;
   if (speed < 900.0) return SolidKind::kOther;
   if (rho >= 2600.0) return SolidKind::kMetal;

@@ -38,4 +38,13 @@ RelationValue EvaluateRelation(RelationId id, const RelationInput& in) {
   return value;
 }
 
+ShiftedSpectrum ApplyRelation(const ShiftedSpectrum& rated, double rating_db, float relation_rating_db) {
+  const double delta =
+      RequireFinite(rating_db - static_cast<double>(relation_rating_db), "the difference of two ratings");
+  ShiftedSpectrum moved = rated;
+  moved.shift -= RoundToEven(delta);
+  for (double& band : moved.spectrum) band -= delta;
+  return moved;
+}
+
 }  // namespace velmar::models

@@ -7,6 +7,8 @@
 
 #include <pugixml.hpp>
 
+#include "presentation/documents/placeholders.h"
+
 namespace velmar::presentation {
 
 /// In a paragraph's text: something that is no text (a break, a picture, a field).
@@ -70,5 +72,9 @@ std::vector<pugi::xml_node> ParagraphsOf(pugi::xml_node root);
 
 /// Removes `paragraph`; where its container needs one (a cell, a header), it is emptied instead.
 void RemoveParagraph(pugi::xml_node paragraph);
+
+/// Puts the values of the known placeholders into `text`; unknown ones stay. A value is never searched for
+/// placeholders itself.
+void FillPlaceholders(ParagraphText& text, const Placeholders& values);
 
 }  // namespace velmar::presentation

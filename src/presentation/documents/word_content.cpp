@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <numeric>
+#include <string_view>
 #include <vector>
 
 namespace velmar::presentation {
@@ -28,12 +29,15 @@ void SetWidth(pugi::xml_node node, int width) {
 }
 
 /// Numbers stand right, words left.
-bool IsNumber(const std::string& cell) {
-  return !cell.empty() && cell.find_first_not_of("0123456789,-+ x*") == std::string::npos;
+bool IsNumber(std::string cell) {
+  constexpr std::string_view kMinus = "\u2212";
+  for (std::size_t at = cell.find(kMinus); at != std::string::npos; at = cell.find(kMinus))
+    cell.replace(at, kMinus.size(), "-");
+  return !cell.empty() && cell.find_first_not_of("0123456789,.-+ x*") == std::string::npos;
 }
 
 void AppendRow(pugi::xml_node table, const std::vector<std::string>& cells, const std::vector<int>& widths,
-               bool head, bool align) {
+               bool head, const std::vector<bool>& right) {
   pugi::xml_node row = table.append_child("w:tr");
   pugi::xml_node properties = row.append_child("w:trPr");
   properties.append_child("w:cantSplit");
@@ -43,7 +47,7 @@ void AppendRow(pugi::xml_node table, const std::vector<std::string>& cells, cons
     SetWidth(cell.append_child("w:tcPr").append_child("w:tcW"), widths[i]);
     pugi::xml_node paragraph = cell.append_child("w:p");
     AppendParagraph(paragraph, head ? "RelazioneTestata" : "RelazioneBande", cells[i]);
-    if (align && !head && IsNumber(cells[i]))
+    if (i < right.size() && right[i] && (head || IsNumber(cells[i])))
       paragraph.child("w:pPr").append_child("w:jc").append_attribute("w:val") = "right";
   }
 }
@@ -55,6 +59,16 @@ std::vector<int> WidthsOf(const DataTable& table, int width) {
   std::vector<int> widths;
   for (const double weight : weights) widths.push_back(static_cast<int>(std::lround(weight / sum * width)));
   return widths;
+}
+
+/// Whether a column holds numbers alone; a table without heads has none.
+std::vector<bool> NumberColumns(const DataTable& table) {
+  std::vector<bool> numbers(table.heads.size(), true);
+  for (const auto& row : table.rows) {
+    for (std::size_t i = 0; i < numbers.size(); ++i)
+      numbers[i] = numbers[i] && (row[i].empty() || row[i] == "–" || IsNumber(row[i]));
+  }
+  return numbers;
 }
 
 void FillTable(pugi::xml_node node, const WordContent& content) {
@@ -69,12 +83,13 @@ void FillTable(pugi::xml_node node, const WordContent& content) {
   const std::vector<int> widths = WidthsOf(table, content.table_width);
   pugi::xml_node grid = node.append_child("w:tblGrid");
   for (const int width : widths) grid.append_child("w:gridCol").append_attribute("w:w") = width;
-  if (!table.heads.empty()) AppendRow(node, table.heads, widths, true, true);
+  const std::vector<bool> right = NumberColumns(table);
+  if (!table.heads.empty()) AppendRow(node, table.heads, widths, true, right);
   for (std::size_t i = 0; i < table.rows.size(); ++i) {
     std::vector<std::string> cells = table.rows[i];
     if (i < content.placeholders.size() && !content.placeholders[i].empty())
       cells.at(content.placeholder_column) = "[" + content.placeholders[i] + "]";
-    AppendRow(node, cells, widths, false, !table.heads.empty());
+    AppendRow(node, cells, widths, false, right);
   }
 }
 

@@ -4,7 +4,6 @@
 #include <array>
 
 #include "foundation/message_rows.h"
-#include "presentation/documents/filled_text.h"
 #include "presentation/documents/outside_links.h"
 #include "presentation/documents/paragraph_text.h"
 #include "presentation/documents/picture_parts.h"

@@ -11,6 +11,7 @@
 
 #include <pugixml.hpp>
 
+#include "presentation/documents/document_properties.h"
 #include "presentation/documents/package.h"
 #include "presentation/documents/picture.h"
 #include "presentation/documents/placeholders.h"
@@ -72,6 +73,8 @@ class WordDocument {
   /// The pictures whose place is narrower than they are: the placeholders of `widths_emu`, and those that the
   /// template brings, by their names. The place is the cell, or the page between its margins.
   std::vector<WidePicture> WidePictures(const std::map<std::string, std::int64_t>& widths_emu) const;
+
+  void SetProperties(const DocumentProperties& properties) { SetDocumentProperties(package_, properties); }
 
   /// The placeholders that are still there.
   std::set<std::string> Left() const;

@@ -4,7 +4,6 @@
 #include <string>
 #include <vector>
 
-#include "presentation/documents/filled_text.h"
 #include "presentation/documents/paragraph_text.h"
 
 namespace velmar::presentation {

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdlib>
 #include <utility>
 
 #include "foundation/message_rows.h"
@@ -200,6 +201,27 @@ std::string Workbook::DrawingOf(Worksheet& sheet) {
   AddContentType(package_, part(), kDrawingContent);
   sheet.SetDrawing(AddRelationship(package_, PartOf(sheet), kDrawingType, part()));
   return part();
+}
+
+void Workbook::PrintDownTo(int row) {
+  pugi::xml_document workbook = ParseXml(package_.Part(main_part_), main_part_);
+  const std::string own = SheetName();
+  int index = 0;
+  for (const pugi::xml_node node : workbook.child("workbook").child("sheets").children("sheet")) {
+    if (own == node.attribute("name").value()) break;
+    ++index;
+  }
+  for (const pugi::xml_node name : workbook.child("workbook").child("definedNames").children("definedName")) {
+    if (std::string_view(name.attribute("name").value()) != "_xlnm.Print_Area" ||
+        name.attribute("localSheetId").as_int() != index)
+      continue;
+    std::string area = name.text().get();
+    const std::size_t last = area.rfind('$');
+    if (last == std::string::npos || std::atoi(area.c_str() + last + 1) >= row) return;
+    name.text().set((area.substr(0, last + 1) + std::to_string(row)).c_str());
+    package_.Put(main_part_, XmlBytes(workbook));
+    return;
+  }
 }
 
 void Workbook::RemoveCharts() {

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "presentation/documents/cell_styles.h"
+#include "presentation/documents/document_properties.h"
 #include "presentation/documents/package.h"
 #include "presentation/documents/picture.h"
 #include "presentation/documents/worksheet.h"
@@ -26,7 +27,8 @@ class Workbook {
   void ChangeStyle(CellPlace place, const StyleChange& change) { ChangeStyle(sheet_, place, change); }
   void ChangeStyle(Worksheet& sheet, CellPlace place, const StyleChange& change);
 
-  /// A new sheet behind the others, printed on A4 as wide as the paper. A name that is taken gets a number.
+  /// A new sheet behind the others, printed on A4 as wide as the paper. A name that is taken gets a number;
+  /// of one in two languages the first stands, without what no name may hold.
   /// @param landscape of the paper
   /// @param widths of the columns, in characters
   /// The sheet lives as long as the workbook, or until BeginCopy(). @param beside whether it is named after
@@ -50,6 +52,9 @@ class Workbook {
   /// What the sheet that is being filled is called.
   std::string SheetName() const;
 
+  /// Lets the print of the first sheet reach down to `row`, where the workbook says how far it reaches.
+  void PrintDownTo(int row);
+
   /// Takes the charts off the first sheet.
   void RemoveCharts();
 
@@ -58,6 +63,8 @@ class Workbook {
 
   /// Lays `picture` over the cells of `sheet`, its corner at `corner`.
   void AddPicture(Worksheet& sheet, CellPlace corner, const Picture& picture);
+
+  void SetProperties(const DocumentProperties& properties) { SetDocumentProperties(package_, properties); }
 
   /// The workbook as it stands now. Programs that open it form its formulas anew.
   std::string Bytes();

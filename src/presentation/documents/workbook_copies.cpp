@@ -76,7 +76,8 @@ std::string FreePart(const Package& package, const std::string& part) {
 
 std::string Workbook::FreeSheetName(const std::string& wanted) const {
   std::string allowed;
-  for (const char letter : wanted)
+  // A caption in two languages gives its first.
+  for (const char letter : wanted.substr(0, wanted.find(" / ")))
     allowed += std::string_view("[]:*?/\\").find(letter) != std::string_view::npos ? '-' : letter;
   while (!allowed.empty() && (allowed.front() == '\'' || allowed.front() == ' ')) allowed.erase(0, 1);
   if (allowed.empty()) allowed = "1";

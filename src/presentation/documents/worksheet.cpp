@@ -5,6 +5,7 @@
 #include <charconv>
 
 #include "foundation/message_rows.h"
+#include "foundation/utf8.h"
 #include "presentation/documents/template_failure.h"
 #include "presentation/documents/xml_part.h"
 
@@ -142,6 +143,21 @@ void Worksheet::Clear(CellPlace place) {
 int Worksheet::StyleOf(CellPlace place) const { return FindCell(place).attribute("s").as_int(); }
 
 void Worksheet::SetStyle(CellPlace place, int style) { Set(Cell(place), "s", std::to_string(style)); }
+
+void Worksheet::PutFoot(const std::string& text) {
+  constexpr std::size_t kMostCharacters = 200;  // of 255 for the whole foot
+  pugi::xml_node foot = xml_.child("worksheet").child("headerFooter").child("oddFooter");
+  const std::string before = foot.text().get();
+  if (!foot || text.empty() || before.find("&L") != std::string::npos) return;
+  std::string coded;
+  std::string_view rest = text;
+  for (std::size_t count = 0; !rest.empty() && count < kMostCharacters; ++count) {
+    const char32_t character = TakeCharacter(rest);
+    AppendCharacter(coded, character);
+    if (character == U'&') coded += '&';
+  }
+  foot.text().set(("&L&8 " + LegalText(coded) + before).c_str());
+}
 
 double Worksheet::HeightOf(int row) const {
   return data_.find_child_by_attribute("row", "r", std::to_string(row).c_str()).attribute("ht").as_double();

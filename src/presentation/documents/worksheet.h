@@ -53,6 +53,9 @@ class Worksheet {
   /// Links the sheet to its drawing. @param relationship identifier of the link
   void SetDrawing(const std::string& relationship);
 
+  /// Puts `text` at the left of the foot of every printed page, unless the template has something there.
+  void PutFoot(const std::string& text);
+
   /// Height of a row in points as the sheet states it; 0 where it leaves that to the program that shows it.
   double HeightOf(int row) const;
 

@@ -10,18 +10,24 @@ namespace {
 
 constexpr double kLegendLine = 1.5;  ///< in heights of the text
 
+/// Octaves are level lines over their thirds.
+constexpr CurveLook kStepsLook{};
+
 std::vector<LegendEntry> EntriesOf(const CurveChart& chart) {
   std::vector<LegendEntry> entries;
-  const auto add = [&entries](bool shown, const std::string& text, const QColor& colour, bool dotted) {
-    if (shown && !text.empty()) entries.push_back({FromWords(text), colour, dotted, {}});
+  const auto add = [&entries](bool shown, const std::string& text, const QColor& colour, CurveLook look) {
+    if (shown && !text.empty()) entries.push_back({FromWords(text), colour, look, {}});
   };
-  add(chart.shift.has_value(), chart.words.calculated, kCalculatedColour, true);
-  add(chart.shift.has_value(), chart.words.reference, kReferenceColour, false);
-  add(chart.laboratory.has_value(), chart.words.laboratory, kLaboratoryColour, true);
-  add(chart.in_situ.has_value(), chart.words.in_situ, kInSituColour, true);
-  add(chart.base.has_value(), chart.words.base, kBaseColour, true);
-  for (const FurtherCurve& curve : chart.further) add(true, curve.name, curve.colour, true);
-  add(chart.marks.former.has_value(), chart.words.former, kFormerColour, false);
+  add(chart.shift.has_value(), chart.words.calculated, kCalculatedColour, kCalculatedLook);
+  add(chart.shift.has_value(), chart.words.reference, kReferenceColour, kReferenceLook);
+  add(chart.laboratory.has_value(), chart.words.laboratory, kLaboratoryColour,
+      chart.laboratory_in_octaves ? kStepsLook : kLaboratoryLook);
+  add(chart.in_situ.has_value(), chart.words.in_situ, kInSituColour,
+      chart.in_situ_in_octaves ? kStepsLook : kInSituLook);
+  add(chart.base.has_value(), chart.words.base, kBaseColour, kBaseLook);
+  for (std::size_t i = 0; i < chart.further.size(); ++i)
+    add(true, chart.further[i].name, chart.further[i].colour, FurtherLook(i));
+  add(chart.marks.former.has_value(), chart.words.former, kFormerColour, kFormerLook);
   return entries;
 }
 
@@ -29,7 +35,7 @@ std::vector<LegendEntry> EntriesOf(const CurveChart& chart) {
 /// @return the height that they take
 double PlaceLegend(std::vector<LegendEntry>& entries, const QFont& font, double text_px, double width) {
   if (entries.empty()) return 0.0;
-  const double sample = 2.2 * text_px;
+  const double sample = 3.0 * text_px;
   const double gap = 1.2 * text_px;
   const double line_height = kLegendLine * text_px;
   double y = 0.0;

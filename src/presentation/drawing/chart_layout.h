@@ -8,6 +8,7 @@
 
 #include "presentation/drawing/chart_scale.h"
 #include "presentation/drawing/curve_chart.h"
+#include "presentation/drawing/curve_look.h"
 
 namespace velmar::presentation {
 
@@ -15,7 +16,7 @@ namespace velmar::presentation {
 struct LegendEntry {
   QString text{};
   QColor colour{};
-  bool dotted = true;  ///< a curve with dots; the reference curve has none
+  CurveLook look{};
   QRectF box{};
 };
 

@@ -1,6 +1,8 @@
 #include "presentation/drawing/chart_marks.h"
 
 #include <QPainter>
+#include <QStringList>
+#include <algorithm>
 
 #include "acoustics/bands.h"
 #include "presentation/drawing/colours.h"
@@ -54,8 +56,13 @@ void DrawDeviations(QPainter& painter, const ChartLayout& layout, const CurveCha
 void DrawDeviationSum(QPainter& painter, const ChartLayout& layout, const CurveChart& chart) {
   if (!chart.marks.deviations || !chart.shift || chart.words.deviations.empty()) return;
   const double em = layout.text_px;
-  const QString text = FromWords(chart.words.deviations);
-  const QSizeF size(WidthOf(text, layout.font) + em, 1.5 * em);
+  QStringList lines = {FromWords(chart.words.deviations)};
+  if (!chart.words.deviations_note.empty()) lines += FromWords(chart.words.deviations_note);
+  double width = 0.0;
+  for (const QString& line : lines) width = std::max(width, WidthOf(line, layout.font));
+  const double line_height = 1.5 * em;
+  const QSizeF size(std::min(width + em, layout.plot.width() - em),
+                    line_height * static_cast<double>(lines.size()));
   const QRectF& plot = layout.plot;
   const bool above = chart.unfavourable == acoustics::Unfavourable::kAbove;
   const QRectF box(QPointF(plot.right() - size.width() - 0.5 * em,
@@ -65,7 +72,11 @@ void DrawDeviationSum(QPainter& painter, const ChartLayout& layout, const CurveC
   ground.setAlphaF(0.85F);
   painter.fillRect(box, ground);
   painter.setPen(kQuietInkColour);
-  DrawTextIn(painter, box, Qt::AlignCenter, text);
+  QRectF line(box.left(), box.top(), box.width(), line_height);
+  for (const QString& text : lines) {
+    DrawTextIn(painter, line, Qt::AlignCenter, Fitted(text, layout.font, line.width()));
+    line.translate(0.0, line_height);
+  }
 }
 
 void DrawRequirement(QPainter& painter, const ChartLayout& layout, const CurveChart& chart,

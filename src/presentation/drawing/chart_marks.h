@@ -22,7 +22,8 @@ QColor Paler(const QColor& colour);
 /// The bands on the unfavourable side, between curve and reference curve.
 void DrawDeviations(QPainter& painter, const ChartLayout& layout, const CurveChart& chart,
                     const ChartRange& range);
-/// Their sum, where the curves leave room: under them, or over them for impact sound.
+/// Their sum and what is to be said of it, where the curves leave room: under them, or over them for impact
+/// sound.
 void DrawDeviationSum(QPainter& painter, const ChartLayout& layout, const CurveChart& chart);
 /// The reference curve where it has the required rating.
 void DrawRequirement(QPainter& painter, const ChartLayout& layout, const CurveChart& chart,

@@ -36,10 +36,11 @@ class Composer {
       : painter_(painter),
         page_(page),
         paper_(QPointF(), paper),
-        room_(paper_.adjusted(kContentInset, kContentInset, -kContentInset, -kContentInset)) {}
+        room_(paper_.adjusted(kContentInset, kContentInset, -kContentInset, -FootHeight(page))) {}
 
   void Compose() {
     DrawFrame();
+    DrawStudio();
     DrawTitle();
     DrawProject();
     DrawResult();
@@ -65,6 +66,13 @@ class Composer {
     painter_.setPen(QPen(kVerticalGridColour, kFrameWidth));
     painter_.drawLine(room_.topLeft(), room_.topRight());
     Take(0.8 * kGap);
+  }
+
+  void DrawStudio() {
+    const double height = DrawStudioHead(painter_, room_, page_.studio);
+    if (height == 0.0) return;
+    Take(height + 0.4 * kGap);
+    DrawRule();
   }
 
   void DrawTitle() {

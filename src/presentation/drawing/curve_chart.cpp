@@ -11,30 +11,23 @@
 #include "presentation/drawing/chart_marks.h"
 #include "presentation/drawing/chart_scale.h"
 #include "presentation/drawing/colours.h"
+#include "presentation/drawing/curve_look.h"
 #include "presentation/drawing/text.h"
 
 namespace velmar::presentation {
 namespace {
 
-constexpr double kReferenceWidth = 1.0;
 constexpr double kCurveWidth = 2.0;
 constexpr double kDotDiameter = 6.0;
+
 void DrawReference(QPainter& painter, const ChartLayout& layout, const CurveChart& chart,
                    const ChartRange& range) {
   if (!chart.shift) return;
-  painter.setPen(QPen(kReferenceColour, kReferenceWidth));
-  painter.drawPolyline(ReferenceLine(layout, chart, range, *chart.shift));
-}
-
-void DrawDot(QPainter& painter, const QPointF& centre, const QColor& colour) {
-  painter.setPen(Qt::NoPen);
-  painter.setBrush(colour);
-  painter.drawEllipse(centre, kDotDiameter / 2.0, kDotDiameter / 2.0);
-  painter.setBrush(Qt::NoBrush);
+  DrawDashed(painter, ReferenceLine(layout, chart, range, *chart.shift), kReferenceLook, kReferenceColour);
 }
 
 void DrawCurve(QPainter& painter, const ChartLayout& layout, const CurveChart& chart, const ChartRange& range,
-               const acoustics::Spectrum& values, const QColor& colour, Qt::PenStyle style = Qt::SolidLine) {
+               const acoustics::Spectrum& values, const QColor& colour, const CurveLook& look) {
   const auto at = [&](std::size_t band) {
     return layout.At(static_cast<double>(band), LogicalY(values[band], range));
   };
@@ -42,14 +35,22 @@ void DrawCurve(QPainter& painter, const ChartLayout& layout, const CurveChart& c
     const bool outside = from < acoustics::kFirstRatedBand || to > acoustics::kLastRatedBand;
     return chart.marks.pale_outside && outside ? Paler(colour) : colour;
   };
+  // Stretches that follow each other are one line, so that its dashes go on.
+  QPolygonF line;
+  QColor line_colour;
+  std::size_t line_end = 0;
   for (const ChartSegment& segment : CurveSegments(values, chart.first_band, chart.last_band)) {
-    painter.setPen(
-        QPen(colour_between(segment.from, segment.to), kCurveWidth, style, Qt::RoundCap, Qt::RoundJoin));
-    painter.drawLine(at(segment.from), at(segment.to));
+    const QColor own = colour_between(segment.from, segment.to);
+    if (line.isEmpty() || segment.from != line_end || own != line_colour) {
+      DrawDashed(painter, std::exchange(line, {at(segment.from)}), look, line_colour);
+      line_colour = own;
+    }
+    line << at(segment.to);
+    line_end = segment.to;
   }
-  for (const std::size_t band : DottedBands(values, chart.first_band, chart.last_band)) {
-    DrawDot(painter, at(band), colour_between(band, band));
-  }
+  DrawDashed(painter, line, look, line_colour);
+  for (const std::size_t band : DottedBands(values, chart.first_band, chart.last_band))
+    DrawMark(painter, at(band), look, colour_between(band, band));
 }
 
 /// Values of octaves, each over its three thirds: a level line with an edge where the octave ends, and no
@@ -75,12 +76,12 @@ void DrawSteps(QPainter& painter, const ChartLayout& layout, const CurveChart& c
 /// A curve that stands beside the result.
 void DrawBeside(QPainter& painter, const ChartLayout& layout, const CurveChart& chart,
                 const ChartRange& range, const std::optional<acoustics::Spectrum>& values,
-                const QColor& colour, bool in_octaves) {
+                const QColor& colour, const CurveLook& look, bool in_octaves) {
   if (!values) return;
   if (in_octaves) {
     DrawSteps(painter, layout, chart, range, *values, colour);
   } else {
-    DrawCurve(painter, layout, chart, range, *values, colour);
+    DrawCurve(painter, layout, chart, range, *values, colour, look);
   }
 }
 
@@ -88,10 +89,9 @@ void DrawLegend(QPainter& painter, const ChartLayout& layout) {
   for (const LegendEntry& entry : layout.legend) {
     const double y = entry.box.center().y();
     const QPointF begin(entry.box.left(), y);
-    const QPointF end(entry.box.left() + 1.6 * layout.text_px, y);
-    painter.setPen(QPen(entry.colour, entry.dotted ? kCurveWidth : kReferenceWidth));
-    painter.drawLine(begin, end);
-    if (entry.dotted) DrawDot(painter, (begin + end) / 2.0, entry.colour);
+    const QPointF end(entry.box.left() + 2.4 * layout.text_px, y);
+    DrawDashed(painter, {begin, end}, entry.look, entry.colour);
+    DrawMark(painter, (begin + end) / 2.0, entry.look, entry.colour);
     painter.setPen(kInkColour);
     DrawTextIn(painter, entry.box, Qt::AlignRight | Qt::AlignVCenter, entry.text);
   }
@@ -109,13 +109,16 @@ void DrawCurves(QPainter& painter, const ChartLayout& layout, const CurveChart& 
   DrawRequirement(painter, layout, chart, range);
   DrawReference(painter, layout, chart, range);
   DrawFormer(painter, layout, chart, range);
-  if (chart.base) DrawCurve(painter, layout, chart, range, *chart.base, kBaseColour);
-  DrawBeside(painter, layout, chart, range, chart.octaves, kOctavesColour, true);
-  DrawCurve(painter, layout, chart, range, chart.values, kCalculatedColour);
-  DrawBeside(painter, layout, chart, range, chart.laboratory, kLaboratoryColour, chart.laboratory_in_octaves);
-  DrawBeside(painter, layout, chart, range, chart.in_situ, kInSituColour, chart.in_situ_in_octaves);
-  for (const FurtherCurve& curve : chart.further)
-    DrawCurve(painter, layout, chart, range, curve.values, curve.colour, Qt::DotLine);
+  if (chart.base) DrawCurve(painter, layout, chart, range, *chart.base, kBaseColour, kBaseLook);
+  DrawBeside(painter, layout, chart, range, chart.octaves, kOctavesColour, {}, true);
+  DrawCurve(painter, layout, chart, range, chart.values, kCalculatedColour, kCalculatedLook);
+  DrawBeside(painter, layout, chart, range, chart.laboratory, kLaboratoryColour, kLaboratoryLook,
+             chart.laboratory_in_octaves);
+  DrawBeside(painter, layout, chart, range, chart.in_situ, kInSituColour, kInSituLook,
+             chart.in_situ_in_octaves);
+  for (std::size_t i = 0; i < chart.further.size(); ++i)
+    DrawCurve(painter, layout, chart, range, chart.further[i].values, chart.further[i].colour,
+              FurtherLook(i));
   painter.restore();
 }
 

@@ -31,10 +31,11 @@ struct ChartWords {
   std::string in_situ{};
   std::string base{};
   std::string former{};
-  std::string required{};    ///< at the curve of the required rating
-  std::string deviation{};   ///< of one band
-  std::string deviations{};  ///< with their sum
-  std::string note{};        ///< in the middle of the plot, as where there is no curve
+  std::string required{};         ///< at the curve of the required rating
+  std::string deviation{};        ///< of one band
+  std::string deviations{};       ///< with their sum
+  std::string deviations_note{};  ///< below the sum, as why it is larger than allowed
+  std::string note{};             ///< in the middle of the plot, as where there is no curve
 };
 
 /// The part of a chart that is seen, in its logical units: one a band across, 0 to 90 upwards.

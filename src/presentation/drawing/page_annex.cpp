@@ -17,8 +17,15 @@ namespace {
 constexpr double kInset = 0.55 * kPageInch;
 constexpr double kFootTop = 0.52 * kPageInch;
 constexpr double kFootBottom = 0.33 * kPageInch;
+/// The line of a studio over the foot.
+constexpr double kStudioFoot = 0.14 * kPageInch;
 constexpr double kGap = 0.06 * kPageInch;
 constexpr double kSectionHeight = 6.0 * kPageInch;
+
+/// The size of `picture` in tenths of a point.
+QSizeF OnPaper(const PagePicture& picture) {
+  return picture.image.isNull() ? QSizeF() : picture.millimetres * (kPageInch / 25.4);
+}
 
 /// The layers as a table that breaks across pages.
 PageTable LayerRows(const PaginaDiStampa& page) {
@@ -33,6 +40,10 @@ PageTable LayerRows(const PaginaDiStampa& page) {
 }
 
 }  // namespace
+
+double FootHeight(const PaginaDiStampa& page) {
+  return kInset + (page.studio.words.footer.empty() ? 0.0 : kStudioFoot);
+}
 
 SectionOptions PageSectionOptions(const PaginaDiStampa& page) {
   SectionOptions options = page.section_options;
@@ -49,9 +60,11 @@ double SectionLabelPixels(const QRectF& area, const PaginaDiStampa& page, const 
 }
 
 PageAnnex::PageAnnex(const QSizeF& paper, const PaginaDiStampa& page, const PageRest& rest)
-    : paper_(paper), title_(page.title), foot_(page.foot) {
+    : paper_(paper), title_(page.title), foot_(page.foot), studio_foot_(page.studio.words.footer) {
+  foot_height_ = FootHeight(page);
   AddRest(page, rest);
   AddData(page.data);
+  AddSignature(page.studio);
 }
 
 void PageAnnex::AddPage() {
@@ -60,7 +73,7 @@ void PageAnnex::AddPage() {
 }
 
 QRectF PageAnnex::Room() const {
-  return {kInset, top_, paper_.width() - 2.0 * kInset, paper_.height() - kInset - top_};
+  return {kInset, top_, paper_.width() - 2.0 * kInset, paper_.height() - foot_height_ - top_};
 }
 
 void PageAnnex::Need(double height) {
@@ -143,6 +156,57 @@ void PageAnnex::AddData(const CalculationData& data) {
   for (const std::string& reference : data.references) AddText(reference, kTextPoints, false, 0.0);
 }
 
+void PageAnnex::AddSignature(const PageStudio& studio) {
+  if (!studio.Signs()) return;
+  const double line = LineHeight(PageFont(kTextPoints));
+  const QSizeF signature = OnPaper(studio.signature);
+  const double height = std::max(3.5 * line, signature.height() + 0.5 * line);
+  Need(height + 4.0 * kGap);
+  top_ += 3.0 * kGap;
+  const QRectF box(Room().topLeft(), QSizeF(Room().width(), height));
+  pages_.back().emplace_back([studio, box, line, signature](QPainter& painter) {
+    painter.setPen(QPen(kVerticalGridColour, 0.01 * kPageInch));
+    painter.drawLine(box.topLeft(), box.topRight());
+    const QRectF middle(box.left() + 0.3 * box.width(), box.top() + 0.3 * line, 0.4 * box.width(),
+                        1.2 * line);
+    painter.setPen(kQuietInkColour);
+    DrawWrapped(painter, middle, PageFont(kTextPoints), FromWords(studio.signer_caption));
+    painter.setPen(kInkColour);
+    DrawWrapped(painter, middle.translated(0.0, line), PageFont(kTextPoints, true), FromWords(studio.signer));
+    DrawWrapped(painter, middle.translated(0.0, 2.0 * line), PageFont(kTextPoints),
+                FromWords(studio.words.register_number));
+    DrawWrapped(painter, {box.left(), box.top() + 0.3 * line, 0.28 * box.width(), line},
+                PageFont(kTextPoints), FromWords(studio.date));
+    if (studio.signature.image.isNull()) return;
+    painter.drawImage(QRectF(QPointF(box.right() - signature.width(), box.top() + 0.4 * line), signature),
+                      studio.signature.image);
+  });
+  top_ += height + kGap;
+}
+
+double DrawStudioHead(QPainter& painter, const QRectF& area, const PageStudio& studio) {
+  if (!studio.HasHead()) return 0.0;
+  const QSizeF logo = OnPaper(studio.logo);
+  const double left = logo.isEmpty() ? 0.0 : logo.width() + 3.0 * kGap;
+  const double width = area.width() - left;
+  const QFont bold = PageFont(kHeadingPoints, true);
+  const QFont plain = PageFont(kTextPoints);
+  const QString name = FromWords(studio.words.name);
+  const QString address = FromWords(studio.words.address);
+  const double name_height = name.isEmpty() ? 0.0 : WrappedHeight(name, bold, width);
+  const double address_height = address.isEmpty() ? 0.0 : WrappedHeight(address, plain, width);
+  const double height = std::max(logo.height(), name_height + address_height);
+  if (!studio.logo.image.isNull())
+    painter.drawImage(QRectF({area.left(), area.top() + (height - logo.height()) / 2.0}, logo),
+                      studio.logo.image);
+  const double top = area.top() + (height - name_height - address_height) / 2.0;
+  painter.setPen(kInkColour);
+  DrawWrapped(painter, {area.left() + left, top, width, name_height}, bold, name);
+  painter.setPen(kQuietInkColour);
+  DrawWrapped(painter, {area.left() + left, top + name_height, width, address_height}, plain, address);
+  return height;
+}
+
 void PageAnnex::Draw(QPainter& painter, int index) const {
   painter.setPen(QPen(kInkColour, 0.01 * kPageInch));
   painter.setBrush(Qt::NoBrush);
@@ -161,6 +225,9 @@ void PageAnnex::DrawFoot(QPainter& painter, int index) const {
       FromWords(foot_.page + " " + std::to_string(foot_.before + index + 1) + " " + foot_.of + " " +
                 std::to_string(foot_.all > 0 ? foot_.all : PageCount() + 1));
   painter.setPen(kQuietInkColour);
+  if (!studio_foot_.empty())
+    DrawWrapped(painter, box.translated(0.0, -kStudioFoot), font, FromWords(studio_foot_),
+                Qt::AlignHCenter | Qt::AlignVCenter);
   if (!foot_.page.empty()) DrawWrapped(painter, box, font, number, Qt::AlignRight | Qt::AlignVCenter);
   const double left = box.width() - WidthOf(number, font) - 2.0 * kGap;
   DrawWrapped(painter, QRectF(box.topLeft(), QSizeF(left, box.height())), font, FromWords(foot_.left),

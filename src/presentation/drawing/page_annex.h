@@ -21,6 +21,12 @@ struct PageRest {
   bool section = false;    ///< the drawing, whose numbers would be too small there
 };
 
+/// The height of the foot of a page, with the studio's line where it has one.
+double FootHeight(const PaginaDiStampa& page);
+
+/// Draws the studio's head at the top of `area` and gives the height it took; 0 without one.
+double DrawStudioHead(QPainter& painter, const QRectF& area, const PageStudio& studio);
+
 /// How the pages draw their section.
 SectionOptions PageSectionOptions(const PaginaDiStampa& page);
 
@@ -54,11 +60,14 @@ class PageAnnex {
                 std::size_t first_row);
   void AddRest(const PaginaDiStampa& page, const PageRest& rest);
   void AddData(const CalculationData& data);
+  void AddSignature(const PageStudio& studio);
 
   QSizeF paper_;
   std::string title_;
   PageFoot foot_;
+  std::string studio_foot_;
   std::vector<std::vector<Piece>> pages_{};
+  double foot_height_ = 0.0;
   double top_ = 0.0;  ///< of what is left of the last page
 };
 

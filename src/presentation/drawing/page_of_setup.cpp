@@ -16,6 +16,9 @@
 namespace velmar::presentation {
 namespace {
 
+/// Of the project information.
+constexpr std::size_t kEngineerRow = 3;
+
 using elements::Calculation;
 using elements::CalculationRow;
 using elements::Family;
@@ -146,10 +149,56 @@ std::vector<std::string> NotesOf(const CalculationRow& row, const PageTotals& to
   return notes;
 }
 
+void SetAll(std::vector<std::string>& texts, DocumentLanguage language) {
+  for (std::string& text : texts) text = ForPaper(text, language);
+}
+
+void SetTable(PageTable& table, DocumentLanguage language) {
+  SetAll(table.heads, language);
+  for (auto& row : table.rows) {
+    for (std::string& cell : row) cell = CellForPaper(cell, language);
+  }
+}
+
+/// The texts that the program composed; names and what somebody typed stay.
+void SetForPaper(PaginaDiStampa& page, DocumentLanguage language) {
+  for (PageField& field : page.fields) field.value = ForPaper(field.value, language);
+  SetAll(page.results, language);
+  page.further_results = ForPaper(page.further_results, language);
+  page.results_note = ForPaper(page.results_note, language);
+  SetTable(page.bands, language);
+  SetTable(page.elements, language);
+  for (StructureBlock& block : page.structure) {
+    block.mass = ForPaper(block.mass, language);
+    for (StructureLine& line : block.lines) {
+      if (line.number == 0) line.name = ForPaper(line.name, language);
+      line.amount = ForPaper(line.amount, language);
+    }
+  }
+  SetAll(page.structure_notes, language);
+}
+
+void JoinFields(std::vector<PageField>& italian, const std::vector<PageField>& english) {
+  for (std::size_t i = 0; i < italian.size() && i < english.size(); ++i) {
+    italian[i].caption = InBoth(italian[i].caption, english[i].caption);
+    italian[i].value = InBoth(italian[i].value, english[i].value);
+  }
+}
+
+void JoinTable(PageTable& italian, const PageTable& english) {
+  for (std::size_t i = 0; i < italian.heads.size() && i < english.heads.size(); ++i)
+    italian.heads[i] = InBoth(italian.heads[i], english.heads[i]);
+  for (std::size_t row = 0; row < italian.rows.size() && row < english.rows.size(); ++row) {
+    for (std::size_t i = 0; i < italian.rows[row].size(); ++i)
+      italian.rows[row][i] = InBoth(italian.rows[row][i], english.rows[row][i]);
+  }
+}
+
 }  // namespace
 
 PaginaDiStampa PaginaDi(const Setup& setup, const PageTotals& totals, const elements::ResultSet* result,
-                        const Words& words, std::optional<CurveChart> chart, const Message& confidence) {
+                        const Words& words, std::optional<CurveChart> chart, const Message& confidence,
+                        DocumentLanguage language) {
   PaginaDiStampa page;
   page.information = InformationOf(setup, words);
   if (!setup.calculation) return page;
@@ -172,16 +221,54 @@ PaginaDiStampa PaginaDi(const Setup& setup, const PageTotals& totals, const elem
   if (!page.structure.empty()) page.structure_heading = words(kLayersTitleRow);
   page.structure_notes = NotesOf(row, totals, result);
   page.section = SectionOf(setup);
-  page.section_options = PaperOptions(setup, words);
-  page.data = CalculationDataOf(setup, words);
+  page.section_options = PaperOptions(setup, words, language);
+  page.data = ForPaper(CalculationDataOf(setup, words), language);
   page.foot = {.page = words(kPageRow), .of = words(kPageOfRow)};
+  SetForPaper(page, language);
   return page;
 }
 
 void TellProvenance(PaginaDiStampa& page, const Setup& setup, const Words& words,
-                    const Provenance& provenance) {
-  page.data = CalculationDataOf(setup, words, provenance);
+                    const Provenance& provenance, DocumentLanguage language) {
+  page.data = ForPaper(CalculationDataOf(setup, words, provenance), language);
   page.foot.left = FootText(setup.information, provenance);
+  page.author = setup.information[kEngineerRow].value;
+  page.subject = words(kDocumentSubjectRow);
+  page.program = provenance.program;
+}
+
+void TellStudio(PaginaDiStampa& page, const Setup& setup, PageStudio studio, const Words& words,
+                const Provenance& provenance) {
+  const std::string& engineer = setup.information[kEngineerRow].value;
+  studio.signer = engineer.empty() ? studio.words.signer : engineer;
+  studio.signer_caption = words(kSignerCaptionRow);
+  studio.date = provenance.date;
+  if (!studio.words.name.empty()) page.author = studio.words.name;
+  page.studio = std::move(studio);
+}
+
+PaginaDiStampa InBoth(PaginaDiStampa italian, const PaginaDiStampa& english) {
+  JoinFields(italian.information, english.information);
+  JoinFields(italian.fields, english.fields);
+  JoinTable(italian.bands, english.bands);
+  JoinTable(italian.elements, english.elements);
+  italian.title = InBoth(italian.title, english.title);
+  italian.structure_heading = InBoth(italian.structure_heading, english.structure_heading);
+  italian.further_results = InBoth(italian.further_results, english.further_results);
+  italian.results_note = InBoth(italian.results_note, english.results_note, "\n");
+  for (std::size_t i = 0; i < italian.structure.size() && i < english.structure.size(); ++i) {
+    StructureBlock& block = italian.structure[i];
+    const StructureBlock& other = english.structure[i];
+    block.heading = InBoth(block.heading, other.heading);
+    for (std::size_t line = 0; line < block.lines.size() && line < other.lines.size(); ++line)
+      block.lines[line].name = InBoth(block.lines[line].name, other.lines[line].name);
+  }
+  italian.data = InBoth(std::move(italian.data), english.data);
+  italian.subject = InBoth(italian.subject, english.subject);
+  italian.foot.page = InBoth(italian.foot.page, english.foot.page);
+  italian.foot.of = InBoth(italian.foot.of, english.foot.of);
+  italian.studio.signer_caption = InBoth(italian.studio.signer_caption, english.studio.signer_caption);
+  return italian;
 }
 
 }  // namespace velmar::presentation

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QImage>
 #include <QSizeF>
 #include <optional>
 #include <string>
@@ -11,6 +12,8 @@
 #include "presentation/drawing/section.h"
 #include "presentation/drawing/section_drawing.h"
 #include "presentation/texts/calculation_data.h"
+#include "presentation/texts/letterhead.h"
+#include "presentation/texts/paper_text.h"
 #include "presentation/texts/structure.h"
 #include "presentation/texts/words.h"
 
@@ -25,6 +28,28 @@ using PageField = DataField;
 struct PageTable {
   std::vector<std::string> heads{};
   std::vector<std::vector<std::string>> rows{};
+};
+
+/// A picture and its size on paper.
+struct PagePicture {
+  QImage image{};
+  QSizeF millimetres{};
+};
+
+/// What a studio puts on its pages: a head on the first, a line at the foot of all, who signs at the end.
+struct PageStudio {
+  Letterhead words{};
+  PagePicture logo{};
+  PagePicture signature{};
+  std::string signer{};          ///< who signs; the project may name somebody
+  std::string signer_caption{};  ///< over the name
+  std::string date{};            ///< beside it
+
+  bool HasHead() const { return words.HasHead() || !logo.image.isNull(); }
+  /// Whether somebody of the studio signs.
+  bool Signs() const {
+    return !words.signer.empty() || !words.register_number.empty() || !signature.image.isNull();
+  }
 };
 
 /// What stands at the foot of every page.
@@ -55,6 +80,10 @@ struct PaginaDiStampa {
   SectionOptions section_options{};
   CalculationData data{};  ///< every input, on the pages behind the first
   PageFoot foot{};
+  PageStudio studio{};
+  std::string author{};   ///< of the document, among its properties
+  std::string subject{};  ///< the same
+  std::string program{};  ///< the same, with its version
 };
 
 /// The totals of an element as the window shows them.
@@ -66,13 +95,24 @@ struct PageTotals {
 /// The page of a calculation. @param result nothing before a run: the page then shows the set-up alone.
 /// @param chart the chart as shown, with its overlays; without one it is made of `result`
 /// @param confidence what is known of the error of `result`
+/// @param language of numbers; the words are those of `words`
 PaginaDiStampa PaginaDi(const elements::Setup& setup, const PageTotals& totals,
                         const elements::ResultSet* result, const Words& words,
-                        std::optional<CurveChart> chart = std::nullopt, const Message& confidence = {});
+                        std::optional<CurveChart> chart = std::nullopt, const Message& confidence = {},
+                        DocumentLanguage language = DocumentLanguage::kItalian);
+
+/// The same pages in both languages: every text of `italian` with that of `english` beside or below it, once
+/// where they agree. Chart and section are those of `italian`.
+PaginaDiStampa InBoth(PaginaDiStampa italian, const PaginaDiStampa& english);
 
 /// Says on `page`, which is that of `setup`, where its numbers come from.
 void TellProvenance(PaginaDiStampa& page, const elements::Setup& setup, const Words& words,
-                    const Provenance& provenance);
+                    const Provenance& provenance, DocumentLanguage language = DocumentLanguage::kItalian);
+
+/// Puts `studio` on `page`, which is that of `setup`: where the project names nobody who signs the studio
+/// does.
+void TellStudio(PaginaDiStampa& page, const elements::Setup& setup, PageStudio studio, const Words& words,
+                const Provenance& provenance);
 
 /// How many pages `page` takes on paper of `paper_inches`; 0 for a paper without size.
 int PageCountOf(const QSizeF& paper_inches, const PaginaDiStampa& page);

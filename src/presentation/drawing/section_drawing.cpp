@@ -12,6 +12,7 @@
 #include "presentation/drawing/hatches.h"
 #include "presentation/drawing/section_layout.h"
 #include "presentation/drawing/text.h"
+#include "presentation/texts/paper_text.h"
 
 namespace velmar::presentation {
 namespace {
@@ -85,7 +86,8 @@ void DrawArrowHead(QPainter& painter, const QPointF& tip, const QPointF& back) {
 }
 
 /// The thickness of each layer beside it; where there is no room for the figures a tick alone.
-void DrawChain(QPainter& painter, const SectionLayout& layout, const Section& section) {
+void DrawChain(QPainter& painter, const SectionLayout& layout, const Section& section,
+               elements::DocumentLanguage language) {
   const QRectF& body = layout.body;
   const double em = layout.text_px;
   painter.setFont(layout.font);
@@ -98,7 +100,8 @@ void DrawChain(QPainter& painter, const SectionLayout& layout, const Section& se
         painter.drawLine(QPointF(at, body.bottom() + 0.2 * em), QPointF(at, body.bottom() + 0.6 * em));
       }
     }
-    const QString text = FromWords(FormatShortest(RoundToEven(dimension.thickness_mm, 4)));
+    const QString text =
+        FromWords(ForPaper(FormatShortest(RoundToEven(dimension.thickness_mm, 4)), language));
     const double room = dimension.to - dimension.from;
     if (room < (section.horizontal ? em : WidthOf(text, layout.font) + 0.2 * em)) continue;
     painter.setPen(kInkColour);
@@ -139,12 +142,13 @@ void DrawSides(QPainter& painter, const SectionLayout& layout, const Section& se
   }
 }
 
-void DrawDimension(QPainter& painter, const SectionLayout& layout, const Section& section) {
+void DrawDimension(QPainter& painter, const SectionLayout& layout, const Section& section,
+                   elements::DocumentLanguage language) {
   const double em = layout.text_px;
   const QRectF& body = layout.body;
   painter.setFont(layout.font);
   painter.setRenderHint(QPainter::Antialiasing);
-  const QString end = DimensionText(section.thickness_mm);
+  const QString end = DimensionText(section.thickness_mm, language);
   const QString origin = QStringLiteral("0 (mm)");
   const QPointF off =
       section.horizontal ? QPointF(0.9 * em + layout.chain, 0.0) : QPointF(0.0, 0.8 * em + layout.chain);
@@ -192,8 +196,9 @@ std::optional<LayerPlace> PlaceOf(const Section& section, int number) {
 
 }  // namespace
 
-SectionOptions PaperOptions(const elements::Setup& setup, const Words& words) {
-  SectionOptions options{.smallest_number_px = kSmallestNumberPixels, .paper = true};
+SectionOptions PaperOptions(const elements::Setup& setup, const Words& words,
+                            elements::DocumentLanguage language) {
+  SectionOptions options{.smallest_number_px = kSmallestNumberPixels, .paper = true, .language = language};
   if (!setup.calculation) return options;
   const elements::Orientation orientation = elements::RowOf(*setup.calculation).orientation;
   if (elements::IsHorizontal(orientation)) {
@@ -215,9 +220,10 @@ void DrawSection(QPainter& painter, const QRectF& area, const Section& section,
   if (!section.strips.empty()) {
     const SectionLayout layout = LayoutOf(area, section, painter.font(), options);
     DrawStrips(painter, layout, section, options);
+    if (options.strips_alone) return painter.restore();
     DrawLabels(painter, layout, options);
-    DrawChain(painter, layout, section);
-    DrawDimension(painter, layout, section);
+    DrawChain(painter, layout, section, options.language);
+    DrawDimension(painter, layout, section, options.language);
     DrawSides(painter, layout, section, options);
     DrawList(painter, layout, options);
   }

@@ -8,6 +8,7 @@
 #include "foundation/rounding.h"
 #include "presentation/drawing/label_spread.h"
 #include "presentation/drawing/text.h"
+#include "presentation/texts/paper_text.h"
 
 namespace velmar::presentation {
 namespace {
@@ -25,19 +26,20 @@ struct NumberedRow {
 };
 
 /// "2 x 12,5 mm"
-QString ThicknessOf(const Strip& strip, std::ptrdiff_t sheets) {
+QString ThicknessOf(const Strip& strip, std::ptrdiff_t sheets, elements::DocumentLanguage language) {
   const std::string thickness = FormatShortest(RoundToEven(strip.sheet_mm, 4)) + " mm";
-  return FromWords(sheets > 1 ? std::to_string(sheets) + " x " + thickness : thickness);
+  return FromWords(ForPaper(sheets > 1 ? std::to_string(sheets) + " x " + thickness : thickness, language));
 }
 
 /// One row a number.
-std::vector<NumberedRow> NumberedRows(const Section& section, bool with_thickness) {
+std::vector<NumberedRow> NumberedRows(const Section& section, const SectionOptions& options) {
   std::vector<NumberedRow> rows;
   for (const Strip& strip : section.strips) {
     if (strip.number == 0 || (!rows.empty() && rows.back().number == strip.number)) continue;
     QString name = FromWords(strip.name);
-    if (with_thickness)
-      name += ", " + ThicknessOf(strip, std::ranges::count(section.strips, strip.number, &Strip::number));
+    if (options.paper)
+      name += ", " + ThicknessOf(strip, std::ranges::count(section.strips, strip.number, &Strip::number),
+                                 options.language);
     rows.push_back({strip.number, name});
   }
   return rows;
@@ -259,8 +261,8 @@ void PlaceStrips(SectionLayout& layout, const Section& section) {
 
 }  // namespace
 
-QString DimensionText(double thickness_mm) {
-  return FromWords(FormatShortest(RoundToEven(thickness_mm, 4)) + " (mm)");
+QString DimensionText(double thickness_mm, elements::DocumentLanguage language) {
+  return FromWords(ForPaper(FormatShortest(RoundToEven(thickness_mm, 4)) + " (mm)", language));
 }
 
 SectionLayout LayoutOf(const QRectF& area, const Section& section, const QFont& font,
@@ -269,10 +271,15 @@ SectionLayout LayoutOf(const QRectF& area, const Section& section, const QFont& 
   layout.text_px = std::clamp(std::min(area.width(), area.height()) / 10.0, 5.0, PixelsOf(font));
   layout.font = PixelFont(font, layout.text_px);
   if (section.strips.empty() || area.isEmpty()) return layout;
+  if (options.strips_alone) {
+    layout.body = area.adjusted(0.5, 0.5, -0.5, -0.5);
+    PlaceStrips(layout, section);
+    return layout;
+  }
   const double em = layout.text_px;
   QRectF room = area.adjusted(0.6 * em, 0.6 * em, -0.6 * em, -0.6 * em);
 
-  const std::vector<NumberedRow> rows = NumberedRows(section, options.paper);
+  const std::vector<NumberedRow> rows = NumberedRows(section, options);
   if (options.list_names) PlaceList(layout, room, rows);
   if (section.horizontal) room.adjust(0.0, 0.3 * em, 0.0, -0.3 * em);
   if (!options.near_side.isEmpty() || !options.far_side.isEmpty()) {
@@ -284,9 +291,10 @@ SectionLayout LayoutOf(const QRectF& area, const Section& section, const QFont& 
                        : section.horizontal ? WidthOf(QStringLiteral("0000,0"), layout.font) + 0.6 * em
                                             : 1.5 * em;
 
-  const double arrow = section.horizontal
-                           ? chain + 1.8 * em + WidthOf(DimensionText(section.thickness_mm), layout.font)
-                           : chain + 2.6 * em;
+  const double arrow =
+      section.horizontal
+          ? chain + 1.8 * em + WidthOf(DimensionText(section.thickness_mm, options.language), layout.font)
+          : chain + 2.6 * em;
   const double across = (section.horizontal ? room.width() : room.height()) - arrow - kSteepestBend * em;
   const LabelBand band =
       BandOf(rows, section, layout, options.smallest_number_px, section.horizontal ? room.top() : room.left(),

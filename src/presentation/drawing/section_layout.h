@@ -47,7 +47,8 @@ struct SectionLayout {
 };
 
 /// The far end of the dimension arrow: "330 (mm)".
-QString DimensionText(double thickness_mm);
+QString DimensionText(double thickness_mm,
+                      elements::DocumentLanguage language = elements::DocumentLanguage::kItalian);
 
 /// The places of the pieces of `section` within `area`. Numbers never overlap and none is left out; names are
 /// left out where they would leave too little for the strips.

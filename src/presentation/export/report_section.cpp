@@ -10,7 +10,7 @@
 namespace velmar::presentation {
 namespace {
 
-constexpr QSizeF kWideMillimetres{169.0, 40.0};
+constexpr QSizeF kWideMillimetres{169.0, 33.0};
 /// Within the cells from row 13 to row 23 beside the table of layers.
 constexpr QSizeF kSmallMillimetres{57.0, 56.0};
 constexpr QSizeF kThumbnailMillimetres{26.0, 11.0};
@@ -26,7 +26,7 @@ std::size_t CountOfNumbers(const Section& section) {
 
 }  // namespace
 
-ReportSection ReportSectionOf(const elements::Setup& setup, const Words& words) {
+ReportSection ReportSectionOf(const elements::Setup& setup, const Words& words, DocumentLanguage language) {
   const Section section = SectionOf(setup);
   if (section.strips.empty()) return {};
   const std::string alternative_text = SectionDescription(section.thickness_mm, words);
@@ -35,7 +35,7 @@ ReportSection ReportSectionOf(const elements::Setup& setup, const Words& words) 
         millimetres, alternative_text,
         [&](QPainter& painter, const QRectF& area) { DrawSection(painter, area, section, options); }, true);
   };
-  SectionOptions options = PaperOptions(setup, words);
+  SectionOptions options = PaperOptions(setup, words, language);
   ReportSection drawn{.wide = picture(kWideMillimetres, options)};
   options.list_names = false;
   if (CountOfNumbers(section) <= kMostNumbersInSmall) drawn.small = picture(kSmallMillimetres, options);

@@ -35,7 +35,7 @@ DrawnRows RowsOf(const Schedule& schedule, const std::vector<PageChapter>& chapt
       failed.push_back(element.file + ": " + element.failure);
       continue;
     }
-    table.rows.push_back(ScheduleCells(element));
+    table.rows.push_back(ScheduleCells(element, schedule.language));
     table.sections.push_back((chapter++)->section);
     outside |= element.outside_range;
   }

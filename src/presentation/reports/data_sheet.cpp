@@ -84,8 +84,13 @@ class DataSheet {
 
 }  // namespace
 
-void WriteDataSheet(Workbook& workbook, const CalculationData& data) {
-  if (data.title.empty()) return;
+void WriteDataSheet(Workbook& workbook, const CalculationData& told, DocumentLanguage language) {
+  if (told.title.empty()) return;
+  CalculationData data = told;
+  // Numbers stay numbers.
+  for (DataField& field : data.fields) {
+    if (!field.as_it_stands && !ParseDecimal(field.value)) field.value = ForPaper(field.value, language);
+  }
   DataSheet sheet(workbook, workbook.AddSheet(data.title, true, kWidths));
   sheet.Title(data.title);
   for (const DataField& field : data.fields) sheet.Field(field);

@@ -41,6 +41,11 @@ constexpr int kHeightRow = 56;
 constexpr int kCaptionColumn = 8;
 constexpr int kValueColumn = 9;
 constexpr CellPlace kArea{58, 9};
+constexpr CellPlace kLogo{1, 8};
+constexpr CellPlace kStudioName{2, 1};
+constexpr CellPlace kStudioAddress{3, 1};
+constexpr CellPlace kSigner{62, 8};
+constexpr int kLastSignedRow = 68;
 constexpr const char* kOneDecimal = "0.0";
 constexpr const char* kWhole = "0";
 constexpr const char* kNothing = "–";
@@ -127,7 +132,7 @@ void WriteRemarks(Workbook& workbook, const ReportRecord& record) {
   Worksheet& sheet = workbook.Sheet();
   sheet.SetText(kRemarksTitle, record.remarks_title);
   workbook.ChangeStyle(kRemarksTitle, {.bold = true});
-  sheet.SetText(kRemarks, text);
+  sheet.SetText(kRemarks, ForPaper(text, record.language));
   workbook.ChangeStyle(kRemarks, {.horizontal = "left", .wrap = true});
   sheet.MergeRange(kRemarks, {kLastRemarksRow, kLastDescriptionColumn});
 }
@@ -170,6 +175,35 @@ void WriteSection(Workbook& workbook, const ReportRecord& record) {
   }
 }
 
+/// The studio over and under the report, and who signs below it.
+void WriteStudio(Workbook& workbook, const ReportRecord& record) {
+  Worksheet& sheet = workbook.Sheet();
+  const Letterhead& letterhead = record.letterhead;
+  sheet.PutFoot(record.footer + (letterhead.footer.empty() ? "" : "\n" + letterhead.footer));
+  if (record.logo) workbook.AddPicture(sheet, kLogo, *record.logo);
+  if (!letterhead.name.empty()) {
+    sheet.SetText(kStudioName, letterhead.name);
+    workbook.ChangeStyle(kStudioName, {.bold = true});
+  }
+  if (!letterhead.address.empty()) {
+    std::string line = letterhead.address;
+    for (std::size_t at = line.find('\n'); at != std::string::npos; at = line.find('\n', at))
+      line.replace(at, 1, ", ");
+    sheet.SetText(kStudioAddress, line);
+    sheet.SetStyle(kStudioAddress, sheet.StyleOf(kFirstCaption));
+  }
+  if (letterhead.signer.empty() && letterhead.register_number.empty() && !record.signature) return;
+  CellPlace place = kSigner;
+  for (const std::string* text : {&record.signer_caption, &record.engineer, &letterhead.register_number}) {
+    if (text->empty()) continue;
+    sheet.SetText(place, *text);
+    if (text == &record.signer_caption) sheet.SetStyle(place, sheet.StyleOf(kFirstCaption));
+    ++place.row;
+  }
+  if (record.signature) workbook.AddPicture(sheet, place, *record.signature);
+  workbook.PrintDownTo(kLastSignedRow);
+}
+
 }  // namespace
 
 void FillExcelReport(Workbook& workbook, const ReportRecord& record) {
@@ -178,8 +212,9 @@ void FillExcelReport(Workbook& workbook, const ReportRecord& record) {
   sheet.SetText(kKind, record.kind_of_element);
   sheet.SetText(kTheory, record.theory);
   sheet.SetText(kElementType, record.element_type);
-  sheet.SetText(kDescription, record.description);
-  FitHeight(sheet, kDescription.row, record.description, kDescription.column, kLastDescriptionColumn);
+  const std::string description = ForPaper(record.description, record.language);
+  sheet.SetText(kDescription, description);
+  FitHeight(sheet, kDescription.row, description, kDescription.column, kLastDescriptionColumn);
   sheet.SetText(kSectionTitle, record.section_title);
   WriteLayerTable(workbook, record);
   SetNumber(workbook, kSurfaceMass, record.surface_mass_kg_m2, kOneDecimal);
@@ -198,7 +233,9 @@ void FillExcelReport(Workbook& workbook, const ReportRecord& record) {
   WriteInformation(workbook, record);
   WriteRemarks(workbook, record);
   WriteSection(workbook, record);
-  WriteDataSheet(workbook, record.data);
+  WriteStudio(workbook, record);
+  workbook.SetProperties(record.properties);
+  WriteDataSheet(workbook, record.data, record.language);
 }
 
 std::string WriteExcelReport(std::string_view xlsx, const ReportRecord& record) {

@@ -32,16 +32,20 @@ struct TableRow {
   bool heading = false;
 };
 
-std::string NameWithSheets(const StructureRow& row) {
+std::string NameWithSheets(const StructureRow& row, DocumentLanguage language) {
   std::string name = FullName(row);
-  if (row.multiplicity > 1 && row.thickness_mm > 0.0) name += " (" + ThicknessText(row) + " mm)";
+  if (row.kind == StructureKind::kWords) name = ForPaper(name, language);
+  if (row.multiplicity > 1 && row.thickness_mm > 0.0)
+    name += ForPaper(" (" + ThicknessText(row) + " mm)", language);
   return name;
 }
 
 TableRow TableRowOf(const StructureRow& row, const ReportRecord& record) {
   if (row.kind == StructureKind::kHeading) return {.name = row.name, .heading = true};
-  TableRow cells{
-      .name = NameWithSheets(row), .area = row.area, .share = row.share, .mass_kg_m2 = row.mass_kg_m2};
+  TableRow cells{.name = NameWithSheets(row, record.language),
+                 .area = row.area,
+                 .share = row.share,
+                 .mass_kg_m2 = row.mass_kg_m2};
   if (record.family == elements::Family::kFacade && !row.note.empty()) cells.name += " - " + row.note;
   if (!row.rating.empty()) cells.rating_db = ParseDecimal(row.rating);
   cells.number = row.number;

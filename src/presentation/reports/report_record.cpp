@@ -1,5 +1,7 @@
 #include "presentation/reports/report_record.h"
 
+#include <algorithm>
+#include <array>
 #include <string_view>
 #include <utility>
 
@@ -7,7 +9,6 @@
 #include "elements/catalogue.h"
 #include "foundation/decimal.h"
 #include "foundation/message_rows.h"
-#include "presentation/reports/kind_of_element.h"
 #include "presentation/texts/box_number.h"
 #include "presentation/texts/calculation_labels.h"
 #include "presentation/texts/descriptions.h"
@@ -19,10 +20,38 @@
 namespace velmar::presentation {
 namespace {
 
+using elements::Orientation;
+
+struct Kind {
+  Orientation orientation{};
+  MessageRow row{};
+};
+
+constexpr std::array<Kind, 8> kKinds = {{{Orientation::kVerticalSingle, kSingleWallKindRow},
+                                         {Orientation::kVerticalDouble, kDoubleWallKindRow},
+                                         {Orientation::kHorizontalSingle, kFloorKindRow},
+                                         {Orientation::kHorizontalDouble, kScreedFloorKindRow},
+                                         {Orientation::kLining, kWallLiningRow},
+                                         {Orientation::kCeiling, kCeilingRow},
+                                         {Orientation::kComposite, kFacadeKindRow},
+                                         {Orientation::kMultilayer, kMultilayerRow}}};
+
+/// The row that names the kind of element in reports: single or double wall, glazing, floor, lining and so
+/// on. Row 0 before a choice.
+MessageRow KindOfElementRow(const elements::Setup& setup) {
+  if (!setup.calculation) return {};
+  if (elements::IsGlazing(*setup.calculation)) return kGlazingRow;
+  if (elements::RowOf(*setup.calculation).Reads(elements::Field::kDecoupling) && setup.decoupled)
+    return kDecoupledBrickRow;
+  const Orientation orientation = elements::RowOf(*setup.calculation).orientation;
+  return std::ranges::find(kKinds, orientation, &Kind::orientation)->row;
+}
+
 using elements::Family;
 using elements::Setup;
 
 /// Of the project information.
+constexpr std::size_t kProjectRow = 0;
 constexpr std::size_t kEngineerRow = 3;
 /// Rw is the reference curve at 500 Hz.
 constexpr double kRatingBelowShift = 4.0;
@@ -123,8 +152,15 @@ ReportRecord ReportRecordOf(const Setup& setup, const elements::ResultSet& resul
   record.footer = FootText(setup.information, provenance);
   record.date = provenance.date;
   record.engineer = setup.information[kEngineerRow].value;
+  record.signer_caption = words(kSignerCaptionRow);
+  record.properties = {.title = record.information[kProjectRow].value,
+                       .author = record.engineer,
+                       .subject = words(kDocumentSubjectRow),
+                       .created = provenance.iso_date,
+                       .program = provenance.program};
   record.family = family;
   FillLabels(setup, family, words, record);
+  if (record.properties.title.empty()) record.properties.title = record.title;
   FillBands(setup, family, record);
   FillDimensions(setup, family, record);
   record.result_line = ResultLine(family, result);
@@ -150,6 +186,45 @@ ReportRecord ReportRecordOf(const Setup& setup, const elements::ResultSet& resul
     record.hanger_line = WithoutColon(words(kConnectionTypeRow)) + ": " + record.hanger;
   }
   return record;
+}
+
+void PutStudio(ReportRecord& record, const Letterhead& letterhead, std::optional<Picture> logo,
+               std::optional<Picture> signature) {
+  record.letterhead = letterhead;
+  record.logo = std::move(logo);
+  record.signature = std::move(signature);
+  if (record.engineer.empty()) record.engineer = letterhead.signer;
+  if (!letterhead.name.empty()) record.properties.author = letterhead.name;
+}
+
+ReportRecord InBoth(ReportRecord italian, const ReportRecord& english) {
+  using Text = std::string ReportRecord::*;
+  // Where the layers go on is told with the name of a sheet, which is one.
+  for (const Text text : {&ReportRecord::title,           &ReportRecord::insulation,
+                          &ReportRecord::kind_of_element, &ReportRecord::element_type,
+                          &ReportRecord::theory,          &ReportRecord::standard,
+                          &ReportRecord::band_heading,    &ReportRecord::reference_heading,
+                          &ReportRecord::base_heading,    &ReportRecord::remarks_title,
+                          &ReportRecord::section_title,   &ReportRecord::width_caption,
+                          &ReportRecord::height_caption,  &ReportRecord::part_heading,
+                          &ReportRecord::resilient_name,  &ReportRecord::resilient_heading,
+                          &ReportRecord::signer_caption,  &ReportRecord::hanger,
+                          &ReportRecord::hanger_line,     &ReportRecord::resulting_line,
+                          &ReportRecord::laboratory_data, &ReportRecord::in_situ_data,
+                          &ReportRecord::base_element})
+    italian.*text = InBoth(italian.*text, english.*text);
+  for (const Text text : {&ReportRecord::description, &ReportRecord::rating_note, &ReportRecord::messages,
+                          &ReportRecord::generic_note})
+    italian.*text = InBoth(italian.*text, english.*text, "\n");
+  for (std::size_t i = 0; i < italian.information.size(); ++i)
+    italian.information[i].caption = InBoth(italian.information[i].caption, english.information[i].caption);
+  italian.properties.subject = InBoth(italian.properties.subject, english.properties.subject);
+  for (std::size_t i = 0; i < italian.structure.size() && i < english.structure.size(); ++i) {
+    italian.structure[i].name = InBoth(italian.structure[i].name, english.structure[i].name);
+    italian.structure[i].note = InBoth(italian.structure[i].note, english.structure[i].note);
+  }
+  italian.data = InBoth(std::move(italian.data), english.data);
+  return italian;
 }
 
 void AddConfidence(ReportRecord& record, const Message& confidence, const Words& words) {

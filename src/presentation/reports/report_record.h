@@ -8,9 +8,12 @@
 #include "acoustics/bands.h"
 #include "elements/result_set.h"
 #include "elements/setup.h"
+#include "presentation/documents/document_properties.h"
 #include "presentation/documents/picture.h"
 #include "presentation/reports/structure_rows.h"
 #include "presentation/texts/calculation_data.h"
+#include "presentation/texts/letterhead.h"
+#include "presentation/texts/paper_text.h"
 #include "presentation/texts/words.h"
 
 namespace velmar::presentation {
@@ -63,6 +66,12 @@ struct ReportRecord {
   std::string footer{};            ///< project, code, date and version, for the foot of the pages
   std::string date{};              ///< of the document
   std::string engineer{};          ///< who signs
+  std::string signer_caption{};    ///< over who signs
+  Letterhead letterhead{};         ///< of the studio
+  std::optional<Picture> logo{};
+  std::optional<Picture> signature{};
+  DocumentProperties properties{};
+  DocumentLanguage language = DocumentLanguage::kItalian;  ///< of numbers
   std::string laboratory_data{};  ///< what the result was compared with: "Dati di laboratorio: ..."; or empty
   std::string in_situ_data{};
 
@@ -110,6 +119,15 @@ struct ReportPictures {
 ReportRecord ReportRecordOf(const elements::Setup& setup, const elements::ResultSet& result,
                             const ElementTotals& totals, const Words& words, ReportPictures pictures = {},
                             const ComparedStructures& compared = {}, const Provenance& provenance = {});
+
+/// Puts the studio's texts and pictures on the document of `record`: who signs where the project names
+/// nobody, and the author among its properties.
+void PutStudio(ReportRecord& record, const Letterhead& letterhead, std::optional<Picture> logo,
+               std::optional<Picture> signature);
+
+/// The same report in both languages: every text of `italian` with that of `english` beside it, or below it
+/// where it is a sentence; once where they agree. Numbers are those of `italian`.
+ReportRecord InBoth(ReportRecord italian, const ReportRecord& english);
 
 /// Tells in `record` what is known of the error of its result, below the ranges that were left.
 void AddConfidence(ReportRecord& record, const Message& confidence, const Words& words);

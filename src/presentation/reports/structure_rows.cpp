@@ -124,9 +124,30 @@ std::vector<StructureRow> StructureRowsOf(const Setup& setup, const Words& words
   return rows;
 }
 
+std::string WithoutRemarks(const std::string& description) {
+  // A full stop behind a short word is that of an abbreviation.
+  constexpr std::size_t kShortWord = 3;
+  std::size_t end = description.size();
+  for (std::size_t at = description.find(". "); at != std::string::npos;
+       at = description.find(". ", at + 1)) {
+    const std::size_t blank = description.rfind(' ', at == 0 ? 0 : at - 1);
+    const std::size_t word = blank == std::string::npos ? at : at - blank - 1;
+    const char next = at + 2 < description.size() ? description[at + 2] : ' ';
+    if (word <= kShortWord || next < 'A' || next > 'Z') continue;
+    end = at;
+    break;
+  }
+  std::string sentence = description.substr(0, end);
+  if (sentence.ends_with('.')) sentence.pop_back();
+  return sentence;
+}
+
 std::string FullName(const StructureRow& row) {
-  if (row.description.empty() || row.description == row.name) return row.name;
-  return row.name.empty() ? row.description : row.name + ": " + row.description;
+  // What a user says of a part of a facade or of a base is no remark of a database.
+  const std::string description =
+      row.kind == StructureKind::kLayer ? WithoutRemarks(row.description) : row.description;
+  if (description.empty() || description == row.name) return row.name;
+  return row.name.empty() ? description : row.name + ": " + description;
 }
 
 }  // namespace velmar::presentation

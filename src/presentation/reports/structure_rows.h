@@ -38,7 +38,11 @@ struct StructureRow {
 /// page; of a facade the opaque part and its components. Nothing before a choice.
 std::vector<StructureRow> StructureRowsOf(const elements::Setup& setup, const Words& words);
 
-/// "name: description", or the one that is not empty.
+/// What a material's description says of it: the first sentence, without the remarks of the database behind
+/// it and without its full stop.
+std::string WithoutRemarks(const std::string& description);
+
+/// "name: description", or the one that is not empty. A layer's description is without remarks.
 std::string FullName(const StructureRow& row);
 
 }  // namespace velmar::presentation

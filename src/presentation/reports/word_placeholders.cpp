@@ -26,26 +26,32 @@ std::string WithoutUnit(const std::string& heading) {
   return unit == std::string::npos ? heading : heading.substr(0, unit);
 }
 
+/// What the program composed; names and texts that somebody typed are none of it.
+std::string Set(const ReportRecord& record, const std::string& text) {
+  return ForPaper(text, record.language);
+}
+
 void AddBands(const ReportRecord& record, Placeholders& values) {
   for (std::size_t band = 0; band < record.bands.size(); ++band) {
     const std::string number = std::to_string(band);
-    values["P1_RIS" + number] = FormatLevel(record.bands[band].level_db);
+    values["P1_RIS" + number] = Set(record, FormatLevel(record.bands[band].level_db));
     values["P1_RIF" + number] = record.bands[band].reference;
   }
 }
 
 Placeholders HeadingValues(const StructureRow& row) { return {{"P2_GRUPPO", row.name}}; }
 
-Placeholders RowValues(const StructureRow& row) {
+Placeholders RowValues(const ReportRecord& record, const StructureRow& row) {
+  const bool composed = row.kind == StructureKind::kWords;
   return {{"P2_NUMERO", row.number > 0 ? std::to_string(row.number) : std::string()},
-          {"P2_STRATO", FullName(row)},
-          {"P2_NOME", row.name},
+          {"P2_STRATO", composed ? Set(record, row.name) : FullName(row)},
+          {"P2_NOME", composed ? Set(record, row.name) : row.name},
           {"P2_DESCRIZIONE", row.description},
-          {"P2_SPESSORE", OrDash(ThicknessText(row))},
-          {"P2_MPRIMO", OrDash(Number(row.mass_kg_m2, kMassDecimals))},
-          {"P2_RW", OrDash(row.rating)},
-          {"P2_AREA", OrDash(row.area)},
-          {"P2_PERCENTUALEAREA", OrDash(row.share)},
+          {"P2_SPESSORE", Set(record, OrDash(ThicknessText(row)))},
+          {"P2_MPRIMO", Set(record, OrDash(Number(row.mass_kg_m2, kMassDecimals)))},
+          {"P2_RW", Set(record, OrDash(row.rating))},
+          {"P2_AREA", Set(record, OrDash(row.area))},
+          {"P2_PERCENTUALEAREA", Set(record, OrDash(row.share))},
           {"P2_NOTA", row.note}};
 }
 
@@ -58,35 +64,42 @@ std::string ThicknessText(const StructureRow& row) {
 }
 
 Placeholders TextPlaceholders(const ReportRecord& record) {
-  const std::string thickness = record.totals ? FormatShortest(record.totals->thickness_mm) : std::string();
-  const std::string mass = Number(record.surface_mass_kg_m2, kMassDecimals);
+  const std::string thickness =
+      Set(record, record.totals ? FormatShortest(record.totals->thickness_mm) : std::string());
+  const std::string mass = Set(record, Number(record.surface_mass_kg_m2, kMassDecimals));
   Placeholders values = {
       {"P1_TITOLO", record.title},
       {"P1_TIPOISOLAMENTO", record.insulation},
       {"CODICE_ALLEGATO", OrDash(record.information[elements::kAttachmentRow].value)},
-      {"P1_DESCRIZIONE_ELEMENTO", OrDash(record.description)},
+      {"P1_DESCRIZIONE_ELEMENTO", Set(record, OrDash(record.description))},
       {"P1_NOTE", OrDash(record.information[elements::kNotesRow].value)},
       {"P1_TIPO_COMP", record.kind_of_element},
       {"P1_TIPO_ELEMENTO", record.element_type},
       {"P1_TIPO_TEORIA", record.theory},
-      {"P1_RESULT1", record.result_line},
-      {"P1_RESULT2", record.improvement_line},
-      {"P1_INDICI", record.further_line},
-      {"P1_RISULTANTE", record.resulting_line},
-      {"P1_NOTA_RISULTATO", record.rating_note},
-      {"P1_MESSAGGI", record.messages},
+      {"P1_RESULT1", Set(record, record.result_line)},
+      {"P1_RESULT2", Set(record, record.improvement_line)},
+      {"P1_INDICI", Set(record, record.further_line)},
+      {"P1_RISULTANTE", Set(record, record.resulting_line)},
+      {"P1_NOTA_RISULTATO", Set(record, record.rating_note)},
+      {"P1_MESSAGGI", Set(record, record.messages)},
       {"P1_PROGETTO", record.footer},
       {"P1_TECNICO", record.engineer},
       {"P1_DATA", record.date},
+      {"STUDIO_NOME", record.letterhead.name},
+      {"STUDIO_INDIRIZZO", record.letterhead.address},
+      {"STUDIO_PIEDE", record.letterhead.footer},
+      {"STUDIO_ALBO", record.letterhead.register_number},
+      {"STUDIO_LOGO", ""},
+      {"STUDIO_FIRMA", ""},
       {"P1_TIPORIS", WithoutUnit(record.band_heading)},
       {"P1_NORMA", record.standard},
       {"P1_DATILABORATORIO", record.laboratory_data},
       {"P1_DATIOPERA", record.in_situ_data},
       {"P1_RISULTATOGRAFICO", ""},
       {"P2_DISEGNO", ""},
-      {"P1_LARGHEZZA", OrDash(record.width)},
-      {"P1_ALTEZZA", OrDash(record.height)},
-      {"P1_AREA", OrDash(record.area)},
+      {"P1_LARGHEZZA", Set(record, OrDash(record.width))},
+      {"P1_ALTEZZA", Set(record, OrDash(record.height))},
+      {"P1_AREA", Set(record, OrDash(record.area))},
       {"P2_PARETEBASE", OrDash(record.base_element)},
       {"P2_TIPOPENDINO", record.hanger},
       {"P2_SPESSORE", OrDash(thickness)},
@@ -105,7 +118,8 @@ RowPattern StructurePattern(const ReportRecord& record) {
                      .heading_key = "P2_GRUPPO"};
   for (const StructureRow& row : record.structure) {
     const bool heading = row.kind == StructureKind::kHeading;
-    pattern.rows.push_back({.heading = heading, .values = heading ? HeadingValues(row) : RowValues(row)});
+    pattern.rows.push_back(
+        {.heading = heading, .values = heading ? HeadingValues(row) : RowValues(record, row)});
   }
   return pattern;
 }

@@ -19,7 +19,8 @@ void Settle(WordDocument& document, bool keep, const BlockMarkers& block, std::s
   document.RemoveMarker(block.end);
 }
 
-std::vector<WordContent> DataContent(const CalculationData& data) {
+std::vector<WordContent> DataContent(const CalculationData& told, DocumentLanguage language) {
+  const CalculationData data = ForPaper(told, language);
   using Kind = WordContent::Kind;
   std::vector<WordContent> content;
   if (data.title.empty()) return content;
@@ -38,6 +39,14 @@ std::vector<WordContent> DataContent(const CalculationData& data) {
 }
 
 }  // namespace
+
+std::string WithLanguage(std::string_view name, std::optional<DocumentLanguage> language) {
+  const std::size_t point = name.rfind('.');
+  const char* behind = !language || *language == DocumentLanguage::kItalian ? ""
+                       : *language == DocumentLanguage::kEnglish            ? "_en"
+                                                                            : "_it_en";
+  return std::string(name.substr(0, point)) + behind + std::string(name.substr(point));
+}
 
 std::string_view WordTemplateName(elements::Family family) {
   switch (family) {
@@ -65,8 +74,11 @@ WrittenReport WriteWordReport(std::string_view docx, const ReportRecord& record)
   document.RepeatRows(StructurePattern(record));
   if (record.chart) document.ReplaceByPicture("P1_RISULTATOGRAFICO", *record.chart);
   if (record.section.wide) document.ReplaceByPicture("P2_DISEGNO", *record.section.wide);
-  document.ReplaceByContent("P3_DATI", DataContent(record.data));
+  if (record.logo) document.ReplaceByPicture("STUDIO_LOGO", *record.logo);
+  if (record.signature) document.ReplaceByPicture("STUDIO_FIRMA", *record.signature);
+  document.ReplaceByContent("P3_DATI", DataContent(record.data, record.language));
   document.Replace(TextPlaceholders(record));
+  document.SetProperties(record.properties);
   report.unknown_placeholders = document.Left();
   report.bytes = document.Bytes();
   return report;

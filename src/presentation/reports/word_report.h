@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <set>
 #include <string>
 #include <string_view>
@@ -12,6 +13,10 @@ namespace velmar::presentation {
 
 /// The file name of the Word template for calculations of `family`.
 std::string_view WordTemplateName(elements::Family family);
+
+/// The file name of template `name` for documents in `language`: "Formato_drav_en.xlsx", "..._it_en.xlsx"; as
+/// it is for Italian and without a language.
+std::string WithLanguage(std::string_view name, std::optional<DocumentLanguage> language);
 
 /// A report made of a template.
 struct WrittenReport {

@@ -90,27 +90,30 @@ std::vector<double> ScheduleWeights() {
   return {1.1, 5.2, 2.2, 1.1, 1.3, 1.2, 0.7, 0.7, 1.2, 0.7, 1.4, 1.6, 1.8};
 }
 
-std::vector<std::string> ScheduleCells(const ScheduleElement& element) {
+std::vector<std::string> ScheduleCells(const ScheduleElement& element, DocumentLanguage language) {
   const auto rating = [&](std::optional<double> value) {
     return value ? FormatLevel(value) + (element.outside_range ? kOutsideMark : "") : std::string(kNothing);
   };
   std::string description = element.title;
   for (const std::string* further : {&element.description, &element.remark}) {
-    if (!further->empty()) description += "\n" + *further;
+    if (!further->empty()) description += "\n" + ForPaper(*further, language);
   }
-  return {element.code,
-          description,
-          element.drawing ? std::string() : kNothing,
-          Shortest(element.thickness_mm, 1),
-          element.mass_kg_m2 ? FormatFixed(*element.mass_kg_m2, 1) : kNothing,
-          rating(element.rw_db),
-          OrDash(FormatTerm(element.c_db)),
-          OrDash(FormatTerm(element.ctr_db)),
-          rating(element.lnw_db),
-          OrDash(FormatTerm(element.ci_db)),
-          OrDash(FormatLevel(element.improvement_db)),
-          OrDash(element.requirement),
-          OrDash(element.verdict)};
+  std::vector<std::string> cells = {element.code,
+                                    description,
+                                    element.drawing ? std::string() : kNothing,
+                                    Shortest(element.thickness_mm, 1),
+                                    element.mass_kg_m2 ? FormatFixed(*element.mass_kg_m2, 1) : kNothing,
+                                    rating(element.rw_db),
+                                    OrDash(FormatTerm(element.c_db)),
+                                    OrDash(FormatTerm(element.ctr_db)),
+                                    rating(element.lnw_db),
+                                    OrDash(FormatTerm(element.ci_db)),
+                                    OrDash(FormatLevel(element.improvement_db)),
+                                    OrDash(element.requirement),
+                                    OrDash(element.verdict)};
+  for (std::size_t i = kScheduleDrawingColumn + 1; i < cells.size(); ++i)
+    cells[i] = ForPaper(cells[i], language);
+  return cells;
 }
 
 ScheduleElement ScheduleElementOf(const elements::Setup& setup, const elements::ResultSet& result,

@@ -9,6 +9,7 @@
 #include "elements/setup.h"
 #include "presentation/documents/picture.h"
 #include "presentation/reports/report_record.h"
+#include "presentation/texts/paper_text.h"
 #include "presentation/texts/words.h"
 
 namespace velmar::presentation {
@@ -48,6 +49,7 @@ struct ScheduleCover {
 struct Schedule {
   ScheduleCover cover{};
   std::vector<ScheduleElement> elements{};
+  DocumentLanguage language = DocumentLanguage::kItalian;  ///< of numbers
 };
 
 /// The words that a report of several projects sets, in the language of the user.
@@ -65,10 +67,10 @@ struct ScheduleWords {
 };
 ScheduleWords ScheduleWordsOf(const Words& words);
 
-/// The table's heads, and its cells for a project with a result, as paper shows them: levels with one decimal
-/// and a comma. The drawing stands in column kScheduleDrawingColumn, whose text is empty.
+/// The table's heads, and its cells for a project with a result, as paper shows them: levels with one decimal. The drawing stands in column kScheduleDrawingColumn, whose text is empty.
 std::vector<std::string> ScheduleHeads(const Words& words);
-std::vector<std::string> ScheduleCells(const ScheduleElement& element);
+std::vector<std::string> ScheduleCells(const ScheduleElement& element,
+                                       DocumentLanguage language = DocumentLanguage::kItalian);
 inline constexpr std::size_t kScheduleDrawingColumn = 2;
 inline constexpr std::size_t kScheduleColumns = 13;
 /// Of the columns' widths.

@@ -46,7 +46,7 @@ std::vector<WordContent> TableContent(const Schedule& schedule, const Words& wor
     const ScheduleElement& element = schedule.elements[i];
     if (!element.failure.empty()) continue;
     outside |= element.outside_range;
-    table.table.rows.push_back(ScheduleCells(element));
+    table.table.rows.push_back(ScheduleCells(element, schedule.language));
     table.placeholders.push_back(element.drawing ? DrawingName(i) : std::string());
     if (element.drawing) drawings.emplace(DrawingName(i), *element.drawing);
   }

@@ -310,12 +310,12 @@ DataTable BandTable(const std::vector<RatedPart>& parts, const Words& words) {
 }
 
 void AddProvenance(const Provenance& provenance, const Words& words, std::vector<DataField>& fields) {
-  if (!provenance.program.empty()) fields.push_back({words(kProgramCaptionRow), provenance.program});
-  if (!provenance.date.empty()) fields.push_back({words(kDateCaptionRow), provenance.date});
+  if (!provenance.program.empty()) fields.push_back({words(kProgramCaptionRow), provenance.program, true});
+  if (!provenance.date.empty()) fields.push_back({words(kDateCaptionRow), provenance.date, true});
   if (provenance.fingerprint.empty()) return;
   fields.push_back({words(kProjectFileCaptionRow),
-                    provenance.project_file.empty() ? words(kNotSavedRow) : provenance.project_file});
-  fields.push_back({words(kFingerprintCaptionRow), provenance.fingerprint});
+                    provenance.project_file.empty() ? words(kNotSavedRow) : provenance.project_file, true});
+  fields.push_back({words(kFingerprintCaptionRow), provenance.fingerprint, true});
 }
 
 constexpr Field kLastField = Field::kTracks;

@@ -20,6 +20,7 @@ struct MaterialSources {
 struct Provenance {
   std::string program{};       ///< with its version; empty: not told
   std::string date{};          ///< of the document
+  std::string iso_date{};      ///< the same as "2026-11-22"; empty: not told
   std::string project_file{};  ///< its name without a folder; empty for a project that was never saved
   std::string fingerprint{};  ///< SHA-256, in hexadecimal, of what saving the project writes; empty: not told
   MaterialSources sources{};
@@ -29,6 +30,7 @@ struct Provenance {
 struct DataField {
   std::string caption{};
   std::string value{};
+  bool as_it_stands = false;  ///< a name that paper must not set anew
 };
 
 /// A table with heads; every row has as many cells as there are heads.

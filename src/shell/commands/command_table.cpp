@@ -13,6 +13,7 @@
 #include "shell/commands/report_commands.h"
 #include "shell/commands/run_command.h"
 #include "shell/commands/structure_commands.h"
+#include "shell/documents/studio_profile_dialog.h"
 #include "shell/project/dimension_dialog.h"
 #include "shell/project/project_files.h"
 #include "shell/project/project_information_dialog.h"
@@ -44,6 +45,13 @@ template <typename Window>
 void Dialog(CommandSet& commands) {
   const Desk& desk = commands.At();
   Window(desk.open, desk.speech.words, &desk.window).exec();
+}
+
+void ShowStudioProfile(CommandSet& commands) {
+  const Desk& desk = commands.At();
+  if (desk.documents == nullptr)
+    return desk.speech.boxes.tell(Tone::kInformation, Text(desk.speech.words, kNoWindowRow));
+  StudioProfileDialog(*desk.documents, desk.speech, &desk.window).exec();
 }
 
 template <ElementButton kind>
@@ -111,7 +119,7 @@ constexpr std::array<Command, kCommandCount> kCommands = {{
             Of<&Desk::materials, &MaterialCommands::ShowList>},
     Command{kCompareBeside,      0,  "confronta_risultati",       kCompareMenuRow, {}, "compare",    "F7",     N::kSpectrum,
             Of<&Desk::structures, &StructureCommands::Compare>},
-    Command{kTutorial,           0,  "tutorial",                  kTutorialMenuRow, {}, "",           "F1",     N::kNothing,
+    Command{kTutorial,           0,  "tutorial",                  kTutorialMenuRow, {}, "",           "",       N::kNothing,
             Of<&Desk::help, &HelpCommands::ShowManual>},
     Command{kContact,            0,  "Contatta_m",                kContactMenuRow, {}, "",           "",       N::kNothing,
             Of<&Desk::help, &HelpCommands::Contact>},
@@ -119,6 +127,12 @@ constexpr std::array<Command, kCommandCount> kCommands = {{
             Of<&Desk::help, &HelpCommands::ShowAbout>},
     Command{kChoosePrinter,      0,  "Scegli_stampante",          kChoosePrinterMenuRow, {}, "",           "",       N::kNothing,
             Of<&Desk::paper, &PaperCommands::ChoosePrinter>},
+    Command{kStudioProfile,      0,  "profilo_studio",            kStudioMenuRow, {}, "",           "",       N::kNothing,
+            ShowStudioProfile},
+    Command{kSaveAsTemplate,     0,  "salva_come_modello",        kSaveAsTemplateRow, {}, "",           "",       N::kCalculation,
+            [](CommandSet& all) { all.At().files.KeepAsTemplate(); }},
+    Command{kHelpHere,           0,  "aiuto_qui",                 kHelpMenuRow, {}, "",           "F1",     N::kNothing,
+            Of<&Desk::help, &HelpCommands::ShowHelp>},
     Command{kReportProjects,     0,  "relazione_progetti",        kScheduleMenuRow, {}, "",           "",       N::kNothing,
             Of<&Desk::reports, &ReportCommands::ReportProjects>},
     Command{kCheckTemplate,      0,  "controlla_modello",         kCheckTemplateMenuRow, {}, "",           "",       N::kNothing,

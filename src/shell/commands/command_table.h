@@ -45,6 +45,9 @@ enum class CommandId {
   kContact,
   kAbout,
   kChoosePrinter,
+  kStudioProfile,
+  kSaveAsTemplate,
+  kHelpHere,
   kReportProjects,
   kCheckTemplate,
 };

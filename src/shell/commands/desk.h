@@ -11,9 +11,11 @@ namespace velmar::shell {
 class HelpCommands;
 class MaterialCommands;
 class OpenTable;
+class PageContext;
 class PaperCommands;
 class ProjectFiles;
 class ReportCommands;
+struct DocumentServices;
 class ResultsPanel;
 class StructureCommands;
 
@@ -23,6 +25,7 @@ struct Desk {
   QWidget& window;  ///< above which boxes and windows open
   calculation::OpenCalculation& open;
   const Speech& speech;
+  const PageContext& pages;
   ProjectFiles& files;
   OpenTable& table;
   const ResultsPanel& results;
@@ -32,6 +35,7 @@ struct Desk {
   MaterialCommands* materials = nullptr;
   PaperCommands* paper = nullptr;
   ReportCommands* reports = nullptr;
+  DocumentServices* documents = nullptr;
 };
 
 }  // namespace velmar::shell

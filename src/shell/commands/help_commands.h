@@ -1,9 +1,11 @@
 #pragma once
 
 #include <QObject>
+#include <QPointer>
 #include <QString>
 #include <filesystem>
 #include <functional>
+#include <string_view>
 
 #include "shell/windows/boxes.h"
 
@@ -11,9 +13,13 @@ class QWidget;
 
 namespace velmar::shell {
 
+class ManualWindow;
+struct Desk;
+
 /// What the program hands to the system, and where it finds it.
 struct HelpPlaces {
-  std::filesystem::path manual{};
+  std::filesystem::path manual{};       ///< for paper
+  std::filesystem::path manual_text{};  ///< for the window
   std::filesystem::path maintenance_program{};
   QString website{};  ///< empty: the product names none
   QString contact{};  ///< address behind "Contatta"; empty: none
@@ -29,14 +35,13 @@ struct HelpServices {
 };
 
 /// The commands that reach outside: manual, contact, about box, maintenance program. What is not there is
-/// told.
+/// told. F1 in a window of its own opens the manual at its chapter; in the main window it is a command.
 class HelpCommands : public QObject {
   Q_OBJECT
  public:
   /// @param speech and what follows outlive this object
   HelpCommands(const Speech& speech, const HelpServices& services, const HelpPlaces& places,
-               QObject* parent = nullptr)
-      : QObject(parent), speech_(speech), services_(services), places_(places) {}
+               QObject* parent = nullptr);
 
   /// Whether there is an address to write to.
   bool HasContact() const { return !places_.contact.isEmpty(); }
@@ -44,18 +49,24 @@ class HelpCommands : public QObject {
   bool HasMaintenance() const;
 
  public slots:
+  /// Hands the manual for paper to the system.
   void ShowManual(QWidget* parent);
+  /// Opens the manual at the chapter on what the cursor stands in.
+  void ShowHelp(const Desk& desk);
   void Contact(QWidget* parent);
   void ShowAbout(QWidget* parent);
   void StartMaintenance(QWidget* parent);
 
  private:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+  void ShowChapter(std::string_view anchor, QWidget* parent);
   void TellMissing(MessageRow row, const QString& what) const;
   void OpenAddress(const QString& address) const;
 
   const Speech& speech_;
   const HelpServices& services_;
   const HelpPlaces& places_;
+  QPointer<ManualWindow> manual_{};
 };
 
 }  // namespace velmar::shell

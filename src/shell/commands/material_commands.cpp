@@ -11,6 +11,7 @@
 #include "shell/fields/put_material.h"
 #include "shell/material_editors/edit_material.h"
 #include "shell/materials/store_source.h"
+#include "shell/windows/phrases.h"
 
 namespace velmar::shell {
 
@@ -59,12 +60,11 @@ void MaterialCommands::Duplicate(QWidget* parent, const LayerPick& pick, const P
   std::optional<materials::CopiedMaterial> copy;
   if (!own_.tools.Try([&] { copy = materials::CopyMaterial(store_, family, row.listed); })) return;
   if (!copy) {
-    own_.tools.tell(own_.tools.Text(kEditedMaterialGoneRow) + ' ' + ToQt(row.listed));
+    own_.tools.Tell(own_.tools.Text(kEditedMaterialGoneRow) + ' ' + FromUtf8(row.listed));
     return;
   }
-  const MaterialListWindow::Listener listener = MakeListener();
   const auto take = [&](const MaterialChange& change) {
-    listener.changed(change);
+    TellChange(change);
     open_.Edit([&](elements::Setup& setup) {
       calculation::PutMaterial(setup, pick.group, pick.row, change.name, pages.materials);
       if (!row.thickness_text.empty())
@@ -79,7 +79,19 @@ void MaterialCommands::Duplicate(QWidget* parent, const LayerPick& pick, const P
 void MaterialCommands::ShowList(QWidget* parent) { Open(parent, std::nullopt); }
 
 void MaterialCommands::Open(QWidget* parent, std::optional<MaterialPick> wanted) {
-  auto* window = new MaterialListWindow(own_.tools, source_, std::move(wanted), MakeListener(), parent);
+  const auto used = [this](MaterialFamily family, const std::string& name) {
+    return LayersThatHold(family, name);
+  };
+  auto* window = new MaterialListWindow(own_.tools, source_, std::move(wanted), used, parent);
+  connect(window, &MaterialListWindow::Changed, this, &MaterialCommands::TellChange);
+  connect(window, &MaterialListWindow::Removed, this, [this](MaterialFamily family, const std::string& name) {
+    emit Removed(family, name);
+    if (tree_) tree_->Refresh(family);
+  });
+  connect(window, &MaterialListWindow::Refreshed, this, [this] {
+    emit Reread();
+    if (tree_) tree_->Refresh();
+  });
   window->setAttribute(Qt::WA_DeleteOnClose);
   window->setWindowModality(Qt::WindowModal);
   window->show();
@@ -100,32 +112,21 @@ void MaterialCommands::ShowTree(QWidget* parent) {
   tree_->activateWindow();
 }
 
-MaterialListWindow::Listener MaterialCommands::MakeListener() {
-  MaterialListWindow::Listener listener;
-  listener.changed = [this](const MaterialChange& change) {
-    emit Changed(change);
-    if (tree_) tree_->Refresh(change.family);
-  };
-  listener.removed = [this](MaterialFamily family, const std::string& name) {
-    emit Removed(family, name);
-    if (tree_) tree_->Refresh(family);
-  };
-  listener.refreshed = [this] {
-    emit Reread();
-    if (tree_) tree_->Refresh();
-  };
-  listener.used = [this](MaterialFamily family, const std::string& name) {
-    std::vector<int> numbers;
-    if (!open_.Setup().calculation) return numbers;
-    for (const elements::Part& part : PartsOf(open_.Setup())) {
-      for (const elements::Layer& layer : part.layers) {
-        const bool same = layer.group && RowOf(*layer.group).family == family && SameName(layer.name, name);
-        if (same) numbers.push_back(layer.number);
-      }
+void MaterialCommands::TellChange(const MaterialChange& change) {
+  emit Changed(change);
+  if (tree_) tree_->Refresh(change.family);
+}
+
+std::vector<int> MaterialCommands::LayersThatHold(MaterialFamily family, const std::string& name) const {
+  std::vector<int> numbers;
+  if (!open_.Setup().calculation) return numbers;
+  for (const elements::Part& part : PartsOf(open_.Setup())) {
+    for (const elements::Layer& layer : part.layers) {
+      const bool same = layer.group && RowOf(*layer.group).family == family && SameName(layer.name, name);
+      if (same) numbers.push_back(layer.number);
     }
-    return numbers;
-  };
-  return listener;
+  }
+  return numbers;
 }
 
 }  // namespace velmar::shell

@@ -61,7 +61,9 @@ class MaterialCommands : public QObject {
   void Open(QWidget* parent, std::optional<MaterialPick> wanted);
   /// The material of a layer row once more as one of the user's own, in the row with the row's thickness.
   void Duplicate(QWidget* parent, const LayerPick& pick, const PageServices& pages);
-  MaterialListWindow::Listener MakeListener();
+  void TellChange(const MaterialChange& change);
+  /// The numbers of the layers of the open calculation that hold `name`.
+  std::vector<int> LayersThatHold(elements::MaterialFamily family, const std::string& name) const;
 
   calculation::OpenCalculation& open_;
   OwnTools own_;

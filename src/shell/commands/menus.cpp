@@ -9,6 +9,8 @@
 #include "shell/commands/calculation_menu.h"
 #include "shell/commands/command_set.h"
 #include "shell/commands/help_commands.h"
+#include "shell/documents/language_menu.h"
+#include "shell/project/project_files.h"
 #include "shell/windows/phrases.h"
 
 namespace velmar::shell {
@@ -28,18 +30,21 @@ QMenu* AddMenu(QMenuBar& bar, const presentation::Words& words, MessageRow row, 
 
 }  // namespace
 
-QMenu* FillMenuBar(QMenuBar& bar, const CommandSet& commands, const CalculationActions& calculations,
-                   const presentation::Words& words) {
+OpenMenus FillMenuBar(QMenuBar& bar, const CommandSet& commands, const CalculationActions& calculations,
+                      const presentation::Words& words) {
   QMenu* file = AddMenu(bar, words, kFileMenuRow, "File");
   Add(*file, commands, {kNewProject, kOpenProject});
   QMenu* recent = file->addMenu(Text(words, kRecentMenuRow));
   recent->setObjectName("Recenti");
-  Add(*file, commands, {kSaveProject, kSaveProjectAs, kStoreResult});
+  Add(*file, commands, {kSaveProject, kSaveProjectAs, kSaveAsTemplate, kStoreResult});
+  commands.Of(kSaveAsTemplate)->setVisible(commands.At().files.OwnTemplates().AreKept());
   file->addSeparator();
   Add(*file, commands,
       {kExportWord, kExportExcel, kReportProjects, kCheckTemplate, kPrint, kPrintPreview, kChoosePrinter});
+  if (DocumentServices* documents = commands.At().documents)
+    file->addMenu(new LanguageMenu(*documents, words, file));
   file->addSeparator();
-  Add(*file, commands, {kProjectInformation});
+  Add(*file, commands, {kProjectInformation, kStudioProfile});
   file->addSeparator();
   Add(*file, commands, {kExit});
 
@@ -61,13 +66,13 @@ QMenu* FillMenuBar(QMenuBar& bar, const CommandSet& commands, const CalculationA
   Add(*calculation, commands, {kRun, kCompareBeside, kShowTable});
 
   QMenu* help = AddMenu(bar, words, kHelpMenuRow, "help");
-  Add(*help, commands, {kTutorial, kContact});
+  Add(*help, commands, {kHelpHere, kTutorial, kContact});
   const HelpCommands* reach = commands.At().help;
   commands.Of(kContact)->setVisible(reach != nullptr && reach->HasContact());
   commands.Of(kMaintenance)->setVisible(reach != nullptr && reach->HasMaintenance());
   help->addSeparator();
   Add(*help, commands, {kAbout});
-  return recent;
+  return {recent, calculation};
 }
 
 }  // namespace velmar::shell

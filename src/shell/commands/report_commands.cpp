@@ -2,6 +2,7 @@
 
 #include <QDir>
 #include <QFileDialog>
+#include <QStringList>
 #include <system_error>
 
 #include "documents/template_file.h"
@@ -27,30 +28,48 @@ namespace {
 
 enum class Kind { kWord, kExcel };
 
+/// What the user is told of a document that was written without something.
+using LeftOut = QStringList;
+
+application::DocumentStyle StyleOn(const DocumentServices& documents, const Desk& desk, LeftOut& left_out) {
+  return application::StyleOf(documents.places, documents.language, desk.speech.words,
+                              [&](const Message& message) { left_out << Text(desk.speech.words, message); });
+}
+
 /// The record of the result that stands, with the chart as it is shown.
-presentation::ReportRecord RecordOf(const Desk& desk, const presentation::MaterialSources& sources) {
+presentation::ReportRecord RecordOf(const Desk& desk, const DocumentServices& documents,
+                                    const application::DocumentStyle& style) {
   const elements::Setup& setup = desk.open.Setup();
   const elements::ResultSet& result = *desk.open.Result();
   const calculation::Totals& totals = desk.open.CurrentTotals();
   const std::optional<presentation::CurveChart>& shown = desk.results.Chart();
-  presentation::ReportRecord record = presentation::ReportRecordOf(
-      setup, result, {totals.thickness_mm, totals.surface_mass_kg_m2}, desk.speech.words,
-      {.chart = presentation::ReportChartOf(setup, result, desk.speech.words, shown),
-       .section = presentation::ReportSectionOf(setup, desk.speech.words)},
-      shown ? presentation::ComparedStructures{shown->laboratory_name, shown->in_situ_name}
-            : presentation::ComparedStructures{},
-      presentation::ProvenanceOf(storage::WriteProject(setup), desk.files.File().filename().string(),
-                                 sources));
-  AddConfidence(record, validation::ConfidenceOf(setup, result, desk.accuracy.Get()), desk.speech.words);
+  const presentation::ReportPictures pictures{
+      .chart = presentation::ReportChartOf(setup, result, style.Captions(), shown),
+      .section = presentation::ReportSectionOf(setup, style.Captions(), style.language)};
+  const auto record_in = [&](const elements::Setup& told, const presentation::Words& words,
+                             elements::DocumentLanguage language) {
+    presentation::ReportRecord record = presentation::ReportRecordOf(
+        told, result, {totals.thickness_mm, totals.surface_mass_kg_m2}, words, pictures,
+        shown ? presentation::ComparedStructures{shown->laboratory_name, shown->in_situ_name}
+              : presentation::ComparedStructures{},
+        presentation::ProvenanceOf(storage::WriteProject(setup), desk.files.File().filename().string(),
+                                   documents.sources, language));
+    record.language = language;
+    AddConfidence(record, validation::ConfidenceOf(setup, result, desk.accuracy.Get()), words);
+    return record;
+  };
+  presentation::ReportRecord record = application::InLanguages(style, setup, record_in);
+  PutStudio(record, style.studio.words, style.studio.logo, style.studio.signature);
   return record;
 }
 
 /// The template's path; one that is missing is told.
-std::optional<std::filesystem::path> Template(Kind kind, const std::filesystem::path& templates,
-                                              const Desk& desk) {
+std::optional<std::filesystem::path> Template(Kind kind, const DocumentServices& documents,
+                                              const application::DocumentStyle& style, const Desk& desk) {
   const elements::Family family = RowOf(*desk.open.Setup().calculation).family;
-  std::filesystem::path file = templates / (kind == Kind::kWord ? presentation::WordTemplateName(family)
-                                                                : presentation::kExcelTemplateName);
+  std::filesystem::path file = application::TemplateFile(
+      documents.places,
+      kind == Kind::kWord ? presentation::WordTemplateName(family) : presentation::kExcelTemplateName, style);
   std::error_code error;
   if (std::filesystem::is_regular_file(file, error)) return file;
   desk.speech.boxes.tell(Tone::kCritical,
@@ -87,17 +106,19 @@ QString Write(Kind kind, const std::filesystem::path& pattern, const presentatio
   return told;
 }
 
-void Export(Kind kind, const std::filesystem::path& templates, const presentation::MaterialSources& sources,
-            const Desk& desk) {
+void Export(Kind kind, const DocumentServices& documents, const Desk& desk) {
   if (!desk.open.Setup().calculation || !desk.open.Result()) return;
-  const std::optional<std::filesystem::path> pattern = Template(kind, templates, desk);
+  LeftOut left_out;
+  const application::DocumentStyle style = StyleOn(documents, desk, left_out);
+  const std::optional<std::filesystem::path> pattern = Template(kind, documents, style, desk);
   if (!pattern) return;
   const std::optional<std::filesystem::path> file = Target(kind, desk);
   if (!file) return;
   try {
-    const QString told = Write(kind, *pattern, RecordOf(desk, sources), *file, desk.speech.words);
+    const QString told = Write(kind, *pattern, RecordOf(desk, documents, style), *file, desk.speech.words);
     desk.files.DocumentWritten(*file);
-    desk.speech.boxes.tell_written(told, *file);
+    left_out.prepend(told);
+    desk.speech.boxes.tell_written(left_out.join('\n'), *file);
   } catch (const Failure& failure) {
     desk.speech.boxes.tell(Tone::kCritical, Text(desk.speech.words, failure.UserMessage()));
   } catch (const std::exception&) {
@@ -107,16 +128,16 @@ void Export(Kind kind, const std::filesystem::path& templates, const presentatio
 
 }  // namespace
 
-void ReportCommands::ExportWord(const Desk& desk) { Export(Kind::kWord, templates_, sources_, desk); }
+void ReportCommands::ExportWord(const Desk& desk) { Export(Kind::kWord, documents_, desk); }
 
-void ReportCommands::ExportExcel(const Desk& desk) { Export(Kind::kExcel, templates_, sources_, desk); }
+void ReportCommands::ExportExcel(const Desk& desk) { Export(Kind::kExcel, documents_, desk); }
 
 void ReportCommands::ReportProjects(const Desk& desk) {
   const auto tools = [this, &desk] {
     return documents::ScheduleTools{.words = desk.speech.words,
                                     .materials = materials_,
-                                    .sources = sources_,
-                                    .templates = templates_,
+                                    .sources = documents_.sources,
+                                    .places = documents_.places,
                                     .accuracy = desk.accuracy.Get()};
   };
   const auto choose = [&desk](const FileQuestion& question) {
@@ -127,6 +148,7 @@ void ReportCommands::ReportProjects(const Desk& desk) {
       {.tools = tools,
        .choose_projects = choose_projects_ ? choose_projects_ : choose,
        .propose = [&desk](const QString& ending) { return desk.files.ProposeDocument(ending); },
+       .language = documents_.language,
        .written = [&desk](const std::filesystem::path& file) { desk.files.DocumentWritten(file); }},
       &desk.window);
   if (!desk.files.File().empty()) dialog.Add({FromUtf8(desk.files.File().string())});
@@ -137,7 +159,7 @@ void ReportCommands::CheckTemplate(const Desk& desk) {
   const QString chosen = desk.speech.boxes.choose_file_to_open(
       {.title = Text(desk.speech.words, kCheckTemplateMenuRow).remove(QChar(0x2026)),
        .filter = Text(desk.speech.words, kTemplateFilesRow) + " (*.docx *.xlsx)",
-       .start = FromUtf8(templates_.string())});
+       .start = FromUtf8(documents_.places.templates.string())});
   if (chosen.isEmpty()) return;
   try {
     const Message findings = documents::CheckTemplateFile(ToUtf8(chosen));

@@ -2,13 +2,12 @@
 
 #include <QObject>
 #include <QStringList>
-#include <filesystem>
 #include <functional>
 #include <utility>
 
 #include "elements/material_record.h"
-#include "presentation/texts/calculation_data.h"
 #include "shell/commands/desk.h"
+#include "shell/documents/document_services.h"
 
 namespace velmar::shell {
 
@@ -17,12 +16,10 @@ namespace velmar::shell {
 class ReportCommands : public QObject {
   Q_OBJECT
  public:
-  /// @param templates folder of the templates
-  /// @param sources tells where the values of materials come from
+  /// @param documents outlives the commands
   /// @param materials of projects that are opened for a report of several
-  explicit ReportCommands(std::filesystem::path templates, presentation::MaterialSources sources = {},
-                          elements::MaterialLookup materials = {})
-      : templates_(std::move(templates)), sources_(std::move(sources)), materials_(std::move(materials)) {}
+  explicit ReportCommands(const DocumentServices& documents, elements::MaterialLookup materials = {})
+      : documents_(documents), materials_(std::move(materials)) {}
 
   /// How project files are asked for; as it stands by the screen's dialog.
   void ChooseProjectsBy(std::function<QStringList(const FileQuestion&)> choose) {
@@ -38,8 +35,7 @@ class ReportCommands : public QObject {
   void CheckTemplate(const velmar::shell::Desk& desk);
 
  private:
-  std::filesystem::path templates_;
-  presentation::MaterialSources sources_;
+  const DocumentServices& documents_;
   elements::MaterialLookup materials_;
   std::function<QStringList(const FileQuestion&)> choose_projects_{};
 };

@@ -5,8 +5,8 @@
 #include <algorithm>
 
 #include "foundation/message_rows.h"
-#include "shell/commands/refused_field.h"
 #include "shell/fields/reveal.h"
+#include "shell/page_parts/page_context.h"
 #include "shell/windows/phrases.h"
 
 namespace velmar::shell {
@@ -60,8 +60,9 @@ void RunOpenCalculation(const Desk& desk) {
     if (std::find(asked.begin(), asked.end(), message) == asked.end())
       boxes.tell(Tone::kCritical, Text(words, message));
   }
-  if (outcome.refusal)
-    PointAt(desk.window, ControlOf(outcome.refusal->field), WordsOf(words, outcome.refusal->reason));
+  if (!outcome.refusal) return;
+  if (QWidget* field = desk.pages.ControlOf(outcome.refusal->field))
+    PointAt(field, WordsOf(words, outcome.refusal->reason));
 }
 
 }  // namespace velmar::shell

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "calculation/edits/facade_parts.h"
+#include "calculation/runs/facade_overview.h"
 #include "elements/catalogue.h"
 #include "foundation/failure.h"
 #include "foundation/message_rows.h"
@@ -80,17 +81,21 @@ std::optional<calculation::FacadePart> StructureCommands::Find(const std::string
 }
 
 void StructureCommands::Take(const ElementPick& pick, const calculation::FacadePart& part) {
-  open_.Edit([&](elements::Setup& setup) { TakePart(setup, pick.component, part); });
+  open_.Edit([&](elements::Setup& setup) {
+    while (setup.facade.Count() < pick.component) calculation::AddComponent(setup);
+    TakePart(setup, pick.component, part);
+  });
 }
 
 void StructureCommands::ShowSavedResults(QWidget* parent) {
-  ShowAndWait(new SavedResultsWindow(own_.tools, results_, {}, parent));
+  ShowAndWait(new SavedResultsWindow(own_.tools, results_, SavedResultsWindow::Purpose::kList, parent));
 }
 
 void StructureCommands::PickSavedResult(QWidget* parent, const ElementPick& pick) {
-  SavedResultsWindow::Listener listener;
-  listener.take = [this, pick](const calculation::FacadePart& part) { Take(pick, part); };
-  ShowAndWait(new SavedResultsWindow(own_.tools, results_, std::move(listener), parent));
+  auto* window = new SavedResultsWindow(own_.tools, results_, SavedResultsWindow::Purpose::kTake, parent);
+  connect(window, &SavedResultsWindow::Taken, this,
+          [this, pick](const calculation::FacadePart& part) { Take(pick, part); });
+  ShowAndWait(window);
 }
 
 void StructureCommands::PickMeasured(QWidget* parent, const ElementPick& pick) {
@@ -102,9 +107,7 @@ void StructureCommands::PickMeasured(QWidget* parent, const ElementPick& pick) {
 }
 
 void StructureCommands::ShowLibrary(QWidget* parent, structures::MeasuredTarget target) {
-  ShowAndWait(new MeasuredLibraryWindow(
-      own_.tools, library_, std::move(target),
-      {.open = speech_.boxes.choose_file_to_open, .save = speech_.boxes.choose_file_to_save}, parent));
+  ShowAndWait(new MeasuredLibraryWindow(own_.tools, library_, std::move(target), parent));
 }
 
 void StructureCommands::ShowAirborneData(QWidget* parent) {
@@ -136,8 +139,8 @@ void StructureCommands::Store(QWidget* /*parent*/) {
     storage::ResultsStore store(results_file_);
     storage::SaveStatus status{};
     RunBeside([&] { status = store.Save(storage::TableFor(RowOf(*setup.calculation).family), row); });
-    if (status == storage::SaveStatus::kNameExists) own_.tools.tell(Text(speech_.words, kResultExistsRow));
-    if (status == storage::SaveStatus::kBadName) own_.tools.tell(Text(speech_.words, kBadResultNameRow));
+    if (status == storage::SaveStatus::kNameExists) own_.tools.Tell(Text(speech_.words, kResultExistsRow));
+    if (status == storage::SaveStatus::kBadName) own_.tools.Tell(Text(speech_.words, kBadResultNameRow));
   });
 }
 

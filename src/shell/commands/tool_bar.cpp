@@ -75,6 +75,7 @@ QToolButton* CommandToolBar::AddCommand(const CommandSet& commands, int place) {
     ShowRunDue(false);
   }
   addWidget(button);
+  buttons_.emplace(command.id, button);
   return button;
 }
 

@@ -1,8 +1,10 @@
 #pragma once
 
 #include <QToolBar>
+#include <map>
 
 #include "presentation/texts/words.h"
+#include "shell/commands/command_table.h"
 
 class QToolButton;
 
@@ -22,12 +24,15 @@ class CommandToolBar : public QToolBar {
   /// The run button stands out while a calculation waits for its run.
   void ShowRunDue(bool due);
 
+  /// The button of a command that has one.
+  QToolButton* ButtonOf(CommandId id) const { return buttons_.at(id); }
   /// `action` stands behind the run button from now on.
   void AddBehindRun(QAction* action);
 
  private:
   QToolButton* AddCommand(const CommandSet& commands, int place);
 
+  std::map<CommandId, QToolButton*> buttons_;
   QToolButton* run_ = nullptr;
 };
 

@@ -14,6 +14,8 @@ namespace velmar::shell {
 namespace {
 
 constexpr const char* kName = "NotaCampo";
+/// The property by which a window holds the note that stands in it.
+constexpr const char* kNoteOfWindow = "NotaCampo";
 constexpr int kReadingTimeMs = 8000;
 constexpr int kWidest = 340;
 constexpr int kPadding = 6;
@@ -81,7 +83,7 @@ int FreeTop(const QRect& field, const std::vector<QRect>& others, int left, cons
 }  // namespace
 
 void FieldNote::Put(QWidget* field, const QString& text, NoteLife life) {
-  for (QWidget* other : field->window()->findChildren<QWidget*>(kName)) delete other;
+  delete NoteIn(field->window());
   if (!field->isVisible()) return;
   auto* note = new FieldNote(field, PageOf(field), text);
   if (life == NoteLife::kWhileRead) note->end_.start(kReadingTimeMs);
@@ -91,11 +93,13 @@ void FieldNote::Put(QWidget* field, const QString& text, NoteLife life) {
   QAccessible::updateAccessibility(&alert);
 }
 
+FieldNote* FieldNote::NoteIn(const QWidget* window) {
+  return static_cast<FieldNote*>(window->property(kNoteOfWindow).value<QPointer<QWidget>>().data());
+}
+
 QString FieldNote::TextAt(const QWidget* field) {
-  for (const QWidget* note : field->window()->findChildren<QWidget*>(kName)) {
-    if (static_cast<const FieldNote*>(note)->field_ == field) return note->accessibleName();
-  }
-  return {};
+  const FieldNote* note = NoteIn(field->window());
+  return note != nullptr && note->field_ == field ? note->accessibleName() : QString();
 }
 
 FieldNote::FieldNote(QWidget* field, QWidget* page, QString text)
@@ -104,6 +108,7 @@ FieldNote::FieldNote(QWidget* field, QWidget* page, QString text)
       text_(std::move(text)),
       described_before_(field->accessibleDescription()) {
   setObjectName(kName);
+  field->window()->setProperty(kNoteOfWindow, QVariant::fromValue(QPointer<QWidget>(this)));
   setAttribute(Qt::WA_TransparentForMouseEvents);
   setAccessibleName(text_);
   field->setAccessibleDescription(text_);

@@ -34,6 +34,8 @@ class FieldNote : public QWidget {
  private:
   FieldNote(QWidget* field, QWidget* page, QString text);
   void Place();
+  /// The note that stands in `window`, null without one.
+  static FieldNote* NoteIn(const QWidget* window);
 
   QPointer<QWidget> field_;
   QString text_;

@@ -6,8 +6,12 @@ class QWidget;
 
 namespace velmar::shell {
 
-/// Brings the control `name` of `window` before the user, on whatever tab it stands: gives it the focus and
-/// puts `words` beside it until something is entered there. Nothing happens when there is no such control.
-void PointAt(const QWidget& window, const QString& name, const QString& words);
+/// Brings `field` before the user: every tab that it stands on becomes current, and what scrolls it scrolls to
+/// it.
+void BringForward(QWidget* field);
+
+/// Brings `field` before the user, gives it the focus and puts `words` beside it until something is entered
+/// there.
+void PointAt(QWidget* field, const QString& words);
 
 }  // namespace velmar::shell

@@ -73,6 +73,7 @@ MainWindow::MainWindow(const WindowServices& services, QWidget* parent)
       commands_({.window = *this,
                  .open = services.open,
                  .speech = services,
+                 .pages = context_,
                  .files = files_,
                  .table = table_,
                  .results = *results_,
@@ -81,14 +82,16 @@ MainWindow::MainWindow(const WindowServices& services, QWidget* parent)
                  .structures = services.structure_commands,
                  .materials = services.material_commands,
                  .paper = services.paper_commands,
-                 .reports = services.report_commands},
+                 .reports = services.report_commands,
+                 .documents = services.documents},
                 this),
       calculations_(services.words, this) {
   setObjectName("Form1");
   materials_.Remember(services.places.settings);
   setWindowIcon(ProductIcon());
   setAcceptDrops(true);
-  recent_ = FillMenuBar(*menuBar(), commands_, calculations_, services.words);
+  const OpenMenus menus = FillMenuBar(*menuBar(), commands_, calculations_, services.words);
+  recent_ = menus.recent;
   edit_menu_ = new EditMenu(services.open, services.words, this);
   menuBar()->insertMenu(menuBar()->actions().at(1), edit_menu_);
   connect(qApp, &QApplication::focusChanged, this, [this] {
@@ -97,7 +100,9 @@ MainWindow::MainWindow(const WindowServices& services, QWidget* parent)
   });
   tool_bar_ = new CommandToolBar(commands_, calculations_, services.words, this);
   addToolBar(tool_bar_);
-  AddContinuousSwitch();
+  AddContinuousSwitch(*menus.calculation);
+  for (const elements::Field dimension : {elements::Field::kWidth, elements::Field::kHeight})
+    context_.Place({.field = dimension}, tool_bar_->ButtonOf(CommandId::kDimensions));
   // Shortcuts work whether or not their menu was ever open.
   for (const Command& command : Commands()) addAction(commands_.Of(command.id));
   variants_ = new VariantStrip(services.open, services, results_);
@@ -122,7 +127,8 @@ void MainWindow::MakeCentre() {
   auto* column = new QVBoxLayout(inputs);
   column->setContentsMargins(0, 0, 0, 0);
   column->setSpacing(0);
-  header_ = new ElementHeader(context_, [this] { commands_.Of(CommandId::kDimensions)->trigger(); });
+  header_ = new ElementHeader(context_);
+  connect(header_, &ElementHeader::DimensionsWanted, commands_.Of(CommandId::kDimensions), &QAction::trigger);
   tabs_ = new InputTabs(context_);
   column->addWidget(header_);
   column->addWidget(tabs_, 1);
@@ -132,7 +138,7 @@ void MainWindow::MakeCentre() {
   sides_->addWidget(results_);
   sides_->setStretchFactor(0, 0);
   sides_->setStretchFactor(1, 1);
-  start_ = new StartScreen(services_.words, calculations_);
+  start_ = new StartScreen(services_.words, calculations_, services_.look_at_project);
   centre_ = new QStackedWidget(this);
   centre_->addWidget(start_);
   centre_->addWidget(sides_);
@@ -160,11 +166,11 @@ void MainWindow::Say(const QString& text) {
   silence_.start();
 }
 
-void MainWindow::AddContinuousSwitch() {
+void MainWindow::AddContinuousSwitch(QMenu& menu) {
   auto* on = new ContinuousSwitch(continuous_, memory_, services_.words, this);
   addAction(on);
   tool_bar_->AddBehindRun(on);
-  menuBar()->findChild<QMenu*>("calcolo")->insertAction(commands_.Of(CommandId::kCompareBeside), on);
+  menu.insertAction(commands_.Of(CommandId::kCompareBeside), on);
   results_->Follow(continuous_);
   connect(&work_, &OpenWork::AboutToTell, &continuous_, &ContinuousCalculation::Follow);
 }
@@ -178,6 +184,17 @@ void MainWindow::Connect() {
   connect(&calculations_, &CalculationActions::Chosen, this, &MainWindow::Choose);
   connect(start_, &StartScreen::KindChosen, this, &MainWindow::Begin);
   connect(start_, &StartScreen::ProjectChosen, this, &MainWindow::OpenProject);
+  connect(start_, &StartScreen::TemplateChosen, this, &MainWindow::BeginWith);
+  connect(start_, &StartScreen::TemplateRenamingWanted, this, [this](const std::filesystem::path& pattern) {
+    if (files_.OwnTemplates().Rename(pattern)) ShowProjects();
+  });
+  connect(start_, &StartScreen::TemplateRemovalWanted, this, [this](const std::filesystem::path& pattern) {
+    if (files_.OwnTemplates().Remove(pattern)) ShowProjects();
+  });
+  connect(&files_, &ProjectFiles::TemplateKept, this, [this](const std::filesystem::path& file) {
+    Say(Text(services_.words, kTemplateKeptRow) + ' ' + FromUtf8(file.stem()));
+    ShowProjects();
+  });
   connect(&commands_, &CommandSet::AboutToAct, &context_, &PageContext::SettleAsked);
   connect(edit_menu_, &EditMenu::SettleAsked, &context_, &PageContext::SettleAsked);
   connect(edit_menu_, &EditMenu::FixVariantWanted, variants_, &VariantStrip::Fix);
@@ -230,6 +247,7 @@ void MainWindow::Choose(elements::Calculation calculation) {
     }
   });
   files_.FollowChoice(before);
+  if (begins) tabs_->FocusFirst();
 }
 
 void MainWindow::ShowAll() {
@@ -268,7 +286,10 @@ void MainWindow::ShowName() {
 
 void MainWindow::ShowProjects() {
   const auto recent = memory_.RecentProjects();
-  start_->ShowProjects(recent, ProjectsIn(services_.places.examples));
+  start_->ShowProjects({.recent = recent,
+                        .templates = files_.OwnTemplates().All(),
+                        .examples = ProjectsIn(services_.places.examples)},
+                       services_.open.Setup());
   recent_->clear();
   recent_->setEnabled(!recent.empty());
   for (const std::filesystem::path& project : recent)
@@ -283,6 +304,11 @@ void MainWindow::ShowProjects() {
 void MainWindow::OpenProject(const std::filesystem::path& project) {
   tabs_->LayOutAnew();
   files_.Open(project);
+}
+
+void MainWindow::BeginWith(const std::filesystem::path& pattern) {
+  tabs_->LayOutAnew();
+  files_.Begin(pattern);
 }
 
 void MainWindow::OfferRecovery() {

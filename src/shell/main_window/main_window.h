@@ -43,6 +43,8 @@ class MainWindow : public QMainWindow {
  public slots:
   /// Opens the project file `project` as if it were dropped on the window.
   void OpenProject(const std::filesystem::path& project);
+  /// Begins a new work with what the template `pattern` holds.
+  void BeginWith(const std::filesystem::path& pattern);
   /// Offers unsaved work that earlier runs left behind.
   void OfferRecovery();
   /// Something failed that nobody foresaw: unsaved work is kept before anything else, then `what` is told.
@@ -55,7 +57,7 @@ class MainWindow : public QMainWindow {
 
  private:
   void MakeCentre();
-  void AddContinuousSwitch();
+  void AddContinuousSwitch(QMenu& menu);
   void Connect();
   void Choose(elements::Calculation calculation);
   void Begin(elements::ElementButton kind);

@@ -1,26 +1,34 @@
 #include "shell/main_window/project_list.h"
 
+#include <QDateTime>
 #include <QDir>
+#include <QFileInfo>
 #include <QPainter>
 #include <QStyledItemDelegate>
+#include <utility>
 
+#include "foundation/message_rows.h"
+#include "shell/main_window/project_glances.h"
 #include "shell/windows/icons.h"
+#include "shell/windows/phrases.h"
 
 namespace velmar::shell {
 namespace {
 
 constexpr int kPathRole = Qt::UserRole;
 constexpr int kFolderRole = Qt::UserRole + 1;
+constexpr int kFactsRole = Qt::UserRole + 2;
+constexpr int kLines = 3;
 constexpr int kPadding = 6;
 constexpr int kIcon = 20;
 
-/// The name, and under it the folder in quiet letters.
+/// The name, and under it in quiet letters what the project is and its folder.
 class ProjectDelegate : public QStyledItemDelegate {
  public:
   using QStyledItemDelegate::QStyledItemDelegate;
 
   QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
-    const int lines = index.data(kFolderRole).toString().isEmpty() ? 1 : 2;
+    const int lines = index.data(kPathRole).toString().isEmpty() ? 1 : kLines;
     return {option.rect.width(), lines * option.fontMetrics.height() + 2 * kPadding};
   }
 
@@ -44,22 +52,23 @@ class ProjectDelegate : public QStyledItemDelegate {
       box.setTop(box.top() + option.fontMetrics.height());
     };
     line(index.data(Qt::DisplayRole).toString(), QPalette::Text, Qt::ElideRight);
+    line(index.data(kFactsRole).toString(), QPalette::PlaceholderText, Qt::ElideRight);
     line(index.data(kFolderRole).toString(), QPalette::PlaceholderText, Qt::ElideMiddle);
     painter->restore();
   }
 };
 
-QString ToQt(const std::filesystem::path& path) { return QString::fromStdString(path.string()); }
+QString FromUtf8(const std::filesystem::path& path) { return QString::fromStdString(path.string()); }
 
-/// Shipped files are named in small letters with dashes.
-QString InWords(QString name) {
-  name.replace('-', ' ');
-  return name.left(1).toUpper() + name.mid(1);
+/// The day on which `project` was written.
+QString DayOf(const std::filesystem::path& project) {
+  return QFileInfo(FromUtf8(project)).lastModified().toString(QStringLiteral("dd/MM/yyyy"));
 }
 
 }  // namespace
 
-ProjectList::ProjectList(QWidget* parent) : QListWidget(parent) {
+ProjectList::ProjectList(presentation::Words words, QWidget* parent)
+    : QListWidget(parent), words_(std::move(words)) {
   setItemDelegate(new ProjectDelegate(this));
   setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
@@ -69,19 +78,34 @@ ProjectList::ProjectList(QWidget* parent) : QListWidget(parent) {
   connect(this, &QListWidget::itemActivated, this, &ProjectList::OpenCurrent, Qt::QueuedConnection);
 }
 
-void ProjectList::Show(const std::vector<std::filesystem::path>& projects, const QString& none,
-                       bool with_folders) {
+void ProjectList::Show(const std::vector<std::filesystem::path>& projects) {
   clear();
   for (const std::filesystem::path& project : projects) {
-    const QString name = with_folders ? ToQt(project.stem()) : InWords(ToQt(project.stem()));
-    auto* item = new QListWidgetItem(LineIcon("open"), name, this);
-    item->setData(kPathRole, ToQt(project));
-    if (with_folders) item->setData(kFolderRole, QDir::toNativeSeparators(ToQt(project.parent_path())));
-    item->setToolTip(ToQt(project));
+    auto* item = new QListWidgetItem(LineIcon("open"), FromUtf8(project.stem()), this);
+    item->setData(kPathRole, FromUtf8(project));
+    item->setData(kFactsRole, DayOf(project));
+    item->setData(kFolderRole, QDir::toNativeSeparators(FromUtf8(project.parent_path())));
+    item->setToolTip(FromUtf8(project));
   }
   if (!projects.empty()) return;
-  auto* item = new QListWidgetItem(none, this);
+  auto* item = new QListWidgetItem(Text(words_, kNoRecentRow), this);
   item->setFlags(Qt::NoItemFlags);
+}
+
+void ProjectList::Tell(const std::filesystem::path& project, const ProjectGlance& glance) {
+  const QString path = FromUtf8(project);
+  for (int i = 0; i < count(); ++i) {
+    QListWidgetItem& entry = *item(i);
+    if (entry.data(kPathRole).toString() != path) continue;
+    QStringList facts = {KindOf(glance, words_), RatingOf(glance, words_), DayOf(project)};
+    facts.removeAll(QString());
+    entry.setData(kFactsRole, facts.join(QStringLiteral(" · ")));
+    QStringList tip = {path, FromUtf8(glance.title), facts.join(QStringLiteral(" · ")),
+                       HindranceOf(glance, words_)};
+    tip.removeAll(QString());
+    entry.setToolTip(tip.join('\n'));
+    entry.setData(Qt::AccessibleTextRole, entry.text() + ", " + tip.join(", "));
+  }
 }
 
 void ProjectList::OpenCurrent() {

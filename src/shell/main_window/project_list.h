@@ -4,23 +4,31 @@
 #include <filesystem>
 #include <vector>
 
+#include "presentation/texts/words.h"
+
 namespace velmar::shell {
 
-/// Projects to open by a click or by Enter: their names and, in quiet letters, their folders.
+struct ProjectGlance;
+
+/// Projects to open by a click or by Enter: their names and, in quiet letters, what they are, when they were
+/// written and where they stand.
 class ProjectList : public QListWidget {
   Q_OBJECT
  public:
-  explicit ProjectList(QWidget* parent = nullptr);
+  explicit ProjectList(presentation::Words words, QWidget* parent = nullptr);
 
-  /// Shows `projects`, or the words `none` when there is none.
-  /// @param with_folders whether the folder stands under each name
-  void Show(const std::vector<std::filesystem::path>& projects, const QString& none, bool with_folders);
+  /// Shows `projects`, or that there is none.
+  void Show(const std::vector<std::filesystem::path>& projects);
+  /// Puts beside `project` what it is.
+  void Tell(const std::filesystem::path& project, const ProjectGlance& glance);
 
  signals:
   void Opened(const std::filesystem::path& project);
 
  private:
   void OpenCurrent();
+
+  presentation::Words words_;
 };
 
 }  // namespace velmar::shell

@@ -47,6 +47,7 @@ struct WindowServices : Speech, PageServices, ProjectServices, HelpServices {
   MaterialCommands* material_commands = nullptr;
   PaperCommands* paper_commands = nullptr;
   ReportCommands* report_commands = nullptr;
+  DocumentServices* documents = nullptr;
 };
 
 }  // namespace velmar::shell

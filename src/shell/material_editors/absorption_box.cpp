@@ -5,6 +5,7 @@
 #include <QKeyEvent>
 
 #include "materials/pasted_absorption.h"
+#include "shell/windows/phrases.h"
 #include "shell/windows/window_tools.h"
 
 namespace velmar::material_editors {
@@ -12,7 +13,7 @@ namespace {
 
 constexpr int kWidthInDigits = 5;
 
-bool IsColumn(const QString& text) { return materials::IsColumn(shell::FromQt(text)); }
+bool IsColumn(const QString& text) { return materials::IsColumn(shell::ToUtf8(text)); }
 
 /// The cells that were pasted into a box that held `before` and now holds `text`. What was dropped counts
 /// whole, whatever the clipboard holds.
@@ -36,7 +37,7 @@ AbsorptionBox::AbsorptionBox(std::size_t band, QWidget* parent)
   connect(this, &QLineEdit::textEdited, this, [this](const QString& text) {
     if (!IsColumn(text)) return;
     setText(before_);
-    if (on_column_) on_column_(Arrived(text, before_));
+    emit ColumnPasted(Arrived(text, before_));
   });
 }
 

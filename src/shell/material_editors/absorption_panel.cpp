@@ -14,6 +14,7 @@
 #include "materials/pasted_absorption.h"
 #include "presentation/texts/words.h"
 #include "shell/material_editors/absorption_box.h"
+#include "shell/windows/phrases.h"
 
 namespace velmar::material_editors {
 namespace {
@@ -95,7 +96,8 @@ QWidget* AbsorptionPanel::MakeBoxes() {
     boxes_.at(band) = box;
     connect(box, &QLineEdit::textChanged, this, [this] { DrawCurve(); });
     connect(box, &QLineEdit::textEdited, this, [this, band] { Mark(band, false); });
-    box->OnColumn([this, band](const QString& cells) { TakeColumn(cells, band); });
+    connect(box, &AbsorptionBox::ColumnPasted, this,
+            [this, band](const QString& cells) { TakeColumn(cells, band); });
   }
   return place;
 }
@@ -155,15 +157,15 @@ void AbsorptionPanel::DrawCurve() {
 }
 
 void AbsorptionPanel::AskAndClear() {
-  if (!tools_.ask(tools_.Text(kClearQuestionRow))) return;
+  if (!tools_.Ask(tools_.Text(kClearQuestionRow))) return;
   Show({});
   boxes_.front()->setFocus();
 }
 
 void AbsorptionPanel::TakeColumn(const QString& cells, std::size_t band) {
-  const auto read = materials::ReadPastedAbsorption(shell::FromQt(cells), band);
+  const auto read = materials::ReadPastedAbsorption(shell::ToUtf8(cells), band);
   if (const auto* refusal = std::get_if<Message>(&read)) {
-    tools_.tell(shell::ToQt(presentation::InWords(refusal->front(), tools_.words)));
+    tools_.Tell(shell::FromUtf8(presentation::InWords(refusal->front(), tools_.words)));
     return;
   }
   const auto& pasted = std::get<materials::PastedAbsorption>(read);

@@ -11,6 +11,7 @@
 #include "shell/material_editors/fibrous_editor.h"
 #include "shell/material_editors/resilient_editor.h"
 #include "shell/material_editors/structural_editor.h"
+#include "shell/windows/phrases.h"
 #include "storage/library/pictures.h"
 
 namespace velmar::material_editors {
@@ -48,7 +49,7 @@ std::optional<shell::MaterialChange> Open(const Opening& opening) {
   if (!read) return std::nullopt;
   if (!opening.name.empty() && !row) {
     const MessageLine gone{kEditedMaterialGoneRow, " " + opening.name};
-    opening.tools.tell(shell::ToQt(presentation::InWords(gone, opening.tools.words)));
+    opening.tools.Tell(shell::FromUtf8(presentation::InWords(gone, opening.tools.words)));
     return std::nullopt;
   }
   const std::string picture = row ? row->picture : storage::kNoPicture;

@@ -3,12 +3,11 @@
 #include <QHBoxLayout>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QStringList>
 
 #include "foundation/message_rows.h"
-#include "presentation/texts/words.h"
-#include "shell/material_editors/mnemonics.h"
 #include "shell/material_editors/number_box.h"
+#include "shell/windows/mnemonics.h"
+#include "shell/windows/phrases.h"
 
 namespace velmar::material_editors {
 EditorDialog::EditorDialog(shell::WindowTools tools, const QString& object_name, QString memory_name,
@@ -43,26 +42,20 @@ QHBoxLayout* EditorDialog::MakeButtons(bool with_copy) {
 }
 
 void EditorDialog::Finish(QLineEdit* first) {
-  AssignMnemonics(*this);
+  shell::SetMnemonics(*this);
   if (!shell::RestoreSizes(tools_.memory, {memory_name_, this, nullptr, nullptr})) resize(sizeHint());
   first->setFocus();
   first->selectAll();
 }
 
-QString EditorDialog::InWords(const Message& message) const {
-  QStringList lines;
-  for (const MessageLine& line : message) lines << shell::ToQt(presentation::InWords(line, tools_.words));
-  return lines.join('\n');
-}
-
 void EditorDialog::Save(bool as_copy) {
   // Enter saves from within a box, whose number still has to reach the boxes that follow from it.
   if (auto* box = dynamic_cast<NumberBox*>(focusWidget())) box->Leave();
-  const AskUser ask = [this](const Message& question) { return tools_.ask(InWords(question)); };
-  const SaveOutcome outcome = as_copy ? StoreCopy(shell::FromQt(tools_.Text(kCopyNameRow)), ask) : Store(ask);
+  const AskUser ask = [this](const Message& question) { return tools_.Ask(tools_.Text(question)); };
+  const SaveOutcome outcome = as_copy ? StoreCopy(shell::ToUtf8(tools_.Text(kCopyNameRow)), ask) : Store(ask);
   if (outcome.refusal) {
-    tools_.tell(InWords(outcome.refusal->message));
-    if (auto* box = findChild<QWidget*>(shell::ToQt(outcome.refusal->box))) {
+    tools_.Tell(tools_.Text(outcome.refusal->message));
+    if (auto* box = findChild<QWidget*>(shell::FromUtf8(outcome.refusal->box))) {
       box->setFocus();
       if (auto* line = qobject_cast<QLineEdit*>(box)) line->selectAll();
     }
@@ -74,7 +67,7 @@ void EditorDialog::Save(bool as_copy) {
 }
 
 void EditorDialog::reject() {
-  if (Changed() && !tools_.ask(tools_.Text(kUnsavedMaterialRow))) return;
+  if (Changed() && !tools_.Ask(tools_.Text(kUnsavedMaterialRow))) return;
   QDialog::reject();
 }
 

@@ -45,7 +45,6 @@ class EditorDialog : public QDialog {
 
  private:
   void Save(bool as_copy);
-  QString InWords(const Message& message) const;
 
   shell::WindowTools tools_;
   QString memory_name_;

@@ -12,6 +12,7 @@
 #include "shell/material_editors/field_grid.h"
 #include "shell/material_editors/keyword_box.h"
 #include "shell/material_editors/number_box.h"
+#include "shell/windows/phrases.h"
 
 namespace velmar::material_editors {
 namespace {
@@ -80,11 +81,11 @@ void FibrousEditor::MakeControls(const std::vector<std::string>& keywords,
 }
 
 void FibrousEditor::Show(const FibrousEntry& entry) {
-  name_->setText(shell::ToQt(entry.name));
-  description_->setText(shell::ToQt(entry.description));
+  name_->setText(shell::FromUtf8(entry.name));
+  description_->setText(shell::FromUtf8(entry.description));
   description_->setCursorPosition(0);
-  keyword_->setEditText(shell::ToQt(entry.keyword));
-  source_->setText(shell::ToQt(entry.source));
+  keyword_->setEditText(shell::FromUtf8(entry.keyword));
+  source_->setText(shell::FromUtf8(entry.source));
   source_->setCursorPosition(0);
   source_->setToolTip(source_->text());
   thickness_->ShowStored(entry.thickness);
@@ -98,9 +99,9 @@ void FibrousEditor::Show(const FibrousEntry& entry) {
 }
 
 FibrousEntry FibrousEditor::Entry() const {
-  return {.name = shell::FromQt(name_->text()),
-          .description = shell::FromQt(description_->text()),
-          .keyword = shell::FromQt(keyword_->currentText()),
+  return {.name = shell::ToUtf8(name_->text()),
+          .description = shell::ToUtf8(description_->text()),
+          .keyword = shell::ToUtf8(keyword_->currentText()),
           .thickness = thickness_->Number(),
           .density = density_->Number(),
           .porous = porous_->isChecked(),
@@ -109,7 +110,7 @@ FibrousEntry FibrousEditor::Entry() const {
           .poissons_ratio = poissons_ratio_->Number(),
           .flow_resistance = flow_resistance_->Number(),
           .absorption = absorption_->Entered(),
-          .source = shell::FromQt(source_->text()),
+          .source = shell::ToUtf8(source_->text()),
           .computation = materials::ComputationOf(computed_from_, absorption_->ComputedBands())};
 }
 
@@ -125,7 +126,7 @@ void FibrousEditor::ComputeAbsorption() {
   const FibrousEntry entry = Entry();
   const materials::ComputedAbsorption computed = materials::ComputeMissing(entry);
   if (computed.bands.empty()) {
-    Tools().tell(Tools().Text(kNothingToComputeRow));
+    Tools().Tell(Tools().Text(kNothingToComputeRow));
     return;
   }
   computed_from_ = entry;

@@ -3,6 +3,7 @@
 #include <QCompleter>
 #include <QWheelEvent>
 
+#include "shell/windows/phrases.h"
 #include "shell/windows/window_tools.h"
 
 namespace velmar::material_editors {
@@ -12,7 +13,7 @@ KeywordBox::KeywordBox(const QString& object_name, const std::vector<std::string
   setObjectName(object_name);
   setEditable(true);
   setInsertPolicy(QComboBox::NoInsert);
-  for (const std::string& keyword : keywords) addItem(shell::ToQt(keyword));
+  for (const std::string& keyword : keywords) addItem(shell::FromUtf8(keyword));
   // An inline completion would put another's keyword in place of a new, shorter one.
   completer()->setCompletionMode(QCompleter::PopupCompletion);
   completer()->setFilterMode(Qt::MatchContains);

@@ -2,12 +2,15 @@
 
 #include <QFocusEvent>
 #include <QKeyEvent>
+#include <QTimer>
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <utility>
 
 #include "foundation/decimal.h"
 #include "shell/fields/key_filters.h"
+#include "shell/windows/phrases.h"
 #include "shell/windows/window_tools.h"
 
 namespace velmar::material_editors {
@@ -51,7 +54,7 @@ NumberBox::NumberBox(const QString& object_name, QWidget* parent) : QLineEdit(pa
 
 void NumberBox::Show(const std::string& text) {
   exact_.clear();
-  setText(shell::ToQt(text));
+  setText(shell::FromUtf8(text));
 }
 
 void NumberBox::ShowStored(const std::string& number) {
@@ -61,18 +64,14 @@ void NumberBox::ShowStored(const std::string& number) {
   if (shown.size() != number.size()) exact_ = number;
 }
 
-std::string NumberBox::Number() const { return exact_.empty() ? shell::FromQt(text().trimmed()) : exact_; }
+std::string NumberBox::Number() const { return exact_.empty() ? shell::ToUtf8(text().trimmed()) : exact_; }
 
 void NumberBox::Fill(const std::string& result, bool replace) {
   const std::string now = Number();
   if (result != now && (replace || now.empty())) Show(result);
 }
 
-void NumberBox::Leave() {
-  const bool edited = edited_;
-  edited_ = false;
-  if (on_leave_) on_leave_(edited);
-}
+void NumberBox::Leave() { emit Left(std::exchange(edited_, false)); }
 
 void NumberBox::keyPressEvent(QKeyEvent* event) {
   if (!IsText(*event)) {
@@ -89,7 +88,10 @@ void NumberBox::keyPressEvent(QKeyEvent* event) {
 
 void NumberBox::focusInEvent(QFocusEvent* event) {
   QLineEdit::focusInEvent(event);
-  if (event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason) selectAll();
+  if (!MovesOn(*event)) return;
+  selectAll();
+  // The press of the mouse that brought the focus puts the caret afterwards.
+  if (event->reason() == Qt::MouseFocusReason) QTimer::singleShot(0, this, &QLineEdit::selectAll);
 }
 
 void NumberBox::focusOutEvent(QFocusEvent* event) {

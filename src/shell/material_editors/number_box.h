@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QLineEdit>
-#include <functional>
 #include <string>
 
 namespace velmar::material_editors {
@@ -9,11 +8,10 @@ namespace velmar::material_editors {
 /// A box for a number of a material. Only keys of numbers pass; comma and point both type the decimal sign,
 /// which is the comma. A paste may bring anything: the checks of saving speak about it.
 class NumberBox : public QLineEdit {
+  Q_OBJECT
+
  public:
   explicit NumberBox(const QString& object_name, QWidget* parent = nullptr);
-
-  /// Called with whether the box was typed in since it was last left.
-  void OnLeave(std::function<void(bool edited)> on_leave) { on_leave_ = std::move(on_leave); }
 
   /// Shows `text` as it stands.
   void Show(const std::string& text);
@@ -28,6 +26,10 @@ class NumberBox : public QLineEdit {
   /// Does what leaving the box does.
   void Leave();
 
+ signals:
+  /// The box was left. @param edited whether it was typed in since it was last left
+  void Left(bool edited);
+
  protected:
   void keyPressEvent(QKeyEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;
@@ -36,7 +38,6 @@ class NumberBox : public QLineEdit {
  private:
   std::string exact_;  ///< what the rounded text stands for; empty: the text is what it is
   bool edited_ = false;
-  std::function<void(bool)> on_leave_;
 };
 
 }  // namespace velmar::material_editors

@@ -8,6 +8,7 @@
 #include "shell/material_editors/field_grid.h"
 #include "shell/material_editors/keyword_box.h"
 #include "shell/material_editors/number_box.h"
+#include "shell/windows/phrases.h"
 
 namespace velmar::material_editors {
 namespace {
@@ -28,9 +29,12 @@ ResilientEditor::ResilientEditor(shell::WindowTools tools,
       material_(std::move(material)) {
   setWindowTitle(Tools().Text(kResilientEditorCaptionRow));
   MakeControls(keywords, picture);
-  stiffness_->OnLeave([this](bool edited) { Couple(ResilientBox::kStiffness, edited); });
-  improvement_->OnLeave([this](bool edited) { Couple(ResilientBox::kImprovement, edited); });
-  resonance_->OnLeave([this](bool edited) { Couple(ResilientBox::kResonance, edited); });
+  connect(stiffness_, &NumberBox::Left, this,
+          [this](bool edited) { Couple(ResilientBox::kStiffness, edited); });
+  connect(improvement_, &NumberBox::Left, this,
+          [this](bool edited) { Couple(ResilientBox::kImprovement, edited); });
+  connect(resonance_, &NumberBox::Left, this,
+          [this](bool edited) { Couple(ResilientBox::kResonance, edited); });
   Show(material_.Opened() ? materials::EntryOf(*material_.Opened()) : ResilientEntry{});
   shown_first_ = Entry();
   connect(stiffness_, &QLineEdit::textChanged, this, [this] { ShowStandard(); });
@@ -67,11 +71,11 @@ void ResilientEditor::MakeControls(const std::vector<std::string>& keywords,
 }
 
 void ResilientEditor::Show(const ResilientEntry& entry) {
-  name_->setText(shell::ToQt(entry.name));
-  description_->setText(shell::ToQt(entry.description));
+  name_->setText(shell::FromUtf8(entry.name));
+  description_->setText(shell::FromUtf8(entry.description));
   description_->setCursorPosition(0);
-  keyword_->setEditText(shell::ToQt(entry.keyword));
-  source_->setText(shell::ToQt(entry.source));
+  keyword_->setEditText(shell::FromUtf8(entry.keyword));
+  source_->setText(shell::FromUtf8(entry.source));
   source_->setCursorPosition(0);
   source_->setToolTip(source_->text());
   stiffness_->ShowStored(entry.stiffness);
@@ -82,15 +86,15 @@ void ResilientEditor::Show(const ResilientEntry& entry) {
 }
 
 ResilientEntry ResilientEditor::Entry() const {
-  return {.name = shell::FromQt(name_->text()),
-          .description = shell::FromQt(description_->text()),
-          .keyword = shell::FromQt(keyword_->currentText()),
+  return {.name = shell::ToUtf8(name_->text()),
+          .description = shell::ToUtf8(description_->text()),
+          .keyword = shell::ToUtf8(keyword_->currentText()),
           .stiffness = stiffness_->Number(),
           .improvement = improvement_->Number(),
           .resonance = resonance_->Number(),
           .thickness = thickness_->Number(),
           .density = density_->Number(),
-          .source = shell::FromQt(source_->text())};
+          .source = shell::ToUtf8(source_->text())};
 }
 
 // A box that was only passed through fills an empty one, but rounds no number that is there.
@@ -103,7 +107,7 @@ void ResilientEditor::Couple(ResilientBox left, bool edited) {
 }
 
 void ResilientEditor::ShowStandard() {
-  const QString value = shell::ToQt(materials::StandardImprovement(stiffness_->Number()));
+  const QString value = shell::FromUtf8(materials::StandardImprovement(stiffness_->Number()));
   standard_->setText(Tools().Text(kStandardImprovementRow) +
                      (value.isEmpty() ? QStringLiteral(" -") : ' ' + value + " dB"));
 }

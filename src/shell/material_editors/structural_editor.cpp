@@ -7,6 +7,7 @@
 #include "shell/material_editors/field_grid.h"
 #include "shell/material_editors/keyword_box.h"
 #include "shell/material_editors/number_box.h"
+#include "shell/windows/phrases.h"
 
 namespace velmar::material_editors {
 namespace {
@@ -49,17 +50,18 @@ StructuralEditor::StructuralEditor(shell::WindowTools tools,
   column->addStretch(1);
   column->addLayout(MakeButtons(material_.Opened().has_value()));
 
-  thickness_->OnLeave([this](bool edited) { Couple(MassBox::kThickness, edited); });
-  density_->OnLeave([this](bool edited) { Couple(MassBox::kDensity, edited); });
-  surface_mass_->OnLeave([this](bool edited) { Couple(MassBox::kSurfaceMass, edited); });
+  connect(thickness_, &NumberBox::Left, this, [this](bool edited) { Couple(MassBox::kThickness, edited); });
+  connect(density_, &NumberBox::Left, this, [this](bool edited) { Couple(MassBox::kDensity, edited); });
+  connect(surface_mass_, &NumberBox::Left, this,
+          [this](bool edited) { Couple(MassBox::kSurfaceMass, edited); });
   Show(material_.Opened() ? materials::EntryOf(*material_.Opened()) : StructuralEntry{});
   shown_first_ = Entry();
   Finish(name_);
 }
 
 void StructuralEditor::Show(const StructuralEntry& entry) {
-  name_->setText(shell::ToQt(entry.name));
-  description_->setText(shell::ToQt(entry.description));
+  name_->setText(shell::FromUtf8(entry.name));
+  description_->setText(shell::FromUtf8(entry.description));
   description_->setCursorPosition(0);
   thickness_->ShowStored(entry.thickness);
   density_->ShowStored(entry.density);
@@ -68,15 +70,15 @@ void StructuralEditor::Show(const StructuralEntry& entry) {
   critical_frequency_->ShowStored(entry.critical_frequency);
   loss_factor_->ShowStored(entry.loss_factor);
   poissons_ratio_->ShowStored(entry.poissons_ratio);
-  keyword_->setEditText(shell::ToQt(entry.keyword));
-  source_->setText(shell::ToQt(entry.source));
+  keyword_->setEditText(shell::FromUtf8(entry.keyword));
+  source_->setText(shell::FromUtf8(entry.source));
   source_->setCursorPosition(0);
   source_->setToolTip(source_->text());
 }
 
 StructuralEntry StructuralEditor::Entry() const {
-  return {.name = shell::FromQt(name_->text()),
-          .description = shell::FromQt(description_->text()),
+  return {.name = shell::ToUtf8(name_->text()),
+          .description = shell::ToUtf8(description_->text()),
           .thickness = thickness_->Number(),
           .density = density_->Number(),
           .surface_mass = surface_mass_->Number(),
@@ -84,8 +86,8 @@ StructuralEntry StructuralEditor::Entry() const {
           .critical_frequency = critical_frequency_->Number(),
           .loss_factor = loss_factor_->Number(),
           .poissons_ratio = poissons_ratio_->Number(),
-          .keyword = shell::FromQt(keyword_->currentText()),
-          .source = shell::FromQt(source_->text())};
+          .keyword = shell::ToUtf8(keyword_->currentText()),
+          .source = shell::ToUtf8(source_->text())};
 }
 
 // A box that was only passed through fills an empty one, but rounds no number that is there.

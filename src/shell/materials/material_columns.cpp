@@ -6,6 +6,7 @@
 #include "elements/materials.h"
 #include "foundation/decimal.h"
 #include "foundation/message_rows.h"
+#include "shell/windows/phrases.h"
 #include "storage/materials/material_row.h"
 
 namespace velmar::shell {
@@ -64,7 +65,7 @@ MaterialColumn ColumnOf(const Heading& heading, const WindowTools& tools) {
 }
 
 MaterialColumn AbsorptionColumn(std::size_t band, const WindowTools& tools) {
-  const QString centre = ToQt(FormatShortest(elements::kAbsorptionBandCentres.at(band)));
+  const QString centre = FromUtf8(FormatShortest(elements::kAbsorptionBandCentres.at(band)));
   MaterialColumn column;
   column.heading = QStringLiteral("α %1").arg(centre);
   column.tip = tools.Text(kAbsorptionCoefficientsRow) + QStringLiteral(", %1 Hz").arg(centre);
@@ -94,8 +95,8 @@ std::vector<MaterialColumn> ColumnsOf(elements::MaterialFamily family, const Win
 }
 
 QString Shown(const storage::Cell& cell, const WindowTools& tools) {
-  if (const auto* text = std::get_if<std::string>(&cell)) return ToQt(*text);
-  if (const auto* number = std::get_if<double>(&cell)) return ToQt(FormatShortest(*number));
+  if (const auto* text = std::get_if<std::string>(&cell)) return FromUtf8(*text);
+  if (const auto* number = std::get_if<double>(&cell)) return FromUtf8(FormatShortest(*number));
   if (const auto* yes = std::get_if<bool>(&cell)) return tools.Text(*yes ? kYesRow : kNoRow);
   return {};
 }

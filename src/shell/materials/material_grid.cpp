@@ -4,6 +4,8 @@
 #include <QKeyEvent>
 #include <algorithm>
 
+#include "shell/windows/phrases.h"
+
 namespace velmar::shell {
 namespace {
 
@@ -21,8 +23,8 @@ bool IsLetter(const QKeyEvent& event) {
 
 }  // namespace
 
-MaterialGrid::MaterialGrid(MaterialModel& model, MaterialSearch& shown, Hands hands, QWidget* parent)
-    : QTableView(parent), model_(model), shown_(shown), hands_(std::move(hands)) {
+MaterialGrid::MaterialGrid(MaterialModel& model, MaterialSearch& shown, QWidget* parent)
+    : QTableView(parent), model_(model), shown_(shown) {
   setObjectName(QStringLiteral("DataGrid1"));
   setModel(&shown);
   setSelectionBehavior(QAbstractItemView::SelectRows);
@@ -40,9 +42,7 @@ MaterialGrid::MaterialGrid(MaterialModel& model, MaterialSearch& shown, Hands ha
   header->setFirstSectionMovable(false);
   verticalHeader()->hide();
   verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 8);
-  connect(this, &QTableView::doubleClicked, this, [this] {
-    if (hands_.choose) hands_.choose();
-  });
+  connect(this, &QTableView::doubleClicked, this, &MaterialGrid::Chosen);
 }
 
 void MaterialGrid::BeginTable(const QByteArray& widths, bool all_columns) {
@@ -108,11 +108,11 @@ void MaterialGrid::resizeEvent(QResizeEvent* event) {
 
 std::string MaterialGrid::SelectedName() const {
   const QModelIndex current = currentIndex();
-  return current.isValid() ? FromQt(current.siblingAtColumn(kNameColumn).data().toString()) : std::string();
+  return current.isValid() ? ToUtf8(current.siblingAtColumn(kNameColumn).data().toString()) : std::string();
 }
 
 bool MaterialGrid::SelectName(const std::string& name) {
-  const QString wanted = ToQt(name);
+  const QString wanted = FromUtf8(name);
   for (const Qt::MatchFlags flags :
        {Qt::MatchFlags(Qt::MatchExactly | Qt::MatchCaseSensitive), Qt::MatchFlags(Qt::MatchFixedString)}) {
     const QModelIndexList found =
@@ -130,12 +130,12 @@ void MaterialGrid::SelectRow(int row) {
 }
 
 void MaterialGrid::keyPressEvent(QKeyEvent* event) {
-  if ((event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) && hands_.choose) {
-    hands_.choose();
-  } else if (event->key() == Qt::Key_Delete && hands_.remove) {
-    hands_.remove();
-  } else if (IsLetter(*event) && hands_.type) {
-    hands_.type(event);
+  if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+    emit Chosen();
+  } else if (event->key() == Qt::Key_Delete) {
+    emit RemoveWanted();
+  } else if (IsLetter(*event)) {
+    emit Typed(event);
   } else {
     QTableView::keyPressEvent(event);
   }

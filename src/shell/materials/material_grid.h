@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QTableView>
-#include <functional>
 #include <string>
 
 #include "shell/materials/material_model.h"
@@ -10,16 +9,10 @@ namespace velmar::shell {
 
 /// The grid of one family (`DataGrid1`): columns as wide as their contents, the name takes what is left.
 class MaterialGrid : public QTableView {
- public:
-  /// What the hand does with the selected row.
-  struct Hands {
-    std::function<void()> choose{};  ///< Enter or a double click
-    std::function<void()> remove{};  ///< Del
-    /// Letters, which a search takes.
-    std::function<void(QKeyEvent*)> type{};
-  };
+  Q_OBJECT
 
-  MaterialGrid(MaterialModel& model, MaterialSearch& shown, Hands hands, QWidget* parent);
+ public:
+  MaterialGrid(MaterialModel& model, MaterialSearch& shown, QWidget* parent);
 
   /// The table has other columns now. `widths` is what Widths() gave once; empty or of another program: the
   /// columns are as wide as their contents, and the rows stand as in the table.
@@ -36,6 +29,14 @@ class MaterialGrid : public QTableView {
   /// Selects row `row`, or the last one.
   void SelectRow(int row);
 
+ signals:
+  /// Enter or a double click on the selected row.
+  void Chosen();
+  /// Del on the selected row.
+  void RemoveWanted();
+  /// A letter, which a search takes.
+  void Typed(QKeyEvent* key);
+
  protected:
   void keyPressEvent(QKeyEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
@@ -47,7 +48,6 @@ class MaterialGrid : public QTableView {
 
   MaterialModel& model_;
   MaterialSearch& shown_;
-  Hands hands_;
   int viewport_width_ = 0;
   bool fit_due_ = false;
 };

@@ -16,6 +16,7 @@
 #include "presentation/texts/words.h"
 #include "shell/materials/material_texts.h"
 #include "shell/windows/button_row.h"
+#include "shell/windows/phrases.h"
 
 namespace velmar::shell {
 namespace {
@@ -47,12 +48,12 @@ bool Moves(int key) {
 }  // namespace
 
 MaterialListWindow::MaterialListWindow(WindowTools tools, MaterialSource source,
-                                       std::optional<MaterialPick> pick, Listener listener, QWidget* parent)
+                                       std::optional<MaterialPick> pick, UsedIn used, QWidget* parent)
     : QDialog(parent),
       tools_(std::move(tools)),
       source_(std::move(source)),
       pick_(std::move(pick)),
-      listener_(std::move(listener)),
+      used_(std::move(used)),
       model_(tools_),
       shown_(model_) {
   setObjectName(QStringLiteral("Form2"));
@@ -103,20 +104,19 @@ QWidget* MaterialListWindow::MakeHead() {
 }
 
 void MaterialListWindow::MakeGrid() {
-  MaterialGrid::Hands hands;
-  hands.choose = [this] {
+  grid_ = new MaterialGrid(model_, shown_, this);
+  connect(grid_, &MaterialGrid::Chosen, this, [this] {
     if (pick_) {
       Take();
     } else {
       Edit(grid_->SelectedName());
     }
-  };
-  hands.remove = [this] { Delete(); };
-  hands.type = [this](QKeyEvent* event) {
+  });
+  connect(grid_, &MaterialGrid::RemoveWanted, this, &MaterialListWindow::Delete);
+  connect(grid_, &MaterialGrid::Typed, this, [this](QKeyEvent* event) {
     search_->setFocus();
     QApplication::sendEvent(search_, event);
-  };
-  grid_ = new MaterialGrid(model_, shown_, std::move(hands), this);
+  });
   connect(grid_->selectionModel(), &QItemSelectionModel::currentRowChanged, this, [this] { ShowSelected(); });
 }
 
@@ -202,7 +202,7 @@ void MaterialListWindow::SearchFor(const QString& text) {
 
 void MaterialListWindow::ShowSelected() {
   const std::string name = grid_->SelectedName();
-  name_->setText(ToQt(name));
+  name_->setText(FromUtf8(name));
   name_->setCursorPosition(0);
   edit_->setEnabled(!name.empty() && source_.edit);
   delete_->setEnabled(!name.empty());
@@ -231,7 +231,7 @@ void MaterialListWindow::keyPressEvent(QKeyEvent* event) {
 }
 
 void MaterialListWindow::RefreshAsAsked() {
-  if (Refresh() && listener_.refreshed) listener_.refreshed();
+  if (Refresh()) emit Refreshed();
 }
 
 void MaterialListWindow::Take() {
@@ -240,7 +240,7 @@ void MaterialListWindow::Take() {
   bool there = false;
   if (!tools_.Try([&] { there = source_.find(family_, name).has_value(); })) return;
   if (!there) {  // deleted by another program since the list was read
-    tools_.tell(tools_.Text(kMaterialGoneRow));
+    tools_.Tell(tools_.Text(kMaterialGoneRow));
     Refresh();
     return;
   }
@@ -259,15 +259,15 @@ void MaterialListWindow::Edit(const std::string& name) {
     search_->clear();
     grid_->SelectName(change->name);
   }
-  if (listener_.changed) listener_.changed(*change);
+  emit Changed(*change);
 }
 
 void MaterialListWindow::Delete() {
   const std::string name = grid_->SelectedName();
   if (name.empty()) return;
   const QString question =
-      tools_.Text(kDeleteMaterialQuestionRow) + QStringLiteral(" \"%1\"?").arg(ToQt(name));
-  if (!tools_.ask(question)) return;
+      tools_.Text(kDeleteMaterialQuestionRow) + QStringLiteral(" \"%1\"?").arg(FromUtf8(name));
+  if (!tools_.Ask(question)) return;
   const int row = grid_->SelectedRow();
   std::optional<MaterialCells> cells;
   const bool removed = tools_.Try([&] {
@@ -279,7 +279,7 @@ void MaterialListWindow::Delete() {
   undo_->setEnabled(deleted_.has_value());
   Refresh();
   grid_->SelectRow(row);
-  if (listener_.removed) listener_.removed(family_, name);
+  emit Removed(family_, name);
 }
 
 void MaterialListWindow::UndoDelete() {
@@ -287,9 +287,7 @@ void MaterialListWindow::UndoDelete() {
   std::optional<Message> refusal;
   if (!tools_.Try([&] { refusal = source_.add(deleted_->family, deleted_->cells); })) return;
   if (refusal) {
-    QStringList lines;
-    for (const MessageLine& line : *refusal) lines << ToQt(presentation::InWords(line, tools_.words));
-    tools_.tell(lines.join('\n'));
+    tools_.Tell(tools_.Text(*refusal));
     return;
   }
   const Deleted back = *std::exchange(deleted_, std::nullopt);
@@ -298,13 +296,13 @@ void MaterialListWindow::UndoDelete() {
     Refresh();
     grid_->SelectName(back.name);
   }
-  if (listener_.changed) listener_.changed({back.family, {}, back.name, {}});
+  emit Changed({back.family, {}, back.name, {}});
 }
 
 void MaterialListWindow::ShowUse(const std::string& name) {
   QStringList numbers;
-  if (listener_.used && !name.empty()) {
-    for (const int number : listener_.used(family_, name)) numbers << QString::number(number);
+  if (used_ && !name.empty()) {
+    for (const int number : used_(family_, name)) numbers << QString::number(number);
   }
   use_->setText(numbers.isEmpty() ? QString()
                                   : tools_.Text(kUsedInLayersRow) + ' ' + numbers.join(QStringLiteral(", ")));

@@ -30,24 +30,27 @@ struct MaterialPick {
 /// The list of materials (`Form2`): a grid of one family, searched, sorted and edited. Opened for a layer row
 /// it hands a material over; opened from the menu it lets the family be chosen.
 class MaterialListWindow : public QDialog {
- public:
-  /// What the window tells of itself, so that lists and tree are kept in step.
-  struct Listener {
-    std::function<void(const MaterialChange&)> changed{};
-    std::function<void(elements::MaterialFamily, const std::string& name)> removed{};
-    /// The table was read again when the user asked for it: others may have changed it.
-    std::function<void()> refreshed{};
-    /// The numbers of the layers of the open calculation that hold a material; without it nothing is told.
-    std::function<std::vector<int>(elements::MaterialFamily, const std::string& name)> used{};
-  };
+  Q_OBJECT
 
+ public:
+  /// The numbers of the layers of the open calculation that hold a material.
+  using UsedIn = std::function<std::vector<int>(elements::MaterialFamily, const std::string& name)>;
+
+  /// @param used empty: nothing is told of where a material is used
   MaterialListWindow(WindowTools tools, MaterialSource source, std::optional<MaterialPick> pick,
-                     Listener listener, QWidget* parent = nullptr);
+                     UsedIn used = {}, QWidget* parent = nullptr);
   ~MaterialListWindow() override;
 
   /// Reads the table anew; the selected material stays selected when it is still there. A table that cannot
   /// be read is told of, and what was shown stays. @return whether it was read
   bool Refresh();
+
+ signals:
+  /// A material was stored.
+  void Changed(const velmar::shell::MaterialChange& change);
+  void Removed(velmar::elements::MaterialFamily family, const std::string& name);
+  /// The table was read again when the user asked for it: others may have changed it.
+  void Refreshed();
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
@@ -79,7 +82,7 @@ class MaterialListWindow : public QDialog {
   WindowTools tools_;
   MaterialSource source_;
   std::optional<MaterialPick> pick_;
-  Listener listener_;
+  UsedIn used_;
   elements::MaterialFamily family_{};
   MaterialModel model_;
   MaterialSearch shown_;

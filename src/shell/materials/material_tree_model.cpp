@@ -7,6 +7,7 @@
 #include <algorithm>
 
 #include "shell/materials/material_texts.h"
+#include "shell/windows/phrases.h"
 
 namespace velmar::shell {
 namespace {
@@ -34,8 +35,8 @@ void MaterialTreeModel::Fill(MaterialFamily family, const std::vector<storage::L
   std::vector<std::pair<QCollatorSortKey, Node>> sorted;
   sorted.reserve(materials.size());
   for (const storage::ListedMaterial& material : materials) {
-    const QString name = ToQt(material.name);
-    const QString search = (name + QLatin1Char('\n') + ToQt(material.keyword)).toLower();
+    const QString name = FromUtf8(material.name);
+    const QString search = (name + QLatin1Char('\n') + FromUtf8(material.keyword)).toLower();
     sorted.emplace_back(collator.sortKey(name), Node{name, search});
   }
   std::stable_sort(sorted.begin(), sorted.end(),

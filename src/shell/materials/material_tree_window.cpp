@@ -14,6 +14,7 @@
 #include "foundation/message_rows.h"
 #include "shell/materials/material_columns.h"
 #include "shell/materials/material_texts.h"
+#include "shell/windows/phrases.h"
 #include "storage/materials/material_row.h"
 
 namespace velmar::shell {
@@ -180,7 +181,7 @@ void MaterialTreeWindow::ShowSelected() {
   storage::TableSchema table;
   if (selected) {
     table = storage::TableOf(selected->family);
-    tools_.Try([&] { cells = source_.find(selected->family, FromQt(selected->name)); });
+    tools_.Try([&] { cells = source_.find(selected->family, ToUtf8(selected->name)); });
   }
   for (std::size_t i = 0; i < kProperties.size(); ++i) {
     const Property& property = kProperties.at(i);

@@ -7,7 +7,7 @@
 #include <QLabel>
 #include <QLineEdit>
 
-#include "calculation/edits/element_choice.h"
+#include "calculation/edits/element_numbers.h"
 #include "foundation/message_rows.h"
 #include "shell/fields/number_field.h"
 #include "shell/page_parts/element_name.h"
@@ -17,6 +17,8 @@
 
 namespace velmar::shell {
 namespace {
+
+using elements::Field;
 
 // Symbols and units, the same in every language.
 constexpr const char* kRating = "Rw (dB)";
@@ -78,6 +80,7 @@ void ElementForm::AddArea(const ElementNames& names) {
       });
     });
   });
+  context_.Place({.field = Field::kArea, .index = element_}, area_);
   area_line_ = new QHBoxLayout;
   area_line_->addWidget(area_);
   if (element_ > 0) AddSmallElementCheck(names.area);
@@ -118,6 +121,7 @@ void ElementForm::AddRatings(const ElementNames& names) {
   rating_ = number(
       names.rating, kRating, NumberKind::kReal,
       [](auto& element) -> std::string& { return element.rating_text; }, this);
+  context_.Place({.field = Field::kRating, .index = element_}, rating_);
   rating_->setToolTip(Text(context_.Words(), kRatingTipRow));
   rating_label_ = new QLabel(kRating, this);
   rating_label_->setObjectName(names.rating_label);
@@ -130,6 +134,8 @@ void ElementForm::AddRatings(const ElementNames& names) {
   ctr_ = number(
       names.ctr, kCtr, NumberKind::kTerm, [](auto& element) -> std::string& { return element.ctr_text; },
       terms_);
+  context_.Place({.field = Field::kC, .index = element_}, c_);
+  context_.Place({.field = Field::kCtr, .index = element_}, ctr_);
   auto* terms = new QHBoxLayout(terms_);
   terms->setContentsMargins(kPageSpacing, 0, 0, 0);
   for (NumberField* field : {c_, ctr_}) {
@@ -152,7 +158,10 @@ void ElementForm::AddLine(QLabel* label, const std::vector<QWidget*>& fields) {
 
 void ElementForm::AddBands(const ElementNames& names) {
   bands_ = new BandBoxes(names.bands_frame, names.bands, context_.Words(), this);
-  for (NumberField* box : bands_->Boxes()) context_.Watch(box);
+  for (int band = 0; NumberField * box : bands_->Boxes()) {
+    context_.Watch(box);
+    context_.Place({.field = Field::kBand, .index = element_, .band = band++}, box);
+  }
   connect(bands_, &BandBoxes::Edited, this, [this](std::size_t band, const std::string& text) {
     Enter([band](auto& element) -> std::string& { return element.band_texts.at(band); }, text);
   });
@@ -170,6 +179,8 @@ void ElementForm::Enter(BoxOf&& box_of, const std::string& text) {
     Visited(setup, element_, [&](auto& element) { calculation::EnterElementNumber(box_of(element), text); });
   });
 }
+
+QWidget* ElementForm::NameField() const { return name_; }
 
 void ElementForm::SetNameLabel(const QString& text) { name_label_->setText(text); }
 

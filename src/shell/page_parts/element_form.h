@@ -44,6 +44,7 @@ class ElementForm : public QWidget {
 
   void Show(const elements::Setup& setup);
   void SetNameLabel(const QString& text);
+  QWidget* NameField() const;
   /// Whether the area is asked for: a lining has none.
   void ShowArea(bool shown);
   /// The rating is open for entry even where the bands count.

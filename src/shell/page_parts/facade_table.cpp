@@ -1,6 +1,7 @@
 #include "shell/page_parts/facade_table.h"
 
 #include <QGridLayout>
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QMenu>
 #include <QMouseEvent>
@@ -8,7 +9,7 @@
 #include <QToolButton>
 #include <utility>
 
-#include "calculation/edits/element_choice.h"
+#include "calculation/edits/element_numbers.h"
 #include "foundation/decimal.h"
 #include "foundation/message_rows.h"
 #include "shell/fields/list_boxes.h"
@@ -54,16 +55,35 @@ FacadeTable::FacadeTable(PageContext& context, QWidget* parent)
   grid_->setColumnStretch(kShare, 2);
   AddHeads();
   for (int element = 0; element <= elements::Facade::kCapacity; ++element) rows_.push_back(AddRow(element));
-  add_ = new QPushButton("+ " + Text(context.Words(), kAddComponentRow), this);
-  add_->setObjectName("AggiungiComponente");
-  add_->setFlat(true);
+  AddButtons();
+}
+
+void FacadeTable::AddButtons() {
+  const auto make = [this](MessageRow words, const char* name) {
+    auto* button = new QPushButton("+ " + Text(context_.Words(), words), this);
+    button->setObjectName(name);
+    button->setFlat(true);
+    return button;
+  };
+  add_ = make(kAddComponentRow, "AggiungiComponente");
   connect(add_, &QPushButton::clicked, this, [this] {
     const int number = context_.open.Setup().facade.Count() + 1;
     if (!calculation::CanAddComponent(context_.open.Setup())) return;
     Do(StepKind::kComponentAdded, number, calculation::AddComponent);
     rows_.at(static_cast<std::size_t>(number)).name->setFocus(Qt::OtherFocusReason);
   });
-  grid_->addWidget(add_, elements::Facade::kCapacity + 2, kName, Qt::AlignLeft);
+  add_measured_ = make(kAddMeasuredComponentRow, "AggiungiMisurato");
+  add_measured_->setToolTip(Text(context_.Words(), kAddMeasuredTipRow));
+  connect(add_measured_, &QPushButton::clicked, this, [this] {
+    emit context_.SettleAsked();
+    if (const auto number = calculation::FreeComponent(context_.open.Setup())) PickMeasured(*number);
+  });
+  auto* line = new QHBoxLayout;
+  line->setContentsMargins(0, 0, 0, 0);
+  line->addWidget(add_);
+  line->addWidget(add_measured_);
+  line->addStretch(1);
+  grid_->addLayout(line, elements::Facade::kCapacity + 2, kName, 1, kTools - kName + 1);
 }
 
 void FacadeTable::AddHeads() {
@@ -224,12 +244,14 @@ void FacadeTable::OpenMenu(int number) {
     add(kResultsDatabaseRow, "risultati_componente", true,
         [this, pick] { context_.services.pick_saved_result(window(), pick); });
   if (services.pick_measured)
-    add(kMeasuredDataRow, "dati_componente", true, [this, number] {
-      const QString caption =
-          Text(context_.Words(), kComponentOfCaptionRow) + ' ' + QString::number(number) + ':';
-      context_.services.pick_measured(window(), {number, caption});
-    });
+    add(kMeasuredDataRow, "dati_componente", true, [this, number] { PickMeasured(number); });
   menu->popup(tools->mapToGlobal(QPoint(0, tools->height())));
+}
+
+void FacadeTable::PickMeasured(int number) {
+  const QString caption =
+      Text(context_.Words(), kComponentOfCaptionRow) + ' ' + QString::number(number) + ':';
+  context_.services.pick_measured(window(), {number, caption});
 }
 
 template <typename Change>
@@ -265,6 +287,7 @@ void FacadeTable::Show(const Setup& setup) {
     if (used) ShowRow(row, static_cast<int>(i), setup, numbers[i]);
   }
   add_->setVisible(calculation::CanAddComponent(setup));
+  add_measured_->setVisible(context_.services.pick_measured && calculation::FreeComponent(setup));
 }
 
 void FacadeTable::ShowRow(Row& row, int element, const Setup& setup, const calculation::FacadeRow& numbers) {

@@ -48,11 +48,13 @@ class FacadeTable : public QWidget {
   };
 
   void AddHeads();
+  void AddButtons();
   Row AddRow(int element);
   void AddNumbers(Row& row, int element);
   void AddTightness(Row& row, int element);
   QToolButton* MakeTools(int element);
   void OpenMenu(int number);
+  void PickMeasured(int number);
   void ShowRow(Row& row, int element, const elements::Setup& setup, const calculation::FacadeRow& numbers);
   bool eventFilter(QObject* watched, QEvent* event) override;
   /// Does `change` as the step `kind` on component `number`.
@@ -63,6 +65,7 @@ class FacadeTable : public QWidget {
   QGridLayout* grid_ = nullptr;
   std::vector<Row> rows_{};
   QPushButton* add_ = nullptr;
+  QPushButton* add_measured_ = nullptr;
 };
 
 }  // namespace velmar::shell

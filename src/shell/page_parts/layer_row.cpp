@@ -10,6 +10,7 @@
 #include <QToolButton>
 
 #include "calculation/edits/layer_edits.h"
+#include "calculation/edits/material_choice.h"
 #include "calculation/edits/pasted_layers.h"
 #include "elements/parts.h"
 #include "foundation/decimal.h"
@@ -29,19 +30,6 @@ namespace velmar::shell {
 namespace {
 
 constexpr int kGroupsOfTwo = 2;
-
-bool Knows(const elements::MaterialLookup& materials, elements::MaterialFamily family,
-           const std::string& name) {
-  switch (family) {
-    case elements::MaterialFamily::kStructural:
-      return materials.structural(name).has_value();
-    case elements::MaterialFamily::kFibrous:
-      return materials.fibrous(name).has_value();
-    case elements::MaterialFamily::kResilient:
-      return materials.resilient(name).has_value();
-  }
-  return false;
-}
 
 MessageRow CheckCaption(const LayerRowPlan& plan) {
   if (plan.group == elements::LayerGroup::kSeaCavityDamping) return kDampingRow;
@@ -116,6 +104,8 @@ void LayerRow::MakeFields(QWidget* page) {
   });
   connect(material_, &MaterialBox::TablePasted, this, &LayerRow::PutTable);
   context_.Watch(material_);
+  context_.Place({.field = elements::Field::kMaterial, .group = plan_.group, .index = plan_.index},
+                 material_);
 
   thickness_ = new NumberField(ArrayName(group.thickness_box, plan_.index), NumberKind::kReal, page);
   thickness_->setAccessibleName(Text(words, kLayerThicknessRow) + row);
@@ -128,6 +118,8 @@ void LayerRow::MakeFields(QWidget* page) {
   });
   connect(thickness_, &NumberField::Left, this, &LayerRow::LeaveThickness);
   context_.Watch(thickness_);
+  context_.Place({.field = elements::Field::kThickness, .group = plan_.group, .index = plan_.index},
+                 thickness_);
 
   if (plan_.count_box != nullptr) {
     sheets_ = new CountBox(ArrayName(plan_.count_box, plan_.index), 1, calculation::kMostSheets, page);
@@ -182,7 +174,7 @@ bool LayerRow::Holds(const QWidget* widget) const {
 
 void LayerRow::PutMaterial(const std::string& name) {
   const elements::MaterialFamily family = RowOf(plan_.group).family;
-  if (!Knows(context_.services.materials, family, name)) return;
+  if (!calculation::IsMaterial(context_.services.materials, family, name)) return;
   context_.materials.Known().Use(family, FromUtf8(name));
   context_.Edit([&](elements::Setup& setup) {
     calculation::PutMaterial(setup, plan_.group, plan_.index, name, context_.services.materials);

@@ -64,9 +64,17 @@ LayerTools::LayerTools(elements::LayerGroup group, int index, PageContext& conte
   number_->setContextMenuPolicy(Qt::CustomContextMenu);
   connect(number_, &QWidget::customContextMenuRequested, this, &LayerTools::OpenMenu);
   number_->installEventFilter(this);
+  connect(&context_, &PageContext::RowFocusAsked, this, [this](elements::LayerGroup wanted, int row, int place) {
+    if (wanted != group_ || row != index_) return;
+    QWidget* field = served_.at(static_cast<std::size_t>(place));
+    if (field->isVisible()) field->setFocus(Qt::ShortcutFocusReason);
+  });
 }
 
-void LayerTools::Serve(QWidget* field) { field->installEventFilter(this); }
+void LayerTools::Serve(QWidget* field) {
+  field->installEventFilter(this);
+  served_.push_back(field);
+}
 
 int LayerTools::RowsInUse() const { return elements::RowsInUse(context_.open.Setup(), group_); }
 
@@ -179,14 +187,12 @@ void LayerTools::Paste(bool in_place_of_all) {
 }
 
 void LayerTools::Follow(const QWidget* field, int row) {
-  QString name = field->objectName();
-  const qsizetype mark = name.lastIndexOf('_');
-  if (mark < 0) return;
-  auto* there = page_->findChild<QWidget*>(name.left(mark + 1) + QString::number(row));
-  if (there != nullptr && there->isVisible()) there->setFocus(Qt::ShortcutFocusReason);
+  const auto here = std::ranges::find(served_, field);
+  if (here == served_.end()) return;
+  emit context_.RowFocusAsked(group_, row, static_cast<int>(here - served_.begin()));
 }
 
-bool LayerTools::TakeKey(QWidget* field, int key) {
+bool LayerTools::TakeKey(const QWidget* field, int key) {
   const int rows = RowsInUse();
   switch (key) {
     case Qt::Key_Up:

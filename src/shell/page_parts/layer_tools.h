@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QObject>
+#include <vector>
 
 #include "calculation/open/history.h"
 #include "elements/layer_groups.h"
@@ -27,7 +28,8 @@ class LayerTools : public QObject {
   /// @param number what shows the row's number; takes dropped layers
   LayerTools(elements::LayerGroup group, int index, PageContext& context, QLabel* number, QWidget* page);
 
-  /// Keys in `field` of the row act on the row from now on.
+  /// Keys in `field` of the row act on the row from now on. All rows of a table hand in their fields in the same
+  /// order.
   void Serve(QWidget* field);
   /// The button that opens the menu.
   QToolButton* Button() const { return button_; }
@@ -40,7 +42,7 @@ class LayerTools : public QObject {
  private:
   void OpenMenu();
   void AddMaterialActions(QMenu& menu);
-  bool TakeKey(QWidget* field, int key);
+  bool TakeKey(const QWidget* field, int key);
   bool TakeDrop(QEvent* event);
 
   void Insert(int at);
@@ -62,6 +64,7 @@ class LayerTools : public QObject {
   QLabel* number_;
   QWidget* page_;
   QToolButton* button_ = nullptr;
+  std::vector<QWidget*> served_;
 };
 
 /// The buttons "Specchia" and "Gira" over the layers of a leaf.

@@ -4,9 +4,11 @@
 #include <optional>
 #include <type_traits>
 #include <utility>
+#include <vector>
 
 #include "calculation/edits/material_choice.h"
 #include "calculation/open/open_calculation.h"
+#include "elements/fields.h"
 #include "presentation/drawing/section.h"
 #include "shell/fields/corrections.h"
 #include "shell/page_parts/material_lists.h"
@@ -51,6 +53,12 @@ class PageContext : public QObject {
         named);
   }
 
+  /// From now on `control` is where `field` is entered: a refusal and the drawing lead there.
+  void Place(const elements::FieldId& field, QWidget* control) { places_.emplace_back(field, control); }
+  /// Where `field` is entered, for the values of a layer's material the list of its materials; null where no
+  /// page asks for it.
+  QWidget* ControlOf(const elements::FieldId& field) const;
+
   /// What `field` corrects stands beside it from now on, and the field settles when the window asks for it.
   /// @param Field has the signal Corrected; where it has a slot Settle, that is used too
   template <typename Field>
@@ -72,6 +80,11 @@ class PageContext : public QObject {
   /// Whatever was typed and is not yet taken is to be taken now: before a run, or before the project is
   /// saved.
   void SettleAsked();
+  /// The keys go to the field `place` of row `row`, counted as the row's fields follow each other.
+  void RowFocusAsked(velmar::elements::LayerGroup group, int row, int place);
+
+ private:
+  std::vector<std::pair<elements::FieldId, QWidget*>> places_;
 };
 
 }  // namespace velmar::shell

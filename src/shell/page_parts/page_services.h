@@ -23,7 +23,8 @@ struct LayerPick {
 
 /// What a stored result or a measurement is asked for: the base element, or a component of the facade.
 struct ElementPick {
-  int component = 0;  ///< 0: opaque part or base element; 1 to 9: a component
+  /// 0: opaque part or base element; 1 to 9: a component, in use from then on
+  int component = 0;
   QString caption{};  ///< of the window that offers it
 };
 

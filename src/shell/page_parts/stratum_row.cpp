@@ -22,6 +22,7 @@
 namespace velmar::shell {
 namespace {
 
+using elements::Field;
 using elements::LayerGroup;
 using elements::Setup;
 using elements::Stratum;
@@ -61,7 +62,9 @@ StratumRow::StratumRow(int index, PageContext& context, QGridLayout& grid, QWidg
       grid, line, page);
   fibre_ = new LayerRow({.group = LayerGroup::kStratumFibre, .index = index, .shift = kShift}, context, grid,
                         line, page);
-  thickness_ = MakeText("TextSpessoreStrato", kLayerThicknessRow, &Stratum::thickness_text, page);
+  thickness_ = MakeText({"TextSpessoreStrato", Field::kStratumThickness, kLayerThicknessRow,
+                         &Stratum::thickness_text},
+                        page);
   thickness_->setToolTip(Text(context.Words(), kLayerThicknessTipRow));
   grid.addWidget(thickness_, line, kThicknessColumn);
   MakeMenu(page);
@@ -72,6 +75,7 @@ StratumRow::StratumRow(int index, PageContext& context, QGridLayout& grid, QWidg
 void StratumRow::MakeKind(QWidget* page) {
   kind_ = new ChoiceBox(ArrayName("ComboTipoStrato", index_), page);
   kind_->Offer(Items(context_.Words(), kPlateStratumRow, elements::kStratumKindCount));
+  context_.Place({.field = Field::kStratumKind, .index = index_}, kind_);
   kind_->setAccessibleDescription(Text(context_.Words(), kStratumKindRow) + ' ' +
                                   QString::number(index_ + 1));
   connect(kind_, &QComboBox::activated, this, [this](int kind) {
@@ -143,9 +147,13 @@ void StratumRow::MakeDetail(QGridLayout& grid, QWidget* page) {
     line->addWidget(field);
     of_profile_.insert(of_profile_.end(), {label, field});
   };
-  profile_height_ = MakeText("TextAltezzaGreca", kProfileHeightRow, &Stratum::profile_height_text, detail_);
+  profile_height_ = MakeText({"TextAltezzaGreca", Field::kProfileHeight, kProfileHeightRow,
+                              &Stratum::profile_height_text},
+                             detail_);
   add(profile_height_, kProfileHeightRow);
-  profile_pitch_ = MakeText("TextPassoGreca", kProfilePitchRow, &Stratum::profile_pitch_text, detail_);
+  profile_pitch_ = MakeText({"TextPassoGreca", Field::kProfilePitch, kProfilePitchRow,
+                             &Stratum::profile_pitch_text},
+                            detail_);
   add(profile_pitch_, kProfilePitchRow);
   line->addStretch(1);
   const int below = 2 + index_ * kLinesOfRow;
@@ -156,6 +164,7 @@ void StratumRow::MakeConnection(QBoxLayout& line, QWidget* page) {
   const auto& words = context_.Words();
   connection_ = new ChoiceBox(ArrayName("ComboCollegamento", index_), page);
   connection_->Offer(Items(words, kNoConnectionRow, elements::kCavityConnectionCount));
+  context_.Place({.field = Field::kConnection, .index = index_}, connection_);
   connection_->setAccessibleDescription(Text(words, kCavityConnectionRow) + ' ' +
                                         QString::number(index_ + 1));
   connect(connection_, &QComboBox::activated, this, [this](int connection) {
@@ -165,7 +174,9 @@ void StratumRow::MakeConnection(QBoxLayout& line, QWidget* page) {
   });
   auto* caption = new QLabel(Text(words, kCavityConnectionRow), page);
   caption->setBuddy(connection_);
-  connection_number_ = MakeText("TextCollegamento", kConnectionSpacingRow, &Stratum::connection_text, page);
+  connection_number_ = MakeText({"TextCollegamento", Field::kConnectionNumber, kConnectionSpacingRow,
+                                 &Stratum::connection_text},
+                                page);
   connection_caption_ = new QLabel(page);
   connection_caption_->setBuddy(connection_number_);
   of_cavity_ = {caption, connection_};
@@ -176,12 +187,12 @@ void StratumRow::MakeConnection(QBoxLayout& line, QWidget* page) {
     line.addWidget(widget);
 }
 
-NumberField* StratumRow::MakeText(const char* name, MessageRow caption, std::string Stratum::*text,
-                                  QWidget* page) {
-  auto* field = new NumberField(ArrayName(name, index_), NumberKind::kReal, page);
-  field->setAccessibleName(Text(context_.Words(), caption) + ' ' + QString::number(index_ + 1));
+NumberField* StratumRow::MakeText(const TextPlan& plan, QWidget* page) {
+  auto* field = new NumberField(ArrayName(plan.name, index_), NumberKind::kReal, page);
+  field->setAccessibleName(Text(context_.Words(), plan.caption) + ' ' + QString::number(index_ + 1));
   context_.Watch(field);
-  connect(field, &NumberField::Edited, this, [this, text](const std::string& typed) {
+  context_.Place({.field = plan.field, .index = index_}, field);
+  connect(field, &NumberField::Edited, this, [this, text = plan.text](const std::string& typed) {
     context_.Edit([&](Setup& setup) { StratumOf(setup, index_).*text = typed; });
   });
   return field;

@@ -53,8 +53,14 @@ class StratumRow : public QObject {
   void MakeMenu(QWidget* page);
   void MakeDetail(QGridLayout& grid, QWidget* page);
   void MakeConnection(QBoxLayout& line, QWidget* page);
-  NumberField* MakeText(const char* name, MessageRow caption, std::string elements::Stratum::*text,
-                        QWidget* page);
+  /// A field of numbers and what it is about.
+  struct TextPlan {
+    const char* name = "";
+    elements::Field field{};
+    MessageRow caption{};
+    std::string elements::Stratum::*text = nullptr;
+  };
+  NumberField* MakeText(const TextPlan& plan, QWidget* page);
   void ShowDetail(const elements::Setup& setup);
   template <typename Change>
   void Rearrange(Change&& change);

@@ -45,6 +45,7 @@ BaseElementPage::BaseElementPage(PageContext& context, QWidget* parent) : Page(p
                            .bands = "Text13"},
                           context, this);
   form_->SetNameLabel(Text(context.Words(), kBaseElementRow));
+  context.Place({.field = elements::Field::kSimplified}, simplified_);
   column->addWidget(simplified_);
   column->addWidget(form_);
   AddPlainBase();
@@ -60,6 +61,7 @@ void BaseElementPage::AddPlainBase() {
   thickness_->setAccessibleName(Text(words, kBaseThicknessTipRow));
   thickness_->setPlaceholderText(FromUtf8(FormatShortest(elements::kDefaultBaseThicknessMm)));
   context_.Watch(thickness_);
+  context_.Place({.field = elements::Field::kBaseThickness}, thickness_);
   connect(thickness_, &NumberField::Edited, this, [this](const std::string& text) {
     context_.Edit(
         [&](elements::Setup& setup) { setup.base.thickness_mm = ParseDecimal(text).value_or(0.0); });
@@ -68,6 +70,7 @@ void BaseElementPage::AddPlainBase() {
   mass_->setToolTip(Text(words, kBaseMassTipRow));
   mass_->setAccessibleName(Text(words, kBaseMassTipRow));
   context_.Watch(mass_);
+  context_.Place({.field = elements::Field::kMass}, mass_);
   connect(mass_, &NumberField::Edited, this, [this](const std::string& text) {
     context_.Edit([&](elements::Setup& setup) { setup.base.mass_kg_m2 = ParseSingle(text).value_or(0.0F); });
   });
@@ -76,6 +79,8 @@ void BaseElementPage::AddPlainBase() {
   mass_label_->setContentsMargins(kPageSpacing, 0, 0, 0);
   form_->AddLine(thickness_label_, {thickness_, mass_label_, mass_});
 }
+
+QWidget* BaseElementPage::NameField() const { return form_->NameField(); }
 
 void BaseElementPage::Show(const elements::Setup& setup) {
   if (!setup.calculation) return;

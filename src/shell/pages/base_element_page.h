@@ -17,6 +17,8 @@ class BaseElementPage : public Page {
   explicit BaseElementPage(PageContext& context, QWidget* parent = nullptr);
 
   void Show(const elements::Setup& setup) override;
+  /// Where the element is named or chosen.
+  QWidget* NameField() const;
 
  private:
   void AddPlainBase();

@@ -44,6 +44,7 @@ void CavityPage::AddDepth(QVBoxLayout& column) {
   depth_->setAccessibleName(label->text());
   depth_->setToolTip(Text(context_.Words(), kDepthTipRow));
   context_.Watch(depth_);
+  context_.Place({.field = elements::Field::kCavityDepth}, depth_);
   connect(depth_, &NumberField::Edited, this, [this](const std::string& text) {
     context_.Edit([&](elements::Setup& setup) { setup.cavity.depth_text = text; });
   });
@@ -93,6 +94,8 @@ void CavityPage::AddKinds(QVBoxLayout& column) {
     kinds_.at(i) = kind;
   }
   context_.Watch(fibre_);
+  context_.Place({.field = elements::Field::kCavityKind}, kinds_.front());
+  context_.Place({.field = elements::Field::kFibreThickness}, fibre_);
   connect(fibre_, &NumberField::Edited, this, [this](const std::string& text) {
     context_.Edit([&](elements::Setup& setup) { calculation::EnterFibreThickness(setup, text); });
   });

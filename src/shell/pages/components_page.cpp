@@ -9,7 +9,7 @@
 #include <QVBoxLayout>
 
 #include "calculation/edits/count_rules.h"
-#include "calculation/edits/element_choice.h"
+#include "calculation/edits/element_numbers.h"
 #include "foundation/decimal.h"
 #include "foundation/message_rows.h"
 #include "shell/fields/list_boxes.h"
@@ -98,6 +98,7 @@ ComponentsPage::Component ComponentsPage::AddComponent(int index) {
   QStringList classes = {Text(words, kClassZeroRow)};
   for (int i = 1; i <= kHighestClass; ++i)
     classes += Text(words, kAirTightnessClassRow) + ' ' + QString::number(i);
+  context_.Place({.field = elements::Field::kTightness, .index = index + 1}, component.tightness);
   component.tightness->Offer(classes);
   component.tightness->setAccessibleDescription(label->text());
   connect(component.tightness, &QComboBox::activated, this, [this, index](int chosen) {

@@ -30,13 +30,13 @@ QString WithoutColon(QString text) {
 
 }  // namespace
 
-ElementHeader::ElementHeader(PageContext& context, std::function<void()> edit_dimensions, QWidget* parent)
+ElementHeader::ElementHeader(PageContext& context, QWidget* parent)
     : QWidget(parent), context_(context) {
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(kPageMargin, kPageSpacing, kPageMargin, kPageSpacing);
   column->setSpacing(kPageSpacing);
   AddTexts(*column);
-  AddNumbers(*column, std::move(edit_dimensions));
+  AddNumbers(*column);
   AddConnections(*column);
 }
 
@@ -58,7 +58,7 @@ void ElementHeader::AddTexts(QVBoxLayout& column) {
   column.addLayout(texts);
 }
 
-void ElementHeader::AddNumbers(QVBoxLayout& column, std::function<void()> edit_dimensions) {
+void ElementHeader::AddNumbers(QVBoxLayout& column) {
   const auto& words = context_.Words();
   QHBoxLayout* line = AddLine(column);
   dimensions_ = new QToolButton(this);
@@ -67,7 +67,7 @@ void ElementHeader::AddNumbers(QVBoxLayout& column, std::function<void()> edit_d
   dimensions_->setAccessibleName(Text(words, kDimensionsTipRow));
   dimensions_->setAutoRaise(true);
   dimensions_->setFocusPolicy(Qt::TabFocus);
-  connect(dimensions_, &QToolButton::clicked, this, std::move(edit_dimensions));
+  connect(dimensions_, &QToolButton::clicked, this, &ElementHeader::DimensionsWanted);
   const auto named = [this](const char* name) {
     auto* label = new QLabel(this);
     label->setObjectName(name);
@@ -119,6 +119,7 @@ void ElementHeader::AddConnections(QVBoxLayout& column) {
   line->setSpacing(kPageSpacing);
   support_ = new NumberField("Text8", NumberKind::kReal, connections_);
   context_.Watch(support_);
+  context_.Place({.field = Field::kSupport}, support_);
   connect(support_, &NumberField::Edited, this, [this](const std::string& text) {
     context_.Edit([&](elements::Setup& setup) { setup.support_distance_text = text; });
   });
@@ -126,6 +127,7 @@ void ElementHeader::AddConnections(QVBoxLayout& column) {
   hanger_ = new ChoiceBox("ComboTipoAppendino", connections_);
   QStringList hangers;
   for (const MessageRow row : presentation::kHangerRows) hangers += Text(words, row);
+  context_.Place({.field = Field::kHanger}, hanger_);
   hanger_->Offer(hangers);
   hanger_->setToolTip(Text(words, kHangerTipRow));
   hanger_->setAccessibleDescription(Text(words, kConnectionTypeRow));
@@ -134,6 +136,7 @@ void ElementHeader::AddConnections(QVBoxLayout& column) {
   hanger_label_ = LabelFor(hanger_, kConnectionTypeRow, context_, connections_);
   decoupled_ = new QCheckBox(Text(words, kDecoupledRow), connections_);
   decoupled_->setObjectName("CheckDesolidarizza");
+  context_.Place({.field = Field::kDecoupling}, decoupled_);
   decoupled_->setToolTip(Text(words, kDecoupledTipRow));
   connect(decoupled_, &QCheckBox::clicked, this, [this](bool ticked) {
     context_.Edit([ticked](elements::Setup& setup) { setup.decoupled = ticked; });

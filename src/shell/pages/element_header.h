@@ -9,7 +9,6 @@ class QCheckBox;
 class QLabel;
 class QLineEdit;
 class QToolButton;
-
 class QVBoxLayout;
 
 namespace velmar::shell {
@@ -20,15 +19,20 @@ class NumberField;
 /// What stands over the tabs: kind and theory of the element, dimensions, totals, and the fields that belong
 /// to the whole element.
 class ElementHeader : public QWidget {
+  Q_OBJECT
+
  public:
-  /// @param edit_dimensions opens the dimension dialog
-  ElementHeader(PageContext& context, std::function<void()> edit_dimensions, QWidget* parent = nullptr);
+  explicit ElementHeader(PageContext& context, QWidget* parent = nullptr);
 
   void Show();
 
+ signals:
+  /// The dimensions are to be entered.
+  void DimensionsWanted();
+
  private:
   void AddTexts(QVBoxLayout& column);
-  void AddNumbers(QVBoxLayout& column, std::function<void()> edit_dimensions);
+  void AddNumbers(QVBoxLayout& column);
   void AddConnections(QVBoxLayout& column);
 
   PageContext& context_;

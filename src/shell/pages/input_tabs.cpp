@@ -6,6 +6,7 @@
 #include <algorithm>
 
 #include "shell/fields/number_field.h"
+#include "shell/fields/reveal.h"
 #include "shell/pages/base_element_page.h"
 #include "shell/pages/cavity_page.h"
 #include "shell/pages/components_page.h"
@@ -31,14 +32,14 @@ QScrollArea* InScrollArea(QWidget* page) {
 
 }  // namespace
 
-InputTabs::InputTabs(PageContext& context, QWidget* parent) : QTabWidget(parent), context_(context) {
+InputTabs::InputTabs(PageContext& context, QWidget* parent) : QTabWidget(parent), context_(context), base_(new BaseElementPage(context)) {
   setObjectName("SSTab1");
   setIconSize({24, 24});
   pages_ = {new LeafPage(LeafPage::Leaf::kFirst, context),
             new LeafPage(LeafPage::Leaf::kSecond, context),
             new CavityPage(context),
             new ResilientLayersPage(context),
-            new BaseElementPage(context),
+            base_,
             new ComponentsPage(context),
             new SeaLeafPage(SeaLeafPage::Side::kFirst, context),
             new SeaLeafPage(SeaLeafPage::Side::kSecond, context),
@@ -67,16 +68,14 @@ void InputTabs::AddKeys() {
 void InputTabs::FocusFirst() { FocusFirstField(currentWidget()); }
 
 void InputTabs::GoTo(const presentation::LayerPlace& place) {
-  const QString name = place.group ? ArrayName(RowOf(*place.group).list, place.row) : QString("Combo14");
-  for (int tab = 0; tab < count(); ++tab) {
-    auto* field = isTabVisible(tab) ? widget(tab)->findChild<QWidget*>(name) : nullptr;
-    if (field == nullptr) continue;
-    setCurrentIndex(tab);
-    if (!field->isVisible()) return FocusFirst();
-    field->setFocus(Qt::OtherFocusReason);
-    static_cast<QScrollArea*>(widget(tab))->ensureWidgetVisible(field);
-    return;
-  }
+  QWidget* field = place.group ? context_.ControlOf({.field = elements::Field::kMaterial,
+                                                     .group = place.group,
+                                                     .index = place.row})
+                               : base_->NameField();
+  if (field == nullptr) return;
+  BringForward(field);
+  if (!field->isVisible()) return FocusFirst();
+  field->setFocus(Qt::OtherFocusReason);
 }
 
 void InputTabs::ShowFirst() {

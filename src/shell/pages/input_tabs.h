@@ -9,6 +9,7 @@
 
 namespace velmar::shell {
 
+class BaseElementPage;
 class Page;
 
 /// The tab strip with the input pages (`SSTab1`). Each calculation shows its own tabs; Ctrl+1 to Ctrl+9 reach
@@ -35,6 +36,7 @@ class InputTabs : public QTabWidget {
   void LayOut(elements::Calculation calculation);
 
   PageContext& context_;
+  BaseElementPage* base_;
   std::array<Page*, kTabCount> pages_{};
   std::optional<elements::Calculation> laid_out_;
 };

@@ -65,6 +65,7 @@ void MultilayerPage::AddFoot() {
   });
   tracks_ = new QCheckBox(Text(context_.Words(), kTracksRow), this);
   tracks_->setObjectName("CheckGuide");
+  context_.Place({.field = elements::Field::kTracks}, tracks_);
   tracks_->setToolTip(Text(context_.Words(), kTracksTipRow));
   connect(tracks_, &QCheckBox::clicked, this, [this](bool ticked) {
     context_.Edit([&](elements::Setup& setup) { setup.multilayer.framed = ticked; });

@@ -62,6 +62,8 @@ void SeaCavityPage::AddHead(QVBoxLayout& column) {
   depth_->setAccessibleName(Text(context_.Words(), kLayerThicknessRow));
   depth_->setToolTip(Text(context_.Words(), kDepthTipRow));
   context_.Watch(depth_);
+  context_.Place({.field = elements::Field::kSeaCavityType}, type_);
+  context_.Place({.field = elements::Field::kSeaCavityDepth}, depth_);
   connect(depth_, &NumberField::Edited, this, [this](const std::string& text) {
     context_.Edit([&](elements::Setup& setup) { setup.sea_cavity.depth_text = text; });
   });

@@ -7,8 +7,9 @@
 
 #include "foundation/failure.h"
 #include "foundation/message_rows.h"
+#include "presentation/export/page_pdf.h"
 #include "shell/printing/print_preview.h"
-#include "shell/printing/save_pdf.h"
+#include "storage/files/whole_file.h"
 
 namespace velmar::printing {
 namespace {
@@ -102,6 +103,11 @@ PrinterChoice InstalledPrinters(PagePrinter& printer, const PrintingBoxes& boxes
                 return true;
               },
           .tell_failure = [tell = boxes.tell_failure, parent](const QString& text) { tell(parent, text); }};
+}
+
+void SavePdf(const presentation::PaginaDiStampa& page, const std::string& title,
+             const std::filesystem::path& path) {
+  storage::WriteWhole(path, presentation::PagePdf(page, title));
 }
 
 }  // namespace velmar::printing

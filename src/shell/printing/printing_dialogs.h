@@ -65,4 +65,9 @@ void ChoosePrinter(PagePrinter& printer, const PrintingBoxes& boxes, QWidget* pa
 /// default stays: it belongs to all programs.
 PrinterChoice InstalledPrinters(PagePrinter& printer, const PrintingBoxes& boxes, QWidget* parent);
 
+/// Writes `page` as a PDF file, whole or not at all. @param title the document's, UTF-8
+/// @throws storage::StoreFailure when the file cannot be written; the old one is untouched then
+void SavePdf(const presentation::PaginaDiStampa& page, const std::string& title,
+             const std::filesystem::path& path);
+
 }  // namespace velmar::printing

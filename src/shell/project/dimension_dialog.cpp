@@ -5,7 +5,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-#include "calculation/edits/dimensions.h"
+#include "calculation/edits/element_numbers.h"
 #include "foundation/message_rows.h"
 #include "shell/fields/field_note.h"
 #include "shell/fields/number_field.h"

@@ -33,7 +33,8 @@ ProjectFiles::ProjectFiles(calculation::OpenCalculation& open, const Speech& spe
       services_(services),
       memory_(memory),
       recovery_(recovery),
-      proposed_(places, memory) {}
+      proposed_(places, memory),
+      templates_(places.templates, speech, services) {}
 
 QString ProjectFiles::Caption() const {
   const QString name = project_.path.empty() ? Text(speech_.words, kNewProjectRow)
@@ -91,6 +92,28 @@ bool ProjectFiles::Load(const std::filesystem::path& file) {
   if (!open_.Setup().calculation)
     speech_.boxes.tell(Tone::kInformation, Text(speech_.words, kProjectOfUnknownCalculationRow));
   return true;
+}
+
+bool ProjectFiles::Begin(const std::filesystem::path& pattern) {
+  if (!LeaveUnsaved()) return false;
+  try {
+    elements::Setup setup = services_.read_project(pattern);
+    if (services_.new_setup) setup.information = services_.new_setup().information;
+    open_.Replace(std::move(setup));
+  } catch (const std::exception& failure) {
+    TellFailure(failure);
+    return false;
+  }
+  Rename({});
+  emit Opened();
+  if (!open_.Setup().calculation)
+    speech_.boxes.tell(Tone::kInformation, Text(speech_.words, kProjectOfUnknownCalculationRow));
+  return true;
+}
+
+void ProjectFiles::KeepAsTemplate() {
+  const QString name = project_.path.empty() ? QString() : FromUtf8(project_.path.stem());
+  if (const auto file = templates_.Keep(open_.Setup(), name)) emit TemplateKept(*file);
 }
 
 bool ProjectFiles::Save() {

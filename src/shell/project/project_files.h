@@ -9,6 +9,7 @@
 #include "shell/project/project_services.h"
 #include "shell/project/proposed_files.h"
 #include "shell/project/recovery.h"
+#include "shell/project/templates.h"
 #include "shell/project/window_memory.h"
 #include "shell/windows/boxes.h"
 
@@ -32,6 +33,12 @@ class ProjectFiles : public QObject {
   bool Open();
   /// The same for a file that is named already: recent, dropped, or from the command line.
   bool Open(const std::filesystem::path& project);
+  /// Asks about unsaved changes and begins a new work with what the template `pattern` holds: without a name,
+  /// and with the project information of a new work. @return whether it began
+  bool Begin(const std::filesystem::path& pattern);
+  /// Asks for a name and keeps the open work as a template.
+  void KeepAsTemplate();
+  const Templates& OwnTemplates() const { return templates_; }
   /// Saves to the open project's file; asks for one where there is none, or where it is an example. A file
   /// that another program has written meanwhile is replaced only when the user says so.
   /// @return whether it was saved
@@ -72,6 +79,8 @@ class ProjectFiles : public QObject {
   void Renamed();
   /// The project was written to its file.
   void Saved(const std::filesystem::path& file);
+  /// The open work was kept as the template `file`.
+  void TemplateKept(const std::filesystem::path& file);
 
  private:
   bool Load(const std::filesystem::path& file);
@@ -87,6 +96,7 @@ class ProjectFiles : public QObject {
   WindowMemory& memory_;
   Recovery& recovery_;
   ProposedFiles proposed_;
+  Templates templates_;
   ProjectFile project_;
 };
 

@@ -4,12 +4,14 @@
 #include <algorithm>
 #include <system_error>
 
+#include "shell/windows/phrases.h"
+
 namespace velmar::shell {
 namespace {
 
 namespace fs = std::filesystem;
 
-QString ToQt(const fs::path& path) { return QString::fromStdString(path.string()); }
+QString FromUtf8(const fs::path& path) { return QString::fromStdString(path.string()); }
 
 fs::path Whole(const fs::path& path) {
   std::error_code error;
@@ -23,7 +25,7 @@ bool IsFolder(const fs::path& path) {
 }
 
 /// The file `name` in `folder`, or the folder itself.
-QString In(const fs::path& folder, const fs::path& name) { return ToQt(folder / name); }
+QString In(const fs::path& folder, const fs::path& name) { return FromUtf8(folder / name); }
 
 }  // namespace
 
@@ -50,7 +52,7 @@ fs::path ProposedFiles::Documents() const {
 }
 
 QString ProposedFiles::ToOpen(const fs::path& project) const {
-  if (!project.empty()) return ToQt(project);
+  if (!project.empty()) return FromUtf8(project);
   const fs::path last = LastProjectFolder();
   return In(last.empty() ? Documents() : last, "");
 }

@@ -8,13 +8,14 @@
 #include <system_error>
 
 #include "foundation/failure.h"
+#include "shell/windows/phrases.h"
 
 namespace velmar::shell {
 namespace {
 
 constexpr const char* kCopyEnding = ".drav";
 
-QString ToQt(const std::filesystem::path& path) { return QString::fromStdString(path.string()); }
+QString FromUtf8(const std::filesystem::path& path) { return QString::fromStdString(path.string()); }
 
 std::filesystem::path LockOf(std::filesystem::path copy) { return copy.replace_extension(".lock"); }
 
@@ -22,13 +23,13 @@ std::filesystem::path LockOf(std::filesystem::path copy) { return copy.replace_e
 std::filesystem::path NameOf(std::filesystem::path copy) { return copy.replace_extension(".progetto"); }
 
 std::unique_ptr<QLockFile> LockFor(const std::filesystem::path& copy) {
-  auto lock = std::make_unique<QLockFile>(ToQt(LockOf(copy)));
+  auto lock = std::make_unique<QLockFile>(FromUtf8(LockOf(copy)));
   lock->setStaleLockTime(0);
   return lock;
 }
 
 ProjectFile ProjectOf(const std::filesystem::path& copy) {
-  QFile file(ToQt(NameOf(copy)));
+  QFile file(FromUtf8(NameOf(copy)));
   return file.open(QIODevice::ReadOnly) ? FromLines(file.readAll()) : ProjectFile{};
 }
 
@@ -102,7 +103,7 @@ bool Recovery::WriteProjectName() const {
   std::error_code error;
   if (project_.path.empty()) return std::filesystem::remove(NameOf(copy_), error) || !error;
   const QByteArray lines = ToLines(project_);
-  QSaveFile file(ToQt(NameOf(copy_)));
+  QSaveFile file(FromUtf8(NameOf(copy_)));
   return file.open(QIODevice::WriteOnly) && file.write(lines) == lines.size() && file.commit();
 }
 
@@ -126,7 +127,7 @@ std::vector<LostWork> Recovery::LeftBehind() const {
     if (copy == copy_ || copy.extension() != kCopyEnding) continue;
     std::shared_ptr<QLockFile> lock = LockFor(copy);
     if (!lock->tryLock(0)) continue;  // of a program that runs
-    works.push_back({copy, ProjectOf(copy), QFileInfo(ToQt(copy)).lastModified(), std::move(lock)});
+    works.push_back({copy, ProjectOf(copy), QFileInfo(FromUtf8(copy)).lastModified(), std::move(lock)});
   }
   std::ranges::sort(works, std::ranges::greater(), &LostWork::changed);
   return works;

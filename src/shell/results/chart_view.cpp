@@ -55,6 +55,10 @@ void ChartView::Show(const presentation::CurveChart& chart) {
   chart_ = chart;
   chart_.marks.window = window_;
   Mark(marked);
+  QStringList tip = {Text(speech_.words, kChartKeysRow), FromUtf8(chart_.words.deviations),
+                     FromUtf8(chart_.words.deviations_note)};
+  tip.removeAll(QString());
+  setToolTip(tip.join('\n'));
   update();
 }
 

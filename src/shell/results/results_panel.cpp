@@ -296,9 +296,12 @@ void ResultsPanel::AddMarks(presentation::CurveChart& chart) const {
   chart.marks.deviations = chart.shift.has_value();
   chart.words.deviation = words(kDeviationRow);
   if (chart.shift) {
-    chart.words.deviations = words(kDeviationsRow) + ' ' +
-                             FormatFixed(acoustics::SumOf(presentation::DeviationsOf(chart)), 1) + ' ' +
-                             words(kOutOfRow) + ' ' + FormatFixed(acoustics::kAllowedDeviationDb, 1) + " dB";
+    const double sum = acoustics::SumOf(presentation::DeviationsOf(chart));
+    chart.words.deviations = words(kDeviationsRow) + ' ' + FormatFixed(sum, 1) + ' ' + words(kOutOfRow) +
+                             ' ' + FormatFixed(acoustics::kAllowedDeviationDb, 1) + " dB";
+    // A relation moves the curve by what it comes to, and the reference curve by whole decibels.
+    if (RoundToEven(sum, 1) > acoustics::kAllowedDeviationDb && open_.Result()->relation_rating)
+      chart.words.deviations_note = words(kDeviationsByRelationRow);
   }
   if (const auto required = elements::RequirementOf(setup)) {
     chart.marks.required = required;

@@ -222,6 +222,7 @@ void ScheduleDialog::Make() {
   job_.Start({.projects = Projects(),
               .format = format.format,
               .title = ToUtf8(title_->text().trimmed()),
+              .language = services_.language,
               .go_on_outside_ranges = go_on_->isChecked()},
              services_.tools(), target_);
   Follow();

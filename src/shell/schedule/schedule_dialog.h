@@ -3,6 +3,7 @@
 #include <QDialog>
 #include <filesystem>
 #include <functional>
+#include <optional>
 #include <vector>
 
 #include "documents/schedule_maker.h"
@@ -27,6 +28,7 @@ struct ScheduleServices {
   std::function<QStringList(const FileQuestion&)> choose_projects{};
   /// The file that a document with an ending (".docx") is offered.
   std::function<QString(const QString& ending)> propose{};
+  std::optional<elements::DocumentLanguage> language{};  ///< none: as the studio profile says
   /// A document was written.
   std::function<void(const std::filesystem::path&)> written{};
 };

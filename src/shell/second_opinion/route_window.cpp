@@ -13,7 +13,7 @@
 namespace velmar::shell {
 namespace {
 
-constexpr QSize kFirstSize{520, 480};
+constexpr QSize kFirstSize{560, 600};
 
 std::string Signed(double value_db) { return (value_db > 0.0 ? "+" : "") + FormatFixed(value_db, 1) + " dB"; }
 

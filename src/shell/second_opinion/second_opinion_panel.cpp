@@ -131,9 +131,9 @@ void SecondOpinionPanel::Show() {
   }
   delete table_;
   table_ = nullptr;
-  const bool several = opinion && opinion->models.size() > 1;
-  setVisible(several);
-  if (several) {
+  const bool any = opinion && !opinion->models.empty();
+  setVisible(any);
+  if (any) {
     ShowSummary(*opinion);
     Open();
   }
@@ -144,6 +144,10 @@ void SecondOpinionPanel::ShowSummary(const SecondOpinion& opinion) {
   const QString note = opinion.note ? Text(speech_.words, NoteLines(*opinion.note)) : QString();
   note_->setText(note);
   note_->setVisible(!note.isEmpty());
+  if (opinion.models.size() == 1) {
+    summary_->setText(Text(speech_.words, kOpinionAloneRow));
+    return;
+  }
   std::vector<double> ratings;
   for (const ModelOpinion& model : opinion.models) {
     if (const auto rating = RatingOf(model)) ratings.push_back(RoundToEven(*rating));
@@ -240,7 +244,7 @@ void SecondOpinionPanel::AddModel(const ModelOpinion& model, int row, bool impac
   if (!chosen) grid->addWidget(TickOf(model, ColourOf(*work_.Opinion(), model.id)), row, kTick);
   QString name = Text(speech_.words, model.name);
   if (chosen) name += QStringLiteral(" (") + Text(speech_.words, kOpinionChosenRow) + ')';
-  if (model.best) name += QStringLiteral(" ") + QString::fromUtf8(kBestMark);
+  if (model.best) name += QChar(QChar::Nbsp) + QString::fromUtf8(kBestMark);
   QLabel* shown = add("Modello", name, kName, Qt::AlignLeft);
   shown->setWordWrap(true);
   if (model.best) {

@@ -57,10 +57,12 @@ WindowPlaces Places() {
   };
   WindowPlaces places;
   places.manual = storage::ManualFile(program);
+  places.manual_text = storage::ManualText(program);
   places.maintenance_program = program / kMaintenanceProgram;
   if (const auto shipped = storage::ShippedDataFolder(program)) places.examples = *shipped / "Examples";
   places.documents = storage::CartellaDocumenti();
   places.settings = folder(QStandardPaths::AppConfigLocation) / "finestra.ini";
+  places.templates = folder(QStandardPaths::AppDataLocation) / "modelli";
   places.recovery = folder(QStandardPaths::AppDataLocation) / "recupero";
   return places;
 }
@@ -107,6 +109,20 @@ elements::Setup WithFirstMaterials(elements::Setup setup, const storage::Materia
   return setup;
 }
 
+DocumentServices DocumentsOf(const application::Environment& environment, const presentation::Words& words) {
+  const storage::Configuration& configuration = environment.configuration;
+  DocumentServices documents{
+      .places = {.templates = configuration.CartellaTemplates(),
+                 .data_folder = configuration.LeggiCartellaDati(),
+                 .catalogue = configuration.PercorsoInterfMess()},
+      .sources = application::MaterialSourcesIn(configuration.PercorsoDatabase(), words)};
+  if (environment.shipped) {
+    documents.places.shipped_templates = *environment.shipped / "Templates";
+    documents.places.shipped_catalogue = *environment.shipped / storage::kMessageDatabase;
+  }
+  return documents;
+}
+
 /// Everything that lives as long as the window.
 struct Desktop {
   explicit Desktop(application::Environment opened)
@@ -123,6 +139,13 @@ struct Desktop {
       storage::OpenedProject project = application::OpenProject(file, open.Setup(), services.materials);
       unknown = project.setup.calculation ? storage::StoredCalculation() : project.stored;
       return std::move(project.setup);
+    };
+    services.look_at_project = [file = store.File()](const std::filesystem::path& project,
+                                                     const elements::Setup& current) {
+      return application::OpenProject(
+                 project, current,
+                 application::ForgivingLookup(storage::MaterialLookupIn(file), [](const Failure&) {}))
+          .setup;
     };
     services.write_project = [this](const std::filesystem::path& file, const elements::Setup& setup) {
       storage::SaveProject(file, setup, unknown);
@@ -143,11 +166,10 @@ struct Desktop {
             storage::AccessReader{storage::AccessReaderProgram(storage::ProgramFolder()).value_or("")}));
     material_commands = std::make_unique<MaterialCommands>(open, services, services.places.settings,
                                                            store.File(), EditorOf(store, services.words));
-    paper_commands = std::make_unique<PaperCommands>(PaperBoxes(services));
-    report_commands = std::make_unique<ReportCommands>(
-        environment.configuration.CartellaTemplates(),
-        application::MaterialSourcesIn(environment.configuration.PercorsoDatabase(), services.words),
-        services.materials);
+    documents = DocumentsOf(environment, services.words);
+    paper_commands = std::make_unique<PaperCommands>(PaperBoxes(services), documents);
+    report_commands = std::make_unique<ReportCommands>(documents, services.materials);
+    services.documents = &documents;
     services.Add(*structure_commands);
     services.Add(*material_commands);
     services.paper_commands = paper_commands.get();
@@ -178,6 +200,7 @@ struct Desktop {
   storage::MaterialStore store;
   storage::StoredCalculation unknown{};
   WindowServices services{open};
+  DocumentServices documents{};
   std::unique_ptr<StructureCommands> structure_commands{};
   std::unique_ptr<MaterialCommands> material_commands{};
   std::unique_ptr<PaperCommands> paper_commands{};

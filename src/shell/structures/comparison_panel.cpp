@@ -13,6 +13,7 @@
 
 #include "foundation/message_rows.h"
 #include "shell/structures/test_chooser.h"
+#include "shell/windows/phrases.h"
 
 namespace velmar::structures {
 namespace {
@@ -48,8 +49,8 @@ QIcon SampleOf(const QColor& colour, const QSize& size) {
 }  // namespace
 
 ComparisonPanel::ComparisonPanel(const shell::WindowTools& tools, LibrarySource source, const Look& look,
-                                 std::function<void()> changed, QWidget* parent)
-    : QGroupBox(tools.Text(look.caption), parent), tools_(tools), changed_(std::move(changed)) {
+                                 QWidget* parent)
+    : QGroupBox(tools.Text(look.caption), parent), tools_(tools) {
   setObjectName(QLatin1String(look.frame));
   check_ = new QCheckBox(tools.Text(look.check_caption), this);
   check_->setObjectName(QLatin1String(look.check));
@@ -66,12 +67,10 @@ ComparisonPanel::ComparisonPanel(const shell::WindowTools& tools, LibrarySource 
   controls.keywords = look.keywords;
   controls.list = look.list;
   controls.nodes = look.nodes;
-  TestChooser::Listener listener;
-  listener.file = [this](const LibraryFile& file, const QString&) {
-    database_->setText(shell::ToQt(file.name));
-  };
-  listener.test = [this](const std::optional<MeasuredTest>& test) { Show(test); };
-  chooser_ = new TestChooser(tools, std::move(source), controls, std::move(listener), this);
+  chooser_ = new TestChooser(tools, std::move(source), controls, this);
+  connect(chooser_, &TestChooser::FileOpened, this,
+          [this](const LibraryFile& file) { database_->setText(shell::FromUtf8(file.name)); });
+  connect(chooser_, &TestChooser::TestChosen, this, &ComparisonPanel::Show);
   description_ = new QPlainTextEdit(this);
   description_->setObjectName(QLatin1String(look.description));
   description_->setAccessibleName(tools.Text(kDescriptionRow));
@@ -85,7 +84,7 @@ ComparisonPanel::ComparisonPanel(const shell::WindowTools& tools, LibrarySource 
   column->addWidget(chooser_, 1);
   column->addWidget(rating_);
   column->addWidget(description_);
-  connect(check_, &QCheckBox::toggled, this, [this] { changed_(); });
+  connect(check_, &QCheckBox::toggled, this, &ComparisonPanel::Changed);
   Reset();
 }
 
@@ -106,14 +105,14 @@ void ComparisonPanel::Show(const std::optional<MeasuredTest>& test) {
     for (std::size_t i = 0; i < bands_.size(); ++i) bands_[i] = shown.octave_steps_db.at(i).value_or(0.0);
     are_octaves_ = bands_ != acoustics::Spectrum{};
   }
-  const QString rating = shell::ToQt(calculation::BoxText(shown.part.rating_db));
+  const QString rating = shell::FromUtf8(calculation::BoxText(shown.part.rating_db));
   const QString none = test ? QStringLiteral("-") : tools_.Text(kNoStructureRow);
   rating_->setText(rating.isEmpty() ? none : rating + QStringLiteral(" dB"));
   rating_->setEnabled(test.has_value());
-  QString description = shell::ToQt(shown.part.description);
-  if (!shown.notes.empty()) description += (description.isEmpty() ? "" : "\n") + shell::ToQt(shown.notes);
+  QString description = shell::FromUtf8(shown.part.description);
+  if (!shown.notes.empty()) description += (description.isEmpty() ? "" : "\n") + shell::FromUtf8(shown.notes);
   description_->setPlainText(description);
-  if (IsTicked()) changed_();
+  if (IsTicked()) emit Changed();
 }
 
 void ComparisonPanel::Refresh() { chooser_->Refresh(); }

@@ -2,7 +2,6 @@
 
 #include <QColor>
 #include <QGroupBox>
-#include <functional>
 #include <optional>
 
 #include "acoustics/bands.h"
@@ -20,6 +19,8 @@ class TestChooser;
 
 /// One side of the comparison: chooses a structure and says whether its curve is laid over the chart.
 class ComparisonPanel : public QGroupBox {
+  Q_OBJECT
+
  public:
   /// Object names and words of the side.
   struct Look {
@@ -38,7 +39,7 @@ class ComparisonPanel : public QGroupBox {
   };
 
   ComparisonPanel(const shell::WindowTools& tools, LibrarySource source, const Look& look,
-                  std::function<void()> changed, QWidget* parent = nullptr);
+                  QWidget* parent = nullptr);
 
   bool IsTicked() const;
   /// The chosen structure's bands in dB, 0 where it has none; all 0 without one.
@@ -53,11 +54,14 @@ class ComparisonPanel : public QGroupBox {
   void Refresh();
   TestChooser* Chooser() const { return chooser_; }
 
+ signals:
+  /// What is laid over the chart is another now.
+  void Changed();
+
  private:
   void Show(const std::optional<MeasuredTest>& test);
 
   shell::WindowTools tools_;
-  std::function<void()> changed_;
   acoustics::Spectrum bands_{};
   bool are_octaves_ = false;
   QCheckBox* check_ = nullptr;

@@ -10,9 +10,9 @@
 #include "foundation/message_rows.h"
 #include "presentation/drawing/colours.h"
 #include "shell/structures/comparison_panel.h"
-#include "shell/structures/mnemonics.h"
 #include "shell/structures/test_chooser.h"
 #include "shell/structures/tree_nodes.h"
+#include "shell/windows/mnemonics.h"
 
 namespace velmar::structures {
 namespace {
@@ -72,15 +72,14 @@ ComparisonWindow::ComparisonWindow(shell::WindowTools tools, const LibrarySource
     : QDialog(parent), tools_(std::move(tools)), draw_(std::move(draw)) {
   setObjectName(QStringLiteral("Form8"));
   setWindowTitle(QStringLiteral("VELMARpro - ") + tools_.Text(kComparisonCaptionRow));
-  const auto redraw = [this] {
-    if (laboratory_ != nullptr && in_situ_ != nullptr) draw_(Current());
-  };
   ComparisonPanel::Look look = LaboratoryLook();
   look.nodes = LaboratoryNodes(family, tools_);
-  laboratory_ = new ComparisonPanel(tools_, source, look, redraw, this);
+  laboratory_ = new ComparisonPanel(tools_, source, look, this);
   look = InSituLook();
   look.nodes = InSituNodes(family, tools_);
-  in_situ_ = new ComparisonPanel(tools_, source, look, redraw, this);
+  in_situ_ = new ComparisonPanel(tools_, source, look, this);
+  for (const ComparisonPanel* side : {laboratory_, in_situ_})
+    connect(side, &ComparisonPanel::Changed, this, [this] { draw_(Current()); });
   sides_ = new QSplitter(Qt::Horizontal, this);
   sides_->setChildrenCollapsible(false);
   sides_->addWidget(laboratory_);
@@ -97,7 +96,8 @@ ComparisonWindow::ComparisonWindow(shell::WindowTools tools, const LibrarySource
   column->addLayout(buttons);
   resize(fontMetrics().averageCharWidth() * 170, fontMetrics().height() * 34);
   shell::RestoreSizes(tools_.memory, SizesOf(this, sides_));
-  SetMnemonics(*this);
+  laboratory_->Chooser()->FocusSearch();
+  shell::SetMnemonics(*this);
   connect(new QShortcut(QKeySequence::Refresh, this), &QShortcut::activated, this, [this] {
     laboratory_->Refresh();
     in_situ_->Refresh();

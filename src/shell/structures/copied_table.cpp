@@ -4,6 +4,7 @@
 #include <QMimeData>
 #include <QStringList>
 
+#include "shell/windows/phrases.h"
 #include "shell/windows/window_tools.h"
 
 namespace velmar::structures {
@@ -11,7 +12,7 @@ namespace {
 
 /// A tabulator or a line break would end the field.
 QString OneField(const MessageLine& line, const presentation::Words& words) {
-  return shell::ToQt(presentation::InWords(line, words)).simplified();
+  return shell::FromUtf8(presentation::InWords(line, words)).simplified();
 }
 
 /// The two families of spreadsheets each have attributes of their own for what a cell is.

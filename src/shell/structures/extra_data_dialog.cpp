@@ -12,7 +12,8 @@
 
 #include "foundation/message_rows.h"
 #include "shell/structures/copied_table.h"
-#include "shell/structures/mnemonics.h"
+#include "shell/windows/mnemonics.h"
+#include "shell/windows/phrases.h"
 
 namespace velmar::structures {
 namespace {
@@ -50,7 +51,7 @@ ExtraDataDialog::ExtraDataDialog(const shell::WindowTools& tools, const Measured
     const MessageRow caption = kCaptions.at(i);
     auto* label = new QLabel(tools.Text(caption), this);
     label->setObjectName(QStringLiteral("Label1_%1").arg(i));
-    auto* box = new QLineEdit(shell::ToQt(presentation::InWords(fields[i].text, tools.words)), this);
+    auto* box = new QLineEdit(shell::FromUtf8(presentation::InWords(fields[i].text, tools.words)), this);
     box->setObjectName(QStringLiteral("Text1_%1").arg(i));
     box->setAccessibleName(label->text());
     box->setReadOnly(true);
@@ -72,7 +73,7 @@ ExtraDataDialog::ExtraDataDialog(const shell::WindowTools& tools, const Measured
   buttons->addWidget(close);
   column->addLayout(form);
   column->addLayout(buttons);
-  SetMnemonics(*this);
+  shell::SetMnemonics(*this);
   connect(copy, &QPushButton::clicked, this, [table, words = tools.words] {
     QApplication::clipboard()->setMimeData(ClipboardOf(table, words));
   });

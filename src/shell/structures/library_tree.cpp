@@ -2,6 +2,8 @@
 
 #include <QTreeWidget>
 
+#include "shell/windows/phrases.h"
+
 namespace velmar::structures {
 namespace {
 
@@ -20,11 +22,11 @@ void AddFiles(QTreeWidgetItem& node, Branch branch, const LibrarySource& source,
     item->setFont(0, font);
   }
   for (const LibraryFile& file : files) {
-    auto* item = new QTreeWidgetItem(&node, {shell::ToQt(file.name)});
-    item->setToolTip(0, shell::ToQt(file.path.empty() ? file.name : file.path.string()));
+    auto* item = new QTreeWidgetItem(&node, {shell::FromUtf8(file.name)});
+    item->setToolTip(0, shell::FromUtf8(file.path.empty() ? file.name : file.path.string()));
     item->setData(0, kBranchRole, static_cast<int>(file.branch));
-    item->setData(0, kFileRole, shell::ToQt(file.name));
-    item->setData(0, kPathRole, shell::ToQt(file.path.string()));
+    item->setData(0, kFileRole, shell::FromUtf8(file.name));
+    item->setData(0, kPathRole, shell::FromUtf8(file.path.string()));
   }
 }
 
@@ -48,8 +50,8 @@ void FillTree(QTreeWidget& tree, const std::vector<TreeNode>& nodes, const Libra
 std::optional<LibraryFile> FileOf(const QTreeWidgetItem* item) {
   if (item == nullptr || !item->data(0, kFileRole).isValid()) return std::nullopt;
   return LibraryFile{static_cast<Branch>(item->data(0, kBranchRole).toInt()),
-                     shell::FromQt(item->data(0, kFileRole).toString()),
-                     shell::FromQt(item->data(0, kPathRole).toString())};
+                     shell::ToUtf8(item->data(0, kFileRole).toString()),
+                     shell::ToUtf8(item->data(0, kPathRole).toString())};
 }
 
 std::optional<Branch> EmptyBranchOf(const QTreeWidgetItem* item) {

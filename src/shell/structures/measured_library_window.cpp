@@ -10,11 +10,12 @@
 #include "acoustics/bands.h"
 #include "foundation/message_rows.h"
 #include "shell/structures/extra_data_dialog.h"
-#include "shell/structures/mnemonics.h"
 #include "shell/structures/own_measurement_tools.h"
 #include "shell/structures/test_chooser.h"
 #include "shell/structures/test_details.h"
 #include "shell/windows/button_row.h"
+#include "shell/windows/mnemonics.h"
+#include "shell/windows/phrases.h"
 #include "storage/library/own_measurements.h"
 
 namespace velmar::structures {
@@ -35,28 +36,28 @@ bool HasRatedThirds(const calculation::BandValues& bands) {
 }  // namespace
 
 MeasuredLibraryWindow::MeasuredLibraryWindow(shell::WindowTools tools, LibrarySource source,
-                                             MeasuredTarget target, const FileQuestions& files,
-                                             QWidget* parent)
+                                             MeasuredTarget target, QWidget* parent)
     : QDialog(parent), tools_(std::move(tools)), target_(std::move(target)) {
   setObjectName(QStringLiteral("Form9"));
   setWindowTitle(Caption());
   TestChooser::Controls controls;
   controls.nodes = LibraryNodes(target_.purpose, tools_);
   controls.filters_uses = true;
-  if (source.own.add) own_ = new OwnMeasurementTools(tools_, source.own, files, this);
-  TestChooser::Listener listener;
-  listener.file = [this](const LibraryFile& file, const QString& description) {
-    details_->ShowSymbols(SymbolsOf(file.branch));
-    details_->ShowDescription(description);
-    if (own_ != nullptr) own_->ShowFile(file);
-  };
-  listener.test = [this](const std::optional<MeasuredTest>& test) {
+  if (source.own.add) own_ = new OwnMeasurementTools(tools_, source.own, this);
+  controls.enters = own_ != nullptr;
+  chooser_ = new TestChooser(tools_, std::move(source), controls, this);
+  connect(chooser_, &TestChooser::FileOpened, this,
+          [this](const LibraryFile& file, const QString& description) {
+            details_->ShowSymbols(SymbolsOf(file.branch));
+            details_->ShowDescription(description);
+            if (own_ != nullptr) own_->ShowFile(file);
+          });
+  connect(chooser_, &TestChooser::TestChosen, this, [this](const std::optional<MeasuredTest>& test) {
     details_->Show(test);
     extra_->setEnabled(test.has_value());
     if (own_ != nullptr) own_->ShowTest(test ? std::optional(test->part.name) : std::nullopt);
-  };
-  if (own_ != nullptr) listener.enter = [this](Branch branch) { own_->EnterNew(branch); };
-  chooser_ = new TestChooser(tools_, std::move(source), controls, std::move(listener), this);
+  });
+  if (own_ != nullptr) connect(chooser_, &TestChooser::EntryWanted, own_, &OwnMeasurementTools::EnterNew);
   details_ = new TestDetails(tools_, this);  // behind the chooser, as Tab goes
   chooser_->Splitter()->addWidget(details_);
   chooser_->Splitter()->setStretchFactor(2, 2);
@@ -74,7 +75,8 @@ MeasuredLibraryWindow::MeasuredLibraryWindow(shell::WindowTools tools, LibrarySo
   resize(character * 190, metrics.height() * 40);
   chooser_->Splitter()->setSizes({character * 44, character * 44, character * 102});
   shell::RestoreSizes(tools_.memory, SizesOf(this, *chooser_));
-  SetMnemonics(*this);
+  shell::SetMnemonics(*this);
+  chooser_->FocusSearch();
   connect(new QShortcut(QKeySequence::Refresh, this), &QShortcut::activated, chooser_, &TestChooser::Refresh);
 }
 
@@ -110,7 +112,7 @@ QWidget* MeasuredLibraryWindow::MakeButtons() {
 
 void MeasuredLibraryWindow::Take() {
   if (!chooser_->Chosen()) {
-    tools_.tell(tools_.Text(kNoTestRow));
+    tools_.Tell(tools_.Text(kNoTestRow));
     return;
   }
   const std::optional<calculation::FacadePart> part = PartForTarget();
@@ -123,7 +125,7 @@ std::optional<calculation::FacadePart> MeasuredLibraryWindow::PartForTarget() co
   const MeasuredTest& test = *chooser_->Chosen();
   calculation::FacadePart part = test.part;
   const auto ask = [this](MessageRow lack, MessageRow offer) {
-    return tools_.ask(tools_.Text(lack) + '\n' + tools_.Text(offer));
+    return tools_.Ask(tools_.Text(lack) + '\n' + tools_.Text(offer));
   };
   switch (target_.needs) {
     case TargetNeeds::kNothing:
@@ -139,7 +141,7 @@ std::optional<calculation::FacadePart> MeasuredLibraryWindow::PartForTarget() co
       }
       if (!ask(kNeedsThirdsRow, kOfferOctavesRow)) return std::nullopt;
       part.bands_db = *test.derived_thirds_db;
-      const std::string note = shell::FromQt(tools_.Text(kThirdsFromOctavesRow));
+      const std::string note = shell::ToUtf8(tools_.Text(kThirdsFromOctavesRow));
       part.description += part.description.empty() ? note : " (" + note + ")";
       break;
     }

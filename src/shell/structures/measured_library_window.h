@@ -36,9 +36,8 @@ struct MeasuredTarget {
 /// "Database sperimentale" (`Form9`): browses the measured structures and hands one over.
 class MeasuredLibraryWindow : public QDialog {
  public:
-  /// @param files for import and export of the user's own measurements
   MeasuredLibraryWindow(shell::WindowTools tools, LibrarySource source, MeasuredTarget target,
-                        const FileQuestions& files = {}, QWidget* parent = nullptr);
+                        QWidget* parent = nullptr);
   ~MeasuredLibraryWindow() override;
 
  private:

@@ -17,8 +17,9 @@
 #include "presentation/texts/words.h"
 #include "shell/fields/number_field.h"
 #include "shell/structures/measurement_fields.h"
-#include "shell/structures/mnemonics.h"
 #include "shell/structures/store_sources.h"
+#include "shell/windows/mnemonics.h"
+#include "shell/windows/phrases.h"
 #include "shell/windows/picture_view.h"
 #include "storage/files/whole_file.h"
 
@@ -70,25 +71,15 @@ constexpr std::array kNumbers = {
 /// The first of kNumbers that only a test in a building has.
 constexpr std::size_t kFirstInSitu = 3;
 
-QString InWords(const Message& message, const shell::WindowTools& tools) {
-  QStringList lines;
-  for (const MessageLine& line : message) lines << shell::ToQt(presentation::InWords(line, tools.words));
-  return lines.join('\n');
-}
-
 QString Symbol(std::string_view symbol) {
   return QString::fromUtf8(symbol.data(), static_cast<qsizetype>(symbol.size()));
 }
 
 }  // namespace
 
-MeasurementEditor::MeasurementEditor(shell::WindowTools tools, OwnMeasurementSource own, FileQuestions files,
+MeasurementEditor::MeasurementEditor(shell::WindowTools tools, OwnMeasurementSource own,
                                      MeasurementToEdit edited, QWidget* parent)
-    : QDialog(parent),
-      tools_(std::move(tools)),
-      own_(std::move(own)),
-      files_(std::move(files)),
-      edited_(std::move(edited)) {
+    : QDialog(parent), tools_(std::move(tools)), own_(std::move(own)), edited_(std::move(edited)) {
   setObjectName(QStringLiteral("FormMisura"));
   setWindowTitle(tools_.Text(edited_.test ? kEditMeasurementRow : kNewMeasurementRow) +
                  QStringLiteral(" - VELMARpro"));
@@ -119,7 +110,7 @@ MeasurementEditor::MeasurementEditor(shell::WindowTools tools, OwnMeasurementSou
   shown_first_ = Entry();
   if (!shell::RestoreSizes(tools_.memory, {QLatin1String(kMemoryName), this, nullptr, nullptr}))
     resize(sizeHint());
-  SetMnemonics(*this);
+  shell::SetMnemonics(*this);
   name_->setFocus();
 }
 
@@ -226,7 +217,7 @@ QWidget* MeasurementEditor::MakePicture() {
   auto* choose = new QPushButton(tools_.Text(kChoosePictureRow) + QStringLiteral("…"), place);
   choose->setObjectName(QStringLiteral("CommandImmagine"));
   choose->setAutoDefault(false);
-  choose->setVisible(static_cast<bool>(files_.open));
+  choose->setVisible(static_cast<bool>(tools_.boxes.choose_file_to_open));
   auto* none = new QPushButton(tools_.Text(kNoPictureButtonRow), place);
   none->setObjectName(QStringLiteral("CommandSenza"));
   none->setAutoDefault(false);
@@ -276,14 +267,14 @@ void MeasurementEditor::ChooseKind() {
 }
 
 void MeasurementEditor::Show(const MeasurementEntry& entry) {
-  name_->setText(shell::ToQt(entry.name));
-  description_->setPlainText(shell::ToQt(entry.description));
+  name_->setText(shell::FromUtf8(entry.name));
+  description_->setPlainText(shell::FromUtf8(entry.description));
   for (std::size_t i = 0; i < texts_.size(); ++i) {
-    texts_[i]->setText(shell::ToQt(entry.*kTexts.at(i).text));
+    texts_[i]->setText(shell::FromUtf8(entry.*kTexts.at(i).text));
     texts_[i]->setCursorPosition(0);
   }
   for (std::size_t i = 0; i < numbers_.size(); ++i) numbers_[i]->Show(entry.*kNumbers.at(i).text);
-  site_->setText(shell::ToQt(entry.site));
+  site_->setText(shell::FromUtf8(entry.site));
   printed_[0]->Show(entry.rating);
   printed_[1]->Show(entry.adaptation);
   printed_[2]->Show(entry.other_adaptation);
@@ -293,17 +284,17 @@ void MeasurementEditor::Show(const MeasurementEntry& entry) {
 
 MeasurementEntry MeasurementEditor::Entry() const {
   MeasurementEntry entry;
-  entry.name = shell::FromQt(name_->text());
-  entry.description = shell::FromQt(description_->toPlainText());
-  for (std::size_t i = 0; i < texts_.size(); ++i) entry.*kTexts.at(i).text = shell::FromQt(texts_[i]->text());
+  entry.name = shell::ToUtf8(name_->text());
+  entry.description = shell::ToUtf8(description_->toPlainText());
+  for (std::size_t i = 0; i < texts_.size(); ++i) entry.*kTexts.at(i).text = shell::ToUtf8(texts_[i]->text());
   const bool field = FolderOf(Kind()).field;
   for (std::size_t i = 0; i < numbers_.size(); ++i) {
-    if (i < kFirstInSitu || field) entry.*kNumbers.at(i).text = shell::FromQt(numbers_[i]->text());
+    if (i < kFirstInSitu || field) entry.*kNumbers.at(i).text = shell::ToUtf8(numbers_[i]->text());
   }
-  if (field) entry.site = shell::FromQt(site_->text());
-  entry.rating = shell::FromQt(printed_[0]->text());
-  entry.adaptation = shell::FromQt(printed_[1]->text());
-  if (!SymbolsOf(Kind()).other_term.empty()) entry.other_adaptation = shell::FromQt(printed_[2]->text());
+  if (field) entry.site = shell::ToUtf8(site_->text());
+  entry.rating = shell::ToUtf8(printed_[0]->text());
+  entry.adaptation = shell::ToUtf8(printed_[1]->text());
+  if (!SymbolsOf(Kind()).other_term.empty()) entry.other_adaptation = shell::ToUtf8(printed_[2]->text());
   bands_->Take(entry);
   entry.picture = picture_name_;
   return entry;
@@ -320,12 +311,12 @@ void MeasurementEditor::ShowRating() {
   part.rating_db = check.rating;
   part.c_db = check.adaptation;
   part.ctr_db = check.other_adaptation;
-  QString terms = shell::ToQt(calculation::BoxText(check.adaptation));
-  if (check.other_adaptation) terms += "; " + shell::ToQt(calculation::BoxText(check.other_adaptation));
+  QString terms = shell::FromUtf8(calculation::BoxText(check.adaptation));
+  if (check.other_adaptation) terms += "; " + shell::FromUtf8(calculation::BoxText(check.other_adaptation));
   const bool thirds = check.basis == storage::RatingBasis::kThirds;
   computed_->setText(tools_.Text(thirds ? kFromBandsRow : kFromOctavesRow) + ' ' +
                      Symbol(SymbolsOf(Kind()).rating) + ' ' +
-                     shell::ToQt(calculation::BoxText(check.rating)) +
+                     shell::FromUtf8(calculation::BoxText(check.rating)) +
                      (terms.isEmpty() ? QString() : " (" + terms + ')') + QStringLiteral(" dB"));
   const bool printed = !printed_[0]->text().isEmpty();
   verdict_->setText(!printed ? QString()
@@ -338,32 +329,32 @@ void MeasurementEditor::ShowPicture(const std::string& picture) {
 }
 
 void MeasurementEditor::ChoosePicture() {
-  const QString file =
-      files_.open({tools_.Text(kChoosePictureRow),
-                   tools_.Text(kPictureFilterRow) + QStringLiteral(" (*.png *.jpg *.jpeg *.bmp *.svg)"),
-                   {}});
+  const QString file = tools_.boxes.choose_file_to_open(
+      {tools_.Text(kChoosePictureRow),
+       tools_.Text(kPictureFilterRow) + QStringLiteral(" (*.png *.jpg *.jpeg *.bmp *.svg)"),
+       {}});
   if (file.isEmpty()) return;
-  tools_.Try([&] { ShowPicture(own_.keep_picture(Kind(), shell::FromQt(file))); });
+  tools_.Try([&] { ShowPicture(own_.keep_picture(Kind(), shell::ToUtf8(file))); });
 }
 
 void MeasurementEditor::ReadFile() {
-  if (!files_.open) return;
-  const QString file =
-      files_.open({tools_.Text(kReadBandsFileRow),
-                   tools_.Text(kNotReadTextFileRow) + QStringLiteral(" (*.txt *.csv *.tsv *.asc);;* (*)"),
-                   {}});
+  if (!tools_.boxes.choose_file_to_open) return;
+  const QString file = tools_.boxes.choose_file_to_open(
+      {tools_.Text(kReadBandsFileRow),
+       tools_.Text(kNotReadTextFileRow) + QStringLiteral(" (*.txt *.csv *.tsv *.asc);;* (*)"),
+       {}});
   if (file.isEmpty()) return;
   tools_.Try([&] {
-    const std::string bytes = storage::ReadWhole(shell::FromQt(file), kTextSizeLimit);
-    bands_->Read(shell::ToQt(measurements::TextOfFile(bytes)), FolderOf(Kind()).band_prefix);
+    const std::string bytes = storage::ReadWhole(shell::ToUtf8(file), kTextSizeLimit);
+    bands_->Read(shell::FromUtf8(measurements::TextOfFile(bytes)), FolderOf(Kind()).band_prefix);
   });
 }
 
 void MeasurementEditor::Save() {
   const auto checked = measurements::TestOf(FolderOf(Kind()), Entry());
   if (const auto* refusal = std::get_if<measurements::MeasurementRefusal>(&checked)) {
-    tools_.tell(InWords(refusal->message, tools_));
-    if (auto* box = findChild<QLineEdit*>(shell::ToQt(refusal->field))) {
+    tools_.Tell(tools_.Text(refusal->message));
+    if (auto* box = findChild<QLineEdit*>(shell::FromUtf8(refusal->field))) {
       box->setFocus();
       box->selectAll();
     }
@@ -380,7 +371,7 @@ void MeasurementEditor::Save() {
   });
   if (!done) return;
   if (refusal) {
-    tools_.tell(InWords(*refusal, tools_));
+    tools_.Tell(tools_.Text(*refusal));
     name_->setFocus();
     return;
   }
@@ -389,7 +380,7 @@ void MeasurementEditor::Save() {
 }
 
 void MeasurementEditor::reject() {
-  if (Entry() != shown_first_ && !tools_.ask(tools_.Text(kUnsavedMeasurementRow))) return;
+  if (Entry() != shown_first_ && !tools_.Ask(tools_.Text(kUnsavedMeasurementRow))) return;
   QDialog::reject();
 }
 

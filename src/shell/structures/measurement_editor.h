@@ -27,13 +27,6 @@ namespace velmar::structures {
 
 class MeasurementBands;
 
-/// The dialogs that ask for files; an empty answer gives the matter up. Without them the buttons for files
-/// are not there.
-struct FileQuestions {
-  std::function<QString(const shell::FileQuestion&)> open{};
-  std::function<QString(const shell::FileQuestion&)> save{};
-};
-
 /// What an editor of a measurement is opened for.
 struct MeasurementToEdit {
   Branch branch = Branch::kWalls;
@@ -41,12 +34,13 @@ struct MeasurementToEdit {
 };
 
 /// "Nuova misura" and "Modifica misura": a test of the user's own, from a laboratory or in situ. The rating
-/// that the bands give stands beside the one that the certificate prints.
+/// that the bands give stands beside the one that the certificate prints. Without boxes that ask for files
+/// the buttons for them are not there.
 class MeasurementEditor : public QDialog {
   Q_OBJECT
  public:
-  MeasurementEditor(shell::WindowTools tools, OwnMeasurementSource own, FileQuestions files,
-                    MeasurementToEdit edited, QWidget* parent = nullptr);
+  MeasurementEditor(shell::WindowTools tools, OwnMeasurementSource own, MeasurementToEdit edited,
+                    QWidget* parent = nullptr);
   ~MeasurementEditor() override;
 
   Branch Kind() const;
@@ -74,7 +68,6 @@ class MeasurementEditor : public QDialog {
 
   shell::WindowTools tools_;
   OwnMeasurementSource own_;
-  FileQuestions files_;
   MeasurementToEdit edited_;
   measurements::MeasurementEntry shown_first_;
   std::string picture_name_;

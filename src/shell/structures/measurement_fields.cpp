@@ -16,6 +16,7 @@
 #include "measurements/band_text.h"
 #include "presentation/texts/words.h"
 #include "shell/fields/number_field.h"
+#include "shell/windows/phrases.h"
 
 namespace velmar::structures {
 namespace {
@@ -107,12 +108,12 @@ void MeasurementBands::Show(const measurements::MeasurementEntry& entry) {
 }
 
 void MeasurementBands::Take(measurements::MeasurementEntry& entry) const {
-  for (std::size_t i = 0; i < thirds_.size(); ++i) entry.thirds.at(i) = shell::FromQt(thirds_[i]->text());
-  for (std::size_t i = 0; i < octaves_.size(); ++i) entry.octaves.at(i) = shell::FromQt(octaves_[i]->text());
+  for (std::size_t i = 0; i < thirds_.size(); ++i) entry.thirds.at(i) = shell::ToUtf8(thirds_[i]->text());
+  for (std::size_t i = 0; i < octaves_.size(); ++i) entry.octaves.at(i) = shell::ToUtf8(octaves_[i]->text());
 }
 
 void MeasurementBands::Read(const QString& text, const std::string& symbol) {
-  const auto read = measurements::ReadBandText(shell::FromQt(text), symbol);
+  const auto read = measurements::ReadBandText(shell::ToUtf8(text), symbol);
   if (const auto* refused = std::get_if<measurements::RefusedText>(&read)) {
     QStringList lines = {tools_.Text(kNothingTakenRow)};
     for (const MessageLine& line : refused->lines) {
@@ -120,9 +121,9 @@ void MeasurementBands::Read(const QString& text, const std::string& symbol) {
         lines << QStringLiteral("…");
         break;
       }
-      lines << shell::ToQt(presentation::InWords(line, tools_.words));
+      lines << shell::FromUtf8(presentation::InWords(line, tools_.words));
     }
-    tools_.tell(lines.join('\n'));
+    tools_.Tell(lines.join('\n'));
     return;
   }
   measurements::MeasurementEntry entry;

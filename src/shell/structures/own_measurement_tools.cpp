@@ -13,6 +13,7 @@
 #include "measurements/test_table.h"
 #include "presentation/texts/words.h"
 #include "shell/structures/store_sources.h"
+#include "shell/windows/phrases.h"
 #include "storage/files/whole_file.h"
 
 namespace velmar::structures {
@@ -43,8 +44,8 @@ std::variant<std::vector<storage::MeasuredTest>, measurements::RefusedText> Test
 }  // namespace
 
 OwnMeasurementTools::OwnMeasurementTools(const shell::WindowTools& tools, OwnMeasurementSource own,
-                                         FileQuestions files, QWidget* parent)
-    : QWidget(parent), tools_(tools), own_(std::move(own)), files_(std::move(files)) {
+                                         QWidget* parent)
+    : QWidget(parent), tools_(tools), own_(std::move(own)) {
   auto* row = new QHBoxLayout(this);
   row->setContentsMargins(0, 0, 0, 0);
   const auto add = [&](const char* name, MessageRow text, MessageRow tip, auto action) {
@@ -65,8 +66,8 @@ OwnMeasurementTools::OwnMeasurementTools(const shell::WindowTools& tools, OwnMea
   row->addStretch(1);
   import_ = add("CommandImporta", kImportMeasurementsRow, kImportMeasurementsTipRow, [this] { Import(); });
   export_ = add("CommandEsporta", kExportMeasurementsRow, kExportMeasurementsTipRow, [this] { Export(); });
-  import_->setVisible(static_cast<bool>(files_.open));
-  export_->setVisible(static_cast<bool>(files_.save));
+  import_->setVisible(static_cast<bool>(tools_.boxes.choose_file_to_open));
+  export_->setVisible(static_cast<bool>(tools_.boxes.choose_file_to_save));
   ShowButtons();
 }
 
@@ -101,18 +102,18 @@ void OwnMeasurementTools::Edit() {
   if (!tools_.Try([&] { tests = own_.all(file_->branch); })) return;
   const auto found = std::ranges::find(tests, *name_, &storage::MeasuredTest::name);
   if (found == tests.end()) {
-    tools_.tell(InWords({{kMeasurementGoneRow, " " + *name_}}));
+    tools_.Tell(tools_.Text(Message{{kMeasurementGoneRow, " " + *name_}}));
     return;
   }
   Open({file_->branch, *found});
 }
 
 void OwnMeasurementTools::Open(MeasurementToEdit edited) {
-  auto* editor = new MeasurementEditor(tools_, own_, files_, std::move(edited), this);
+  auto* editor = new MeasurementEditor(tools_, own_, std::move(edited), this);
   editor->setAttribute(Qt::WA_DeleteOnClose);
   editor->setWindowModality(Qt::WindowModal);
   connect(editor, &QDialog::accepted, this,
-          [this, editor] { emit Changed(editor->Kind(), shell::ToQt(editor->StoredName())); });
+          [this, editor] { emit Changed(editor->Kind(), shell::FromUtf8(editor->StoredName())); });
   editor->show();
 }
 
@@ -124,7 +125,7 @@ void OwnMeasurementTools::Delete() {
   if (removed) {
     deleted_ = Deleted{branch, *std::move(removed)};
   } else {
-    tools_.tell(InWords({{kMeasurementGoneRow, " " + *name_}}));
+    tools_.Tell(tools_.Text(Message{{kMeasurementGoneRow, " " + *name_}}));
   }
   emit Changed(branch, QString());
   ShowButtons();
@@ -135,61 +136,56 @@ void OwnMeasurementTools::UndoDelete() {
   std::optional<Message> refusal;
   if (!tools_.Try([&] { refusal = own_.add(deleted_->branch, {deleted_->test}); })) return;
   if (refusal) {
-    tools_.tell(InWords(*refusal));
+    tools_.Tell(tools_.Text(*refusal));
     return;
   }
   const Deleted back = *std::exchange(deleted_, std::nullopt);
-  emit Changed(back.branch, shell::ToQt(back.test.name));
+  emit Changed(back.branch, shell::FromUtf8(back.test.name));
   ShowButtons();
 }
 
 void OwnMeasurementTools::Import() {
-  const QString file =
-      files_.open({tools_.Text(kImportMeasurementsRow),
-                   tools_.Text(kNotReadTextFileRow) + QStringLiteral(" (*.csv *.txt *.tsv *.asc);;* (*)"),
-                   {}});
+  const QString file = tools_.boxes.choose_file_to_open(
+      {tools_.Text(kImportMeasurementsRow),
+       tools_.Text(kNotReadTextFileRow) + QStringLiteral(" (*.csv *.txt *.tsv *.asc);;* (*)"),
+       {}});
   if (file.isEmpty()) return;
   const Branch branch = Current();
   tools_.Try([&] {
     const storage::LibraryFolder folder = FolderOf(branch);
     const std::string text =
-        measurements::TextOfFile(storage::ReadWhole(shell::FromQt(file), kTextSizeLimit));
+        measurements::TextOfFile(storage::ReadWhole(shell::ToUtf8(file), kTextSizeLimit));
     const auto read = measurements::IsTestTable(text)
                           ? measurements::ReadTestTable(folder, text)
-                          : TestOfText(folder, text, shell::FromQt(QFileInfo(file).completeBaseName()));
+                          : TestOfText(folder, text, shell::ToUtf8(QFileInfo(file).completeBaseName()));
     if (const auto* refused = std::get_if<measurements::RefusedText>(&read)) {
       Message told{{kNothingTakenRow}};
       const std::size_t shown = std::min(refused->lines.size(), kLongestRefusal);
       told.insert(told.end(), refused->lines.begin(),
                   refused->lines.begin() + static_cast<std::ptrdiff_t>(shown));
       if (shown < refused->lines.size()) told.push_back({std::string("…")});
-      tools_.tell(InWords(told));
+      tools_.Tell(tools_.Text(told));
       return;
     }
     const auto& tests = std::get<std::vector<storage::MeasuredTest>>(read);
     if (const auto refusal = own_.add(branch, tests)) {
-      tools_.tell(InWords(*refusal));
+      tools_.Tell(tools_.Text(*refusal));
       return;
     }
-    emit Changed(branch, shell::ToQt(tests.front().name));
+    emit Changed(branch, shell::FromUtf8(tests.front().name));
   });
 }
 
 void OwnMeasurementTools::Export() {
   if (!file_) return;
-  const QString file = files_.save({tools_.Text(kExportMeasurementsRow), QStringLiteral("CSV (*.csv)"),
-                                    shell::ToQt(file_->name) + QStringLiteral(".csv")});
+  const QString file =
+      tools_.boxes.choose_file_to_save({tools_.Text(kExportMeasurementsRow), QStringLiteral("CSV (*.csv)"),
+                                        shell::FromUtf8(file_->name) + QStringLiteral(".csv")});
   if (file.isEmpty()) return;
   tools_.Try([&] {
-    storage::WriteWhole(shell::FromQt(file),
+    storage::WriteWhole(shell::ToUtf8(file),
                         measurements::FormatTestTable(FolderOf(file_->branch), own_.all(file_->branch)));
   });
-}
-
-QString OwnMeasurementTools::InWords(const Message& message) const {
-  QStringList lines;
-  for (const MessageLine& line : message) lines << shell::ToQt(presentation::InWords(line, tools_.words));
-  return lines.join('\n');
 }
 
 }  // namespace velmar::structures

@@ -17,8 +17,7 @@ namespace velmar::structures {
 class OwnMeasurementTools : public QWidget {
   Q_OBJECT
  public:
-  OwnMeasurementTools(const shell::WindowTools& tools, OwnMeasurementSource own, FileQuestions files,
-                      QWidget* parent = nullptr);
+  OwnMeasurementTools(const shell::WindowTools& tools, OwnMeasurementSource own, QWidget* parent = nullptr);
 
   /// What the window shows now; the buttons that do not fit it are off.
   void ShowFile(const std::optional<LibraryFile>& file);
@@ -44,11 +43,9 @@ class OwnMeasurementTools : public QWidget {
   void Import();
   void Export();
   Branch Current() const;
-  QString InWords(const Message& message) const;
 
   shell::WindowTools tools_;
   OwnMeasurementSource own_;
-  FileQuestions files_;
   std::optional<LibraryFile> file_;
   std::optional<std::string> name_;
   std::optional<Deleted> deleted_;

@@ -18,8 +18,9 @@
 
 #include "foundation/message_rows.h"
 #include "shell/structures/copied_table.h"
-#include "shell/structures/mnemonics.h"
 #include "shell/windows/button_row.h"
+#include "shell/windows/mnemonics.h"
+#include "shell/windows/phrases.h"
 
 namespace velmar::structures {
 namespace {
@@ -39,12 +40,12 @@ shell::RememberedSizes SizesOf(QWidget* window, QTableView* grid) {
 
 }  // namespace
 
-SavedResultsWindow::SavedResultsWindow(shell::WindowTools tools, ResultSource source, Listener listener,
+SavedResultsWindow::SavedResultsWindow(shell::WindowTools tools, ResultSource source, Purpose purpose,
                                        QWidget* parent)
     : QDialog(parent),
       tools_(std::move(tools)),
       source_(std::move(source)),
-      listener_(std::move(listener)),
+      purpose_(purpose),
       model_({tools_.Text(kNameHeadingRow), QString(), tools_.Text(kDescriptionRow)}),
       shown_(model_) {
   setObjectName(QStringLiteral("Form7"));
@@ -58,7 +59,7 @@ SavedResultsWindow::SavedResultsWindow(shell::WindowTools tools, ResultSource so
   if (!shell::RestoreSizes(tools_.memory, SizesOf(this, grid_)))
     resize(metrics.averageCharWidth() * 130, metrics.height() * 34);
   AddKeys();
-  SetMnemonics(*this);
+  shell::SetMnemonics(*this);
   Refresh();
   search_->setFocus();
 }
@@ -158,8 +159,8 @@ QWidget* SavedResultsWindow::MakeButtons() {
   copy_ = add("Copia", kCopyRow, [this] { Copy(); });
   bar->AddStretch();
   take_ = add("Seleziona", kSelectStructureRow, [this] { Take(); });
-  take_->setVisible(static_cast<bool>(listener_.take));
-  take_->setDefault(static_cast<bool>(listener_.take));
+  take_->setVisible(purpose_ == Purpose::kTake);
+  take_->setDefault(purpose_ == Purpose::kTake);
   add("Chiudi", kCloseRow, [this] { reject(); });
   return bar;
 }
@@ -182,7 +183,7 @@ ResultKind SavedResultsWindow::Kind() const {
 
 std::string SavedResultsWindow::SelectedName() const {
   const QModelIndex current = grid_->currentIndex();
-  return current.isValid() ? shell::FromQt(current.siblingAtColumn(0).data().toString()) : std::string();
+  return current.isValid() ? shell::ToUtf8(current.siblingAtColumn(0).data().toString()) : std::string();
 }
 
 void SavedResultsWindow::SelectRow(int row) {
@@ -192,12 +193,12 @@ void SavedResultsWindow::SelectRow(int row) {
 }
 
 void SavedResultsWindow::Refresh() {
-  const QString before = shell::ToQt(SelectedName());
+  const QString before = shell::FromUtf8(SelectedName());
   std::vector<QStringList> rows;
   tools_.Try([&] {
     for (const ResultEntry& entry : source_.list(Kind()))
-      rows.push_back({shell::ToQt(entry.name), shell::ToQt(calculation::BoxText(entry.rating_db)),
-                      shell::ToQt(entry.description)});
+      rows.push_back({shell::FromUtf8(entry.name), shell::FromUtf8(calculation::BoxText(entry.rating_db)),
+                      shell::FromUtf8(entry.description)});
   });
   constexpr std::array kRatings = {"Rw (dB)", "Ln,w (dB)", "ΔRw (dB)"};
   model_.Name(kRating, QString::fromUtf8(kRatings.at(static_cast<std::size_t>(Kind()))));
@@ -214,7 +215,7 @@ void SavedResultsWindow::ShowSelected() {
   description_->setPlainText(current.siblingAtColumn(kDescription).data().toString());
   const bool any = current.isValid();
   QString messages;
-  if (any) tools_.Try([&] { messages = shell::ToQt(source_.messages(Kind(), SelectedName())); });
+  if (any) tools_.Try([&] { messages = shell::FromUtf8(source_.messages(Kind(), SelectedName())); });
   messages_->setText(messages);
   messages_->setVisible(!messages.isEmpty());
   copy_->setEnabled(any);
@@ -236,27 +237,27 @@ void SavedResultsWindow::Delete() {
   const std::string name = SelectedName();
   if (name.empty()) return;
   const QString question =
-      tools_.Text(kDeleteResultQuestionRow) + QLatin1Char(' ') + shell::ToQt(name) + QLatin1Char('?');
-  if (!tools_.ask(question)) return;
+      tools_.Text(kDeleteResultQuestionRow) + QLatin1Char(' ') + shell::FromUtf8(name) + QLatin1Char('?');
+  if (!tools_.Ask(question)) return;
   const int row = grid_->currentIndex().row();
   bool removed = false;
   if (!tools_.Try([&] { removed = source_.remove(Kind(), name); })) return;
   Refresh();
   SelectRow(row);
-  if (removed && listener_.removed) listener_.removed(Kind(), name);
+  if (removed) emit Removed(Kind(), name);
 }
 
 void SavedResultsWindow::Take() {
   const std::string name = SelectedName();
-  if (!listener_.take || name.empty() || Kind() != ResultKind::kAirborne) return;
+  if (purpose_ != Purpose::kTake || name.empty() || Kind() != ResultKind::kAirborne) return;
   std::optional<calculation::FacadePart> part;
   if (!tools_.Try([&] { part = source_.find(Kind(), name); })) return;
   if (!part) {  // deleted by another program since the list was read
-    tools_.tell(tools_.Text(kEntryGoneRow));
+    tools_.Tell(tools_.Text(kEntryGoneRow));
     Refresh();
     return;
   }
-  listener_.take(*part);
+  emit Taken(*part);
   accept();
 }
 

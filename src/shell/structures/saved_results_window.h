@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QDialog>
-#include <functional>
 #include <optional>
 
 #include "shell/structures/entry_model.h"
@@ -20,21 +19,24 @@ namespace velmar::structures {
 /// "Database risultati" (`Form7`): lists the stored results, searches, copies and deletes them, and hands one
 /// over when it was opened for that.
 class SavedResultsWindow : public QDialog {
- public:
-  /// What the window tells of itself.
-  struct Listener {
-    /// Takes the chosen result (`ContestoRisultati`); empty when the window only lists.
-    std::function<void(const calculation::FacadePart&)> take{};
-    /// A result is gone: its name leaves the lists of the main window.
-    std::function<void(ResultKind, const std::string& name)> removed{};
-  };
+  Q_OBJECT
 
-  SavedResultsWindow(shell::WindowTools tools, ResultSource source, Listener listener,
+ public:
+  /// What the window is opened for (`ContestoRisultati`).
+  enum class Purpose { kList, kTake };
+
+  SavedResultsWindow(shell::WindowTools tools, ResultSource source, Purpose purpose,
                      QWidget* parent = nullptr);
   ~SavedResultsWindow() override;
 
   /// Reads the table anew; the selected entry stays selected when it is still there.
   void Refresh();
+
+ signals:
+  /// The chosen result is handed over.
+  void Taken(const velmar::calculation::FacadePart& part);
+  /// A result is gone.
+  void Removed(velmar::structures::ResultKind kind, const std::string& name);
 
  private:
   QWidget* MakeKinds();
@@ -52,7 +54,7 @@ class SavedResultsWindow : public QDialog {
 
   shell::WindowTools tools_;
   ResultSource source_;
-  Listener listener_;
+  Purpose purpose_;
   EntryModel model_;
   EntrySearch shown_;
   QRadioButton* airborne_ = nullptr;

@@ -16,7 +16,9 @@
 #include <set>
 #include <utility>
 
+#include "foundation/failure.h"
 #include "foundation/message_rows.h"
+#include "shell/windows/phrases.h"
 
 namespace velmar::structures {
 namespace {
@@ -50,17 +52,19 @@ bool Serves(const storage::TestUses& uses, Use use) {
   return true;
 }
 
+/// Letters that are worth a look into other files.
+constexpr qsizetype kShortestSearch = 3;
 constexpr int kTreeCharacters = 42;
 constexpr int kListCharacters = 44;
 
 }  // namespace
 
 TestChooser::TestChooser(const shell::WindowTools& tools, LibrarySource source, const Controls& controls,
-                         Listener listener, QWidget* parent)
+                         QWidget* parent)
     : QWidget(parent),
       tools_(tools),
       source_(std::move(source)),
-      listener_(std::move(listener)),
+      enters_(controls.enters),
       model_({tools.Text(kNameHeadingRow)}),
       shown_(model_),
       nodes_(controls.nodes) {
@@ -89,9 +93,9 @@ QWidget* TestChooser::MakeTree(const Controls& controls) {
   connect(tree_, &QTreeWidget::currentItemChanged, this, [this](const QTreeWidgetItem* item) {
     if (const std::optional<LibraryFile> file = FileOf(item)) OpenFile(*file);
   });
-  if (!listener_.enter) return tree_;
+  if (!enters_) return tree_;
   const auto enter = [this](const QTreeWidgetItem* item) {
-    if (const std::optional<Branch> branch = EmptyBranchOf(item)) listener_.enter(*branch);
+    if (const std::optional<Branch> branch = EmptyBranchOf(item)) emit EntryWanted(*branch);
   };
   connect(tree_, &QTreeWidget::itemActivated, this, enter);
   // Where one click activates an item, that signal has come already.
@@ -150,7 +154,9 @@ QWidget* TestChooser::MakeList(const Controls& controls) {
     shown_.Search(text);
     // The view moves on to a neighbour of a row that goes; nobody chose that one.
     if (list_->currentIndex().data().toString() != before) Clear();
+    SearchOtherFiles();
   });
+  connect(search_, &QLineEdit::returnPressed, this, &TestChooser::TakeHit);
   connect(list_->selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] {
     const QModelIndexList selected = list_->selectionModel()->selectedIndexes();
     Choose(selected.isEmpty() ? QString() : selected.first().data().toString());
@@ -159,13 +165,13 @@ QWidget* TestChooser::MakeList(const Controls& controls) {
 }
 
 void TestChooser::FillTree() {
-  structures::FillTree(*tree_, nodes_, source_, tools_,
-                       listener_.enter ? tools_.Text(kNoSeriesRow) : QString());
+  structures::FillTree(*tree_, nodes_, source_, tools_, enters_ ? tools_.Text(kNoSeriesRow) : QString());
 }
 
 void TestChooser::Refresh() {
+  searched_.clear();
   Refill(file_, keywords_->currentIndex() > 0 ? keywords_->currentText() : QString(),
-         chosen_ ? shell::ToQt(chosen_->part.name) : QString());
+         chosen_ ? shell::FromUtf8(chosen_->part.name) : QString());
 }
 
 void TestChooser::ShowTest(Branch branch, const std::string& series, const QString& name) {
@@ -177,6 +183,7 @@ void TestChooser::ShowTest(Branch branch, const std::string& series, const QStri
   });
   search_->clear();
   uses_->setCurrentIndex(0);
+  searched_.clear();
   Refill(shown ? shown : file_, QString(), name);
 }
 
@@ -216,39 +223,78 @@ void TestChooser::OpenFile(const LibraryFile& file) {
     keywords_->addItem(tools_.Text(kAllKeywordsRow));
     std::set<std::string> listed = {std::string()};
     for (const TestEntry& test : tests_) {
-      if (listed.insert(test.keyword).second) keywords_->addItem(shell::ToQt(test.keyword));
+      if (listed.insert(test.keyword).second) keywords_->addItem(shell::FromUtf8(test.keyword));
     }
   }
   FillList();
-  if (listener_.file)
-    listener_.file(file, tests_.empty() ? QString() : shell::ToQt(tests_.front().description));
+  emit FileOpened(file, tests_.empty() ? QString() : shell::FromUtf8(tests_.front().description));
 }
 
 void TestChooser::FillList() {
   const bool all = keywords_->currentIndex() <= 0;
-  const std::string keyword = shell::FromQt(keywords_->currentText());
+  const std::string keyword = shell::ToUtf8(keywords_->currentText());
   std::vector<QStringList> rows;
   const Use use = kUses.at(static_cast<std::size_t>(std::max(uses_->currentIndex(), 0))).first;
   for (const TestEntry& test : tests_) {
-    if ((all || test.keyword == keyword) && Serves(test.uses, use)) rows.push_back({shell::ToQt(test.name)});
+    if ((all || test.keyword == keyword) && Serves(test.uses, use))
+      rows.push_back({shell::FromUtf8(test.name)});
   }
   Clear();
   model_.Fill(std::move(rows));
+}
+
+void TestChooser::FocusSearch() { search_->setFocus(Qt::OtherFocusReason); }
+
+void TestChooser::SearchOtherFiles() {
+  if (shown_.rowCount() > 0 || search_->text().trimmed().size() < kShortestSearch) return;
+  const std::optional<LibraryFile> file = FirstFileWithHit();
+  if (!file) return;
+  {
+    const QSignalBlocker quiet(uses_);
+    uses_->setCurrentIndex(0);
+  }
+  Refill(file, QString(), QString());
+}
+
+std::optional<LibraryFile> TestChooser::FirstFileWithHit() {
+  EntryModel names({QString()});
+  EntrySearch hits(names);
+  hits.Search(search_->text());
+  for (QTreeWidgetItemIterator item(tree_); *item != nullptr; ++item) {
+    const std::optional<LibraryFile> file = FileOf(*item);
+    if (!file || file == file_) continue;
+    const auto [known, is_new] = searched_.try_emplace(file->path);
+    try {
+      for (const TestEntry& test : is_new ? source_.tests(*file) : std::vector<TestEntry>())
+        known->second.push_back({shell::FromUtf8(test.name)});
+    } catch (const Failure&) {
+      continue;  // opening that file tells why
+    }
+    names.Fill(known->second);
+    if (hits.rowCount() > 0) return file;
+  }
+  return std::nullopt;
+}
+
+void TestChooser::TakeHit() {
+  const bool searched = !search_->text().trimmed().isEmpty();
+  if (searched && !list_->currentIndex().isValid() && shown_.rowCount() > 0)
+    list_->setCurrentIndex(shown_.index(0, 0));
 }
 
 void TestChooser::Clear() {
   list_->selectionModel()->clear();
   if (!chosen_) return;
   chosen_.reset();
-  if (listener_.test) listener_.test(chosen_);
+  emit TestChosen(chosen_);
 }
 
 void TestChooser::Choose(const QString& name) {
   std::optional<MeasuredTest> found;
-  if (file_ && !name.isEmpty()) tools_.Try([&] { found = source_.test(*file_, shell::FromQt(name)); });
+  if (file_ && !name.isEmpty()) tools_.Try([&] { found = source_.test(*file_, shell::ToUtf8(name)); });
   if (!found && !chosen_) return;
   chosen_ = std::move(found);
-  if (listener_.test) listener_.test(chosen_);
+  emit TestChosen(chosen_);
 }
 
 }  // namespace velmar::structures

@@ -1,7 +1,8 @@
 #pragma once
 
 #include <QWidget>
-#include <functional>
+#include <filesystem>
+#include <map>
 #include <optional>
 
 #include "shell/structures/entry_model.h"
@@ -19,6 +20,8 @@ namespace velmar::structures {
 
 /// Tree of files, keyword filter, search and list of tests: what library and comparison choose a test with.
 class TestChooser : public QWidget {
+  Q_OBJECT
+
  public:
   /// Object names of the controls, and what they show.
   struct Controls {
@@ -27,19 +30,12 @@ class TestChooser : public QWidget {
     const char* list = "List1";
     std::vector<TreeNode> nodes{};
     bool filters_uses = false;  ///< offers the filter of what a test can serve for (`List1_uso`)
-  };
-  struct Listener {
-    /// Another file was opened; the description is that of its first test.
-    std::function<void(const LibraryFile&, const QString& description)> file{};
-    /// A test was chosen, or none is any more.
-    std::function<void(const std::optional<MeasuredTest>&)> test{};
-    /// A branch that holds no series was clicked: a measurement of it is to be entered. Without it such a
-    /// branch shows nothing.
-    std::function<void(Branch)> enter{};
+    bool enters =
+        false;  ///< a branch that holds no series asks for one; without it such a branch shows nothing
   };
 
   TestChooser(const shell::WindowTools& tools, LibrarySource source, const Controls& controls,
-              Listener listener, QWidget* parent = nullptr);
+              QWidget* parent = nullptr);
 
   const std::optional<MeasuredTest>& Chosen() const { return chosen_; }
   const std::optional<LibraryFile>& File() const { return file_; }
@@ -49,7 +45,17 @@ class TestChooser : public QWidget {
   void Clear();
   /// Reads files and tests anew; what is chosen stays chosen while it is still there.
   void Refresh();
+  /// What is typed next is searched for, in the open file first and then in the others.
+  void FocusSearch();
   QSplitter* Splitter() const { return splitter_; }
+
+ signals:
+  /// Another file was opened; the description is that of its first test.
+  void FileOpened(const velmar::structures::LibraryFile& file, const QString& description);
+  /// A test was chosen, or none is any more.
+  void TestChosen(const std::optional<velmar::structures::MeasuredTest>& test);
+  /// A branch that holds no series was clicked: a measurement of it is to be entered.
+  void EntryWanted(velmar::structures::Branch branch);
 
  private:
   QWidget* MakeTree(const Controls& controls);
@@ -59,16 +65,22 @@ class TestChooser : public QWidget {
   void OpenFile(const LibraryFile& file);
   void FillList();
   void Choose(const QString& name);
+  /// Where the open file has no hit, the first one that has is opened.
+  void SearchOtherFiles();
+  std::optional<LibraryFile> FirstFileWithHit();
+  /// Enter in the search: the first hit is chosen.
+  void TakeHit();
 
   shell::WindowTools tools_;
   LibrarySource source_;
-  Listener listener_;
+  bool enters_;
   EntryModel model_;
   EntrySearch shown_;
   std::vector<TreeNode> nodes_;
   std::optional<LibraryFile> file_;
   std::vector<TestEntry> tests_;
   std::optional<MeasuredTest> chosen_;
+  std::map<std::filesystem::path, std::vector<QStringList>> searched_;  ///< names of files that were searched
   QSplitter* splitter_ = nullptr;
   QTreeWidget* tree_ = nullptr;
   QComboBox* keywords_ = nullptr;

@@ -10,6 +10,7 @@
 #include "acoustics/bands.h"
 #include "foundation/decimal.h"
 #include "foundation/message_rows.h"
+#include "shell/windows/phrases.h"
 
 namespace velmar::structures {
 namespace {
@@ -23,7 +24,7 @@ constexpr std::size_t kShortFields = 4;
 constexpr std::size_t kBandsInARow = 7;
 constexpr double kRatingScale = 1.4;
 
-QString Decibels(const std::optional<double>& value) { return shell::ToQt(calculation::BoxText(value)); }
+QString Decibels(const std::optional<double>& value) { return shell::FromUtf8(calculation::BoxText(value)); }
 
 QString Symbol(std::string_view symbol) {
   return QString::fromUtf8(symbol.data(), static_cast<qsizetype>(symbol.size()));
@@ -46,7 +47,7 @@ QString OctaveLine(const MeasuredTest& test, const shell::WindowTools& tools) {
     const std::optional<double>& value = test.octave_steps_db.at(band);
     if (!value) continue;
     values << QString::number(static_cast<int>(acoustics::BandCentre(band))) + QStringLiteral(" Hz ") +
-                  shell::ToQt(calculation::BoxText(value));
+                  shell::FromUtf8(calculation::BoxText(value));
   }
   if (values.isEmpty()) return {};
   return tools.Text(kOctavesFrameRow) + QStringLiteral(": ") + values.join(QStringLiteral(" · "));
@@ -62,7 +63,7 @@ QString RatingRemarks(const BranchSymbols& symbols, const MeasuredTest& test,
                    Decibels(test.check.rating) + QStringLiteral(" dB");
   const bool other_index = !test.index_kind.empty() && test.index_value;
   if (other_index)
-    remarks << tools.Text(kStatedIndexRow) + ' ' + shell::ToQt(test.index_kind) + ' ' +
+    remarks << tools.Text(kStatedIndexRow) + ' ' + shell::FromUtf8(test.index_kind) + ' ' +
                    Decibels(test.index_value);
   const bool octaves_alone = test.derived_thirds_db || test.check.basis == storage::RatingBasis::kOctaves;
   if (octaves_alone) remarks << tools.Text(kOctavesOnlyRow);
@@ -231,7 +232,7 @@ void TestDetails::Show(const std::optional<MeasuredTest>& test) {
   remarks_->setVisible(!remarks_->text().isEmpty());
   octaves_->setText(OctaveLine(shown, tools_));
   octaves_->setVisible(!octaves_->text().isEmpty());
-  description_->setPlainText(shell::ToQt(part.description));
+  description_->setPlainText(shell::FromUtf8(part.description));
   const QString area = small ? QStringLiteral("0") : Decibels(part.area_m2);
   const QString mass = part.mass_kg_m2 ? Decibels(part.mass_kg_m2) : QStringLiteral("-");
   const std::array<QString, 5> values = {Decibels(part.rating_db), Decibels(part.c_db), Decibels(part.ctr_db),
@@ -240,12 +241,12 @@ void TestDetails::Show(const std::optional<MeasuredTest>& test) {
   for (std::size_t i = 0; i < bands_.size(); ++i) {
     const std::optional<double>& value = part.bands_db[i];
     const bool measured = value && *value != calculation::kNotMeasuredDb;
-    bands_[i]->setText(measured ? shell::ToQt(FormatFixed(*value, 1)) : QString());
+    bands_[i]->setText(measured ? shell::FromUtf8(FormatFixed(*value, 1)) : QString());
   }
   const std::array<std::string, 6> certificate = {shown.certificate, shown.date,  shown.laboratory,
                                                   shown.client,      shown.notes, shown.source};
   for (std::size_t i = 0; i < certificate_.size(); ++i)
-    ShowFromStart(*certificate_[i], shell::ToQt(certificate[i]));
+    ShowFromStart(*certificate_[i], shell::FromUtf8(certificate[i]));
   curve_->Show(test, symbols_);
   picture_->Show(shown.picture);
 }

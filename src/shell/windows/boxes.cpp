@@ -8,6 +8,7 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QUrl>
+#include <QWindow>
 
 #include "foundation/message_rows.h"
 #include "shell/windows/phrases.h"
@@ -30,22 +31,37 @@ void Tell(const presentation::Words& words, Tone tone, const QString& text) {
   box.exec();
 }
 
-void TellWritten(const presentation::Words& words, const QString& text, const QString& file) {
-  QMessageBox box(QApplication::activeWindow());
-  box.setWindowTitle(kProductName);
-  box.setIcon(QMessageBox::Information);
-  Show(box, text + '\n' + QDir::toNativeSeparators(file));
-  box.setTextInteractionFlags(Qt::TextSelectableByMouse);
-  const QPushButton* open = box.addButton(Text(words, kOpenWrittenRow), QMessageBox::ActionRole);
-  const QPushButton* folder = box.addButton(Text(words, kOpenFolderRow), QMessageBox::ActionRole);
-  QPushButton* ok = box.addButton(Text(words, kOkRow), QMessageBox::AcceptRole);
-  box.setDefaultButton(ok);
-  box.setEscapeButton(ok);
-  box.exec();
-  if (box.clickedButton() != open && box.clickedButton() != folder) return;
-  const QString wanted = box.clickedButton() == open ? file : QFileInfo(file).absolutePath();
+void OpenWritten(const presentation::Words& words, const QString& wanted) {
   if (!QDesktopServices::openUrl(QUrl::fromLocalFile(wanted)))
     Tell(words, Tone::kCritical, Text(words, kNotOpenedRow) + '\n' + wanted);
+}
+
+// Nothing has to be answered: the box leaves the windows free, and goes as soon as one of them is worked in.
+void TellWritten(const presentation::Words& words, const QString& text, const QString& file) {
+  auto* box = new QMessageBox(QApplication::activeWindow());
+  box->setAttribute(Qt::WA_DeleteOnClose);
+  box->setWindowModality(Qt::NonModal);
+  box->setWindowTitle(kProductName);
+  box->setIcon(QMessageBox::Information);
+  Show(*box, text + '\n' + QDir::toNativeSeparators(file));
+  box->setTextInteractionFlags(Qt::TextSelectableByMouse);
+  const QPushButton* open = box->addButton(Text(words, kOpenWrittenRow), QMessageBox::ActionRole);
+  const QPushButton* folder = box->addButton(Text(words, kOpenFolderRow), QMessageBox::ActionRole);
+  QPushButton* ok = box->addButton(Text(words, kOkRow), QMessageBox::AcceptRole);
+  box->setDefaultButton(ok);
+  box->setEscapeButton(ok);
+  QObject::connect(open, &QPushButton::clicked, qApp, [words, file] { OpenWritten(words, file); });
+  QObject::connect(folder, &QPushButton::clicked, qApp,
+                   [words, file] { OpenWritten(words, QFileInfo(file).absolutePath()); });
+  box->show();
+  QObject::connect(qApp, &QGuiApplication::focusWindowChanged, box,
+                   [box, seen = false](const QWindow* now) mutable {
+                     // The window behind a file dialog may get the focus back before the box has it.
+                     if (now == box->windowHandle())
+                       seen = true;
+                     else if (seen && now != nullptr)
+                       box->close();
+                   });
 }
 
 }  // namespace

@@ -34,7 +34,8 @@ struct Boxes {
   /// Yes, no, or nothing for cancel.
   std::function<std::optional<bool>(const QString& question)> ask_or_cancel;
   std::function<void(Tone tone, const QString& text)> tell;
-  /// `file` was written: `text` and where it is, and on request the file or its folder is opened.
+  /// `file` was written: `text` and where it is, and on request the file or its folder is opened. Nobody has
+  /// to answer.
   std::function<void(const QString& text, const std::filesystem::path& file)> tell_written;
   /// An empty answer means that the user cancelled.
   std::function<QString(const FileQuestion&)> choose_file_to_open;

@@ -4,6 +4,7 @@
 #include <QPainter>
 
 #include "foundation/message_rows.h"
+#include "shell/windows/phrases.h"
 
 namespace velmar::shell {
 namespace {
@@ -24,7 +25,7 @@ void PictureView::Show(const std::filesystem::path& file) {
   picture_ = {};
   std::error_code error;
   if (!file.empty() && std::filesystem::is_regular_file(file, error)) {
-    QImageReader reader(ToQt(file.string()));
+    QImageReader reader(FromUtf8(file.string()));
     reader.setDecideFormatFromContent(true);
     reader.setAutoTransform(true);
     const QSize size = reader.size();

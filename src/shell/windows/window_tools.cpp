@@ -3,8 +3,9 @@
 #include <QHeaderView>
 #include <QSettings>
 #include <QSplitter>
-#include <QStringList>
 #include <QWidget>
+
+#include "shell/windows/phrases.h"
 
 namespace velmar::shell {
 namespace {
@@ -15,16 +16,10 @@ QString Key(const RememberedSizes& sizes, const char* piece) {
 
 }  // namespace
 
-QString WindowTools::Text(MessageRow row) const { return ToQt(words(row)); }
+QString WindowTools::Text(MessageRow row) const { return shell::Text(words, row); }
+QString WindowTools::Text(const Message& message) const { return shell::Text(words, message); }
 
-void WindowTools::Tell(const Failure& failure) const {
-  QStringList lines;
-  for (const MessageLine& line : failure.UserMessage()) lines << ToQt(presentation::InWords(line, words));
-  tell(lines.join(QLatin1Char('\n')));
-}
-
-QString ToQt(const std::string& text) { return QString::fromStdString(text); }
-std::string FromQt(const QString& text) { return text.toStdString(); }
+void WindowTools::Tell(const Failure& failure) const { Tell(Text(failure.UserMessage())); }
 
 bool RestoreSizes(const QSettings* memory, const RememberedSizes& sizes) {
   if (memory == nullptr) return false;

@@ -1,10 +1,10 @@
 #pragma once
 
 #include <QString>
-#include <functional>
 
 #include "foundation/failure.h"
 #include "presentation/texts/words.h"
+#include "shell/windows/boxes.h"
 
 class QHeaderView;
 class QSettings;
@@ -13,15 +13,17 @@ class QWidget;
 
 namespace velmar::shell {
 
-/// What every window here is given. The boxes are passed in, so that a test answers them without one opening.
-struct WindowTools {
-  presentation::Words words{};
-  std::function<bool(const QString& question)> ask{};
-  std::function<void(const QString& text)> tell{};  ///< a critical box
-  QSettings* memory = nullptr;                      ///< sizes and column widths; none: nothing is remembered
+/// What every window here is given: how it speaks, and what it remembers.
+struct WindowTools : Speech {
+  QSettings* memory = nullptr;  ///< sizes and column widths; none: nothing is remembered
 
+  bool Ask(const QString& question) const { return boxes.ask(question); }
+  /// Tells what is wrong.
+  void Tell(const QString& text) const { boxes.tell(Tone::kCritical, text); }
   /// The words of `row`.
   QString Text(MessageRow row) const;
+  /// The lines of a box, joined with line breaks.
+  QString Text(const Message& message) const;
   /// What `failure` says to the user, line by line.
   void Tell(const Failure& failure) const;
 
@@ -37,10 +39,6 @@ struct WindowTools {
     }
   }
 };
-
-/// UTF-8 to Qt and back.
-QString ToQt(const std::string& text);
-std::string FromQt(const QString& text);
 
 /// The pieces of a window whose sizes are remembered under `name`; any but the window may be null.
 struct RememberedSizes {

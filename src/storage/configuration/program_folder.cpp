@@ -36,6 +36,11 @@ fs::path ManualFile(const fs::path& program) {
   return FirstThatHolds(program, {".", "../share/doc/velmarpro"}, kName).value_or(program) / kName;
 }
 
+fs::path ManualText(const fs::path& program) {
+  constexpr const char* kName = "manuale/manuale.md";
+  return FirstThatHolds(program, {".", "../share/doc/velmarpro"}, kName).value_or(program) / kName;
+}
+
 std::optional<fs::path> AccessReaderProgram(const fs::path& program) {
   constexpr const char* kName = "velmar-access-reader";
   const auto folder =

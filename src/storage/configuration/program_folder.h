@@ -16,6 +16,9 @@ std::optional<std::filesystem::path> ShippedDataFolder(const std::filesystem::pa
 /// place, so that its absence can be told by name.
 std::filesystem::path ManualFile(const std::filesystem::path& program);
 
+/// The text of the user's manual, which the window shows, beside ManualFile(); named as that is.
+std::filesystem::path ManualText(const std::filesystem::path& program);
+
 /// The program that reads genuine Access files, as installed or as built; nothing when it is not there.
 std::optional<std::filesystem::path> AccessReaderProgram(const std::filesystem::path& program);
 

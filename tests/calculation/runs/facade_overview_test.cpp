@@ -142,6 +142,17 @@ TEST(Components, ComeBackFromTheReserve) {
   EXPECT_EQ(setup, before);
 }
 
+TEST(Components, AFurtherPartTakesTheEmptyOneFirst) {
+  elements::Setup setup = Facade(1);
+  EXPECT_EQ(FreeComponent(setup), 2);
+  setup.facade.components[0] = {};
+  setup.facade.components[0].tightness_class = 2;
+  EXPECT_EQ(FreeComponent(setup), 1);
+  setup.facade.components[0].area_text = "-";
+  EXPECT_EQ(FreeComponent(setup), 2);
+  EXPECT_EQ(FreeComponent(Facade(9)), std::nullopt);
+}
+
 TEST(Components, KeepTheLimitsOfTheirCount) {
   elements::Setup setup = Facade(1);
   EXPECT_THROW(RemoveComponent(setup, 1), std::out_of_range);

@@ -62,7 +62,7 @@ TEST_P(BadTemplateTest, IsRefusedInWords) {
                                 .result = run.outcome.result.value(),
                                 .totals = run.totals,
                                 .words = presentation::CatalogueWords()};
-    for (const ReportFormat& format : DrawnFormats(folder_.Path())) {
+    for (const ReportFormat& format : DrawnFormats({.templates = folder_.Path()})) {
       if (format.extension != "docx" && format.extension != "xlsx") continue;
       try {
         format.bytes(content);

@@ -36,7 +36,7 @@ ReportContent ContentOf(const std::string& example) {
 }
 
 std::string BytesOf(const std::string& extension, const ReportContent& content) {
-  for (const ReportFormat& format : DrawnFormats(SHIPPED "/Templates")) {
+  for (const ReportFormat& format : DrawnFormats({.templates = SHIPPED "/Templates"})) {
     if (format.extension == extension) return format.bytes(content);
   }
   return {};
@@ -72,7 +72,7 @@ TEST_P(DrawnTest, WordAndExcelReportsAreWrittenWithoutADisplay) {
 
 TEST_F(DrawnTest, AMissingTemplateIsNamed) {
   const ReportContent content = ContentOf("facciata");
-  for (const ReportFormat& format : DrawnFormats("/nowhere")) {
+  for (const ReportFormat& format : DrawnFormats({.templates = "/nowhere"})) {
     if (format.extension != "docx" && format.extension != "xlsx") continue;
     try {
       format.bytes(content);

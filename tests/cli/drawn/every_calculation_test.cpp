@@ -110,7 +110,7 @@ class EveryCalculation : public testing::TestWithParam<Family> {
 
  private:
   // They go with the test: what draws must not outlive the program's main function.
-  std::vector<ReportFormat> formats_ = DrawnFormats(SHIPPED "/Templates");
+  std::vector<ReportFormat> formats_ = DrawnFormats({.templates = SHIPPED "/Templates"});
 };
 
 void ExpectSound(const Package& word) {

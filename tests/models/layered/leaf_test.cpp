@@ -154,6 +154,10 @@ TEST(LayeredLeaf, OfAWavySheetIsStiffAlongTheWaves) {
 
 TEST(LayeredLeaf, TellsSolidsByTheirValues) {
   EXPECT_EQ(KindOfSolid(2500, 70e9, true), SolidKind::kGlass);
+  EXPECT_EQ(KindOfSolid(2376, 69e9, false), SolidKind::kGlass) << "44.2";
+  EXPECT_EQ(KindOfSolid(2376, 45e9, false), SolidKind::kGlass) << "44.2 with an acoustic interlayer";
+  EXPECT_EQ(KindOfSolid(2350, 38e9, true), SolidKind::kMasonry) << "concrete";
+  EXPECT_EQ(KindOfSolid(2350, 38e9, false), SolidKind::kMasonry) << "a thin sheet of concrete";
   EXPECT_EQ(KindOfSolid(2700, 70e9, false), SolidKind::kMetal);
   EXPECT_EQ(KindOfSolid(7800, 210e9, false), SolidKind::kMetal);
   EXPECT_EQ(KindOfSolid(850, 4.1e9, false), SolidKind::kPlasterboard);

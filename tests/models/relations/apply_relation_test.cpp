@@ -1,11 +1,10 @@
-#include "models/relations/apply_relation.h"
-
 #include <limits>
 
 #include <gtest/gtest.h>
 
 #include "acoustics/airborne_rating.h"
 #include "foundation/failure.h"
+#include "models/relations/relation.h"
 
 namespace velmar::models {
 namespace {

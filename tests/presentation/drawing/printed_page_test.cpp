@@ -71,7 +71,7 @@ TEST(PaginaDi, OfAWallNamesWhatItPrints) {
   EXPECT_EQ(page.fields[0].caption, "Tipo di parete");
   EXPECT_EQ(page.fields[0].value, "Parete singola in laterizio");
   EXPECT_EQ(page.fields[1].value, "relazione sperimentale [1]");
-  EXPECT_THAT(page.results, ElementsAre("Rw(C; Ctr)= 51,0 (-1; -3) dB"));
+  EXPECT_THAT(page.results, ElementsAre("Rw(C; Ctr)= 51,0 (\u22121; \u22123)\u202FdB"));
   EXPECT_THAT(page.bands.heads, ElementsAre("Frequenza [Hz]", "Ri [dB]", "rif [dB]"));
   ASSERT_EQ(page.bands.rows.size(), 21U);
   EXPECT_THAT(page.bands.rows[0], ElementsAre("50", "32,0", ""));
@@ -82,7 +82,7 @@ TEST(PaginaDi, OfAWallNamesWhatItPrints) {
 TEST(PaginaDi, OfAFloorPrintsImpactSound) {
   const PaginaDiStampa page = PageOf(samples::FloatingFloor(), ImpactResult());
   EXPECT_EQ(page.title, "Calcolo previsionale del livello di rumore di calpestio");
-  EXPECT_THAT(page.results, ElementsAre("Lnw(Ci)= 58,0 (1) dB"));
+  EXPECT_THAT(page.results, ElementsAre("Lnw(Ci)= 58,0 (1)\u202FdB"));
   EXPECT_THAT(page.further_results, testing::StartsWith("CI,50-2500= "));
   EXPECT_EQ(page.bands.heads[1], "Li [dB]");
 }
@@ -93,7 +93,7 @@ TEST(PaginaDi, OfALiningPrintsTheRatedBandsAndItsHeads) {
   const PaginaDiStampa page = PageOf(samples::Lining(Calculation::kLiningFrame), result);
   EXPECT_EQ(page.bands.rows.size(), 16U);
   EXPECT_EQ(page.bands.rows.front().front(), "100");
-  EXPECT_THAT(page.elements.heads, ElementsAre("m'", "Rw (dB)", "m' add", "DRw (dB)"));
+  EXPECT_THAT(page.elements.heads, ElementsAre("m'", "Rw (dB)", "m' add", "\u0394Rw (dB)"));
   EXPECT_THAT(page.elements.rows.at(0), ElementsAre("310,0", "52", "26,7", "9"));
   EXPECT_TRUE(Printed(page)->Says("C e Ctr sono riferiti all'indice di valutazione dell'elemento base."));
   EXPECT_EQ(PageOf(samples::PlasteredBrickWall()).results_note, "");
@@ -107,19 +107,21 @@ TEST(PaginaDi, OfAGenericLiningHasNeitherChartNorBands) {
     const PaginaDiStampa page = PageOf(samples::Lining(calculation), result);
     EXPECT_FALSE(page.chart);
     EXPECT_TRUE(page.bands.heads.empty());
-    EXPECT_THAT(page.results, ElementsAre("Rw= 60,0 dB", "DRw= 8 dB"));
+    EXPECT_THAT(page.results, ElementsAre("Rw= 60,0\u202FdB", "\u0394Rw= 8\u202FdB"));
     EXPECT_EQ(page.results_note, "") << "there are no adaptation terms";
   }
 }
 
 TEST(PaginaDi, OfAFacadeListsItsPartsWithShareAndClass) {
   const PaginaDiStampa page = PageOf(samples::FacadeOfNine());
-  EXPECT_THAT(page.elements.heads, ElementsAre("Elemento", "Rw; Dn,e,w (dB)", "Area (m²)", "Area (%)", "Note"));
+  EXPECT_THAT(page.elements.heads,
+              ElementsAre("Elemento", "Rw; Dn,e,w (dB)", "Area (m²)", "Area (%)", "Note"));
   ASSERT_EQ(page.elements.rows.size(), 10U);
   EXPECT_TRUE(page.elements.rows[0][0].starts_with("parte opaca"));
   EXPECT_THAT(std::vector(page.elements.rows[2].begin() + 1, page.elements.rows[2].end()),
               ElementsAre("39", "1,55", "3,2%", "Classe 1"));
-  EXPECT_THAT(page.elements.rows[9], ElementsAre("infisso: Bocchetta di ventilazione", "Dn,e,w 46", "-", "-", ""));
+  EXPECT_THAT(page.elements.rows[9],
+              ElementsAre("infisso: Bocchetta di ventilazione", "Dn,e,w 46", "-", "-", ""));
   EXPECT_TRUE(page.structure.empty());
   EXPECT_TRUE(page.section.strips.empty());
 }
@@ -137,7 +139,8 @@ TEST(PaginaDi, OfAFloorNamesTheImprovementByItsCovering) {
   result.delta_lnw = 21.34;
   elements::Setup setup = samples::FloatingFloor();
   setup.calculation = Calculation::kImpactFloatingFloor;
-  EXPECT_THAT(PageOf(setup, result).results, ElementsAre("Lnw(Ci)= 58,0 (1) dB", "DLw= 21,3 dB"));
+  EXPECT_THAT(PageOf(setup, result).results,
+              ElementsAre("Lnw(Ci)= 58,0 (1)\u202FdB", "\u0394Lw= 21,3\u202FdB"));
 }
 
 TEST(PaginaDi, PrintsWhatBelongsBesideTheResultInFull) {
@@ -149,11 +152,11 @@ TEST(PaginaDi, PrintsWhatBelongsBesideTheResultInFull) {
       PaginaDi(setup, {373.0, 720.3}, &result, CatalogueWords(), std::nullopt,
                {{std::string("Rw 52 dB, nessuna stima")}, {std::string("Il risultato sta fuori")}});
   EXPECT_EQ(page.results_note,
-            "Fuori dal campo di validità della relazione [1]: m' = 504 kg/m² (da 80 a 400). Calcolo "
-            "proseguito per scelta dell'utente.\nRw 52 dB, nessuna stima\nIl risultato sta fuori");
+            "Fuori dal campo di validità della relazione [1]: m' = 504\u202Fkg/m² (da 80 a 400). Calcolo "
+            "proseguito per scelta dell'utente.\nRw 52\u202FdB, nessuna stima\nIl risultato sta fuori");
   for (const QSizeF& paper : {kPortrait, kLandscape}) {
     const auto printed = Printed(page, paper);
-    EXPECT_TRUE(printed->Says("Rw 52 dB, nessuna stima"));
+    EXPECT_TRUE(printed->Says("Rw 52\u202FdB, nessuna stima"));
     EXPECT_TRUE(printed->Says("Il risultato sta fuori"));
   }
 }
@@ -164,9 +167,9 @@ TEST(PaginaDi, OfTheFloorsInHollowBrickAddsTheirLines) {
   result.delta_rw = 5.25;
   setup.calculation = Calculation::kFloorWithFloatingScreed;
   EXPECT_THAT(PageOf(setup, result).structure_notes,
-              ElementsAre("S= 373mm", "m'= 720,3 kg/m²", "DRw= 5,2 dB"));
+              ElementsAre("S= 373\u202Fmm", "m'= 720,3\u202Fkg/m²", "\u0394Rw= 5,2\u202FdB"));
   setup.calculation = Calculation::kFloorHollowBrickConcrete;
-  EXPECT_THAT(PageOf(setup, result).structure_notes, ElementsAre("S= 373mm", "m'= 720,3 kg/m²"));
+  EXPECT_THAT(PageOf(setup, result).structure_notes, ElementsAre("S= 373\u202Fmm", "m'= 720,3\u202Fkg/m²"));
   setup.calculation = Calculation::kImpactFloatingFloor;
   EXPECT_TRUE(PageOf(setup, ImpactResult()).structure_notes.empty());
 }
@@ -324,7 +327,7 @@ TEST(ComponiPagina, SetsTitleAndResultBoldAtTheirSizes) {
   const RecordedText title = device->Find("Calcolo previsionale");
   EXPECT_TRUE(title.bold);
   EXPECT_NEAR(title.pixels, 16.0 / 72.0 * kDotsPerInch, 0.5);
-  const RecordedText result = device->Find("Rw(C; Ctr)= 51,0 (-1; -3) dB");
+  const RecordedText result = device->Find("Rw(C; Ctr)= 51,0 (\u22121; \u22123)\u202FdB");
   EXPECT_TRUE(result.bold);
   EXPECT_NEAR(result.pixels, 12.0 / 72.0 * kDotsPerInch, 0.5);
   EXPECT_FALSE(device->Find("Tipo di parete").bold);

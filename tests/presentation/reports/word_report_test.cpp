@@ -42,9 +42,9 @@ TEST_P(WordReportTest, LeavesNoPlaceholderAndNoMarker) {
 TEST_P(WordReportTest, IsASoundPackage) { EXPECT_THAT(FaultsOf(package_), IsEmpty()); }
 
 TEST_P(WordReportTest, TellsTheResult) {
-  EXPECT_THAT(text_, HasSubstr(record_.result_line + "\n"));
+  EXPECT_THAT(text_, HasSubstr(ForPaper(record_.result_line) + "\n"));
   if (!record_.improvement_line.empty()) {
-    EXPECT_THAT(text_, HasSubstr(record_.improvement_line + "\n"));
+    EXPECT_THAT(text_, HasSubstr(ForPaper(record_.improvement_line) + "\n"));
   }
   EXPECT_THAT(text_, HasSubstr(record_.theory + "\n"));
   EXPECT_THAT(text_, HasSubstr(record_.standard + "\n"));
@@ -66,7 +66,9 @@ TEST_P(WordReportTest, TellsEveryBandWithOneDecimal) {
 
 TEST_P(WordReportTest, TellsEveryLayer) {
   for (const StructureRow& row : record_.structure) {
-    EXPECT_THAT(text_, HasSubstr(row.kind == StructureKind::kHeading ? row.name : FullName(row)));
+    EXPECT_THAT(text_, HasSubstr(row.kind == StructureKind::kHeading ? row.name
+                                 : row.kind == StructureKind::kWords ? ForPaper(row.name)
+                                                                     : FullName(row)));
     if (row.mass_kg_m2) {
       EXPECT_THAT(text_, HasSubstr(FormatFixed(*row.mass_kg_m2, 2) + "\n"));
     }
@@ -103,11 +105,11 @@ TEST_P(WordReportTest, TellsEveryInputAndWhereItComesFrom) {
   EXPECT_THAT(text_, HasSubstr("VELMARpro 2.1.0"));
   for (const DataTable& table : record_.data.tables) {
     for (const auto& row : table.rows) {
-      for (const std::string& cell : row) EXPECT_THAT(text_, HasSubstr(cell + "\n"));
+      for (const std::string& cell : row) EXPECT_THAT(text_, HasSubstr(CellForPaper(cell) + "\n"));
     }
   }
   for (const std::string& reference : record_.data.references)
-    EXPECT_THAT(text_, HasSubstr(reference + "\n"));
+    EXPECT_THAT(text_, HasSubstr(ForPaper(reference) + "\n"));
 }
 
 INSTANTIATE_TEST_SUITE_P(Families, WordReportTest, testing::ValuesIn(ReportCases()),
@@ -166,9 +168,9 @@ TEST(WordReport, TellsTheRangesThatWereLeft) {
   AddConfidence(record, {{std::string("Rw 52 dB, nessuna stima")}}, CatalogueWords());
   EXPECT_THAT(TextOf(Package(WriteWordReport(ShippedTemplate(WordTemplateName(record.family)), record).bytes),
                      kDocument),
-              HasSubstr("relazione [1]: m' = 504 kg/m² (da 80 a 400). Calcolo proseguito per scelta "
+              HasSubstr("relazione [1]: m' = 504\u202Fkg/m² (da 80 a 400). Calcolo proseguito per scelta "
                         "dell'utente.\001"
-                        "Rw 52 dB, nessuna stima\n"));
+                        "Rw 52\u202FdB, nessuna stima\n"));
 }
 
 TEST(WordReport, TellsWhereTheRatingIsNotThatOfTheCurve) {

@@ -30,16 +30,16 @@ TEST(Schedule, AWallShowsWhatItsResultSays) {
   element.title = "Divisorio";
   EXPECT_THAT(ScheduleCells(element),
               ElementsAre("3", HasSubstr("Divisorio\nParete singola"), "–", "150", "141,0", "54,0", "-2",
-                          "-6", "–", "–", "–", "Rw ≥ 60 dB", "mancano 6"));
+                          "-6", "–", "–", "–", ForPaper("Rw ≥ 60 dB"), "mancano 6"));
 }
 
 TEST(Schedule, AFloorStandsUnderTheImpactLevel) {
   const std::vector<std::string> cells = ScheduleCells(ElementOf("ImpactFloor", 63.0));
   EXPECT_EQ(cells[5], "–");
   EXPECT_EQ(cells[8], "57,0");
-  EXPECT_EQ(cells[9], "-3");
+  EXPECT_EQ(cells[9], "\u22123");
   EXPECT_EQ(cells[10], "24,3");
-  EXPECT_EQ(cells[11], "Ln,w ≤ 63 dB");
+  EXPECT_EQ(cells[11], ForPaper("Ln,w ≤ 63 dB"));
   EXPECT_EQ(cells[12], "rispettato, margine 6");
 }
 

@@ -89,7 +89,7 @@ TEST(WordBinder, EachChapterHasHeadingContentsAndItsOwnSection) {
   const std::string text = TextOf(package, kMain);
   for (const ReportCase& one : ReportCases()) {
     EXPECT_THAT(text, HasSubstr("– " + one.name + "\n"));
-    EXPECT_THAT(text, HasSubstr("\n" + RecordOf(one).result_line + "\n")) << one.name;
+    EXPECT_THAT(text, HasSubstr("\n" + ForPaper(RecordOf(one).result_line) + "\n")) << one.name;
   }
   EXPECT_THAT(text, HasSubstr("rotto.drav"));
   EXPECT_THAT(text, HasSubstr("Il file è danneggiato."));

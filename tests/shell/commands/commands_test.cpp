@@ -128,6 +128,7 @@ class CommandsTest : public QObject {
                              "Apri_Progetto",
                              "Salva_Progetto",
                              "salva_con_nome",
+                             "salva_come_modello",
                              "Salva",
                              "mnuFileEsportaWord",
                              "esp_excel",
@@ -145,6 +146,7 @@ class CommandsTest : public QObject {
                              "esegui_calcolo",
                              "confronta_risultati",
                              "tab_risultati",
+                             "aiuto_qui",
                              "tutorial",
                              "Contatta_m",
                              "Versione"}) {

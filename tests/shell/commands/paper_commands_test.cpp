@@ -12,7 +12,7 @@
 #include <QTimer>
 
 #include "cli/commands/project_run.h"
-#include "cli/drawn/drawn_formats.h"
+#include "documents/office_reports.h"
 #include "shell/printing/print_preview.h"
 #include "tests/presentation/drawing/recording_device.h"
 #include "tests/shell/support/window_fixture.h"
@@ -45,6 +45,7 @@ Drawn DrawnOf(const presentation::PaginaDiStampa& page) {
 struct Program {
   explicit Program(const QString& example = "parete-forato-intonacata") {
     fixture.services.paper_commands = &commands;
+    project_file = example.toStdString() + ".drav";
     fixture.MakeWindow();
     fixture.window->OpenProject((QString(EXAMPLES) + '/' + example + ".drav").toStdString());
     fixture.Run();
@@ -72,7 +73,10 @@ struct Program {
   }
 
   presentation::PaginaDiStampa Page() const {
-    return DocumentOf(fixture.open, fixture.services.words, fixture.Results().Chart(), {}, {}).page;
+    return DocumentOf(fixture.open,
+                      {.style = {.words = fixture.services.words}, .project_file = project_file},
+                      fixture.Results().Chart(), {}, {})
+        .page;
   }
 
   /// As the comparison window does while it is open.
@@ -86,10 +90,12 @@ struct Program {
 
   void TickAutoscale() const { fixture.Find<QCheckBox>("Check3")->click(); }
 
-  PaperCommands commands{Boxes()};
+  DocumentServices documents{};
+  PaperCommands commands{Boxes(), documents};
   WindowFixture fixture;
   QString print_file;
   QString pdf;
+  std::string project_file;
   QStringList told;
   int print_questions = 0;
   int printer_questions = 0;
@@ -114,11 +120,19 @@ class PaperCommandsTest : public QObject {
     const cli::ProjectRun run =
         cli::RunProject((QString(EXAMPLES) + '/' + example + ".drav").toStdString(),
                         program.fixture.services.materials, /*go_on_outside_ranges=*/true);
-    const Drawn page = DrawnOf(cli::PageOf({.name = {},
-                                            .setup = run.setup,
-                                            .result = run.outcome.result.value(),
-                                            .totals = run.totals,
-                                            .words = program.fixture.services.words}));
+    const presentation::Words& words = program.fixture.services.words;
+    const presentation::PaginaDiStampa told = documents::PageOf({.name = {},
+                                                           .setup = run.setup,
+                                                           .result = run.outcome.result.value(),
+                                                           .totals = run.totals,
+                                                           .words = words,
+                                                           .file = example.toStdString() + ".drav"},
+                                                          {.words = words});
+    const Drawn page = DrawnOf(told);
+    // With its origin: the project's file and fingerprint.
+    QVERIFY(std::ranges::any_of(
+        told.data.fields, [](const presentation::DataField& field) { return field.value.size() == 64; }));
+    QCOMPARE(told.foot.left, program.Page().foot.left);
     QVERIFY(page.texts.size() > 20);
     QCOMPARE(DrawnOf(program.Page()).texts, page.texts);
     QVERIFY(DrawnOf(program.Page()) == page);

@@ -98,7 +98,8 @@ struct Program {
   }
 
   QTemporaryDir folder;
-  ReportCommands commands{folder.path().toStdString()};
+  DocumentServices documents{.places = {.templates = folder.path().toStdString()}};
+  ReportCommands commands{documents};
   WindowFixture fixture;
 };
 

@@ -6,8 +6,9 @@
 #include <QTest>
 
 #include "calculation/runs/refusals.h"
-#include "shell/commands/refused_field.h"
+#include "shell/commands/command_set.h"
 #include "shell/fields/field_note.h"
+#include "shell/page_parts/page_context.h"
 #include "tests/shell/support/window_fixture.h"
 
 namespace velmar::shell {
@@ -184,7 +185,10 @@ class FieldNotesTest : public QObject {
   QString NoteAt(const QString& control) const { return FieldNote::TextAt(fixture_->Find<QWidget>(control)); }
   void RequireField(const MessageLine& line) const {
     const auto refusal = calculation::FindRefusal(fixture_->open.Setup(), {{line}});
-    if (refusal) fixture_->Find<QWidget>(ControlOf(refusal->field));
+    if (!refusal) return;
+    const PageContext& pages = fixture_->window->findChild<CommandSet*>()->At().pages;
+    QVERIFY2(pages.ControlOf(refusal->field) != nullptr,
+             qPrintable(QString::number(std::get<MessageRow>(line.front()).number)));
   }
 
   std::unique_ptr<WindowFixture> fixture_;

@@ -3,6 +3,7 @@
 #include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
+#include <QClipboard>
 #include <QComboBox>
 #include <QDialog>
 #include <QDir>
@@ -14,27 +15,26 @@
 #include <QTimer>
 #include <QToolButton>
 
+#include "calculation/runs/run.h"
+#include "elements/variants.h"
 #include "shell/fields/material_box.h"
+#include "tests/shell/support/typed_texts.h"
 
 namespace velmar::shell {
 namespace {
 
-const QStringList kNumbers = {"0",   "1",  "8",   "12,5", "12.5",  "250", "7",  "1E3", "1e-3",
-                              "100", "40", "3,6", "2",    "0,001", "60",  "55", "",    "1000000"};
-const QStringList kGarbage = {
-    "-",    ",",     "1E", "1E400", "E5", "--",       "1,,2", "abc",  "9999999999999999", "nan", "inf",
-    "0x10", "è€ß日", "\t", " ",     "'",  "<b>3</b>", "-5",   "1E-9", ",5E2,3",           "50 ", "1 000,5"};
+/// More than the edits between two looks can take.
+constexpr int kMostSteps = 500;
 constexpr std::array kKeys = {Qt::Key_Tab,       Qt::Key_Backtab, Qt::Key_Return,   Qt::Key_Escape,
                               Qt::Key_Space,     Qt::Key_Home,    Qt::Key_End,      Qt::Key_Delete,
                               Qt::Key_Backspace, Qt::Key_PageUp,  Qt::Key_PageDown, Qt::Key_Up,
                               Qt::Key_Down,      Qt::Key_F5,      Qt::Key_F6};
 
-/// Any character, also those that no key of a test keyboard has.
-void SendText(QWidget* widget, const QString& text) {
-  for (const QChar letter : text) {
-    QKeyEvent press(QEvent::KeyPress, 0, Qt::NoModifier, QString(letter));
-    QApplication::sendEvent(widget, &press);
-  }
+/// `setup` without what a variant leaves to the project.
+elements::Setup Alone(elements::Setup setup) {
+  setup.information = {};
+  setup.further = {};
+  return setup;
 }
 
 }  // namespace
@@ -69,6 +69,8 @@ const std::vector<RandomUser::Action>& RandomUser::Actions() {
       {"drop a material", &RandomUser::DropMaterial},
       {"go back and forth", &RandomUser::GoBackAndForth, 2},
       {"go back", &RandomUser::GoBack},
+      {"undo what was done", &RandomUser::UndoWhatWasDone, 2},
+      {"paste a table", &RandomUser::PasteTable},
       {"move layers", &RandomUser::MoveLayers, 3},
       {"use variants", &RandomUser::UseVariants, 2},
       {"switch the continuous calculation", &RandomUser::SwitchContinuous},
@@ -115,14 +117,44 @@ Widget* RandomUser::AnyShown() {
   return shown.isEmpty() ? nullptr : OneOf(shown);
 }
 
-// As many steps back as forth lead to where they began.
+// Each step back leads to where the step forth began.
 void RandomUser::GoBackAndForth() {
-  const elements::Setup before = fixture_.open.Setup();
-  int steps = 0;
-  for (const int most = 1 + Pick(20); steps < most && fixture_.open.Steps().ToUndo(); ++steps)
+  std::vector<elements::Setup> way;
+  for (const int most = 1 + Pick(20);
+       static_cast<int>(way.size()) < most && fixture_.open.Steps().ToUndo();) {
+    way.push_back(fixture_.open.Setup());
     fixture_.Find<QAction>("annulla")->trigger();
+  }
+  for (; !way.empty(); way.pop_back()) {
+    fixture_.Find<QAction>("ripeti")->trigger();
+    if (fixture_.open.Setup() != way.back()) qFatal("a step back and forth does not lead to where it began");
+  }
+}
+
+// However many steps it took: undone, the set-up is the one before.
+void RandomUser::UndoWhatWasDone() {
+  if (!fixture_.open.Setup().calculation) return;
+  static const std::vector<void (RandomUser::*)()> kEdits = {
+      &RandomUser::TypeNumber,   &RandomUser::StepNumber,   &RandomUser::MoveInList,
+      &RandomUser::ClickCheck,   &RandomUser::TypeIntoList, &RandomUser::CopyAndPaste,
+      &RandomUser::DropMaterial, &RandomUser::MoveLayers,   &RandomUser::ChooseCalculation,
+      &RandomUser::UseVariants,  &RandomUser::PasteTable};
+  // What is typed next is a step of its own.
+  if (QWidget* focus = QApplication::focusWidget()) focus->clearFocus();
+  const elements::Setup before = fixture_.open.Setup();
+  for (int edits = 1 + Pick(6); edits > 0; --edits)
+    (this->*kEdits.at(static_cast<std::size_t>(Pick(static_cast<qsizetype>(kEdits.size())))))();
+  if (QWidget* focus = QApplication::focusWidget()) focus->clearFocus();
+  const elements::Setup after = fixture_.open.Setup();
+  int steps = 0;
+  for (; fixture_.open.Setup() != before; ++steps) {
+    if (!fixture_.open.Steps().ToUndo() || steps > kMostSteps)
+      qFatal("no number of steps back leads to where the edits began");
+    fixture_.Find<QAction>("annulla")->trigger();
+  }
+  if (Pick(2) == 0) return;
   for (; steps > 0; --steps) fixture_.Find<QAction>("ripeti")->trigger();
-  if (fixture_.open.Setup() != before) qFatal("the steps back and forth do not lead to where they began");
+  if (fixture_.open.Setup() != after) qFatal("the same steps forth do not lead to where the edits ended");
 }
 
 // A step of layers is taken back as one, by menu, keys or the element as a whole.
@@ -148,17 +180,9 @@ void RandomUser::MoveLayers() {
   if (fixture_.open.Setup() != after) qFatal("a step of layers does not come back as it was");
 }
 
-// What a variant gives back is what was fixed, whatever was done in between.
 void RandomUser::UseVariants() {
   const auto buttons = fixture_.window->findChildren<QToolButton*>(QRegularExpression("^Variante_"));
-  if (buttons.isEmpty() || Pick(4) == 0) {
-    const elements::Setup before = fixture_.open.Setup();
-    fixture_.Find<QAction>("fissa_variante")->trigger();
-    elements::Setup after = fixture_.open.Setup();
-    after.further = before.further;
-    if (after != before && !fixture_.open.Steps().ToUndo()) qFatal("fixing a variant changed the set-up");
-    return;
-  }
+  if (buttons.isEmpty() || Pick(4) == 0) return FixVariant();
   QToolButton* button = OneOf(buttons);
   if (!button->isVisible()) return;
   switch (Pick(4)) {
@@ -170,8 +194,45 @@ void RandomUser::UseVariants() {
                       Qt::ControlModifier | Qt::ShiftModifier);
       return;
     default:
-      button->click();
+      GoToVariant(*button);
   }
+}
+
+void RandomUser::FixVariant() {
+  const elements::Setup before = fixture_.open.Setup();
+  fixture_.Find<QAction>("fissa_variante")->trigger();
+  elements::Setup after = fixture_.open.Setup();
+  const std::vector<elements::Variant> variants = VariantsOf(after.further);
+  after.further = before.further;
+  if (after != before && !fixture_.open.Steps().ToUndo()) qFatal("fixing a variant changed the set-up");
+  if (variants.size() > VariantsOf(before.further).size()) fixed_[variants.back().setup_text] = Alone(after);
+}
+
+// What a variant gives back is what was fixed, whatever was done in between.
+void RandomUser::GoToVariant(QToolButton& button) {
+  const int index = button.objectName().section('_', 1).toInt();
+  const std::vector<elements::Variant> variants = VariantsOf(fixture_.open.Setup().further);
+  if (index < 0 || index >= static_cast<int>(variants.size())) qFatal("a button without a variant");
+  QTest::mouseClick(&button, Qt::LeftButton);
+  const auto fixed = fixed_.find(variants[static_cast<std::size_t>(index)].setup_text);
+  if (fixed == fixed_.end()) return;
+  const elements::Setup now = Alone(fixture_.open.Setup());
+  if (now == fixed->second) return;
+  // A run fills what is empty.
+  elements::Setup completed = fixed->second;
+  calculation::PrepareRun(completed);
+  if (now != completed) qFatal("a variant does not give back what was fixed");
+}
+
+void RandomUser::PasteTable() {
+  auto* box = AnyShown<MaterialBox>();
+  if (box == nullptr) return;
+  QApplication::clipboard()->setText(
+      Pick(3) == 0
+          ? QString("strato\tmm\nnulla\tx\n")
+          : QString("Intonaco di calce e cemento\t15\nForati in laterizio 12 cm\t%1\n").arg(50 + Pick(200)));
+  box->setFocus();
+  QTest::keyClick(box, Qt::Key_V, Qt::ControlModifier);
 }
 
 void RandomUser::GoBack() { fixture_.Find<QAction>("annulla")->trigger(); }

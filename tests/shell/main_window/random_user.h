@@ -3,11 +3,14 @@
 #include <QList>
 #include <QTemporaryDir>
 #include <QTimer>
+#include <map>
 #include <random>
+#include <string>
 
 #include "tests/shell/support/window_fixture.h"
 
 class QLineEdit;
+class QToolButton;
 
 namespace velmar::shell {
 
@@ -56,6 +59,10 @@ class RandomUser {
   void AnswerDialog();
   void GoBackAndForth();
   void GoBack();
+  void UndoWhatWasDone();
+  void FixVariant();
+  void GoToVariant(QToolButton& button);
+  void PasteTable();
   void MoveLayers();
   void UseVariants();
   void SwitchContinuous();
@@ -65,6 +72,7 @@ class RandomUser {
   std::mt19937 random_;
   QTimer any_dialog_;  ///< a key on a focused button may open one as well
   QTemporaryDir folder_;
+  std::map<std::string, elements::Setup> fixed_;  ///< what was fixed, by the text that the variant keeps
   QStringList examples_;
 };
 

@@ -108,8 +108,8 @@ class RandomWalkTest : public QObject {
       if (step % 16 == 0) QApplication::processEvents();
       const bool ran = fixture.Find<QAction>("calcolo_continuo")->isChecked() || action == "run" ||
                        action == "press any key" || action == "switch the continuous calculation" ||
-                       action == "use variants";
-      if (action == "use variants") watch.BeginAnew();
+                       action == "use variants" || action == "undo what was done";
+      if (action == "use variants" || action == "undo what was done") watch.BeginAnew();
       const QString fault = watch.Fault(ran);
       QVERIFY2(fault.isEmpty(), qPrintable(QString("step %1, %2: %3").arg(step).arg(action, fault)));
       const QString untruth = Untruth(fixture);

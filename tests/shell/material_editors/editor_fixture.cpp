@@ -21,11 +21,11 @@ EditorFixture::EditorFixture() : store_(folder_ / "Databases/Database/Database.m
 shell::WindowTools EditorFixture::Tools() {
   shell::WindowTools tools;
   tools.words = presentation::CatalogueWords();
-  tools.ask = [this](const QString& question) {
+  tools.boxes.ask = [this](const QString& question) {
     questions_ << question;
     return answer_;
   };
-  tools.tell = [this](const QString& text) { told_ << text; };
+  tools.boxes.tell = [this](shell::Tone, const QString& text) { told_ << text; };
   tools.memory = memory_.get();
   return tools;
 }

@@ -35,8 +35,8 @@ int main(int argc, char** argv) {
   if (arguments.at(2) == "dark") QApplication::setPalette(DarkPalette());
   velmar::shell::WindowTools tools;
   tools.words = velmar::presentation::CatalogueWords();
-  tools.ask = [](const QString&) { return true; };
-  tools.tell = [](const QString& text) { qWarning("%s", qPrintable(text)); };
+  tools.boxes.ask = [](const QString&) { return true; };
+  tools.boxes.tell = [](velmar::shell::Tone, const QString& text) { qWarning("%s", qPrintable(text)); };
   bool saved = false;
   QTimer timer;
   QObject::connect(&timer, &QTimer::timeout, [&] {

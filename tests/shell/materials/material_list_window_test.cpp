@@ -27,13 +27,15 @@ class MaterialListWindowTest : public testing::Test {
     return Open(MaterialPick{family, shown, [this](const std::string& name) { taken_.push_back(name); }});
   }
   MaterialListWindow& Open(std::optional<MaterialPick> pick) {
-    MaterialListWindow::Listener listener;
-    listener.changed = [this](const MaterialChange& change) { changed_.push_back(change.name); };
-    listener.removed = [this](MaterialFamily, const std::string& name) { removed_.push_back(name); };
-    listener.refreshed = [this] { ++refreshed_; };
-    listener.used = [this](MaterialFamily, const std::string&) { return used_; };
-    window_ = std::make_unique<MaterialListWindow>(boxes_.Tools(), source_ ? *source_ : materials_.Source(),
-                                                   std::move(pick), listener);
+    window_ = std::make_unique<MaterialListWindow>(
+        boxes_.Tools(), source_ ? *source_ : materials_.Source(), std::move(pick),
+        [this](MaterialFamily, const std::string&) { return used_; });
+    MaterialListWindow* window = window_.get();
+    QObject::connect(window, &MaterialListWindow::Changed, window,
+                     [this](const MaterialChange& change) { changed_.push_back(change.name); });
+    QObject::connect(window, &MaterialListWindow::Removed, window,
+                     [this](MaterialFamily, const std::string& name) { removed_.push_back(name); });
+    QObject::connect(window, &MaterialListWindow::Refreshed, window, [this] { ++refreshed_; });
     window_->show();
     return *window_;
   }

@@ -99,3 +99,4 @@ class KnownMaterialsTest : public QObject {
 
 QTEST_MAIN(velmar::shell::KnownMaterialsTest)
 #include "known_materials_test.moc"
+#include "shell/windows/phrases.h"

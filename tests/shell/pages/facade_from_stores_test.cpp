@@ -10,49 +10,12 @@
 #include <cmath>
 #include <map>
 
-#include "storage/library/library_store.h"
 #include "tests/shell/support/stores_program.h"
-#include "tests/storage/support/databases.h"
 
 namespace velmar::shell {
 namespace {
 
-constexpr const char* kWindows = "Serramenti";
-constexpr const char* kVents = "Bocchette";
 constexpr int kComponents = 3;
-
-/// A test of the library: R (or Dn,e) from `lowest_db`, a little more every band.
-std::vector<storage::Cell> Row(const storage::LibraryFolder& kind, const std::string& name, double lowest_db,
-                               double rating) {
-  std::vector<storage::Cell> row(kind.table.columns.size());
-  const auto set = [&](const std::string& column, const storage::Cell& cell) {
-    row.at(*kind.table.Find(column)) = cell;
-  };
-  set("Nome", name);
-  set(kind.rating, rating);
-  set("C (dB)", -1.0);
-  set("Ctr (dB)", -3.5);
-  double level = lowest_db;
-  for (const std::string& column : storage::BandColumns(kind.band_prefix)) set(column, level += 1.1);
-  set("Area (m²)", 1.75);
-  set("m' (kg/m²)", 27.5);
-  return row;
-}
-
-/// A library with two windows and a vent of one-third-octave values.
-void AddMeasurements(const std::filesystem::path& library) {
-  const storage::LibraryFolder openings = *storage::FindLibraryFolder("Infissi");
-  const std::filesystem::path windows = library / openings.folder / (std::string(kWindows) + ".mdb");
-  storage::MakeTables(windows, {openings.table});
-  storage::InsertRows(
-      windows, openings.table,
-      {Row(openings, "Finestra a due ante", 19.7, 34), Row(openings, "Porta-finestra", 22.4, 38)});
-  const storage::LibraryFolder small = *storage::FindLibraryFolder("Piccoli elementi");
-  const std::filesystem::path vents = library / small.folder / (std::string(kVents) + ".mdb");
-  std::filesystem::create_directories(vents.parent_path());
-  storage::MakeTables(vents, {small.table});
-  storage::InsertRows(vents, small.table, {Row(small, "Bocchetta \"silenziata\"", 30.2, 42)});
-}
 
 QString BandBox(int component, int band) {
   const int array = component == 0 ? 13 : component == 1 ? 12 : component + 12;
@@ -84,8 +47,8 @@ void TakeParts(StoresProgram& program) {
   QTest::mouseClick(fixture.Find<QPushButton>("Seleziona"), Qt::LeftButton);
   QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
   const std::array<std::pair<const char*, const char*>, kComponents> parts = {
-      std::pair{kWindows, "Finestra a due ante"}, std::pair{kWindows, "Porta-finestra"},
-      std::pair{kVents, "Bocchetta \"silenziata\""}};
+      std::pair{"Serramenti", "Finestra a due ante"}, std::pair{"Serramenti", "Porta-finestra"},
+      std::pair{"Bocchette", "Bocchetta \"silenziata\""}};
   for (int i = 0; i < kComponents; ++i) {
     fixture.Find<QAbstractButton>(QStringLiteral("Command12_%1").arg(i + 1))->click();
     auto* library = fixture.Find<QDialog>("Form9");
@@ -133,7 +96,7 @@ class FacadeFromStoresTest : public QObject {
   void aFacadeOfStoredAndMeasuredPartsRunsAsTypedByHand() {
     QFETCH(const bool, simplified);
     StoresProgram taken;
-    AddMeasurements(taken.CopyLibrary());
+    taken.AddMeasurements();
     StoreAWall(taken);
     TakeParts(taken);
     const elements::Facade& facade = taken.fixture.open.Setup().facade;
@@ -166,7 +129,7 @@ class FacadeFromStoresTest : public QObject {
 
   void aStoredFacadeIsItselfAPart() {
     StoresProgram program;
-    AddMeasurements(program.CopyLibrary());
+    program.AddMeasurements();
     StoreAWall(program);
     TakeParts(program);
     program.fixture.Run();

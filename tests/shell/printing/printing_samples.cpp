@@ -6,7 +6,7 @@
 
 #include "shell/printing/print_preview.h"
 #include "shell/printing/printer_chooser.h"
-#include "shell/printing/save_pdf.h"
+#include "shell/printing/printing_dialogs.h"
 #include "tests/shell/printing/sample_page.h"
 
 namespace velmar::printing {

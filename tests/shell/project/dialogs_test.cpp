@@ -7,7 +7,6 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTest>
-#include <QTimer>
 #include <QTreeWidget>
 #include <QUrl>
 
@@ -192,20 +191,30 @@ class DialogsTest : public QObject {
     const Boxes boxes = ScreenBoxes(fixture.services.words);
     QDesktopServices::setUrlHandler("file", this, "TakeAddress");
     address_.clear();
-    QString text;
-    QTimer::singleShot(0, this, [&] {
-      auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-      if (box == nullptr) qFatal("no box");
-      text = box->text();
-      for (QAbstractButton* one : box->buttons()) {
-        if (one->text() == button) return one->click();
-      }
-      qFatal("no such button");
-    });
     boxes.tell_written("Fatto.", "/tmp/relazioni/parete è.docx");
+    QMessageBox* box = BoxOnTheScreen();
+    QVERIFY(box != nullptr);
+    QCOMPARE(box->text(), QString("Fatto.\n/tmp/relazioni/parete è.docx"));
+    for (QAbstractButton* one : box->buttons()) {
+      if (one->text() != button) continue;
+      one->click();
+      break;
+    }
     QDesktopServices::unsetUrlHandler("file");
-    QCOMPARE(text, QString("Fatto.\n/tmp/relazioni/parete è.docx"));
     QCOMPARE(address_.toLocalFile(), opened);
+    QTRY_VERIFY(BoxOnTheScreen() == nullptr);
+  }
+
+  void theBoxOfAWrittenFileNeedsNoAnswer() {
+    WindowFixture fixture;
+    fixture.window->show();
+    QVERIFY(QTest::qWaitForWindowActive(fixture.window.get()));
+    ScreenBoxes(fixture.services.words).tell_written("Fatto.", "/tmp/parete.docx");
+    QVERIFY(BoxOnTheScreen() != nullptr);
+    QVERIFY(QApplication::activeModalWidget() == nullptr);
+    QTRY_VERIFY(BoxOnTheScreen()->isActiveWindow());
+    fixture.window->activateWindow();
+    QTRY_VERIFY(BoxOnTheScreen() == nullptr);
   }
 
   void theAboutBoxTellsTheVersion() {
@@ -228,6 +237,14 @@ class DialogsTest : public QObject {
   void TakeAddress(const QUrl& address) { address_ = address; }
 
  private:
+  static QMessageBox* BoxOnTheScreen() {
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+      auto* box = qobject_cast<QMessageBox*>(window);
+      if (box != nullptr && box->isVisible()) return box;
+    }
+    return nullptr;
+  }
+
   QUrl address_;
 };
 

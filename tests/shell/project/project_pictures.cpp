@@ -6,7 +6,6 @@
 #include <QMenu>
 #include <QMessageBox>
 #include <QTemporaryDir>
-#include <QTimer>
 #include <QTranslator>
 
 #include "shell/project/dimension_dialog.h"
@@ -57,14 +56,14 @@ int main(int argc, char** argv) {
   files.setAcceptMode(QFileDialog::AcceptSave);
   files.setOption(QFileDialog::DontUseNativeDialog);
   Save(files, folder + "file.png");
-  QTimer::singleShot(0, &application, [&] {
-    auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-    if (box == nullptr) return;
-    Save(*box, folder + "scritto.png");
-    box->close();
-  });
   ScreenBoxes(words).tell_written("Il documento è stato salvato.",
                                   "/home/studio/Documenti/Lavori/2026-117 Condominio Rossi/parete nord.docx");
+  for (QWidget* window : QApplication::topLevelWidgets()) {
+    auto* box = qobject_cast<QMessageBox*>(window);
+    if (box == nullptr || !box->isVisible()) continue;
+    Save(*box, folder + "scritto.png");
+    box->close();
+  }
   const QTemporaryDir saved;
   fixture.file = saved.filePath("parete nord.drav");
   fixture.Find<QAction>("salva_con_nome")->trigger();

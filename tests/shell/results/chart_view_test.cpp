@@ -42,6 +42,16 @@ class ChartViewTest : public QObject {
     QCOMPARE(Values(), QString());
   }
 
+  void aSumAbove32IsExplained() {
+    QVERIFY2(chart_->toolTip().contains("Scostamenti sfavorevoli"), qPrintable(chart_->toolTip()));
+    QVERIFY(!chart_->toolTip().contains("oltre 32"));
+    fixture_->save = false;
+    fixture_->window->OpenProject(EXAMPLES "/parete-cartongesso.drav");
+    fixture_->Run();
+    QVERIFY2(chart_->toolTip().contains("Scostamenti sfavorevoli 32,5 su 32,0 dB\noltre 32: la relazione "),
+             qPrintable(chart_->toolTip()));
+  }
+
   void keysBringItCloserAndBack() {
     const QImage whole = Picture();
     QTest::keyClick(chart_, Qt::Key_Plus);

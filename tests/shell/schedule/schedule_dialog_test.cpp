@@ -27,7 +27,7 @@ struct Desk {
     services.tools = [this] {
       return documents::ScheduleTools{.words = fixture.services.words,
                                       .materials = fixture.services.materials,
-                                      .templates = SHARE "/Templates"};
+                                      .places = {.templates = SHARE "/Templates"}};
     };
     services.choose_projects = [this](const FileQuestion&) { return chosen; };
     services.propose = [this](const QString& ending) { return folder.filePath("progetto" + ending); };

@@ -127,10 +127,13 @@ class SecondOpinionTest : public QObject {
              qPrintable(wall.Says("LabelNotaModello")));
   }
 
-  void withoutAnotherModelThePanelTakesNoRoom() {
-    const Calculated lining("controplaccaggio-ossatura");
-    QTest::qWait(50);
-    QVERIFY(!lining.Shows("FrameSecondoParere"));
+  void whereNoOtherModelAppliesThePanelSaysSoAndTheRouteStands() {
+    const Calculated glazing("multistrato-vetrocamera-tripla");
+    glazing.OpenTable();
+    QCOMPARE(glazing.Says("LabelSecondoParere"), QString("nessun altro modello si adatta a questo elemento"));
+    QTest::mouseClick(glazing.Find<QToolButton>("Perche calculation"), Qt::LeftButton);
+    const QString route = glazing.Find<QTextBrowser>("TestoPerche")->toPlainText();
+    for (const char* said : {"Fonte", "Ipotesi", "Limiti"}) QVERIFY2(route.contains(said), said);
   }
 
   // The window goes while models are still at work.

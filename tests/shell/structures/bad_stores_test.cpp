@@ -79,7 +79,8 @@ class SpoiltResultsTest : public StoresTest, public testing::WithParamInterface<
 
 TEST_P(SpoiltResultsTest, OpeningSaysSoAndF5ReadsWhenItIsMended) {
   auto undo = GetParam().spoil(places_.results);
-  SavedResultsWindow window(boxes_.Tools(), StoredResults(places_.results), {});
+  SavedResultsWindow window(boxes_.Tools(), StoredResults(places_.results),
+                            SavedResultsWindow::Purpose::kList);
   Activate(window);
   const auto& grid = Child<QTableView>(window, "DBGrid1");
   EXPECT_EQ(grid.model()->rowCount(), GetParam().lists ? 1 : 0);
@@ -94,7 +95,8 @@ TEST_P(SpoiltResultsTest, OpeningSaysSoAndF5ReadsWhenItIsMended) {
 }
 
 TEST_P(SpoiltResultsTest, DeletingSaysSoAndLosesNothing) {
-  SavedResultsWindow window(boxes_.Tools(), StoredResults(places_.results), {});
+  SavedResultsWindow window(boxes_.Tools(), StoredResults(places_.results),
+                            SavedResultsWindow::Purpose::kList);
   window.show();
   auto undo = GetParam().spoil(places_.results);
   QTest::mouseClick(&Child<QPushButton>(window, "Elimina"), Qt::LeftButton);
@@ -110,9 +112,10 @@ TEST_P(SpoiltResultsTest, DeletingSaysSoAndLosesNothing) {
 TEST_P(SpoiltResultsTest, SelectingSaysSoAndTheWindowStays) {
   if (GetParam().lists || GetParam().slow) GTEST_SKIP() << "what can be read can be selected";
   std::vector<calculation::FacadePart> taken;
-  SavedResultsWindow::Listener listener;
-  listener.take = [&](const calculation::FacadePart& part) { taken.push_back(part); };
-  SavedResultsWindow window(boxes_.Tools(), StoredResults(places_.results), listener);
+  SavedResultsWindow window(boxes_.Tools(), StoredResults(places_.results),
+                            SavedResultsWindow::Purpose::kTake);
+  QObject::connect(&window, &SavedResultsWindow::Taken, &window,
+                   [&](const calculation::FacadePart& part) { taken.push_back(part); });
   window.show();
   auto undo = GetParam().spoil(places_.results);
   QTest::mouseClick(&Child<QPushButton>(window, "Seleziona"), Qt::LeftButton);
@@ -245,9 +248,10 @@ TEST_P(ResultNamesTest, AreListedTakenCopiedAndDeleted) {
   Store(storage::ResultTable::kAirborne, "Altra");
   Store(storage::ResultTable::kAirborne, GetParam());
   std::vector<calculation::FacadePart> taken;
-  SavedResultsWindow::Listener listener;
-  listener.take = [&](const calculation::FacadePart& part) { taken.push_back(part); };
-  SavedResultsWindow window(boxes_.Tools(), StoredResults(places_.results), listener);
+  SavedResultsWindow window(boxes_.Tools(), StoredResults(places_.results),
+                            SavedResultsWindow::Purpose::kTake);
+  QObject::connect(&window, &SavedResultsWindow::Taken, &window,
+                   [&](const calculation::FacadePart& part) { taken.push_back(part); });
   window.show();
   auto& grid = Child<QTableView>(window, "DBGrid1");
   grid.setCurrentIndex(grid.model()->index(1, 0));

@@ -116,7 +116,8 @@ TEST_F(GenuineFilesTest, AResultsDatabaseIsNeverWrittenToAndItsFormatIsTold) {
   fs::remove(places_.results);
   fs::copy_file(fixtures_ / "jet4-schema-generated.mdb", places_.results);
   const std::string before = BytesOf(places_.results);
-  SavedResultsWindow window(boxes_.Tools(), StoredResults(places_.results), {});
+  SavedResultsWindow window(boxes_.Tools(), StoredResults(places_.results),
+                            SavedResultsWindow::Purpose::kList);
   window.show();
   ASSERT_EQ(boxes_.told.size(), 1);
   EXPECT_TRUE(boxes_.told[0].contains("Access")) << boxes_.told[0].toStdString();

@@ -66,7 +66,8 @@ TEST_F(LargeStoresTest, TwoThousandStoredResultsAreListedAndSearched) {
   }
   storage::InsertRows(places_.results, storage::AirborneResultTable(), rows);
 
-  SavedResultsWindow window(boxes_.Tools(), StoredResults(places_.results), {});
+  SavedResultsWindow window(boxes_.Tools(), StoredResults(places_.results),
+                            SavedResultsWindow::Purpose::kList);
   window.show();
   window.grab();
   const auto& grid = Child<QTableView>(window, "DBGrid1");

@@ -365,9 +365,9 @@ TEST_F(MeasuredLibraryWindowTest, AStoredWallAndTwoMeasuredWindowsRunAsTheFacade
 
   FakeResults results;
   results.tables[ResultKind::kAirborne] = {PartOf("Parete x", 40)};
-  SavedResultsWindow::Listener listener;
-  listener.take = [&](const calculation::FacadePart& part) { calculation::TakeAsOpaquePart(chosen, part); };
-  SavedResultsWindow stored(boxes_.Tools(), results.Source(), listener);
+  SavedResultsWindow stored(boxes_.Tools(), results.Source(), SavedResultsWindow::Purpose::kTake);
+  QObject::connect(&stored, &SavedResultsWindow::Taken, &stored,
+                   [&](const calculation::FacadePart& part) { calculation::TakeAsOpaquePart(chosen, part); });
   stored.show();
   QTest::mouseClick(&Child<QPushButton>(stored, "Seleziona"), Qt::LeftButton);
   for (const int component : {1, 2}) {

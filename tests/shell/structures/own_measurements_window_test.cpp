@@ -45,14 +45,14 @@ class OwnMeasurementsWindowTest : public testing::Test {
     MeasuredTarget target;
     target.needs = needs;
     target.take = [this](const calculation::FacadePart& part) { taken_.push_back(part); };
-    FileQuestions files;
-    files.open = [this](const shell::FileQuestion&) { return file_; };
-    files.save = files.open;
+    shell::WindowTools tools = boxes_.Tools();
+    tools.boxes.choose_file_to_open = [this](const shell::FileQuestion&) { return file_; };
+    tools.boxes.choose_file_to_save = tools.boxes.choose_file_to_open;
     window_ = std::make_unique<MeasuredLibraryWindow>(
-        boxes_.Tools(),
+        tools,
         MeasuredLibrary({library_, folder_ / "immagine", results_},
                         std::make_shared<storage::AccessSession>(storage::AccessReader{""})),
-        target, files);
+        target);
     window_->show();
     return *window_;
   }

@@ -30,10 +30,13 @@ class SavedResultsWindowTest : public testing::Test {
   }
 
   SavedResultsWindow& Open(bool to_take = false) {
-    SavedResultsWindow::Listener listener;
-    if (to_take) listener.take = [this](const calculation::FacadePart& part) { taken_.push_back(part); };
-    listener.removed = [this](ResultKind, const std::string& name) { removed_.push_back(name); };
-    window_ = std::make_unique<SavedResultsWindow>(boxes_.Tools(), results_.Source(), listener);
+    using Purpose = SavedResultsWindow::Purpose;
+    window_ = std::make_unique<SavedResultsWindow>(boxes_.Tools(), results_.Source(),
+                                                   to_take ? Purpose::kTake : Purpose::kList);
+    QObject::connect(window_.get(), &SavedResultsWindow::Taken, window_.get(),
+                     [this](const calculation::FacadePart& part) { taken_.push_back(part); });
+    QObject::connect(window_.get(), &SavedResultsWindow::Removed, window_.get(),
+                     [this](ResultKind, const std::string& name) { removed_.push_back(name); });
     window_->show();
     return *window_;
   }

@@ -63,9 +63,10 @@ TEST_F(StoreSourcesTest, EveryShippedTestCanBeRead) {
 TEST_F(StoreSourcesTest, AStoredResultIsListedCopiedTakenAndDeleted) {
   const storage::SavedResult stored = Store(storage::ResultTable::kAirborne, "Parete x");
   std::optional<calculation::FacadePart> taken;
-  SavedResultsWindow::Listener listener;
-  listener.take = [&](const calculation::FacadePart& part) { taken = part; };
-  SavedResultsWindow window(boxes_.Tools(), StoredResults(places_.results), listener);
+  SavedResultsWindow window(boxes_.Tools(), StoredResults(places_.results),
+                            SavedResultsWindow::Purpose::kTake);
+  QObject::connect(&window, &SavedResultsWindow::Taken, &window,
+                   [&](const calculation::FacadePart& part) { taken = part; });
   window.show();
   ASSERT_EQ(Child<QLineEdit>(window, "Text2").text(), "Parete x");
   QTest::mouseClick(&Child<QPushButton>(window, "Copia"), Qt::LeftButton);
@@ -85,7 +86,8 @@ TEST_F(StoreSourcesTest, AStoredResultIsListedCopiedTakenAndDeleted) {
 TEST_F(StoreSourcesTest, AStoredLiningIsDeletedFromItsTable) {
   Store(storage::ResultTable::kAirborne, "Parete x");
   Store(storage::ResultTable::kLining, "Controparete x");
-  SavedResultsWindow window(boxes_.Tools(), StoredResults(places_.results), {});
+  SavedResultsWindow window(boxes_.Tools(), StoredResults(places_.results),
+                            SavedResultsWindow::Purpose::kList);
   window.show();
   QTest::mouseClick(&Child<QRadioButton>(window, "Option1_2"), Qt::LeftButton);
   ASSERT_EQ(Child<QLineEdit>(window, "Text2").text(), "Controparete x");

@@ -4,11 +4,35 @@
 #include <QListView>
 #include <QTreeWidget>
 
+#include "storage/library/library_store.h"
 #include "storage/results/results_store.h"
+#include "tests/storage/support/databases.h"
 
 namespace velmar::shell {
 
 namespace fs = std::filesystem;
+
+namespace {
+
+/// A test of the library: R (or Dn,e) from `lowest_db`, a little more every band.
+std::vector<storage::Cell> Row(const storage::LibraryFolder& kind, const std::string& name, double lowest_db,
+                               double rating) {
+  std::vector<storage::Cell> row(kind.table.columns.size());
+  const auto set = [&](const std::string& column, const storage::Cell& cell) {
+    row.at(*kind.table.Find(column)) = cell;
+  };
+  set("Nome", name);
+  set(kind.rating, rating);
+  set("C (dB)", -1.0);
+  set("Ctr (dB)", -3.5);
+  double level = lowest_db;
+  for (const std::string& column : storage::BandColumns(kind.band_prefix)) set(column, level += 1.1);
+  set("Area (m²)", 1.75);
+  set("m' (kg/m²)", 27.5);
+  return row;
+}
+
+}  // namespace
 
 StoresProgram::StoresProgram() {
   const fs::path databases = fs::path(SHARE) / "Databases";
@@ -30,6 +54,21 @@ fs::path StoresProgram::CopyLibrary() {
   places.library = copy;
   OpenWindow();
   return copy;
+}
+
+void StoresProgram::AddMeasurements() {
+  const fs::path library = CopyLibrary();
+  const storage::LibraryFolder openings = *storage::FindLibraryFolder("Infissi");
+  const fs::path windows = library / openings.folder / "Serramenti.mdb";
+  storage::MakeTables(windows, {openings.table});
+  storage::InsertRows(
+      windows, openings.table,
+      {Row(openings, "Finestra a due ante", 19.7, 34), Row(openings, "Porta-finestra", 22.4, 38)});
+  const storage::LibraryFolder small = *storage::FindLibraryFolder("Piccoli elementi");
+  const fs::path vents = library / small.folder / "Bocchette.mdb";
+  fs::create_directories(vents.parent_path());
+  storage::MakeTables(vents, {small.table});
+  storage::InsertRows(vents, small.table, {Row(small, "Bocchetta \"silenziata\"", 30.2, 42)});
 }
 
 void StoresProgram::OpenWindow() {

@@ -21,6 +21,10 @@ struct StoresProgram {
   /// A copy of the library that may be changed, from now on. @return the folder "Database"
   std::filesystem::path CopyLibrary();
 
+  /// A copy of the library with the series "Serramenti", of a window "Finestra a due ante" of 34 dB and a
+  /// "Porta-finestra" of 38 dB, each of 1,75 m², and "Bocchette", of a vent.
+  void AddMeasurements();
+
   /// Stores an airborne result with R from `lowest_db` at 50 Hz, 1 dB more a band.
   void Store(const std::string& name, double lowest_db, double area_m2) const;
 

@@ -90,6 +90,10 @@ WindowFixture::WindowFixture() {
   services.read_project = [this](const std::filesystem::path& path) {
     return application::OpenProject(path, open.Setup(), services.materials).setup;
   };
+  services.look_at_project = [materials = services.materials](const std::filesystem::path& path,
+                                                              const elements::Setup& current) {
+    return application::OpenProject(path, current, materials).setup;
+  };
   services.write_project = [](const std::filesystem::path& path, const elements::Setup& setup) {
     storage::SaveProject(path, setup);
   };

@@ -7,11 +7,11 @@ namespace velmar::shell {
 WindowTools FakeBoxes::Tools() {
   WindowTools tools;
   tools.words = presentation::CatalogueWords();
-  tools.ask = [this](const QString& question) {
+  tools.boxes.ask = [this](const QString& question) {
     questions << question;
     return answer;
   };
-  tools.tell = [this](const QString& text) { told << text; };
+  tools.boxes.tell = [this](Tone, const QString& text) { told << text; };
   tools.memory = memory.get();
   return tools;
 }

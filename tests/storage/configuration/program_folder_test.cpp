@@ -34,6 +34,16 @@ TEST(ManualFile, IsFoundBesideTheProgramAndWhereItIsInstalled) {
   EXPECT_EQ(ManualFile(root / "bin"), root / "bin" / kName);
 }
 
+TEST(ManualText, IsFoundBesideTheProgramAndWhereItIsInstalled) {
+  const TemporaryFolder root;
+  fs::create_directories(root / "bin");
+  EXPECT_EQ(ManualText(root / "bin"), root / "bin/manuale/manuale.md") << "named even where it is missing";
+  WriteFile(root / "share/doc/velmarpro/manuale/manuale.md", "# Manuale");
+  EXPECT_EQ(ManualText(root / "bin"), root / "share/doc/velmarpro/manuale/manuale.md");
+  WriteFile(root / "bin/manuale/manuale.md", "# Manuale");
+  EXPECT_EQ(ManualText(root / "bin"), root / "bin/manuale/manuale.md");
+}
+
 TEST(AccessReaderProgram, IsFoundInstalledAndInTheBuildTree) {
   const TemporaryFolder root;
   EXPECT_EQ(AccessReaderProgram(root / "bin"), std::nullopt);

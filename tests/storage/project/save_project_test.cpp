@@ -1,7 +1,12 @@
+#include <chrono>
 #include <filesystem>
 #include <fstream>
+#include <random>
+#include <thread>
 
 #include <gtest/gtest.h>
+#include <signal.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 #include "foundation/message_rows.h"
@@ -52,6 +57,43 @@ TEST_F(SaveProjectTest, AFailedSaveLeavesTheOldProject) {
   EXPECT_THROW(SaveProject(path, SampleSetup(kSingleWallBrick)), StoreFailure);
   EXPECT_EQ(OpenProject(path, {}).setup.calculation, kCeilingSea);
   EXPECT_THROW(SaveProject(folder_ / "none" / "a.drav", {}), StoreFailure);
+}
+
+/// A program that saves `one` and `other` in turn, and is killed `delay` after its first save.
+void KillASaver(const fs::path& path, const elements::Setup& one, const elements::Setup& other,
+                std::chrono::microseconds delay) {
+  int ready[2];
+  ASSERT_EQ(::pipe(ready), 0);
+  const pid_t child = ::fork();
+  if (child == 0) {
+    for (bool turn = false;; turn = !turn) {
+      SaveProject(path, turn ? one : other);
+      if (::write(ready[1], "x", 1) != 1) ::_exit(1);
+    }
+  }
+  ::close(ready[1]);
+  char byte = 0;
+  EXPECT_EQ(::read(ready[0], &byte, 1), 1);
+  std::this_thread::sleep_for(delay);
+  ::kill(child, SIGKILL);
+  ::waitpid(child, nullptr, 0);
+  ::close(ready[0]);
+}
+
+TEST_F(SaveProjectTest, AKilledSaveLeavesOneOfTheTwoProjectsWhole) {
+  const fs::path path = folder_ / "a.drav";
+  const elements::Setup one = SampleSetup(kCeilingSea);
+  const elements::Setup other = SampleSetup(kSingleWallBrick);
+  std::mt19937 random(1);
+  std::uniform_int_distribution<int> delay_us(0, 3000);
+  for (int kill = 0; kill < 60; ++kill) {
+    KillASaver(path, one, other, std::chrono::microseconds(delay_us(random)));
+    const elements::Setup found = OpenProject(path, {}).setup;
+    ASSERT_TRUE(found == one || found == other) << "after kill " << kill;
+  }
+  // What the killed ones left beside it goes with the next save.
+  SaveProject(path, one);
+  EXPECT_EQ(std::distance(fs::directory_iterator(folder_), fs::directory_iterator()), 1);
 }
 
 TEST_F(SaveProjectTest, AMissingFileIsSaidInItsOwnWords) {

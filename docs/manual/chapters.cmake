@@ -1,0 +1,25 @@
+# The chapters of the manual in their order.
+set(MANUAL_CHAPTERS
+    01-per-cominciare.md
+    02-lavorare.md
+    03-risultato.md
+    04-calcoli.md
+    05-pareti-semplici.md
+    06-pareti-doppie.md
+    07-pareti-leggere.md
+    08-vetri.md
+    09-controplaccaggi.md
+    10-controsoffitti.md
+    11-solai.md
+    12-facciate.md
+    13-sea.md
+    14-multistrato.md
+    15-progetti.md
+    16-materiali.md
+    17-misure.md
+    18-relazioni.md
+    19-dati.md
+    20-riga-di-comando.md
+    21-messaggi.md
+    22-tasti.md
+    23-riferimenti.md)

@@ -1,0 +1,96 @@
+#include "tests/shell/tasks/hand.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QMenu>
+#include <QTest>
+#include <QTimer>
+#include <QWheelEvent>
+#include <QWidget>
+
+namespace velmar::shell {
+namespace {
+
+constexpr int kLookMs = 5;
+constexpr int kNotch = 120;
+
+QWidget& Focused() {
+  QWidget* focus = QApplication::focusWidget();
+  if (focus == nullptr) qFatal("a key, and nothing that takes it");
+  return *focus;
+}
+
+/// Clicks the entry `name` of the menu that is open. @return whether one is
+bool ClickInMenu(const QString& name) {
+  auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+  if (menu == nullptr) return false;
+  for (QAction* action : menu->actions()) {
+    if (action->objectName() != name) continue;
+    QTest::mouseClick(menu, Qt::LeftButton, {}, menu->actionGeometry(action).center());
+    return true;
+  }
+  qFatal("no entry %s in the menu", qPrintable(name));
+}
+
+}  // namespace
+
+void Hand::Click(QWidget* widget) {
+  if (!widget->isVisible() || !widget->isEnabled())
+    qFatal("nothing to click at: %s", qPrintable(widget->objectName()));
+  QTest::mouseClick(widget, Qt::LeftButton);
+  ++count_;
+  QApplication::processEvents();
+}
+
+void Hand::Press(Qt::Key key, Qt::KeyboardModifiers modifiers) {
+  ++count_;
+  QTest::keyClick(&Focused(), key, modifiers);
+  QApplication::processEvents();
+}
+
+void Hand::Turn(QWidget* widget, int notches) {
+  const QPointF place = widget->rect().center();
+  QWheelEvent wheel(place, widget->mapToGlobal(place), {}, {0, notches * kNotch}, Qt::NoButton,
+                    Qt::NoModifier, Qt::NoScrollPhase, false);
+  QApplication::sendEvent(widget, &wheel);
+  ++count_;
+}
+
+void Hand::Enter(const QString& text, Qt::Key leave) {
+  ++count_;
+  letters_ += static_cast<int>(text.size());
+  QTest::keyClicks(&Focused(), text);
+  QTest::keyClick(&Focused(), leave);
+  QApplication::processEvents();
+}
+
+void Hand::Choose(QWidget* button, const QString& action) {
+  bool chosen = false;
+  QTimer look;
+  // An open menu may hold up whoever opened it, and its entry a window that waits for an answer.
+  QObject::connect(&look, &QTimer::timeout, &look, [&] {
+    if (chosen) return;
+    if (qobject_cast<QMenu*>(QApplication::activePopupWidget()) == nullptr) return;
+    chosen = true;
+    ++count_;
+    ClickInMenu(action);
+  });
+  look.start(kLookMs);
+  Click(button);
+  while (!chosen) QTest::qWait(kLookMs);
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
+void Hand::WhenAsked(const std::function<void(QWidget& dialog)>& act) {
+  auto* look = new QTimer(qApp);
+  QObject::connect(look, &QTimer::timeout, look, [look, act] {
+    QWidget* dialog = QApplication::activeModalWidget();
+    if (dialog == nullptr || !dialog->isVisible()) return;
+    look->stop();
+    look->deleteLater();
+    act(*dialog);
+  });
+  look->start(kLookMs);
+}
+
+}  // namespace velmar::shell
