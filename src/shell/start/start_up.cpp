@@ -173,7 +173,7 @@ struct Desktop {
                                                            store.File(), EditorOf(store, services.words));
     documents = DocumentsOf(environment, services.words);
     paper_commands = std::make_unique<PaperCommands>(PaperBoxes(services), documents);
-    report_commands = std::make_unique<ReportCommands>(documents);
+    report_commands = std::make_unique<ReportCommands>(documents, services.materials);
     services.documents = &documents;
     services.Add(*structure_commands);
     services.Add(*material_commands);

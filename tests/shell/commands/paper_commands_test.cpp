@@ -12,7 +12,7 @@
 #include <QTimer>
 
 #include "cli/commands/project_run.h"
-#include "cli/drawn/drawn_formats.h"
+#include "documents/office_reports.h"
 #include "shell/printing/print_preview.h"
 #include "tests/presentation/drawing/recording_device.h"
 #include "tests/shell/support/window_fixture.h"
@@ -138,7 +138,7 @@ class PaperCommandsTest : public QObject {
         cli::RunProject((QString(EXAMPLES) + '/' + example + ".drav").toStdString(),
                         program.fixture.services.materials, /*go_on_outside_ranges=*/true);
     const presentation::Words& words = program.fixture.services.words;
-    const presentation::PaginaDiStampa told = cli::PageOf({.name = {},
+    const presentation::PaginaDiStampa told = documents::PageOf({.name = {},
                                                            .setup = run.setup,
                                                            .result = run.outcome.result.value(),
                                                            .totals = run.totals,
