@@ -35,6 +35,7 @@ constexpr std::array kChapters = {
     HelpChapter{"Form8", "confronto-con-il-risultato"},
     HelpChapter{"Form12", "relazioni-e-stampa"},
     HelpChapter{"Dialog", "relazioni-e-stampa"},
+    HelpChapter{"profilo_studio", "profilo-dello-studio-e-lingua"},
 };
 
 }  // namespace
