@@ -46,8 +46,9 @@ velmar::cli::Services OpenServices(const velmar::cli::Opening& opening) {
   services.words = [messages = std::move(environment.messages)](velmar::MessageRow row) {
     return messages.Text(row);
   };
+  const ReportPlaces places = PlacesOf(environment);
   services.report_formats = {velmar::cli::CsvFormat()};
-  for (velmar::cli::ReportFormat& format : FurtherReportFormats(PlacesOf(environment))) {
+  for (velmar::cli::ReportFormat& format : FurtherReportFormats(places)) {
     services.report_formats.push_back(std::move(format));
   }
   services.readable_picture = IsReadablePicture;
@@ -76,6 +77,8 @@ velmar::cli::Services OpenServices(const velmar::cli::Opening& opening) {
   };
   services.materials = velmar::application::ForgivingLookup(
       velmar::storage::MaterialLookupIn(environment.configuration.PercorsoDatabase()), tell);
+  services.check_template = TemplateCheck();
+  services.together = FurtherTogetherReports(places, services);
   for (const velmar::Message& warning : environment.warnings)
     velmar::cli::WriteMessage(warning, services.words, std::cerr);
   velmar::cli::WriteMessage(velmar::cli::ConversionAdvice(environment.configuration.PercorsoInterfMess()),

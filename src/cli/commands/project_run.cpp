@@ -1,40 +1,20 @@
 #include "cli/commands/project_run.h"
 
-#include "application/projects.h"
-#include "calculation/open/open_calculation.h"
-#include "foundation/failure.h"
-#include "foundation/message_rows.h"
+#include <utility>
+
+#include "application/project_run.h"
 
 namespace velmar::cli {
-namespace {
-
-/// What the user is told of a project whose calculation is not known.
-calculation::RunOutcome UnknownCalculation(const storage::StoredCalculation& stored) {
-  return {.status = calculation::RunStatus::kRefused,
-          .messages = {{{kUnknownCalculationRow, " \"" + stored.family + "\", \"" + stored.variant + "\""}}}};
-}
-
-}  // namespace
 
 ProjectRun RunProject(const std::filesystem::path& path, const elements::MaterialLookup& materials,
                       bool go_on_outside_ranges) {
-  ProjectRun run;
-  try {
-    const storage::OpenedProject project = application::OpenProject(path, {}, materials);
-    run.texts = {project.stored.family, project.stored.variant, project.stored.orientation};
-    calculation::OpenCalculation open;
-    open.Replace(project.setup);
-    run.outcome = project.setup.calculation ? open.Run([&](const Message&) { return go_on_outside_ranges; })
-                                            : UnknownCalculation(project.stored);
-    run.setup = open.Setup();
-    if (run.outcome.result && run.setup.calculation) {
-      run.numbers = elements::SingleNumbersOf(*run.outcome.result, *run.setup.calculation);
-    }
-    run.totals = open.CurrentTotals();
-  } catch (const Failure& failure) {
-    run = {};
-    run.outcome.status = calculation::RunStatus::kFailed;
-    run.outcome.messages = {failure.UserMessage()};
+  application::ProjectRun project = application::RunProject(path, materials, go_on_outside_ranges);
+  ProjectRun run{.texts = {project.stored.family, project.stored.variant, project.stored.orientation},
+                 .setup = std::move(project.setup),
+                 .outcome = std::move(project.outcome),
+                 .totals = project.totals};
+  if (run.outcome.result && run.setup.calculation) {
+    run.numbers = elements::SingleNumbersOf(*run.outcome.result, *run.setup.calculation);
   }
   return run;
 }

@@ -119,6 +119,56 @@ ExitCode ReportWithin(const ReportCommand& command, const path& project, const S
   }
 }
 
+path TogetherTarget(const std::string& extension, const path& target, const Services& services) {
+  return IsFolder(target) ? target / (services.words(kScheduleTitleRow) + "." + extension) : target;
+}
+
+/// What is wrong with the targets of a `command` that wants one document.
+std::optional<Message> TogetherObjection(const ReportCommand& command, const Services& services) {
+  if (command.targets.empty()) return NoFormat(services);
+  std::set<path> projects;
+  for (const path& project : command.projects) projects.insert(Resolved(project));
+  std::set<path> files;
+  for (const auto& [extension, target] : command.targets) {
+    if (std::ranges::count(services.together.extensions, extension) == 0)
+      return Told(kTogetherFormatRow, "--" + extension);
+    const path file = Resolved(TogetherTarget(extension, target, services));
+    if (projects.contains(file)) return Told(kReplacesProjectRow, file);
+    if (!files.insert(file).second) return Told(kSameTargetRow, file);
+  }
+  return std::nullopt;
+}
+
+/// Writes one document of all projects.
+ExitCode ReportTogether(const ReportCommand& command, const std::string& extension, const path& target,
+                        const Services& services, std::ostream& errors) {
+  try {
+    const path file = TogetherTarget(extension, target, services);
+    if (storage::IsOpenElsewhere(file)) throw Failure(Told(kFillingFailedRow, file), "open elsewhere");
+    const TogetherDocument document =
+        services.together.make({.projects = command.projects,
+                                .extension = extension,
+                                .title = command.title,
+                                .go_on_outside_ranges = command.go_on_outside_ranges,
+                                .language = command.language});
+    storage::WriteWhole(file, document.bytes);
+    for (const Message& remark : document.remarks) WriteMessage(remark, services.words, errors);
+    if (document.failed.empty()) return ExitCode::kDone;
+    errors << services.words(kScheduleSomeFailedRow) << '\n';
+    for (const FailedProject& failed : document.failed) {
+      errors << WithReplacements(failed.project.string()) << ":\n";
+      WriteMessage(failed.reason, services.words, errors);
+    }
+    return ExitCode::kSomeFailed;
+  } catch (const Failure& failure) {
+    const ExitCode code = TellFailure(failure, services.words, errors);
+    const bool nothing = failure.UserMessage().empty()
+                             ? false
+                             : LeadingRow(failure.UserMessage().front()) == kScheduleNothingRow;
+    return nothing ? ExitCode::kNoResult : code;
+  }
+}
+
 /// The graver of two codes; "failed" outweighs "no result".
 ExitCode Graver(ExitCode left, ExitCode right) {
   if (left == ExitCode::kFailed || right == ExitCode::kFailed) return ExitCode::kFailed;
@@ -128,6 +178,16 @@ ExitCode Graver(ExitCode left, ExitCode right) {
 }  // namespace
 
 ExitCode Execute(const ReportCommand& command, const Services& services, std::ostream& errors) {
+  if (command.together) {
+    if (const std::optional<Message> objection = TogetherObjection(command, services)) {
+      WriteMessage(*objection, services.words, errors);
+      return ExitCode::kWrongUsage;
+    }
+    ExitCode code = ExitCode::kDone;
+    for (const auto& [extension, target] : command.targets)
+      code = Graver(code, ReportTogether(command, extension, target, services, errors));
+    return code;
+  }
   if (const std::optional<Message> objection = Objection(command, services)) {
     WriteMessage(*objection, services.words, errors);
     return ExitCode::kWrongUsage;
@@ -141,6 +201,21 @@ ExitCode Execute(const ReportCommand& command, const Services& services, std::os
     errors << said.view();
   }
   return code;
+}
+
+ExitCode CheckTemplate(const path& file, const Services& services, std::ostream& out, std::ostream& errors) {
+  try {
+    const Message findings = services.check_template(file);
+    if (findings.empty()) {
+      out << services.words(kTemplateGoodRow) << ' ' << WithReplacements(file.string()) << '\n';
+      return ExitCode::kDone;
+    }
+    out << services.words(kTemplateCheckedRow) << ' ' << WithReplacements(file.string()) << ":\n";
+    WriteMessage(findings, services.words, out);
+    return ExitCode::kFailed;
+  } catch (const Failure& failure) {
+    return TellFailure(failure, services.words, errors);
+  }
 }
 
 }  // namespace velmar::cli

@@ -29,6 +29,10 @@ struct Services {
   /// Whether the bytes of a picture file can be drawn.
   std::function<bool(const std::string& bytes)> readable_picture = [](const std::string&) { return true; };
   std::vector<ReportFormat> report_formats{};  ///< each an option of `report`
+  /// What is wrong with a document template, a line each; empty where nothing draws. @throws Failure when no
+  /// report can be made of it
+  std::function<Message(const std::filesystem::path&)> check_template{};
+  TogetherReports together{};                  ///< of `report --together`; without formats where nothing draws
 };
 
 }  // namespace velmar::cli

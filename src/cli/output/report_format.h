@@ -1,32 +1,18 @@
 #pragma once
 
+#include <filesystem>
 #include <functional>
 #include <optional>
 #include <string>
+#include <vector>
 
-#include "calculation/runs/totals.h"
-#include "elements/result_set.h"
-#include "elements/setup.h"
+#include "application/report_content.h"
 #include "elements/studio_profile.h"
 #include "foundation/message.h"
-#include "presentation/texts/calculation_data.h"
-#include "presentation/texts/words.h"
 
 namespace velmar::cli {
 
-/// What a report is made of.
-struct ReportContent {
-  std::string name{};  ///< of the project, without folder and extension; UTF-8
-  elements::Setup setup{};
-  elements::ResultSet result{};
-  calculation::Totals totals{};
-  Message confidence{};  ///< what is known of the error of the result
-  presentation::Words words{};
-  std::string file{};                                    ///< the project's name without its folder; UTF-8
-  std::optional<elements::DocumentLanguage> language{};  ///< none: as the studio profile says
-  presentation::MaterialSources sources{};               ///< of the layers' materials
-  std::function<void(const Message&)> tell{};  ///< what the user is to know of a report that was written
-};
+using application::ReportContent;
 
 /// A kind of report.
 struct ReportFormat {
@@ -34,6 +20,35 @@ struct ReportFormat {
   MessageRow help{};        ///< describes the option
   /// The bytes of the file. @throws Failure when this calculation gives no such report
   std::function<std::string(const ReportContent&)> bytes{};
+};
+
+/// What is asked of one document of several projects.
+struct TogetherOrder {
+  std::vector<std::filesystem::path> projects{};
+  std::string extension{};  ///< of its format
+  std::string title{};      ///< empty: the usual one
+  bool go_on_outside_ranges = false;
+  std::optional<elements::DocumentLanguage> language{};  ///< none: as the studio profile says
+};
+
+/// A project that gave no result, and why.
+struct FailedProject {
+  std::filesystem::path project{};
+  Message reason{};
+};
+
+/// One document of several projects.
+struct TogetherDocument {
+  std::string bytes{};
+  std::vector<FailedProject> failed{};  ///< named in the document
+  std::vector<Message> remarks{};       ///< what the user is to know of it
+};
+
+/// Makes such documents in the formats `extensions`.
+struct TogetherReports {
+  std::vector<std::string> extensions{};
+  /// @throws Failure when there is no document; of row kScheduleNothingRow when no project gives a result
+  std::function<TogetherDocument(const TogetherOrder&)> make{};
 };
 
 /// The table of the results, for a spreadsheet.

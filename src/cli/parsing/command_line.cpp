@@ -28,6 +28,16 @@ ExitCode Rate(const Parsed& parsed, const presentation::Words& words, std::ostre
   return ExitCode::kWrongUsage;
 }
 
+/// Reports of projects, or the check of a template.
+ExitCode Report(const CLI::App& app, const ReportCommand& command, const Services& services,
+                std::ostream& out, std::ostream& errors) {
+  if (command.checked_template) return CheckTemplate(*command.checked_template, services, out, errors);
+  if (!command.projects.empty()) return Execute(command, services, errors);
+  const CLI::RequiredError missing("FILE");
+  errors << WrongUsage(missing, app, services.words) << '\n' << services.words(kWrongUsageRow) << '\n';
+  return ExitCode::kWrongUsage;
+}
+
 ExitCode ExecuteParsed(const CLI::App& app, Parsed& parsed, const Services& services, std::ostream& out,
                        std::ostream& errors) {
   parsed.run.go_on_outside_ranges = parsed.answer == "yes";
@@ -49,7 +59,8 @@ ExitCode ExecuteParsed(const CLI::App& app, Parsed& parsed, const Services& serv
   if (app.got_subcommand("models")) return Execute(parsed.models, services, out, errors);
   if (app.got_subcommand("profile")) return Execute(parsed.profile, services, out, errors);
   if (app.got_subcommand("validate")) return Execute(parsed.validate, services, out, errors);
-  if (app.got_subcommand("report")) return Execute(parsed.report, services, errors);
+  if (app.got_subcommand("references")) return Execute(parsed.references, services.words, out);
+  if (app.got_subcommand("report")) return Report(app, parsed.report, services, out, errors);
   if (app.got_subcommand(kDoctorCommand)) return Execute(parsed.doctor, services, out);
   return Execute(parsed.catalogue, services.words, out);
 }

@@ -25,12 +25,19 @@ void AddRun(CLI::App& app, Parsed& parsed, const presentation::Words& words) {
 
 void AddReport(CLI::App& app, Parsed& parsed, const Services& services) {
   CLI::App* command = app.add_subcommand("report", services.words(kReportHelpRow));
-  command->add_option("FILE", parsed.report.projects, services.words(kReportFilesHelpRow))->required();
+  command->add_option("FILE", parsed.report.projects, services.words(kReportFilesHelpRow));
   for (const ReportFormat& format : services.report_formats) {
     const auto take = [&parsed, extension = format.extension](const std::string& target) {
       parsed.report.targets[extension] = target;
     };
     command->add_option_function<std::string>("--" + format.extension, take, services.words(format.help));
+  }
+  if (services.check_template)
+    command->add_option("--check-template", parsed.report.checked_template,
+                        services.words(kCheckTemplateHelpRow));
+  if (!services.together.extensions.empty()) {
+    command->add_flag("--together", parsed.report.together, services.words(kTogetherHelpRow));
+    command->add_option("--title", parsed.report.title, services.words(kScheduleTitleHelpRow));
   }
   const auto take_language = [&parsed](const std::string& code) {
     parsed.report.language = elements::LanguageOfCode(code);
@@ -75,6 +82,11 @@ void AddRate(CLI::App& app, Parsed& parsed, const presentation::Words& words) {
 void AddCatalogue(CLI::App& app, Parsed& parsed, const presentation::Words& words) {
   CLI::App* command = app.add_subcommand("catalogue", words(kCatalogueHelpRow));
   command->add_flag("--json", parsed.catalogue.json, words(kJsonHelpRow));
+}
+
+void AddReferences(CLI::App& app, Parsed& parsed, const presentation::Words& words) {
+  CLI::App* command = app.add_subcommand("references", words(kReferencesHelpRow));
+  command->add_flag("--json", parsed.references.json, words(kJsonHelpRow));
 }
 
 /// One of the commands that work on the material database.
@@ -250,6 +262,7 @@ void AddCommands(CLI::App& app, Parsed& parsed, const Services& services) {
   AddResults(app, parsed, words);
   AddLibrary(app, parsed, words);
   AddImport(app, parsed, words);
+  AddReferences(app, parsed, words);
   AddReport(app, parsed, services);
   AddFacade(app, parsed, words);
   AddDoctor(app, parsed, words);

@@ -15,6 +15,7 @@
 #include "cli/commands/own_measurements_command.h"
 #include "cli/commands/profile_command.h"
 #include "cli/commands/rate_command.h"
+#include "cli/commands/references_command.h"
 #include "cli/commands/report_command.h"
 #include "cli/commands/results_command.h"
 #include "cli/commands/run_command.h"
@@ -41,6 +42,7 @@ struct Parsed {
   OwnMeasurementsCommand own_measurements{};
   bool changes_own_measurements = false;  ///< of `library`: one of those commands was given
   ImportCommand import{};
+  ReferencesCommand references{};
   ReportCommand report{};
   SaveResultCommand save_result{};
   FacadeCommand facade{};

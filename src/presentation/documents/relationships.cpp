@@ -10,6 +10,8 @@ namespace velmar::presentation {
 namespace {
 
 constexpr const char* kContentTypes = "[Content_Types].xml";
+constexpr const char* kRelationshipsNamespace =
+    "http://schemas.openxmlformats.org/package/2006/relationships";
 constexpr const char* kEmptyList =
     R"(<?xml version="1.0" encoding="UTF-8" standalone="yes"?>)"
     R"(<Relationships xmlns="http://schemas.openxmlformats.org/package/2006/relationships"/>)";
@@ -45,15 +47,6 @@ std::string Resolve(const std::string& folder, std::string_view target) {
   return name;
 }
 
-std::string ContentTypeOf(const Package& package, const std::string& part) {
-  const pugi::xml_document types = ParseXml(package.Part(kContentTypes), kContentTypes);
-  const std::string name = "/" + part;
-  for (const pugi::xml_node node : types.document_element().children("Override")) {
-    if (name == node.attribute("PartName").value()) return node.attribute("ContentType").value();
-  }
-  return {};
-}
-
 }  // namespace
 
 std::vector<Relationship> RelationshipsOf(const Package& package, const std::string& part) {
@@ -68,6 +61,46 @@ std::vector<Relationship> RelationshipsOf(const Package& package, const std::str
                              .target = Resolve(FolderOf(part), node.attribute("Target").value())});
   }
   return relationships;
+}
+
+std::string ContentTypeOf(const Package& package, const std::string& part) {
+  const pugi::xml_document types = ParseXml(package.Part(kContentTypes), kContentTypes);
+  const std::string name = "/" + part;
+  for (const pugi::xml_node node : types.document_element().children("Override")) {
+    if (name == node.attribute("PartName").value()) return node.attribute("ContentType").value();
+  }
+  return {};
+}
+
+std::vector<WrittenLink> LinksOf(const Package& package, const std::string& part) {
+  std::vector<WrittenLink> links;
+  if (!package.Has(RelationshipsPart(part))) return links;
+  for (const Relationship& inside : RelationshipsOf(package, part))
+    links.push_back({.id = inside.id, .type = inside.type, .target = inside.target});
+  const pugi::xml_document document =
+      ParseXml(package.Part(RelationshipsPart(part)), RelationshipsPart(part));
+  for (const pugi::xml_node node : document.document_element().children("Relationship")) {
+    if (std::string_view(node.attribute("TargetMode").value()) != "External") continue;
+    links.push_back({.id = node.attribute("Id").value(),
+                     .type = node.attribute("Type").value(),
+                     .target = node.attribute("Target").value(),
+                     .external = true});
+  }
+  return links;
+}
+
+void PutLinks(Package& package, const std::string& part, const std::vector<WrittenLink>& links) {
+  pugi::xml_document document;
+  pugi::xml_node root = document.append_child("Relationships");
+  root.append_attribute("xmlns") = kRelationshipsNamespace;
+  for (const WrittenLink& link : links) {
+    pugi::xml_node node = root.append_child("Relationship");
+    node.append_attribute("Id") = link.id.c_str();
+    node.append_attribute("Type") = link.type.c_str();
+    node.append_attribute("Target") = (link.external ? link.target : "/" + link.target).c_str();
+    if (link.external) node.append_attribute("TargetMode") = "External";
+  }
+  package.Put(RelationshipsPart(part), XmlBytes(document));
 }
 
 std::vector<std::string> TargetsOf(const Package& package, const std::string& part, std::string_view kind) {

@@ -33,6 +33,23 @@ std::string MainPart(const Package& package, std::string_view content);
 std::string AddRelationship(Package& package, const std::string& part, const std::string& type,
                             const std::string& target);
 
+/// A link as it is written: to a part of the package or to the world outside.
+struct WrittenLink {
+  std::string id{};
+  std::string type{};
+  std::string target{};  ///< a part's name from the root, or an address
+  bool external = false;
+};
+
+/// All links of `part`, those that lead outside included.
+std::vector<WrittenLink> LinksOf(const Package& package, const std::string& part);
+
+/// Writes `links` as those of `part`.
+void PutLinks(Package& package, const std::string& part, const std::vector<WrittenLink>& links);
+
+/// The content type of one part as the list states it for it alone; an empty text where it does not.
+std::string ContentTypeOf(const Package& package, const std::string& part);
+
 /// Removes every link of `part` to `target`.
 void RemoveRelationship(Package& package, const std::string& part, const std::string& target);
 

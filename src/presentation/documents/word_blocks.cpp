@@ -12,11 +12,6 @@ namespace {
 
 void NoPicture(pugi::xml_node, pugi::xml_node) {}
 
-struct MarkedParagraph {
-  pugi::xml_node paragraph{};
-  FoundPlaceholder marker{};
-};
-
 void CutText(pugi::xml_node paragraph, std::size_t begin, std::size_t length) {
   ParagraphText text(paragraph);
   text.Cut(begin, length);
@@ -68,52 +63,107 @@ void RemoveBetween(pugi::xml_node root, pugi::xml_node first, pugi::xml_node las
   for (std::size_t i = to.size() - 1; i > fork; --i) RemoveSiblings(to[i].parent().first_child(), to[i]);
 }
 
-bool RemoveOneBlock(pugi::xml_node root, std::string_view start, std::string_view end) {
-  MarkedParagraph open;
+/// A marker of a block, in the order of the text.
+struct Marker {
+  bool is_start = false;
+  pugi::xml_node paragraph{};
+  std::size_t begin = 0;
+  std::size_t length = 0;
+};
+
+std::vector<Marker> MarkersOf(pugi::xml_node root, std::string_view start, std::string_view end) {
+  std::vector<Marker> markers;
   for (const pugi::xml_node paragraph : ParagraphsOf(root)) {
     const std::string text = ParagraphText(paragraph).Text();
-    if (!open.paragraph) {
-      const auto found = FindMarker(text, start);
-      if (!found) continue;
-      open = {.paragraph = paragraph, .marker = *found};
+    const std::size_t first = markers.size();
+    for (const bool is_start : {true, false}) {
+      const std::string_view name = is_start ? start : end;
+      for (std::size_t from = 0;;) {
+        const auto found = FindMarker(std::string_view(text).substr(from), name);
+        if (!found) break;
+        markers.push_back({is_start, paragraph, from + found->begin, found->length});
+        from += found->begin + found->length;
+      }
     }
-    const auto close = FindMarker(text, end);
-    if (!close) continue;
-    const std::size_t close_end = close->begin + close->length;
-    if (paragraph == open.paragraph) {
-      if (close->begin < open.marker.begin) return false;
-      CutText(paragraph, open.marker.begin, close_end - open.marker.begin);
-    } else {
-      RemoveBetween(root, open.paragraph, paragraph);
-      CutText(open.paragraph, open.marker.begin, std::string::npos / 2);
-      CutText(paragraph, 0, close_end);
-      if (IsEmptyParagraph(open.paragraph)) RemoveParagraph(open.paragraph);
-    }
-    if (IsEmptyParagraph(paragraph)) RemoveParagraph(paragraph);
-    return true;
+    std::sort(markers.begin() + static_cast<std::ptrdiff_t>(first), markers.end(),
+              [](const Marker& a, const Marker& b) { return a.begin < b.begin; });
   }
-  return false;
+  return markers;
+}
+
+struct Block {
+  Marker start{};
+  Marker end{};
+};
+
+/// The blocks with both ends, and into `unpaired` the markers that have no other half.
+std::vector<Block> BlocksOf(const std::vector<Marker>& markers, std::vector<Marker>* unpaired) {
+  std::vector<Block> blocks;
+  const Marker* open = nullptr;
+  for (const Marker& marker : markers) {
+    if (marker.is_start) {
+      if (open != nullptr && unpaired != nullptr) unpaired->push_back(*open);
+      open = &marker;
+    } else if (open != nullptr) {
+      blocks.push_back({*open, marker});
+      open = nullptr;
+    } else if (unpaired != nullptr) {
+      unpaired->push_back(marker);
+    }
+  }
+  if (open != nullptr && unpaired != nullptr) unpaired->push_back(*open);
+  return blocks;
+}
+
+void RemoveBlock(pugi::xml_node root, const Block& block) {
+  const pugi::xml_node first = block.start.paragraph;
+  const pugi::xml_node last = block.end.paragraph;
+  const std::size_t close_end = block.end.begin + block.end.length;
+  if (first == last) {
+    CutText(last, block.start.begin, close_end - block.start.begin);
+  } else {
+    RemoveBetween(root, first, last);
+    CutText(first, block.start.begin, std::string::npos / 2);
+    CutText(last, 0, close_end);
+    if (IsEmptyParagraph(first)) RemoveParagraph(first);
+  }
+  if (IsEmptyParagraph(last)) RemoveParagraph(last);
 }
 
 }  // namespace
 
 bool RemoveBlocks(pugi::xml_node root, std::string_view start, std::string_view end) {
-  bool removed = false;
-  while (RemoveOneBlock(root, start, end)) removed = true;
-  return removed;
+  const std::vector<Block> blocks = BlocksOf(MarkersOf(root, start, end), nullptr);
+  // From the last to the first, so that what was found before keeps its place.
+  for (auto block = blocks.rbegin(); block != blocks.rend(); ++block) RemoveBlock(root, *block);
+  return !blocks.empty();
+}
+
+std::set<std::string> UnpairedMarkers(pugi::xml_node root, std::string_view start, std::string_view end) {
+  std::vector<Marker> unpaired;
+  BlocksOf(MarkersOf(root, start, end), &unpaired);
+  std::set<std::string> names;
+  for (const Marker& marker : unpaired) names.emplace(marker.is_start ? start : end);
+  return names;
 }
 
 bool RemoveMarkers(pugi::xml_node root, std::string_view marker) {
   bool removed = false;
   for (const pugi::xml_node paragraph : ParagraphsOf(root)) {
-    while (const auto found = FindMarker(ParagraphText(paragraph).Text(), marker)) {
-      CutText(paragraph, found->begin, found->length);
-      removed = true;
-      if (IsEmptyParagraph(paragraph)) {
-        RemoveParagraph(paragraph);
-        break;
-      }
+    ParagraphText text(paragraph);
+    const std::string joined = text.Text();
+    std::vector<ParagraphText::Replacement> cuts;
+    for (std::size_t from = 0;;) {
+      const auto found = FindMarker(std::string_view(joined).substr(from), marker);
+      if (!found) break;
+      cuts.push_back({.begin = from + found->begin, .length = found->length, .value = {}});
+      from += found->begin + found->length;
     }
+    if (cuts.empty()) continue;
+    text.Replace(cuts);
+    text.WriteBack(NoPicture);
+    removed = true;
+    if (IsEmptyParagraph(paragraph)) RemoveParagraph(paragraph);
   }
   return removed;
 }

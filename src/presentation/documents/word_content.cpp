@@ -1,5 +1,6 @@
 #include "presentation/documents/word_content.h"
 
+#include <algorithm>
 #include <cmath>
 #include <numeric>
 #include <string_view>
@@ -8,15 +9,17 @@
 namespace velmar::presentation {
 namespace {
 
-/// Of the text between the margins of an A4 page, in twentieths of a point.
-constexpr int kTextWidth = 9638;
-
 pugi::xml_node AppendParagraph(pugi::xml_node paragraph, const char* style, const std::string& text) {
   paragraph.append_child("w:pPr").append_child("w:pStyle").append_attribute("w:val") = style;
   pugi::xml_node run = paragraph.append_child("w:r");
-  pugi::xml_node node = run.append_child("w:t");
-  node.append_attribute("xml:space") = "preserve";
-  node.append_child(pugi::node_pcdata).set_value(text.c_str());
+  for (std::size_t begin = 0; begin <= text.size();) {
+    const std::size_t end = std::min(text.find('\n', begin), text.size());
+    if (begin > 0) run.append_child("w:br");
+    pugi::xml_node node = run.append_child("w:t");
+    node.append_attribute("xml:space") = "preserve";
+    node.append_child(pugi::node_pcdata).set_value(text.substr(begin, end - begin).c_str());
+    begin = end + 1;
+  }
   return run;
 }
 
@@ -30,7 +33,7 @@ bool IsNumber(std::string cell) {
   constexpr std::string_view kMinus = "\u2212";
   for (std::size_t at = cell.find(kMinus); at != std::string::npos; at = cell.find(kMinus))
     cell.replace(at, kMinus.size(), "-");
-  return !cell.empty() && cell.find_first_not_of("0123456789,.-+ x") == std::string::npos;
+  return !cell.empty() && cell.find_first_not_of("0123456789,.-+ x*") == std::string::npos;
 }
 
 void AppendRow(pugi::xml_node table, const std::vector<std::string>& cells, const std::vector<int>& widths,
@@ -49,13 +52,12 @@ void AppendRow(pugi::xml_node table, const std::vector<std::string>& cells, cons
   }
 }
 
-std::vector<int> WidthsOf(const DataTable& table) {
+std::vector<int> WidthsOf(const DataTable& table, int width) {
   std::vector<double> weights = table.weights;
   if (!table.heads.empty()) weights.resize(table.heads.size(), 1.0);
   const double sum = std::accumulate(weights.begin(), weights.end(), 0.0);
   std::vector<int> widths;
-  for (const double weight : weights)
-    widths.push_back(static_cast<int>(std::lround(weight / sum * kTextWidth)));
+  for (const double weight : weights) widths.push_back(static_cast<int>(std::lround(weight / sum * width)));
   return widths;
 }
 
@@ -69,20 +71,26 @@ std::vector<bool> NumberColumns(const DataTable& table) {
   return numbers;
 }
 
-void FillTable(pugi::xml_node node, const DataTable& table) {
+void FillTable(pugi::xml_node node, const WordContent& content) {
+  const DataTable& table = content.table;
   pugi::xml_node properties = node.append_child("w:tblPr");
   properties.append_child("w:tblStyle").append_attribute("w:val") = "RelazioneTabellaDati";
-  SetWidth(properties.append_child("w:tblW"), kTextWidth);
+  SetWidth(properties.append_child("w:tblW"), content.table_width);
   properties.append_child("w:tblLayout").append_attribute("w:type") = "fixed";
   pugi::xml_node look = properties.append_child("w:tblLook");
   look.append_attribute("w:val") = "04A0";
   look.append_attribute("w:firstRow") = 1;
-  const std::vector<int> widths = WidthsOf(table);
+  const std::vector<int> widths = WidthsOf(table, content.table_width);
   pugi::xml_node grid = node.append_child("w:tblGrid");
   for (const int width : widths) grid.append_child("w:gridCol").append_attribute("w:w") = width;
   const std::vector<bool> right = NumberColumns(table);
   if (!table.heads.empty()) AppendRow(node, table.heads, widths, true, right);
-  for (const auto& row : table.rows) AppendRow(node, row, widths, false, right);
+  for (std::size_t i = 0; i < table.rows.size(); ++i) {
+    std::vector<std::string> cells = table.rows[i];
+    if (i < content.placeholders.size() && !content.placeholders[i].empty())
+      cells.at(content.placeholder_column) = "[" + content.placeholders[i] + "]";
+    AppendRow(node, cells, widths, false, right);
+  }
 }
 
 }  // namespace
@@ -109,7 +117,7 @@ void InsertContent(pugi::xml_node before, const WordContent& content) {
       AppendParagraph(paragraph(), "RelazioneNota", content.text);
       return;
     case WordContent::Kind::kTable:
-      FillTable(container.insert_child_before("w:tbl", before), content.table);
+      FillTable(container.insert_child_before("w:tbl", before), content);
       return;
   }
 }

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
+#include <vector>
 
 #include <pugixml.hpp>
 
@@ -20,6 +22,11 @@ struct WordContent {
   std::string text{};
   bool on_new_page = false;  ///< of a chapter
   DataTable table{};
+  int table_width = 9638;  ///< in twentieths of a point; as it stands, of the text on an A4 page upright
+  /// The placeholders that stand in column `placeholder_column` of the table's rows; fewer than rows: in none
+  /// of the others.
+  std::vector<std::string> placeholders{};
+  std::size_t placeholder_column = 0;
 };
 
 /// Puts `content` before the paragraph or table `before`.

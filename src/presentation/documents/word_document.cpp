@@ -4,12 +4,14 @@
 #include <array>
 
 #include "foundation/message_rows.h"
+#include "presentation/documents/outside_links.h"
 #include "presentation/documents/paragraph_text.h"
 #include "presentation/documents/picture_parts.h"
 #include "presentation/documents/relationships.h"
 #include "presentation/documents/template_failure.h"
 #include "presentation/documents/word_blocks.h"
 #include "presentation/documents/word_picture.h"
+#include "presentation/documents/word_room.h"
 #include "presentation/documents/word_rows.h"
 #include "presentation/documents/xml_part.h"
 
@@ -43,10 +45,13 @@ void RestoreBrackets(pugi::xml_node root) {
   for (const pugi::xml_node paragraph : ParagraphsOf(root)) {
     ParagraphText text(paragraph);
     const std::string joined = text.Text();
+    std::vector<ParagraphText::Replacement> brackets;
     for (std::size_t at = joined.find(kValueBracket); at != std::string::npos;
          at = joined.find(kValueBracket, at + 1)) {
-      text.Replace(at, 1, "[");
+      brackets.push_back({.begin = at, .length = 1, .value = "["});
     }
+    if (brackets.empty()) continue;
+    text.Replace(brackets);
     text.WriteBack([](pugi::xml_node, pugi::xml_node) {});
   }
 }
@@ -55,6 +60,8 @@ void RestoreBrackets(pugi::xml_node root) {
 
 WordDocument::WordDocument(std::string_view docx)
     : package_(docx), main_part_(MainPart(package_, "wordprocessingml")) {
+  RefuseDoctypes(package_);
+  CutOutsideLinks(package_);
   std::vector<std::string> names = {main_part_};
   for (const std::string_view kind : kStoryKinds) {
     const std::vector<std::string> targets = TargetsOf(package_, main_part_, kind);
@@ -82,6 +89,31 @@ void WordDocument::RemoveBlock(std::string_view start, std::string_view end) {
   for (StoryPart& part : parts_) part.changed |= RemoveBlocks(part.xml, start, end);
 }
 
+std::set<std::string> WordDocument::Unpaired(std::string_view start, std::string_view end) const {
+  std::set<std::string> unpaired;
+  for (const StoryPart& part : parts_) unpaired.merge(UnpairedMarkers(part.xml, start, end));
+  return unpaired;
+}
+
+std::vector<WidePicture> WordDocument::WidePictures(
+    const std::map<std::string, std::int64_t>& widths_emu) const {
+  std::vector<WidePicture> wide;
+  for (const StoryPart& part : parts_) {
+    const std::int64_t page = PageRoom(parts_.front().xml);
+    for (const pugi::xml_node paragraph : ParagraphsOf(part.xml)) {
+      const std::int64_t room = RoomOf(paragraph, page);
+      for (const auto& [name, width] : widths_emu) {
+        if (width > room && HoldsPlaceholder(ParagraphText(paragraph).Text(), name))
+          wide.push_back({"[" + name + "]", width, room});
+      }
+      for (const WidePicture& picture : PicturesIn(paragraph)) {
+        if (picture.width_emu > room) wide.push_back({picture.name, picture.width_emu, room});
+      }
+    }
+  }
+  return wide;
+}
+
 void WordDocument::RemoveMarker(std::string_view marker) {
   for (StoryPart& part : parts_) part.changed |= RemoveMarkers(part.xml, marker);
 }
@@ -107,23 +139,42 @@ void WordDocument::Replace(const Placeholders& values) {
 }
 
 void WordDocument::ReplaceByPicture(std::string_view name, const Picture& picture) {
-  PictureParts media;
-  const Placeholders mark = {{std::string(name), std::string(1, kPictureMark)}};
+  ReplaceByPictures({{std::string(name), picture}});
+}
+
+void WordDocument::ReplaceByPictures(const std::map<std::string, Picture>& pictures) {
+  std::map<std::string, PictureParts> media;
   std::uint32_t number = 1;
   for (const StoryPart& part : parts_) number = std::max(number, FreeDrawingNumber(part.xml));
   for (StoryPart& part : parts_) {
-    PictureLinks links;
-    const auto make_picture = [&](pugi::xml_node run, pugi::xml_node before) {
-      if (media.png.empty()) media = AddPictureParts(package_, "word/media", picture);
-      if (links.png.empty()) {
-        links.png = AddRelationship(package_, part.name, kImageRelationship, media.png);
-        if (!media.svg.empty())
-          links.svg = AddRelationship(package_, part.name, kImageRelationship, media.svg);
+    std::map<std::string, PictureLinks> links;
+    const auto insert = [&](const std::string& name, pugi::xml_node run, pugi::xml_node before) {
+      const Picture& picture = pictures.at(name);
+      PictureParts& files = media[name];
+      if (files.png.empty()) files = AddPictureParts(package_, "word/media", picture);
+      PictureLinks& link = links[name];
+      if (link.png.empty()) {
+        link.png = AddRelationship(package_, part.name, kImageRelationship, files.png);
+        if (!files.svg.empty())
+          link.svg = AddRelationship(package_, part.name, kImageRelationship, files.svg);
       }
-      InsertDrawing(run, before, picture, links, number++);
+      InsertDrawing(run, before, picture, link, number++);
     };
-    for (const pugi::xml_node paragraph : ParagraphsOf(part.xml))
-      ReplaceIn(part, paragraph, mark, make_picture);
+    for (const pugi::xml_node paragraph : ParagraphsOf(part.xml)) {
+      const std::string text = ParagraphText(paragraph).Text();
+      std::vector<std::string> names;
+      Placeholders marks;
+      for (auto found = FindPlaceholder(text, 0); found;
+           found = FindPlaceholder(text, found->begin + found->length)) {
+        if (!pictures.contains(found->name)) continue;
+        names.push_back(found->name);
+        marks.emplace(found->name, std::string(1, kPictureMark));
+      }
+      if (names.empty()) continue;
+      auto next = names.begin();
+      ReplaceIn(part, paragraph, marks,
+                [&](pugi::xml_node run, pugi::xml_node before) { insert(*next++, run, before); });
+    }
   }
 }
 

@@ -1,7 +1,9 @@
 #pragma once
 
+#include <cstdint>
 #include <deque>
 #include <functional>
+#include <map>
 #include <set>
 #include <string>
 #include <string_view>
@@ -31,6 +33,13 @@ struct RowPattern {
   std::vector<PatternRow> rows{};
 };
 
+/// A picture that is wider than where it stands.
+struct WidePicture {
+  std::string name{};
+  std::int64_t width_emu = 0;
+  std::int64_t room_emu = 0;
+};
+
 /// A word-processor document made from a template: text, headers, footers, notes and text boxes alike.
 class WordDocument {
  public:
@@ -43,6 +52,9 @@ class WordDocument {
   /// Removes all that stands from marker `start` to marker `end`, both included.
   void RemoveBlock(std::string_view start, std::string_view end);
 
+  /// Which of the markers `start` and `end` stand without their other half.
+  std::set<std::string> Unpaired(std::string_view start, std::string_view end) const;
+
   /// Removes the marker itself, with its paragraph when nothing else stands there.
   void RemoveMarker(std::string_view marker);
 
@@ -52,8 +64,15 @@ class WordDocument {
   /// Puts `picture` in the place of placeholder `name`, wherever it stands.
   void ReplaceByPicture(std::string_view name, const Picture& picture);
 
+  /// The same for many placeholders in one walk.
+  void ReplaceByPictures(const std::map<std::string, Picture>& pictures);
+
   /// Puts `content` before each paragraph that holds placeholder `name`, which goes.
   void ReplaceByContent(std::string_view name, const std::vector<WordContent>& content);
+
+  /// The pictures whose place is narrower than they are: the placeholders of `widths_emu`, and those that the
+  /// template brings, by their names. The place is the cell, or the page between its margins.
+  std::vector<WidePicture> WidePictures(const std::map<std::string, std::int64_t>& widths_emu) const;
 
   void SetProperties(const DocumentProperties& properties) { SetDocumentProperties(package_, properties); }
 

@@ -6,7 +6,7 @@
 #include <utility>
 
 #include "foundation/message_rows.h"
-#include "foundation/utf8.h"
+#include "presentation/documents/outside_links.h"
 #include "presentation/documents/picture_parts.h"
 #include "presentation/documents/relationships.h"
 #include "presentation/documents/template_failure.h"
@@ -92,20 +92,6 @@ void SetText(pugi::xml_node node, long long value) {
   node.append_child(pugi::node_pcdata).set_value(std::to_string(value).c_str());
 }
 
-/// `name` as far as a sheet may be called so.
-std::string SheetName(const std::string& name) {
-  constexpr std::size_t kMostCharacters = 26;  // a number may come behind
-  std::string allowed;
-  std::string_view rest = std::string_view(name).substr(0, name.find(" / "));
-  for (std::size_t count = 0; !rest.empty() && count < kMostCharacters; ++count) {
-    const char32_t character = TakeCharacter(rest);
-    AppendCharacter(allowed, std::u32string_view(U"[]:*?/\\'").find(character) == std::u32string_view::npos
-                                 ? character
-                                 : U'-');
-  }
-  return allowed;
-}
-
 /// A picture that keeps its size and moves with the cell at its corner.
 void AppendAnchor(pugi::xml_node drawing, CellPlace corner, const Picture& picture,
                   const PictureLinks& links) {
@@ -161,13 +147,18 @@ Workbook::Workbook(std::string_view xlsx)
       sheet_part_(FirstSheet(package_, main_part_)),
       styles_part_(StylesPart(package_, main_part_)),
       sheet_(package_.Part(sheet_part_), sheet_part_),
-      styles_(package_.Part(styles_part_), styles_part_) {}
+      styles_(package_.Part(styles_part_), styles_part_) {
+  RefuseDoctypes(package_);
+  for (const OutsideLink& link : OutsideLinksOf(package_))
+    throw TemplateFailure(kTemplateLinksRow, link.part + ": " + link.target);
+}
 
 void Workbook::ChangeStyle(Worksheet& sheet, CellPlace place, const StyleChange& change) {
   sheet.SetStyle(place, styles_.Derived(sheet.StyleOf(place), change));
 }
 
-Worksheet& Workbook::AddSheet(const std::string& name, bool landscape, const std::vector<double>& widths) {
+Worksheet& Workbook::AddSheet(const std::string& wanted, bool landscape, const std::vector<double>& widths,
+                              bool beside) {
   int number = 1;
   const auto part = [&] {
     return FolderOf(main_part_) + "worksheets/velmar" + std::to_string(number) + ".xml";
@@ -178,10 +169,8 @@ Worksheet& Workbook::AddSheet(const std::string& name, bool landscape, const std
   AddContentType(package_, part(), kSheetContent);
   pugi::xml_document workbook = ParseXml(package_.Part(main_part_), main_part_);
   pugi::xml_node sheets = workbook.child("workbook").child("sheets");
-  const std::string allowed = SheetName(name);
-  std::string free = allowed;
-  for (int copy = 2; sheets.find_child_by_attribute("name", free.c_str()); ++copy)
-    free = allowed + " " + std::to_string(copy);
+  const std::string free =
+      FreeSheetName(copy_prefix_.empty() || !beside ? wanted : copy_prefix_ + " " + wanted);
   int highest = 0;
   for (const pugi::xml_node node : sheets.children("sheet"))
     highest = std::max(highest, node.attribute("sheetId").as_int());
@@ -216,9 +205,15 @@ std::string Workbook::DrawingOf(Worksheet& sheet) {
 
 void Workbook::PrintDownTo(int row) {
   pugi::xml_document workbook = ParseXml(package_.Part(main_part_), main_part_);
+  const std::string own = SheetName();
+  int index = 0;
+  for (const pugi::xml_node node : workbook.child("workbook").child("sheets").children("sheet")) {
+    if (own == node.attribute("name").value()) break;
+    ++index;
+  }
   for (const pugi::xml_node name : workbook.child("workbook").child("definedNames").children("definedName")) {
     if (std::string_view(name.attribute("name").value()) != "_xlnm.Print_Area" ||
-        name.attribute("localSheetId").as_int() != 0)
+        name.attribute("localSheetId").as_int() != index)
       continue;
     std::string area = name.text().get();
     const std::size_t last = area.rfind('$');
@@ -279,7 +274,7 @@ void Workbook::AddPicture(Worksheet& sheet, CellPlace corner, const Picture& pic
 
 void Workbook::ForgetOldValues() {
   for (const std::string& chain : TargetsOf(package_, main_part_, "calcChain")) {
-    if (!sheet_.LostFormula()) continue;
+    if (!lost_formula_) continue;
     package_.Remove(chain);
     RemoveRelationship(package_, main_part_, chain);
     RemoveContentType(package_, chain);
@@ -301,10 +296,15 @@ void Workbook::ForgetOldValues() {
   package_.Put(main_part_, XmlBytes(workbook));
 }
 
-std::string Workbook::Bytes() {
+void Workbook::Flush() {
+  lost_formula_ |= sheet_.LostFormula();
   if (sheet_.LostFormula() || sheet_.HasFormula()) ForgetOldValues();
   package_.Put(sheet_part_, sheet_.Bytes());
   for (const AddedSheet& added : added_) package_.Put(added.part, added.sheet.Bytes());
+}
+
+std::string Workbook::Bytes() {
+  Flush();
   if (styles_.Changed()) package_.Put(styles_part_, styles_.Bytes());
   return package_.Bytes();
 }

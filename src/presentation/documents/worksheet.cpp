@@ -227,6 +227,45 @@ void Worksheet::Unmerge(int first, int last, int left, int right) {
   Set(list, "count", std::to_string(std::distance(merged.begin(), merged.end())));
 }
 
+void Worksheet::AddLink(CellPlace place, const std::string& sheet) {
+  pugi::xml_node root = xml_.child("worksheet");
+  pugi::xml_node list = root.child("hyperlinks");
+  if (!list) {
+    // The parts of a sheet have a fixed order.
+    pugi::xml_node next;
+    for (const char* name :
+         {"extLst",    "tableParts",    "webPublishItems", "controls",         "oleObjects",
+          "picture",   "drawingHF",     "legacyDrawingHF", "legacyDrawing",    "drawing",
+          "smartTags", "ignoredErrors", "cellWatches",     "customProperties", "colBreaks",
+          "rowBreaks", "headerFooter",  "pageSetup",       "pageMargins",      "printOptions"}) {
+      if (const pugi::xml_node node = root.child(name)) next = node;
+    }
+    list = next ? root.insert_child_before("hyperlinks", next) : root.append_child("hyperlinks");
+  }
+  std::string quoted;
+  for (const char letter : sheet) quoted += letter == '\'' ? std::string("''") : std::string(1, letter);
+  pugi::xml_node link = list.append_child("hyperlink");
+  link.append_attribute("ref") = CellName(place).c_str();
+  link.append_attribute("location") = ("'" + quoted + "'!A1").c_str();
+  link.append_attribute("display") = sheet.c_str();
+}
+
+void Worksheet::SetSelected(bool selected) {
+  for (pugi::xml_node view : xml_.child("worksheet").child("sheetViews").children("sheetView")) {
+    view.remove_attribute("tabSelected");
+    if (selected) view.prepend_attribute("tabSelected") = 1;
+  }
+}
+
+void Worksheet::Freeze(int rows) {
+  pugi::xml_node view = xml_.child("worksheet").child("sheetViews").child("sheetView");
+  pugi::xml_node pane = view.prepend_child("pane");
+  pane.append_attribute("ySplit") = rows;
+  pane.append_attribute("topLeftCell") = CellName({rows + 1, 1}).c_str();
+  pane.append_attribute("activePane") = "bottomLeft";
+  pane.append_attribute("state") = "frozen";
+}
+
 void Worksheet::SetDrawing(const std::string& relationship) {
   pugi::xml_node sheet = xml_.child("worksheet");
   // The parts of a sheet have a fixed order.

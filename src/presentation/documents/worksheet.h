@@ -41,6 +41,15 @@ class Worksheet {
   void MergeRange(CellPlace from, CellPlace to);
   void SetHeight(int row, double height_points);
 
+  /// A link from the cell `place` to the cell A1 of the sheet `sheet`.
+  void AddLink(CellPlace place, const std::string& sheet);
+
+  /// Whether the sheet is among those that are shown when the workbook is opened.
+  void SetSelected(bool selected);
+
+  /// Rows up to `rows` are repeated when the sheet is scrolled.
+  void Freeze(int rows);
+
   /// Links the sheet to its drawing. @param relationship identifier of the link
   void SetDrawing(const std::string& relationship);
 

@@ -101,7 +101,7 @@ class Composer {
     for (PageField& field : fields) {
       if (!IsLongField(field, room_.width(), points, columns)) continue;
       rest_.fields.push_back(field);
-      field.value = "\u2192 " + page_.foot.page + " 2";
+      field.value = "\u2192 " + page_.foot.page + " " + std::to_string(page_.foot.before + 2);
     }
     Take(DrawFields(painter_, room_, fields, points, columns));
     DrawRule();

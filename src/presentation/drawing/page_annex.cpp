@@ -221,8 +221,9 @@ void PageAnnex::Draw(QPainter& painter, int index) const {
 void PageAnnex::DrawFoot(QPainter& painter, int index) const {
   const QRectF box(kInset, paper_.height() - kFootTop, paper_.width() - 2.0 * kInset, kFootTop - kFootBottom);
   const QFont font = PageFont(kSmallestPoints);
-  const QString number = FromWords(foot_.page + " " + std::to_string(index + 1) + " " + foot_.of + " " +
-                                   std::to_string(PageCount() + 1));
+  const QString number =
+      FromWords(foot_.page + " " + std::to_string(foot_.before + index + 1) + " " + foot_.of + " " +
+                std::to_string(foot_.all > 0 ? foot_.all : PageCount() + 1));
   painter.setPen(kQuietInkColour);
   if (!studio_foot_.empty())
     DrawWrapped(painter, box.translated(0.0, -kStudioFoot), font, FromWords(studio_foot_),

@@ -57,6 +57,8 @@ struct PageFoot {
   std::string left{};  ///< project, code, date, program
   std::string page{};  ///< "pagina"
   std::string of{};    ///< "di"
+  int before = 0;      ///< pages of the document that stand before these
+  int all = 0;         ///< pages of the whole document; 0: these are all
 };
 
 /// What stands on the pages of a calculation: the first tells the result, those behind it what found no room

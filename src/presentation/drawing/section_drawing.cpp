@@ -230,6 +230,22 @@ void DrawSection(QPainter& painter, const QRectF& area, const Section& section,
   painter.restore();
 }
 
+void DrawSectionStrips(QPainter& painter, const QRectF& area, const Section& section) {
+  if (area.isEmpty() || section.strips.empty() || section.thickness_mm <= 0.0) return;
+  SectionLayout layout;
+  for (const Strip& strip : section.strips) {
+    const double from = strip.position_mm / section.thickness_mm;
+    const double depth = strip.thickness_mm / section.thickness_mm;
+    layout.strips.push_back(
+        section.horizontal
+            ? QRectF(area.left(), area.top() + from * area.height(), area.width(), depth * area.height())
+            : QRectF(area.left() + from * area.width(), area.top(), depth * area.width(), area.height()));
+  }
+  painter.save();
+  DrawStrips(painter, layout, section, {});
+  painter.restore();
+}
+
 std::optional<LayerPlace> LayerAt(const QPointF& position, const QRectF& area, const Section& section,
                                   const QFont& font, const SectionOptions& options) {
   const SectionLayout layout = LayoutOf(area, section, font, options);

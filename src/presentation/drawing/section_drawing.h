@@ -35,6 +35,10 @@ SectionOptions PaperOptions(const elements::Setup& setup, const Words& words,
 void DrawSection(QPainter& painter, const QRectF& area, const Section& section,
                  const SectionOptions& options = {});
 
+/// Draws the strips of `section` alone, to scale, over the whole of `area`: an element in small. A section
+/// without thickness draws nothing.
+void DrawSectionStrips(QPainter& painter, const QRectF& area, const Section& section);
+
 /// The row whose strip, number or name stands at `position` when `section` is drawn into `area` with `font`.
 std::optional<LayerPlace> LayerAt(const QPointF& position, const QRectF& area, const Section& section,
                                   const QFont& font, const SectionOptions& options = {});

@@ -19,10 +19,6 @@ constexpr int kLabelPixels = 11;
 
 QSizeF PixelsOf(const QSizeF& millimetres) { return millimetres * (kPixelsPerInch / kMillimetresPerInch); }
 
-std::int64_t Emu(double millimetres) {
-  return std::llround(millimetres / kMillimetresPerInch * static_cast<double>(kEmuPerInch));
-}
-
 void DrawWithFont(QPainter& painter, const QSizeF& pixels, const Drawing& draw) {
   QFont font = PageFont(kTextPoints);
   font.setPixelSize(kLabelPixels);
@@ -31,6 +27,10 @@ void DrawWithFont(QPainter& painter, const QSizeF& pixels, const Drawing& draw) 
 }
 
 }  // namespace
+
+std::int64_t Emu(double millimetres) {
+  return std::llround(millimetres / kMillimetresPerInch * static_cast<double>(kEmuPerInch));
+}
 
 std::string PngOf(const QSizeF& millimetres, const Drawing& draw) {
   constexpr double kScale = kDotsPerInch / kPixelsPerInch;

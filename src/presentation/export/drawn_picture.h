@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QSizeF>
+#include <cstdint>
 #include <functional>
 #include <string>
 
@@ -13,6 +14,9 @@ namespace velmar::presentation {
 
 /// Draws into an area in pixels of 1/96 inch; the painter has the font of labels.
 using Drawing = std::function<void(QPainter& painter, const QRectF& area)>;
+
+/// A length in English Metric Units.
+std::int64_t Emu(double millimetres);
 
 /// `draw` as a bitmap of 300 dots an inch, `millimetres` large: the bytes of a PNG.
 std::string PngOf(const QSizeF& millimetres, const Drawing& draw);

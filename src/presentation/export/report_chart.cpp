@@ -29,4 +29,6 @@ std::optional<Picture> ReportChartOf(const elements::Setup& setup, const element
       [&](QPainter& painter, const QRectF& area) { DrawCurveChart(painter, area, *chart); }, false);
 }
 
+std::int64_t ReportChartWidth() { return Emu(kMillimetres.width()); }
+
 }  // namespace velmar::presentation

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <optional>
 
 #include "presentation/documents/picture.h"
@@ -19,5 +20,8 @@ std::optional<CurveChart> WholeChartOf(const elements::Setup& setup, const eleme
 /// QGuiApplication must exist. @param shown as in WholeChartOf()
 std::optional<Picture> ReportChartOf(const elements::Setup& setup, const elements::ResultSet& result,
                                      const Words& words, std::optional<CurveChart> shown = std::nullopt);
+
+/// How wide the chart of a Word report is, in English Metric Units.
+std::int64_t ReportChartWidth();
 
 }  // namespace velmar::presentation

@@ -13,6 +13,7 @@ namespace {
 constexpr QSizeF kWideMillimetres{169.0, 33.0};
 /// Within the cells from row 13 to row 23 beside the table of layers.
 constexpr QSizeF kSmallMillimetres{57.0, 56.0};
+constexpr QSizeF kThumbnailMillimetres{26.0, 11.0};
 constexpr std::size_t kMostNumbersInSmall = 9;
 
 std::size_t CountOfNumbers(const Section& section) {
@@ -26,7 +27,7 @@ std::size_t CountOfNumbers(const Section& section) {
 }  // namespace
 
 ReportSection ReportSectionOf(const elements::Setup& setup, const Words& words, DocumentLanguage language) {
-  const Section section = SectionOf(setup);
+  const Section section = SectionOf(setup, words);
   if (section.strips.empty()) return {};
   const std::string alternative_text = SectionDescription(section.thickness_mm, words);
   const auto picture = [&](const QSizeF& millimetres, const SectionOptions& options) {
@@ -40,5 +41,18 @@ ReportSection ReportSectionOf(const elements::Setup& setup, const Words& words, 
   if (CountOfNumbers(section) <= kMostNumbersInSmall) drawn.small = picture(kSmallMillimetres, options);
   return drawn;
 }
+
+std::optional<Picture> SectionThumbnailOf(const elements::Setup& setup, const Words& words) {
+  const Section section = SectionOf(setup);
+  if (section.strips.empty()) return std::nullopt;
+  return PictureOf(
+      kThumbnailMillimetres, SectionDescription(section.thickness_mm, words),
+      [&](QPainter& painter, const QRectF& area) {
+        DrawSectionStrips(painter, area.adjusted(0.5, 0.5, -0.5, -0.5), section);
+      },
+      true);
+}
+
+std::int64_t ReportSectionWidth() { return Emu(kWideMillimetres.width()); }
 
 }  // namespace velmar::presentation

@@ -206,8 +206,7 @@ void WriteStudio(Workbook& workbook, const ReportRecord& record) {
 
 }  // namespace
 
-std::string WriteExcelReport(std::string_view xlsx, const ReportRecord& record) {
-  Workbook workbook(xlsx);
+void FillExcelReport(Workbook& workbook, const ReportRecord& record) {
   Worksheet& sheet = workbook.Sheet();
   sheet.SetText(kTitle, record.title);
   sheet.SetText(kKind, record.kind_of_element);
@@ -237,6 +236,11 @@ std::string WriteExcelReport(std::string_view xlsx, const ReportRecord& record) 
   WriteStudio(workbook, record);
   workbook.SetProperties(record.properties);
   WriteDataSheet(workbook, record.data, record.language);
+}
+
+std::string WriteExcelReport(std::string_view xlsx, const ReportRecord& record) {
+  Workbook workbook(xlsx);
+  FillExcelReport(workbook, record);
   return workbook.Bytes();
 }
 

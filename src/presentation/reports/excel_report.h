@@ -3,6 +3,7 @@
 #include <string>
 #include <string_view>
 
+#include "presentation/documents/workbook.h"
 #include "presentation/reports/report_record.h"
 
 namespace velmar::presentation {
@@ -15,5 +16,8 @@ inline constexpr std::string_view kExcelTemplateName = "Formato_drav.xlsx";
 /// same record and template give the same bytes.
 /// @throws TemplateFailure when the template cannot be used
 std::string WriteExcelReport(std::string_view xlsx, const ReportRecord& record);
+
+/// Fills the sheet of `workbook` that is being filled with `record`, and adds the sheets beside it.
+void FillExcelReport(Workbook& workbook, const ReportRecord& record);
 
 }  // namespace velmar::presentation

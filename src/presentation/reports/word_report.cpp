@@ -1,7 +1,9 @@
 #include "presentation/reports/word_report.h"
 
+#include <utility>
 #include <vector>
 
+#include "foundation/message_rows.h"
 #include "presentation/documents/word_content.h"
 #include "presentation/documents/word_document.h"
 #include "presentation/reports/word_placeholders.h"
@@ -10,13 +12,11 @@ namespace velmar::presentation {
 namespace {
 
 /// Keeps or removes what stands between two markers.
-void Settle(WordDocument& document, bool keep, std::string_view start, std::string_view end) {
-  if (keep) {
-    document.RemoveMarker(start);
-    document.RemoveMarker(end);
-  } else {
-    document.RemoveBlock(start, end);
-  }
+void Settle(WordDocument& document, bool keep, const BlockMarkers& block, std::set<std::string>& unpaired) {
+  unpaired.merge(document.Unpaired(block.start, block.end));
+  if (!keep) document.RemoveBlock(block.start, block.end);
+  document.RemoveMarker(block.start);
+  document.RemoveMarker(block.end);
 }
 
 std::vector<WordContent> DataContent(const CalculationData& told, DocumentLanguage language) {
@@ -62,11 +62,14 @@ std::string_view WordTemplateName(elements::Family family) {
 
 WrittenReport WriteWordReport(std::string_view docx, const ReportRecord& record) {
   WordDocument document(docx);
-  Settle(document, record.has_bands, "P1_FREQ_START", "P1_FREQ_END");
-  Settle(document, !record.hanger.empty(), "P2_PENDINO_START", "P2_PENDINO_END");
-  Settle(document, !record.information[elements::kNotesRow].value.empty(), "P1_NOTE_START", "P1_NOTE_END");
-  Settle(document, !record.information[elements::kAttachmentRow].value.empty(), "P1_ALLEGATO_START",
-         "P1_ALLEGATO_END");
+  WrittenReport report;
+  const auto settle = [&](bool keep, const BlockMarkers& block) {
+    Settle(document, keep, block, report.unpaired_markers);
+  };
+  settle(record.has_bands, kBandsBlock);
+  settle(!record.hanger.empty(), kHangerBlock);
+  settle(!record.information[elements::kNotesRow].value.empty(), kNotesBlock);
+  settle(!record.information[elements::kAttachmentRow].value.empty(), kAttachmentBlock);
   document.RepeatRows(InformationPattern(record));
   document.RepeatRows(StructurePattern(record));
   if (record.chart) document.ReplaceByPicture("P1_RISULTATOGRAFICO", *record.chart);
@@ -76,10 +79,22 @@ WrittenReport WriteWordReport(std::string_view docx, const ReportRecord& record)
   document.ReplaceByContent("P3_DATI", DataContent(record.data, record.language));
   document.Replace(TextPlaceholders(record));
   document.SetProperties(record.properties);
-  WrittenReport report;
   report.unknown_placeholders = document.Left();
   report.bytes = document.Bytes();
   return report;
+}
+
+Message WrittenReport::Remarks() const {
+  Message remarks;
+  const auto add = [&](MessageRow row, const std::set<std::string>& names) {
+    if (names.empty()) return;
+    MessageLine line = {row};
+    for (const std::string& name : names) line.emplace_back(" " + name);
+    remarks.push_back(std::move(line));
+  };
+  add(kUnknownPlaceholdersRow, unknown_placeholders);
+  add(kTemplateUnpairedRow, unpaired_markers);
+  return remarks;
 }
 
 }  // namespace velmar::presentation

@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "elements/catalogue.h"
+#include "foundation/message.h"
 #include "presentation/reports/report_record.h"
 
 namespace velmar::presentation {
@@ -21,6 +22,10 @@ std::string WithLanguage(std::string_view name, std::optional<DocumentLanguage> 
 struct WrittenReport {
   std::string bytes{};
   std::set<std::string> unknown_placeholders{};  ///< left in the document as they stood
+  std::set<std::string> unpaired_markers{};      ///< of blocks that stay because an end is missing
+
+  /// What the user is to know of it, a line each.
+  Message Remarks() const;
 };
 
 /// Fills the Word template `docx` with `record`. The same record and template give the same bytes.

@@ -1,6 +1,8 @@
 #include "presentation/texts/references.h"
 
 #include <algorithm>
+#include <string_view>
+#include <utility>
 #include <vector>
 
 #include "presentation/texts/calculation_data.h"
@@ -39,6 +41,27 @@ MessageRow ModelReferenceRow(Model model) {
   return {};
 }
 
+bool IsImpact(const elements::CalculationRow& row) { return row.family == elements::Family::kImpact; }
+
+MessageRow RatingRow(const elements::CalculationRow& row) {
+  return IsImpact(row) ? kRatingStandardImpactRow : kRatingStandardAirborneRow;
+}
+
+/// The marks of what a calculation rests on, each once.
+std::vector<int> MarksOf(const elements::CalculationRow& row) {
+  std::vector<int> marks;
+  const auto add = [&](int mark) {
+    if (mark > 0 && std::ranges::count(marks, mark) == 0) marks.push_back(mark);
+  };
+  add(row.mark);
+  add(row.theory.mark);
+  if (IsImpact(row)) {
+    add(kFloatingScreedMark);
+    add(kFloorEstimateMark);
+  }
+  return marks;
+}
+
 }  // namespace
 
 std::string ReferenceText(int mark, const Words& words) {
@@ -51,24 +74,47 @@ std::string ModelReference(elements::Calculation calculation, const Words& words
   return words(ModelReferenceRow(elements::RowOf(calculation).model));
 }
 
+const char* KindText(ReferenceKind kind) {
+  switch (kind) {
+    case ReferenceKind::kRelation:
+      return "relation";
+    case ReferenceKind::kModel:
+      return "model";
+    case ReferenceKind::kRating:
+      return "rating";
+  }
+  return "";
+}
+
+std::vector<Reference> AllReferences(const Words& words) {
+  std::vector<Reference> references;
+  for (int mark = 1; mark <= static_cast<int>(kRelationReferenceRows.size()); ++mark) {
+    Reference relation{.kind = ReferenceKind::kRelation, .mark = mark, .text = ReferenceText(mark, words)};
+    for (const elements::CalculationRow& row : elements::Catalogue()) {
+      const std::vector<int> marks = MarksOf(row);
+      if (std::ranges::count(marks, mark) > 0) relation.calculations.emplace_back(row.variant);
+    }
+    references.push_back(std::move(relation));
+  }
+  const auto add = [&](ReferenceKind kind, std::string text, std::string_view calculation) {
+    auto known = std::ranges::find(references, text, &Reference::text);
+    if (known == references.end())
+      known = references.insert(known, Reference{.kind = kind, .text = std::move(text)});
+    known->calculations.emplace_back(calculation);
+  };
+  for (const elements::CalculationRow& row : elements::Catalogue())
+    add(ReferenceKind::kModel, ModelReference(row.calculation, words), row.variant);
+  for (const elements::CalculationRow& row : elements::Catalogue())
+    add(ReferenceKind::kRating, words(RatingRow(row)), row.variant);
+  return references;
+}
+
 std::vector<std::string> ReferencesOf(elements::Calculation calculation, const Words& words) {
   const elements::CalculationRow& row = elements::RowOf(calculation);
-  const bool impact = row.family == elements::Family::kImpact;
-  std::vector<int> marks;
-  const auto add_mark = [&](int mark) {
-    if (mark > 0 && std::find(marks.begin(), marks.end(), mark) == marks.end()) marks.push_back(mark);
-  };
-  add_mark(row.mark);
-  add_mark(row.theory.mark);
-  if (impact) {
-    add_mark(kFloatingScreedMark);
-    add_mark(kFloorEstimateMark);
-  }
   std::vector<std::string> references;
-  for (const int mark : marks) references.push_back(ReferenceText(mark, words));
+  for (const int mark : MarksOf(row)) references.push_back(ReferenceText(mark, words));
   references.push_back(words(kModelCaptionRow) + ": " + ModelReference(calculation, words));
-  references.push_back(words(kRatingCaptionRow) + ": " +
-                       words(impact ? kRatingStandardImpactRow : kRatingStandardAirborneRow));
+  references.push_back(words(kRatingCaptionRow) + ": " + words(RatingRow(row)));
   return references;
 }
 

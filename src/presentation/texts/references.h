@@ -3,6 +3,7 @@
 #include <array>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "elements/catalogue.h"
 #include "foundation/message_rows.h"
@@ -23,5 +24,22 @@ std::string ReferenceText(int mark, const Words& words);
 
 /// The model of `calculation` with its full citation.
 std::string ModelReference(elements::Calculation calculation, const Words& words);
+
+/// What a reference is cited for.
+enum class ReferenceKind { kRelation, kModel, kRating };
+
+/// "relation", "model", "rating".
+const char* KindText(ReferenceKind kind);
+
+/// One entry of the list of references.
+struct Reference {
+  ReferenceKind kind = ReferenceKind::kRelation;
+  int mark = 0;                             ///< of a relation, "[1]" to "[28]"; 0 for none
+  std::string text{};                       ///< with its mark
+  std::vector<std::string> calculations{};  ///< the stored names of those that rest on it
+};
+
+/// All that documents cite: relations by their marks, then models, then the standards of rating.
+std::vector<Reference> AllReferences(const Words& words);
 
 }  // namespace velmar::presentation

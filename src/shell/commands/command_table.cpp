@@ -133,6 +133,10 @@ constexpr std::array<Command, kCommandCount> kCommands = {{
             [](CommandSet& all) { all.At().files.KeepAsTemplate(); }},
     Command{kHelpHere,           0,  "aiuto_qui",                 kHelpMenuRow, {}, "",           "F1",     N::kNothing,
             Of<&Desk::help, &HelpCommands::ShowHelp>},
+    Command{kReportProjects,     0,  "relazione_progetti",        kScheduleMenuRow, {}, "",           "",       N::kNothing,
+            Of<&Desk::reports, &ReportCommands::ReportProjects>},
+    Command{kCheckTemplate,      0,  "controlla_modello",         kCheckTemplateMenuRow, {}, "",           "",       N::kNothing,
+            Of<&Desk::reports, &ReportCommands::CheckTemplate>},
 }};
 // clang-format on
 

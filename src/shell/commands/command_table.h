@@ -48,8 +48,10 @@ enum class CommandId {
   kStudioProfile,
   kSaveAsTemplate,
   kHelpHere,
+  kReportProjects,
+  kCheckTemplate,
 };
-inline constexpr std::size_t kCommandCount = static_cast<std::size_t>(CommandId::kHelpHere) + 1;
+inline constexpr std::size_t kCommandCount = static_cast<std::size_t>(CommandId::kCheckTemplate) + 1;
 
 /// What must be there before a command can do anything.
 enum class Needs {

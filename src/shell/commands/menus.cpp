@@ -39,7 +39,8 @@ OpenMenus FillMenuBar(QMenuBar& bar, const CommandSet& commands, const Calculati
   Add(*file, commands, {kSaveProject, kSaveProjectAs, kSaveAsTemplate, kStoreResult});
   commands.Of(kSaveAsTemplate)->setVisible(commands.At().files.OwnTemplates().AreKept());
   file->addSeparator();
-  Add(*file, commands, {kExportWord, kExportExcel, kPrint, kPrintPreview, kChoosePrinter});
+  Add(*file, commands,
+      {kExportWord, kExportExcel, kReportProjects, kCheckTemplate, kPrint, kPrintPreview, kChoosePrinter});
   if (DocumentServices* documents = commands.At().documents)
     file->addMenu(new LanguageMenu(*documents, words, file));
   file->addSeparator();

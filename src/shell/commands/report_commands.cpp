@@ -1,8 +1,11 @@
 #include "shell/commands/report_commands.h"
 
+#include <QDir>
+#include <QFileDialog>
 #include <QStringList>
 #include <system_error>
 
+#include "documents/template_file.h"
 #include "foundation/failure.h"
 #include "foundation/message_rows.h"
 #include "presentation/export/document_provenance.h"
@@ -13,6 +16,7 @@
 #include "presentation/reports/word_report.h"
 #include "shell/project/project_files.h"
 #include "shell/results/results_panel.h"
+#include "shell/schedule/schedule_dialog.h"
 #include "shell/windows/phrases.h"
 #include "storage/files/open_elsewhere.h"
 #include "storage/files/whole_file.h"
@@ -21,8 +25,6 @@
 
 namespace velmar::shell {
 namespace {
-
-constexpr std::size_t kTemplateLimit = std::size_t{64} * 1024 * 1024;
 
 enum class Kind { kWord, kExcel };
 
@@ -53,6 +55,7 @@ presentation::ReportRecord RecordOf(const Desk& desk, const DocumentServices& do
         presentation::ProvenanceOf(storage::WriteProject(setup), desk.files.File().filename().string(),
                                    documents.sources, language));
     record.language = language;
+    if (shown) AddComparison(record.data, shown->comparison, words);
     AddConfidence(record, validation::ConfidenceOf(setup, result, desk.accuracy.Get()), words);
     return record;
   };
@@ -92,17 +95,15 @@ QString Write(Kind kind, const std::filesystem::path& pattern, const presentatio
               const std::filesystem::path& file, const presentation::Words& words) {
   if (storage::IsOpenElsewhere(file))
     throw Failure({{kFillingFailedRow}}, "open elsewhere: " + file.string());
-  const std::string bytes = storage::ReadWhole(pattern, kTemplateLimit);
   QString told = Text(words, kDocumentSavedRow);
-  if (kind == Kind::kExcel) {
-    storage::WriteWhole(file, presentation::WriteExcelReport(bytes, record));
-    return told;
-  }
-  const presentation::WrittenReport report = presentation::WriteWordReport(bytes, record);
-  storage::WriteWhole(file, report.bytes);
-  if (report.unknown_placeholders.empty()) return told;
-  told += '\n' + Text(words, kUnknownPlaceholdersRow);
-  for (const std::string& name : report.unknown_placeholders) told += ' ' + FromUtf8(name);
+  const std::string bytes = documents::WithTemplate(pattern, [&](const std::string& from) {
+    if (kind == Kind::kExcel) return presentation::WriteExcelReport(from, record);
+    presentation::WrittenReport report = presentation::WriteWordReport(from, record);
+    const Message remarks = report.Remarks();
+    if (!remarks.empty()) told += '\n' + Text(words, remarks);
+    return std::move(report.bytes);
+  });
+  storage::WriteWhole(file, bytes);
   return told;
 }
 
@@ -131,5 +132,46 @@ void Export(Kind kind, const DocumentServices& documents, const Desk& desk) {
 void ReportCommands::ExportWord(const Desk& desk) { Export(Kind::kWord, documents_, desk); }
 
 void ReportCommands::ExportExcel(const Desk& desk) { Export(Kind::kExcel, documents_, desk); }
+
+void ReportCommands::ReportProjects(const Desk& desk) {
+  const auto tools = [this, &desk] {
+    return documents::ScheduleTools{.words = desk.speech.words,
+                                    .materials = materials_,
+                                    .sources = documents_.sources,
+                                    .places = documents_.places,
+                                    .accuracy = desk.accuracy.Get()};
+  };
+  const auto choose = [&desk](const FileQuestion& question) {
+    return QFileDialog::getOpenFileNames(&desk.window, question.title, question.start, question.filter);
+  };
+  ScheduleDialog dialog(
+      desk.speech,
+      {.tools = tools,
+       .choose_projects = choose_projects_ ? choose_projects_ : choose,
+       .propose = [&desk](const QString& ending) { return desk.files.ProposeDocument(ending); },
+       .language = documents_.language,
+       .written = [&desk](const std::filesystem::path& file) { desk.files.DocumentWritten(file); }},
+      &desk.window);
+  if (!desk.files.File().empty()) dialog.Add({FromUtf8(desk.files.File().string())});
+  dialog.exec();
+}
+
+void ReportCommands::CheckTemplate(const Desk& desk) {
+  const QString chosen = desk.speech.boxes.choose_file_to_open(
+      {.title = Text(desk.speech.words, kCheckTemplateMenuRow).remove(QChar(0x2026)),
+       .filter = Text(desk.speech.words, kTemplateFilesRow) + " (*.docx *.xlsx)",
+       .start = FromUtf8(documents_.places.templates.string())});
+  if (chosen.isEmpty()) return;
+  try {
+    const Message findings = documents::CheckTemplateFile(ToUtf8(chosen));
+    const QString name = QDir::toNativeSeparators(chosen);
+    desk.speech.boxes.tell(findings.empty() ? Tone::kInformation : Tone::kCritical,
+                           findings.empty() ? Text(desk.speech.words, kTemplateGoodRow) + ' ' + name
+                                            : Text(desk.speech.words, kTemplateCheckedRow) + ' ' + name +
+                                                  ":\n" + Text(desk.speech.words, findings));
+  } catch (const Failure& failure) {
+    desk.speech.boxes.tell(Tone::kCritical, Text(desk.speech.words, failure.UserMessage()));
+  }
+}
 
 }  // namespace velmar::shell

@@ -24,6 +24,7 @@ constexpr std::array kChapters = {
     HelpChapter{"Form11", "progetti"},
     HelpChapter{"LavoroNonSalvato", "progetti"},
     HelpChapter{"Form2", "la-lista-dei-materiali"},
+    HelpChapter{"UsoMateriale", "la-lista-dei-materiali"},
     HelpChapter{"FormSceltaMateriali", "l-albero-dei-materiali"},
     HelpChapter{"Form5", "aggiungere-e-modificare-un-materiale"},
     HelpChapter{"Form6", "aggiungere-e-modificare-un-materiale"},

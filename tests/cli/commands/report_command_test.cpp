@@ -1,7 +1,9 @@
 #include "cli/commands/report_command.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
+#include <set>
 #include <sstream>
 
 #include <gmock/gmock.h>
@@ -9,6 +11,7 @@
 #include <unistd.h>
 
 #include "foundation/failure.h"
+#include "foundation/message_rows.h"
 #include "tests/cli/spoken_command.h"
 
 namespace velmar::cli {
@@ -152,6 +155,90 @@ TEST_F(Report, RefusesTargetsThatMeetBeforeItWrites) {
 TEST_F(Report, UnknownFormatsAreWrongUsage) {
   EXPECT_EQ(Say({"report", Example("facciata"), "--pdf", In("a.pdf")}), 2);
   EXPECT_EQ(Say({"report", "--csv", In("a.csv")}), 2);
+}
+
+/// Services whose documents of several projects are the names of those that exist, a line each.
+Services TogetherServices() {
+  Services services = BareServices();
+  services.together = {.extensions = {"docx", "pdf"}, .make = [](const TogetherOrder& order) {
+                         TogetherDocument document{.bytes = order.title + "\n"};
+                         for (const path& project : order.projects) {
+                           if (std::filesystem::exists(project)) {
+                             document.bytes += project.stem().string() + "\n";
+                           } else {
+                             document.failed.push_back({project, {{std::string("manca")}}});
+                           }
+                         }
+                         if (document.failed.size() == order.projects.size())
+                           throw Failure({{kScheduleNothingRow}}, "nothing");
+                         return document;
+                       }};
+  services.report_formats = {{.extension = "docx"}, {.extension = "pdf"}, {.extension = "csv"}};
+  return services;
+}
+
+TEST_F(Report, TogetherWritesOneDocumentOfAllProjects) {
+  const Said said = Speak({"report", Example("vetro-6"), Example("facciata"), "--together", "--title",
+                           "Scuola", "--docx", In("abaco.docx")},
+                          TogetherServices());
+  EXPECT_EQ(said.code, 0) << said.errors;
+  EXPECT_EQ(BytesOf(In("abaco.docx")), "Scuola\nvetro-6\nfacciata\n");
+  EXPECT_EQ(FileCount(), 1U);
+}
+
+TEST_F(Report, TogetherNamesWhatGaveNoResultAndSaysSoByItsCode) {
+  const Said said =
+      Speak({"report", Example("vetro-6"), In("manca.drav"), "--together", "--pdf", In("a.pdf")},
+            TogetherServices());
+  EXPECT_EQ(said.code, 4);
+  EXPECT_THAT(said.errors, HasSubstr("manca.drav"));
+  EXPECT_EQ(BytesOf(In("a.pdf")), "\nvetro-6\n");
+}
+
+TEST_F(Report, TogetherWithoutAnyResultWritesNothing) {
+  const Said said =
+      Speak({"report", In("manca.drav"), "--together", "--pdf", In("a.pdf")}, TogetherServices());
+  EXPECT_EQ(said.code, 3);
+  EXPECT_EQ(FileCount(), 0U);
+}
+
+TEST_F(Report, TogetherRefusesTheFormatsOfSingleProjectsAndToReplaceOne) {
+  const std::string project = Copy("vetro-6", "vetro.docx");
+  EXPECT_EQ(Speak({"report", project, "--together", "--csv", In("a.csv")}, TogetherServices()).code, 2);
+  EXPECT_EQ(Speak({"report", project, "--together", "--docx", project}, TogetherServices()).code, 2);
+  EXPECT_EQ(Speak({"report", project, "--together"}, TogetherServices()).code, 2);
+  EXPECT_EQ(FileCount(), 1U);
+}
+
+TEST_F(Report, ATemplateIsCheckedAndNothingWritten) {
+  Services services = BareServices();
+  services.check_template = [](const path& file) {
+    return file.filename() == "buono.docx" ? Message() : Message{{std::string("[X]")}};
+  };
+  EXPECT_EQ(Speak({"report", "--check-template", "buono.docx"}, services).code, 0);
+  const Said bad = Speak({"report", "--check-template", "altro.docx"}, services);
+  EXPECT_EQ(bad.code, 1);
+  EXPECT_THAT(bad.out, HasSubstr("[X]"));
+  EXPECT_EQ(Speak({"report"}, services).code, 2);
+}
+
+TEST(References, EveryMarkModelAndStandardIsListedOnce) {
+  const Said said = Speak({"references", "--json"});
+  ASSERT_EQ(said.code, 0);
+  std::set<int> marks;
+  for (const nlohmann::json& entry : said.Json()) {
+    if (entry.contains("mark")) marks.insert(entry["mark"].get<int>());
+  }
+  EXPECT_EQ(marks.size(), 28U);
+  EXPECT_EQ(*marks.begin(), 1);
+  EXPECT_EQ(*marks.rbegin(), 28);
+  // One model a kind of physics, two standards.
+  const auto of_kind = [&](const char* kind) {
+    const nlohmann::json json = said.Json();
+    return std::ranges::count_if(json, [&](const nlohmann::json& entry) { return entry["kind"] == kind; });
+  };
+  EXPECT_EQ(of_kind("rating"), 2);
+  EXPECT_EQ(of_kind("model"), 8);
 }
 
 }  // namespace

@@ -12,7 +12,7 @@
 #include <QTimer>
 
 #include "cli/commands/project_run.h"
-#include "cli/drawn/drawn_formats.h"
+#include "documents/office_reports.h"
 #include "shell/printing/print_preview.h"
 #include "tests/presentation/drawing/recording_device.h"
 #include "tests/shell/support/window_fixture.h"
@@ -107,6 +107,23 @@ class PaperCommandsTest : public QObject {
   Q_OBJECT
 
  private slots:
+  void thePageTellsTheCurvesThatAreCompared() {
+    Program program;
+    program.fixture.window->OpenProject(EXAMPLES "/parete-forato-intonacata.drav");
+    program.fixture.Run();
+    const std::size_t without = program.Page().data.tables.size();
+    program.fixture.overlay.lay_over = [](presentation::CurveChart& chart) {
+      presentation::ComparedCurve wall{.name = "Prova", .symbol = "Rw", .rating = 48.0};
+      wall.levels.fill(45.3);
+      chart.comparison.curves = {{.name = "Curva teorica", .levels = chart.values}, wall};
+    };
+    program.fixture.open.MarkSaved();
+    const auto data = program.Page().data;
+    QCOMPARE(data.tables.size(), without + 2);
+    QCOMPARE(data.tables[without].rows[1][1], std::string("Prova"));
+    QCOMPARE(data.tables[without].rows[1][2], std::string("48"));
+  }
+
   void thePageIsThatOfTheCommandLine_data() {
     QTest::addColumn<QString>("example");
     for (const char* example : {"parete-forato-intonacata", "sea-laterizio-doppia",
@@ -121,7 +138,7 @@ class PaperCommandsTest : public QObject {
         cli::RunProject((QString(EXAMPLES) + '/' + example + ".drav").toStdString(),
                         program.fixture.services.materials, /*go_on_outside_ranges=*/true);
     const presentation::Words& words = program.fixture.services.words;
-    const presentation::PaginaDiStampa told = cli::PageOf({.name = {},
+    const presentation::PaginaDiStampa told = documents::PageOf({.name = {},
                                                            .setup = run.setup,
                                                            .result = run.outcome.result.value(),
                                                            .totals = run.totals,

@@ -1,30 +1,16 @@
-#include "cli/drawn/office_formats.h"
+#include "documents/office_reports.h"
 
-#include <system_error>
 #include <utility>
 
-#include "foundation/failure.h"
-#include "foundation/message_rows.h"
+#include "documents/template_file.h"
 #include "presentation/export/document_provenance.h"
 #include "presentation/export/report_chart.h"
 #include "presentation/export/report_section.h"
 #include "presentation/reports/excel_report.h"
 #include "presentation/reports/word_report.h"
-#include "storage/files/whole_file.h"
 #include "storage/project/project_writer.h"
 
-namespace velmar::cli {
-namespace {
-
-constexpr std::size_t kLargestTemplate = std::size_t{64} << 20U;
-
-std::string ReadTemplate(const std::filesystem::path& file) {
-  std::error_code error;
-  if (!std::filesystem::is_regular_file(file, error)) {
-    throw Failure({{kTemplateMissingRow}, {file.string()}}, "no template " + file.string());
-  }
-  return storage::ReadWhole(file, kLargestTemplate);
-}
+namespace velmar::documents {
 
 presentation::ReportRecord RecordOf(const ReportContent& content, const application::DocumentStyle& style,
                                     bool with_chart) {
@@ -46,8 +32,6 @@ presentation::ReportRecord RecordOf(const ReportContent& content, const applicat
   return record;
 }
 
-}  // namespace
-
 presentation::Provenance ProvenanceOfContent(const ReportContent& content,
                                              elements::DocumentLanguage language) {
   return presentation::ProvenanceOf(storage::WriteProject(content.setup), content.file, content.sources,
@@ -59,25 +43,47 @@ application::DocumentStyle StyleOfContent(const application::DocumentPlaces& pla
   return application::StyleOf(places, content.language, content.words, content.tell);
 }
 
+presentation::PaginaDiStampa PageOf(const ReportContent& content, const application::DocumentStyle& style) {
+  const std::optional<presentation::CurveChart> chart =
+      presentation::WholeChartOf(content.setup, content.result, style.Captions());
+  const auto page_in = [&](const elements::Setup& setup, const presentation::Words& words,
+                           elements::DocumentLanguage language) {
+    presentation::PaginaDiStampa page =
+        presentation::PaginaDi(setup, {content.totals.thickness_mm, content.totals.surface_mass_kg_m2},
+                               &content.result, words, chart, content.confidence, language);
+    const presentation::Provenance provenance = ProvenanceOfContent(content, language);
+    TellProvenance(page, setup, words, provenance, language);
+    TellStudio(page, setup, PageStudioOf(style), words, provenance);
+    return page;
+  };
+  presentation::PaginaDiStampa page = application::InLanguages(style, content.setup, page_in);
+  if (style.english)
+    page.section_options = presentation::PaperOptions(content.setup, style.Captions(), style.language);
+  return page;
+}
+
 std::string WordReportBytes(const application::DocumentPlaces& places, const ReportContent& content) {
-  const application::DocumentStyle style = StyleOfContent(places, content);
+  return WordReportBytes(places, StyleOfContent(places, content), content);
+}
+
+std::string WordReportBytes(const application::DocumentPlaces& places,
+                            const application::DocumentStyle& style, const ReportContent& content) {
   const presentation::ReportRecord record = RecordOf(content, style, true);
-  presentation::WrittenReport report = presentation::WriteWordReport(
-      ReadTemplate(application::TemplateFile(places, presentation::WordTemplateName(record.family), style)),
-      record);
-  if (!report.unknown_placeholders.empty() && content.tell) {
-    MessageLine line = {kUnknownPlaceholdersRow};
-    for (const std::string& name : report.unknown_placeholders) line.emplace_back(" " + name);
-    content.tell({line});
-  }
-  return std::move(report.bytes);
+  return WithTemplate(application::TemplateFile(places, presentation::WordTemplateName(record.family), style),
+                      [&](const std::string& bytes) {
+                        presentation::WrittenReport report = presentation::WriteWordReport(bytes, record);
+                        const Message remarks = report.Remarks();
+                        if (!remarks.empty() && content.tell) content.tell(remarks);
+                        return std::move(report.bytes);
+                      });
 }
 
 std::string ExcelReportBytes(const application::DocumentPlaces& places, const ReportContent& content) {
   const application::DocumentStyle style = StyleOfContent(places, content);
-  return presentation::WriteExcelReport(
-      ReadTemplate(application::TemplateFile(places, presentation::kExcelTemplateName, style)),
-      RecordOf(content, style, false));
+  return WithTemplate(application::TemplateFile(places, presentation::kExcelTemplateName, style),
+                      [&](const std::string& bytes) {
+                        return presentation::WriteExcelReport(bytes, RecordOf(content, style, false));
+                      });
 }
 
-}  // namespace velmar::cli
+}  // namespace velmar::documents

@@ -1,0 +1,134 @@
+#include "presentation/schedule/excel_schedule.h"
+
+#include <set>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "foundation/utf8.h"
+#include "presentation/documents/package.h"
+#include "presentation/documents/relationships.h"
+#include "presentation/documents/xml_part.h"
+#include "presentation/reports/excel_report.h"
+#include "tests/presentation/documents/opened_report.h"
+#include "tests/presentation/drawing/catalogue_words.h"
+
+namespace velmar::presentation {
+namespace {
+
+using testing::HasSubstr;
+using testing::IsEmpty;
+
+/// Name and part of every sheet, in the order of the tabs.
+std::vector<std::pair<std::string, std::string>> SheetsOf(const Package& package) {
+  std::vector<std::pair<std::string, std::string>> sheets;
+  const pugi::xml_document workbook = ParseXml(package.Part("xl/workbook.xml"), "workbook");
+  for (const pugi::xml_node node : workbook.child("workbook").child("sheets").children("sheet")) {
+    for (const Relationship& link : RelationshipsOf(package, "xl/workbook.xml")) {
+      if (link.id == node.attribute("r:id").value())
+        sheets.emplace_back(node.attribute("name").value(), link.target);
+    }
+  }
+  return sheets;
+}
+
+std::string CellIn(const Package& package, const std::string& part, const std::string& name) {
+  const pugi::xml_document sheet = ParseXml(package.Part(part), part);
+  const pugi::xml_node cell =
+      sheet.find_node([&](pugi::xml_node node) { return name == node.attribute("r").value(); });
+  const std::string text = cell.child("is").child("t").text().get();
+  return text.empty() ? cell.child("v").text().get() : text;
+}
+
+std::vector<ReportCase> Cases() {
+  std::vector<ReportCase> cases = ReportCases();
+  // Two that are called alike but for case, and one whose name no sheet can have.
+  cases[0].setup.information[elements::kAttachmentRow].value = "P/01";
+  cases[1].setup.information[elements::kAttachmentRow].value = "p/01";
+  return cases;
+}
+
+Package AllCases() {
+  const Words words = CatalogueWords();
+  Schedule schedule{.cover = {.title = "Abaco"}};
+  std::vector<ExcelChapter> chapters;
+  for (const ReportCase& one : Cases()) {
+    schedule.elements.push_back(
+        ScheduleElementOf(one.setup, one.result, one.totals, words, schedule.elements.size() + 1));
+    chapters.push_back({schedule.elements.back().code, RecordOf(one)});
+  }
+  return Package(WriteExcelSchedule(ShippedTemplate(kExcelTemplateName), schedule, chapters, words));
+}
+
+TEST(ExcelSchedule, SheetsStandBehindTheTableUnderNamesOfTheirOwn) {
+  const Package package = AllCases();
+  EXPECT_THAT(FaultsOf(package), IsEmpty());
+  const auto sheets = SheetsOf(package);
+  EXPECT_EQ(sheets.front().first, "Quadro degli elementi");
+  EXPECT_EQ(sheets[1].first, "P-01");
+  std::set<std::string> names;
+  std::size_t selected = 0;
+  for (const auto& [name, part] : sheets) {
+    EXPECT_TRUE(names.insert(FoldCase(name)).second) << name;
+    EXPECT_LE(CountCharacters(name), 31U);
+    EXPECT_EQ(name.find_first_of("[]:*?/\\"), std::string::npos) << name;
+    if (package.Part(part).find("tabSelected") != std::string::npos) ++selected;
+  }
+  EXPECT_EQ(selected, 1U);
+}
+
+TEST(ExcelSchedule, EverySheetHoldsItsElementAndItsChartReadsIt) {
+  const Package package = AllCases();
+  const auto sheets = SheetsOf(package);
+  std::size_t at = 1;
+  for (const ReportCase& one : Cases()) {
+    const auto& [name, part] = sheets[at];
+    const ReportRecord record = RecordOf(one);
+    EXPECT_EQ(CellIn(package, part, "D6"), record.element_type) << one.name;
+    if (record.bands[7].level_db) {
+      EXPECT_EQ(std::stod(CellIn(package, part, "B44")), *record.bands[7].level_db) << one.name;
+    }
+    for (const std::string& drawing : TargetsOf(package, part, "drawing")) {
+      for (const std::string& chart : TargetsOf(package, drawing, "chart")) {
+        EXPECT_THAT(package.Part(chart), HasSubstr("'" + name + "'!$B$37:$B$57")) << one.name;
+        EXPECT_EQ(package.Part(chart).find("Calcolo!"), std::string::npos);
+      }
+    }
+    // Past the sheets beside it.
+    for (++at;
+         at < sheets.size() && sheets[at].first.starts_with(name + " ") && !sheets[at].first.ends_with(" 2");)
+      ++at;
+  }
+  EXPECT_EQ(at, sheets.size());
+}
+
+TEST(ExcelSchedule, TheTableLeadsToTheSheets) {
+  const Package package = AllCases();
+  const auto sheets = SheetsOf(package);
+  std::set<std::string> names;
+  for (const auto& [name, part] : sheets) names.insert("'" + name + "'!A1");
+  const pugi::xml_document front = ParseXml(package.Part(sheets.front().second), "front");
+  std::size_t links = 0;
+  for (const pugi::xml_node link : front.child("worksheet").child("hyperlinks").children()) {
+    EXPECT_TRUE(names.contains(link.attribute("location").value())) << link.attribute("location").value();
+    ++links;
+  }
+  EXPECT_EQ(links, Cases().size());
+}
+
+TEST(ExcelSchedule, EveryPrintAreaNamesItsOwnSheet) {
+  const Package package = AllCases();
+  const auto sheets = SheetsOf(package);
+  const pugi::xml_document workbook = ParseXml(package.Part("xl/workbook.xml"), "workbook");
+  std::size_t areas = 0;
+  for (const pugi::xml_node name : workbook.child("workbook").child("definedNames").children()) {
+    const std::size_t sheet = name.attribute("localSheetId").as_uint();
+    ASSERT_LT(sheet, sheets.size());
+    EXPECT_EQ(std::string(name.text().get()), "'" + sheets[sheet].first + "'!$A$1:$J$61");
+    ++areas;
+  }
+  EXPECT_EQ(areas, Cases().size());
+}
+
+}  // namespace
+}  // namespace velmar::presentation
