@@ -69,20 +69,9 @@ std::string CalculationTable(const Arguments& given, const presentation::Words& 
 
 std::string ReferenceList(const presentation::Words& words) {
   std::string text;
-  const auto add = [&text](const std::string& reference) { text += "- " + reference + '\n'; };
-  for (int mark = 1; mark <= static_cast<int>(presentation::kRelationReferenceRows.size()); ++mark)
-    add(presentation::ReferenceText(mark, words));
-  std::vector<std::string> told;
-  const auto add_once = [&](const std::string& reference) {
-    if (std::ranges::find(told, reference) != told.end()) return;
-    told.push_back(reference);
-    add(reference);
-  };
-  for (const CalculationRow& row : elements::Catalogue())
-    add_once(presentation::ModelReference(row.calculation, words));
-  for (const MessageRow row :
-       {kMonolithicSourceRow, kFootfallSourceRow, kRatingStandardAirborneRow, kRatingStandardImpactRow})
-    add_once(words(row));
+  for (const presentation::Reference& reference : presentation::AllReferences(words))
+    text += "- " + reference.text + '\n';
+  for (const MessageRow row : {kMonolithicSourceRow, kFootfallSourceRow}) text += "- " + words(row) + '\n';
   return text;
 }
 
