@@ -60,8 +60,7 @@ struct Lists {
   shell::FakeMaterials materials = ManyMaterials();
 
   auto Table() {
-    return std::make_unique<shell::MaterialListWindow>(boxes.Tools(), materials.Source(), std::nullopt,
-                                                       shell::MaterialListWindow::Listener{});
+    return std::make_unique<shell::MaterialListWindow>(boxes.Tools(), materials.Source(), std::nullopt);
   }
   auto Tree() {
     return std::make_unique<shell::MaterialTreeWindow>(boxes.Tools(), materials.Source(),
@@ -100,7 +99,7 @@ struct Stores {
 
   auto Results() {
     return std::make_unique<structures::SavedResultsWindow>(boxes.Tools(), results.Source(),
-                                                            structures::SavedResultsWindow::Listener{});
+                                                            structures::SavedResultsWindow::Purpose::kList);
   }
 };
 

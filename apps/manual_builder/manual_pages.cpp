@@ -121,12 +121,14 @@ void DressText(const QTextBlock& block) {
 QList<QTextLength> WidthsOf(const QTextTable& table) {
   constexpr qsizetype kLongestLine = 36;  // letters
   constexpr qsizetype kMargin = 2;
+  constexpr qsizetype kHeadMargin = 4;  // thick letters
   std::vector<qsizetype> letters(static_cast<std::size_t>(table.columns()), 0);
   for (int column = 0; column < table.columns(); ++column) {
     qsizetype& widest = letters[static_cast<std::size_t>(column)];
     for (int row = 0; row < table.rows(); ++row) {
       const QString text = table.cellAt(row, column).firstCursorPosition().block().text();
-      for (const QString& word : text.split(' ')) widest = std::max(widest, word.size() + kMargin);
+      for (const QString& word : text.split(' '))
+        widest = std::max(widest, word.size() + (row > 0 ? kMargin : kHeadMargin));
       if (row > 0) widest = std::max(widest, std::min(text.size(), kLongestLine) + kMargin);
     }
   }

@@ -221,6 +221,7 @@ std::vector<Part> PartsOf(const Setup& setup) {
     }
   }
   for (Part& part : parts) {
+    if (part.fibre_mm) part.fibre_number = ++number;
     for (Layer& layer : part.layers) layer.number = ++number;
   }
   return parts;
@@ -231,6 +232,13 @@ int NumberOf(const Setup& setup, LayerGroup group, int row) {
     for (const Layer& layer : part.layers) {
       if (layer.group == group && layer.row == row) return layer.number;
     }
+  }
+  return 0;
+}
+
+int FibreNumberOf(const Setup& setup) {
+  for (const Part& part : PartsOf(setup)) {
+    if (part.fibre_mm) return part.fibre_number;
   }
   return 0;
 }

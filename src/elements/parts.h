@@ -37,8 +37,9 @@ struct Part {
   /// Of a cavity of a double wall that is filled with fibre: the thickness of the fibre, which is the whole
   /// depth where the calculation does not read a thickness of its own.
   std::optional<double> fibre_mm{};
-  int leaf = 0;      ///< of a free list of layers: number of the leaf, from 1; 0 for every other part
-  int stratum = -1;  ///< of a cavity in a free list of layers: its row; -1 for every other part
+  int fibre_number = 0;  ///< of that fibre, counted as the layers are; 0 without one
+  int leaf = 0;          ///< of a free list of layers: number of the leaf, from 1; 0 for every other part
+  int stratum = -1;      ///< of a cavity in a free list of layers: its row; -1 for every other part
 
   /// Surface mass of the layers, kg/m².
   double MassKgM2() const;
@@ -69,6 +70,8 @@ Part PartOf(const Setup& setup, Stack stack);
 
 /// The number of row `row` of `group`; 0 where the row is none of the element's layers.
 int NumberOf(const Setup& setup, LayerGroup group, int row);
+/// The number of the fibre that fills the cavity of a double wall; 0 without one.
+int FibreNumberOf(const Setup& setup);
 
 /// The surface mass of a row's sheets, kg/m²: density times thickness, never the tabulated one.
 template <typename Material>

@@ -97,6 +97,20 @@ TEST(Parts, FillACavityWithFibreWhereNoThicknessOfItsOwnIsRead) {
   EXPECT_EQ(PartOf(setup, Stack::kCavity).fibre_mm, std::nullopt);
 }
 
+TEST(Parts, CountTheFibreOfACavityBetweenItsLeaves) {
+  elements::Setup setup;
+  setup.calculation = Calculation::kDoubleWallGeneric;
+  setup.leaf1.count = 2;
+  setup.leaf2.count = 1;
+  setup.cavity.kind = CavityKind::kFibrous;
+  setup.cavity.depth_text = "50";
+  EXPECT_EQ(FibreNumberOf(setup), 3);
+  EXPECT_EQ(NumberOf(setup, LayerGroup::kLeaf2, 0), 4);
+  setup.cavity.kind = CavityKind::kEmpty;
+  EXPECT_EQ(FibreNumberOf(setup), 0);
+  EXPECT_EQ(NumberOf(setup, LayerGroup::kLeaf2, 0), 3) << "air is no layer";
+}
+
 TEST(Parts, OfAFacadeAreItsOpaquePartAndTheComponentsInUse) {
   elements::Setup setup;
   setup.calculation = Calculation::kCompositeElement;
@@ -123,6 +137,9 @@ TEST(Parts, NumberEveryRowInUseOfEveryCalculation) {
     setup.calculation = row.calculation;
     int number = 0;
     for (const Part& part : PartsOf(setup)) {
+      if (part.fibre_mm) {
+        EXPECT_EQ(part.fibre_number, ++number) << row.variant;
+      }
       for (const Layer& layer : part.layers) EXPECT_EQ(layer.number, ++number) << row.variant;
     }
     EXPECT_GT(number, 0) << row.variant;

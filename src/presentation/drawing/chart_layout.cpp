@@ -26,7 +26,7 @@ std::vector<LegendEntry> EntriesOf(const CurveChart& chart) {
       chart.in_situ_in_octaves ? kStepsLook : kInSituLook);
   add(chart.base.has_value(), chart.words.base, kBaseColour, kBaseLook);
   for (std::size_t i = 0; i < chart.further.size(); ++i)
-    add(true, chart.further[i].name, chart.further[i].colour, FurtherLook(i));
+    add(true, chart.further[i].name, chart.further[i].colour, LookOf(chart.further, i));
   add(chart.marks.former.has_value(), chart.words.former, kFormerColour, kFormerLook);
   return entries;
 }

@@ -56,9 +56,9 @@ void DrawCurve(QPainter& painter, const ChartLayout& layout, const CurveChart& c
 /// Values of octaves, each over its three thirds: a level line with an edge where the octave ends, and no
 /// dots.
 void DrawSteps(QPainter& painter, const ChartLayout& layout, const CurveChart& chart, const ChartRange& range,
-               const acoustics::Spectrum& values, const QColor& colour) {
+               const acoustics::Spectrum& values, const QColor& colour, Qt::PenStyle style) {
   constexpr double kHalfBand = 0.5;
-  painter.setPen(QPen(colour, kCurveWidth, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin));
+  painter.setPen(QPen(colour, kCurveWidth, style, Qt::FlatCap, Qt::MiterJoin));
   QPolygonF line;
   for (std::size_t band = chart.first_band; band <= chart.last_band; ++band) {
     if (values.at(band) == 0.0) {
@@ -79,7 +79,7 @@ void DrawBeside(QPainter& painter, const ChartLayout& layout, const CurveChart& 
                 const QColor& colour, const CurveLook& look, bool in_octaves) {
   if (!values) return;
   if (in_octaves) {
-    DrawSteps(painter, layout, chart, range, *values, colour);
+    DrawSteps(painter, layout, chart, range, *values, colour, look.dashes);
   } else {
     DrawCurve(painter, layout, chart, range, *values, colour, look);
   }
@@ -112,13 +112,15 @@ void DrawCurves(QPainter& painter, const ChartLayout& layout, const CurveChart& 
   if (chart.base) DrawCurve(painter, layout, chart, range, *chart.base, kBaseColour, kBaseLook);
   DrawBeside(painter, layout, chart, range, chart.octaves, kOctavesColour, {}, true);
   DrawCurve(painter, layout, chart, range, chart.values, kCalculatedColour, kCalculatedLook);
-  DrawBeside(painter, layout, chart, range, chart.laboratory, kLaboratoryColour, kLaboratoryLook,
-             chart.laboratory_in_octaves);
-  DrawBeside(painter, layout, chart, range, chart.in_situ, kInSituColour, kInSituLook,
-             chart.in_situ_in_octaves);
-  for (std::size_t i = 0; i < chart.further.size(); ++i)
-    DrawCurve(painter, layout, chart, range, chart.further[i].values, chart.further[i].colour,
-              FurtherLook(i));
+  DrawBeside(painter, layout, chart, range, chart.laboratory, kLaboratoryColour,
+             chart.laboratory_in_octaves ? CurveLook{} : kLaboratoryLook, chart.laboratory_in_octaves);
+  DrawBeside(painter, layout, chart, range, chart.in_situ, kInSituColour,
+             chart.in_situ_in_octaves ? CurveLook{} : kInSituLook, chart.in_situ_in_octaves);
+  for (std::size_t i = 0; i < chart.further.size(); ++i) {
+    const FurtherCurve& curve = chart.further[i];
+    DrawBeside(painter, layout, chart, range, curve.values, curve.colour, LookOf(chart.further, i),
+               curve.in_octaves);
+  }
   painter.restore();
 }
 
@@ -140,6 +142,12 @@ void DrawCurveChart(QPainter& painter, const QRectF& area, const CurveChart& cha
   painter.setPen(kInkColour);
   DrawTextIn(painter, layout.plot, Qt::AlignCenter, FromWords(chart.words.note));
   painter.restore();
+}
+
+CurveLook LookOf(const std::vector<FurtherCurve>& curves, std::size_t index) {
+  const FurtherCurve& curve = curves.at(index);
+  if (!curve.look) return FurtherLook(index);
+  return curve.in_octaves ? CurveLook{curve.look->dashes} : *curve.look;
 }
 
 acoustics::Deviations DeviationsOf(const CurveChart& chart) {

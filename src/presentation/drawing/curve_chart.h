@@ -14,6 +14,8 @@
 #include "acoustics/unfavourable_deviations.h"
 #include "elements/result_set.h"
 #include "elements/setup.h"
+#include "presentation/drawing/curve_look.h"
+#include "presentation/texts/compared_curves.h"
 #include "presentation/texts/words.h"
 
 class QPainter;
@@ -63,6 +65,8 @@ struct FurtherCurve {
   std::string name{};  ///< in the legend
   acoustics::Spectrum values{};
   QColor colour{};
+  std::optional<CurveLook> look{};  ///< nothing: the look of its place among the others
+  bool in_octaves = false;          ///< its values are octaves, drawn as steps over the thirds
 };
 
 /// A result as curves over the bands. A value of exactly 0 is a band without a value. Levels in dB.
@@ -73,12 +77,13 @@ struct CurveChart {
   std::optional<acoustics::Spectrum> base;        ///< the element under a lining
   std::optional<acoustics::Spectrum> laboratory;  ///< compared with, measured in the laboratory
   std::optional<acoustics::Spectrum> in_situ;     ///< compared with, measured in a building
-  std::vector<FurtherCurve> further{};            ///< what other models say
+  std::vector<FurtherCurve> further{};            ///< what other models say, variants, compared structures
   bool laboratory_in_octaves = false;             ///< its values are octaves, drawn as steps over the thirds
   bool in_situ_in_octaves = false;
   std::optional<acoustics::Spectrum> octaves;  ///< octaves of the same structure, as steps behind `values`
   std::string laboratory_name{};               ///< of the structure compared with; empty: none is chosen
   std::string in_situ_name{};
+  Comparison comparison{};   ///< what is told of the curves that are compared, the calculated one among them
   bool autoscale = false;    ///< false: 10 to 80 dB
   bool fits_values = false;  ///< the scale is that of the values alone, from the lowest to the highest
   std::size_t first_band = 0;
@@ -88,6 +93,9 @@ struct CurveChart {
   ChartMarks marks{};
   ChartWords words{};
 };
+
+/// The look of the curve `index` of `curves`.
+CurveLook LookOf(const std::vector<FurtherCurve>& curves, std::size_t index);
 
 /// The chart of a result; nothing when it has no curve (generic linings, a facade by single numbers).
 std::optional<CurveChart> CurveChartOf(const elements::Setup& setup, const elements::ResultSet& result,

@@ -194,6 +194,14 @@ void JoinTable(PageTable& italian, const PageTable& english) {
   }
 }
 
+/// What the calculation reads, and what it is compared with.
+CalculationData DataOf(const Setup& setup, const Words& words, const std::optional<CurveChart>& chart,
+                       const Provenance& provenance = {}) {
+  CalculationData data = CalculationDataOf(setup, words, provenance);
+  if (chart) AddComparison(data, chart->comparison, words);
+  return data;
+}
+
 }  // namespace
 
 PaginaDiStampa PaginaDi(const Setup& setup, const PageTotals& totals, const elements::ResultSet* result,
@@ -220,9 +228,9 @@ PaginaDiStampa PaginaDi(const Setup& setup, const PageTotals& totals, const elem
   page.structure = StructureOf(setup, words);
   if (!page.structure.empty()) page.structure_heading = words(kLayersTitleRow);
   page.structure_notes = NotesOf(row, totals, result);
-  page.section = SectionOf(setup);
+  page.section = SectionOf(setup, words);
   page.section_options = PaperOptions(setup, words, language);
-  page.data = ForPaper(CalculationDataOf(setup, words), language);
+  page.data = ForPaper(DataOf(setup, words, page.chart), language);
   page.foot = {.page = words(kPageRow), .of = words(kPageOfRow)};
   SetForPaper(page, language);
   return page;
@@ -230,7 +238,7 @@ PaginaDiStampa PaginaDi(const Setup& setup, const PageTotals& totals, const elem
 
 void TellProvenance(PaginaDiStampa& page, const Setup& setup, const Words& words,
                     const Provenance& provenance, DocumentLanguage language) {
-  page.data = ForPaper(CalculationDataOf(setup, words, provenance), language);
+  page.data = ForPaper(DataOf(setup, words, page.chart, provenance), language);
   page.foot.left = FootText(setup.information, provenance);
   page.author = setup.information[kEngineerRow].value;
   page.subject = words(kDocumentSubjectRow);

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "elements/parts.h"
+#include "foundation/message_rows.h"
 
 namespace velmar::presentation {
 namespace {
@@ -22,9 +23,9 @@ class Stack {
     }
   }
 
-  /// Air, or a fill that has no row: it carries no number.
-  void AddUnnumbered(double thickness_mm, MaterialKind kind, LayerPlace place) {
-    Push(thickness_mm, kind, 0, {}, place);
+  /// The fibre of a cavity, which is no row.
+  void AddFibre(double thickness_mm, int number, const std::string& name) {
+    Push(thickness_mm, MaterialKind::kWool, number, name, {LayerGroup::kCavity, 0});
   }
 
   /// A cavity of `depth_mm` begins here.
@@ -32,7 +33,7 @@ class Stack {
 
   /// What the cavity's fills left is air; the next strip stands behind the cavity.
   void EndCavity() {
-    AddUnnumbered(limit_mm_ - position_mm_, MaterialKind::kAir, {});
+    Push(limit_mm_ - position_mm_, MaterialKind::kAir, 0, {}, {});
     position_mm_ = limit_mm_;
     limit_mm_ = kNoLimit;
   }
@@ -71,23 +72,24 @@ MaterialKind KindOf(const Layer& layer) {
   return MaterialKind::kGeneric;
 }
 
-void Add(Stack& stack, const elements::Part& part) {
+void Add(Stack& stack, const elements::Part& part, const std::string& fibre_name) {
   if (part.depth_mm) stack.BeginCavity(*part.depth_mm);
-  if (part.fibre_mm) stack.AddUnnumbered(*part.fibre_mm, MaterialKind::kWool, {LayerGroup::kCavity, 0});
+  if (part.fibre_mm) stack.AddFibre(*part.fibre_mm, part.fibre_number, fibre_name);
   for (const Layer& layer : part.layers) stack.AddRow(layer, KindOf(layer));
   if (part.depth_mm) stack.EndCavity();
 }
 
 }  // namespace
 
-Section SectionOf(const Setup& setup) {
+Section SectionOf(const Setup& setup, const Words& words) {
   Section section;
   if (!setup.calculation) return section;
   const elements::CalculationRow& row = elements::RowOf(*setup.calculation);
   if (row.stacks.Has(elements::Stack::kComponents)) return section;
   section.horizontal = IsHorizontal(row.orientation);
   Stack stack;
-  for (const elements::Part& part : elements::PartsAsTheyStand(setup)) Add(stack, part);
+  const std::string fibre_name = words ? words(kFibrousCavityRow) : std::string();
+  for (const elements::Part& part : elements::PartsAsTheyStand(setup)) Add(stack, part, fibre_name);
   section.thickness_mm = stack.PositionMm();
   section.strips = stack.Take();
   return section;

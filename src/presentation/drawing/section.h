@@ -7,6 +7,7 @@
 #include "elements/layer_groups.h"
 #include "elements/setup.h"
 #include "presentation/drawing/material_kind.h"
+#include "presentation/texts/words.h"
 
 namespace velmar::presentation {
 
@@ -23,7 +24,7 @@ struct Strip {
   double position_mm = 0.0;  ///< of its near side
   double thickness_mm = 0.0;
   MaterialKind kind = MaterialKind::kGeneric;
-  int number = 0;  ///< of the layer, as everywhere else; 0: air and unnamed fibre have none
+  int number = 0;  ///< of the layer, as everywhere else; 0: air has none
   std::string name{};
   LayerPlace place{};
   double sheet_mm = 0.0;  ///< thickness as entered; the strip is thinner where a cavity has no room for it
@@ -39,7 +40,8 @@ struct Section {
 /// The section of `setup`. A row of several layers gives as many strips under one number. Fills take their
 /// place from the near side of the cavity, what they leave is air, and what does not fit is cut. A facade, or
 /// a set-up without thickness, has no strips.
-Section SectionOf(const elements::Setup& setup);
+/// @param words name the fibre of a cavity, which is no material of the tables; without them it has no name
+Section SectionOf(const elements::Setup& setup, const Words& words = {});
 
 /// The number under which the row at `place` stands in `section`; 0 when it is not drawn.
 int NumberOf(const Section& section, const LayerPlace& place);

@@ -27,7 +27,7 @@ std::size_t CountOfNumbers(const Section& section) {
 }  // namespace
 
 ReportSection ReportSectionOf(const elements::Setup& setup, const Words& words, DocumentLanguage language) {
-  const Section section = SectionOf(setup);
+  const Section section = SectionOf(setup, words);
   if (section.strips.empty()) return {};
   const std::string alternative_text = SectionDescription(section.thickness_mm, words);
   const auto picture = [&](const QSizeF& millimetres, const SectionOptions& options) {

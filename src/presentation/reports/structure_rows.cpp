@@ -48,6 +48,7 @@ void ListCavity(const Setup& setup, const Part& part, const Words& words, std::v
     if (elements::RowOf(*setup.calculation).Reads(elements::Field::kFibreThickness))
       name += ", " + FormatShortest(*part.fibre_mm) + " mm";
     rows.push_back(CavityRow(std::move(name), depth_mm));
+    rows.back().number = part.fibre_number;
     return;
   }
   if (part.layers.empty()) {

@@ -26,7 +26,8 @@ StructureBlock BlockOf(const elements::Setup& setup, const Part& part, const ele
     block.lines.push_back({0, words(kAirGapRow) + " " + Millimetres(*part.depth_mm), {}});
     const bool own = row.Reads(elements::Field::kFibreThickness);
     if (part.fibre_mm)
-      block.lines.push_back({0, words(kFibrousCavityRow), own ? Millimetres(*part.fibre_mm) : std::string()});
+      block.lines.push_back(
+          {part.fibre_number, words(kFibrousCavityRow), own ? Millimetres(*part.fibre_mm) : std::string()});
   } else {
     block.mass = MassText(part.MassKgM2());
     if (part.leaf > 0 || row.stacks.size() > 1) block.heading = PartName(row.calculation, part, words);

@@ -2,7 +2,6 @@
 
 #include <QPointer>
 
-#include "acoustics/bands.h"
 #include "calculation/open/open_calculation.h"
 #include "presentation/drawing/curve_chart.h"
 #include "shell/results/chart_overlay.h"
@@ -12,7 +11,8 @@
 
 namespace velmar::shell {
 
-/// The comparison window behind its commands, and the curves that it lays over the main chart.
+/// The comparison window behind its commands, and the curves that it lays over the main chart: they come and
+/// go with it.
 class ComparisonCommand : public ChartOverlay {
   Q_OBJECT
  public:
@@ -20,33 +20,31 @@ class ComparisonCommand : public ChartOverlay {
   ComparisonCommand(const calculation::OpenCalculation& open, WindowTools tools,
                     structures::LibrarySource library);
 
-  /// Opens the window beside the result that stands; one that is open already makes room for it.
+  /// Opens the window beside the result that stands; one that is open already comes to the front.
   void Show(QWidget* parent);
 
-  /// Lays over `chart` what is to be drawn over it. A window that is closed leaves its curves in the drawing:
-  /// they go with the first one that shows other values or another scale.
+  /// Lays over `chart` what is compared.
   void LayOver(presentation::CurveChart& chart) override;
 
  public slots:
-  /// The window closes, and its curves go with the result.
+  /// The set-up or its result are others now: the window follows, and closes where another calculation was
+  /// chosen.
+  void Follow();
+  /// Another project was opened: nothing of the comparison is left.
+  void Close();
+  /// The window closes, and its curves go with the result, of which whoever calls this tells.
   void ResultGone();
 
  private:
-  /// What tells one drawing of the chart from the next.
-  struct Drawing {
-    acoustics::Spectrum values{};
-    bool autoscale = false;
-
-    bool operator==(const Drawing&) const = default;
-  };
+  structures::ComparedWork WorkNow() const;
+  void Forget();
 
   const calculation::OpenCalculation& open_;
   WindowTools tools_;
   structures::LibrarySource library_;
   QPointer<structures::ComparisonWindow> window_;
+  std::optional<elements::Calculation> calculation_{};  ///< that the window was opened for
   structures::Overlay overlay_;
-  bool left_over_ = false;  ///< the overlay is that of a window that was closed
-  Drawing last_;
 };
 
 }  // namespace velmar::shell

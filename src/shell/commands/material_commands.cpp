@@ -3,7 +3,6 @@
 #include <utility>
 
 #include "calculation/edits/layer_edits.h"
-#include "elements/parts.h"
 #include "foundation/message_rows.h"
 #include "foundation/utf8.h"
 #include "materials/copied_material.h"
@@ -92,6 +91,13 @@ void MaterialCommands::Open(QWidget* parent, std::optional<MaterialPick> wanted)
     emit Reread();
     if (tree_) tree_->Refresh();
   });
+  if (where_) {
+    window->LookForProjectsBy([this](MaterialFamily family, const std::string& name) {
+      return [where = where_(), family, name](const std::atomic<bool>& stop) {
+        return storage::FindMaterialUses(where, family, name, stop);
+      };
+    });
+  }
   window->setAttribute(Qt::WA_DeleteOnClose);
   window->setWindowModality(Qt::WindowModal);
   window->show();
@@ -118,15 +124,7 @@ void MaterialCommands::TellChange(const MaterialChange& change) {
 }
 
 std::vector<int> MaterialCommands::LayersThatHold(MaterialFamily family, const std::string& name) const {
-  std::vector<int> numbers;
-  if (!open_.Setup().calculation) return numbers;
-  for (const elements::Part& part : PartsOf(open_.Setup())) {
-    for (const elements::Layer& layer : part.layers) {
-      const bool same = layer.group && RowOf(*layer.group).family == family && SameName(layer.name, name);
-      if (same) numbers.push_back(layer.number);
-    }
-  }
-  return numbers;
+  return storage::LayersHolding(open_.Setup(), family, name);
 }
 
 }  // namespace velmar::shell

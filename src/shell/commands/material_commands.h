@@ -17,6 +17,7 @@
 #include "shell/windows/boxes.h"
 #include "shell/windows/window_tools.h"
 #include "storage/materials/material_store.h"
+#include "storage/project/material_uses.h"
 
 namespace velmar::shell {
 
@@ -44,6 +45,9 @@ class MaterialCommands : public QObject {
 
   /// The pages pick their materials here from now on. @param pages to live as long as this object
   void Serve(PageServices& pages);
+  /// Projects that use a material are looked for in what `where` names then. @param where is asked in the
+  /// window's thread
+  void SearchIn(std::function<storage::SearchedProjects()> where) { where_ = std::move(where); }
 
  public slots:
   void ShowList(QWidget* parent);
@@ -69,6 +73,7 @@ class MaterialCommands : public QObject {
   OwnTools own_;
   storage::MaterialStore store_;
   MaterialSource source_;
+  std::function<storage::SearchedProjects()> where_{};
   QPointer<MaterialTreeWindow> tree_;
 };
 

@@ -55,6 +55,7 @@ presentation::ReportRecord RecordOf(const Desk& desk, const DocumentServices& do
         presentation::ProvenanceOf(storage::WriteProject(setup), desk.files.File().filename().string(),
                                    documents.sources, language));
     record.language = language;
+    if (shown) AddComparison(record.data, shown->comparison, words);
     AddConfidence(record, validation::ConfidenceOf(setup, result, desk.accuracy.Get()), words);
     return record;
   };

@@ -23,6 +23,8 @@ MessageRow RowFor(Correction correction) {
       return kNoHitRow;
     case Correction::kNoKeyword:
       return kNoKeywordHitRow;
+    case Correction::kNoEntry:
+      return kNoEntryHitRow;
     case Correction::kRaised:
       return kDepthCorrectedRow;
   }
@@ -34,7 +36,8 @@ MessageRow RowFor(Correction correction) {
 void NoteCorrection(QWidget* field, Correction correction, int limit, const presentation::Words& words) {
   QString text = Text(words, RowFor(correction));
   if (correction == Correction::kAboveHighest) text += ' ' + QString::number(limit);
-  const bool waits = correction == Correction::kNoHit || correction == Correction::kNoKeyword;
+  const bool waits = correction == Correction::kNoHit || correction == Correction::kNoKeyword ||
+                     correction == Correction::kNoEntry;
   FieldNote::Put(field, text, waits ? NoteLife::kUntilEntered : NoteLife::kWhileRead);
 }
 

@@ -17,6 +17,7 @@ enum class Correction {
   kUnknownMaterial,  ///< no material has that name: the one before stands again
   kNoHit,            ///< no material has that in its name: the text waits to be corrected
   kNoKeyword,        ///< no keyword has that in it
+  kNoEntry,          ///< no entry of a list has that in it
   kRaised,           ///< a cavity was thinner than what it holds
 };
 

@@ -176,6 +176,13 @@ void MainWindow::AddContinuousSwitch(QMenu& menu) {
 }
 
 void MainWindow::Connect() {
+  if (services_.structure_commands != nullptr) {
+    // Before the chart is shown with what it lays over it.
+    ComparisonCommand& comparison = services_.structure_commands->Comparison();
+    connect(&work_, &OpenWork::ResultGone, &comparison, &ComparisonCommand::ResultGone);
+    connect(&work_, &OpenWork::Changed, &comparison, &ComparisonCommand::Follow);
+    connect(&files_, &ProjectFiles::Opened, &comparison, &ComparisonCommand::Close);
+  }
   connect(&work_, &OpenWork::Changed, this, &MainWindow::ShowAll);
   connect(&files_, &ProjectFiles::Renamed, this, &MainWindow::ShowName);
   connect(&table_, &OpenTable::Toggled, this, &MainWindow::ShowAll);
@@ -220,9 +227,6 @@ void MainWindow::Connect() {
   connect(&context_, &PageContext::RowHovered, results_, &ResultsPanel::Highlight);
   connect(results_, &ResultsPanel::LayerHovered, &context_, &PageContext::SectionHovered);
   connect(results_, &ResultsPanel::LayerChosen, tabs_, &InputTabs::GoTo);
-  if (services_.structure_commands != nullptr)
-    connect(&work_, &OpenWork::ResultGone, &services_.structure_commands->Comparison(),
-            &ComparisonCommand::ResultGone);
   if (services_.material_commands != nullptr) FollowMaterials(*services_.material_commands);
 }
 
@@ -316,7 +320,13 @@ void MainWindow::OfferRecovery() {
   files_.OfferRecovery();
 }
 
-void MainWindow::FollowMaterials(const MaterialCommands& commands) {
+void MainWindow::FollowMaterials(MaterialCommands& commands) {
+  commands.SearchIn([this] {
+    storage::SearchedProjects where{.files = memory_.RecentProjects(),
+                                    .folders = {services_.places.documents}};
+    if (!files_.File().empty()) where.folders.insert(where.folders.begin(), files_.File().parent_path());
+    return where;
+  });
   connect(&commands, &MaterialCommands::Changed, this, [this](const MaterialChange& change) {
     materials_.Follow(change);
     ShowAll();

@@ -69,7 +69,7 @@ class MainWindow : public QMainWindow {
   void MakeStatusLine();
   /// Says `text` at the foot of the window for a while.
   void Say(const QString& text);
-  void FollowMaterials(const MaterialCommands& commands);
+  void FollowMaterials(MaterialCommands& commands);
 
   const WindowServices& services_;
   MaterialLists materials_;

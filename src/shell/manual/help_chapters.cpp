@@ -24,6 +24,7 @@ constexpr std::array kChapters = {
     HelpChapter{"Form11", "progetti"},
     HelpChapter{"LavoroNonSalvato", "progetti"},
     HelpChapter{"Form2", "la-lista-dei-materiali"},
+    HelpChapter{"UsoMateriale", "la-lista-dei-materiali"},
     HelpChapter{"FormSceltaMateriali", "l-albero-dei-materiali"},
     HelpChapter{"Form5", "aggiungere-e-modificare-un-materiale"},
     HelpChapter{"Form6", "aggiungere-e-modificare-un-materiale"},
@@ -34,6 +35,7 @@ constexpr std::array kChapters = {
     HelpChapter{"Form8", "confronto-con-il-risultato"},
     HelpChapter{"Form12", "relazioni-e-stampa"},
     HelpChapter{"Dialog", "relazioni-e-stampa"},
+    HelpChapter{"profilo_studio", "profilo-dello-studio-e-lingua"},
 };
 
 }  // namespace

@@ -4,6 +4,7 @@
 #include <QKeyEvent>
 #include <algorithm>
 
+#include "shell/fields/name_search.h"
 #include "shell/windows/phrases.h"
 
 namespace velmar::shell {
@@ -109,6 +110,16 @@ void MaterialGrid::resizeEvent(QResizeEvent* event) {
 std::string MaterialGrid::SelectedName() const {
   const QModelIndex current = currentIndex();
   return current.isValid() ? ToUtf8(current.siblingAtColumn(kNameColumn).data().toString()) : std::string();
+}
+
+bool MaterialGrid::SelectBest(const QString& text) {
+  if (text.trimmed().isEmpty()) return false;
+  QStringList names;
+  for (int row = 0; row < shown_.rowCount(); ++row) names << shown_.index(row, kNameColumn).data().toString();
+  const QStringList hits = RankedHits(names, text);
+  if (hits.isEmpty()) return false;
+  SelectRow(static_cast<int>(names.indexOf(hits.constFirst())));
+  return true;
 }
 
 bool MaterialGrid::SelectName(const std::string& name) {

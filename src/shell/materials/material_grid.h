@@ -26,6 +26,8 @@ class MaterialGrid : public QTableView {
   int SelectedRow() const { return currentIndex().row(); }
   /// Selects the row called `name`. @return false when no row that is shown has that name
   bool SelectName(const std::string& name);
+  /// Selects the row whose name answers `text` best. @return false when no name holds it
+  bool SelectBest(const QString& text);
   /// Selects row `row`, or the last one.
   void SelectRow(int row);
 

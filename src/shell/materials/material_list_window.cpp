@@ -14,6 +14,7 @@
 
 #include "foundation/message_rows.h"
 #include "presentation/texts/words.h"
+#include "shell/fields/search_field.h"
 #include "shell/materials/material_texts.h"
 #include "shell/windows/button_row.h"
 #include "shell/windows/phrases.h"
@@ -92,13 +93,16 @@ QWidget* MaterialListWindow::MakeHead() {
     families_.at(i) = option;
   }
   if (!pick_) row->addStretch(1);
-  search_ = new QLineEdit(head);
-  search_->setObjectName(QStringLiteral("TextCerca"));
-  search_->setPlaceholderText(tools_.Text(kMaterialSearchRow));
-  search_->setAccessibleName(tools_.Text(kMaterialSearchRow));
-  search_->setClearButtonEnabled(true);
+  search_ = new SearchField(QStringLiteral("TextCerca"), tools_.Text(kMaterialSearchRow), head);
   search_->installEventFilter(this);
   connect(search_, &QLineEdit::textChanged, this, [this](const QString& text) { SearchFor(text); });
+  connect(search_, &SearchField::Entered, this, [this] {
+    if (grid_->SelectedName().empty()) {
+      search_->SayNoHit(tools_.words);
+    } else if (!pick_) {
+      grid_->setFocus();
+    }
+  });
   row->addWidget(search_, 2);
   return head;
 }
@@ -156,6 +160,9 @@ QWidget* MaterialListWindow::MakeButtons() {
   undo_->setToolTip(tools_.Text(kMaterialDeletedUndoTipRow));
   undo_->setVisible(static_cast<bool>(source_.add));
   undo_->setEnabled(false);
+  where_ = add("CommandUso", kWhereUsedRow, [this] { ShowProjects(); });
+  where_->setToolTip(tools_.Text(kWhereUsedTipRow));
+  where_->hide();
   bar->AddStretch();
   add("Aggiorna", kRefreshRow, [this] { RefreshAsAsked(); })->setToolTip(tools_.Text(kRefreshTipRow));
   take_ = add("CmdSeleziona", kSelectMaterialRow, [this] { Take(); });
@@ -195,7 +202,7 @@ bool MaterialListWindow::Refresh() {
 void MaterialListWindow::SearchFor(const QString& text) {
   const std::string before = grid_->SelectedName();
   shown_.Search(text);
-  if (before.empty() || grid_->SelectedName() != before) grid_->SelectRow(0);
+  if (!grid_->SelectBest(text) && (before.empty() || grid_->SelectedName() != before)) grid_->SelectRow(0);
   grid_->scrollTo(grid_->currentIndex());
   ShowSelected();
 }
@@ -206,6 +213,7 @@ void MaterialListWindow::ShowSelected() {
   name_->setCursorPosition(0);
   edit_->setEnabled(!name.empty() && source_.edit);
   delete_->setEnabled(!name.empty());
+  where_->setEnabled(!name.empty());
   ShowUse(name);
   take_->setEnabled(!name.empty());
 }
@@ -297,6 +305,20 @@ void MaterialListWindow::UndoDelete() {
     grid_->SelectName(back.name);
   }
   emit Changed({back.family, {}, back.name, {}});
+}
+
+void MaterialListWindow::LookForProjectsBy(ProjectSearch search) {
+  projects_ = std::move(search);
+  where_->setVisible(static_cast<bool>(projects_));
+}
+
+void MaterialListWindow::ShowProjects() {
+  const std::string name = grid_->SelectedName();
+  if (name.empty() || !projects_) return;
+  auto* window = new MaterialUseWindow(tools_, name, projects_(family_, name), this);
+  window->setAttribute(Qt::WA_DeleteOnClose);
+  window->setWindowModality(Qt::WindowModal);
+  window->show();
 }
 
 void MaterialListWindow::ShowUse(const std::string& name) {

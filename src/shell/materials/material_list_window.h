@@ -10,6 +10,7 @@
 #include "shell/materials/material_grid.h"
 #include "shell/materials/material_model.h"
 #include "shell/materials/material_source.h"
+#include "shell/materials/material_use_window.h"
 #include "shell/windows/window_tools.h"
 
 class QCheckBox;
@@ -19,6 +20,8 @@ class QPushButton;
 class QRadioButton;
 
 namespace velmar::shell {
+
+class SearchField;
 
 /// A layer row that a material is picked for (`DestinazioneMateriale`, `IndiceStrato`).
 struct MaterialPick {
@@ -40,6 +43,12 @@ class MaterialListWindow : public QDialog {
   MaterialListWindow(WindowTools tools, MaterialSource source, std::optional<MaterialPick> pick,
                      UsedIn used = {}, QWidget* parent = nullptr);
   ~MaterialListWindow() override;
+
+  /// How the projects that use a material are looked for.
+  using ProjectSearch =
+      std::function<MaterialUseWindow::Search(elements::MaterialFamily, const std::string& name)>;
+  /// Offers to look for them by `search`; without this it is not offered.
+  void LookForProjectsBy(ProjectSearch search);
 
   /// Reads the table anew; the selected material stays selected when it is still there. A table that cannot
   /// be read is told of, and what was shown stays. @return whether it was read
@@ -71,6 +80,7 @@ class MaterialListWindow : public QDialog {
   void Delete();
   void UndoDelete();
   void ShowUse(const std::string& name);
+  void ShowProjects();
 
   /// The row that was deleted last.
   struct Deleted {
@@ -83,17 +93,19 @@ class MaterialListWindow : public QDialog {
   MaterialSource source_;
   std::optional<MaterialPick> pick_;
   UsedIn used_;
+  ProjectSearch projects_{};
   elements::MaterialFamily family_{};
   MaterialModel model_;
   MaterialSearch shown_;
   std::array<QRadioButton*, 3> families_{};
-  QLineEdit* search_ = nullptr;
+  SearchField* search_ = nullptr;
   MaterialGrid* grid_ = nullptr;
   QCheckBox* all_columns_ = nullptr;
   QLineEdit* name_ = nullptr;
   QPushButton* new_ = nullptr;
   QPushButton* edit_ = nullptr;
   QPushButton* delete_ = nullptr;
+  QPushButton* where_ = nullptr;
   QPushButton* undo_ = nullptr;
   QLabel* use_ = nullptr;  ///< where the open calculation uses the selected material
   std::optional<Deleted> deleted_;

@@ -5,13 +5,13 @@
 #include <QGroupBox>
 #include <QKeyEvent>
 #include <QLabel>
-#include <QLineEdit>
 #include <QSplitter>
 #include <QTreeView>
 #include <QVBoxLayout>
 #include <array>
 
 #include "foundation/message_rows.h"
+#include "shell/fields/search_field.h"
 #include "shell/materials/material_columns.h"
 #include "shell/materials/material_texts.h"
 #include "shell/windows/phrases.h"
@@ -94,11 +94,7 @@ QWidget* MaterialTreeWindow::MakeTree() {
   auto* side = new QWidget(this);
   auto* column = new QVBoxLayout(side);
   column->setContentsMargins(0, 0, 0, 0);
-  search_ = new QLineEdit(side);
-  search_->setObjectName(QStringLiteral("TextCerca"));
-  search_->setPlaceholderText(tools_.Text(kTreeSearchRow));
-  search_->setAccessibleName(tools_.Text(kTreeSearchRow));
-  search_->setClearButtonEnabled(true);
+  search_ = new SearchField(QStringLiteral("TextCerca"), tools_.Text(kTreeSearchRow), side);
   search_->installEventFilter(this);
   connect(search_, &QLineEdit::textChanged, this, [this](const QString& text) { SearchFor(text); });
   tree_ = new QTreeView(side);
@@ -240,7 +236,12 @@ bool MaterialTreeWindow::eventFilter(QObject* watched, QEvent* event) {
     return QDialog::eventFilter(watched, event);
   const int key = static_cast<QKeyEvent*>(event)->key();
   if (key == Qt::Key_Return || key == Qt::Key_Enter) {
-    PutSelected();
+    const bool without_hit = watched == search_ && !search_->text().trimmed().isEmpty() && !Selected();
+    if (without_hit) {
+      search_->SayNoHit(tools_.words);
+    } else {
+      PutSelected();
+    }
     return true;
   }
   const bool moves =

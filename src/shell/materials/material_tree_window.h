@@ -12,11 +12,12 @@
 
 class QFormLayout;
 class QLabel;
-class QLineEdit;
 class QSplitter;
 class QTreeView;
 
 namespace velmar::shell {
+
+class SearchField;
 
 /// "Lista materiali" (`FormSceltaMateriali`): all materials as a tree beside the properties of the selected
 /// one. It stays open beside the main window; its materials are dragged onto layer rows, or put there with
@@ -56,7 +57,7 @@ class MaterialTreeWindow : public QDialog {
   MaterialTreeModel model_;
   MaterialTreeSearch shown_;
   QSplitter* sides_ = nullptr;
-  QLineEdit* search_ = nullptr;
+  SearchField* search_ = nullptr;
   QTreeView* tree_ = nullptr;
   QFormLayout* form_ = nullptr;
   std::vector<QLabel*> values_;

@@ -9,6 +9,7 @@
 
 #include "calculation/edits/cavity_rules.h"
 #include "calculation/edits/count_rules.h"
+#include "elements/parts.h"
 #include "foundation/decimal.h"
 #include "foundation/message_rows.h"
 #include "shell/fields/corrections.h"
@@ -89,6 +90,11 @@ void CavityPage::AddKinds(QVBoxLayout& column) {
       fibre_->setToolTip(Text(context_.Words(), kFibreTipRow));
       StepByArrows(fibre_);
       line->addWidget(fibre_);
+      fibre_number_ = new QLabel(this);
+      fibre_number_->setObjectName("NumeroFibra");
+      fibre_number_->setForegroundRole(QPalette::PlaceholderText);
+      fibre_number_->setToolTip(Text(context_.Words(), kFibreNumberTipRow));
+      line->addWidget(fibre_number_);
     }
     line->addStretch(1);
     kinds_.at(i) = kind;
@@ -150,6 +156,9 @@ void CavityPage::Show(const elements::Setup& setup) {
   fibre_->setEnabled(calculation::FibreThicknessEnabled(setup));
   kinds_.at(static_cast<std::size_t>(cavity.kind))->setChecked(true);
   kinds_.back()->setVisible(row.generic_cavity);
+  const int number = elements::FibreNumberOf(setup);
+  fibre_number_->setText(number > 0 ? "n. " + QString::number(number) : QString());
+  fibre_number_->setAccessibleName(Text(context_.Words(), kFibreFillRow) + ' ' + fibre_number_->text());
   // Without its field the words end before the thickness they ask for.
   QString words = Text(context_.Words(), kKindRows.at(1));
   if (!reads_fibre) words = words.section(" - ", 0, 0);

@@ -34,6 +34,7 @@ class CavityPage : public Page {
   PageContext& context_;
   NumberField* depth_ = nullptr;
   NumberField* fibre_ = nullptr;
+  QLabel* fibre_number_ = nullptr;  ///< as the section shows it
   std::array<QRadioButton*, 3> kinds_{};
   CountBox* count_ = nullptr;
   FilterBox* filter_ = nullptr;

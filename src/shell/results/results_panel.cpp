@@ -220,7 +220,7 @@ void ResultsPanel::Show() {
   ShowRatings(setup, result ? &*result : nullptr);
   ShowChart();
   section_frame_->setVisible(RowOf(*setup.calculation).family != elements::Family::kFacade);
-  section_->Show(presentation::SectionOf(setup));
+  section_->Show(presentation::SectionOf(setup, speech_.words));
 }
 
 void ResultsPanel::ShowRatings(const elements::Setup& setup, const elements::ResultSet* result) {

@@ -7,6 +7,7 @@
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QToolButton>
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <utility>
@@ -152,6 +153,11 @@ void VariantStrip::LayOver(presentation::CurveChart& chart) const {
     const Entry& entry = entries_[i];
     if (entry.is_open || !entry.result || !entry.result->spectrum) continue;
     if (entry.result->lnw.has_value() != now->lnw.has_value()) continue;
+    // One that is compared stands there already.
+    if (std::ranges::any_of(chart.comparison.curves, [&](const presentation::ComparedCurve& curve) {
+          return curve.name == entry.variant.name && curve.levels == *entry.result->spectrum;
+        }))
+      continue;
     chart.further.push_back({ToUtf8(Shortened(entry.variant.name)), *entry.result->spectrum,
                              kCurveColours.at(i % kCurveColours.size())});
   }

@@ -29,6 +29,7 @@
 #include "shell/start/loader_window.h"
 #include "shell/start/store_opening.h"
 #include "shell/windows/dark_outlines.h"
+#include "shell/windows/long_work.h"
 #include "shell/windows/phrases.h"
 #include "storage/configuration/documents_folder.h"
 #include "storage/configuration/program_folder.h"
@@ -132,9 +133,13 @@ struct Desktop {
     services.version = QApplication::applicationVersion();
     services.places = Places();
     services.materials =
-        application::ForgivingLookup(storage::MaterialLookupIn(store.File()),
+        application::ForgivingLookup(storage::MaterialLookupIn(store.File(), storage::kWindowPatienceMs),
                                      [this](const Failure& failure) { Tell(failure.UserMessage()); });
-    services.material_names = [this](MaterialFamily family) { return store.List(family); };
+    services.material_names = [this](MaterialFamily family) {
+      std::vector<storage::ListedMaterial> names;
+      RunBeside([&] { names = store.List(family); });
+      return names;
+    };
     services.read_project = [this](const std::filesystem::path& file) {
       storage::OpenedProject project = application::OpenProject(file, open.Setup(), services.materials);
       unknown = project.setup.calculation ? storage::StoredCalculation() : project.stored;

@@ -2,16 +2,16 @@
 
 #include <QCheckBox>
 #include <QHBoxLayout>
-#include <QIcon>
 #include <QLabel>
-#include <QPainter>
-#include <QPixmap>
 #include <QPlainTextEdit>
+#include <QPushButton>
 #include <QSignalBlocker>
 #include <QSplitter>
 #include <QVBoxLayout>
 
 #include "foundation/message_rows.h"
+#include "shell/structures/compared_test.h"
+#include "shell/structures/curve_sample.h"
 #include "shell/structures/test_chooser.h"
 #include "shell/windows/phrases.h"
 
@@ -19,6 +19,7 @@ namespace velmar::structures {
 namespace {
 
 constexpr double kRatingScale = 1.4;
+constexpr int kDescriptionLines = 3;
 
 QLabel* MakeLabel(const char* name, QWidget* parent) {
   auto* label = new QLabel(parent);
@@ -28,35 +29,19 @@ QLabel* MakeLabel(const char* name, QWidget* parent) {
   return label;
 }
 
-/// A piece of the curve, as the legend of the chart shows it.
-QIcon SampleOf(const QColor& colour, const QSize& size) {
-  constexpr qreal kSharpness = 3.0;
-  constexpr qreal kDotDiameter = 6.0;
-  QPixmap sample(size * kSharpness);
-  sample.setDevicePixelRatio(kSharpness);
-  sample.fill(Qt::transparent);
-  QPainter painter(&sample);
-  painter.setRenderHint(QPainter::Antialiasing);
-  const QPointF centre(size.width() / 2.0, size.height() / 2.0);
-  painter.setPen(QPen(colour, 2.0));
-  painter.drawLine(QPointF(0.0, centre.y()), QPointF(size.width(), centre.y()));
-  painter.setPen(Qt::NoPen);
-  painter.setBrush(colour);
-  painter.drawEllipse(centre, kDotDiameter / 2.0, kDotDiameter / 2.0);
-  return QIcon(sample);
-}
-
 }  // namespace
 
 ComparisonPanel::ComparisonPanel(const shell::WindowTools& tools, LibrarySource source, const Look& look,
                                  QWidget* parent)
-    : QGroupBox(tools.Text(look.caption), parent), tools_(tools) {
+    : QGroupBox(parent), tools_(tools) {
   setObjectName(QLatin1String(look.frame));
+  setAccessibleName(tools.Text(look.caption));
+  setFlat(true);
   check_ = new QCheckBox(tools.Text(look.check_caption), this);
   check_->setObjectName(QLatin1String(look.check));
   const QSize sample(fontMetrics().height() * 3 / 2, fontMetrics().height());
   check_->setIconSize(sample);
-  check_->setIcon(SampleOf(look.colour, sample));
+  check_->setIcon(SampleOf(look.look, sample));
   database_ = MakeLabel(look.database, this);
   rating_ = MakeLabel(look.rating, this);
   QFont large = font();
@@ -71,18 +56,28 @@ ComparisonPanel::ComparisonPanel(const shell::WindowTools& tools, LibrarySource 
   connect(chooser_, &TestChooser::FileOpened, this,
           [this](const LibraryFile& file) { database_->setText(shell::FromUtf8(file.name)); });
   connect(chooser_, &TestChooser::TestChosen, this, &ComparisonPanel::Show);
+  connect(chooser_, &TestChooser::Meant, this, [this] {
+    if (curve_ && !full_) emit AddWanted();
+  });
+  add_ = new QPushButton(tools.Text(kAddCurveRow), this);
+  add_->setObjectName(QLatin1String(look.add));
+  add_->setAutoDefault(false);
+  connect(add_, &QPushButton::clicked, this, &ComparisonPanel::AddWanted);
   description_ = new QPlainTextEdit(this);
   description_->setObjectName(QLatin1String(look.description));
   description_->setAccessibleName(tools.Text(kDescriptionRow));
   description_->setReadOnly(true);
   description_->setTabChangesFocus(true);
   description_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-  description_->setFixedHeight(fontMetrics().height() * 4);
+  description_->setFixedHeight(fontMetrics().height() * kDescriptionLines);
+  auto* chosen = new QHBoxLayout;
+  chosen->addWidget(rating_, 1);
+  chosen->addWidget(add_);
   auto* column = new QVBoxLayout(this);
   column->addWidget(check_);
   column->addWidget(database_);
   column->addWidget(chooser_, 1);
-  column->addWidget(rating_);
+  column->addLayout(chosen);
   column->addWidget(description_);
   connect(check_, &QCheckBox::toggled, this, &ComparisonPanel::Changed);
   Reset();
@@ -96,15 +91,8 @@ std::string ComparisonPanel::Name() const {
 
 void ComparisonPanel::Show(const std::optional<MeasuredTest>& test) {
   const MeasuredTest shown = test.value_or(MeasuredTest{});
-  for (std::size_t i = 0; i < bands_.size(); ++i) {
-    const std::optional<double>& value = shown.part.bands_db[i];
-    bands_[i] = value == calculation::kNotMeasuredDb ? 0.0 : value.value_or(0.0);
-  }
-  are_octaves_ = false;
-  if (bands_ == acoustics::Spectrum{}) {
-    for (std::size_t i = 0; i < bands_.size(); ++i) bands_[i] = shown.octave_steps_db.at(i).value_or(0.0);
-    are_octaves_ = bands_ != acoustics::Spectrum{};
-  }
+  curve_.reset();
+  if (test) curve_ = Compared(chooser_->File() ? chooser_->File()->branch : Branch{}, *test);
   const QString rating = shell::FromUtf8(calculation::BoxText(shown.part.rating_db));
   const QString none = test ? QStringLiteral("-") : tools_.Text(kNoStructureRow);
   rating_->setText(rating.isEmpty() ? none : rating + QStringLiteral(" dB"));
@@ -112,8 +100,17 @@ void ComparisonPanel::Show(const std::optional<MeasuredTest>& test) {
   QString description = shell::FromUtf8(shown.part.description);
   if (!shown.notes.empty()) description += (description.isEmpty() ? "" : "\n") + shell::FromUtf8(shown.notes);
   description_->setPlainText(description);
+  OfferToAdd(full_);
   if (IsTicked()) emit Changed();
 }
+
+void ComparisonPanel::OfferToAdd(bool full) {
+  full_ = full;
+  add_->setEnabled(curve_ && !full);
+  add_->setToolTip(tools_.Text(full ? kComparisonFullRow : curve_ ? kAddCurveTipRow : kNoCurveToAddRow));
+}
+
+void ComparisonPanel::Untick() { check_->setChecked(false); }
 
 void ComparisonPanel::Refresh() { chooser_->Refresh(); }
 

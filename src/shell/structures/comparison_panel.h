@@ -1,10 +1,11 @@
 #pragma once
 
-#include <QColor>
 #include <QGroupBox>
 #include <optional>
 
 #include "acoustics/bands.h"
+#include "presentation/drawing/compared_looks.h"
+#include "presentation/texts/compared_curves.h"
 #include "shell/structures/library_tree.h"
 #include "shell/structures/structure_sources.h"
 #include "shell/windows/window_tools.h"
@@ -12,6 +13,7 @@
 class QCheckBox;
 class QLabel;
 class QPlainTextEdit;
+class QPushButton;
 
 namespace velmar::structures {
 
@@ -32,9 +34,10 @@ class ComparisonPanel : public QGroupBox {
     const char* description = "";
     const char* database = "";
     const char* rating = "";
+    const char* add = "";
     MessageRow caption{};
     MessageRow check_caption{};
-    QColor colour{};  ///< of the curve
+    presentation::ComparedLook look{};  ///< of the curve
     std::vector<TreeNode> nodes{};
   };
 
@@ -42,12 +45,14 @@ class ComparisonPanel : public QGroupBox {
                   QWidget* parent = nullptr);
 
   bool IsTicked() const;
-  /// The chosen structure's bands in dB, 0 where it has none; all 0 without one.
-  const acoustics::Spectrum& Bands() const { return bands_; }
-  /// Whether Bands() are octaves, each over its three thirds: the structure has no thirds.
-  bool AreOctaves() const { return are_octaves_; }
+  /// No curve of this side is wanted any more.
+  void Untick();
+  /// The curve of the chosen structure; nothing without one that has a curve.
+  const std::optional<presentation::ComparedCurve>& Curve() const { return curve_; }
   /// The name of the chosen structure while the side is ticked, otherwise empty.
   std::string Name() const;
+  /// Whether curves can be added; @param full why they cannot: the comparison holds no more.
+  void OfferToAdd(bool full);
   /// Nothing ticked, nothing chosen.
   void Reset();
   /// Reads the databases anew; what is chosen stays chosen while it is still there.
@@ -55,19 +60,22 @@ class ComparisonPanel : public QGroupBox {
   TestChooser* Chooser() const { return chooser_; }
 
  signals:
-  /// What is laid over the chart is another now.
+  /// The curve of this side came or went, or is another.
   void Changed();
+  /// The curve of the chosen structure is to be kept in the comparison.
+  void AddWanted();
 
  private:
   void Show(const std::optional<MeasuredTest>& test);
 
   shell::WindowTools tools_;
-  acoustics::Spectrum bands_{};
-  bool are_octaves_ = false;
+  std::optional<presentation::ComparedCurve> curve_{};
+  bool full_ = false;
   QCheckBox* check_ = nullptr;
   TestChooser* chooser_ = nullptr;
   QLabel* database_ = nullptr;
   QLabel* rating_ = nullptr;
+  QPushButton* add_ = nullptr;
   QPlainTextEdit* description_ = nullptr;
 };
 

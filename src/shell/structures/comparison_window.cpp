@@ -1,27 +1,28 @@
 #include "shell/structures/comparison_window.h"
 
 #include <QHBoxLayout>
-#include <QHideEvent>
 #include <QPushButton>
 #include <QShortcut>
 #include <QSplitter>
+#include <QTabWidget>
 #include <QVBoxLayout>
 
 #include "foundation/message_rows.h"
 #include "presentation/drawing/colours.h"
+#include "shell/structures/compared_curves_list.h"
 #include "shell/structures/comparison_panel.h"
 #include "shell/structures/test_chooser.h"
 #include "shell/structures/tree_nodes.h"
+#include "shell/structures/variants_panel.h"
 #include "shell/windows/mnemonics.h"
 
 namespace velmar::structures {
 namespace {
 
-constexpr const char* kMemoryName = "confronto-strutture";
-constexpr int kPairCharacters = 120;  // two sides beside each other
+constexpr const char* kMemoryName = "confronto-curve";
 
-shell::RememberedSizes SizesOf(QWidget* window, QSplitter* sides) {
-  return {QLatin1String(kMemoryName), window, nullptr, sides};
+shell::RememberedSizes SizesOf(QWidget* window, QSplitter* halves) {
+  return {QLatin1String(kMemoryName), window, nullptr, halves};
 }
 
 ComparisonPanel::Look LaboratoryLook() {
@@ -34,9 +35,10 @@ ComparisonPanel::Look LaboratoryLook() {
   look.description = "Text1";
   look.database = "Label7";
   look.rating = "Label2";
+  look.add = "ConfrontoAggiungi_0";
   look.caption = kLaboratoryFrameRow;
   look.check_caption = kLaboratoryCheckRow;
-  look.colour = presentation::kLaboratoryColour;
+  look.look = {presentation::kLaboratoryColour, presentation::kLaboratoryLook};
   return look;
 }
 
@@ -50,9 +52,10 @@ ComparisonPanel::Look InSituLook() {
   look.description = "Text2";
   look.database = "Label8";
   look.rating = "Label5";
+  look.add = "ConfrontoAggiungi_1";
   look.caption = kInSituRow;
   look.check_caption = kInSituCheckRow;
-  look.colour = presentation::kInSituColour;
+  look.look = {presentation::kInSituColour, presentation::kInSituLook};
   return look;
 }
 
@@ -65,6 +68,8 @@ void LayOver(presentation::CurveChart& chart, const Overlay& overlay) {
   chart.in_situ_in_octaves = overlay.in_situ_in_octaves;
   chart.laboratory_name = overlay.laboratory_name;
   chart.in_situ_name = overlay.in_situ_name;
+  chart.further.insert(chart.further.end(), overlay.added.begin(), overlay.added.end());
+  chart.comparison = overlay.comparison;
 }
 
 ComparisonWindow::ComparisonWindow(shell::WindowTools tools, const LibrarySource& source,
@@ -72,18 +77,7 @@ ComparisonWindow::ComparisonWindow(shell::WindowTools tools, const LibrarySource
     : QDialog(parent), tools_(std::move(tools)), draw_(std::move(draw)) {
   setObjectName(QStringLiteral("Form8"));
   setWindowTitle(QStringLiteral("VELMARpro - ") + tools_.Text(kComparisonCaptionRow));
-  ComparisonPanel::Look look = LaboratoryLook();
-  look.nodes = LaboratoryNodes(family, tools_);
-  laboratory_ = new ComparisonPanel(tools_, source, look, this);
-  look = InSituLook();
-  look.nodes = InSituNodes(family, tools_);
-  in_situ_ = new ComparisonPanel(tools_, source, look, this);
-  for (const ComparisonPanel* side : {laboratory_, in_situ_})
-    connect(side, &ComparisonPanel::Changed, this, [this] { draw_(Current()); });
-  sides_ = new QSplitter(Qt::Horizontal, this);
-  sides_->setChildrenCollapsible(false);
-  sides_->addWidget(laboratory_);
-  sides_->addWidget(in_situ_);
+  MakeSides(source, family);
   auto* close = new QPushButton(tools_.Text(kCloseRow), this);
   close->setObjectName(QStringLiteral("Command1"));
   close->setAutoDefault(false);
@@ -92,10 +86,10 @@ ComparisonWindow::ComparisonWindow(shell::WindowTools tools, const LibrarySource
   buttons->addStretch(1);
   buttons->addWidget(close);
   auto* column = new QVBoxLayout(this);
-  column->addWidget(sides_, 1);
+  column->addWidget(halves_, 1);
   column->addLayout(buttons);
-  resize(fontMetrics().averageCharWidth() * 170, fontMetrics().height() * 34);
-  shell::RestoreSizes(tools_.memory, SizesOf(this, sides_));
+  resize(fontMetrics().averageCharWidth() * 100, fontMetrics().height() * 46);
+  shell::RestoreSizes(tools_.memory, SizesOf(this, halves_));
   laboratory_->Chooser()->FocusSearch();
   shell::SetMnemonics(*this);
   connect(new QShortcut(QKeySequence::Refresh, this), &QShortcut::activated, this, [this] {
@@ -104,30 +98,90 @@ ComparisonWindow::ComparisonWindow(shell::WindowTools tools, const LibrarySource
   });
 }
 
-ComparisonWindow::~ComparisonWindow() { shell::SaveSizes(tools_.memory, SizesOf(this, sides_)); }
+ComparisonWindow::~ComparisonWindow() { shell::SaveSizes(tools_.memory, SizesOf(this, halves_)); }
 
-void ComparisonWindow::hideEvent(QHideEvent* event) {
-  QDialog::hideEvent(event);
-  if (event->spontaneous()) return;  // minimized, not closed
-  laboratory_->Reset();
-  in_situ_->Reset();
+void ComparisonWindow::MakeSides(const LibrarySource& source, elements::Family family) {
+  const bool is_impact = family == elements::Family::kImpact;
+  // In the order in which Tab goes through them.
+  curves_ = new ComparedCurvesList(tools_, is_impact, this);
+  auto* sides = new QTabWidget(this);
+  ComparisonPanel::Look look = LaboratoryLook();
+  look.nodes = LaboratoryNodes(family, tools_);
+  laboratory_ = new ComparisonPanel(tools_, source, look, sides);
+  look = InSituLook();
+  look.nodes = InSituNodes(family, tools_);
+  in_situ_ = new ComparisonPanel(tools_, source, look, sides);
+  variants_ = new VariantsPanel(tools_, is_impact, sides);
+  sides->setObjectName(QStringLiteral("ConfrontoLati"));
+  sides->setDocumentMode(true);
+  sides->addTab(laboratory_, laboratory_->accessibleName());
+  sides->addTab(in_situ_, in_situ_->accessibleName());
+  sides->addTab(variants_, tools_.Text(kVariantsTabRow));
+  halves_ = new QSplitter(Qt::Vertical, this);
+  halves_->setChildrenCollapsible(false);
+  halves_->addWidget(curves_);
+  halves_->addWidget(sides);
+  halves_->setStretchFactor(1, 1);
+  for (ComparisonPanel* side : {laboratory_, in_situ_}) {
+    connect(side, &ComparisonPanel::Changed, this, [this] {
+      ShowSides();
+      draw_(Current());
+    });
+    connect(side, &ComparisonPanel::AddWanted, this, [this, side] { curves_->Add(*side->Curve(), false); });
+  }
+  connect(variants_, &VariantsPanel::AddWanted, this, [this] { curves_->Add(*variants_->Chosen(), true); });
+  connect(curves_, &ComparedCurvesList::Changed, this, [this] {
+    OfferToAdd();
+    draw_(Current());
+  });
+  connect(curves_, &ComparedCurvesList::SideRemoved, this, [this](ComparedCurvesList::Side side) {
+    (side == ComparedCurvesList::Side::kLaboratory ? laboratory_ : in_situ_)->Untick();
+  });
 }
 
-void ComparisonWindow::resizeEvent(QResizeEvent* event) {
-  QDialog::resizeEvent(event);
-  const int narrowest_pair = fontMetrics().averageCharWidth() * kPairCharacters;
-  sides_->setOrientation(width() < narrowest_pair ? Qt::Vertical : Qt::Horizontal);
+void ComparisonWindow::ShowSides() {
+  const auto shown = [](const ComparisonPanel& side) {
+    return side.IsTicked() ? side.Curve() : std::nullopt;
+  };
+  curves_->Put(ComparedCurvesList::Side::kLaboratory, shown(*laboratory_));
+  curves_->Put(ComparedCurvesList::Side::kInSitu, shown(*in_situ_));
+}
+
+void ComparisonWindow::OfferToAdd() {
+  const bool full = curves_->IsFull();
+  laboratory_->OfferToAdd(full);
+  in_situ_->OfferToAdd(full);
+  variants_->OfferToAdd(full);
+}
+
+void ComparisonWindow::Follow(const ComparedWork& work) {
+  curves_->Put(ComparedCurvesList::Side::kCalculated, work.calculated);
+  curves_->FollowVariants(work.variants);
+  variants_->Show(work.variants);
+  OfferToAdd();
+}
+
+void ComparisonWindow::done(int result) {
+  laboratory_->Reset();
+  in_situ_->Reset();
+  curves_->Clear();
+  QDialog::done(result);
 }
 
 Overlay ComparisonWindow::Current() const {
   Overlay overlay;
-  const acoustics::Spectrum none{};
-  if (laboratory_->IsTicked() && laboratory_->Bands() != none) overlay.laboratory = laboratory_->Bands();
-  if (in_situ_->IsTicked() && in_situ_->Bands() != none) overlay.in_situ = in_situ_->Bands();
-  overlay.laboratory_in_octaves = overlay.laboratory && laboratory_->AreOctaves();
-  overlay.in_situ_in_octaves = overlay.in_situ && in_situ_->AreOctaves();
+  const auto take = [](const ComparisonPanel& side, std::optional<acoustics::Spectrum>& levels,
+                       bool& in_octaves) {
+    if (!side.IsTicked() || !side.Curve()) return;
+    levels = side.Curve()->levels;
+    in_octaves = side.Curve()->in_octaves;
+  };
+  take(*laboratory_, overlay.laboratory, overlay.laboratory_in_octaves);
+  take(*in_situ_, overlay.in_situ, overlay.in_situ_in_octaves);
   overlay.laboratory_name = laboratory_->Name();
   overlay.in_situ_name = in_situ_->Name();
+  overlay.added = curves_->Added();
+  overlay.comparison = curves_->Comparison();
   return overlay;
 }
 

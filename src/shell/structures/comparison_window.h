@@ -4,6 +4,7 @@
 #include <functional>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "acoustics/bands.h"
 #include "elements/catalogue.h"
@@ -15,7 +16,9 @@ class QSplitter;
 
 namespace velmar::structures {
 
+class ComparedCurvesList;
 class ComparisonPanel;
+class VariantsPanel;
 
 /// What is laid over the main chart. A side that is ticked has the spectrum of its structure, and none while
 /// no structure is chosen or the one that is has no curve; and the structure's name.
@@ -26,15 +29,22 @@ struct Overlay {
   bool in_situ_in_octaves = false;
   std::string laboratory_name{};
   std::string in_situ_name{};
-
-  bool operator==(const Overlay&) const = default;
+  std::vector<presentation::FurtherCurve> added{};  ///< curves that were kept in the comparison
+  presentation::Comparison comparison{};            ///< all that is compared, with the calculated curve
 };
 
 /// Lays `overlay` over `chart`.
 void LayOver(presentation::CurveChart& chart, const Overlay& overlay);
 
-/// "VELMARpro - confronto strutture" (`Form8`): measured or calculated structures beside the result. The
-/// window draws nothing: it hands what is to be laid over to the main chart.
+/// What the open project has for a comparison.
+struct ComparedWork {
+  std::optional<presentation::ComparedCurve> calculated{};
+  std::vector<presentation::ComparedCurve> variants{};
+};
+
+/// "VELMARpro - confronto strutture" (`Form8`): measured or calculated structures, and the project's
+/// variants, beside the result, with the ratings of each and the differences from one of them. The window
+/// draws nothing into the main chart: it hands what is to be laid over it to who does.
 class ComparisonWindow : public QDialog {
  public:
   using Draw = std::function<void(const Overlay&)>;
@@ -42,28 +52,33 @@ class ComparisonWindow : public QDialog {
   static constexpr int kPreferredWidth = 460;
 
   /// @param family of the open calculation; decides which databases are offered
-  /// @param draw redraws the main chart; called after every change of a ticked side, never by closing
+  /// @param draw redraws the main chart; called after every change of what is compared, never by closing
   ComparisonWindow(shell::WindowTools tools, const LibrarySource& source, elements::Family family, Draw draw,
                    QWidget* parent = nullptr);
   ~ComparisonWindow() override;
 
+  /// The project has `work` from now on. Draws nothing: who calls this does.
+  void Follow(const ComparedWork& work);
+  /// What is to be laid over the chart now.
+  Overlay Current() const;
   /// The result was invalidated: the window closes.
   void ResultGone() { close(); }
 
- protected:
-  /// However it closes: nothing stays ticked or chosen, and the chart stays as last drawn.
-  void hideEvent(QHideEvent* event) override;
-  /// The sides stand beside each other, or below where that is too narrow.
-  void resizeEvent(QResizeEvent* event) override;
+  /// However it closes: nothing stays ticked or chosen.
+  void done(int result) override;
 
  private:
-  Overlay Current() const;
+  void MakeSides(const LibrarySource& source, elements::Family family);
+  void ShowSides();
+  void OfferToAdd();
 
   shell::WindowTools tools_;
   Draw draw_;
-  QSplitter* sides_ = nullptr;
+  QSplitter* halves_ = nullptr;
+  ComparedCurvesList* curves_ = nullptr;
   ComparisonPanel* laboratory_ = nullptr;
   ComparisonPanel* in_situ_ = nullptr;
+  VariantsPanel* variants_ = nullptr;
 };
 
 }  // namespace velmar::structures

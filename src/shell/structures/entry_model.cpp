@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "shell/fields/name_search.h"
+
 namespace velmar::structures {
 
 EntryModel::EntryModel(QStringList headings, QObject* parent)
@@ -46,6 +48,14 @@ EntrySearch::EntrySearch(EntryModel& model, QObject* parent) : QSortFilterProxyM
 void EntrySearch::Search(const QString& text) {
   searched_ = text.split(QLatin1Char(' '), Qt::SkipEmptyParts);
   invalidateFilter();
+}
+
+int EntrySearch::BestHit(const QString& text, int column) const {
+  QStringList names;
+  for (int row = 0; row < rowCount(); ++row) names << index(row, column).data().toString();
+  const QStringList hits = shell::RankedHits(names, text);
+  if (hits.isEmpty()) return names.isEmpty() ? -1 : 0;
+  return static_cast<int>(names.indexOf(hits.constFirst()));
 }
 
 bool EntrySearch::filterAcceptsRow(int row, const QModelIndex& parent) const {

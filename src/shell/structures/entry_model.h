@@ -33,6 +33,9 @@ class EntrySearch : public QSortFilterProxyModel {
   explicit EntrySearch(EntryModel& model, QObject* parent = nullptr);
 
   void Search(const QString& text);
+  /// The row whose text in `column` answers `text` best: it is it, begins with it, or holds it as a word. The
+  /// first row where none holds it as a whole; -1 without a row.
+  int BestHit(const QString& text, int column) const;
 
  protected:
   bool filterAcceptsRow(int row, const QModelIndex& parent) const override;

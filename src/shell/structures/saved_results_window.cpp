@@ -17,6 +17,7 @@
 #include <array>
 
 #include "foundation/message_rows.h"
+#include "shell/fields/search_field.h"
 #include "shell/structures/copied_table.h"
 #include "shell/windows/button_row.h"
 #include "shell/windows/mnemonics.h"
@@ -77,11 +78,7 @@ QWidget* SavedResultsWindow::MakeKinds() {
   lining_ = new QRadioButton(tools_.Text(kLiningResultsRow), bar);
   lining_->setObjectName(QStringLiteral("Option1_2"));
   airborne_->setChecked(true);
-  search_ = new QLineEdit(bar);
-  search_->setObjectName(QStringLiteral("TextCerca"));
-  search_->setPlaceholderText(tools_.Text(kStructureSearchRow));
-  search_->setAccessibleName(tools_.Text(kStructureSearchRow));
-  search_->setClearButtonEnabled(true);
+  search_ = new shell::SearchField(QStringLiteral("TextCerca"), tools_.Text(kStructureSearchRow), bar);
   row->addWidget(airborne_);
   row->addWidget(impact_);
   row->addWidget(lining_);
@@ -93,9 +90,20 @@ QWidget* SavedResultsWindow::MakeKinds() {
     });
   }
   connect(search_, &QLineEdit::textChanged, this, [this](const QString& text) {
-    const std::string before = SelectedName();
+    const bool any = !SelectedName().empty();
     shown_.Search(text);
-    if (SelectedName() != before || before.empty()) SelectRow(0);
+    if (!text.trimmed().isEmpty()) {
+      SelectRow(shown_.BestHit(text, kName));
+    } else if (!any) {
+      SelectRow(0);
+    }
+  });
+  connect(search_, &shell::SearchField::Entered, this, [this] {
+    if (SelectedName().empty()) {
+      search_->SayNoHit(tools_.words);
+    } else if (purpose_ != Purpose::kTake) {
+      grid_->setFocus();
+    }
   });
   return bar;
 }

@@ -14,6 +14,10 @@ class QPushButton;
 class QRadioButton;
 class QTableView;
 
+namespace velmar::shell {
+class SearchField;
+}  // namespace velmar::shell
+
 namespace velmar::structures {
 
 /// "Database risultati" (`Form7`): lists the stored results, searches, copies and deletes them, and hands one
@@ -60,7 +64,7 @@ class SavedResultsWindow : public QDialog {
   QRadioButton* airborne_ = nullptr;
   QRadioButton* impact_ = nullptr;
   QRadioButton* lining_ = nullptr;
-  QLineEdit* search_ = nullptr;
+  shell::SearchField* search_ = nullptr;
   QTableView* grid_ = nullptr;
   QLineEdit* name_ = nullptr;
   QPlainTextEdit* description_ = nullptr;

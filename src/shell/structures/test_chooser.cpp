@@ -2,6 +2,7 @@
 
 #include <QComboBox>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListView>
@@ -18,6 +19,9 @@
 
 #include "foundation/failure.h"
 #include "foundation/message_rows.h"
+#include "shell/fields/corrections.h"
+#include "shell/fields/filter_box.h"
+#include "shell/fields/search_field.h"
 #include "shell/windows/phrases.h"
 
 namespace velmar::structures {
@@ -108,11 +112,11 @@ QWidget* TestChooser::MakeList(const Controls& controls) {
   auto* side = new QWidget(this);
   auto* column = new QVBoxLayout(side);
   column->setContentsMargins(0, 0, 0, 0);
-  keywords_ = new QComboBox(side);
-  keywords_->setObjectName(QLatin1String(controls.keywords));
+  keywords_ = new shell::FilterBox(QLatin1String(controls.keywords), side);
   keywords_->setAccessibleName(tools_.Text(kKeywordFilterRow));
   keywords_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-  keywords_->addItem(tools_.Text(kAllKeywordsRow));
+  keywords_->Offer({tools_.Text(kAllKeywordsRow)});
+  ShowKeyword(QString());
   auto* label = new QLabel(tools_.Text(kKeywordFilterRow), side);
   label->setBuddy(keywords_);
   auto* filter = new QHBoxLayout;
@@ -130,11 +134,8 @@ QWidget* TestChooser::MakeList(const Controls& controls) {
   uses_row->addWidget(uses_, 1);
   uses_->setVisible(controls.filters_uses);
   uses_label->setVisible(controls.filters_uses);
-  search_ = new QLineEdit(side);
-  search_->setObjectName(QLatin1String(controls.list) + QStringLiteral("_cerca"));
-  search_->setPlaceholderText(tools_.Text(kStructureSearchRow));
-  search_->setAccessibleName(tools_.Text(kStructureSearchRow));
-  search_->setClearButtonEnabled(true);
+  search_ = new shell::SearchField(QLatin1String(controls.list) + QStringLiteral("_cerca"),
+                                   tools_.Text(kStructureSearchRow), side);
   list_ = new QListView(side);
   list_->setObjectName(QLatin1String(controls.list));
   list_->setAccessibleName(tools_.Text(kTestListRow));
@@ -147,7 +148,14 @@ QWidget* TestChooser::MakeList(const Controls& controls) {
   column->addLayout(uses_row);
   column->addWidget(search_);
   column->addWidget(list_, 1);
-  connect(keywords_, &QComboBox::currentIndexChanged, this, [this] { FillList(); });
+  connect(keywords_, &shell::FilterBox::Chosen, this, [this](const std::string& keyword) {
+    const bool all = keyword == shell::ToUtf8(tools_.Text(kAllKeywordsRow));
+    ShowKeyword(all ? QString() : shell::FromUtf8(keyword));
+    FillList();
+  });
+  connect(keywords_, &shell::FilterBox::Corrected, this, [this](shell::Correction correction, int limit) {
+    NoteCorrection(keywords_, correction, limit, tools_.words);
+  });
   connect(uses_, &QComboBox::currentIndexChanged, this, [this] { FillList(); });
   connect(search_, &QLineEdit::textChanged, this, [this](const QString& text) {
     const QString before = list_->currentIndex().data().toString();
@@ -156,12 +164,23 @@ QWidget* TestChooser::MakeList(const Controls& controls) {
     if (list_->currentIndex().data().toString() != before) Clear();
     SearchOtherFiles();
   });
-  connect(search_, &QLineEdit::returnPressed, this, &TestChooser::TakeHit);
+  connect(search_, &shell::SearchField::Entered, this, &TestChooser::TakeHit);
+  connect(list_, &QListView::activated, this, &TestChooser::Meant);
   connect(list_->selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] {
     const QModelIndexList selected = list_->selectionModel()->selectedIndexes();
     Choose(selected.isEmpty() ? QString() : selected.first().data().toString());
   });
   return side;
+}
+
+// Enter takes a keyword, and presses no button of the window besides.
+void TestChooser::keyPressEvent(QKeyEvent* event) {
+  const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+  if (enter && keywords_->hasFocus()) {
+    event->accept();
+  } else {
+    QWidget::keyPressEvent(event);
+  }
 }
 
 void TestChooser::FillTree() {
@@ -170,8 +189,7 @@ void TestChooser::FillTree() {
 
 void TestChooser::Refresh() {
   searched_.clear();
-  Refill(file_, keywords_->currentIndex() > 0 ? keywords_->currentText() : QString(),
-         chosen_ ? shell::FromUtf8(chosen_->part.name) : QString());
+  Refill(file_, keyword_, chosen_ ? shell::FromUtf8(chosen_->part.name) : QString());
 }
 
 void TestChooser::ShowTest(Branch branch, const std::string& series, const QString& name) {
@@ -206,7 +224,10 @@ void TestChooser::Refill(const std::optional<LibraryFile>& file, const QString& 
     return;
   }
   OpenFile(*before);
-  keywords_->setCurrentIndex(std::max(keywords_->findText(keyword), 0));
+  if (keywords_->findText(keyword) > 0) {
+    ShowKeyword(keyword);
+    FillList();
+  }
   const QModelIndexList again =
       shown_.match(shown_.index(0, 0), Qt::DisplayRole, name, 1, Qt::MatchExactly | Qt::MatchCaseSensitive);
   if (!name.isEmpty() && !again.isEmpty()) list_->setCurrentIndex(again.first());
@@ -218,25 +239,29 @@ void TestChooser::OpenFile(const LibraryFile& file) {
   file_ = file;
   tests_ = std::move(tests);
   {
-    const QSignalBlocker quiet(keywords_);
-    keywords_->clear();
-    keywords_->addItem(tools_.Text(kAllKeywordsRow));
+    QStringList keywords = {tools_.Text(kAllKeywordsRow)};
     std::set<std::string> listed = {std::string()};
     for (const TestEntry& test : tests_) {
-      if (listed.insert(test.keyword).second) keywords_->addItem(shell::FromUtf8(test.keyword));
+      if (listed.insert(test.keyword).second) keywords << shell::FromUtf8(test.keyword);
     }
+    keywords_->Offer(keywords);
+    ShowKeyword(QString());
   }
   FillList();
   emit FileOpened(file, tests_.empty() ? QString() : shell::FromUtf8(tests_.front().description));
 }
 
+void TestChooser::ShowKeyword(const QString& keyword) {
+  keyword_ = keyword;
+  keywords_->Show(shell::ToUtf8(keyword.isEmpty() ? tools_.Text(kAllKeywordsRow) : keyword));
+}
+
 void TestChooser::FillList() {
-  const bool all = keywords_->currentIndex() <= 0;
-  const std::string keyword = shell::ToUtf8(keywords_->currentText());
+  const std::string keyword = shell::ToUtf8(keyword_);
   std::vector<QStringList> rows;
   const Use use = kUses.at(static_cast<std::size_t>(std::max(uses_->currentIndex(), 0))).first;
   for (const TestEntry& test : tests_) {
-    if ((all || test.keyword == keyword) && Serves(test.uses, use))
+    if ((keyword.empty() || test.keyword == keyword) && Serves(test.uses, use))
       rows.push_back({shell::FromUtf8(test.name)});
   }
   Clear();
@@ -277,9 +302,10 @@ std::optional<LibraryFile> TestChooser::FirstFileWithHit() {
 }
 
 void TestChooser::TakeHit() {
-  const bool searched = !search_->text().trimmed().isEmpty();
-  if (searched && !list_->currentIndex().isValid() && shown_.rowCount() > 0)
-    list_->setCurrentIndex(shown_.index(0, 0));
+  if (search_->text().trimmed().isEmpty()) return;
+  const int best = shown_.BestHit(search_->text(), 0);
+  if (best < 0) return search_->SayNoHit(tools_.words);
+  if (!list_->currentIndex().isValid()) list_->setCurrentIndex(shown_.index(best, 0));
 }
 
 void TestChooser::Clear() {

@@ -11,10 +11,14 @@
 #include "shell/windows/window_tools.h"
 
 class QComboBox;
-class QLineEdit;
 class QListView;
 class QSplitter;
 class QTreeWidget;
+
+namespace velmar::shell {
+class FilterBox;
+class SearchField;
+}  // namespace velmar::shell
 
 namespace velmar::structures {
 
@@ -49,6 +53,9 @@ class TestChooser : public QWidget {
   void FocusSearch();
   QSplitter* Splitter() const { return splitter_; }
 
+ protected:
+  void keyPressEvent(QKeyEvent* event) override;
+
  signals:
   /// Another file was opened; the description is that of its first test.
   void FileOpened(const velmar::structures::LibraryFile& file, const QString& description);
@@ -56,6 +63,8 @@ class TestChooser : public QWidget {
   void TestChosen(const std::optional<velmar::structures::MeasuredTest>& test);
   /// A branch that holds no series was clicked: a measurement of it is to be entered.
   void EntryWanted(velmar::structures::Branch branch);
+  /// The chosen test was meant: a double click on it, or Enter in the list.
+  void Meant();
 
  private:
   QWidget* MakeTree(const Controls& controls);
@@ -63,12 +72,13 @@ class TestChooser : public QWidget {
   void FillTree();
   void Refill(const std::optional<LibraryFile>& file, const QString& keyword, const QString& name);
   void OpenFile(const LibraryFile& file);
+  void ShowKeyword(const QString& keyword);
   void FillList();
   void Choose(const QString& name);
   /// Where the open file has no hit, the first one that has is opened.
   void SearchOtherFiles();
   std::optional<LibraryFile> FirstFileWithHit();
-  /// Enter in the search: the first hit is chosen.
+  /// Enter in the search: the best hit is chosen where none is; without one that is said.
   void TakeHit();
 
   shell::WindowTools tools_;
@@ -83,9 +93,10 @@ class TestChooser : public QWidget {
   std::map<std::filesystem::path, std::vector<QStringList>> searched_;  ///< names of files that were searched
   QSplitter* splitter_ = nullptr;
   QTreeWidget* tree_ = nullptr;
-  QComboBox* keywords_ = nullptr;
+  shell::FilterBox* keywords_ = nullptr;
+  QString keyword_{};  ///< that filters the list; empty for all
   QComboBox* uses_ = nullptr;
-  QLineEdit* search_ = nullptr;
+  shell::SearchField* search_ = nullptr;
   QListView* list_ = nullptr;
 };
 

@@ -21,7 +21,9 @@ namespace fs = std::filesystem;
 
 enum class Purpose { kRead, kChange };
 
-bool IsFullDisk(int system_error) { return system_error == ENOSPC || system_error == EDQUOT; }
+bool IsFullDisk(int system_error) {
+  return system_error == ENOSPC || system_error == EDQUOT || system_error == EFBIG;
+}
 
 /// @param system_error what the system said to the library when it last failed there; 0 for nothing
 DatabaseProblem ProblemOf(int code, int system_error, Purpose purpose) {
@@ -129,7 +131,8 @@ struct DatabaseReading::State {
   std::optional<DatabaseFailure> failure{};
 };
 
-DatabaseReading::DatabaseReading(fs::path file) : file_(std::move(file)), state_(std::make_unique<State>()) {}
+DatabaseReading::DatabaseReading(fs::path file, int patience_ms)
+    : file_(std::move(file)), patience_ms_(patience_ms), state_(std::make_unique<State>()) {}
 
 DatabaseReading::~DatabaseReading() = default;
 
@@ -140,7 +143,7 @@ void DatabaseReading::With(const std::function<void(SQLite::Database&)>& work) {
     if (!database) {
       RequireOwnFormat(file_);
       // Not opened read-only, so that what a killed program left can be undone.
-      database = std::make_unique<SQLite::Database>(file_.string(), SQLite::OPEN_READWRITE, kReadPatienceMs);
+      database = std::make_unique<SQLite::Database>(file_.string(), SQLite::OPEN_READWRITE, patience_ms_);
       Configure(*database);
       database->exec("PRAGMA query_only = ON");
     }

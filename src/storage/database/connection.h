@@ -20,13 +20,16 @@ inline constexpr int kChangePatienceMs = 5000;
 /// How long reading waits. Another program's change keeps readers out only while it reaches the disk; a file
 /// that is held for longer is held for good, and a window must not stand still for it.
 inline constexpr int kReadPatienceMs = 800;
+/// How long a window waits that cannot go on painting meanwhile: what nobody feels.
+inline constexpr int kWindowPatienceMs = 100;
 
 /// One connection for an operation that asks a database several times; it is opened when it is first used.
 /// After a failure that is about the file as a whole every further question fails in the same way and at
 /// once: a file that is locked is waited for once, not once a question.
 class DatabaseReading {
  public:
-  explicit DatabaseReading(std::filesystem::path file);
+  /// @param patience_ms how long each question waits for another program
+  explicit DatabaseReading(std::filesystem::path file, int patience_ms = kReadPatienceMs);
   DatabaseReading(const DatabaseReading&) = delete;
   DatabaseReading& operator=(const DatabaseReading&) = delete;
   ~DatabaseReading();
@@ -49,6 +52,7 @@ class DatabaseReading {
   [[noreturn]] void Fail(const DatabaseFailure& failure);
 
   std::filesystem::path file_;
+  int patience_ms_;
   std::unique_ptr<State> state_;
 };
 

@@ -142,10 +142,11 @@ bool MaterialStore::Delete(MaterialFamily family, std::string_view name) {
   });
 }
 
-elements::MaterialLookup MaterialLookupIn(const std::filesystem::path& file) {
-  elements::MaterialLookup lookup = LookupOver([file] { return std::make_unique<DatabaseReading>(file); });
-  lookup.for_one_operation = [file] {
-    return LookupOver([reading = std::make_shared<DatabaseReading>(file)] { return reading; });
+elements::MaterialLookup MaterialLookupIn(const std::filesystem::path& file, int patience_ms) {
+  elements::MaterialLookup lookup =
+      LookupOver([file, patience_ms] { return std::make_unique<DatabaseReading>(file, patience_ms); });
+  lookup.for_one_operation = [file, patience_ms] {
+    return LookupOver([reading = std::make_shared<DatabaseReading>(file, patience_ms)] { return reading; });
   };
   return lookup;
 }

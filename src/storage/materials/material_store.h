@@ -9,6 +9,7 @@
 #include "elements/layer_groups.h"
 #include "elements/material_record.h"
 #include "foundation/message.h"
+#include "storage/database/connection.h"
 #include "storage/materials/material_row.h"
 
 namespace velmar::storage {
@@ -58,6 +59,8 @@ class MaterialStore {
 
 /// The look-ups that the rules of a set-up are given. Each reads `file` anew; those for one operation share a
 /// connection, which goes with the last of them.
-elements::MaterialLookup MaterialLookupIn(const std::filesystem::path& file);
+/// @param patience_ms how long a lookup waits for another program
+elements::MaterialLookup MaterialLookupIn(const std::filesystem::path& file,
+                                          int patience_ms = kReadPatienceMs);
 
 }  // namespace velmar::storage

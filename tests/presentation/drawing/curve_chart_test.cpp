@@ -171,5 +171,33 @@ TEST(CurveChartOf, GivesNoneWhereThereIsNoCurve) {
   EXPECT_FALSE(CurveChartOf({}, samples::Result(), words));
 }
 
+TEST(DrawCurveChart, AComparedCurveIsToldByItsDashesToo) {
+  CurveChart chart = FlatChart();
+  FurtherCurve compared{.name = "Muro", .colour = QColor(0x00, 0x72, 0xB2), .look = CurveLook{Qt::SolidLine}};
+  compared.values.fill(30.0);
+  chart.further = {compared};
+  const int solid = Drawn(chart).Count(compared.colour);
+  chart.further[0].look = CurveLook{Qt::DashLine};
+  const int dashed = Drawn(chart).Count(compared.colour);
+  EXPECT_LT(dashed, solid * 9 / 10);
+  EXPECT_GT(dashed, solid / 4);
+}
+
+TEST(DrawCurveChart, AComparedCurveOfOctavesHasSteps) {
+  CurveChart chart = FlatChart();
+  FurtherCurve compared{.name = "Muro",
+                        .colour = QColor(0x00, 0x72, 0xB2),
+                        .look = CurveLook{Qt::SolidLine},
+                        .in_octaves = true};
+  for (std::size_t band = 0; band < compared.values.size(); ++band)
+    compared.values[band] = 30.0 + 5.0 * static_cast<double>(band / 3);
+  chart.further = {compared};
+  const Picture picture = Drawn(chart);
+  // The step of the second octave goes to half way behind its last third.
+  const QPointF last = PointOf(chart, 5, 35.0);
+  const QPointF next = PointOf(chart, 6, 35.0);
+  EXPECT_EQ(picture.At(last * 0.6 + next * 0.4), compared.colour);
+}
+
 }  // namespace
 }  // namespace velmar::presentation

@@ -81,7 +81,7 @@ TEST(SectionLayout, OnPaperTellsTheThicknessOfEachLayerAndOfAir) {
   std::vector<double> told;
   for (const SectionDimension& dimension : layout.dimensions) told.push_back(dimension.thickness_mm);
   EXPECT_EQ(told, (std::vector<double>{25.0, 60.0, 40.0, 12.5, 12.5}));
-  ASSERT_EQ(layout.list.size(), 3U);
+  ASSERT_EQ(layout.list.size(), 4U);
   EXPECT_EQ(layout.list[0].text, "Cartongesso standard, 2 x 12,5\u202Fmm");
   EXPECT_TRUE(LayoutOf(QRectF(0, 0, 600, 200), section, QFont(), {}).dimensions.empty());
 }

@@ -5,6 +5,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "tests/presentation/drawing/catalogue_words.h"
 #include "tests/presentation/sample_setups.h"
 
 namespace velmar::presentation {
@@ -72,7 +73,14 @@ TEST(SectionOf, PutsTheCavityBetweenTheLeaves) {
   EXPECT_THAT(KindsOf(section),
               ElementsAre(kPlasterboard, kPlasterboard, kWool, kAir, kPlasterboard, kPlasterboard));
   EXPECT_THAT(ThicknessesOf(section), ElementsAre(12.5, 12.5, 60.0, 40.0, 12.5, 12.5));
-  EXPECT_THAT(NumbersOf(section), ElementsAre(1, 1, 0, 0, 2, 3));
+  EXPECT_THAT(NumbersOf(section), ElementsAre(1, 1, 2, 0, 3, 4)) << "the fibre is counted, air is not";
+}
+
+TEST(SectionOf, NamesTheFibreOfACavity) {
+  const Section section = SectionOf(samples::PlasterboardDoubleWall(), CatalogueWords());
+  EXPECT_EQ(section.strips[2].name, "Intercapedine con materiale fibroso o poroso");
+  EXPECT_EQ(section.strips[3].name, "");
+  EXPECT_EQ(SectionOf(samples::PlasterboardDoubleWall()).strips[2].name, "");
 }
 
 struct CavityCase {

@@ -65,8 +65,8 @@ TEST(Structure, ListsADoubleWallWithItsAirGap) {
   EXPECT_EQ(blocks[0].mass, "m'= 21,2 kg/m²");
   EXPECT_EQ(blocks[0].lines[0], (StructureLine{1, "Cartongesso standard", "12,5mm X 2"}));
   EXPECT_EQ(blocks[1].lines[0], (StructureLine{0, "<262> 100mm", ""}));
-  EXPECT_EQ(blocks[1].lines[1], (StructureLine{0, "<225>", "60mm"}));
-  EXPECT_EQ(blocks[2].lines[1], (StructureLine{3, "Cartongesso standard", "12,5mm"}));
+  EXPECT_EQ(blocks[1].lines[1], (StructureLine{2, "<225>", "60mm"}));
+  EXPECT_EQ(blocks[2].lines[1], (StructureLine{4, "Cartongesso standard", "12,5mm"}));
 }
 
 TEST(Structure, FollowsTheOrderOfEachElement) {

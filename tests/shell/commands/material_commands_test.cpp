@@ -2,11 +2,15 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QDir>
 #include <QDropEvent>
+#include <QFile>
 #include <QLabel>
 #include <QMimeData>
+#include <QPlainTextEdit>
 #include <QTableView>
 #include <QToolButton>
+#include <QTreeWidget>
 
 #include "tests/shell/support/materials_program.h"
 
@@ -156,6 +160,37 @@ class MaterialCommandsTest : public QObject {
     QTest::keyClick(list, Qt::Key_V, Qt::ControlModifier);
     QCOMPARE(program.Layer(LayerGroup::kLeaf1, 0).listed,
              view->currentIndex().data().toString().toStdString());
+  }
+
+  void theProjectsThatUseAMaterialAreFound() {
+    MaterialsProgram program;
+    const QString documents = program.folder.filePath("documenti");
+    QDir().mkpath(documents + "/cantiere");
+    program.fixture.services.places.documents = documents.toStdString();
+    QVERIFY(QFile::copy(EXAMPLES "/parete-forato-intonacata.drav", documents + "/cantiere/Casa.drav"));
+    QFile damaged(documents + "/rotto.drav");
+    QVERIFY(damaged.open(QIODevice::WriteOnly));
+    damaged.write("niente");
+    damaged.close();
+    program.fixture.window->OpenProject((documents + "/cantiere/Casa.drav").toStdString());
+    const std::string name = program.fixture.open.Setup().leaf1.rows[1].slot.name;
+    auto* list = program.OpenList();
+    MaterialsProgram::Search(*list, QString::fromStdString(name));
+    MaterialsProgram::Press(*list, "CommandUso");
+    auto* found = list->findChild<QDialog*>("UsoMateriale");
+    QVERIFY(found != nullptr);
+    auto* projects = found->findChild<QTreeWidget*>("UsoProgetti");
+    QTRY_COMPARE(projects->topLevelItemCount(), 1);
+    const QTreeWidgetItem* project = projects->topLevelItem(0);
+    QCOMPARE(project->text(0), QString("Casa"));
+    QCOMPARE(project->text(1), QString("strati 2"));
+    QCOMPARE(project->text(2), documents + "/cantiere");
+    const QString said = found->findChild<QLabel*>("UsoEsito")->text();
+    QVERIFY2(said.contains("progetti esaminati: 2"), qPrintable(said));
+    QVERIFY2(said.contains("non si possono leggere: 1"), qPrintable(said));
+    QVERIFY(found->findChild<QPlainTextEdit*>("UsoNonLetti")->toPlainText().endsWith("/rotto.drav"));
+    QTest::keyClick(found, Qt::Key_Escape);
+    QVERIFY(!found->isVisible());
   }
 
   void theTreeGoesWithTheMainWindow() {

@@ -107,6 +107,23 @@ class PaperCommandsTest : public QObject {
   Q_OBJECT
 
  private slots:
+  void thePageTellsTheCurvesThatAreCompared() {
+    Program program;
+    program.fixture.window->OpenProject(EXAMPLES "/parete-forato-intonacata.drav");
+    program.fixture.Run();
+    const std::size_t without = program.Page().data.tables.size();
+    program.fixture.overlay.lay_over = [](presentation::CurveChart& chart) {
+      presentation::ComparedCurve wall{.name = "Prova", .symbol = "Rw", .rating = 48.0};
+      wall.levels.fill(45.3);
+      chart.comparison.curves = {{.name = "Curva teorica", .levels = chart.values}, wall};
+    };
+    program.fixture.open.MarkSaved();
+    const auto data = program.Page().data;
+    QCOMPARE(data.tables.size(), without + 2);
+    QCOMPARE(data.tables[without].rows[1][1], std::string("Prova"));
+    QCOMPARE(data.tables[without].rows[1][2], std::string("48"));
+  }
+
   void thePageIsThatOfTheCommandLine_data() {
     QTest::addColumn<QString>("example");
     for (const char* example : {"parete-forato-intonacata", "sea-laterizio-doppia",

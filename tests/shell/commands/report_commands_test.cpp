@@ -5,14 +5,12 @@
 #include <QFile>
 #include <QTemporaryDir>
 #include <QTest>
-#include <csignal>
 #include <optional>
-
-#include <sys/resource.h>
 
 #include "presentation/documents/package.h"
 #include "presentation/reports/word_report.h"
 #include "tests/shell/support/window_fixture.h"
+#include "tests/storage/support/full_disk.h"
 
 namespace velmar::shell {
 namespace {
@@ -41,27 +39,6 @@ QByteArray Changed(const QString& name, const std::function<void(Package&)>& cha
   change(package);
   return QByteArray::fromStdString(package.Bytes());
 }
-
-/// A disk that takes four kilobytes of a file and no more, for as long as it lives.
-class FullDisk {
- public:
-  FullDisk() {
-    std::signal(SIGXFSZ, SIG_IGN);
-    ::getrlimit(RLIMIT_FSIZE, &before_);
-    rlimit little = before_;
-    little.rlim_cur = 4096;
-    ::setrlimit(RLIMIT_FSIZE, &little);
-  }
-  ~FullDisk() {
-    ::setrlimit(RLIMIT_FSIZE, &before_);
-    std::signal(SIGXFSZ, SIG_DFL);
-  }
-  FullDisk(const FullDisk&) = delete;
-  FullDisk& operator=(const FullDisk&) = delete;
-
- private:
-  rlimit before_{};
-};
 
 struct Report {
   const char* action;
@@ -274,6 +251,30 @@ class ReportCommandsTest : public QObject {
     QVERIFY(picture(plain) != picture(compared));
   }
 
+  void theReportTellsTheCurvesThatAreCompared() {
+    Program program;
+    program.fixture.overlay.lay_over = [](presentation::CurveChart& chart) {
+      presentation::ComparedCurve calculated{.name = "Curva teorica", .levels = chart.values, .symbol = "Rw"};
+      presentation::ComparedCurve wall{.name = "Prova & co.", .symbol = "Rw", .rating = 48.0, .term = -1.0};
+      wall.levels.fill(45.3);
+      chart.further.push_back({.name = wall.name, .values = wall.levels, .colour = Qt::darkBlue});
+      chart.comparison = {.curves = {calculated, wall}, .against = 0};
+    };
+    program.fixture.open.MarkSaved();
+    const std::string document = program.Document(program.Export(kWord, "con.docx"));
+    for (const char* text : {"Confronto tra le curve", "Prova &amp; co.", ">48<", ">45,3<",
+                             "Differenze rispetto alla curva 1 (Curva teorica) [dB]"})
+      QVERIFY2(document.find(text) != std::string::npos, text);
+    const Package workbook(BytesOf(program.Export(kExcel, "con.xlsx")).toStdString());
+    std::string sheets;
+    for (const std::string& name : workbook.Names()) {
+      if (name.find("sheet") != std::string::npos || name.find("sharedStrings") != std::string::npos)
+        sheets += workbook.Part(name);
+    }
+    for (const char* text : {"Confronto tra le curve", "Prova &amp; co.", ">45.3<"})
+      QVERIFY2(sheets.find(text) != std::string::npos, text);
+  }
+
   void aTemplateThatCannotBeUsedIsToldAndTheOldFileStays_data() {
     QTest::addColumn<int>("bad");
     QTest::addColumn<bool>("word");
@@ -327,8 +328,8 @@ class ReportCommandsTest : public QObject {
         Write(program.folder.filePath(".~lock." + name + report.ending + '#'), "x");
       if (name == "cartella") QVERIFY(QDir(program.folder.path()).mkdir(name + report.ending));
       const auto files = QDir(program.folder.path()).entryList(QDir::AllEntries | QDir::Hidden);
-      std::optional<FullDisk> full;
-      if (name == "disco-pieno") full.emplace();
+      std::optional<storage::FullDisk> full;
+      if (name == "disco-pieno") full.emplace(4096);
       program.Export(report, name + report.ending);
       full.reset();
       QCOMPARE(program.fixture.told.size(), 1);

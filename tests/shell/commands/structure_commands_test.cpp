@@ -3,6 +3,7 @@
 #include <QDialog>
 #include <QDockWidget>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QPushButton>
 #include <QTest>
 #include <QTimer>
@@ -16,6 +17,7 @@
 #include "calculation/edits/select_calculation.h"
 #include "calculation/runs/run.h"
 #include "shell/results/results_panel.h"
+#include "shell/windows/phrases.h"
 #include "storage/database/connection.h"
 #include "tests/shell/support/stores_program.h"
 
@@ -178,28 +180,86 @@ class StructureCommandsTest : public QObject {
     QVERIFY(program.fixture.window->findChildren<QDockWidget*>().isEmpty());
   }
 
-  void aClosedComparisonStaysInTheDrawingUntilTheNextOne() {
+  void aClosedComparisonLeavesNothingInTheDrawing() {
     Program program;
-    program.fixture.window->show();
     program.fixture.Choose("TIPO_PARETE_SINGOLA_0");
     program.fixture.Run();
     program.fixture.Find<QToolButton>("Toolbar1_13")->click();
     auto* comparison = program.fixture.Find<QDialog>("Form8");
     StoresProgram::OpenEntry(*comparison, "TreeView1", kResultsName, "List1", "Parete x");
     comparison->findChild<QCheckBox*>("Check1")->click();
-    comparison->close();
-    presentation::CurveChart chart;
-    chart.values = *program.fixture.open.Result()->spectrum;
-    program.commands->Comparison().LayOver(chart);
-    QVERIFY(chart.laboratory.has_value());
-    // The same window again: nothing is ticked, the drawing stands.
+    comparison->findChild<QPushButton*>("ConfrontoAggiungi_0")->click();
+    QVERIFY(program.fixture.Results().Chart()->laboratory.has_value());
+    QCOMPARE(program.fixture.Results().Chart()->further.size(), std::size_t{1});
+    QTest::keyClick(comparison, Qt::Key_Escape);
+    QVERIFY(!program.fixture.Results().Chart()->laboratory.has_value());
+    QVERIFY(program.fixture.Results().Chart()->further.empty());
+    QVERIFY(program.fixture.Results().Chart()->comparison.curves.empty());
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     program.fixture.Find<QToolButton>("Toolbar1_13")->click();
     QVERIFY(!program.fixture.Find<QCheckBox>("Check1")->isChecked());
-    program.commands->Comparison().LayOver(chart);
-    QVERIFY(chart.laboratory.has_value());
-    chart.autoscale = true;
-    program.commands->Comparison().LayOver(chart);
-    QVERIFY(!chart.laboratory.has_value());
+    QVERIFY(program.fixture.Results().Chart()->further.empty());
+  }
+
+  // The continuous calculation gives another element its result before anybody sees that the former is gone.
+  void anotherElementOrProjectEndsTheComparison_data() {
+    QTest::addColumn<bool>("project");
+    QTest::newRow("another calculation") << false;
+    QTest::newRow("another project") << true;
+  }
+  void anotherElementOrProjectEndsTheComparison() {
+    QFETCH(const bool, project);
+    Program program;
+    const char* example = EXAMPLES "/parete-forato-intonacata.drav";
+    program.fixture.window->OpenProject(example);
+    program.fixture.Find<QAction>("calcolo_continuo")->trigger();
+    QTRY_VERIFY(program.fixture.open.Result().has_value());
+    program.fixture.Find<QAction>("confronta_risultati")->trigger();
+    auto* comparison = program.fixture.Find<QDialog>("Form8");
+    StoresProgram::OpenEntry(*comparison, "TreeView1", kResultsName, "List1", "Parete x");
+    comparison->findChild<QPushButton*>("ConfrontoAggiungi_0")->click();
+    // A change of the same element is what one compares for.
+    program.fixture.Type("Text5_0", "80");
+    QTRY_VERIFY(program.fixture.open.Result().has_value());
+    QVERIFY(program.fixture.window->findChild<QDialog*>("Form8") != nullptr);
+    QCOMPARE(program.fixture.Results().Chart()->further.size(), std::size_t{1});
+    QVERIFY(program.fixture.Results().Chart()->comparison.curves.front().levels ==
+            *program.fixture.open.Result()->spectrum);
+    program.fixture.open.MarkSaved();
+    if (project) {
+      program.fixture.window->OpenProject(example);
+    } else {
+      program.fixture.Choose("TIPO_PARETE_SINGOLA_1");
+    }
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QVERIFY(program.fixture.window->findChild<QDialog*>("Form8") == nullptr);
+    QTRY_VERIFY(program.fixture.open.Result().has_value());
+    QVERIFY(program.fixture.Results().Chart()->further.empty());
+  }
+
+  void variantsOfTheProjectAreComparedAndDrawnOnce() {
+    Program program;
+    program.fixture.window->OpenProject(EXAMPLES "/parete-forato-intonacata.drav");
+    program.fixture.Run();
+    program.fixture.Find<QToolButton>("FissaVariante")->click();
+    program.fixture.Type("Text5_0", "80");
+    program.fixture.Run();
+    QCOMPARE(program.fixture.Results().Chart()->further.size(), std::size_t{1});
+    const QString name = FromUtf8(program.fixture.Results().Chart()->further.front().name);
+    program.fixture.Find<QAction>("confronta_risultati")->trigger();
+    auto* comparison = program.fixture.Find<QDialog>("Form8");
+    auto* list = comparison->findChild<QListWidget*>("List3");
+    QCOMPARE(list->count(), 1);
+    list->setCurrentRow(0);
+    comparison->findChild<QPushButton*>("ConfrontoAggiungi_2")->click();
+    QCOMPARE(program.fixture.Results().Chart()->further.size(), std::size_t{1});
+    QCOMPARE(FromUtf8(program.fixture.Results().Chart()->further.front().name), name);
+    QVERIFY(program.fixture.Results().Chart()->further.front().look.has_value());
+    // Without its variant the curve goes at once.
+    program.fixture.Find<QToolButton>("Variante_0")->setFocus();
+    QTest::keyClick(program.fixture.Find<QToolButton>("Variante_0"), Qt::Key_Delete);
+    QVERIFY(program.fixture.Results().Chart()->further.empty());
+    QCOMPARE(program.fixture.Results().Chart()->comparison.curves.size(), std::size_t{1});
   }
 
   void theMenuOpensTheLibraryAtImpactOrAirborneData() {

@@ -3,11 +3,12 @@
 #include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
-#include <QCheckBox>
 #include <QClipboard>
+#include <QComboBox>
 #include <QDialog>
 #include <QDir>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QPushButton>
 #include <QTabWidget>
 #include <QTest>
@@ -110,16 +111,30 @@ class Album {
     Settle();
   }
 
+  /// A calculated wall beside a variant of it, a measured wall and two stored results.
   void Comparison() {
-    program_.fixture.window->OpenProject(EXAMPLES "/cartongesso-lastra-singola.drav");
+    const WindowFixture& fixture = program_.fixture;
+    fixture.window->OpenProject(EXAMPLES "/cartongesso-lastra-singola.drav");
     program_.fixture.Run();
-    program_.fixture.Find<QAction>("confronta_risultati")->trigger();
-    StoresProgram::OpenEntry(
-        Dialog("Form8"), "TreeView1", kMeasuredWalls, "List1",
+    fixture.Find<QToolButton>("FissaVariante")->click();
+    fixture.Type("Text5_0", "25");
+    program_.fixture.Run();
+    fixture.Find<QAction>("confronta_risultati")->trigger();
+    const auto add = [this](const char* file, const char* name) {
+      StoresProgram::OpenEntry(Dialog("Form8"), "TreeView1", file, "List1", name);
+      Dialog("Form8").findChild<QPushButton*>("ConfrontoAggiungi_0")->click();
+    };
+    add("Database_teorico", "Tramezzo in forati");
+    add("Database_teorico", "Vetrocamera 4-12-4");
+    add(kMeasuredWalls,
         "Parete su montanti in legno, cartongesso 13 mm sui due lati, fibra di cellulosa 90 mm");
-    Dialog("Form8").findChild<QCheckBox*>("Check1")->click();
+    Dialog("Form8").findChild<QListWidget*>("List3")->setCurrentRow(0);
+    Dialog("Form8").findChild<QPushButton*>("ConfrontoAggiungi_2")->click();
+    auto* from = Dialog("Form8").findChild<QComboBox*>("ConfrontoRispetto");
+    from->setCurrentIndex(1);
+    emit from->activated(1);
     Save(Dialog("Form8"), "confronto");
-    Save(*program_.fixture.window, "confronto-curve");
+    Save(*fixture.window, "confronto-curve");
     Dialog("Form8").close();
     Settle();
   }

@@ -268,6 +268,13 @@ class Look {
     for (const presentation::Strip& strip : presentation::SectionOf(setup_).strips) {
       if (strip.number == 0 || !strip.place.group) continue;
       const elements::LayerGroupRow& group = RowOf(*strip.place.group);
+      const bool is_fibre = *strip.place.group == elements::LayerGroup::kCavity &&
+                            setup_.cavity.kind == elements::CavityKind::kFibrous;
+      if (is_fibre) {
+        const auto* number = Shown<QLabel>("NumeroFibra");
+        if (number != nullptr) Expect("NumeroFibra", number->text(), "n. " + QString::number(strip.number));
+        continue;
+      }
       const QString list = Name(std::string(group.list).c_str(), strip.place.row);
       const auto* box = Shown<QComboBox>(list);
       if (box == nullptr) return Expect("the section", "layer " + QString::number(strip.number), "no row");

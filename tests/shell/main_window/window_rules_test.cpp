@@ -4,6 +4,7 @@
 #include <QClipboard>
 #include <QComboBox>
 #include <QGuiApplication>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMimeData>
 #include <QScreen>
@@ -103,6 +104,30 @@ class WindowRulesTest : public QObject {
     QCOMPARE(field->text(), value);
     fixture_->Type("Text8", "45,5");
     QCOMPARE(field->text(), typed);
+  }
+
+  // N = 0, 1, 2: a number of connections, in no unit.
+  void aLiningOnAFrameAsksForACount() {
+    const auto caption = [this] {
+      const auto* field = fixture_->Find<QLineEdit>("Text8");
+      for (const QLabel* label : fixture_->window->findChildren<QLabel*>()) {
+        if (label->buddy() == field) return label->text().remove('&');
+      }
+      return QString();
+    };
+    fixture_->Choose("mnuCalcoloControplaccaggiScelta_2");
+    QCOMPARE(caption(), QString("N° collegamenti:"));
+    fixture_->Choose("TIPO_PARETE_DOPPIA_LEGGERA_LLPI_0");
+    QVERIFY2(caption() != "N° collegamenti:" && !caption().isEmpty(), qPrintable(caption()));
+  }
+
+  void anEndlessMassIsNoNumber() {
+    fixture_->Choose("TIPO_PARETE_SINGOLA_0");
+    fixture_->Type("Text5_0", "1E308");
+    QVERIFY(!fixture_->Find<QLabel>("Text4")->text().contains("inf"));
+    fixture_->Type("Text5_0", "123,4");
+    const QString mass = fixture_->Find<QLabel>("Text4")->text();
+    QVERIFY2(mass.section(',', 1).size() == 1, qPrintable("one decimal: " + mass));
   }
 
   void aGenericCavityGivesWayWhereItIsNotOffered() {

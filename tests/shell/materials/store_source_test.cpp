@@ -7,6 +7,7 @@
 #include <QTableView>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTimer>
 #include <QTreeView>
 #include <filesystem>
 #include <fstream>
@@ -54,6 +55,35 @@ TEST_F(StoreSourceTest, TheShippedTablesAreListedWhole) {
     Picture(window, QStringLiteral("form2-") + QLatin1String(option));
   }
   EXPECT_TRUE(boxes_.told.isEmpty());
+}
+
+// Another program that saves keeps readers out for a moment: the window paints meanwhile.
+TEST_F(StoreSourceTest, ALockIsWaitedForByAWindowThatLives) {
+  MaterialListWindow window(boxes_.Tools(), StoredMaterials(file_), std::nullopt, {});
+  window.show();
+  SQLite::Database other(file_.string(), SQLite::OPEN_READWRITE);
+  other.exec("BEGIN EXCLUSIVE");
+  // Only a window that goes on handling events lets the other program finish.
+  bool lived = false;
+  QTimer::singleShot(30, &window, [&] {
+    lived = true;
+    other.exec("ROLLBACK");
+  });
+  Child<QRadioButton>(window, "Option1_2").click();
+  EXPECT_TRUE(lived);
+  EXPECT_TRUE(boxes_.told.isEmpty());
+  EXPECT_GT(Child<QTableView>(window, "DataGrid1").model()->rowCount(), 30);
+}
+
+TEST_F(StoreSourceTest, AFileThatIsHeldForGoodIsTold) {
+  MaterialListWindow window(boxes_.Tools(), StoredMaterials(file_), std::nullopt, {});
+  window.show();
+  SQLite::Database other(file_.string(), SQLite::OPEN_READWRITE);
+  other.exec("BEGIN EXCLUSIVE");
+  Child<QRadioButton>(window, "Option1_2").click();
+  ASSERT_EQ(boxes_.told.size(), 1);
+  EXPECT_TRUE(boxes_.told.first().contains("in uso in un altro programma"))
+      << boxes_.told.first().toStdString();
 }
 
 TEST_F(StoreSourceTest, TheTreeShowsAShippedMaterial) {

@@ -4,8 +4,10 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QListView>
+#include <QListWidget>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QTableWidget>
 #include <QTest>
 #include <QTreeWidget>
 #include <memory>
@@ -14,6 +16,8 @@
 #include <gtest/gtest.h>
 
 #include "presentation/drawing/chart_scale.h"
+#include "presentation/drawing/compared_looks.h"
+#include "shell/structures/difference_view.h"
 #include "shell/structures/library_tree.h"
 #include "tests/shell/structures/fake_sources.h"
 
@@ -44,6 +48,37 @@ class ComparisonWindowTest : public testing::Test {
   void Choose(const char* tree, const QString& file, const char* list, int row) {
     OpenLibraryFile(*window_, tree, file);
     SelectTest(*window_, list, row);
+  }
+  /// Chooses a structure and presses the button that keeps it.
+  void Keep(const char* tree, const QString& file, const char* list, int row, const char* button) {
+    Choose(tree, file, list, row);
+    Child<QPushButton>(*window_, button).click();
+  }
+  /// The texts of the columns that are shown, a line each.
+  QStringList Lines() {
+    const auto& table = Child<QTableWidget>(*window_, "TabellaConfronto");
+    QStringList lines;
+    for (int row = 0; row < table.rowCount(); ++row) {
+      QStringList cells;
+      for (int column = 0; column < table.columnCount(); ++column) {
+        if (!table.isColumnHidden(column)) cells << table.item(row, column)->text();
+      }
+      lines << cells.join(" | ");
+    }
+    return lines;
+  }
+  QStringList AddedNames() const {
+    QStringList names;
+    for (const presentation::FurtherCurve& curve : drawn_.back().added)
+      names << QString::fromStdString(curve.name);
+    return names;
+  }
+  void SelectCurve(int row) { Child<QTableWidget>(*window_, "TabellaConfronto").setCurrentCell(row, 0); }
+  void CountFrom(int index) {
+    auto& from = Child<QComboBox>(*window_, "ConfrontoRispetto");
+    from.setFocus();
+    from.setCurrentIndex(index);
+    emit from.activated(index);
   }
   QCheckBox& Check(const char* name) { return Child<QCheckBox>(*window_, name); }
   /// Every file under the tree's nodes.
@@ -175,7 +210,7 @@ TEST_F(ComparisonWindowTest, TheOverlayWidensTheRangeOnlyWithAutoscale) {
   EXPECT_EQ(presentation::RangeOf(chart).minimum, 10.0);
 }
 
-TEST_F(ComparisonWindowTest, AnInvalidResultClosesItAndTheChartStaysAsItWas) {
+TEST_F(ComparisonWindowTest, AnInvalidResultClosesIt) {
   Open();
   Choose("TreeView1", "Murature", "List1", 0);
   Check("Check1").click();
@@ -215,14 +250,24 @@ TEST_F(ComparisonWindowTest, AFileThatCannotBeReadIsTold) {
 
 TEST_F(ComparisonWindowTest, TabGoesAsOneReads) {
   Activate(Open());
+  EXPECT_EQ(window_->focusWidget()->objectName(), "List1_cerca") << "a letter begins the search";
+  Child<QWidget>(*window_, "TabellaConfronto").setFocus();
   EXPECT_EQ(TabStops(*window_),
-            (QStringList{"Check1", "TreeView1", "Combo1", "List1_cerca", "List1", "Text1", "Check2",
-                         "TreeView2", "Combo2", "List2_cerca", "List2", "Text2", "Command1"}));
+            (QStringList{"TabellaConfronto", "ConfrontoRispetto", "qt_tabwidget_tabbar", "Check1",
+                         "TreeView1", "Combo1", "List1_cerca", "List1", "Text1", "Command1"}));
+  Keep("TreeView1", "Murature", "List1", 1, "ConfrontoAggiungi_0");
+  Child<QWidget>(*window_, "TabellaConfronto").setFocus();
+  EXPECT_EQ(TabStops(*window_),
+            (QStringList{"TabellaConfronto", "ConfrontoRispetto", "ConfrontoTogli", "qt_tabwidget_tabbar",
+                         "Check1", "TreeView1", "Combo1", "List1_cerca", "List1", "ConfrontoAggiungi_0",
+                         "Text1", "Command1"}));
 }
 
 TEST_F(ComparisonWindowTest, EveryControlHasAName) {
   Activate(Open());
-  for (const char* name : {"TreeView1", "Combo1", "List1_cerca", "List1", "Text1", "TreeView2", "List2"})
+  for (const char* name :
+       {"TreeView1", "Combo1", "List1_cerca", "List1", "Text1", "TreeView2", "List2", "List3",
+        "TabellaConfronto", "ConfrontoRispetto", "ConfrontoSu", "ConfrontoGiu", "ConfrontoDifferenze"})
     EXPECT_FALSE(Child<QWidget>(*window_, name).accessibleName().isEmpty()) << name;
 }
 
@@ -248,8 +293,165 @@ TEST_F(ComparisonWindowTest, SizesAreRemembered) {
 TEST_F(ComparisonWindowTest, TheKeywordFiltersTheList) {
   Open();
   OpenLibraryFile(*window_, "TreeView1", "Murature");
-  Child<QComboBox>(*window_, "Combo1").setCurrentText("pieni");
+  ChooseKeyword(*window_, "Combo1", "pieni");
   EXPECT_EQ(Child<QListView>(*window_, "List1").model()->rowCount(), 1);
+}
+
+presentation::ComparedCurve Curve(const std::string& name, double level, double rating) {
+  presentation::ComparedCurve curve{.name = name, .symbol = "Rw", .rating = rating, .term = -1.0};
+  curve.levels.fill(level);
+  return curve;
+}
+
+TEST_F(ComparisonWindowTest, SeveralStructuresStandInTheTableWithTheirRatings) {
+  Open();
+  window_->Follow({.calculated = Curve("Curva teorica", 45, 49), .variants = {Curve("A", 44, 47)}});
+  Keep("TreeView1", "Murature", "List1", 1, "ConfrontoAggiungi_0");
+  Keep("TreeView1", "Murature", "List1", 2, "ConfrontoAggiungi_0");
+  Keep("TreeView2", "In opera", "List2", 0, "ConfrontoAggiungi_1");
+  Child<QListWidget>(*window_, "List3").setCurrentRow(0);
+  Child<QPushButton>(*window_, "ConfrontoAggiungi_2").click();
+  Check("Check1").click();
+  EXPECT_EQ(Lines(), (QStringList{"Curva teorica | 49 | −1 | –", "Blocchi 20 | 48 | −1 | −5",
+                                  "Pieno 25 | 53 | −1 | −5", "Blocchi 20 | 48 | −1 | −5",
+                                  "Cantiere A | R'w 46 | −1 | −5", "A | 47 | −1 | –"}));
+  EXPECT_EQ(AddedNames(), (QStringList{"Pieno 25", "Blocchi 20", "Cantiere A", "A"}));
+  EXPECT_EQ(drawn_.back().added[0].values[10], 48.0);
+  EXPECT_EQ(drawn_.back().comparison.curves.size(), 6U);
+  Picture(*window_, "form8-curve");
+}
+
+TEST_F(ComparisonWindowTest, CurvesDifferInColourAndDash) {
+  for (std::size_t i = 0; i < presentation::kComparedLooks.size(); ++i) {
+    for (std::size_t j = 0; j < i; ++j)
+      EXPECT_NE(presentation::kComparedLooks.at(i).colour, presentation::kComparedLooks.at(j).colour);
+    EXPECT_NE(presentation::kComparedLooks.at(i).look.dashes, Qt::SolidLine);
+  }
+  for (std::size_t i = 1; i < presentation::kComparedLooks.size(); ++i)
+    EXPECT_NE(presentation::kComparedLooks.at(i).look.dashes,
+              presentation::kComparedLooks.at(i - 1).look.dashes);
+}
+
+TEST_F(ComparisonWindowTest, ARemovedCurveLeavesTheOthersTheirColour) {
+  Activate(Open());
+  for (const int row : {0, 1, 2}) Keep("TreeView1", "Murature", "List1", row, "ConfrontoAggiungi_0");
+  const QColor last = drawn_.back().added[2].colour;
+  SelectCurve(1);
+  QTest::keyClick(&Child<QWidget>(*window_, "TabellaConfronto"), Qt::Key_Delete);
+  EXPECT_EQ(AddedNames(), (QStringList{"Forato 12", "Blocchi 20"}));
+  EXPECT_EQ(drawn_.back().added[1].colour, last);
+  Keep("TreeView1", "Murature", "List1", 1, "ConfrontoAggiungi_0");
+  EXPECT_NE(drawn_.back().added[2].colour, last) << "the place that became free is taken again";
+  EXPECT_NE(drawn_.back().added[2].colour, drawn_.back().added[0].colour);
+}
+
+TEST_F(ComparisonWindowTest, CurvesAreMovedByKeysAndButtons) {
+  Activate(Open());
+  for (const int row : {0, 1, 2}) Keep("TreeView1", "Murature", "List1", row, "ConfrontoAggiungi_0");
+  SelectCurve(2);
+  auto& table = Child<QTableWidget>(*window_, "TabellaConfronto");
+  QTest::keyClick(&table, Qt::Key_Up, Qt::ControlModifier | Qt::ShiftModifier);
+  EXPECT_EQ(AddedNames(), (QStringList{"Forato 12", "Blocchi 20", "Pieno 25"}));
+  EXPECT_EQ(table.currentRow(), 1) << "the moved curve stays selected";
+  Child<QAbstractButton>(*window_, "ConfrontoSu").click();
+  EXPECT_EQ(AddedNames(), (QStringList{"Blocchi 20", "Forato 12", "Pieno 25"}));
+  EXPECT_FALSE(Child<QAbstractButton>(*window_, "ConfrontoSu").isEnabled());
+  QTest::keyClick(&table, Qt::Key_Down, Qt::ControlModifier | Qt::ShiftModifier);
+  EXPECT_EQ(AddedNames(), (QStringList{"Forato 12", "Blocchi 20", "Pieno 25"}));
+}
+
+TEST_F(ComparisonWindowTest, EnterInTheListKeepsTheStructure) {
+  Activate(Open());
+  Choose("TreeView1", "Murature", "List1", 1);
+  auto& list = Child<QListView>(*window_, "List1");
+  list.setFocus();
+  QTest::keyClick(&list, Qt::Key_Return);
+  ASSERT_FALSE(drawn_.empty());
+  EXPECT_EQ(AddedNames(), QStringList{"Pieno 25"});
+  EXPECT_TRUE(window_->isVisible());
+}
+
+TEST_F(ComparisonWindowTest, TheCurveOfASideIsRemovedByUntickingIt) {
+  Open();
+  Choose("TreeView1", "Murature", "List1", 1);
+  Check("Check1").click();
+  SelectCurve(0);
+  Child<QAbstractButton>(*window_, "ConfrontoTogli").click();
+  EXPECT_FALSE(Check("Check1").isChecked());
+  EXPECT_FALSE(drawn_.back().laboratory.has_value());
+  EXPECT_TRUE(Lines().isEmpty());
+}
+
+TEST_F(ComparisonWindowTest, TheCalculatedCurveStays) {
+  Open();
+  window_->Follow({.calculated = Curve("Curva teorica", 45, 49)});
+  SelectCurve(0);
+  EXPECT_FALSE(Child<QAbstractButton>(*window_, "ConfrontoTogli").isEnabled());
+  QTest::keyClick(&Child<QWidget>(*window_, "TabellaConfronto"), Qt::Key_Delete);
+  EXPECT_EQ(Lines(), QStringList{"Curva teorica | 49 | −1 | –"});
+}
+
+TEST_F(ComparisonWindowTest, NoMoreThanSixAreAdded) {
+  Open();
+  for (int i = 0; i < 8; ++i) Keep("TreeView1", "Murature", "List1", i % 3, "ConfrontoAggiungi_0");
+  EXPECT_EQ(Lines().size(), 6);
+  const auto& add = Child<QPushButton>(*window_, "ConfrontoAggiungi_0");
+  EXPECT_FALSE(add.isEnabled());
+  EXPECT_TRUE(add.toolTip().contains("6"));
+  SelectCurve(0);
+  Child<QAbstractButton>(*window_, "ConfrontoTogli").click();
+  EXPECT_TRUE(add.isEnabled());
+}
+
+TEST_F(ComparisonWindowTest, DifferencesAreCountedFromTheChosenCurve) {
+  Open();
+  window_->Follow({.calculated = Curve("Curva teorica", 45, 49)});
+  Keep("TreeView1", "Murature", "List1", 1, "ConfrontoAggiungi_0");
+  auto& view = dynamic_cast<DifferenceView&>(Child<QWidget>(*window_, "ConfrontoDifferenze"));
+  EXPECT_FALSE(view.isVisible());
+  CountFrom(1);
+  EXPECT_TRUE(view.isVisible());
+  EXPECT_EQ(Lines(), (QStringList{"Curva teorica | 49 | −1 | – | –", "Pieno 25 | 53 | −1 | −5 | +4"}));
+  ASSERT_EQ(view.Chart().curves.size(), 1U);
+  EXPECT_EQ(view.Chart().curves[0].differences_db[0], -7.0);
+  EXPECT_EQ(view.Chart().curves[0].differences_db[20], 13.0);
+  EXPECT_EQ(drawn_.back().comparison.against, 0U);
+  CountFrom(2);
+  EXPECT_EQ(view.Chart().curves[0].differences_db[0], 7.0);
+  Picture(*window_, "form8-differenze");
+  SelectCurve(1);
+  Child<QAbstractButton>(*window_, "ConfrontoTogli").click();
+  EXPECT_FALSE(view.isVisible()) << "the curve that differences were counted from is gone";
+  EXPECT_FALSE(drawn_.back().comparison.against.has_value());
+}
+
+TEST_F(ComparisonWindowTest, AVariantFollowsTheProject) {
+  Open();
+  window_->Follow({.variants = {Curve("A", 44, 47), Curve("B", 40, 43)}});
+  for (const int row : {0, 1}) {
+    Child<QListWidget>(*window_, "List3").setCurrentRow(row);
+    Child<QPushButton>(*window_, "ConfrontoAggiungi_2").click();
+  }
+  window_->Follow({.variants = {Curve("B", 41, 44)}});
+  EXPECT_EQ(Lines(), QStringList{"B | 44 | −1 | –"});
+  EXPECT_EQ(window_->Current().added[0].values[0], 41.0);
+  EXPECT_EQ(Child<QListWidget>(*window_, "List3").count(), 1);
+}
+
+TEST_F(ComparisonWindowTest, AStructureWithoutBandsCannotBeKept) {
+  library_.tests["Murature"][0].part.bands_db = {};
+  Open();
+  Choose("TreeView1", "Murature", "List1", 0);
+  EXPECT_FALSE(Child<QPushButton>(*window_, "ConfrontoAggiungi_0").isEnabled());
+}
+
+TEST_F(ComparisonWindowTest, ClosedItKeepsNoCurve) {
+  Open();
+  Keep("TreeView1", "Murature", "List1", 1, "ConfrontoAggiungi_0");
+  QTest::keyClick(window_.get(), Qt::Key_Escape);
+  window_->show();
+  EXPECT_TRUE(Lines().isEmpty());
+  EXPECT_TRUE(window_->Current().added.empty());
 }
 
 }  // namespace

@@ -1,5 +1,6 @@
 #include "tests/shell/structures/fake_sources.h"
 
+#include <QComboBox>
 #include <QListView>
 #include <QPixmap>
 #include <QTest>
@@ -142,6 +143,14 @@ void OpenLibraryFile(QWidget& window, const char* tree, const QString& name) {
   const QList<QTreeWidgetItem*> found = widget.findItems(name, Qt::MatchExactly | Qt::MatchRecursive);
   if (found.isEmpty()) throw std::runtime_error("no file " + name.toStdString());
   widget.setCurrentItem(found.first());
+}
+
+void ChooseKeyword(QWidget& window, const char* box, const QString& keyword) {
+  auto& keywords = Child<QComboBox>(window, box);
+  const int index = keywords.findText(keyword);
+  if (index < 0) throw std::runtime_error("no keyword " + keyword.toStdString());
+  keywords.setCurrentIndex(index);
+  emit keywords.textActivated(keyword);
 }
 
 void SelectTest(QWidget& window, const char* list, int row) {

@@ -71,6 +71,8 @@ QStringList TabStops(QWidget& window);
 
 /// Selects the file `name` in the tree called `tree`.
 void OpenLibraryFile(QWidget& window, const char* tree, const QString& name);
+/// Chooses `keyword` in the list of keywords called `box`, as from its list.
+void ChooseKeyword(QWidget& window, const char* box, const QString& keyword);
 /// Selects the test in row `row` of the list called `list`.
 void SelectTest(QWidget& window, const char* list, int row);
 

@@ -16,6 +16,7 @@
 
 #include "calculation/runs/run.h"
 #include "elements/catalogue.h"
+#include "shell/fields/field_note.h"
 #include "shell/structures/saved_results_window.h"
 #include "shell/structures/test_details.h"
 #include "tests/shell/structures/fake_sources.h"
@@ -183,13 +184,50 @@ TEST_F(MeasuredLibraryWindowTest, AFileFillsListAndKeywordsAndShowsTheFirstDescr
 TEST_F(MeasuredLibraryWindowTest, TheKeywordFiltersAndAllBringsEverythingBack) {
   Open(0);
   OpenLibraryFile(*window_, "TreeView1", "Murature");
-  QComboBox& keywords = Child<QComboBox>(*window_, "Combo1");
   const QAbstractItemModel& list = *Child<QListView>(*window_, "List1").model();
-  keywords.setCurrentText("forati");
+  ChooseKeyword(*window_, "Combo1", "forati");
   EXPECT_EQ(list.rowCount(), 2);
   EXPECT_EQ(list.index(1, 0).data().toString(), "Blocchi 20");
-  keywords.setCurrentIndex(0);
+  ChooseKeyword(*window_, "Combo1", "tutti");
   EXPECT_EQ(list.rowCount(), 3);
+}
+
+TEST_F(MeasuredLibraryWindowTest, AKeywordIsFoundByAPartOfIt) {
+  Activate(OpenAt(0, "Murature", 0));
+  auto& keywords = Child<QComboBox>(*window_, "Combo1");
+  const QAbstractItemModel& list = *Child<QListView>(*window_, "List1").model();
+  keywords.setFocus();
+  keywords.lineEdit()->selectAll();
+  QTest::keyClicks(&keywords, "ien");
+  QTest::keyClick(&keywords, Qt::Key_Return);
+  EXPECT_EQ(keywords.currentText(), "pieni");
+  EXPECT_EQ(list.rowCount(), 1);
+  keywords.lineEdit()->selectAll();
+  QTest::keyClicks(&keywords, "xyz");
+  QTest::keyClick(&keywords, Qt::Key_Return);
+  EXPECT_TRUE(keywords.hasFocus());
+  EXPECT_FALSE(shell::FieldNote::TextAt(&keywords).isEmpty()) << "a text without a hit says so";
+  EXPECT_EQ(list.rowCount(), 1) << "and changes nothing";
+}
+
+TEST_F(MeasuredLibraryWindowTest, EnterInTheSearchTakesTheBestHitOrSaysThatThereIsNone) {
+  library_.tests["Murature"] = {TestOf("Parete con laterizio", 30), TestOf("Blocco", 31),
+                                TestOf("Laterizio forato", 32)};
+  window_.reset();
+  Activate(OpenFor(LibraryPurpose::kAirborneData));  // to look at: nothing is handed over
+  OpenLibraryFile(*window_, "TreeView1", "Murature");
+  auto& search = Child<QLineEdit>(*window_, "List1_cerca");
+  search.setFocus();
+  QTest::keyClicks(&search, "later");
+  QTest::keyClick(&search, Qt::Key_Return);
+  auto& list = Child<QListView>(*window_, "List1");
+  EXPECT_EQ(list.currentIndex().data().toString(), "Laterizio forato") << "it begins with the text";
+  search.selectAll();
+  QTest::keyClicks(&search, "xyz");
+  QTest::keyClick(&search, Qt::Key_Return);
+  EXPECT_TRUE(search.hasFocus());
+  EXPECT_TRUE(window_->isVisible());
+  EXPECT_EQ(shell::FieldNote::TextAt(&search), "Nessuna voce dell'elenco contiene questo testo.");
 }
 
 TEST_F(MeasuredLibraryWindowTest, ATestShowsItsValuesAndCertificate) {

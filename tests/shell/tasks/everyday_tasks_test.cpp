@@ -192,7 +192,9 @@ class EverydayTasksTest : public QObject {
 
   void wordReport() {
     const QTemporaryDir folder;
-    ReportCommands commands(std::filesystem::path(SHARE) / "Templates", {});
+    DocumentServices documents;
+    documents.places.templates = std::filesystem::path(SHARE) / "Templates";
+    ReportCommands commands(documents);
     WindowFixture fixture;
     fixture.services.report_commands = &commands;
     fixture.MakeWindow();

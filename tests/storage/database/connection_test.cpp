@@ -1,15 +1,13 @@
 #include "storage/database/connection.h"
 
-#include <csignal>
-
 #include <SQLiteCpp/Database.h>
 #include <SQLiteCpp/Transaction.h>
 #include <gtest/gtest.h>
 #include <sqlite3.h>
-#include <sys/resource.h>
 
 #include "storage/database/database_failure.h"
 #include "tests/storage/support/databases.h"
+#include "tests/storage/support/full_disk.h"
 #include "tests/storage/support/temporary_folder.h"
 
 namespace velmar::storage {
@@ -154,16 +152,12 @@ TEST_F(ConnectionTest, AReadingGoesOnBehindADamagedRow) {
 
 /// A limit on the size of files takes the place of a full disk.
 TEST_F(ConnectionTest, AFullDiskIsNotBlamedOnPermissions) {
-  rlimit before{};
-  ASSERT_EQ(::getrlimit(RLIMIT_FSIZE, &before), 0);
-  const auto handler = std::signal(SIGXFSZ, SIG_IGN);
-  rlimit small = before;
-  small.rlim_cur = 100;
-  ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &small), 0);
-  const DatabaseProblem problem = ProblemOfChanging(file_, "INSERT INTO t VALUES (zeroblob(100000))");
-  ::setrlimit(RLIMIT_FSIZE, &before);
-  std::signal(SIGXFSZ, handler);
-  EXPECT_TRUE(problem == DatabaseProblem::kDiskFull || problem == DatabaseProblem::kNotChanged);
+  for (const rlim_t room : {0, 100, 20000}) {
+    std::optional<FullDisk> full(room);
+    const DatabaseProblem problem = ProblemOfChanging(file_, "INSERT INTO t VALUES (zeroblob(100000))");
+    full.reset();
+    EXPECT_EQ(problem, DatabaseProblem::kDiskFull) << room;
+  }
   EXPECT_EQ(Count(), 1);
 }
 

@@ -1,7 +1,6 @@
 #include "storage/files/whole_file.h"
 
 #include <cerrno>
-#include <csignal>
 #include <fstream>
 #include <iterator>
 #include <optional>
@@ -9,12 +8,12 @@
 #include <vector>
 
 #include <gtest/gtest.h>
-#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include "foundation/message_rows.h"
 #include "storage/files/store_failure.h"
+#include "tests/storage/support/full_disk.h"
 #include "tests/storage/support/ordinary_user.h"
 #include "tests/storage/support/temporary_folder.h"
 
@@ -134,20 +133,14 @@ TEST_F(WholeFileTest, LeavesAReadOnlyFileAlone) {
 
 TEST_F(WholeFileTest, AFullDiskLeavesTheOldFileAndNothingElse) {
   WriteWhole(At("a"), "old");
-  rlimit before{};
-  ASSERT_EQ(::getrlimit(RLIMIT_FSIZE, &before), 0);
-  const auto handler = std::signal(SIGXFSZ, SIG_IGN);
-  rlimit small = before;
-  small.rlim_cur = 1000;
-  ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &small), 0);
+  std::optional<FullDisk> full(1000);
   std::optional<StoreReason> reason;
   try {
     WriteWhole(At("a"), std::string(5000, 'x'));
   } catch (const StoreFailure& failure) {
     reason = failure.Reason();
   }
-  ::setrlimit(RLIMIT_FSIZE, &before);
-  std::signal(SIGXFSZ, handler);
+  full.reset();
   EXPECT_EQ(reason, StoreReason::kDiskFull);
   EXPECT_EQ(Content(At("a")), "old");
   EXPECT_EQ(FileCount(), 1U);

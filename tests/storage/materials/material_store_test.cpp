@@ -5,6 +5,7 @@
 
 #include "storage/database/database_failure.h"
 #include "tests/storage/support/databases.h"
+#include "tests/storage/support/full_disk.h"
 #include "tests/storage/support/temporary_folder.h"
 
 namespace velmar::storage {
@@ -122,6 +123,17 @@ TEST_F(MaterialStoreTest, GivesSetUpsTheirLookUps) {
   EXPECT_FALSE(lookup.resilient("Mattone"));
 }
 
+TEST_F(MaterialStoreTest, ALookUpWaitsNoLongerThanItIsTold) {
+  SQLite::Database other(store_.File().string(), SQLite::OPEN_READWRITE);
+  other.exec("BEGIN EXCLUSIVE");
+  const elements::MaterialLookup lookup = MaterialLookupIn(store_.File(), kWindowPatienceMs);
+  EXPECT_THROW(lookup.structural("a"), DatabaseFailure);
+  other.exec("ROLLBACK");
+  EXPECT_NO_THROW(lookup.structural("a"));
+  // What a hand takes for an answer at once.
+  static_assert(kWindowPatienceMs <= 100);
+}
+
 /// A set-up of many layers asks many times: a file that another program holds is waited for once.
 TEST_F(MaterialStoreTest, LookUpsOfOneOperationStopAtTheFirstLock) {
   const elements::MaterialLookup each = MaterialLookupIn(store_.File());
@@ -134,6 +146,25 @@ TEST_F(MaterialStoreTest, LookUpsOfOneOperationStopAtTheFirstLock) {
   EXPECT_THROW(once.fibrous("a"), DatabaseFailure) << "in no table";
   EXPECT_NO_THROW(each.structural("a"));
   EXPECT_NO_THROW(elements::ForOneOperation(each).structural("a"));
+}
+
+TEST_F(MaterialStoreTest, AFullDiskLeavesTheTable) {
+  store_.Add<StructuralMaterial>({Brick("Mattone", 120.0)});
+  StructuralRow large = Brick("Altro", 80.0);
+  large.record.values.description = std::string(200000, 'x');
+  std::optional<DatabaseProblem> problem;
+  {
+    const FullDisk full(1000);
+    try {
+      store_.Add<StructuralMaterial>({large});
+    } catch (const DatabaseFailure& failure) {
+      problem = failure.Problem();
+    }
+  }
+  EXPECT_EQ(problem, DatabaseProblem::kDiskFull);
+  EXPECT_EQ(Names(), "Mattone|");
+  store_.Add<StructuralMaterial>({large});
+  EXPECT_EQ(Names(), "Mattone|Altro|");
 }
 
 }  // namespace

@@ -15,6 +15,7 @@
 #include "storage/project/project_reader.h"
 #include "storage/project/project_writer.h"
 #include "tests/storage/project/sample_setup.h"
+#include "tests/storage/support/full_disk.h"
 #include "tests/storage/support/ordinary_user.h"
 
 namespace velmar::storage {
@@ -57,6 +58,26 @@ TEST_F(SaveProjectTest, AFailedSaveLeavesTheOldProject) {
   EXPECT_THROW(SaveProject(path, SampleSetup(kSingleWallBrick)), StoreFailure);
   EXPECT_EQ(OpenProject(path, {}).setup.calculation, kCeilingSea);
   EXPECT_THROW(SaveProject(folder_ / "none" / "a.drav", {}), StoreFailure);
+}
+
+TEST_F(SaveProjectTest, AFullDiskLeavesTheOldProject) {
+  const elements::Setup old = SampleSetup(kSingleWallGeneric);
+  SaveProject(folder_ / "a.drav", old);
+  elements::Setup longer = old;
+  longer.leaf1.rows[0].slot.description = std::string(20000, 'x');
+  std::optional<Message> told;
+  {
+    const FullDisk full(1000);
+    try {
+      SaveProject(folder_ / "a.drav", longer);
+    } catch (const StoreFailure& failure) {
+      told = failure.UserMessage();
+    }
+  }
+  ASSERT_TRUE(told);
+  EXPECT_EQ(LeadingRow(told->at(1)), kDiskFullRow);
+  EXPECT_TRUE(OpenProject(folder_ / "a.drav", {}).setup == old);
+  EXPECT_EQ(std::distance(fs::directory_iterator(folder_), fs::directory_iterator()), 1);
 }
 
 /// A program that saves `one` and `other` in turn, and is killed `delay` after its first save.

@@ -4,6 +4,7 @@
 
 #include "storage/database/database_failure.h"
 #include "tests/storage/support/databases.h"
+#include "tests/storage/support/full_disk.h"
 #include "tests/storage/support/temporary_folder.h"
 
 namespace velmar::storage {
@@ -116,6 +117,22 @@ TEST_F(ResultsStoreTest, AMissingFileSavesNothingAndMakesNone) {
   ResultsStore store(folder_ / "none.mdb");
   EXPECT_THROW(store.Save(ResultTable::kAirborne, Wall("a")), DatabaseFailure);
   EXPECT_FALSE(std::filesystem::exists(folder_ / "none.mdb"));
+}
+
+TEST_F(ResultsStoreTest, AFullDiskLeavesTheTable) {
+  store_.Save(ResultTable::kAirborne, Wall("Parete"));
+  std::optional<DatabaseProblem> problem;
+  {
+    const FullDisk full(1000);
+    try {
+      store_.Save(ResultTable::kAirborne, Wall("Altra"));
+    } catch (const DatabaseFailure& failure) {
+      problem = failure.Problem();
+    }
+  }
+  EXPECT_EQ(problem, DatabaseProblem::kDiskFull);
+  EXPECT_EQ(Names(), "Parete|");
+  EXPECT_EQ(store_.Save(ResultTable::kAirborne, Wall("Altra")), SaveStatus::kSaved);
 }
 
 }  // namespace
