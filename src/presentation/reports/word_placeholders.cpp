@@ -137,7 +137,7 @@ RowPattern InformationPattern(const ReportRecord& record) {
 
 std::set<std::string> KnownPlaceholders() {
   std::set<std::string> known = {"P3_DATI", "P1_INFO_TITOLO", "P1_INFO_VALORE"};
-  for (const Placeholders& values : {TextPlaceholders({}), HeadingValues({}), RowValues({})}) {
+  for (const Placeholders& values : {TextPlaceholders({}), HeadingValues({}), RowValues({}, {})}) {
     for (const auto& [name, value] : values) known.insert(name);
   }
   for (const BlockMarkers& block : kBlockMarkers) {
