@@ -29,11 +29,16 @@ void SetWidth(pugi::xml_node node, int width) {
 }
 
 /// Numbers stand right, words left.
-bool IsNumber(std::string cell) {
+bool IsNumber(std::string_view cell) {
   constexpr std::string_view kMinus = "\u2212";
-  for (std::size_t at = cell.find(kMinus); at != std::string::npos; at = cell.find(kMinus))
-    cell.replace(at, kMinus.size(), "-");
-  return !cell.empty() && cell.find_first_not_of("0123456789,.-+ x*") == std::string::npos;
+  constexpr std::string_view kOfNumbers = "0123456789,.-+ x*";
+  if (cell.empty()) return false;
+  while (!cell.empty()) {
+    const bool minus = cell.starts_with(kMinus);
+    if (!minus && kOfNumbers.find(cell.front()) == std::string_view::npos) return false;
+    cell.remove_prefix(minus ? kMinus.size() : 1);
+  }
+  return true;
 }
 
 void AppendRow(pugi::xml_node table, const std::vector<std::string>& cells, const std::vector<int>& widths,
