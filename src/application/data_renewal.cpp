@@ -171,6 +171,14 @@ bool SameTrees(const fs::path& a, const fs::path& b) {
          std::ranges::all_of(files, [&](const fs::path& file) { return SameBytes(a / file, b / file); });
 }
 
+/// What a killed renewal left beside any file of the folder.
+void RemoveAbandonedBelow(const fs::path& folder) {
+  storage::RemoveAbandoned(folder);
+  for (const auto& entry : fs::recursive_directory_iterator(folder)) {
+    if (entry.is_directory() && !entry.is_symlink()) storage::RemoveAbandoned(entry.path());
+  }
+}
+
 }  // namespace
 
 std::optional<Message> RenewData(const fs::path& data_folder, const fs::path& shipped) {
@@ -179,7 +187,7 @@ std::optional<Message> RenewData(const fs::path& data_folder, const fs::path& sh
     const bool nothing = !fs::is_directory(data_folder, error) || !fs::is_directory(shipped, error) ||
                          fs::equivalent(data_folder, shipped, error) || !storage::TakesFiles(data_folder);
     if (nothing) return std::nullopt;
-    storage::RemoveAbandoned(data_folder);
+    RemoveAbandonedBelow(data_folder);
     SettleShippedCopy(data_folder);
     const fs::path copy = data_folder / kShippedCopy;
     if (Exists(copy) && SameTrees(copy, shipped)) return std::nullopt;

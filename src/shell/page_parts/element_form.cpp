@@ -56,6 +56,7 @@ void ElementForm::AddName(const ElementNames& names) {
 void ElementForm::AddDescription(const ElementNames& names) {
   description_ = new QLineEdit(this);
   description_->setObjectName(names.description);
+  connect(description_, &QLineEdit::returnPressed, this, [this] { FocusNextField(description_); });
   description_->setAccessibleName(Text(context_.Words(), kDescriptionRow));
   connect(description_, &QLineEdit::textEdited, this, [this](const QString& text) {
     context_.open.EditKeepingResult([&](elements::Setup& setup) {

@@ -129,9 +129,9 @@ void ScheduleDialog::Build() {
 }
 
 void ScheduleDialog::Add(const QStringList& files) {
-  const std::vector<std::filesystem::path> known = Projects();
   for (const QString& file : files) {
     const QString whole = QFileInfo(file).absoluteFilePath();
+    const std::vector<std::filesystem::path> known = Projects();
     if (std::ranges::count(known, std::filesystem::path(ToUtf8(whole))) > 0) continue;
     auto* item = new QListWidgetItem(QFileInfo(file).fileName(), list_);
     item->setData(kPathRole, whole);
@@ -154,7 +154,7 @@ void ScheduleDialog::AddFromDisk() {
 void ScheduleDialog::RemoveChosen() {
   const int row = list_->currentRow();
   qDeleteAll(list_->selectedItems());
-  if (list_->count() > 0) list_->setCurrentRow(std::clamp(row, 0, list_->count() - 1));
+  if (list_->count() > 0) list_->setCurrentRow(std::clamp(row, 0, list_->count() - 1), QItemSelectionModel::ClearAndSelect);
   Follow();
 }
 
@@ -163,7 +163,7 @@ void ScheduleDialog::Move(int by) {
   const int to = row + by;
   if (row < 0 || to < 0 || to >= list_->count()) return;
   list_->insertItem(to, list_->takeItem(row));
-  list_->setCurrentRow(to);
+  list_->setCurrentRow(to, QItemSelectionModel::ClearAndSelect);
 }
 
 bool ScheduleDialog::eventFilter(QObject* watched, QEvent* event) {

@@ -2,7 +2,6 @@
 
 #include <QComboBox>
 #include <QHBoxLayout>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListView>
@@ -171,16 +170,6 @@ QWidget* TestChooser::MakeList(const Controls& controls) {
     Choose(selected.isEmpty() ? QString() : selected.first().data().toString());
   });
   return side;
-}
-
-// Enter takes a keyword, and presses no button of the window besides.
-void TestChooser::keyPressEvent(QKeyEvent* event) {
-  const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-  if (enter && keywords_->hasFocus()) {
-    event->accept();
-  } else {
-    QWidget::keyPressEvent(event);
-  }
 }
 
 void TestChooser::FillTree() {

@@ -53,9 +53,6 @@ class TestChooser : public QWidget {
   void FocusSearch();
   QSplitter* Splitter() const { return splitter_; }
 
- protected:
-  void keyPressEvent(QKeyEvent* event) override;
-
  signals:
   /// Another file was opened; the description is that of its first test.
   void FileOpened(const velmar::structures::LibraryFile& file, const QString& description);

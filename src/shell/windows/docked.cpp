@@ -39,6 +39,8 @@ void StandBeside(QDialog* dialog, QWidget* window, int width) {
     dialog->show();
     return;
   }
+  // Which it forgets on its way into the window.
+  QWidget* first = dialog->focusWidget();
   auto* dock = new Dock(dialog, main);
   if (!main->restoreDockWidget(dock)) {
     main->addDockWidget(Qt::RightDockWidgetArea, dock);
@@ -46,6 +48,8 @@ void StandBeside(QDialog* dialog, QWidget* window, int width) {
   }
   dock->show();
   dialog->show();
+  // As a window of its own would: the keys go where the dialog begins.
+  if (first != nullptr) first->setFocus(Qt::OtherFocusReason);
 }
 
 }  // namespace velmar::shell

@@ -107,9 +107,21 @@ int SystemErrorOf(const std::unique_ptr<SQLite::Database>& database) {
   return database ? sqlite3_system_errno(database->getHandle()) : 0;
 }
 
-DatabaseFailure FailureOf(const SQLite::Exception& error, const std::unique_ptr<SQLite::Database>& database,
-                          Purpose purpose, const fs::path& file) {
-  return {ProblemOf(error.getErrorCode(), SystemErrorOf(database), purpose), file, error.what()};
+DatabaseFailure FailureOf(const SQLite::Exception& error, int system_error, Purpose purpose,
+                          const fs::path& file) {
+  return {ProblemOf(error.getErrorCode(), system_error, purpose), file, error.what()};
+}
+
+/// @param system_error what the system said when the changes did not reach the disk: the library keeps that of
+///   statements only
+void Commit(SQLite::Transaction& transaction, int& system_error) {
+  errno = 0;
+  try {
+    transaction.commit();
+  } catch (const SQLite::Exception&) {
+    system_error = errno;
+    throw;
+  }
 }
 
 /// Whether the next question would meet the same.
@@ -149,7 +161,7 @@ void DatabaseReading::With(const std::function<void(SQLite::Database&)>& work) {
     }
     work(*database);
   } catch (const SQLite::Exception& error) {
-    Fail(FailureOf(error, database, Purpose::kRead, file_));
+    Fail(FailureOf(error, SystemErrorOf(database), Purpose::kRead, file_));
   } catch (const DatabaseFailure& failure) {
     Fail(failure);
   }
@@ -168,6 +180,7 @@ void ChangeDatabaseWith(const fs::path& file, const std::function<void(SQLite::D
   RequireOwnFormat(file);
   RequireWritable(file);
   std::unique_ptr<SQLite::Database> database;
+  int commit_error = 0;
   try {
     database = std::make_unique<SQLite::Database>(file.string(), SQLite::OPEN_READWRITE, kChangePatienceMs);
     Configure(*database);
@@ -175,9 +188,9 @@ void ChangeDatabaseWith(const fs::path& file, const std::function<void(SQLite::D
     // Taken for writing at once: two programs that both read first would block each other.
     SQLite::Transaction transaction(*database, SQLite::TransactionBehavior::IMMEDIATE);
     work(*database);
-    transaction.commit();
+    Commit(transaction, commit_error);
   } catch (const SQLite::Exception& error) {
-    throw FailureOf(error, database, Purpose::kChange, file);
+    throw FailureOf(error, commit_error != 0 ? commit_error : SystemErrorOf(database), Purpose::kChange, file);
   }
 }
 

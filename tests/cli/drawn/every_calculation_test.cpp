@@ -1,5 +1,6 @@
 // Word and Excel reports of every example project, written, opened again and read against the result.
 #include <algorithm>
+#include <cmath>
 #include <filesystem>
 #include <map>
 #include <optional>
@@ -34,6 +35,12 @@ constexpr const char* kDocument = "word/document.xml";
 /// The chapter with the table of bands; without bands it is not there.
 constexpr const char* kBandsChapter = "Andamento in frequenza";
 constexpr double kHalfOfTheLastDecimal = 0.05 + 1e-9;
+
+/// Without decimals, with the sign that paper has.
+std::string FixedOnPaper(double value) {
+  const std::string digits = FormatFixed(std::abs(value), 0);
+  return value < 0.0 && digits != "0" ? "\u2212" + digits : digits;
+}
 
 std::vector<std::filesystem::path> Examples() {
   std::vector<std::filesystem::path> examples;
@@ -140,11 +147,11 @@ TEST_P(EveryCalculation, WordReportIsSoundAndTellsEveryNumberOfTheResult) {
     }
     const elements::ResultSet& result = content.result;
     std::string line = result.lnw
-                           ? "Lnw(Ci)= " + FormatFixed(*result.lnw, 1) + " (" + FormatFixed(*result.ci, 0)
+                           ? "Lnw(Ci)= " + FormatFixed(*result.lnw, 1) + " (" + FixedOnPaper(*result.ci)
                            : "Rw(C; Ctr)= " + FormatFixed(*result.rw, 1);
     if (!result.lnw && result.c)
-      line += " (" + FormatFixed(*result.c, 0) + "; " + FormatFixed(*result.ctr, 0) + ") dB\n";
-    if (!result.lnw && !result.c) line = "Rw= " + FormatFixed(*result.rw, 1) + " dB\n";
+      line += " (" + FixedOnPaper(*result.c) + "; " + FixedOnPaper(*result.ctr) + ")\u202FdB\n";
+    if (!result.lnw && !result.c) line = "Rw= " + FormatFixed(*result.rw, 1) + "\u202FdB\n";
     EXPECT_THAT(text, HasSubstr(line));
     if (GetParam() == Family::kFacade) return;
     EXPECT_THAT(text, HasSubstr(FormatShortest(content.totals.thickness_mm)));

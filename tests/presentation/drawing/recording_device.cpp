@@ -31,8 +31,7 @@ class RecordingDevice::Engine : public QPaintEngine {
     const QTransform to_device = painter()->combinedTransform();
     const QRectF box(at.x(), at.y() - item.ascent(), item.width(), item.ascent() + item.descent());
     const double scale = std::sqrt(std::abs(to_device.determinant()));
-    texts.push_back(
-        {item.text(), to_device.mapRect(box), item.font().pixelSize() * scale, item.font().bold()});
+    Record({item.text(), to_device.mapRect(box), item.font().pixelSize() * scale, item.font().bold()});
     Add(box);
   }
 
@@ -42,6 +41,19 @@ class RecordingDevice::Engine : public QPaintEngine {
   int pictures = 0;
 
  private:
+  /// A line comes in pieces where its font lacks a sign and another lends it.
+  void Record(const RecordedText& piece) {
+    constexpr double kSamePlace = 0.5;
+    RecordedText* last = texts.empty() ? nullptr : &texts.back();
+    if (last == nullptr || last->pixels != piece.pixels || last->bold != piece.bold ||
+        std::abs(last->box.right() - piece.box.left()) > kSamePlace ||
+        std::min(last->box.bottom(), piece.box.bottom()) <= std::max(last->box.top(), piece.box.top())) {
+      texts.push_back(piece);
+      return;
+    }
+    last->text += piece.text;
+    last->box |= piece.box;
+  }
   void AddPicture(const QRectF& target) {
     ++pictures;
     Add(target);

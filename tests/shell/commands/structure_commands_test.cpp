@@ -229,7 +229,7 @@ class StructureCommandsTest : public QObject {
     if (project) {
       program.fixture.window->OpenProject(example);
     } else {
-      program.fixture.Choose("TIPO_PARETE_SINGOLA_1");
+      program.fixture.Choose("TIPO_PARETE_SINGOLA_0");
     }
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     QVERIFY(program.fixture.window->findChild<QDialog*>("Form8") == nullptr);

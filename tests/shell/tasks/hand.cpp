@@ -2,6 +2,7 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QCheckBox>
 #include <QMenu>
 #include <QTest>
 #include <QTimer>
@@ -37,7 +38,10 @@ bool ClickInMenu(const QString& name) {
 void Hand::Click(QWidget* widget) {
   if (!widget->isVisible() || !widget->isEnabled())
     qFatal("nothing to click at: %s", qPrintable(widget->objectName()));
-  QTest::mouseClick(widget, Qt::LeftButton);
+  // The line of a tick box may be longer than its words: who clicks aims at the box.
+  const bool tick = qobject_cast<QCheckBox*>(widget) != nullptr;
+  const QPoint at = tick ? QPoint(widget->height() / 2, widget->height() / 2) : widget->rect().center();
+  QTest::mouseClick(widget, Qt::LeftButton, {}, at);
   ++count_;
   QApplication::processEvents();
 }
@@ -85,7 +89,7 @@ void Hand::WhenAsked(const std::function<void(QWidget& dialog)>& act) {
   auto* look = new QTimer(qApp);
   QObject::connect(look, &QTimer::timeout, look, [look, act] {
     QWidget* dialog = QApplication::activeModalWidget();
-    if (dialog == nullptr || !dialog->isVisible()) return;
+    if (dialog == nullptr || !dialog->isVisible() || !dialog->isActiveWindow()) return;
     look->stop();
     look->deleteLater();
     act(*dialog);
