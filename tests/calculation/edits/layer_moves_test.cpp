@@ -1,7 +1,6 @@
 #include "calculation/edits/layer_moves.h"
 
 #include <algorithm>
-#include <random>
 #include <stdexcept>
 
 #include <gtest/gtest.h>
@@ -104,23 +103,20 @@ class AnySetup : public testing::Test {
  protected:
   template <typename Check>
   void ForEach(Check&& check) {
-    std::mt19937_64 random(20261122);
+    tests::RandomSource random(20261122);
     for (const elements::CalculationRow& row : elements::Catalogue()) {
       for (int i = 0; i < 5; ++i)
         check(tests::RandomSetup(row.calculation, tests::Wildness::kPlausible, random), random);
     }
   }
-  static int Pick(std::mt19937_64& random, int count) {
-    return static_cast<int>(random() % static_cast<unsigned>(count));
-  }
 };
 
 TEST_F(AnySetup, TakingOutWhatWasPutInLeavesEverythingAsItWas) {
-  ForEach([](const elements::Setup& setup, std::mt19937_64& random) {
+  ForEach([](const elements::Setup& setup, tests::RandomSource& random) {
     for (const LayerGroup group : kFreeGroups) {
       if (!CanInsertLayer(setup, group) || group == LayerGroup::kCavity) continue;
       elements::Setup changed = setup;
-      const int at = Pick(random, RowsInUse(setup, group) + 1);
+      const int at = random.Below(RowsInUse(setup, group) + 1);
       InsertLayer(changed, group, at);
       EXPECT_EQ(RowsInUse(changed, group), RowsInUse(setup, group) + 1);
       RemoveLayer(changed, group, at);
@@ -130,11 +126,11 @@ TEST_F(AnySetup, TakingOutWhatWasPutInLeavesEverythingAsItWas) {
 }
 
 TEST_F(AnySetup, AMoveThereAndBackLeavesEverythingAsItWas) {
-  ForEach([](const elements::Setup& setup, std::mt19937_64& random) {
+  ForEach([](const elements::Setup& setup, tests::RandomSource& random) {
     for (const LayerGroup group : kFreeGroups) {
       if (!CanMoveLayers(setup, group)) continue;
-      const int from = Pick(random, RowsInUse(setup, group));
-      const int to = Pick(random, RowsInUse(setup, group));
+      const int from = random.Below(RowsInUse(setup, group));
+      const int to = random.Below(RowsInUse(setup, group));
       elements::Setup changed = setup;
       MoveLayer(changed, group, from, to);
       EXPECT_EQ(changed == setup, from == to);
@@ -146,7 +142,7 @@ TEST_F(AnySetup, AMoveThereAndBackLeavesEverythingAsItWas) {
 
 TEST_F(AnySetup, TurnedTwiceStandsAsItStood) {
   int turned = 0;
-  ForEach([&](const elements::Setup& setup, std::mt19937_64& /*random*/) {
+  ForEach([&](const elements::Setup& setup, tests::RandomSource& /*random*/) {
     if (!CanTurn(setup)) return;
     elements::Setup once = setup;
     TurnElement(once);
@@ -167,7 +163,7 @@ TEST_F(AnySetup, TurnedTwiceStandsAsItStood) {
 }
 
 TEST_F(AnySetup, TurningReversesTheLayersOfTheWholeElement) {
-  ForEach([](const elements::Setup& setup, std::mt19937_64& /*random*/) {
+  ForEach([](const elements::Setup& setup, tests::RandomSource& /*random*/) {
     if (!CanTurn(setup)) return;
     // In a SEA cavity the damping keeps the side of its mass, the only one that it has there.
     if (setup.calculation && RowOf(*setup.calculation).stacks.Has(elements::Stack::kSeaCavity)) return;
@@ -189,7 +185,7 @@ TEST_F(AnySetup, TurningReversesTheLayersOfTheWholeElement) {
 
 TEST_F(AnySetup, AMirrorOfAMirrorIsTheLeafItself) {
   int mirrored = 0;
-  ForEach([&](const elements::Setup& setup, std::mt19937_64& /*random*/) {
+  ForEach([&](const elements::Setup& setup, tests::RandomSource& /*random*/) {
     if (!CanMirror(setup)) return;
     elements::Setup changed = setup;
     MirrorFirstLeaf(changed);
@@ -204,7 +200,7 @@ TEST_F(AnySetup, AMirrorOfAMirrorIsTheLeafItself) {
 }
 
 TEST_F(AnySetup, WhatIsCopiedReplacesItself) {
-  ForEach([](const elements::Setup& setup, std::mt19937_64& /*random*/) {
+  ForEach([](const elements::Setup& setup, tests::RandomSource& /*random*/) {
     for (const LayerGroup group : kFreeGroups) {
       if (RowsInUse(setup, group) == 0 || group == LayerGroup::kCavity) continue;
       elements::Setup changed = setup;
@@ -218,7 +214,7 @@ TEST_F(AnySetup, WhatIsCopiedReplacesItself) {
 }
 
 TEST_F(AnySetup, WhatIsCopiedReadsBackFromItsText) {
-  ForEach([](const elements::Setup& setup, std::mt19937_64& /*random*/) {
+  ForEach([](const elements::Setup& setup, tests::RandomSource& /*random*/) {
     for (const LayerGroup group : kFreeGroups) {
       CopiedLayers layers = CopyLayers(setup, group, 0, RowsInUse(setup, group));
       if (auto* leaf = std::get_if<std::vector<CopiedLeafLayer>>(&layers)) {

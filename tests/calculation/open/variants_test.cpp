@@ -1,6 +1,5 @@
 #include "calculation/open/variants.h"
 
-#include <random>
 #include <stdexcept>
 
 #include <gtest/gtest.h>
@@ -38,7 +37,7 @@ std::vector<std::string> Names(const elements::Setup& setup) {
 }
 
 TEST(SetupText, GivesBackEverySetupOfEveryCalculation) {
-  std::mt19937_64 random(7);
+  tests::RandomSource random(7);
   for (const auto wildness : {tests::Wildness::kPlausible, tests::Wildness::kNasty}) {
     for (const elements::CalculationRow& row : elements::Catalogue()) {
       for (int i = 0; i < 4; ++i) {

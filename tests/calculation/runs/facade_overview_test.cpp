@@ -2,7 +2,6 @@
 
 #include <cmath>
 #include <numeric>
-#include <random>
 #include <stdexcept>
 
 #include <gtest/gtest.h>
@@ -103,7 +102,7 @@ TEST(FacadeOverview, LeavesCellsEmptyWhereAnythingIsMissing) {
 }
 
 TEST(FacadeOverview, SharesAddUpAndFollowTheResult) {
-  std::mt19937_64 random(11);
+  tests::RandomSource random(11);
   int summed = 0;
   for (int i = 0; i < 200; ++i) {
     elements::Setup setup =

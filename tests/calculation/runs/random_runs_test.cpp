@@ -34,7 +34,7 @@ void ExpectSound(const RunOutcome& outcome) {
 }
 
 TEST_P(RandomRunsTest, OfAnySetUpEndWithAResultOrAMessage) {
-  std::mt19937_64 random(static_cast<std::uint64_t>(GetParam()) + 17);
+  tests::RandomSource random(static_cast<std::uint64_t>(GetParam()) + 17);
   for (int i = 0; i < Runs(); ++i) {
     elements::Setup setup = tests::RandomSetup(Calculation(), tests::Wildness::kNasty, random);
     PrepareRun(setup);
@@ -48,7 +48,7 @@ TEST_P(RandomRunsTest, OfAnySetUpEndWithAResultOrAMessage) {
 }
 
 TEST_P(RandomRunsTest, OfARealConstructionComeToAResult) {
-  std::mt19937_64 random(static_cast<std::uint64_t>(GetParam()) + 99);
+  tests::RandomSource random(static_cast<std::uint64_t>(GetParam()) + 99);
   int done = 0;
   const int kRuns = Runs() / 10;
   for (int i = 0; i < kRuns; ++i) {

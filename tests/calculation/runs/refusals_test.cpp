@@ -23,7 +23,7 @@ RunOutcome Outcome(elements::Setup setup) {
 
 /// A construction of `calculation` that comes to a result.
 elements::Setup Plausible(Calculation calculation) {
-  std::mt19937_64 random(4);
+  tests::RandomSource random(4);
   return tests::RandomSetup(calculation, tests::Wildness::kPlausible, random);
 }
 

@@ -11,8 +11,8 @@
 #include "storage/project/project_failure.h"
 #include "storage/project/project_reader.h"
 #include "storage/project/project_writer.h"
-#include "tests/storage/project/random_setup.h"
 #include "tests/storage/project/sample_setup.h"
+#include "tests/support/random_setup.h"
 
 namespace velmar::storage {
 namespace {
@@ -168,9 +168,9 @@ TEST(KeyedBlock, OfTheProjectBeforeDoesNotStay) {
 }
 
 TEST(KeyedBlock, AnyTextComesBack) {
-  RandomSource random(55);
+  tests::RandomSource random(55);
   for (int i = 0; i < 2000; ++i) {
-    const KeyedValues values = RandomKeyedValues(random);
+    const KeyedValues values = tests::RandomKeyedValues(random);
     LineWriter out;
     WriteKeyedBlock(out, values);
     LineCursor lines(out.Bytes());

@@ -6,8 +6,8 @@
 
 #include "elements/catalogue.h"
 #include "storage/project/project_writer.h"
-#include "tests/storage/project/random_setup.h"
 #include "tests/storage/project/read_any_project.h"
+#include "tests/support/random_setup.h"
 
 namespace velmar::storage {
 namespace {
@@ -57,17 +57,17 @@ std::string Joined(const Lines& lines) {
   return bytes;
 }
 
-std::size_t Place(RandomSource& random, std::size_t size) {
+std::size_t Place(tests::RandomSource& random, std::size_t size) {
   return static_cast<std::size_t>(random.Below(static_cast<int>(size)));
 }
 
 template <std::size_t N>
-std::string OneOf(const std::array<const char*, N>& texts, RandomSource& random) {
+std::string OneOf(const std::array<const char*, N>& texts, tests::RandomSource& random) {
   return texts.at(Place(random, N));
 }
 
 /// One change to whole lines.
-void MutateLines(Lines& lines, RandomSource& random) {
+void MutateLines(Lines& lines, tests::RandomSource& random) {
   if (lines.empty()) return;
   const std::size_t at = Place(random, lines.size());
   const auto here = lines.begin() + static_cast<std::ptrdiff_t>(at);
@@ -94,7 +94,7 @@ void MutateLines(Lines& lines, RandomSource& random) {
 }
 
 /// One change to bytes.
-void MutateBytes(std::string& bytes, RandomSource& random) {
+void MutateBytes(std::string& bytes, tests::RandomSource& random) {
   if (bytes.empty()) return;
   const std::size_t at = Place(random, bytes.size());
   switch (random.Below(5)) {
@@ -120,10 +120,12 @@ class MutationTest : public testing::TestWithParam<elements::CalculationRow> {};
 
 TEST_P(MutationTest, IsRefusedOrReadToSomethingThatLasts) {
   constexpr int kMutants = 1000;
-  RandomSource random(GetParam().variant.size() * 31 + static_cast<std::uint64_t>(GetParam().calculation));
+  tests::RandomSource random(GetParam().variant.size() * 31 +
+                             static_cast<std::uint64_t>(GetParam().calculation));
   int read = 0;
   for (int i = 0; i < kMutants; ++i) {
-    Lines lines = Split(WriteProject(RandomSetup(GetParam().calculation, random)));
+    Lines lines = Split(
+        WriteProject(tests::RandomSetup(GetParam().calculation, tests::Wildness::kAnyOfItsFile, random)));
     for (int changes = random.Below(3); changes > 0; --changes) MutateLines(lines, random);
     std::string bytes = Joined(lines);
     for (int changes = random.Below(3); changes > 0; --changes) MutateBytes(bytes, random);

@@ -3,7 +3,7 @@
 #include "elements/catalogue.h"
 #include "storage/project/project_reader.h"
 #include "storage/project/project_writer.h"
-#include "tests/storage/project/random_setup.h"
+#include "tests/support/random_setup.h"
 
 namespace velmar::storage {
 namespace {
@@ -13,9 +13,9 @@ class RoundTripTest : public testing::TestWithParam<elements::CalculationRow> {}
 TEST_P(RoundTripTest, GivesTheSetupAndTheBytesBack) {
   constexpr int kSetups = 40;
   const elements::Calculation calculation = GetParam().calculation;
-  RandomSource random(1000 + static_cast<std::uint64_t>(calculation));
+  tests::RandomSource random(1000 + static_cast<std::uint64_t>(calculation));
   for (int i = 0; i < kSetups; ++i) {
-    const elements::Setup setup = RandomSetup(calculation, random);
+    const elements::Setup setup = tests::RandomSetup(calculation, tests::Wildness::kAnyOfItsFile, random);
     const std::string bytes = WriteProject(setup);
     const OpenedProject opened = ReadProject(bytes, {});
     EXPECT_TRUE(opened.setup == setup) << i << '\n' << bytes;
@@ -25,12 +25,13 @@ TEST_P(RoundTripTest, GivesTheSetupAndTheBytesBack) {
 }
 
 TEST_P(RoundTripTest, DoesNotDependOnTheProjectBefore) {
-  RandomSource random(77);
+  tests::RandomSource random(77);
   const elements::Calculation calculation = GetParam().calculation;
-  const std::string bytes = WriteProject(RandomSetup(calculation, random));
+  const std::string bytes =
+      WriteProject(tests::RandomSetup(calculation, tests::Wildness::kAnyOfItsFile, random));
   for (const elements::CalculationRow& other : elements::Catalogue()) {
     ProjectReadContext context;
-    context.current = RandomSetup(other.calculation, random);
+    context.current = tests::RandomSetup(other.calculation, tests::Wildness::kAnyOfItsFile, random);
     EXPECT_EQ(WriteProject(ReadProject(bytes, context).setup), bytes) << other.variant;
   }
 }
