@@ -1,6 +1,7 @@
 #include "shell/windows/docked.h"
 
 #include <QCloseEvent>
+#include <QCoreApplication>
 #include <QDialog>
 #include <QDockWidget>
 #include <QMainWindow>
@@ -41,6 +42,9 @@ void StandBeside(QDialog* dialog, QWidget* window, int width) {
   }
   // Which it forgets on its way into the window.
   QWidget* first = dialog->focusWidget();
+  // What the window needs at the least is that of now; it would grow past its screen for what was shown
+  // before.
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
   auto* dock = new Dock(dialog, main);
   if (!main->restoreDockWidget(dock)) {
     main->addDockWidget(Qt::RightDockWidgetArea, dock);
