@@ -6,9 +6,13 @@
 #include <QDockWidget>
 #include <QMainWindow>
 #include <QPointer>
+#include <algorithm>
 
 namespace velmar::shell {
 namespace {
+
+/// Of the window that a dialog takes at first: what it serves keeps its room on a small screen.
+constexpr double kShare = 0.28;
 
 /// Closes with its dialog, and its dialog with it.
 class Dock : public QDockWidget {
@@ -48,7 +52,8 @@ void StandBeside(QDialog* dialog, QWidget* window, int width) {
   auto* dock = new Dock(dialog, main);
   if (!main->restoreDockWidget(dock)) {
     main->addDockWidget(Qt::RightDockWidgetArea, dock);
-    main->resizeDocks({dock}, {width}, Qt::Horizontal);
+    const int share = std::max(static_cast<int>(kShare * main->width()), dialog->minimumSizeHint().width());
+    main->resizeDocks({dock}, {std::min(width, share)}, Qt::Horizontal);
   }
   dock->show();
   dialog->show();
