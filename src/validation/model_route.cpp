@@ -23,6 +23,12 @@ std::string Millimetres(double metres) {
   return " " + FormatShortest(std::round(metres * kMillimetresPerMetre * 10.0) / 10.0) + " mm";
 }
 
+/// "1,2·10⁻⁶ m²/N"
+std::string Compliance(double m2_per_n) {
+  if (m2_per_n == 0.0) return " 0 m²/N";
+  return " " + FormatShortest(std::round(m2_per_n * 1e9) / 1e3) + "·10⁻⁶ m²/N";
+}
+
 MessageLine LeafLine(std::size_t number, const models::LeafProperties& leaf) {
   return {kLeafInputRow, " " + std::to_string(number) + ": m' " + FormatFixed(leaf.mass_kg_m2, 1) +
                              " kg/m², fc " + FormatFixed(leaf.critical_frequency_hz, 0) + " Hz, η " +
@@ -54,7 +60,7 @@ void AddConnections(const models::LayeredElement& element, Message& inputs) {
     for (const models::Connection& connection : cavity.connections) {
       connected = true;
       inputs.push_back({kStudsInputRow, Millimetres(1.0 / connection.density) + ", ", kComplianceInputRow,
-                        " " + FormatShortest(connection.compliance) + " m²/N"});
+                        Compliance(connection.compliance)});
     }
   }
   if (!connected) inputs.push_back({kNoStudsInputRow});
@@ -97,8 +103,7 @@ Message FootfallInputs(const elements::Setup& setup) {
     if (floor->improvement.topping == models::FloorTopping::kNone) {
       inputs.push_back({kNoToppingInputRow});
     } else {
-      inputs.push_back(
-          {kToppingInputRow, ": f0 " + FormatFixed(floor->improvement.resonance_hz, 0) + " Hz"});
+      inputs.push_back({kToppingInputRow, ": f0 " + FormatFixed(floor->improvement.resonance_hz, 0) + " Hz"});
     }
     return inputs;
   } catch (const ArithmeticFailure&) {

@@ -213,7 +213,7 @@ TEST(ModelRoute, TellsWhatTheLayeredModelWasGiven) {
                                           std::string(" 60 mm (14000 Pa·s/m², 40 kg/m³)"), std::string(", "),
                                           MessageRow{1965}, std::string(" 15 mm")}));
   EXPECT_EQ(route.inputs[4], (MessageLine{MessageRow{1963}, std::string(" 600 mm, "), MessageRow{1967},
-                                          std::string(" 1E-06 m²/N")}));
+                                          std::string(" 1·10⁻⁶ m²/N")}));
   EXPECT_EQ(route.reason, MessageLine{MessageRow{1945}});
 }
 

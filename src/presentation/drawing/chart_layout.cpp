@@ -44,6 +44,7 @@ double PlaceLegend(std::vector<LegendEntry>& entries, const QFont& font, double 
     double x = 0.0;
     std::size_t end = begin;
     while (end < entries.size()) {
+      entries[end].text = Fitted(entries[end].text, font, width - sample);
       const double entry_width = sample + WidthOf(entries[end].text, font);
       if (end > begin && x + gap + entry_width > width) break;
       if (end > begin) x += gap;

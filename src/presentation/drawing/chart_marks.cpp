@@ -88,11 +88,17 @@ void DrawRequirement(QPainter& painter, const ChartLayout& layout, const CurveCh
   painter.drawPolyline(line);
   const QString text = FromWords(chart.words.required);
   const double em = layout.text_px;
-  // At the flat end of the curve, on the side where the result is not wanted.
-  const bool below = chart.unfavourable == acoustics::Unfavourable::kBelow;
-  const QPointF end = below ? line.back() : line.front();
+  // At the flat end of the curve, on the side away from the reference curve.
+  const bool at_right = chart.unfavourable == acoustics::Unfavourable::kBelow;
+  const QPointF end = at_right ? line.back() : line.front();
   const double width = WidthOf(text, layout.font) + em;
-  const QRectF box(below ? end.x() - width : end.x(), end.y() + (below ? 0.1 : -1.5) * em, width, 1.4 * em);
+  const bool above = shift >= *chart.shift;
+  const QRectF box(at_right ? end.x() - width : end.x(), end.y() + (above ? -1.6 : 0.2) * em, width,
+                   1.4 * em);
+  QColor ground = kPaperColour;
+  ground.setAlphaF(0.85F);
+  painter.fillRect(box, ground);
+  painter.setPen(kRequirementColour);
   DrawTextIn(painter, box, Qt::AlignCenter, text);
 }
 

@@ -14,6 +14,7 @@
 #include "foundation/rounding.h"
 #include "presentation/drawing/section_drawing.h"
 #include "shell/commands/command_table.h"
+#include "shell/windows/dark_outlines.h"
 #include "shell/windows/icons.h"
 #include "shell/windows/phrases.h"
 
@@ -73,7 +74,8 @@ class TileDelegate : public QStyledItemDelegate {
     const bool focused = (option.state & QStyle::State_HasFocus) != 0;
     const bool marked = focused || (option.state & QStyle::State_MouseOver) != 0;
     const QPalette& colours = option.palette;
-    painter->setPen(QPen(colours.color(marked ? QPalette::Highlight : QPalette::Mid), focused ? 2.0 : 1.0));
+    const QColor outline = marked ? colours.color(QPalette::Highlight) : QuietOutline(colours);
+    painter->setPen(QPen(outline, focused ? 2.0 : 1.0));
     painter->setBrush(colours.color(QPalette::Base));
     painter->drawRoundedRect(tile, kCorner, kCorner);
     const QRectF paper(tile.left() + kPadding, tile.top() + kPadding, tile.width() - 2 * kPadding,

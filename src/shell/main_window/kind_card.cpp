@@ -5,6 +5,7 @@
 #include <QPainter>
 #include <QToolButton>
 
+#include "shell/windows/dark_outlines.h"
 #include "shell/windows/icons.h"
 
 namespace velmar::shell {
@@ -58,7 +59,8 @@ void KindCard::paintEvent(QPaintEvent* /*event*/) {
   painter.setRenderHint(QPainter::Antialiasing);
   const QPalette& colours = palette();
   const bool marked = underMouse() || hasFocus();
-  painter.setPen(QPen(colours.color(marked ? QPalette::Highlight : QPalette::Mid), hasFocus() ? 2.0 : 1.0));
+  painter.setPen(
+      QPen(marked ? colours.color(QPalette::Highlight) : QuietOutline(colours), hasFocus() ? 2.0 : 1.0));
   painter.setBrush(colours.color(QPalette::Base));
   painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), kCorner, kCorner);
   if (underMouse() || isDown()) {

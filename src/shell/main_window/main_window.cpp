@@ -12,6 +12,7 @@
 #include <QStackedWidget>
 #include <QStatusBar>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "calculation/edits/select_calculation.h"
 #include "calculation/edits/usual_layers.h"
@@ -39,7 +40,10 @@ constexpr int kRecoveryDelayMs = 2000;
 constexpr int kSayMs = 10000;
 constexpr QSize kFirstSize{1280, 720};
 constexpr int kInputsWidth = 600;
-constexpr int kNarrowestInputs = 520;
+/// Beside the results of a lining and the comparison the inputs find no more on a screen of 1366 pixels.
+constexpr int kNarrowestInputs = 440;
+/// What a table of layers needs; less only where the results have nothing to give.
+constexpr int kUsableInputs = 530;
 
 /// What stands ready for a command. The generic linings give ratings alone.
 Needs StateOf(const calculation::OpenCalculation& open) {
@@ -48,6 +52,21 @@ Needs StateOf(const calculation::OpenCalculation& open) {
   if (!open.Result()) return Needs::kCalculation;
   return RowOf(*calculation).model == elements::Model::kGenericLining ? Needs::kResult : Needs::kSpectrum;
 }
+
+/// Inputs at the left and results at the right.
+class Sides : public QSplitter {
+ public:
+  Sides() : QSplitter(Qt::Horizontal) {}
+
+ protected:
+  void resizeEvent(QResizeEvent* event) override {
+    QSplitter::resizeEvent(event);
+    const QList<int> now = sizes();
+    const int results = widget(1)->minimumSizeHint().width();
+    const int wanted = std::min(kUsableInputs - now[0], now[1] - results);
+    if (wanted > 0) setSizes({now[0] + wanted, now[1] - wanted});
+  }
+};
 
 QString DroppedProject(const QMimeData& mime) {
   if (mime.urls().size() != 1) return {};
@@ -132,7 +151,7 @@ void MainWindow::MakeCentre() {
   tabs_ = new InputTabs(context_);
   column->addWidget(header_);
   column->addWidget(tabs_, 1);
-  sides_ = new QSplitter(Qt::Horizontal);
+  sides_ = new Sides;
   sides_->setChildrenCollapsible(false);
   sides_->addWidget(inputs);
   sides_->addWidget(results_);

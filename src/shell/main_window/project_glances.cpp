@@ -44,8 +44,9 @@ QString KindOf(const ProjectGlance& glance, const presentation::Words& words) {
   const QString calculation =
       Text(words, MenuCaption(*glance.calculation)).section(QStringLiteral(" ["), 0, 0);
   for (const Command& command : Commands()) {
-    if (command.Kind() == RowOf(*glance.calculation).button)
-      return Text(words, command.Caption()) + ": " + calculation;
+    if (command.Kind() != RowOf(*glance.calculation).button) continue;
+    const QString kind = Text(words, command.Caption());
+    return calculation.startsWith(kind) ? calculation : kind + ": " + calculation;
   }
   return calculation;
 }

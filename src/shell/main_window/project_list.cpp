@@ -97,7 +97,8 @@ void ProjectList::Tell(const std::filesystem::path& project, const ProjectGlance
   for (int i = 0; i < count(); ++i) {
     QListWidgetItem& entry = *item(i);
     if (entry.data(kPathRole).toString() != path) continue;
-    QStringList facts = {KindOf(glance, words_), RatingOf(glance, words_), DayOf(project)};
+    // The line may end with an ellipsis: what tells projects apart comes first.
+    QStringList facts = {RatingOf(glance, words_), KindOf(glance, words_), DayOf(project)};
     facts.removeAll(QString());
     entry.setData(kFactsRole, facts.join(QStringLiteral(" · ")));
     QStringList tip = {path, FromUtf8(glance.title), facts.join(QStringLiteral(" · ")),

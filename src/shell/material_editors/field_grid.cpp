@@ -21,6 +21,9 @@ QString SpokenName(QString caption) {
   return caption;
 }
 
+/// Some captions serve windows too whose captions have no colon.
+QString Caption(const QString& text) { return SpokenName(text) + ':'; }
+
 }  // namespace
 
 FieldGrid::FieldGrid(const shell::WindowTools& tools, QWidget* window)
@@ -29,7 +32,7 @@ FieldGrid::FieldGrid(const shell::WindowTools& tools, QWidget* window)
 }
 
 void FieldGrid::Name(MessageRow caption, QWidget* box, MessageRow tip) {
-  auto* label = new QLabel(tools_.Text(caption), window_);
+  auto* label = new QLabel(Caption(tools_.Text(caption)), window_);
   label->setBuddy(box);
   box->setAccessibleName(SpokenName(label->text()));
   if (tip.number != 0) {

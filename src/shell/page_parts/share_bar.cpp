@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "foundation/decimal.h"
+#include "shell/windows/dark_outlines.h"
 #include "shell/windows/phrases.h"
 
 namespace velmar::shell {
@@ -45,7 +46,7 @@ void ShareBar::paintEvent(QPaintEvent* /*event*/) {
   QRectF bar = track;
   bar.setWidth(track.width() * std::clamp(*percent_ / kWhole, 0.0, 1.0));
   painter.fillRect(bar, palette().color(QPalette::Highlight));
-  painter.setPen(palette().color(QPalette::Mid));
+  painter.setPen(QuietOutline(palette()));
   painter.drawRect(track.adjusted(0.0, 0.0, -1.0, -1.0));
   painter.setPen(palette().color(QPalette::WindowText));
   painter.drawText(rect(), Qt::AlignRight | Qt::AlignVCenter, Text());

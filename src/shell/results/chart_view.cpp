@@ -169,14 +169,24 @@ bool ChartView::TakeArrow(int key, bool moving) {
   }
 }
 
+/// Marks `band` and shows its values beside its line, as the pointer does.
+void ChartView::MarkByKey(std::size_t band) {
+  Mark(band);
+  if (!chart_.highlighted_band) return;
+  const QRectF plot = Plot();
+  const double across = (static_cast<double>(band) - window_.left) / (window_.right - window_.left);
+  const QPointF place(plot.left() + std::clamp(across, 0.0, 1.0) * plot.width(), plot.top());
+  QToolTip::showText(mapToGlobal(place.toPoint()), BandText(band, "\n"), this);
+}
+
 /// Marks the next band with a value; the first is 500 Hz.
 void ChartView::StepBand(int by) {
   constexpr std::size_t k500Hz = 10;
-  if (!chart_.highlighted_band) return Mark(k500Hz);
+  if (!chart_.highlighted_band) return MarkByKey(k500Hz);
   const int last = static_cast<int>(chart_.last_band);
   for (int band = static_cast<int>(*chart_.highlighted_band) + by; band >= 0 && band <= last; band += by) {
     if (presentation::NumbersAt(chart_, static_cast<std::size_t>(band)).empty()) continue;
-    return Mark(static_cast<std::size_t>(band));
+    return MarkByKey(static_cast<std::size_t>(band));
   }
 }
 

@@ -41,6 +41,7 @@ class ChartView : public QWidget {
  private:
   void Mark(const std::optional<std::size_t>& band);
   bool TakeArrow(int key, bool moving);
+  void MarkByKey(std::size_t band);
   void StepBand(int by);
   void SeeThrough(const presentation::ChartWindow& window);
   void Zoom(double factor);

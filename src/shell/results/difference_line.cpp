@@ -87,6 +87,8 @@ DifferenceLine::DifferenceLine(const presentation::Words& words, QWidget* parent
   reason_->setToolTip({});
   for (QLabel* label : {difference_, former_})
     label->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Preferred);
+  // What was before never widens the window: where it finds no room its end is cut, and the tool tip has it.
+  former_->setMinimumWidth(1);
   line->addStretch(0);
   hide();
 }
@@ -100,7 +102,9 @@ void DifferenceLine::Show(const ContinuousCalculation& continuous, const std::op
       comparable ? (impact ? former->result.lnw : former->result.rw) : std::nullopt;
   difference_->setText(before && rating ? DifferenceText(RoundToEven(*rating) - RoundToEven(*before))
                                         : QString());
-  former_->setText(before ? Text(words_, kFormerRow) + ' ' + RatingText(former->result) : QString());
+  const QString was = before ? Text(words_, kFormerRow) + ' ' + RatingText(former->result) : QString();
+  former_->setText(was);
+  former_->setToolTip(was + '\n' + Text(words_, kFormerTipRow));
   reason_->setText(ReasonText(continuous, words_));
   bool any = false;
   for (QLabel* label : {difference_, former_, reason_}) {

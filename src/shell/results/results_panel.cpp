@@ -32,6 +32,7 @@ namespace {
 
 constexpr double kRatingScale = 2.4;
 constexpr double kTermScale = 1.25;
+constexpr int kTermGap = 2 * kPageSpacing;
 // Symbols of the ratings, the same in every language.
 constexpr const char* kRwName = "Rw = ";
 constexpr const char* kLnwName = "Ln,w =";
@@ -135,11 +136,11 @@ QWidget* ResultsPanel::MakeRatings() {
        {static_cast<QWidget*>(c_), static_cast<QWidget*>(ctr_), improvement_frame_, impact_frame_}) {
     widget->setFont(Enlarged(font(), kTermScale));
     // Within the widget, so that one that is hidden leaves no gap.
-    widget->setContentsMargins(3 * kPageSpacing, 0, 0, 0);
+    widget->setContentsMargins(kTermGap, 0, 0, 0);
     line->addWidget(widget);
   }
   difference_ = new DifferenceLine(speech_.words, frame);
-  difference_->setContentsMargins(3 * kPageSpacing, 0, 0, 0);
+  difference_->setContentsMargins(kTermGap, 0, 0, 0);
   line->addWidget(difference_, 1);
   line->addStretch(0);
   return frame;
@@ -180,7 +181,7 @@ QWidget* ResultsPanel::MakeChart() {
   // Names of structures may be long; they never widen the panel.
   values_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
   connect(chart_, &ChartView::BandRead, values_, [this](const QString& values) {
-    values_->setText(values);
+    values_->setText(values_->fontMetrics().elidedText(values, Qt::ElideRight, values_->width()));
     values_->setToolTip(values);
   });
   requirement_ = new RequirementLine(open_, speech_.words, frame);

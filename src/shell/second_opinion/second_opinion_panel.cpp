@@ -63,8 +63,11 @@ QLabel* Cell(const QString& text, QWidget* parent, Qt::Alignment alignment = Qt:
   return label;
 }
 
+/// A number with the sign that typography has for it.
+QString WithMinus(const std::string& number) { return FromUtf8(number).replace('-', QChar(0x2212)); }
+
 QString Signed(double value_db) {
-  return (value_db > 0.0 ? "+" : "") + FromUtf8(FormatFixed(value_db, 1)) + " dB";
+  return (value_db > 0.0 ? "+" : "") + WithMinus(FormatFixed(value_db, 1)) + " dB";
 }
 
 }  // namespace
@@ -255,7 +258,7 @@ void SecondOpinionPanel::AddModel(const ModelOpinion& model, int row, bool impac
   }
   const auto& result = model.result;
   const auto whole = [](const std::optional<double>& value) {
-    return FromUtf8(presentation::FormatTerm(value));
+    return WithMinus(presentation::FormatTerm(value));
   };
   add("Indice", whole(RatingOf(model)), kRating, Qt::AlignRight);
   add("C", whole(impact ? result.ci : result.c), kTerm, Qt::AlignRight);

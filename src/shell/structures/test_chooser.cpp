@@ -1,6 +1,7 @@
 #include "shell/structures/test_chooser.h"
 
 #include <QComboBox>
+#include <QFormLayout>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
@@ -59,6 +60,8 @@ bool Serves(const storage::TestUses& uses, Use use) {
 constexpr qsizetype kShortestSearch = 3;
 constexpr int kTreeCharacters = 42;
 constexpr int kListCharacters = 44;
+/// Of a filter that are seen at the least.
+constexpr int kFilterCharacters = 8;
 
 }  // namespace
 
@@ -77,6 +80,7 @@ TestChooser::TestChooser(const shell::WindowTools& tools, LibrarySource source, 
   splitter_->setChildrenCollapsible(false);
   splitter_->addWidget(MakeTree(controls));
   splitter_->addWidget(MakeList(controls));
+  splitter_->setStretchFactor(0, 1);
   splitter_->setStretchFactor(1, 1);
   const int character = fontMetrics().averageCharWidth();
   splitter_->setSizes({character * kTreeCharacters, character * kListCharacters});
@@ -116,23 +120,22 @@ QWidget* TestChooser::MakeList(const Controls& controls) {
   keywords_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
   keywords_->Offer({tools_.Text(kAllKeywordsRow)});
   ShowKeyword(QString());
-  auto* label = new QLabel(tools_.Text(kKeywordFilterRow), side);
-  label->setBuddy(keywords_);
-  auto* filter = new QHBoxLayout;
-  filter->addWidget(label);
-  filter->addWidget(keywords_, 1);
+  keywords_->setMinimumContentsLength(kFilterCharacters);
+  auto* filters = new QFormLayout;
+  filters->setRowWrapPolicy(QFormLayout::WrapLongRows);
+  filters->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
+  filters->addRow(tools_.Text(kKeywordFilterRow), keywords_);
   uses_ = new QComboBox(side);
   uses_->setObjectName(QLatin1String(controls.list) + QStringLiteral("_uso"));
   uses_->setAccessibleName(tools_.Text(kUsableForRow));
   uses_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
   for (const auto& [use, row] : kUses) uses_->addItem(tools_.Text(row));
-  auto* uses_label = new QLabel(tools_.Text(kUsableForRow), side);
-  uses_label->setBuddy(uses_);
-  auto* uses_row = new QHBoxLayout;
-  uses_row->addWidget(uses_label);
-  uses_row->addWidget(uses_, 1);
-  uses_->setVisible(controls.filters_uses);
-  uses_label->setVisible(controls.filters_uses);
+  uses_->setMinimumContentsLength(kFilterCharacters);
+  if (controls.filters_uses) {
+    filters->addRow(tools_.Text(kUsableForRow), uses_);
+  } else {
+    uses_->hide();
+  }
   search_ = new shell::SearchField(QLatin1String(controls.list) + QStringLiteral("_cerca"),
                                    tools_.Text(kStructureSearchRow), side);
   list_ = new QListView(side);
@@ -143,8 +146,7 @@ QWidget* TestChooser::MakeList(const Controls& controls) {
   list_->setItemDelegate(new FittingNames(list_));
   list_->setEditTriggers(QAbstractItemView::NoEditTriggers);
   list_->setModel(&shown_);
-  column->addLayout(filter);
-  column->addLayout(uses_row);
+  column->addLayout(filters);
   column->addWidget(search_);
   column->addWidget(list_, 1);
   connect(keywords_, &shell::FilterBox::Chosen, this, [this](const std::string& keyword) {

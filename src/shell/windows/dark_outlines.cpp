@@ -15,13 +15,16 @@ constexpr double kCorner = 2.0;
 bool IsDark(const QPalette& palette) { return palette.color(QPalette::Window).lightness() < kHalfLightness; }
 
 /// Between the window and its ink.
-QColor OutlineOn(const QStyleOption& option) {
-  const QColor ground = option.palette.color(QPalette::Window);
-  const QColor ink = option.palette.color(QPalette::WindowText);
-  const double share = option.state & QStyle::State_Enabled ? kInkShare : kDisabledShare;
+QColor Between(const QPalette& palette, double share) {
+  const QColor ground = palette.color(QPalette::Window);
+  const QColor ink = palette.color(QPalette::WindowText);
   const auto mixed = [share](int from, int to) { return from + static_cast<int>(share * (to - from)); };
   return {mixed(ground.red(), ink.red()), mixed(ground.green(), ink.green()),
           mixed(ground.blue(), ink.blue())};
+}
+
+QColor OutlineOn(const QStyleOption& option) {
+  return Between(option.palette, option.state & QStyle::State_Enabled ? kInkShare : kDisabledShare);
 }
 
 void Outline(const QStyleOption& option, bool round, QPainter& painter) {
@@ -41,6 +44,10 @@ void Outline(const QStyleOption& option, bool round, QPainter& painter) {
 }
 
 }  // namespace
+
+QColor QuietOutline(const QPalette& palette) {
+  return IsDark(palette) ? Between(palette, kDisabledShare) : palette.color(QPalette::Mid);
+}
 
 void DarkOutlines::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                                  const QWidget* widget) const {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QPalette>
 #include <QProxyStyle>
 
 class QApplication;
@@ -17,6 +18,10 @@ class DarkOutlines : public QProxyStyle {
   void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
                           const QWidget* widget) const override;
 };
+
+/// The outline of what the program draws itself on `palette`: that of Fusion, or one that a dark window
+/// shows.
+QColor QuietOutline(const QPalette& palette);
 
 /// Gives `application` these outlines where its style is Fusion.
 void AddDarkOutlines(QApplication& application);

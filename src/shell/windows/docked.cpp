@@ -1,13 +1,18 @@
 #include "shell/windows/docked.h"
 
 #include <QCloseEvent>
+#include <QCoreApplication>
 #include <QDialog>
 #include <QDockWidget>
 #include <QMainWindow>
 #include <QPointer>
+#include <algorithm>
 
 namespace velmar::shell {
 namespace {
+
+/// Of the window that a dialog takes at first: what it serves keeps its room on a small screen.
+constexpr double kShare = 0.28;
 
 /// Closes with its dialog, and its dialog with it.
 class Dock : public QDockWidget {
@@ -41,10 +46,14 @@ void StandBeside(QDialog* dialog, QWidget* window, int width) {
   }
   // Which it forgets on its way into the window.
   QWidget* first = dialog->focusWidget();
+  // What the window needs at the least is that of now; it would grow past its screen for what was shown
+  // before.
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
   auto* dock = new Dock(dialog, main);
   if (!main->restoreDockWidget(dock)) {
     main->addDockWidget(Qt::RightDockWidgetArea, dock);
-    main->resizeDocks({dock}, {width}, Qt::Horizontal);
+    const int share = std::max(static_cast<int>(kShare * main->width()), dialog->minimumSizeHint().width());
+    main->resizeDocks({dock}, {std::min(width, share)}, Qt::Horizontal);
   }
   dock->show();
   dialog->show();

@@ -83,6 +83,26 @@ TEST(ChartMarks, DrawTheRequiredRatingAsItsReferenceCurve) {
   EXPECT_GT(picture.Count(kRequirementColour, QRectF(from, to)), 20);
 }
 
+// The reference curve of the result stands at 56 dB there, below the missed requirement and above the met
+// one.
+TEST(ChartMarks, NameTheRequirementAwayFromTheReferenceCurve) {
+  CurveChart chart = Wall();
+  const double reference = chart.reference.back() + *chart.shift;
+  const auto words_at = [&chart](double from_db, double to_db) {
+    chart.words.required.clear();
+    const QRectF place(PointOf(chart, 14.0, to_db), PointOf(chart, 18.0, from_db));
+    const int line = Drawn(chart).Count(kRequirementColour, place);
+    chart.words.required = "limite";
+    return Drawn(chart).Count(kRequirementColour, place) > line;
+  };
+  for (const double margin : {5.0, -5.0}) {
+    chart.marks.required = chart.reference[7] + *chart.shift + margin;
+    const double line = reference + margin;
+    EXPECT_EQ(words_at(line + 0.6, line + 8.0), margin > 0.0);
+    EXPECT_EQ(words_at(line - 8.0, line - 0.6), margin < 0.0);
+  }
+}
+
 TEST(ChartMarks, LeaveTheFormerCurveBehindThePresentOne) {
   CurveChart chart = Wall();
   chart.marks.former.emplace().fill(55.0);

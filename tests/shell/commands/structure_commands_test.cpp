@@ -167,6 +167,39 @@ class StructureCommandsTest : public QObject {
     QVERIFY(program.fixture.window->findChildren<QDockWidget*>().isEmpty());
   }
 
+  void theComparisonKeepsTheWindowOnItsScreen_data() {
+    QTest::addColumn<QString>("project");
+    QTest::addColumn<bool>("continuous");
+    QTest::addColumn<int>("inputs");
+    QTest::newRow("wall") << "cartongesso-lastra-singola" << false << 520;
+    QTest::newRow("wall that is being changed") << "cartongesso-lastra-singola" << true << 480;
+    QTest::newRow("lining, four numbers wide") << "controplaccaggio-calibel" << false << 440;
+  }
+  void theComparisonKeepsTheWindowOnItsScreen() {
+    QFETCH(const QString, project);
+    QFETCH(const bool, continuous);
+    QFETCH(const int, inputs);
+    Program program;
+    WindowFixture& fixture = program.fixture;
+    fixture.window->resize(1366, 768);
+    fixture.window->show();
+    fixture.window->OpenProject(QString("%1/%2.drav").arg(EXAMPLES, project).toStdString());
+    fixture.Run();
+    fixture.Find<QAction>("calcolo_continuo")->setChecked(continuous);
+    fixture.Find<QAction>("confronta_risultati")->trigger();
+    if (continuous) {
+      fixture.Type("Text5_0", "25");
+      QTRY_VERIFY(!fixture.Find<QLabel>("LabelDifferenza")->text().isEmpty());
+    }
+    for (int i = 0; i < 5; ++i) QCoreApplication::processEvents();
+    QVERIFY2(fixture.window->width() <= 1366, qPrintable(QString::number(fixture.window->width())));
+    const int left = fixture.Find<QTabWidget>("SSTab1")->width();
+    QVERIFY2(left >= inputs, qPrintable(QString::number(left)));
+    // The filter of the keywords shows what it holds.
+    const auto* keywords = fixture.Find<QDialog>("Form8")->findChild<QComboBox*>("Combo1");
+    QVERIFY(keywords->width() > keywords->fontMetrics().horizontalAdvance("tutti") + 20);
+  }
+
   void theResultsTableStandsBesideTheCurve() {
     Program program;
     program.fixture.window->resize(1366, 768);

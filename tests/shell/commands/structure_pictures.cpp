@@ -32,7 +32,11 @@ void Settle() {
 
 class Album {
  public:
-  explicit Album(const QString& folder) : folder_(folder) { program_.fixture.window->resize(kScreen); }
+  explicit Album(const QString& folder) : folder_(folder) {
+    // An own measurement is saved on the way.
+    program_.CopyLibrary();
+    program_.fixture.window->resize(kScreen);
+  }
 
   void Make() {
     StoreWalls();

@@ -1,7 +1,9 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QComboBox>
+#include <QLabel>
 #include <QLineEdit>
+#include <QTabBar>
 #include <QTabWidget>
 #include <QTest>
 
@@ -168,6 +170,37 @@ class FieldNotesTest : public QObject {
     QCOMPARE(fixture_->Find<QTabWidget>("SSTab1")->currentIndex(), 5);
     QCOMPARE(fixture_->Find<QTabWidget>("SSTab2")->currentIndex(), 2);
     QCOMPARE(QApplication::focusWidget()->objectName(), QString("Text15_9"));
+  }
+
+  void aNoteStandsWhereItsFieldIsAfterScrolling() {
+    fixture_->window->resize(1366, 768);
+    fixture_->file = QString(EXAMPLES) + "/facciata-nove-componenti.drav";
+    fixture_->Choose("Apri_Progetto");
+    fixture_->open.Edit([](elements::Setup& setup) { setup.facade.components[6].band_texts[3].clear(); });
+    fixture_->Find<QTabWidget>("SSTab1")->setCurrentIndex(4);
+    fixture_->Run();
+    auto* field = qobject_cast<QLineEdit*>(QApplication::focusWidget());
+    QVERIFY(field && field->text().isEmpty());
+    const FieldNote* note = fixture_->window->findChild<FieldNote*>("NotaCampo");
+    QVERIFY(note);
+    const QWidget* page = note->parentWidget();
+    const auto place = [page](const QWidget* widget) {
+      return QRect(widget->mapTo(page, QPoint(0, 0)), widget->size());
+    };
+    QTRY_COMPARE(note->Frame().center(), place(field).center());
+    QVERIFY(note->visibleRegion().contains(note->Frame().translated(-note->pos())));
+    QVERIFY(note->visibleRegion().contains(note->Words().translated(-note->pos())));
+    for (const QLabel* caption : page->findChildren<QLabel*>()) {
+      if (!caption->isVisible() || caption->text().isEmpty()) continue;
+      QVERIFY2(!note->Words().intersects(place(caption)), qPrintable(caption->text()));
+    }
+    for (const QTabBar* tabs : page->findChildren<QTabBar*>())
+      QVERIFY(!note->Words().intersects(place(tabs)));
+    // The table above gets shorter: what stands below it moves up, and the frame with it.
+    const QRect before = place(field);
+    fixture_->open.Edit([](elements::Setup& setup) { setup.facade.count_text = "7"; });
+    QTRY_VERIFY(place(field).top() < before.top());
+    QTRY_COMPARE(note->Frame().center(), place(field).center());
   }
 
   void everyFieldThatARefusalNamesIsThere() {

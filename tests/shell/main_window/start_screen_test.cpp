@@ -154,7 +154,7 @@ class StartScreenTest : public QObject {
     QCOMPARE(recent->count(), 1);
     QTRY_VERIFY_WITH_TIMEOUT(!Told(*recent->item(0)).isEmpty(), kPatienceMs);
     const QString told = Told(*recent->item(0));
-    QVERIFY2(told.contains("Parete singola: Laterizio · Rw " + rating + " · 09/03/2026"), qPrintable(told));
+    QVERIFY2(told.contains("Rw " + rating + " · Parete singola: Laterizio · 09/03/2026"), qPrintable(told));
     QVERIFY(told.contains(mine));
   }
 

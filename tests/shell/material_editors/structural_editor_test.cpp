@@ -28,6 +28,18 @@ TEST_F(StructuralEditorTest, ANewMaterialStartsEmptyWithTheFocusOnItsName) {
   EXPECT_EQ(Focused(), "Text1");
 }
 
+TEST_F(StructuralEditorTest, EveryCaptionEndsWithAColon) {
+  Open();
+  int captions = 0;
+  for (const QLabel* label : window_->findChildren<QLabel*>()) {
+    if (label->buddy() == nullptr) continue;
+    ++captions;
+    EXPECT_TRUE(label->text().endsWith(':') && !label->text().endsWith("::")) << label->text().toStdString();
+    EXPECT_FALSE(label->buddy()->accessibleName().endsWith(':'));
+  }
+  EXPECT_EQ(captions, 11);
+}
+
 TEST_F(StructuralEditorTest, StoresANewMaterial) {
   Open();
   FillIn();
