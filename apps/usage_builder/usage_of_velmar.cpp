@@ -4,6 +4,7 @@
 #include "cli/output/report_format.h"
 #include "cli/parsing/commands.h"
 #include "cli/parsing/usage_words.h"
+#include "documents/template_file.h"
 #include "storage/messages/message_table_reader.h"
 
 namespace velmar::usage_builder {
@@ -16,6 +17,8 @@ UsageCommand UsageOfVelmar(const std::string& language, const std::filesystem::p
   services.report_formats = {cli::CsvFormat()};
   for (cli::ReportFormat& format : cli::DrawnFormats({.templates = share / "Templates"}))
     services.report_formats.push_back(std::move(format));
+  services.check_template = documents::CheckTemplateFile;
+  services.together = cli::DrawnTogether([] { return documents::ScheduleTools(); });
   cli::Parsed parsed;
   CLI::App app;
   cli::AddCommands(app, parsed, services);

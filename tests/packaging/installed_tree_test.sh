@@ -28,7 +28,26 @@ done
 said=$(bin/velmar run share/velmarpro/Examples/parete-forato-intonacata.drav)
 grep -q 'Rw *44' <<<"$said" || { echo "$said"; exit 1; }
 [[ -f $HOME/Documents/VELMARpro/Databases/Database/Database.mdb ]] || { echo "no data folder was made"; exit 1; }
-for command in $(bin/velmar --help | sed -n '/^Comandi:/,/^$/s/^  \([a-z]*\) .*/\1/p'); do
-  grep -q "$command" share/bash-completion/completions/velmar || { echo "bash does not know: $command"; exit 1; }
-  zcat "share/man/it/man1/velmar.1.gz" | grep -q "^.SS velmar $command" || { echo "no manual page for: $command"; exit 1; }
+
+# Every command and option that the program tells stands in the completions and in the manual page.
+page=$(zcat share/man/it/man1/velmar.1.gz | sed 's/\\-/-/g')
+commands_of() { bin/velmar "$@" --help | sed -n '/^Comandi:/,/^$/s/^  \([a-z]*\) .*/\1/p'; }
+check_command() {  # COMMAND...
+  grep -qx ".SS velmar $*" <<<"$page" || { echo "no manual page for: $*"; exit 1; }
+  local option section
+  section=$(sed -n "/^\.SS velmar $*\$/,/^\.S[SH] /p" <<<"$page")
+  for option in $(bin/velmar "$@" --help | grep -oP '^  (-[a-z],)?\K--[a-z-]+'); do
+    [[ $option == --help ]] || grep -q -- "$option" <<<"$section" ||
+      { echo "the manual page does not know: $* $option"; exit 1; }
+    for file in bash-completion/completions/velmar zsh/vendor-completions/_velmar; do
+      grep -q -- "$option" "share/$file" || { echo "$file does not know: $* $option"; exit 1; }
+    done
+    grep -q "from ${*: -1}'.* -l ${option#--} " share/fish/vendor_completions.d/velmar.fish ||
+      { echo "fish does not know: $* $option"; exit 1; }
+  done
+}
+for command in $(commands_of); do
+  parts=$(commands_of "$command")
+  [[ -n $parts ]] || check_command "$command"
+  for part in $parts; do check_command "$command" "$part"; done
 done
