@@ -67,8 +67,10 @@ std::string WordReportBytes(const application::DocumentPlaces& places, const Rep
 }
 
 std::string WordReportBytes(const application::DocumentPlaces& places,
-                            const application::DocumentStyle& style, const ReportContent& content) {
-  const presentation::ReportRecord record = RecordOf(content, style, true);
+                            const application::DocumentStyle& style, const ReportContent& content,
+                            bool signs) {
+  presentation::ReportRecord record = RecordOf(content, style, true);
+  record.signs = signs;
   return WithTemplate(application::TemplateFile(places, presentation::WordTemplateName(record.family), style),
                       [&](const std::string& bytes) {
                         presentation::WrittenReport report = presentation::WriteWordReport(bytes, record);

@@ -31,8 +31,10 @@ presentation::PaginaDiStampa PageOf(const ReportContent& content, const applicat
 /// The Word report out of the template in `places`. A QGuiApplication must exist.
 /// @throws Failure, which names the template, when it is missing or cannot be used
 std::string WordReportBytes(const application::DocumentPlaces& places, const ReportContent& content);
+/// @param signs false for a chapter of a document that is signed elsewhere
 std::string WordReportBytes(const application::DocumentPlaces& places,
-                            const application::DocumentStyle& style, const ReportContent& content);
+                            const application::DocumentStyle& style, const ReportContent& content,
+                            bool signs = true);
 
 /// The Excel report out of the template in `places`. A QGuiApplication must exist.
 /// @throws Failure, which names the template, when it is missing or cannot be used

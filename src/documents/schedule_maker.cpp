@@ -29,6 +29,7 @@ using presentation::ScheduleElement;
 /// Of the project information.
 constexpr std::size_t kProjectRow = 0;
 constexpr std::size_t kClientRow = 1;
+constexpr std::size_t kEngineerRow = 3;
 
 std::string InLines(const Message& message, const presentation::Words& words) {
   std::string text;
@@ -165,6 +166,10 @@ class Maker {
                        .client = Shared(kClientRow),
                        .studio = style_.studio.words.name,
                        .date = presentation::ProvenanceOf({}, {}, {}, style_.language).date};
+    const std::string engineer = Shared(kEngineerRow);
+    schedule_.signer = {.name = engineer.empty() ? style_.studio.words.signer : engineer,
+                        .register_number = style_.studio.words.register_number,
+                        .signature = style_.studio.signature};
   }
 
   /// Calls `make` for every project with a result; one that fails there has no chapter after all.
@@ -189,7 +194,7 @@ class Maker {
   bool BindWord() {
     std::vector<presentation::WordChapter> chapters;
     const bool all = ForEachChapter([&](const ScheduleElement& element, const ReportContent& content) {
-      chapters.push_back({ChapterHeading(element), WordReportBytes(tools_.places, style_, content)});
+      chapters.push_back({ChapterHeading(element), WordReportBytes(tools_.places, style_, content, false)});
     });
     if (!all) return false;
     made_.bytes =
@@ -203,7 +208,9 @@ class Maker {
   bool BindExcel() {
     std::vector<presentation::ExcelChapter> chapters;
     const bool all = ForEachChapter([&](const ScheduleElement& element, const ReportContent& content) {
-      chapters.push_back({element.code, RecordOf(content, style_, false)});
+      presentation::ReportRecord record = RecordOf(content, style_, false);
+      record.signs = false;
+      chapters.push_back({element.code, std::move(record)});
     });
     if (!all) return false;
     made_.bytes = WithTemplate(
@@ -221,6 +228,10 @@ class Maker {
           {ChapterHeading(element), PageOf(content, style_), presentation::SectionOf(content.setup)});
     });
     if (!all) return false;
+    // One signature closes the document, behind the last chapter.
+    for (presentation::PageChapter& chapter : chapters) chapter.page.studio.signs = false;
+    chapters.back().page.studio.signs = true;
+    chapters.back().page.studio.signer = schedule_.signer.name;
     made_.bytes = presentation::SchedulePdf(schedule_, chapters, style_.Captions());
     return true;
   }

@@ -75,6 +75,15 @@ TEST(ScheduleMaker, EveryChapterHoldsTheNumbersOfItsRun) {
               HasSubstr("\n" + presentation::ForPaper("Rw(C; Ctr)= 39,0 (-1; -3) dB") + "\n"));
 }
 
+TEST(ScheduleMaker, IsSignedOnceBehindTheLastChapter) {
+  const std::string text = TextOf(Make({.projects = kThree}).bytes);
+  const std::size_t signature = text.find("Il tecnico\n");
+  ASSERT_NE(signature, std::string::npos);
+  EXPECT_EQ(text.find("Il tecnico\n", signature + 1), std::string::npos);
+  EXPECT_GT(signature, text.rfind("\nRiferimenti\n"));
+  EXPECT_GT(signature, text.rfind("\nDati di calcolo\n"));
+}
+
 TEST(ScheduleMaker, AProjectThatFailsIsNamedAndTheOthersAreWritten) {
   const storage::TemporaryFolder folder;
   storage::WriteFile(folder / "rotto.drav", "VELMAR 2.0.0\r\nProgetto\r\n");

@@ -127,7 +127,7 @@ int CellStyles::Derived(int base, const StyleChange& change) {
     pugi::xml_node alignment = style.child("alignment");
     if (!alignment) alignment = style.prepend_child("alignment");
     if (!change.horizontal.empty()) Set(alignment, "horizontal", change.horizontal.c_str());
-    Set(alignment, "vertical", "center");
+    Set(alignment, "vertical", change.at_top ? "top" : "center");
     if (change.wrap) Set(alignment, "wrapText", 1);
     Set(style, "applyAlignment", 1);
   }

@@ -17,13 +17,14 @@ struct StyleChange {
   bool bottom = false;
   std::string horizontal{};  ///< alignment "center", "left"; empty: as it is
   bool wrap = false;         ///< break long texts
+  bool at_top = false;       ///< of a tall cell; else an aligned text stands in its middle
   bool bold = false;
   std::string number_format{};  ///< "0.0"; taken only where the style has none of its own
 
   bool operator<(const StyleChange& other) const {
-    return std::tie(left, right, top, bottom, horizontal, wrap, bold, number_format) <
+    return std::tie(left, right, top, bottom, horizontal, wrap, at_top, bold, number_format) <
            std::tie(other.left, other.right, other.top, other.bottom, other.horizontal, other.wrap,
-                    other.bold, other.number_format);
+                    other.at_top, other.bold, other.number_format);
   }
 };
 

@@ -20,8 +20,8 @@ struct WordContent {
   };
   Kind kind = Kind::kText;
   std::string text{};
-  bool on_new_page = false;  ///< of a chapter
   DataTable table{};
+  bool keeps_with_next = false;  ///< of a table: it stands on one page, with what follows
   int table_width = 9638;  ///< in twentieths of a point; as it stands, of the text on an A4 page upright
   /// The placeholders that stand in column `placeholder_column` of the table's rows; fewer than rows: in none
   /// of the others.

@@ -45,6 +45,9 @@ class Workbook {
   /// copies now.
   void ReplacePattern(const Worksheet& front);
 
+  /// Repeats row `row` of the sheet that stands first at the head of every printed page.
+  void RepeatOnPages(int row);
+
   /// The name that `wanted` gets: without what a name of a sheet may not hold, cut to 31 characters, with a
   /// number where a sheet is called so already.
   std::string FreeSheetName(const std::string& wanted) const;

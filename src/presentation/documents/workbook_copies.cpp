@@ -167,6 +167,20 @@ void Workbook::ReplacePattern(const Worksheet& front) {
   RemovePart(original_->sheet);
 }
 
+void Workbook::RepeatOnPages(int row) {
+  pugi::xml_document workbook = ParseXml(package_.Part(main_part_), main_part_);
+  pugi::xml_node root = workbook.child("workbook");
+  const std::string sheet = root.child("sheets").child("sheet").attribute("name").value();
+  pugi::xml_node names = root.child("definedNames");
+  if (!names) names = root.insert_child_after("definedNames", root.child("sheets"));
+  pugi::xml_node name = names.append_child("definedName");
+  name.append_attribute("name") = "_xlnm.Print_Titles";
+  name.append_attribute("localSheetId") = 0;
+  const std::string rows = "$" + std::to_string(row);
+  name.text().set((Quoted(sheet) + "!" + rows + ":" + rows).c_str());
+  package_.Put(main_part_, XmlBytes(workbook));
+}
+
 void Workbook::AddDefinedNames(std::size_t sheet, const std::string& new_name) {
   pugi::xml_document names;
   names.load_string(("<n>" + original_->defined_names + "</n>").c_str());

@@ -107,6 +107,7 @@ void PageAnnex::AddTable(const PageTable& table, const std::vector<double>& weig
     const TableStyle style{.points = kTextPoints - 0.5,
                            .weights = weights,
                            .first_left = first_left,
+                           .words_left = true,
                            .largest_height = Room().height(),
                            .shrinks = false};
     const auto draw = [rest, style, area = Room()](QPainter& painter) {

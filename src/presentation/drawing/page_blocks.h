@@ -14,6 +14,7 @@ struct TableStyle {
   double points = 8.0;
   std::vector<double> weights{};  ///< of the columns' widths
   bool first_left = true;         ///< the first column stands left, the others are centred
+  bool words_left = false;        ///< so do columns with words, and the cells of a row begin at its top
   double largest_height = 0.0;    ///< rows that would go beyond it are left to the next page
   bool shrinks = true;            ///< the text, before rows are left out
 };

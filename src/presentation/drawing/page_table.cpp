@@ -19,6 +19,8 @@ struct MeasuredTable {
   QFont head_font{};
   double padding = 0.0;
   std::vector<double> widths{};
+  std::vector<bool> left{};  ///< columns that stand left
+  bool at_top = false;
   double head_height = 0.0;
   std::vector<double> row_heights{};
 
@@ -34,6 +36,14 @@ double RowHeight(const std::vector<std::string>& cells, const QFont& font, const
   return height + 0.6 * table.padding;
 }
 
+/// Whether a cell of `column` is neither a number nor a mark.
+bool HoldsWords(const PageTable& table, std::size_t column) {
+  return std::ranges::any_of(table.rows, [&](const auto& row) {
+    const QString cell = FromWords(row[column]);
+    return std::ranges::count_if(cell, [](QChar c) { return c.isLetter(); }) > 1;
+  });
+}
+
 MeasuredTable Measure(const PageTable& table, const TableStyle& style, double points, double width) {
   MeasuredTable measured;
   measured.font = PageFont(points);
@@ -43,18 +53,24 @@ MeasuredTable Measure(const PageTable& table, const TableStyle& style, double po
   weights.resize(table.heads.size(), 1.0);
   const double sum = std::accumulate(weights.begin(), weights.end(), 0.0);
   for (const double weight : weights) measured.widths.push_back(width * weight / sum);
+  measured.at_top = style.words_left;
+  for (std::size_t i = 0; i < table.heads.size(); ++i)
+    measured.left.push_back((i == 0 && style.first_left) || (style.words_left && HoldsWords(table, i)));
   measured.head_height = RowHeight(table.heads, measured.head_font, measured);
   for (const auto& row : table.rows) measured.row_heights.push_back(RowHeight(row, measured.font, measured));
   return measured;
 }
 
 void DrawRow(QPainter& painter, const QPointF& corner, double height, const std::vector<std::string>& cells,
-             const QFont& font, const MeasuredTable& table, bool first_left) {
+             const QFont& font, const MeasuredTable& table) {
   double x = corner.x();
   for (std::size_t i = 0; i < cells.size(); ++i) {
-    const QRectF cell(x + table.padding, corner.y(), table.widths[i] - 2.0 * table.padding, height);
-    const int align = i == 0 && first_left ? Qt::AlignLeft : Qt::AlignHCenter;
-    DrawWrapped(painter, cell, font, FromWords(cells[i]), align | Qt::AlignVCenter);
+    const double above = table.at_top ? 0.3 * table.padding : 0.0;
+    const QRectF cell(x + table.padding, corner.y() + above, table.widths[i] - 2.0 * table.padding,
+                      height - above);
+    const int align = table.left[i] ? Qt::AlignLeft : Qt::AlignHCenter;
+    DrawWrapped(painter, cell, font, FromWords(cells[i]),
+                align | (table.at_top ? Qt::AlignTop : Qt::AlignVCenter));
     x += table.widths[i];
   }
 }
@@ -74,8 +90,7 @@ DrawnTable DrawTable(QPainter& painter, const QRectF& area, const PageTable& tab
   if (measured.head_height + first > style.largest_height + 1.0) return {};
   painter.fillRect(QRectF(area.topLeft(), QSizeF(area.width(), measured.head_height)), kHeadTint);
   painter.setPen(kInkColour);
-  DrawRow(painter, area.topLeft(), measured.head_height, table.heads, measured.head_font, measured,
-          style.first_left);
+  DrawRow(painter, area.topLeft(), measured.head_height, table.heads, measured.head_font, measured);
   double y = area.top() + measured.head_height;
   const double bottom = area.top() + style.largest_height;
   std::size_t row = 0;
@@ -84,7 +99,7 @@ DrawnTable DrawTable(QPainter& painter, const QRectF& area, const PageTable& tab
     painter.setPen(QPen(kVerticalGridColour, kRuleWidth));
     painter.drawLine(QPointF(area.left(), y + height), QPointF(area.right(), y + height));
     painter.setPen(kInkColour);
-    DrawRow(painter, {area.left(), y}, height, table.rows[row], measured.font, measured, style.first_left);
+    DrawRow(painter, {area.left(), y}, height, table.rows[row], measured.font, measured);
     y += height;
   }
   return {.height = y - area.top(), .next_row = row};

@@ -44,11 +44,12 @@ struct PageStudio {
   std::string signer{};          ///< who signs; the project may name somebody
   std::string signer_caption{};  ///< over the name
   std::string date{};            ///< beside it
+  bool signs = true;             ///< not where another page of the document is signed
 
   bool HasHead() const { return words.HasHead() || !logo.image.isNull(); }
   /// Whether somebody of the studio signs.
   bool Signs() const {
-    return !words.signer.empty() || !words.register_number.empty() || !signature.image.isNull();
+    return signs && (!words.signer.empty() || !words.register_number.empty() || !signature.image.isNull());
   }
 };
 

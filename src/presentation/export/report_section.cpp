@@ -10,7 +10,11 @@
 namespace velmar::presentation {
 namespace {
 
-constexpr QSizeF kWideMillimetres{169.0, 33.0};
+constexpr double kWideMillimetres = 169.0;
+/// A wall with few layers leaves the page room for what signs it; floors need theirs for thin layers.
+constexpr double kLowMillimetres = 28.0;
+constexpr double kHighMillimetres = 33.0;
+constexpr std::size_t kMostNumbersInLow = 6;
 /// Within the cells from row 13 to row 23 beside the table of layers.
 constexpr QSizeF kSmallMillimetres{57.0, 56.0};
 constexpr QSizeF kThumbnailMillimetres{26.0, 11.0};
@@ -36,7 +40,8 @@ ReportSection ReportSectionOf(const elements::Setup& setup, const Words& words, 
         [&](QPainter& painter, const QRectF& area) { DrawSection(painter, area, section, options); }, true);
   };
   SectionOptions options = PaperOptions(setup, words, language);
-  ReportSection drawn{.wide = picture(kWideMillimetres, options)};
+  const bool low = !section.horizontal && CountOfNumbers(section) <= kMostNumbersInLow;
+  ReportSection drawn{.wide = picture({kWideMillimetres, low ? kLowMillimetres : kHighMillimetres}, options)};
   options.list_names = false;
   if (CountOfNumbers(section) <= kMostNumbersInSmall) drawn.small = picture(kSmallMillimetres, options);
   return drawn;
@@ -53,6 +58,6 @@ std::optional<Picture> SectionThumbnailOf(const elements::Setup& setup, const Wo
       true);
 }
 
-std::int64_t ReportSectionWidth() { return Emu(kWideMillimetres.width()); }
+std::int64_t ReportSectionWidth() { return Emu(kWideMillimetres); }
 
 }  // namespace velmar::presentation

@@ -133,7 +133,7 @@ void WriteRemarks(Workbook& workbook, const ReportRecord& record) {
   sheet.SetText(kRemarksTitle, record.remarks_title);
   workbook.ChangeStyle(kRemarksTitle, {.bold = true});
   sheet.SetText(kRemarks, ForPaper(text, record.language));
-  workbook.ChangeStyle(kRemarks, {.horizontal = "left", .wrap = true});
+  workbook.ChangeStyle(kRemarks, {.horizontal = "left", .wrap = true, .at_top = true});
   sheet.MergeRange(kRemarks, {kLastRemarksRow, kLastDescriptionColumn});
 }
 
@@ -192,7 +192,8 @@ void WriteStudio(Workbook& workbook, const ReportRecord& record) {
     sheet.SetText(kStudioAddress, line);
     sheet.SetStyle(kStudioAddress, sheet.StyleOf(kFirstCaption));
   }
-  if (letterhead.signer.empty() && letterhead.register_number.empty() && !record.signature) return;
+  const bool signs = !letterhead.signer.empty() || !letterhead.register_number.empty() || record.signature;
+  if (!record.signs || !signs) return;
   CellPlace place = kSigner;
   for (const std::string* text : {&record.signer_caption, &record.engineer, &letterhead.register_number}) {
     if (text->empty()) continue;

@@ -70,6 +70,7 @@ struct ReportRecord {
   Letterhead letterhead{};         ///< of the studio
   std::optional<Picture> logo{};
   std::optional<Picture> signature{};
+  bool signs = true;  ///< not for a chapter of a report of several projects, which is signed once at its end
   DocumentProperties properties{};
   DocumentLanguage language = DocumentLanguage::kItalian;  ///< of numbers
   std::string laboratory_data{};  ///< what the result was compared with: "Dati di laboratorio: ..."; or empty

@@ -31,6 +31,14 @@ std::string Set(const ReportRecord& record, const std::string& text) {
   return ForPaper(text, record.language);
 }
 
+/// "4 × 2,7 m"; of a calculation that reads one of the two that one behind its caption.
+std::string DimensionsText(const ReportRecord& record) {
+  if (!record.width.empty() && !record.height.empty()) return record.width + " × " + record.height + " m";
+  if (!record.width.empty()) return record.width_caption + " " + record.width;
+  if (!record.height.empty()) return record.height_caption + " " + record.height;
+  return kNothing;
+}
+
 void AddBands(const ReportRecord& record, Placeholders& values) {
   for (std::size_t band = 0; band < record.bands.size(); ++band) {
     const std::string number = std::to_string(band);
@@ -97,6 +105,7 @@ Placeholders TextPlaceholders(const ReportRecord& record) {
       {"P1_DATIOPERA", record.in_situ_data},
       {"P1_RISULTATOGRAFICO", ""},
       {"P2_DISEGNO", ""},
+      {"P1_DIMENSIONI", Set(record, DimensionsText(record))},
       {"P1_LARGHEZZA", Set(record, OrDash(record.width))},
       {"P1_ALTEZZA", Set(record, OrDash(record.height))},
       {"P1_AREA", Set(record, OrDash(record.area))},

@@ -29,7 +29,10 @@ inline constexpr BlockMarkers kBandsBlock{"P1_FREQ_START", "P1_FREQ_END"};
 inline constexpr BlockMarkers kHangerBlock{"P2_PENDINO_START", "P2_PENDINO_END"};
 inline constexpr BlockMarkers kNotesBlock{"P1_NOTE_START", "P1_NOTE_END"};
 inline constexpr BlockMarkers kAttachmentBlock{"P1_ALLEGATO_START", "P1_ALLEGATO_END"};
-inline constexpr std::array kBlockMarkers = {kBandsBlock, kHangerBlock, kNotesBlock, kAttachmentBlock};
+/// What closes a report: what is to be known of its numbers, and who signs.
+inline constexpr BlockMarkers kSignatureBlock{"P1_FIRMA_START", "P1_FIRMA_END"};
+inline constexpr std::array kBlockMarkers = {kBandsBlock, kHangerBlock, kNotesBlock, kAttachmentBlock,
+                                             kSignatureBlock};
 
 /// Every placeholder that reports know.
 std::set<std::string> KnownPlaceholders();

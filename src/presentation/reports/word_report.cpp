@@ -24,10 +24,11 @@ std::vector<WordContent> DataContent(const CalculationData& told, DocumentLangua
   using Kind = WordContent::Kind;
   std::vector<WordContent> content;
   if (data.title.empty()) return content;
-  content.push_back({.kind = Kind::kChapter, .text = data.title, .on_new_page = true});
+  content.push_back({.kind = Kind::kChapter, .text = data.title});
   DataTable fields{.weights = {1.0, 2.4}};
   for (const DataField& field : data.fields) fields.rows.push_back({field.caption, field.value});
-  if (!fields.rows.empty()) content.push_back({.kind = Kind::kTable, .table = std::move(fields)});
+  if (!fields.rows.empty())
+    content.push_back({.kind = Kind::kTable, .table = std::move(fields), .keeps_with_next = true});
   for (const DataTable& table : data.tables) {
     content.push_back({.kind = Kind::kHeading, .text = table.title});
     content.push_back({.kind = Kind::kTable, .table = table});
@@ -70,6 +71,7 @@ WrittenReport WriteWordReport(std::string_view docx, const ReportRecord& record)
   settle(!record.hanger.empty(), kHangerBlock);
   settle(!record.information[elements::kNotesRow].value.empty(), kNotesBlock);
   settle(!record.information[elements::kAttachmentRow].value.empty(), kAttachmentBlock);
+  settle(record.signs, kSignatureBlock);
   document.RepeatRows(InformationPattern(record));
   document.RepeatRows(StructurePattern(record));
   if (record.chart) document.ReplaceByPicture("P1_RISULTATOGRAFICO", *record.chart);

@@ -60,6 +60,18 @@ class FrontSheet {
 
   void Space() { ++row_; }
 
+  /// The row of the heads.
+  int HeadRow() const { return heads_; }
+
+  void Signature(const std::string& caption, const ScheduleSigner& signer) {
+    if (!signer.Signs()) return;
+    Space();
+    Line(caption, signer.name.empty() ? signer.register_number : signer.name);
+    if (!signer.name.empty() && !signer.register_number.empty())
+      sheet_.SetText({row_++, 2}, signer.register_number);
+    if (signer.signature) workbook_.AddPicture(sheet_, {row_, 2}, *signer.signature);
+  }
+
   void Heads(const std::vector<std::string>& heads) {
     for (std::size_t i = 0; i < heads.size(); ++i) {
       const CellPlace place{row_, static_cast<int>(i) + 1};
@@ -68,7 +80,7 @@ class FrontSheet {
     }
     sheet_.SetHeight(row_, 30.0);
     sheet_.Freeze(row_);
-    ++row_;
+    heads_ = row_++;
   }
 
   /// @param sheet the sheet of its chapter
@@ -113,6 +125,7 @@ class FrontSheet {
   Workbook& workbook_;
   Worksheet& sheet_;
   int row_ = 1;
+  int heads_ = 1;
 };
 
 void FillFront(FrontSheet& front, const Schedule& schedule, const std::vector<std::string>& sheets,
@@ -134,12 +147,14 @@ void FillFront(FrontSheet& front, const Schedule& schedule, const std::vector<st
   }
   if (outside) front.Note(set.outside);
   const auto failed = [](const ScheduleElement& element) { return !element.failure.empty(); };
-  if (std::ranges::none_of(schedule.elements, failed)) return;
-  front.Space();
-  front.Title(set.failed);
+  if (std::ranges::any_of(schedule.elements, failed)) {
+    front.Space();
+    front.Title(set.failed);
+  }
   for (const ScheduleElement& element : schedule.elements) {
     if (failed(element)) front.Note(element.file + ": " + element.failure);
   }
+  front.Signature(set.signer, schedule.signer);
 }
 
 }  // namespace
@@ -161,6 +176,7 @@ std::string WriteExcelSchedule(std::string_view xlsx, const Schedule& schedule,
   FillFront(front, schedule, sheets, words);
   sheet.SetSelected(true);
   workbook.ReplacePattern(sheet);
+  workbook.RepeatOnPages(front.HeadRow());
   return workbook.Bytes();
 }
 

@@ -67,7 +67,8 @@ ScheduleWords ScheduleWordsOf(const Words& words) {
           .studio = words(kScheduleStudioRow),
           .date = words(kScheduleDateRow),
           .page = words(kPageRow),
-          .of = words(kPageOfRow)};
+          .of = words(kPageOfRow),
+          .signer = words(kSignerCaptionRow)};
 }
 
 std::vector<std::string> ScheduleHeads(const Words& words) {

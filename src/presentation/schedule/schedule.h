@@ -45,9 +45,19 @@ struct ScheduleCover {
   std::string date{};
 };
 
+/// Who signs a report of several projects, once at its end.
+struct ScheduleSigner {
+  std::string name{};
+  std::string register_number{};
+  std::optional<Picture> signature{};
+
+  bool Signs() const { return !name.empty() || !register_number.empty() || signature; }
+};
+
 /// A report of several projects: cover, contents, table of the elements; the chapters come one by one.
 struct Schedule {
   ScheduleCover cover{};
+  ScheduleSigner signer{};
   std::vector<ScheduleElement> elements{};
   DocumentLanguage language = DocumentLanguage::kItalian;  ///< of numbers
 };
@@ -64,10 +74,12 @@ struct ScheduleWords {
   std::string date{};
   std::string page{};
   std::string of{};
+  std::string signer{};  ///< over who signs
 };
 ScheduleWords ScheduleWordsOf(const Words& words);
 
-/// The table's heads, and its cells for a project with a result, as paper shows them: levels with one decimal. The drawing stands in column kScheduleDrawingColumn, whose text is empty.
+/// The table's heads, and its cells for a project with a result, as paper shows them: levels with one
+/// decimal. The drawing stands in column kScheduleDrawingColumn, whose text is empty.
 std::vector<std::string> ScheduleHeads(const Words& words);
 std::vector<std::string> ScheduleCells(const ScheduleElement& element,
                                        DocumentLanguage language = DocumentLanguage::kItalian);

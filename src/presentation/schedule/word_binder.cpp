@@ -91,6 +91,24 @@ void EndSection(pugi::xml_node body) {
   body.remove_child(section);
 }
 
+/// The neighbours of `node` among the elements: blanks between them do not count.
+pugi::xml_node NextElement(pugi::xml_node node) {
+  do node = node.next_sibling();
+  while (node && node.type() != pugi::node_element);
+  return node;
+}
+
+pugi::xml_node PreviousElement(pugi::xml_node node) {
+  do node = node.previous_sibling();
+  while (node && node.type() != pugi::node_element);
+  return node;
+}
+
+/// Whether `section` goes on below what stands before it.
+bool IsContinuous(pugi::xml_node section) {
+  return std::string_view(section.child("w:type").attribute("w:val").value()) == "continuous";
+}
+
 /// Marks of comments, of which a chapter brings none along.
 void RemoveComments(pugi::xml_node root) {
   for (pugi::xml_node node = root.first_child(); node;) {
@@ -267,19 +285,21 @@ void WordBinder::NumberDrawings(pugi::xml_node root) {
   }
 }
 
+void WordBinder::CloseLastChapter() {
+  const pugi::xml_node section = body_.child("w:sectPr");
+  const pugi::xml_node last = PreviousElement(place_);
+  pugi::xml_node properties = last.child("w:pPr");
+  const pugi::xml_node own = properties.child("w:sectPr");
+  const bool nothing_follows = NextElement(place_) == section;
+  if (chapters_ == 0 || !section || !own || (!nothing_follows && !IsContinuous(section))) return;
+  body_.insert_copy_after(own, section);
+  body_.remove_child(section);
+  properties.remove_child(own);
+}
+
 std::string WordBinder::Bytes() {
   FillContents();
-  pugi::xml_node section = body_.child("w:sectPr");
-  const bool ends = !place_.next_sibling() || place_.next_sibling() == section;
-  pugi::xml_node last = place_.previous_sibling();
-  const pugi::xml_node own = last.child("w:pPr").child("w:sectPr");
-  if (chapters_ > 0 && ends && own) {
-    // The last section of all stands at the end of the document.
-    pugi::xml_node moved = body_.append_copy(own);
-    static_cast<void>(moved);
-    last.child("w:pPr").remove_child(own);
-    body_.remove_child(section);
-  }
+  CloseLastChapter();
   body_.remove_child(place_);
   package_.Put(main_part_, XmlBytes(document_));
   package_.Put(styles_part_, styles_.Bytes());

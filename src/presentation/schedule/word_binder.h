@@ -38,6 +38,9 @@ class WordBinder {
   void TakeBookmarks(pugi::xml_node body);
   void NumberDrawings(pugi::xml_node root);
   pugi::xml_node PartOfKind(std::string_view kind);
+  /// Ends the document with the section of its last chapter: what the template has behind the chapters in a
+  /// section that goes on stands below it, and no empty page follows.
+  void CloseLastChapter();
   void FillContents();
 
   Package package_;

@@ -13,6 +13,8 @@ namespace {
 /// Of the text between the margins of an A4 page on its side, in twentieths of a point.
 constexpr int kWideText = 14570;
 
+constexpr const char* kSignaturePlace = "A_FIRMA";
+
 std::string DrawingName(std::size_t element) { return "A_DISEGNO_" + std::to_string(element); }
 
 std::string CoverLine(const std::string& caption, const std::string& value) {
@@ -30,6 +32,10 @@ Placeholders CoverPlaceholders(const Schedule& schedule, const ScheduleWords& se
           {"A_TITOLO_QUADRO", set.table},
           {"A_INTESTAZIONE", cover.studio.empty() ? cover.project : cover.studio},
           {"A_PIEDE", cover.title + (cover.date.empty() ? "" : " · " + cover.date)},
+          {"A_FIRMA_DATA", cover.date},
+          {"A_TECNICO", schedule.signer.name},
+          {"A_ALBO", schedule.signer.register_number},
+          {kSignaturePlace, ""},
           {"A_PAGINA", set.page},
           {"A_DI", set.of}};
 }
@@ -74,6 +80,7 @@ std::string WriteWordSchedule(std::string_view docx, const Schedule& schedule,
   std::map<std::string, Picture> drawings;
   document.ReplaceByContent("A_QUADRO", TableContent(schedule, words, drawings));
   document.ReplaceByContent("A_NON_RIUSCITI", FailedContent(schedule, words));
+  if (schedule.signer.signature) drawings.emplace(kSignaturePlace, *schedule.signer.signature);
   document.ReplaceByPictures(drawings);
   document.Replace(CoverPlaceholders(schedule, ScheduleWordsOf(words)));
   WordBinder binder(document.Bytes());

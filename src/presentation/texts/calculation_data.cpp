@@ -192,7 +192,7 @@ DataTable LayerTable(const Setup& setup, const Words& words, const MaterialSourc
   DataTable table{.title = words(kLayerDataRow),
                   .heads = {words(kNumberHeadRow), words(kMaterialHeadRow), "s [mm]", "ρ [kg/m³]", "E [GPa]",
                             "η", "ν", "s' [MN/m³]", "Rs [Pa s/m]", words(kSourceHeadRow)},
-                  .weights = {0.6, 3.4, 1.1, 1.0, 1.0, 0.9, 0.8, 1.1, 1.2, 3.6}};
+                  .weights = {0.6, 2.8, 1.2, 1.2, 1.0, 0.9, 0.7, 1.3, 1.3, 5.0}};
   ForEachLayer(setup, [&](const Layer& layer) {
     const LayerValues values = ValuesOf(setup, layer, sources);
     table.rows.push_back({std::to_string(layer.number), LayerName(setup, layer, words), ThicknessOf(layer),

@@ -41,7 +41,7 @@ class Setter {
 
   std::string Set() {
     while (at_ < text_.size()) {
-      if (!SetMinus() && !SetDelta() && !SetDecimalSign() && !SetUnit()) set_ += text_[at_++];
+      if (!SetMinus() && !SetDash() && !SetDelta() && !SetDecimalSign() && !SetUnit()) set_ += text_[at_++];
     }
     return std::move(set_);
   }
@@ -56,6 +56,16 @@ class Setter {
       return false;
     set_ += kMinus;
     ++at_;
+    return true;
+  }
+
+  /// Between the parts of an element, where it does for the semicolon too.
+  bool SetDash() {
+    constexpr std::string_view kTyped = " -- ";
+    if (!text_.substr(at_).starts_with(kTyped)) return false;
+    if (set_.ends_with(';')) set_.pop_back();
+    (set_ += ' ').append(kDash) += ' ';
+    at_ += kTyped.size();
     return true;
   }
 
@@ -96,6 +106,17 @@ class Setter {
   std::string set_{};
 };
 
+/// `formula` with a true minus where " - " takes a number or a bracket away; a dash between words stays.
+std::string WithMinus(std::string formula) {
+  constexpr std::string_view kTyped = " - ";
+  for (std::size_t at = formula.find(kTyped); at != std::string::npos; at = formula.find(kTyped, at + 1)) {
+    const std::size_t next = at + kTyped.size();
+    if (next < formula.size() && (IsDigit(formula[next]) || formula[next] == '('))
+      formula.replace(at + 1, 1, kMinus);
+  }
+  return formula;
+}
+
 }  // namespace
 
 std::string ForPaper(std::string_view text, DocumentLanguage language) {
@@ -121,7 +142,8 @@ CalculationData ForPaper(CalculationData data, DocumentLanguage language) {
       for (std::string& cell : row) cell = CellForPaper(cell, language);
     }
   }
-  for (std::string& reference : data.references) reference = ForPaper(reference, DocumentLanguage::kItalian);
+  for (std::string& reference : data.references)
+    reference = WithMinus(ForPaper(reference, DocumentLanguage::kItalian));
   return data;
 }
 

@@ -10,9 +10,9 @@ namespace velmar::presentation {
 
 using elements::DocumentLanguage;
 
-/// `text`, which the program composed, as paper sets it: a true minus before numbers, ΔRw and ΔLw, a narrow
-/// space before units that no line break takes away, and in English a decimal point between digits. Words
-/// stay; texts that somebody typed are not for this.
+/// `text`, which the program composed, as paper sets it: a true minus before numbers, a dash for " -- ", ΔRw
+/// and ΔLw, a narrow space before units that no line break takes away, and in English a decimal point between
+/// digits. Words stay; texts that somebody typed are not for this.
 std::string ForPaper(std::string_view text, DocumentLanguage language = DocumentLanguage::kItalian);
 
 /// The same for the number of a cell; a cell that holds words stays as it is.

@@ -349,6 +349,33 @@ TEST(ComponiPagina, IsThePageInSmallInAPreview) {
   }
 }
 
+TEST(ComponiPagina, SetsWordsOfTheInputsLeftAndTheirNumbersInTheMiddle) {
+  PaginaDiStampa page;
+  page.title = "Titolo";
+  page.data.title = "Dati di calcolo";
+  page.data.tables.push_back({.title = "Strati",
+                              .heads = {"Materiale", "E"},
+                              .weights = {1.0, 1.0},
+                              .rows = {{"Gesso", "1"}, {"Calcestruzzo armato", "2"}}});
+  const auto device = Printed(page, kPortrait, 1);
+  const QRectF head = device->Find(QStringLiteral("Materiale")).box;
+  EXPECT_NEAR(device->Find(QStringLiteral("Gesso")).box.left(), head.left(), 1.0);
+  EXPECT_NEAR(device->Find(QStringLiteral("Calcestruzzo")).box.left(), head.left(), 1.0);
+  EXPECT_GT(device->Find(QStringLiteral("1")).box.left(), kPortrait.width() * kDotsPerInch * 0.6);
+}
+
+TEST(PageStudio, SignsUnlessAnotherPageIsSigned) {
+  PageStudio studio{.signer = "ing. Anna Bassi"};
+  studio.words.signer = "ing. Anna Bassi";
+  EXPECT_TRUE(studio.Signs());
+  PaginaDiStampa page;
+  page.title = "Titolo";
+  page.studio = studio;
+  EXPECT_EQ(PageCountOf(kPortrait, page), 2);
+  page.studio.signs = false;
+  EXPECT_EQ(PageCountOf(kPortrait, page), 1);
+}
+
 TEST(ComponiPagina, DrawsNothingOnPaperWithoutSize) {
   RecordingDevice device(QSize(100, 100));
   QPainter painter(&device);

@@ -9,6 +9,7 @@
 
 #include "foundation/decimal.h"
 #include "foundation/message_rows.h"
+#include "presentation/documents/xml_part.h"
 #include "presentation/reports/word_placeholders.h"
 #include "tests/presentation/documents/opened_report.h"
 #include "tests/presentation/drawing/catalogue_words.h"
@@ -108,8 +109,8 @@ TEST_P(WordReportTest, TellsEveryInputAndWhereItComesFrom) {
       for (const std::string& cell : row) EXPECT_THAT(text_, HasSubstr(CellForPaper(cell) + "\n"));
     }
   }
-  for (const std::string& reference : record_.data.references)
-    EXPECT_THAT(text_, HasSubstr(ForPaper(reference) + "\n"));
+  for (const std::string& reference : ForPaper(record_.data, DocumentLanguage::kItalian).references)
+    EXPECT_THAT(text_, HasSubstr(reference + "\n"));
 }
 
 INSTANTIATE_TEST_SUITE_P(Families, WordReportTest, testing::ValuesIn(ReportCases()),
@@ -153,6 +154,53 @@ TEST(WordReport, HeadsNothingThatIsEmpty) {
   const Package package(WriteWordReport(ShippedTemplate(WordTemplateName(record.family)), record).bytes);
   EXPECT_THAT(TextOf(package, kDocument), Not(HasSubstr("Note\n")));
   EXPECT_THAT(TextOf(package, "word/header1.xml"), Not(HasSubstr("Allegato")));
+}
+
+TEST(WordReport, TellsTheDimensionsThatTheCalculationReads) {
+  ReportRecord record = RecordOf(ReportCases().front());
+  record.width = "4";
+  record.height = "2,7";
+  record.height_caption = "Altezza (m):";
+  EXPECT_EQ(TextPlaceholders(record)["P1_DIMENSIONI"], "4 × 2,7\u202Fm");
+  record.width.clear();
+  EXPECT_EQ(TextPlaceholders(record)["P1_DIMENSIONI"], "Altezza (m): 2,7");
+  record.height.clear();
+  EXPECT_EQ(TextPlaceholders(record)["P1_DIMENSIONI"], "–");
+}
+
+TEST(WordReport, IsSignedUnlessItIsAChapter) {
+  for (const ReportCase& report_case : ReportCases()) {
+    ReportRecord record = RecordOf(report_case);
+    const auto text = [&] {
+      return TextOf(Package(WriteWordReport(ShippedTemplate(WordTemplateName(record.family)), record).bytes),
+                    kDocument);
+    };
+    EXPECT_THAT(text(), HasSubstr("Luogo e data\n")) << report_case.name;
+    record.signs = false;
+    EXPECT_THAT(text(), Not(HasSubstr("Luogo e data"))) << report_case.name;
+    EXPECT_THAT(text(), HasSubstr("Dati di calcolo\n")) << report_case.name;
+  }
+}
+
+TEST(WordReport, TheInputsFollowTheSignatureAndTheirFirstTableStaysWhole) {
+  const ReportRecord record = RecordOf(ReportCases().front());
+  const Package package(WriteWordReport(ShippedTemplate(WordTemplateName(record.family)), record).bytes);
+  const pugi::xml_document document = ParseXml(package.Part(kDocument), kDocument);
+  EXPECT_FALSE(document.find_node(
+      [](pugi::xml_node node) { return std::string_view(node.name()) == "w:pageBreakBefore"; }));
+  const pugi::xml_node body = document.document_element().child("w:body");
+  pugi::xml_node table;
+  for (const pugi::xml_node node : body.children("w:p")) {
+    if (std::string_view(node.child("w:r").child("w:t").text().get()) == "Dati di calcolo")
+      table = node.next_sibling("w:tbl");
+  }
+  ASSERT_TRUE(table);
+  // It has no heads that a first row would be set as.
+  EXPECT_STREQ(table.child("w:tblPr").child("w:tblLook").attribute("w:firstRow").value(), "0");
+  for (const pugi::xml_node row : table.children("w:tr")) {
+    for (const pugi::xml_node cell : row.children("w:tc"))
+      EXPECT_TRUE(cell.child("w:p").child("w:pPr").child("w:keepNext"));
+  }
 }
 
 TEST(WordReport, TellsTheRangesThatWereLeft) {

@@ -50,12 +50,15 @@ std::vector<ReportCase> Cases() {
 
 Package AllCases() {
   const Words words = CatalogueWords();
-  Schedule schedule{.cover = {.title = "Abaco"}};
+  Schedule schedule{.cover = {.title = "Abaco"}, .signer = {.name = "ing. Anna Bassi"}};
   std::vector<ExcelChapter> chapters;
   for (const ReportCase& one : Cases()) {
     schedule.elements.push_back(
         ScheduleElementOf(one.setup, one.result, one.totals, words, schedule.elements.size() + 1));
-    chapters.push_back({schedule.elements.back().code, RecordOf(one)});
+    ReportRecord record = RecordOf(one);
+    record.letterhead.signer = "ing. Anna Bassi";
+    record.signs = false;
+    chapters.push_back({schedule.elements.back().code, std::move(record)});
   }
   return Package(WriteExcelSchedule(ShippedTemplate(kExcelTemplateName), schedule, chapters, words));
 }
@@ -124,10 +127,31 @@ TEST(ExcelSchedule, EveryPrintAreaNamesItsOwnSheet) {
   for (const pugi::xml_node name : workbook.child("workbook").child("definedNames").children()) {
     const std::size_t sheet = name.attribute("localSheetId").as_uint();
     ASSERT_LT(sheet, sheets.size());
+    if (std::string_view(name.attribute("name").value()) != "_xlnm.Print_Area") continue;
     EXPECT_EQ(std::string(name.text().get()), "'" + sheets[sheet].first + "'!$A$1:$J$61");
     ++areas;
   }
   EXPECT_EQ(areas, Cases().size());
+}
+
+TEST(ExcelSchedule, TheHeadsStandOnEveryPrintedPage) {
+  const Package package = AllCases();
+  const pugi::xml_document workbook = ParseXml(package.Part("xl/workbook.xml"), "workbook");
+  const pugi::xml_node names = workbook.child("workbook").child("definedNames");
+  const pugi::xml_node titles = names.find_child_by_attribute("name", "_xlnm.Print_Titles");
+  EXPECT_STREQ(titles.attribute("localSheetId").value(), "0");
+  EXPECT_STREQ(titles.text().get(), "'Quadro degli elementi'!$3:$3");
+  EXPECT_EQ(CellIn(package, SheetsOf(package).front().second, "A3"), "Codice");
+}
+
+TEST(ExcelSchedule, IsSignedOnceBelowTheTable) {
+  const Package package = AllCases();
+  const auto sheets = SheetsOf(package);
+  const std::string signature = "A" + std::to_string(3 + Cases().size() + 2);
+  EXPECT_EQ(CellIn(package, sheets.front().second, signature), "Il tecnico");
+  EXPECT_EQ(CellIn(package, sheets.front().second, "B" + signature.substr(1)), "ing. Anna Bassi");
+  for (std::size_t at = 1; at < sheets.size(); ++at)
+    EXPECT_EQ(CellIn(package, sheets[at].second, "H62"), "") << sheets[at].first;
 }
 
 }  // namespace

@@ -48,14 +48,16 @@ bool AllDiffer(const std::vector<std::string>& values) {
 /// The report of several of all sample elements.
 Package AllCases() {
   const Words words = CatalogueWords();
-  Schedule schedule{.cover = {.title = "Abaco", .client = "Comune di Esempio", .date = "01/02/2026"}};
+  Schedule schedule{.cover = {.title = "Abaco", .client = "Comune di Esempio", .date = "01/02/2026"},
+                    .signer = {.name = "ing. Anna Bassi", .register_number = "Ordine di Bologna 1234"}};
   std::vector<WordChapter> chapters;
   for (const ReportCase& one : ReportCases()) {
     ScheduleElement element =
         ScheduleElementOf(one.setup, one.result, one.totals, words, schedule.elements.size() + 1);
     element.title = one.name;
     element.drawing = Picture{.png = "\x89PNG small " + one.name, .width_emu = 936000, .height_emu = 396000};
-    const ReportRecord record = RecordOf(one);
+    ReportRecord record = RecordOf(one);
+    record.signs = false;
     chapters.push_back({ChapterHeading(element),
                         WriteWordReport(ShippedTemplate(WordTemplateName(record.family)), record).bytes});
     schedule.elements.push_back(std::move(element));
@@ -84,8 +86,8 @@ TEST(WordBinder, ADocumentOfAllKindsHoldsTogether) {
 TEST(WordBinder, EachChapterHasHeadingContentsAndItsOwnSection) {
   const Package package = AllCases();
   const std::size_t count = ReportCases().size();
-  // The cover, the table, each chapter, and what closes the document.
-  EXPECT_EQ(ValuesOf(package, "sectPr", "w:rsidR").size(), count + 3);
+  // The cover, the table and each chapter: no page stands empty behind the last one.
+  EXPECT_EQ(ValuesOf(package, "sectPr", "w:rsidR").size(), count + 2);
   const std::string text = TextOf(package, kMain);
   for (const ReportCase& one : ReportCases()) {
     EXPECT_THAT(text, HasSubstr("– " + one.name + "\n"));
@@ -98,6 +100,47 @@ TEST(WordBinder, EachChapterHasHeadingContentsAndItsOwnSection) {
   EXPECT_EQ(ValuesOf(package, "hyperlink", "w:anchor").size(), count + 1);
   std::vector<std::string> styles = ValuesOf(package, "pStyle", "w:val");
   EXPECT_EQ(std::ranges::count(styles, "Heading1"), static_cast<std::ptrdiff_t>(count + 1));
+}
+
+std::size_t CountOf(const std::string& text, const std::string& part) {
+  std::size_t count = 0;
+  for (std::size_t at = text.find(part); at != std::string::npos; at = text.find(part, at + 1)) ++count;
+  return count;
+}
+
+TEST(WordBinder, OneSignatureClosesTheDocumentInTheSectionOfTheLastChapter) {
+  const Package package = AllCases();
+  const std::string text = TextOf(package, kMain);
+  EXPECT_EQ(CountOf(text, "Il tecnico\n"), 1U);
+  EXPECT_THAT(text, HasSubstr("Il tecnico\ning. Anna Bassi\nOrdine di Bologna 1234\n"));
+  EXPECT_LT(text.rfind("Riferimenti\n"), text.find("Il tecnico\n"));
+  const pugi::xml_document document = ParseXml(package.Part(kMain), kMain);
+  const pugi::xml_node body = document.document_element().child("w:body");
+  const pugi::xml_node section = body.child("w:sectPr");
+  EXPECT_FALSE(section.child("w:type"));
+  EXPECT_TRUE(section.child("w:footerReference"));
+  std::size_t tables_behind = 0;
+  for (pugi::xml_node node = section; node; node = node.previous_sibling()) {
+    if (node.child("w:pPr").child("w:sectPr")) break;
+    if (std::string_view(node.name()) == "w:tbl") ++tables_behind;
+  }
+  // Those of the last chapter and the signature stand in one section.
+  EXPECT_GT(tables_behind, 3U);
+}
+
+TEST(WordBinder, ATemplateWhoseEndHasPagesOfItsOwnKeepsThem) {
+  Package package(ShippedTemplate(kScheduleTemplateName));
+  std::string body = package.Part(kMain);
+  const std::string goes_on = R"(<w:type w:val="continuous"/>)";
+  body.erase(body.find(goes_on), goes_on.size());
+  package.Put(kMain, body);
+  const ReportCase one = ReportCases().front();
+  const ReportRecord record = RecordOf(one);
+  const Package bound(WriteWordSchedule(
+      package.Bytes(), {},
+      {{"A", WriteWordReport(ShippedTemplate(WordTemplateName(record.family)), record).bytes}},
+      CatalogueWords()));
+  EXPECT_EQ(ValuesOf(bound, "sectPr", "w:rsidR").size(), 4U);
 }
 
 /// The shipped template with another body, as a user might have made it; `change` may do more.

@@ -36,11 +36,23 @@ INSTANTIATE_TEST_SUITE_P(
         SetText{"Shares", "intervallo 90 %: da 39 a 53", "intervallo 90\u202F%: da 39 a 53",
                 "intervallo 90\u202F%: da 39 a 53"},
         SetText{"NegativeBand", "-0,3", "\u22120,3", "\u22120.3"},
+        SetText{"Parts", "PARETE 1: Laterizio (80 mm) -- Lana; -- PARETE 2: Gesso",
+                "PARETE 1: Laterizio (80\u202Fmm) – Lana – PARETE 2: Gesso",
+                "PARETE 1: Laterizio (80\u202Fmm) – Lana – PARETE 2: Gesso"},
         SetText{"NamesOfStandards", "UNI EN ISO 717-1:2021, pp. 81-104", "UNI EN ISO 717-1:2021, pp. 81-104",
                 "UNI EN ISO 717-1:2021, pp. 81-104"},
         SetText{"NoUnit", "4 x 2,7 montanti", "4 x 2,7 montanti", "4 x 2.7 montanti"},
         SetText{"Empty", "", "", ""}),
     [](const auto& test) { return std::string(test.param.name); });
+
+TEST(ForPaper, TakesNumbersOfAFormulaAwayAndPartsWords) {
+  CalculationData data;
+  data.references = {"[25] Solai; formula: Ln,w = 164 - 35 lg m' dB, da 100 a 600 kg/m²",
+                     "edifici - Isolamento acustico, pp. 105-116"};
+  const CalculationData set = ForPaper(data, DocumentLanguage::kItalian);
+  EXPECT_EQ(set.references[0], "[25] Solai; formula: Ln,w = 164 \u2212 35 lg m' dB, da 100 a 600\u202Fkg/m²");
+  EXPECT_EQ(set.references[1], "edifici - Isolamento acustico, pp. 105-116");
+}
 
 TEST(CellForPaper, LeavesWords) {
   EXPECT_EQ(CellForPaper("0,013", DocumentLanguage::kEnglish), "0.013");
