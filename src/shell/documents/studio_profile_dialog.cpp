@@ -18,6 +18,7 @@
 #include "presentation/drawing/page_text.h"
 #include "presentation/export/studio_paper.h"
 #include "shell/documents/studio_picture_box.h"
+#include "shell/windows/mnemonics.h"
 #include "shell/windows/phrases.h"
 
 namespace velmar::shell {
@@ -59,8 +60,9 @@ StudioProfileDialog::StudioProfileDialog(const DocumentServices& documents, cons
   hint->setWordWrap(true);
   column->addWidget(hint);
   auto* form = new QFormLayout;
-  AddFields(*form);
+  // First, so that Tab goes through the fields in the order in which they are added.
   column->addLayout(form);
+  AddFields(*form);
   column->addWidget(new QLabel(Text(words, kStudioPreviewRow)));
   preview_ = new QLabel;
   preview_->setObjectName("anteprima");
@@ -93,6 +95,8 @@ StudioProfileDialog::StudioProfileDialog(const DocumentServices& documents, cons
     note_->show();
     Fill({});
   }
+  SetMnemonics(*this);
+  findChild<QLineEdit*>()->setFocus(Qt::OtherFocusReason);
   resize(kWidth, sizeHint().height());
 }
 

@@ -27,7 +27,8 @@ enum Role { kPath = Qt::UserRole, kOwn, kButton, kNumbers };
 constexpr int kAllKinds = 0;
 constexpr int kOwnAlone = -1;
 
-constexpr int kWidth = 168;
+constexpr int kWidth = 168;  ///< the least
+constexpr int kLineMargin = 4;
 constexpr int kSectionHeight = 56;
 constexpr int kPadding = 8;
 constexpr int kNameLines = 2;
@@ -63,8 +64,12 @@ class TileDelegate : public QStyledItemDelegate {
   TileDelegate(const std::map<QString, presentation::Section>& sections, QObject* parent)
       : QStyledItemDelegate(parent), sections_(sections) {}
 
+  /// As many tiles as find room in a line share it.
   QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& /*index*/) const override {
-    return {kWidth, kSectionHeight + (kNameLines + 1) * option.fontMetrics.lineSpacing() + 3 * kPadding + 6};
+    const auto* view = qobject_cast<const QAbstractItemView*>(option.widget);
+    const int room = view != nullptr ? view->viewport()->width() - kLineMargin : 0;
+    const int width = std::max(kWidth, room / std::max(1, room / kWidth));
+    return {width, kSectionHeight + (kNameLines + 1) * option.fontMetrics.lineSpacing() + 3 * kPadding + 6};
   }
 
   void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override {

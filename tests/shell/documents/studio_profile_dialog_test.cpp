@@ -84,6 +84,20 @@ class StudioProfileDialogTest : public QObject {
     QCOMPARE(In<QLineEdit>(again, "signer")->text(), QString("ing. Neri"));
   }
 
+  void tabGoesThroughTheFieldsAsOneReads() {
+    Studio studio;
+    StudioProfileDialog dialog(studio.documents, studio.speech);
+    dialog.show();
+    QVERIFY(QTest::qWaitForWindowActive(&dialog));
+    QStringList order;
+    for (int i = 0; i < 8; ++i) {
+      order << dialog.focusWidget()->objectName();
+      QTest::keyClick(dialog.focusWidget(), Qt::Key_Tab);
+    }
+    QCOMPARE(order, (QStringList{"name", "signer", "number", "address", "footer", "language", "logo_scegli",
+                                 "firma_scegli"}));
+  }
+
   void escapeLeavesTheProfile() {
     Studio studio;
     studio.Store().Write({.name = "Prima"});

@@ -132,6 +132,21 @@ class StartScreenTest : public QObject {
     fixture.window.reset();  // while tiles are still being read
   }
 
+  void tilesFillTheirLine() {
+    WindowFixture fixture;
+    fixture.services.places.examples = EXAMPLES;
+    fixture.MakeWindow();
+    fixture.window->resize(1366, 768);
+    fixture.window->show();
+    QVERIFY(QTest::qWaitForWindowExposed(fixture.window.get()));
+    const auto* tiles = fixture.Find<QListWidget>("Costruzioni");
+    const auto place = [tiles](int i) { return tiles->visualItemRect(tiles->item(i)); };
+    int in_line = 1;
+    while (place(in_line).top() == place(0).top()) ++in_line;
+    const int left_over = tiles->viewport()->width() - place(in_line - 1).right();
+    QVERIFY2(left_over >= 0 && left_over < 16, qPrintable(QString::number(left_over)));
+  }
+
   void recentProjectsTellWhatTheyAre() {
     const QTemporaryDir folder;
     const QString mine = folder.filePath("mia.drav");

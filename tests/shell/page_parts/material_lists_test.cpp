@@ -1,5 +1,6 @@
 #include "shell/page_parts/material_lists.h"
 
+#include <QAbstractItemView>
 #include <QComboBox>
 #include <QTimer>
 #include <QToolButton>
@@ -42,6 +43,19 @@ class MaterialListsTest : public QObject {
     const auto saved = program.fixture.services.read_project(program.fixture.file.toStdString());
     QCOMPARE(saved.leaf1.rows[0].listed, name);
     QCOMPARE(saved.leaf1.rows[0].slot.density_kg_m3, before.leaf1.rows[0].slot.density_kg_m3);
+  }
+
+  void aListOpensAtTheMaterialThatItsBoxShows() {
+    MaterialsProgram program;
+    program.fixture.window->OpenProject(EXAMPLES "/doppia-forati-lana.drav");
+    QVERIFY(QTest::qWaitForWindowActive(program.fixture.window.get()));
+    MaterialBox* box = program.List(LayerGroup::kLeaf1, 1);
+    const QString shown = box->currentText();
+    box->setFocus();
+    box->showPopup();
+    QCOMPARE(box->view()->currentIndex().data().toString(), shown);
+    box->hidePopup();
+    QCOMPARE(box->currentText(), shown);
   }
 
   void aTableThatCannotBeReadAnewIsToldAndTheListsStay() {
