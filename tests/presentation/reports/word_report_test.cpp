@@ -156,6 +156,18 @@ TEST(WordReport, HeadsNothingThatIsEmpty) {
   EXPECT_THAT(TextOf(package, "word/header1.xml"), Not(HasSubstr("Allegato")));
 }
 
+TEST(WordReport, TellsTheSourceOfALayerOnceAndPointsToIt) {
+  elements::Setup setup = ReportCases().front().setup;
+  setup.leaf1.rows[2] = setup.leaf1.rows[0];
+  Provenance provenance;
+  provenance.sources.structural = [](const auto& one) { return "Tabella di " + one.name; };
+  const CalculationData data = CalculationDataOf(setup, CatalogueWords(), provenance);
+  std::vector<std::string> told;
+  for (const auto& row : data.tables.at(0).rows) told.push_back(row.back());
+  EXPECT_THAT(told, testing::ElementsAre("Tabella di Intonaco di gesso",
+                                         "Tabella di Laterizio forato leggero 8-12 cm", "= N. 1"));
+}
+
 TEST(WordReport, TellsTheDimensionsThatTheCalculationReads) {
   ReportRecord record = RecordOf(ReportCases().front());
   record.width = "4";
