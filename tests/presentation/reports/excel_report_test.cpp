@@ -170,6 +170,14 @@ TEST_P(ExcelReportTest, TellsTheProject) {
 INSTANTIATE_TEST_SUITE_P(Families, ExcelReportTest, testing::ValuesIn(ReportCases()),
                          [](const auto& test) { return test.param.name; });
 
+// The logo lies over the cells from H1 on.
+TEST(ExcelReport, ItsTitleEndsBeforeTheLogo) {
+  const Package package(
+      WriteExcelReport(ShippedTemplate(kExcelTemplateName), RecordOf(ReportCases().front())));
+  const std::string& sheet = package.Part("xl/worksheets/sheet1.xml");
+  EXPECT_THAT(sheet, HasSubstr("<mergeCell ref=\"A1:G1\"/>"));
+}
+
 TEST(Workbook, KeepsTextThatLooksLikeAFormulaAsText) {
   Workbook workbook(ShippedTemplate(kExcelTemplateName));
   workbook.Sheet().SetText({2, 2}, "=1+1 & <b>\x07");
