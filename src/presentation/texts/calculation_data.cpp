@@ -24,6 +24,8 @@ using elements::Setup;
 using elements::Stack;
 
 constexpr const char* kNothing = "–";
+/// Bytes of the source of a material that is said of every layer.
+constexpr std::size_t kShortSource = 40;
 constexpr std::size_t kProjectRow = 0;  // of the project information
 
 /// Six digits are more than any material is known by.
@@ -200,7 +202,7 @@ DataTable LayerTable(const Setup& setup, const Words& words, const MaterialSourc
     // What a layer above says in many words is not said again.
     const int first = told.emplace(values.source, layer.number).first->second;
     const std::string source = values.source.empty() ? kNothing
-                               : first == layer.number
+                               : first == layer.number || values.source.size() <= kShortSource
                                    ? values.source
                                    : "= " + words(kNumberHeadRow) + " " + std::to_string(first);
     table.rows.push_back({std::to_string(layer.number), LayerName(setup, layer, words), ThicknessOf(layer),

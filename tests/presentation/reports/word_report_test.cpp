@@ -13,6 +13,7 @@
 #include "presentation/reports/word_placeholders.h"
 #include "tests/presentation/documents/opened_report.h"
 #include "tests/presentation/drawing/catalogue_words.h"
+#include "tests/presentation/sample_setups.h"
 
 namespace velmar::presentation {
 namespace {
@@ -158,14 +159,20 @@ TEST(WordReport, HeadsNothingThatIsEmpty) {
 
 TEST(WordReport, TellsTheSourceOfALayerOnceAndPointsToIt) {
   elements::Setup setup = ReportCases().front().setup;
+  setup.leaf1.count = 5;
   setup.leaf1.rows[2] = setup.leaf1.rows[0];
+  samples::SetRow(setup.leaf1.rows[3], "Sughero", 30.0, 150.0);
+  setup.leaf1.rows[4] = setup.leaf1.rows[3];
   Provenance provenance;
-  provenance.sources.structural = [](const auto& one) { return "Tabella di " + one.name; };
+  provenance.sources.structural = [](const auto& one) { return "Tabella 12 del catalogo: " + one.name; };
   const CalculationData data = CalculationDataOf(setup, CatalogueWords(), provenance);
   std::vector<std::string> told;
   for (const auto& row : data.tables.at(0).rows) told.push_back(row.back());
-  EXPECT_THAT(told, testing::ElementsAre("Tabella di Intonaco di gesso",
-                                         "Tabella di Laterizio forato leggero 8-12 cm", "= N. 1"));
+  // A short one is said again.
+  EXPECT_THAT(told,
+              testing::ElementsAre("Tabella 12 del catalogo: Intonaco di gesso",
+                                   "Tabella 12 del catalogo: Laterizio forato leggero 8-12 cm", "= N. 1",
+                                   "Tabella 12 del catalogo: Sughero", "Tabella 12 del catalogo: Sughero"));
 }
 
 TEST(WordReport, TellsTheDimensionsThatTheCalculationReads) {
