@@ -214,6 +214,12 @@ TEST(WordReport, TheInputsFollowTheSignatureAndTheirFirstTableStaysWhole) {
       table = node.next_sibling("w:tbl");
   }
   ASSERT_TRUE(table);
+  // What stands before it does not go along to the next page.
+  for (const pugi::xml_node node : body.children("w:p")) {
+    if (std::string_view(node.child("w:r").child("w:t").text().get()) == "Note: ") {
+      EXPECT_FALSE(node.child("w:pPr").child("w:keepNext"));
+    }
+  }
   // It has no heads that a first row would be set as.
   EXPECT_STREQ(table.child("w:tblPr").child("w:tblLook").attribute("w:firstRow").value(), "0");
   for (const pugi::xml_node row : table.children("w:tr")) {
