@@ -160,16 +160,23 @@ class Maker {
   }
 
   void FillCover() {
+    const presentation::Provenance provenance = presentation::ProvenanceOf({}, {}, {}, style_.language);
     schedule_.language = style_.language;
     schedule_.cover = {.title = order_.title.empty() ? style_.Captions()(kScheduleTitleRow) : order_.title,
                        .project = Shared(kProjectRow),
                        .client = Shared(kClientRow),
                        .studio = style_.studio.words.name,
-                       .date = presentation::ProvenanceOf({}, {}, {}, style_.language).date};
+                       .date = provenance.date};
     const std::string engineer = Shared(kEngineerRow);
     schedule_.signer = {.name = engineer.empty() ? style_.studio.words.signer : engineer,
                         .register_number = style_.studio.words.register_number,
                         .signature = style_.studio.signature};
+    schedule_.properties = {
+        .title = schedule_.cover.title,
+        .author = schedule_.cover.studio.empty() ? schedule_.signer.name : schedule_.cover.studio,
+        .subject = style_.Captions()(kDocumentSubjectRow),
+        .created = provenance.iso_date,
+        .program = provenance.program};
   }
 
   /// Calls `make` for every project with a result; one that fails there has no chapter after all.

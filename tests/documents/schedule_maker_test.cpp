@@ -84,6 +84,21 @@ TEST(ScheduleMaker, IsSignedOnceBehindTheLastChapter) {
   EXPECT_GT(signature, text.rfind("\nDati di calcolo\n"));
 }
 
+// Neither nothing nor what the last chapter says of itself.
+TEST(ScheduleMaker, SaysOfItselfWhatItIs) {
+  for (const ScheduleFormat format : {ScheduleFormat::kWord, ScheduleFormat::kExcel}) {
+    const presentation::Package package(
+        Make({.projects = kThree, .format = format, .title = "Condominio Aurora"}).bytes);
+    EXPECT_THAT(package.Part("docProps/core.xml"),
+                HasSubstr("<dc:title>Condominio Aurora</dc:title>"
+                          "<dc:subject>Rapporto di calcolo previsionale</dc:subject>"));
+  }
+  const std::string pdf = Make({.projects = kThree, .format = ScheduleFormat::kPdf, .title = "Abaco"}).bytes;
+  // The last dictionary of properties is the one that counts: "Abaco" in UTF-16, and its program.
+  EXPECT_NE(pdf.find("/Title <FEFF0041006200610063006F>\n/Subject ", pdf.rfind(" 0 obj\n")),
+            std::string::npos);
+}
+
 TEST(ScheduleMaker, AProjectThatFailsIsNamedAndTheOthersAreWritten) {
   const storage::TemporaryFolder folder;
   storage::WriteFile(folder / "rotto.drav", "VELMAR 2.0.0\r\nProgetto\r\n");

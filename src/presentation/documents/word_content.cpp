@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <functional>
+#include <iterator>
 #include <numeric>
 #include <string_view>
 #include <vector>
@@ -16,6 +17,7 @@ constexpr int kTableHalfPoints = 15;
 constexpr int kLeftMargin = 80;
 constexpr int kRightMargin = 50;
 constexpr int kNumberColumn = 1200;
+constexpr int kAbovePicture = 50;
 
 pugi::xml_node AppendParagraph(pugi::xml_node paragraph, const char* style, const std::string& text) {
   paragraph.append_child("w:pPr").append_child("w:pStyle").append_attribute("w:val") = style;
@@ -63,7 +65,16 @@ struct RowLook {
   bool keeps_with_next = false;
 };
 
-void AppendRow(pugi::xml_node table, const std::vector<std::string>& cells, const RowLook& look, bool head) {
+/// Keeps a picture in a cell apart from those of the rows above and below.
+void SetApart(pugi::xml_node cell) {
+  pugi::xml_node spacing = cell.child("w:p").child("w:pPr").append_child("w:spacing");
+  spacing.append_attribute("w:before") = kAbovePicture;
+  spacing.append_attribute("w:after") = kAbovePicture;
+}
+
+/// @return the row
+pugi::xml_node AppendRow(pugi::xml_node table, const std::vector<std::string>& cells, const RowLook& look,
+                         bool head) {
   pugi::xml_node row = table.append_child("w:tr");
   pugi::xml_node properties = row.append_child("w:trPr");
   properties.append_child("w:cantSplit");
@@ -78,6 +89,7 @@ void AppendRow(pugi::xml_node table, const std::vector<std::string>& cells, cons
     if (i < look.right.size() && look.right[i] && (head || IsNumber(cells[i]) || cells[i] == kNothing))
       paragraph.child("w:pPr").append_child("w:jc").append_attribute("w:val") = "right";
   }
+  return row;
 }
 
 /// @param width all that there is; columns of numbers alone take no more than they need
@@ -123,9 +135,12 @@ void FillTable(pugi::xml_node node, const WordContent& content) {
   if (!table.heads.empty()) AppendRow(node, table.heads, look, true);
   for (std::size_t i = 0; i < table.rows.size(); ++i) {
     std::vector<std::string> cells = table.rows[i];
-    if (i < content.placeholders.size() && !content.placeholders[i].empty())
-      cells.at(content.placeholder_column) = "[" + content.placeholders[i] + "]";
-    AppendRow(node, cells, look, false);
+    const bool picture = i < content.placeholders.size() && !content.placeholders[i].empty();
+    if (picture) cells.at(content.placeholder_column) = "[" + content.placeholders[i] + "]";
+    const pugi::xml_node row = AppendRow(node, cells, look, false);
+    if (picture)
+      SetApart(
+          *std::next(row.children("w:tc").begin(), static_cast<std::ptrdiff_t>(content.placeholder_column)));
   }
 }
 

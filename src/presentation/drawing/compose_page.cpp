@@ -77,12 +77,12 @@ class Composer {
 
   void DrawTitle() {
     if (page_.title.empty()) return;
-    // The longest title keeps one line.
+    // A title keeps one line; one in two languages may take more.
     const QString title = FromWords(page_.title);
     double points = kTitlePoints;
     while (points > kHeadingPoints && WidthOf(title, PageFont(points, true)) > room_.width()) points -= 0.5;
     const QFont font = PageFont(points, true);
-    const double height = LineHeight(font);
+    const double height = std::max(LineHeight(font), WrappedHeight(title, font, room_.width()));
     painter_.setPen(kInkColour);
     DrawWrapped(painter_, Top(height), font, title, Qt::AlignHCenter | Qt::AlignVCenter);
     Take(height + kGap);

@@ -12,6 +12,7 @@
 #include "presentation/drawing/page_text.h"
 #include "presentation/drawing/text.h"
 #include "presentation/export/pdf_outline.h"
+#include "presentation/export/pdf_properties.h"
 
 namespace velmar::presentation {
 namespace {
@@ -74,7 +75,9 @@ class Pages {
                        .box = QRectF(place.box.topLeft() * kPointsPerUnit, place.box.size() * kPointsPerUnit),
                        .target = contents_[place.line].page - 1});
     }
-    return WithOutline(buffer_.data().toStdString(), bookmarks, links);
+    std::string pdf = WithOutline(buffer_.data().toStdString(), bookmarks, links);
+    AddProperties(pdf, schedule_.properties);
+    return pdf;
   }
 
  private:

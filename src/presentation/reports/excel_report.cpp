@@ -79,6 +79,7 @@ template <typename TextOf>
 void WriteFurtherCurve(Workbook& workbook, int column, const std::string& heading, const TextOf& text_of) {
   workbook.Sheet().SetText({kBandHeading.row, column}, heading);
   workbook.Sheet().SetStyle({kBandHeading.row, column}, workbook.Sheet().StyleOf(kBandHeading));
+  FitHeight(workbook.Sheet(), kBandHeading.row, heading, column, column);
   for (std::size_t band = 0; band < acoustics::kBandCount; ++band) {
     const CellPlace place{kFirstBandRow + static_cast<int>(band), column};
     workbook.Sheet().SetStyle(place, workbook.Sheet().StyleOf({place.row, kBandColumn}));

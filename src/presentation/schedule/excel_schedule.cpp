@@ -177,6 +177,8 @@ std::string WriteExcelSchedule(std::string_view xlsx, const Schedule& schedule,
   sheet.SetSelected(true);
   workbook.ReplacePattern(sheet);
   workbook.RepeatOnPages(front.HeadRow());
+  // Those that a chapter has set are its own.
+  workbook.SetProperties(schedule.properties);
   return workbook.Bytes();
 }
 

@@ -7,6 +7,7 @@
 
 #include "elements/result_set.h"
 #include "elements/setup.h"
+#include "presentation/documents/document_properties.h"
 #include "presentation/documents/picture.h"
 #include "presentation/reports/report_record.h"
 #include "presentation/texts/paper_text.h"
@@ -58,6 +59,7 @@ struct ScheduleSigner {
 struct Schedule {
   ScheduleCover cover{};
   ScheduleSigner signer{};
+  DocumentProperties properties{};
   std::vector<ScheduleElement> elements{};
   DocumentLanguage language = DocumentLanguage::kItalian;  ///< of numbers
 };

@@ -83,6 +83,7 @@ std::string WriteWordSchedule(std::string_view docx, const Schedule& schedule,
   if (schedule.signer.signature) drawings.emplace(kSignaturePlace, *schedule.signer.signature);
   document.ReplaceByPictures(drawings);
   document.Replace(CoverPlaceholders(schedule, ScheduleWordsOf(words)));
+  document.SetProperties(schedule.properties);
   WordBinder binder(document.Bytes());
   for (const WordChapter& chapter : chapters) binder.Add(chapter.heading, chapter.docx);
   return binder.Bytes();

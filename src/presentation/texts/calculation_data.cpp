@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <map>
 #include <optional>
 #include <utility>
 
@@ -23,6 +24,8 @@ using elements::Setup;
 using elements::Stack;
 
 constexpr const char* kNothing = "–";
+/// Bytes of the source of a material that is said of every layer.
+constexpr std::size_t kShortSource = 40;
 constexpr std::size_t kProjectRow = 0;  // of the project information
 
 /// Six digits are more than any material is known by.
@@ -192,14 +195,21 @@ DataTable LayerTable(const Setup& setup, const Words& words, const MaterialSourc
   DataTable table{.title = words(kLayerDataRow),
                   .heads = {words(kNumberHeadRow), words(kMaterialHeadRow), "s [mm]", "ρ [kg/m³]", "E [GPa]",
                             "η", "ν", "s' [MN/m³]", "Rs [Pa s/m]", words(kSourceHeadRow)},
-                  .weights = {0.6, 2.8, 1.2, 1.2, 1.0, 0.9, 0.7, 1.3, 1.3, 5.0}};
+                  .weights = {0.65, 2.7, 1.1, 1.3, 1.15, 0.9, 0.65, 1.45, 1.4, 6.0}};
+  std::map<std::string, int> told;
   ForEachLayer(setup, [&](const Layer& layer) {
     const LayerValues values = ValuesOf(setup, layer, sources);
+    // What a layer above says in many words is not said again.
+    const int first = told.emplace(values.source, layer.number).first->second;
+    const std::string source = values.source.empty() ? kNothing
+                               : first == layer.number || values.source.size() <= kShortSource
+                                   ? values.source
+                                   : "= " + words(kNumberHeadRow) + " " + std::to_string(first);
     table.rows.push_back({std::to_string(layer.number), LayerName(setup, layer, words), ThicknessOf(layer),
                           Value(layer.density_kg_m3), Value(values.youngs_modulus_gpa),
                           Value(values.loss_factor), Value(values.poissons_ratio),
                           Value(values.dynamic_stiffness_mn_m3), Value(values.flow_resistance_pa_s_m),
-                          values.source.empty() ? kNothing : values.source});
+                          source});
   });
   DropEmptyColumns(table, 4);
   return table;

@@ -73,6 +73,18 @@ std::string FloorPart(const Setup& setup) {
          CompilaDescrizioneParete2(setup);
 }
 
+/// The same for a document, in its language: what is stored has words of its own, and there the thickness of
+/// a resilient layer would read as a number of sheets.
+std::string FloorInWords(const Setup& setup, const Words& words) {
+  const auto part = [&](MessageRow caption, Stack stack) {
+    return UpperCase(words(caption)) + ": " + ItemsOf(setup, stack);
+  };
+  std::string text = part(kBaseFloorRow, Stack::kLeaf1) + kNextPart;
+  if (!elements::PartOf(setup, Stack::kResilient).layers.empty())
+    text += part(kResilientMaterialTabRow, Stack::kResilient) + kNextPart;
+  return text + part(kScreedRow, Stack::kLeaf2);
+}
+
 std::string FacadePart(const Setup& setup, const Words& words) {
   std::string parts = setup.base.name;
   for (int i = 0; i < setup.facade.Count(); ++i) {
@@ -164,7 +176,7 @@ std::string ElementDescription(const Setup& setup, const Words& words) {
   const elements::CalculationRow& row = elements::RowOf(*setup.calculation);
   if (row.family == Family::kFacade) return CountedParts(setup, words);
   // Stored descriptions go by the family and call a floor with a floating screed a double wall.
-  if (row.stacks.Has(Stack::kResilient)) return FloorPart(setup);
+  if (row.stacks.Has(Stack::kResilient)) return FloorInWords(setup, words);
   return WholeDescription(setup, row, words);
 }
 

@@ -349,6 +349,16 @@ TEST(ComponiPagina, IsThePageInSmallInAPreview) {
   }
 }
 
+TEST(ComponiPagina, BreaksATitleThatNoLineHolds) {
+  PaginaDiStampa page = PageOf(samples::FacadeOfNine());
+  page.title =
+      "Calcolo previsionale del potere fonoisolante di una parete composta / Prediction of the sound "
+      "reduction index of a composite wall";
+  const auto device = Printed(page);
+  EXPECT_TRUE(device->Says(QStringLiteral("Calcolo previsionale")));
+  EXPECT_TRUE(device->Says(QStringLiteral("composite wall")));
+}
+
 TEST(ComponiPagina, SetsWordsOfTheInputsLeftAndTheirNumbersInTheMiddle) {
   PaginaDiStampa page;
   page.title = "Titolo";

@@ -8,6 +8,7 @@
 
 #include "foundation/decimal.h"
 #include "presentation/documents/workbook.h"
+#include "presentation/documents/xml_part.h"
 #include "presentation/reports/layer_table.h"
 #include "tests/presentation/documents/opened_report.h"
 
@@ -169,6 +170,25 @@ TEST_P(ExcelReportTest, TellsTheProject) {
 
 INSTANTIATE_TEST_SUITE_P(Families, ExcelReportTest, testing::ValuesIn(ReportCases()),
                          [](const auto& test) { return test.param.name; });
+
+TEST(ExcelReport, HeadsOfBandsInTwoLanguagesAreNotClipped) {
+  ReportRecord record = RecordOf(ReportCases().front());
+  record.reference_heading = "Rif [dB] / Ref [dB]";
+  const Package package(WriteExcelReport(ShippedTemplate(kExcelTemplateName), record));
+  const pugi::xml_document sheet =
+      ParseXml(package.Part("xl/worksheets/sheet1.xml"), "xl/worksheets/sheet1.xml");
+  const pugi::xml_node row =
+      sheet.child("worksheet").child("sheetData").find_child_by_attribute("row", "r", "36");
+  EXPECT_GT(row.attribute("ht").as_double(), 30.0);
+}
+
+// The logo lies over the cells from H1 on.
+TEST(ExcelReport, ItsTitleEndsBeforeTheLogo) {
+  const Package package(
+      WriteExcelReport(ShippedTemplate(kExcelTemplateName), RecordOf(ReportCases().front())));
+  const std::string& sheet = package.Part("xl/worksheets/sheet1.xml");
+  EXPECT_THAT(sheet, HasSubstr("<mergeCell ref=\"A1:G1\"/>"));
+}
 
 TEST(Workbook, KeepsTextThatLooksLikeAFormulaAsText) {
   Workbook workbook(ShippedTemplate(kExcelTemplateName));

@@ -13,6 +13,7 @@
 #include "presentation/reports/word_placeholders.h"
 #include "tests/presentation/documents/opened_report.h"
 #include "tests/presentation/drawing/catalogue_words.h"
+#include "tests/presentation/sample_setups.h"
 
 namespace velmar::presentation {
 namespace {
@@ -156,6 +157,24 @@ TEST(WordReport, HeadsNothingThatIsEmpty) {
   EXPECT_THAT(TextOf(package, "word/header1.xml"), Not(HasSubstr("Allegato")));
 }
 
+TEST(WordReport, TellsTheSourceOfALayerOnceAndPointsToIt) {
+  elements::Setup setup = ReportCases().front().setup;
+  setup.leaf1.count = 5;
+  setup.leaf1.rows[2] = setup.leaf1.rows[0];
+  samples::SetRow(setup.leaf1.rows[3], "Sughero", 30.0, 150.0);
+  setup.leaf1.rows[4] = setup.leaf1.rows[3];
+  Provenance provenance;
+  provenance.sources.structural = [](const auto& one) { return "Tabella 12 del catalogo: " + one.name; };
+  const CalculationData data = CalculationDataOf(setup, CatalogueWords(), provenance);
+  std::vector<std::string> told;
+  for (const auto& row : data.tables.at(0).rows) told.push_back(row.back());
+  // A short one is said again.
+  EXPECT_THAT(told,
+              testing::ElementsAre("Tabella 12 del catalogo: Intonaco di gesso",
+                                   "Tabella 12 del catalogo: Laterizio forato leggero 8-12 cm", "= N. 1",
+                                   "Tabella 12 del catalogo: Sughero", "Tabella 12 del catalogo: Sughero"));
+}
+
 TEST(WordReport, TellsTheDimensionsThatTheCalculationReads) {
   ReportRecord record = RecordOf(ReportCases().front());
   record.width = "4";
@@ -195,6 +214,12 @@ TEST(WordReport, TheInputsFollowTheSignatureAndTheirFirstTableStaysWhole) {
       table = node.next_sibling("w:tbl");
   }
   ASSERT_TRUE(table);
+  // What stands before it does not go along to the next page.
+  for (const pugi::xml_node node : body.children("w:p")) {
+    if (std::string_view(node.child("w:r").child("w:t").text().get()) == "Note: ") {
+      EXPECT_FALSE(node.child("w:pPr").child("w:keepNext"));
+    }
+  }
   // It has no heads that a first row would be set as.
   EXPECT_STREQ(table.child("w:tblPr").child("w:tblLook").attribute("w:firstRow").value(), "0");
   for (const pugi::xml_node row : table.children("w:tr")) {

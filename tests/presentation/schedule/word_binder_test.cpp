@@ -108,6 +108,17 @@ std::size_t CountOf(const std::string& text, const std::string& part) {
   return count;
 }
 
+TEST(WordBinder, DrawingsOfTheTableStandApart) {
+  const Package package = AllCases();
+  const pugi::xml_document document = ParseXml(package.Part(kMain), kMain);
+  std::size_t drawings = 0;
+  for (const auto& found : document.select_nodes("//w:tc[.//w:drawing]/w:p/w:pPr/w:spacing")) {
+    if (found.node().attribute("w:before").as_int() == 50 && found.node().attribute("w:after").as_int() == 50)
+      ++drawings;
+  }
+  EXPECT_EQ(drawings, ReportCases().size());
+}
+
 TEST(WordBinder, OneSignatureClosesTheDocumentInTheSectionOfTheLastChapter) {
   const Package package = AllCases();
   const std::string text = TextOf(package, kMain);

@@ -95,6 +95,20 @@ TEST(ResultDescription, OfAFloorNamesBaseResilientLayersAndScreed) {
             "SOLAIO BASE: Intonaco di gesso (15 mm); MASSETTO: Massetto sabbia-cemento (60 mm)");
 }
 
+TEST(ElementDescription, OfAFloorIsInTheWordsOfTheDocument) {
+  elements::Setup setup = samples::FloatingFloor();
+  setup.leaf1.count = 1;
+  setup.leaf2.count = 1;
+  setup.resilient.count = 1;
+  samples::SetRow(setup.resilient.rows[0], "Gomma", 8.0, 700.0, 2);
+  EXPECT_EQ(ElementDescription(setup, Say),
+            "<228>: Intonaco di gesso (15 mm) -- <167>: Gomma (8 mm) x 2 -- "
+            "<175>: Massetto sabbia-cemento (60 mm)");
+  setup.resilient.count = 0;
+  EXPECT_EQ(ElementDescription(setup, Say),
+            "<228>: Intonaco di gesso (15 mm) -- <175>: Massetto sabbia-cemento (60 mm)");
+}
+
 TEST(ResultDescription, OfALiningNamesItsBase) {
   elements::Setup setup = samples::Lining(Calculation::kLiningFrame);
   EXPECT_TRUE(
