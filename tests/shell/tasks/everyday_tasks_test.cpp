@@ -30,12 +30,6 @@ void Show(const WindowFixture& fixture) {
   if (!QTest::qWaitForWindowActive(fixture.window.get())) qFatal("no active window");
 }
 
-/// What a desktop does when a dialog has closed.
-void GoBackTo(const WindowFixture& fixture) {
-  fixture.window->activateWindow();
-  if (!QTest::qWaitForWindowActive(fixture.window.get())) qFatal("no active window");
-}
-
 /// The button of the card of element button `number` that opens its calculations.
 QToolButton* CalculationsOf(const WindowFixture& fixture, int number) {
   return fixture.Find<KindCard>("Inizio_" + QString::number(number))->findChild<QToolButton*>();
@@ -249,7 +243,6 @@ class EverydayTasksTest : public QObject {
       hand_.Enter("1000");
     });
     hand_.Choose(fixture.Find<QWidget>("AzioniCombo3_1"), "duplica_materiale");
-    GoBackTo(fixture);
     hand_.Press(Qt::Key_F5);
     QCOMPARE(fixture.told, QStringList());
     const auto& layer = fixture.open.Setup().leaf1.rows[1];
@@ -270,7 +263,7 @@ class EverydayTasksTest : public QObject {
     hand_.Enter(searched);
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     QVERIFY(fixture.window->findChild<QDialog*>("Form9") == nullptr);
-    GoBackTo(fixture);
+    Hand::GoBackTo(*fixture.window);
   }
 
   Hand hand_;

@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QMenu>
+#include <QPointer>
 #include <QTest>
 #include <QTimer>
 #include <QWheelEvent>
@@ -82,9 +83,16 @@ void Hand::Choose(QWidget* button, const QString& action) {
     ClickInMenu(action);
   });
   look.start(kLookMs);
+  const QPointer<QWidget> window = button->window();
   Click(button);
   while (!chosen) QTest::qWait(kLookMs);
   QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  if (window && QApplication::activeModalWidget() == nullptr) GoBackTo(*window);
+}
+
+void Hand::GoBackTo(QWidget& window) {
+  window.activateWindow();
+  if (!QTest::qWaitForWindowActive(&window)) qFatal("no active window");
 }
 
 void Hand::WhenAsked(const std::function<void(QWidget& dialog)>& act) {

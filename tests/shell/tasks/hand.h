@@ -29,6 +29,9 @@ class Hand {
   /// How many letters the entries had.
   int Letters() const { return letters_; }
 
+  /// What a desktop does with `window` when a menu or a dialog over it has closed.
+  static void GoBackTo(QWidget& window);
+
   /// Calls `act` once a modal window is open over the one in which the hand acts next.
   static void WhenAsked(const std::function<void(QWidget& dialog)>& act);
 
