@@ -43,7 +43,7 @@ constexpr int kInputsWidth = 600;
 /// Beside the results of a lining and the comparison the inputs find no more on a screen of 1366 pixels.
 constexpr int kNarrowestInputs = 440;
 /// What a table of layers needs; less only where the results have nothing to give.
-constexpr int kUsableInputs = 530;
+constexpr int kUsableInputs = 545;
 
 /// What stands ready for a command. The generic linings give ratings alone.
 Needs StateOf(const calculation::OpenCalculation& open) {

@@ -71,6 +71,7 @@ VariantStrip::VariantStrip(calculation::OpenCalculation& open, const Speech& spe
   line_->setSpacing(4);
   line_->addStretch(1);
   area_->setWidget(inner);
+  connect(area_->horizontalScrollBar(), &QScrollBar::rangeChanged, this, &VariantStrip::FitHeight);
   fix_ = new QToolButton(this);
   fix_->setObjectName("FissaVariante");
   fix_->setAutoRaise(true);
@@ -142,8 +143,14 @@ void VariantStrip::Show() {
   curves_->setVisible(any);
   setVisible(any || open_.Result());
   if (!any) return;
-  const int bar = area_->horizontalScrollBar()->sizeHint().height();
-  area_->setFixedHeight(area_->widget()->sizeHint().height() + bar / 2);
+  FitHeight();
+}
+
+/// A strip that is too long for the window has its bar below the variants, not over them.
+void VariantStrip::FitHeight() {
+  const QScrollBar& bar = *area_->horizontalScrollBar();
+  const int room = bar.maximum() > bar.minimum() ? bar.sizeHint().height() : 0;
+  area_->setFixedHeight(area_->widget()->sizeHint().height() + room);
 }
 
 void VariantStrip::LayOver(presentation::CurveChart& chart) const {

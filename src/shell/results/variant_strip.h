@@ -69,6 +69,7 @@ class VariantStrip : public QWidget {
   };
 
   void Read();
+  void FitHeight();
   void LayOver(presentation::CurveChart& chart) const;
   QToolButton* MakeButton(int index);
   void ShowButton(const Entry& entry);

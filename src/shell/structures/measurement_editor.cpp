@@ -83,19 +83,17 @@ MeasurementEditor::MeasurementEditor(shell::WindowTools tools, OwnMeasurementSou
   setObjectName(QStringLiteral("FormMisura"));
   setWindowTitle(tools_.Text(edited_.test ? kEditMeasurementRow : kNewMeasurementRow) +
                  QStringLiteral(" - VELMARpro"));
+  // In the order in which Tab goes through them.
   auto* left = new QVBoxLayout;
   left->addWidget(MakeTexts(), 1);
+  left->addWidget(MakeValues());
+  left->addWidget(in_situ_);
   left->addWidget(MakePicture());
   auto* right = new QVBoxLayout;
   bands_ = new MeasurementBands(tools_, this);
   right->addWidget(bands_);
   right->addWidget(MakeRating());
   right->addStretch(1);
-  auto* middle = new QVBoxLayout;
-  middle->addWidget(MakeValues());
-  middle->addWidget(in_situ_);
-  middle->addStretch(1);
-  left->insertLayout(1, middle);
   auto* faces = new QHBoxLayout;
   faces->addLayout(left, 3);
   faces->addLayout(right, 2);

@@ -1,11 +1,11 @@
 #include "shell/windows/docked.h"
 
 #include <QCloseEvent>
-#include <QCoreApplication>
 #include <QDialog>
 #include <QDockWidget>
 #include <QMainWindow>
 #include <QPointer>
+#include <QTimer>
 #include <algorithm>
 
 namespace velmar::shell {
@@ -46,9 +46,7 @@ void StandBeside(QDialog* dialog, QWidget* window, int width) {
   }
   // Which it forgets on its way into the window.
   QWidget* first = dialog->focusWidget();
-  // What the window needs at the least is that of now; it would grow past its screen for what was shown
-  // before.
-  QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
+  const int width_before = main->width();
   auto* dock = new Dock(dialog, main);
   if (!main->restoreDockWidget(dock)) {
     main->addDockWidget(Qt::RightDockWidgetArea, dock);
@@ -57,6 +55,10 @@ void StandBeside(QDialog* dialog, QWidget* window, int width) {
   }
   dock->show();
   dialog->show();
+  // What was shown before may still claim its room, and the window grow past its screen for it.
+  QTimer::singleShot(0, main, [main, width_before] {
+    if (main->width() > width_before) main->resize(width_before, main->height());
+  });
   // As a window of its own would: the keys go where the dialog begins.
   if (first != nullptr) first->setFocus(Qt::OtherFocusReason);
 }

@@ -1,6 +1,8 @@
 #include <QAction>
 #include <QApplication>
 #include <QLineEdit>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QTabWidget>
 #include <QTemporaryDir>
 #include <QTest>
@@ -57,6 +59,21 @@ class VariantStripTest : public QObject {
     QVERIFY(Button(1)->text().contains('='));
     fixture_->Type("Text5_0", "90");
     QVERIFY(!Button(0)->text().contains("▼"));
+  }
+
+  void aLongStripHasItsBarBelowTheVariants() {
+    FixTwo();
+    for (const char* thickness : {"100", "110", "130", "140", "150", "160"}) {
+      fixture_->Type("Text5_0", thickness);
+      fixture_->Run();
+      fixture_->Find<QToolButton>("FissaVariante")->click();
+    }
+    fixture_->window->resize(fixture_->window->minimumSizeHint().width(), 700);
+    const auto* area = fixture_->Find<QWidget>("Varianti")->findChild<QScrollArea*>();
+    QTRY_VERIFY(area->horizontalScrollBar()->isVisible());
+    const auto below = [&] { return Button(0)->mapTo(area->viewport(), Button(0)->rect().bottomLeft()).y(); };
+    QTRY_VERIFY2(below() < area->viewport()->height(), qPrintable(QString::number(below())));
+    QVERIFY(Button(0)->height() >= Button(0)->sizeHint().height());
   }
 
   void theCurvesOfTheOthersStandInTheChart() {

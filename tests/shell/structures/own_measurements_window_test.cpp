@@ -107,6 +107,20 @@ TEST_F(OwnMeasurementsWindowTest, ACertificateIsEnteredByPastingItsBands) {
   EXPECT_TRUE(boxes_.told.isEmpty());
 }
 
+TEST_F(OwnMeasurementsWindowTest, TabGoesDownTheLeftSideAndThenDownTheRight) {
+  Open();
+  Press(*window_, "CommandNuovaMisura");
+  Activate(Editor());
+  const QStringList stops = TabStops(Editor());
+  std::vector<qsizetype> places;
+  for (const char* name : {"TextNome", "TextFonte", "TextArea", "TextIncertezza", "CommandSenza",
+                           "CommandIncolla", "TextBanda_0", "TextBanda_20", "TextIndice", "Command1"}) {
+    EXPECT_TRUE(stops.contains(QLatin1String(name))) << name << " in " << stops.join(' ').toStdString();
+    places.push_back(stops.indexOf(QLatin1String(name)));
+  }
+  EXPECT_TRUE(std::ranges::is_sorted(places)) << stops.join(' ').toStdString();
+}
+
 TEST_F(OwnMeasurementsWindowTest, ATableIsPastedWithAKeyIntoAnyBand) {
   Open();
   Press(*window_, "CommandNuovaMisura");
