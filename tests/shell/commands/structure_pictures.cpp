@@ -32,7 +32,11 @@ void Settle() {
 
 class Album {
  public:
-  explicit Album(const QString& folder) : folder_(folder) { program_.fixture.window->resize(kScreen); }
+  explicit Album(const QString& folder) : folder_(folder) {
+    // A measurement is added below: the library that the build ships stays as it is.
+    program_.CopyLibrary();
+    program_.fixture.window->resize(kScreen);
+  }
 
   void Make() {
     StoreWalls();
@@ -141,6 +145,9 @@ class Album {
 
   void Facade() {
     WindowFixture& fixture = program_.fixture;
+    // Without the variant of the wall before.
+    fixture.save = false;
+    fixture.window->OpenProject(EXAMPLES "/cartongesso-lastra-singola.drav");
     fixture.Choose("cal_facciata");
     fixture.open.Edit([](elements::Setup& setup) {
       setup.base.area_text = "14,4";
