@@ -145,6 +145,9 @@ class Album {
 
   void Facade() {
     WindowFixture& fixture = program_.fixture;
+    // Without the variant of the wall before.
+    fixture.save = false;
+    fixture.window->OpenProject(EXAMPLES "/cartongesso-lastra-singola.drav");
     fixture.Choose("cal_facciata");
     fixture.open.Edit([](elements::Setup& setup) {
       setup.base.area_text = "14,4";
