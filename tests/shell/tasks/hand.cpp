@@ -15,12 +15,20 @@ namespace {
 
 constexpr int kLookMs = 5;
 constexpr int kNotch = 120;
-constexpr int kFocusMs = 5000;
+constexpr int kFocusMs = 1000;
 
-/// What takes the keys; a busy machine gives the focus back only a moment after a menu has closed.
+bool TakesKeys() { return QApplication::focusWidget() != nullptr; }
+
+/// What takes the keys. Without a desktop nobody always gives the window its place back when a list or a menu
+/// above it has closed; which of its fields then has the focus is its own affair.
 QWidget& Focused() {
-  const auto given = [] { return QApplication::focusWidget() != nullptr; };
-  if (!QTest::qWaitFor(given, kFocusMs)) qFatal("a key, and nothing that takes it");
+  if (!TakesKeys() && !QTest::qWaitFor(TakesKeys, kFocusMs)) {
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+      if (window->isVisible() && window->isWindow() && window->windowType() == Qt::Window)
+        window->activateWindow();
+    }
+  }
+  if (!QTest::qWaitFor(TakesKeys, kFocusMs)) qFatal("a key, and nothing that takes it");
   return *QApplication::focusWidget();
 }
 
