@@ -16,6 +16,7 @@ namespace {
 constexpr int kLookMs = 5;
 constexpr int kNotch = 120;
 constexpr int kFocusMs = 1000;
+constexpr int kHandMs = 50;
 
 bool TakesKeys() { return QApplication::focusWidget() != nullptr; }
 
@@ -49,12 +50,15 @@ bool ClickInMenu(const QString& name) {
 void Hand::Click(QWidget* widget) {
   if (!widget->isVisible() || !widget->isEnabled())
     qFatal("nothing to click at: %s", qPrintable(widget->objectName()));
+  // A click brings its window to the front first: a field selects its text only when it gets the focus by it.
+  if (!widget->window()->isActiveWindow()) GoBackTo(*widget->window());
   // The line of a tick box may be longer than its words: who clicks aims at the box.
   const bool tick = qobject_cast<QCheckBox*>(widget) != nullptr;
   const QPoint at = tick ? QPoint(widget->height() / 2, widget->height() / 2) : widget->rect().center();
   QTest::mouseClick(widget, Qt::LeftButton, {}, at);
   ++count_;
-  QApplication::processEvents();
+  // What a field does when all else is done, such as selecting its text, comes before the first key of a hand.
+  QTest::qWait(kHandMs);
 }
 
 void Hand::Press(Qt::Key key, Qt::KeyboardModifiers modifiers) {
@@ -100,7 +104,10 @@ void Hand::Choose(QWidget* button, const QString& action) {
 
 void Hand::GoBackTo(QWidget& window) {
   window.activateWindow();
-  if (!QTest::qWaitForWindowActive(&window)) qFatal("no active window");
+  const auto back = [&window] { return window.isActiveWindow(); };
+  // Without a desktop the word of it gets lost now and then.
+  if (!QTest::qWaitFor(back, kFocusMs)) QApplication::setActiveWindow(&window);
+  if (!QTest::qWaitFor(back, kFocusMs)) qFatal("no active window");
 }
 
 void Hand::WhenAsked(const std::function<void(QWidget& dialog)>& act) {
