@@ -57,7 +57,8 @@ void Hand::Click(QWidget* widget) {
   const QPoint at = tick ? QPoint(widget->height() / 2, widget->height() / 2) : widget->rect().center();
   QTest::mouseClick(widget, Qt::LeftButton, {}, at);
   ++count_;
-  // What a field does when all else is done, such as selecting its text, comes before the first key of a hand.
+  // What a field does when all else is done, such as selecting its text, comes before the first key of a
+  // hand.
   QTest::qWait(kHandMs);
 }
 
