@@ -1,8 +1,7 @@
 // bench_start fill N     makes the data folder of the user HOME with N more structural materials
 // bench_start BEGAN      starts the program as its main does and ends it when the window is drawn: the time
-// since
-//                        BEGAN (seconds since 1970, with a point), milliseconds, and the most memory in use,
-//                        MB
+//                        since BEGAN (seconds since 1970, with a point), milliseconds, and the most memory in
+//                        use, MB
 #include <QEvent>
 #include <QTimer>
 #include <QWidget>
@@ -67,7 +66,8 @@ int main(int argc, char** argv) {
     return 0;
   }
   if (argc != 2) return 2;
-  velmar::shell::DesktopApplication application(argc, argv);
+  int no_project = 1;  // the moment is no file to open
+  velmar::shell::DesktopApplication application(no_project, argv);
   QCoreApplication::setApplicationVersion("2.0.0");
   velmar::FirstPaint paint;
   application.installEventFilter(&paint);
