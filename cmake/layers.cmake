@@ -70,7 +70,9 @@ function(chosen_among_window_tests program result)
 endfunction()
 
 # add_program_tests(program label [ENVIRONMENT ...]): the tests of a GoogleTest program, each known to CTest by its
-# name. Under the sanitizers a program starts slowly and stands for all its tests at once.
+# name. Under the sanitizers a program starts slowly and stands for all its tests at once; so does one whose tests
+# share what takes longer to make than to test.
+set(WHOLE_PROGRAMS presentation_reports_test validation_test)
 function(add_program_tests program label)
   if(program MATCHES "^(shell|presentation_drawing|presentation_export|presentation_paper)_")
     chosen_among_window_tests(${program} chosen)
@@ -78,7 +80,7 @@ function(add_program_tests program label)
       return()
     endif()
   endif()
-  if(VELMAR_SANITIZE)
+  if(VELMAR_SANITIZE OR program IN_LIST WHOLE_PROGRAMS)
     add_test(NAME "${label}" COMMAND ${program})
     set_tests_properties("${label}" PROPERTIES LABELS ${label} ${ARGN})
   else()
