@@ -22,9 +22,9 @@ struct ReportContent {
   calculation::Totals totals{};
   Message confidence{};  ///< what is known of the error of the result
   presentation::Words words{};
-  std::string file{};                          ///< the project's name without its folder; UTF-8
+  std::string file{};                                    ///< the project's name without its folder; UTF-8
   std::optional<elements::DocumentLanguage> language{};  ///< none: as the studio profile says
-  presentation::MaterialSources sources{};     ///< of the layers' materials
+  presentation::MaterialSources sources{};               ///< of the layers' materials
   std::function<void(const Message&)> tell{};  ///< what the user is to know of a report that was written
 };
 

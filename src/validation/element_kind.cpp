@@ -356,7 +356,8 @@ ElementKind KindOfList(const elements::Multilayer& list) {
   };
   if (std::ranges::all_of(element.leaves, is_pane)) return GlazingKind(element.depth_mm);
   const auto is_light = [](const ListedLeaf& leaf) {
-    return !leaf.shaped && !leaf.laminated && !leaf.sheets.empty() && MassOf(leaf.sheets) < models::kHeavyLeaf;
+    return !leaf.shaped && !leaf.laminated && !leaf.sheets.empty() &&
+           MassOf(leaf.sheets) < models::kHeavyLeaf;
   };
   return std::ranges::all_of(element.leaves, is_light) ? KindOfConnection(element.connection)
                                                        : ElementKind::kOther;

@@ -95,15 +95,15 @@ struct OrthotropicPlate {
 /// @param profile_height_m, profile_pitch_m H and p, both above 0
 OrthotropicPlate CorrugatedSheet(const SolidLayer& sheet, double profile_height_m, double profile_pitch_m);
 
-/// Whether the values are those of a pane: 2400 to 2600 kg/m³ with a wave speed sqrt(E/rho) from 4000 m/s; in a
-/// leaf that is not heavy also from 2330 kg/m³ with 4200 m/s, which two plies with their interlayer between
+/// Whether the values are those of a pane: 2400 to 2600 kg/m³ with a wave speed sqrt(E/rho) from 4000 m/s; in
+/// a leaf that is not heavy also from 2330 kg/m³ with 4200 m/s, which two plies with their interlayer between
 /// them come to (44.2: 2376 kg/m³) and concrete does not.
 /// @param heavy the leaf weighs kHeavyLeaf and more
 bool IsGlass(double density_kg_m3, double youngs_modulus_pa, bool heavy);
 
-/// The kind of a solid that is told by its values alone: glass as IsGlass says; every other layer of a heavy leaf masonry; limp sheets below 900 m/s of no
-/// kind; metal from 2600 kg/m³, masonry from 1300 kg/m³; wood below 900 kg/m³ with 3000 m/s and more;
-/// plasterboard the rest.
+/// The kind of a solid that is told by its values alone: glass as IsGlass says; every other layer of a heavy
+/// leaf masonry; limp sheets below 900 m/s of no kind; metal from 2600 kg/m³, masonry from 1300 kg/m³; wood
+/// below 900 kg/m³ with 3000 m/s and more; plasterboard the rest.
 /// @param heavy the leaf weighs kHeavyLeaf and more
 SolidKind KindOfSolid(double density_kg_m3, double youngs_modulus_pa, bool heavy);
 inline constexpr double kHeavyLeaf = 60.0;  ///< kg/m²

@@ -32,7 +32,8 @@ QScrollArea* InScrollArea(QWidget* page) {
 
 }  // namespace
 
-InputTabs::InputTabs(PageContext& context, QWidget* parent) : QTabWidget(parent), context_(context), base_(new BaseElementPage(context)) {
+InputTabs::InputTabs(PageContext& context, QWidget* parent)
+    : QTabWidget(parent), context_(context), base_(new BaseElementPage(context)) {
   setObjectName("SSTab1");
   setIconSize({24, 24});
   pages_ = {new LeafPage(LeafPage::Leaf::kFirst, context),
@@ -68,10 +69,10 @@ void InputTabs::AddKeys() {
 void InputTabs::FocusFirst() { FocusFirstField(currentWidget()); }
 
 void InputTabs::GoTo(const presentation::LayerPlace& place) {
-  QWidget* field = place.group ? context_.ControlOf({.field = elements::Field::kMaterial,
-                                                     .group = place.group,
-                                                     .index = place.row})
-                               : base_->NameField();
+  QWidget* field = place.group
+                       ? context_.ControlOf(
+                             {.field = elements::Field::kMaterial, .group = place.group, .index = place.row})
+                       : base_->NameField();
   if (field == nullptr) return;
   BringForward(field);
   if (!field->isVisible()) return FocusFirst();

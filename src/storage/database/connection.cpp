@@ -112,7 +112,8 @@ DatabaseFailure FailureOf(const SQLite::Exception& error, int system_error, Purp
   return {ProblemOf(error.getErrorCode(), system_error, purpose), file, error.what()};
 }
 
-/// @param system_error what the system said when the changes did not reach the disk: the library keeps that of
+/// @param system_error what the system said when the changes did not reach the disk: the library keeps that
+/// of
 ///   statements only
 void Commit(SQLite::Transaction& transaction, int& system_error) {
   errno = 0;
@@ -190,7 +191,8 @@ void ChangeDatabaseWith(const fs::path& file, const std::function<void(SQLite::D
     work(*database);
     Commit(transaction, commit_error);
   } catch (const SQLite::Exception& error) {
-    throw FailureOf(error, commit_error != 0 ? commit_error : SystemErrorOf(database), Purpose::kChange, file);
+    throw FailureOf(error, commit_error != 0 ? commit_error : SystemErrorOf(database), Purpose::kChange,
+                    file);
   }
 }
 
