@@ -34,7 +34,6 @@ struct Spoiling {
   const char* name;
   const char* told;  ///< a piece of what the user is told
   bool lists;        ///< whether the names can still be read
-  bool slow;         ///< the program waits before it says so
   std::function<std::function<void()>(const fs::path&)> spoil;
 };
 
@@ -109,8 +108,10 @@ TEST_P(SpoiltResultsTest, DeletingSaysSoAndLosesNothing) {
   EXPECT_TRUE(storage::ResultsStore(places_.results).List(storage::ResultTable::kAirborne).empty());
 }
 
-TEST_P(SpoiltResultsTest, SelectingSaysSoAndTheWindowStays) {
-  if (GetParam().lists || GetParam().slow) GTEST_SKIP() << "what can be read can be selected";
+/// What can be read can be selected: only a file that cannot.
+class UnreadableResultsTest : public SpoiltResultsTest {};
+
+TEST_P(UnreadableResultsTest, SelectingSaysSoAndTheWindowStays) {
   std::vector<calculation::FacadePart> taken;
   SavedResultsWindow window(boxes_.Tools(), StoredResults(places_.results),
                             SavedResultsWindow::Purpose::kTake);
@@ -127,8 +128,10 @@ TEST_P(SpoiltResultsTest, SelectingSaysSoAndTheWindowStays) {
   EXPECT_EQ(taken.size(), 1U);
 }
 
-TEST_P(SpoiltResultsTest, TheLibraryShowsItsOwnFilesBesideThem) {
-  if (GetParam().slow) GTEST_SKIP() << "the wait for the lock is tested above";
+/// All but a file that is waited for.
+class SpoiltAtOnceTest : public SpoiltResultsTest {};
+
+TEST_P(SpoiltAtOnceTest, TheLibraryShowsItsOwnFilesBesideThem) {
   auto undo = GetParam().spoil(places_.results);
   MeasuredLibraryWindow window(boxes_.Tools(), Library(), {});
   window.show();
@@ -139,14 +142,20 @@ TEST_P(SpoiltResultsTest, TheLibraryShowsItsOwnFilesBesideThem) {
   undo();
 }
 
+const Spoiling kLocked = {"Locked", "altro programma", false, Hold};
+const Spoiling kReadOnly = {"ReadOnly", "sola lettura", true, MarkReadOnly};
+const Spoiling kMissing = {"Missing", "Database_teorico.mdb", false, PutAside};
+const Spoiling kDamaged = {"Damaged", "danneggiato", false, Damage};
+const Spoiling kWithoutTables = {"WithoutTables", "Potere_fonoisolante", false, WithoutTables};
+
+std::string NameOf(const testing::TestParamInfo<Spoiling>& test) { return test.param.name; }
+
 INSTANTIATE_TEST_SUITE_P(Ways, SpoiltResultsTest,
-                         testing::Values(Spoiling{"Locked", "altro programma", false, true, Hold},
-                                         Spoiling{"ReadOnly", "sola lettura", true, false, MarkReadOnly},
-                                         Spoiling{"Missing", "Database_teorico.mdb", false, false, PutAside},
-                                         Spoiling{"Damaged", "danneggiato", false, false, Damage},
-                                         Spoiling{"WithoutTables", "Potere_fonoisolante", false, false,
-                                                  WithoutTables}),
-                         [](const auto& test) { return std::string(test.param.name); });
+                         testing::Values(kLocked, kReadOnly, kMissing, kDamaged, kWithoutTables), NameOf);
+INSTANTIATE_TEST_SUITE_P(Ways, UnreadableResultsTest, testing::Values(kMissing, kDamaged, kWithoutTables),
+                         NameOf);
+INSTANTIATE_TEST_SUITE_P(Ways, SpoiltAtOnceTest,
+                         testing::Values(kReadOnly, kMissing, kDamaged, kWithoutTables), NameOf);
 
 class BadLibraryTest : public StoresTest {};
 
