@@ -51,7 +51,7 @@ IndexPages::IndexPages(std::vector<std::string> terms, const ManualPages& text, 
       pages += (pages.isEmpty() ? "" : ", ") + QString::number(page + first);
     lines_.push_back({QString::fromStdString(term), pages});
   }
-  QCollator order(QLocale(QLocale::Italian));
+  QCollator order{QLocale(QLocale::Italian)};
   order.setCaseSensitivity(Qt::CaseInsensitive);
   std::ranges::sort(lines_,
                     [&order](const Line& a, const Line& b) { return order.compare(a.term, b.term) < 0; });
