@@ -60,6 +60,7 @@ enum class Field {
 
   kTracks,  ///< `CheckGuide`
 };
+inline constexpr Field kLastField = Field::kTracks;
 
 /// A set of fields.
 class FieldSet {

@@ -80,6 +80,8 @@ auto& AnyFibrousRow(AnySetup& setup, LayerGroup group, int index) {
 
 }  // namespace
 
+std::span<const LayerGroupRow> LayerGroups() { return kGroups; }
+
 const LayerGroupRow& RowOf(LayerGroup group) { return kGroups.at(static_cast<std::size_t>(group)); }
 
 std::optional<LayerGroup> FindLayerGroup(std::string_view code) {

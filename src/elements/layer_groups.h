@@ -1,6 +1,7 @@
 #pragma once
 
 #include <optional>
+#include <span>
 #include <string_view>
 
 #include "elements/setup.h"
@@ -37,6 +38,9 @@ struct LayerGroupRow {
   std::string_view thickness_box{};   ///< control name of the rows' thickness boxes
   std::string_view chooser_button{};  ///< control name of the buttons that open the material list
 };
+
+/// The rows of all groups, in the order of the enumeration.
+std::span<const LayerGroupRow> LayerGroups();
 
 /// The row of `group`.
 const LayerGroupRow& RowOf(LayerGroup group);

@@ -6,6 +6,7 @@
 
 #include "acoustics/bands.h"
 #include "elements/catalogue.h"
+#include "elements/fields.h"
 #include "elements/keyed_values.h"
 #include "elements/layers.h"
 #include "elements/multilayer.h"
@@ -97,6 +98,40 @@ struct Setup {
 
   bool operator==(const Setup&) const = default;
 };
+
+/// Calls `visit(field, name, value of each set-up...)` for every field that a set-up has once: the exact text
+/// of a set-up writes it under `name`, and undo tells by it what has changed. What follows from others stands
+/// behind them.
+template <typename Visit, typename... Setups>
+void VisitSingleFields(Visit&& visit, Setups&... setups) {
+  const auto each = [&](Field field, const char* name, auto value) { visit(field, name, value(setups)...); };
+  each(
+      Field::kCavityKind, "intercapedine.contenuto", [](auto& s) -> auto& { return s.cavity.kind; });
+  each(
+      Field::kFibreThickness, "intercapedine.fibra", [](auto& s) -> auto& { return s.cavity.fibre_text; });
+  each(
+      Field::kCavityDepth, "intercapedine.spessore", [](auto& s) -> auto& { return s.cavity.depth_text; });
+  each(
+      Field::kSeaCavityType, "sea.contenuto", [](auto& s) -> auto& { return s.sea_cavity.type; });
+  each(
+      Field::kSeaCavityDepth, "sea.spessore", [](auto& s) -> auto& { return s.sea_cavity.depth_text; });
+  each(
+      Field::kTracks, "multistrato.guide", [](auto& s) -> auto& { return s.multilayer.framed; });
+  each(
+      Field::kWidth, "larghezza", [](auto& s) -> auto& { return s.width_text; });
+  each(
+      Field::kHeight, "altezza", [](auto& s) -> auto& { return s.height_text; });
+  each(
+      Field::kSupport, "supporti", [](auto& s) -> auto& { return s.support_distance_text; });
+  each(
+      Field::kHanger, "pendino", [](auto& s) -> auto& { return s.hanger; });
+  each(
+      Field::kDecoupling, "desolidarizzata", [](auto& s) -> auto& { return s.decoupled; });
+  each(
+      Field::kSimplified, "facciata.semplificata", [](auto& s) -> auto& { return s.facade.simplified; });
+  each(
+      Field::kBaseThickness, "base.spessore", [](auto& s) -> auto& { return s.base.thickness_mm; });
+}
 
 /// The number that the text of a count list names, between `lowest` and `highest`; `lowest` when it names
 /// none.

@@ -153,7 +153,6 @@ void VisitDamping(const std::string& name, Damping& damping, Visit& visit) {
 template <typename List, typename Visit>
 void VisitList(List& list, Visit& visit) {
   visit("multistrato.righe", list.count);
-  visit("multistrato.guide", list.framed);
   for (std::size_t i = 0; i < list.strata.size(); ++i) {
     auto& row = list.strata[i];
     const std::string name = "multistrato." + std::to_string(i + 1);
@@ -171,30 +170,19 @@ void VisitList(List& list, Visit& visit) {
 
 template <typename AnySetup, typename Visit>
 void VisitSetup(AnySetup& setup, Visit& visit) {
-  visit("larghezza", setup.width_text);
-  visit("altezza", setup.height_text);
+  VisitSingleFields([&](Field, const char* name, auto& value) { visit(name, value); }, setup);
   VisitTable("parete1", setup.leaf1, visit);
   VisitTable("parete2", setup.leaf2, visit);
-  visit("intercapedine.contenuto", setup.cavity.kind);
-  visit("intercapedine.spessore", setup.cavity.depth_text);
-  visit("intercapedine.fibra", setup.cavity.fibre_text);
   VisitTable("intercapedine", setup.cavity.layers, visit);
   VisitTable("resiliente", setup.resilient, visit);
   VisitTable("sea1", setup.sea_leaf1, visit);
   VisitDamping("sea1", setup.sea_leaf1.damping, visit);
   VisitTable("sea2", setup.sea_leaf2, visit);
   VisitDamping("sea2", setup.sea_leaf2.damping, visit);
-  visit("sea.contenuto", setup.sea_cavity.type);
-  visit("sea.spessore", setup.sea_cavity.depth_text);
   VisitRows("sea.fibra", setup.sea_cavity.fibres, visit);
   VisitRows("sea.massa", setup.sea_cavity.masses, visit);
   VisitDamping("sea.massa", setup.sea_cavity.mass_damping, visit);
-  visit("supporti", setup.support_distance_text);
-  visit("pendino", setup.hanger);
-  visit("desolidarizzata", setup.decoupled);
   VisitElement("base", setup.base, visit);
-  visit("base.spessore", setup.base.thickness_mm);
-  visit("facciata.semplificata", setup.facade.simplified);
   visit("facciata.componenti", setup.facade.count_text);
   for (std::size_t i = 0; i < setup.facade.components.size(); ++i) {
     const std::string name = "componente." + std::to_string(i + 1);

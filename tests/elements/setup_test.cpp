@@ -1,5 +1,8 @@
 #include "elements/setup.h"
 
+#include <set>
+#include <string>
+
 #include <gtest/gtest.h>
 
 namespace velmar::elements {
@@ -11,6 +14,40 @@ TEST(Setup, IsAValue) {
   EXPECT_EQ(a, b);
   b.leaf2.rows[9].slot.loss_factor = 0.01;
   EXPECT_NE(a, b);
+}
+
+TEST(SingleFields, HaveOnePlaceAndOneNameEach) {
+  Setup setup;
+  std::set<std::string> names;
+  std::set<const void*> places;
+  FieldSet fields;
+  int count = 0;
+  VisitSingleFields(
+      [&](Field field, const char* name, const auto& value) {
+        EXPECT_FALSE(fields.Has(field)) << name;
+        fields = fields.With({field});
+        names.insert(name);
+        places.insert(&value);
+        ++count;
+      },
+      setup);
+  EXPECT_EQ(names.size(), count);
+  EXPECT_EQ(places.size(), count);
+}
+
+TEST(SingleFields, AreOfTheSameFieldInEachSetup) {
+  const Setup before;
+  Setup after;
+  after.width_text = "5";
+  after.multilayer.framed = true;
+  after.base.thickness_mm = 120.0;
+  FieldSet changed;
+  VisitSingleFields(
+      [&](Field field, const char*, const auto& was, const auto& is) {
+        if (was != is) changed = changed.With({field});
+      },
+      before, after);
+  EXPECT_EQ(changed, (FieldSet{Field::kWidth, Field::kTracks, Field::kBaseThickness}));
 }
 
 TEST(Facade, CountsTheComponentsThatItsTextNames) {

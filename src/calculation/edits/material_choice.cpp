@@ -299,16 +299,9 @@ void ReloadLayers(Setup& setup, LayerGroup group, const elements::MaterialLookup
 
 void LoadRowsInUse(Setup& setup, const elements::MaterialLookup& tables) {
   const elements::MaterialLookup materials = elements::ForOneOperation(tables);
-  constexpr std::array kGroups = {LayerGroup::kLeaf1,         LayerGroup::kLeaf2,
-                                  LayerGroup::kSeaLeaf1,      LayerGroup::kSeaLeaf2,
-                                  LayerGroup::kSeaDamping1,   LayerGroup::kSeaDamping2,
-                                  LayerGroup::kSeaCavityMass, LayerGroup::kSeaCavityDamping,
-                                  LayerGroup::kCavity,        LayerGroup::kSeaCavityFibre,
-                                  LayerGroup::kResilient,     LayerGroup::kStratumSolid,
-                                  LayerGroup::kStratumFibre};
-  for (const LayerGroup group : kGroups) {
-    for (int i = 0; i < RowsInUse(setup, group); ++i) {
-      if (IsTicked(setup, group, i)) LoadRow(setup, group, i, materials);
+  for (const elements::LayerGroupRow& row : elements::LayerGroups()) {
+    for (int i = 0; i < RowsInUse(setup, row.group); ++i) {
+      if (IsTicked(setup, row.group, i)) LoadRow(setup, row.group, i, materials);
     }
   }
 }

@@ -1,7 +1,8 @@
 #include "calculation/open/history.h"
 
-#include <array>
 #include <stdexcept>
+#include <string>
+#include <type_traits>
 #include <utility>
 #include <vector>
 
@@ -17,14 +18,6 @@ using elements::FieldId;
 using elements::LayerGroup;
 using elements::Setup;
 
-constexpr std::array kGroups = {LayerGroup::kLeaf1,         LayerGroup::kLeaf2,
-                                LayerGroup::kSeaLeaf1,      LayerGroup::kSeaLeaf2,
-                                LayerGroup::kSeaDamping1,   LayerGroup::kSeaDamping2,
-                                LayerGroup::kSeaCavityMass, LayerGroup::kSeaCavityDamping,
-                                LayerGroup::kCavity,        LayerGroup::kSeaCavityFibre,
-                                LayerGroup::kResilient,     LayerGroup::kStratumSolid,
-                                LayerGroup::kStratumFibre};
-
 /// Collects what differs; of one row or element the field that the others follow from stands first.
 class Differences {
  public:
@@ -32,10 +25,11 @@ class Differences {
     if (before.calculation != after.calculation) Add({StepKind::kCalculation});
     Counts();
     Kinds(before.multilayer, after.multilayer);
-    for (const LayerGroup group : kGroups) Rows(group);
-    Cavities();
+    for (const elements::LayerGroupRow& row : elements::LayerGroups()) Rows(row);
+    elements::VisitSingleFields(
+        [this](Field field, const char*, const auto& was, const auto& is) { AddIf(was != is, {field}); },
+        before, after);
     FreeLayers(before.multilayer, after.multilayer);
-    Whole();
     Element(before.base, after.base, 0);
     for (std::size_t i = 0; i < before.facade.components.size(); ++i)
       Element(before.facade.components[i], after.facade.components[i], static_cast<int>(i) + 1);
@@ -92,10 +86,11 @@ class Differences {
       Add({StepKind::kCount, {.field = Field::kArea}});
   }
 
-  void Rows(LayerGroup group) {
+  void Rows(const elements::LayerGroupRow& row) {
+    const LayerGroup group = row.group;
     const bool damping = group == LayerGroup::kSeaDamping1 || group == LayerGroup::kSeaDamping2 ||
                          group == LayerGroup::kSeaCavityDamping;
-    for (int i = 0; i < RowOf(group).capacity; ++i) {
+    for (int i = 0; i < row.capacity; ++i) {
       const LayerText was = LayerTextOf(before_, group, i);
       const LayerText is = LayerTextOf(after_, group, i);
       if (damping)
@@ -105,16 +100,6 @@ class Differences {
       AddIf(was.multiplicity != is.multiplicity, {Field::kSheets, group, i});
       AddIf(was.thickness_text != is.thickness_text, {Field::kThickness, group, i});
     }
-  }
-
-  void Cavities() {
-    const elements::Cavity& was = before_.cavity;
-    const elements::Cavity& is = after_.cavity;
-    AddIf(was.kind != is.kind, {Field::kCavityKind});
-    AddIf(was.fibre_text != is.fibre_text, {Field::kFibreThickness});
-    AddIf(was.depth_text != is.depth_text, {Field::kCavityDepth});
-    AddIf(before_.sea_cavity.type != after_.sea_cavity.type, {Field::kSeaCavityType});
-    AddIf(before_.sea_cavity.depth_text != after_.sea_cavity.depth_text, {Field::kSeaCavityDepth});
   }
 
   // A row that becomes something else may bring a thickness along, and joins or parts cavities.
@@ -136,21 +121,10 @@ class Differences {
       of_row(before.profile_height_text != after.profile_height_text, Field::kProfileHeight);
       of_row(before.profile_pitch_text != after.profile_pitch_text, Field::kProfilePitch);
     }
-    AddIf(was.framed != is.framed, {Field::kTracks});
   }
 
   static const elements::Stratum& Row(const elements::Multilayer& list, int index) {
     return list.strata.at(static_cast<std::size_t>(index));
-  }
-
-  void Whole() {
-    AddIf(before_.width_text != after_.width_text, {Field::kWidth});
-    AddIf(before_.height_text != after_.height_text, {Field::kHeight});
-    AddIf(before_.support_distance_text != after_.support_distance_text, {Field::kSupport});
-    AddIf(before_.hanger != after_.hanger, {Field::kHanger});
-    AddIf(before_.decoupled != after_.decoupled, {Field::kDecoupling});
-    AddIf(before_.facade.simplified != after_.facade.simplified, {Field::kSimplified});
-    AddIf(before_.base.thickness_mm != after_.base.thickness_mm, {Field::kBaseThickness});
   }
 
   template <typename PartOfFacade>
@@ -200,19 +174,23 @@ bool IsTyped(const Step& step) {
   switch (step.field.field) {
     case Field::kMaterial:
     case Field::kTick:
-    case Field::kCavityKind:
-    case Field::kSeaCavityType:
-    case Field::kHanger:
-    case Field::kDecoupling:
-    case Field::kSimplified:
     case Field::kTightness:
     case Field::kStratumKind:
     case Field::kConnection:
-    case Field::kTracks:
       return false;
     default:
-      return true;
+      break;
   }
+  // Lists and checks are chosen; texts and numbers are typed.
+  static const Setup blank;
+  bool typed = true;
+  elements::VisitSingleFields(
+      [&]<typename Value>(Field field, const char*, const Value&) {
+        if (field == step.field.field)
+          typed = std::is_same_v<Value, std::string> || std::is_floating_point_v<Value>;
+      },
+      blank);
+  return typed;
 }
 
 template <typename Entries>

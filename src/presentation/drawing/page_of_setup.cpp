@@ -9,6 +9,7 @@
 #include "presentation/texts/box_number.h"
 #include "presentation/texts/calculation_labels.h"
 #include "presentation/texts/facade_texts.h"
+#include "presentation/texts/field_texts.h"
 #include "presentation/texts/result_lines.h"
 #include "presentation/texts/result_notes.h"
 #include "presentation/texts/results_table.h"

@@ -7,6 +7,7 @@
 #include "foundation/message_rows.h"
 #include "presentation/reports/facade_rows.h"
 #include "presentation/texts/calculation_labels.h"
+#include "presentation/texts/field_texts.h"
 
 namespace velmar::presentation {
 namespace {

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <array>
 #include <map>
-#include <optional>
 #include <utility>
 
 #include "elements/parts.h"
@@ -12,6 +11,7 @@
 #include "foundation/rounding.h"
 #include "presentation/texts/calculation_labels.h"
 #include "presentation/texts/facade_texts.h"
+#include "presentation/texts/field_texts.h"
 #include "presentation/texts/references.h"
 
 namespace velmar::presentation {
@@ -23,105 +23,12 @@ using elements::Layer;
 using elements::Setup;
 using elements::Stack;
 
-constexpr const char* kNothing = "–";
 /// Bytes of the source of a material that is said of every layer.
 constexpr std::size_t kShortSource = 40;
 constexpr std::size_t kProjectRow = 0;  // of the project information
 
 /// Six digits are more than any material is known by.
-std::string Value(double value) { return value == 0.0 ? kNothing : FormatShortest(RoundToEven(value, 6)); }
-
-std::string Millimetres(const std::string& text) { return text.empty() ? kNothing : text + " mm"; }
-
-std::string CavityKindText(elements::CavityKind kind, const Words& words) {
-  switch (kind) {
-    case elements::CavityKind::kEmpty:
-      return words(kEmptyCavityRow);
-    case elements::CavityKind::kFibrous:
-      return words(kFibrousCavityRow);
-    case elements::CavityKind::kGenericMaterial:
-      return words(kGenericCavityChoiceRow);
-  }
-  return {};
-}
-
-DataField SupportField(const Setup& setup, const CalculationRow& row, const Words& words) {
-  const std::string& text = setup.support_distance_text;
-  if (IsCount(row.support)) return {WithoutColon(words(kConnectionsRow)), text};
-  return {words(kSupportStudsCaptionRow), text.empty() ? kNothing : text + " cm"};
-}
-
-/// What joins the leaves of each cavity of a free list of layers.
-std::string ConnectionsOf(const elements::Multilayer& list, const Words& words) {
-  std::string texts;
-  for (int index = 0; index < list.Count(); ++index) {
-    const std::string text = ConnectionText(list, index, words);
-    if (!text.empty()) texts += (texts.empty() ? "" : "; ") + std::to_string(index + 1) + ": " + text;
-  }
-  return texts.empty() ? kNothing : texts;
-}
-
-/// A field that a set-up has once; nothing for those of layers, parts and base elements, which stand in
-/// tables.
-std::optional<DataField> FieldOf(Field field, const Setup& setup, const CalculationRow& row,
-                                 const Words& words) {
-  switch (field) {
-    case Field::kWidth:
-      return DataField{WithoutColon(words(kElementWidthRow)), setup.width_text};
-    case Field::kHeight:
-      return DataField{WithoutColon(words(kElementHeightRow)), setup.height_text};
-    case Field::kCavityDepth:
-      return DataField{words(kCavityDepthCaptionRow), Millimetres(setup.cavity.depth_text)};
-    case Field::kCavityKind:
-      return DataField{words(kCavityKindCaptionRow), CavityKindText(setup.cavity.kind, words)};
-    case Field::kFibreThickness:
-      return DataField{words(kFibreThicknessCaptionRow), Millimetres(setup.cavity.fibre_text)};
-    case Field::kSeaCavityDepth:
-      return DataField{words(kCavityDepthCaptionRow), Millimetres(setup.sea_cavity.depth_text)};
-    case Field::kSeaCavityType:
-      return DataField{words(kCavityKindCaptionRow), SeaCavityTypeText(setup.sea_cavity.type, words)};
-    case Field::kSupport:
-      return SupportField(setup, row, words);
-    case Field::kHanger:
-      return DataField{WithoutColon(words(kConnectionTypeRow)),
-                       setup.hanger < 0 ? words(kNoneSetRow) : HangerText(setup.hanger, words)};
-    case Field::kDecoupling:
-      return DataField{WithoutColon(words(kDecoupledRow)), setup.decoupled ? words(kTickSetRow) : kNothing};
-    case Field::kSimplified:
-      return DataField{words(kSimplifiedCaptionRow),
-                       words(setup.facade.simplified ? kByRatingsRow : kByBandsRow)};
-    case Field::kConnection:
-      return DataField{words(kCavityConnectionRow), ConnectionsOf(setup.multilayer, words)};
-    case Field::kTracks:
-      return DataField{words(kTracksRow), setup.multilayer.framed ? words(kTickSetRow) : kNothing};
-    case Field::kMaterial:
-    case Field::kThickness:
-    case Field::kSheets:
-    case Field::kStratumKind:
-    case Field::kStratumThickness:
-    case Field::kConnectionNumber:
-    case Field::kProfileHeight:
-    case Field::kProfilePitch:
-    case Field::kTick:
-    case Field::kDensity:
-    case Field::kYoungsModulus:
-    case Field::kLossFactor:
-    case Field::kPoissonsRatio:
-    case Field::kFlowResistance:
-    case Field::kDynamicStiffness:
-    case Field::kAbsorption:
-    case Field::kArea:
-    case Field::kRating:
-    case Field::kC:
-    case Field::kCtr:
-    case Field::kBand:
-    case Field::kMass:
-    case Field::kTightness:
-    case Field::kBaseThickness:
-      return std::nullopt;
-  }
-  return std::nullopt;
-}
+std::string Value(double value) { return value == 0.0 ? kNoValue : FormatShortest(RoundToEven(value, 6)); }
 
 /// The values of a layer's material that models read.
 struct LayerValues {
@@ -174,7 +81,7 @@ std::string ThicknessOf(const Layer& layer) {
 /// Takes out the columns, from `first` on, in which no row holds anything.
 void DropEmptyColumns(DataTable& table, std::size_t first) {
   for (std::size_t column = table.heads.size(); column-- > first;) {
-    if (std::ranges::any_of(table.rows, [&](const auto& row) { return row[column] != kNothing; })) continue;
+    if (std::ranges::any_of(table.rows, [&](const auto& row) { return row[column] != kNoValue; })) continue;
     const auto at = static_cast<std::ptrdiff_t>(column);
     table.heads.erase(table.heads.begin() + at);
     table.weights.erase(table.weights.begin() + at);
@@ -201,7 +108,7 @@ DataTable LayerTable(const Setup& setup, const Words& words, const MaterialSourc
     const LayerValues values = ValuesOf(setup, layer, sources);
     // What a layer above says in many words is not said again.
     const int first = told.emplace(values.source, layer.number).first->second;
-    const std::string source = values.source.empty() ? kNothing
+    const std::string source = values.source.empty() ? kNoValue
                                : first == layer.number || values.source.size() <= kShortSource
                                    ? values.source
                                    : "= " + words(kNumberHeadRow) + " " + std::to_string(first);
@@ -229,7 +136,7 @@ DataTable AbsorptionTable(const Setup& setup, const Words& words) {
     for (std::size_t band = 0; band < absorption->size(); ++band) {
       const float value = (*absorption)[band];
       table.rows[band].push_back(value == elements::kNoAbsorption
-                                     ? kNothing
+                                     ? kNoValue
                                      : FormatShortest(RoundToEven(static_cast<double>(value), 4)));
     }
   });
@@ -281,7 +188,7 @@ std::vector<RatedPart> RatedPartsOf(const Setup& setup, const CalculationRow& ro
   return parts;
 }
 
-std::string OrDash(const std::string& text) { return text.empty() ? kNothing : text; }
+std::string OrDash(const std::string& text) { return text.empty() ? kNoValue : text; }
 
 DataTable PartTable(const std::vector<RatedPart>& parts, const CalculationRow& row, const Words& words) {
   const bool facade = row.stacks.Has(Stack::kComponents);
@@ -291,14 +198,14 @@ DataTable PartTable(const std::vector<RatedPart>& parts, const CalculationRow& r
                   .weights = {0.6, 3.6, 1.0, 1.6, 0.7, 0.7, 1.2, 1.0, 2.0}};
   for (const RatedPart& part : parts) {
     const auto told = [&](Field field, const std::string& text) {
-      return row.Reads(field) ? OrDash(text) : kNothing;
+      return row.Reads(field) ? OrDash(text) : kNoValue;
     };
     table.rows.push_back({std::to_string(part.number), part.name, told(Field::kArea, part.area),
                           told(Field::kRating, part.rating), told(Field::kC, *part.c),
                           told(Field::kCtr, *part.ctr),
-                          row.Reads(Field::kMass) ? Value(part.mass_kg_m2) : kNothing,
-                          row.Reads(Field::kBaseThickness) ? Value(part.thickness_mm) : kNothing,
-                          facade ? OrDash(part.tightness) : kNothing});
+                          row.Reads(Field::kMass) ? Value(part.mass_kg_m2) : kNoValue,
+                          row.Reads(Field::kBaseThickness) ? Value(part.thickness_mm) : kNoValue,
+                          facade ? OrDash(part.tightness) : kNoValue});
   }
   DropEmptyColumns(table, 2);
   return table;
@@ -328,8 +235,6 @@ void AddProvenance(const Provenance& provenance, const Words& words, std::vector
   fields.push_back({words(kFingerprintCaptionRow), provenance.fingerprint, true});
 }
 
-constexpr Field kLastField = Field::kTracks;
-
 }  // namespace
 
 std::string FootText(const elements::ProjectInformation& information, const Provenance& provenance) {
@@ -347,7 +252,7 @@ CalculationData CalculationDataOf(const Setup& setup, const Words& words, const 
   if (!setup.calculation) return data;
   const CalculationRow& row = elements::RowOf(*setup.calculation);
   data.title = words(kDataTitleRow);
-  for (int i = 0; i <= static_cast<int>(kLastField); ++i) {
+  for (int i = 0; i <= static_cast<int>(elements::kLastField); ++i) {
     const auto field = static_cast<Field>(i);
     if (!row.Reads(field)) continue;
     if (std::optional<DataField> told = FieldOf(field, setup, row, words)) data.fields.push_back(*told);

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "elements/setup.h"
+#include "presentation/texts/field_texts.h"
 #include "presentation/texts/words.h"
 
 namespace velmar::presentation {
@@ -24,13 +25,6 @@ struct Provenance {
   std::string project_file{};  ///< its name without a folder; empty for a project that was never saved
   std::string fingerprint{};  ///< SHA-256, in hexadecimal, of what saving the project writes; empty: not told
   MaterialSources sources{};
-};
-
-/// A caption and its value.
-struct DataField {
-  std::string caption{};
-  std::string value{};
-  bool as_it_stands = false;  ///< a name that paper must not set anew
 };
 
 /// A table with heads; every row has as many cells as there are heads.

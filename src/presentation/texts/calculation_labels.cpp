@@ -7,7 +7,6 @@ namespace velmar::presentation {
 namespace {
 
 using acoustics::SeaCavityContent;
-using elements::Field;
 using elements::Stack;
 
 MessageRow FirstLeafRow(const elements::CalculationRow& row) {
@@ -88,21 +87,6 @@ std::string PartName(elements::Calculation calculation, const elements::Part& pa
   return part.leaf > 0 ? name + " " + std::to_string(part.leaf) : name;
 }
 
-std::vector<InputText> ConnectionTexts(const elements::Setup& setup, const Words& words) {
-  std::vector<InputText> texts;
-  if (!setup.calculation) return texts;
-  const elements::CalculationRow& row = elements::RowOf(*setup.calculation);
-  const auto add = [&](Field field, MessageRow caption, const std::string& value) {
-    if (row.Reads(field)) texts.push_back({field, WithoutColon(words(caption)), value});
-  };
-  add(Field::kSupport, IsCount(row.support) ? kConnectionsRow : kSupportDistanceRow,
-      setup.support_distance_text);
-  add(Field::kHanger, kConnectionTypeRow, HangerText(setup.hanger, words));
-  if (setup.decoupled) add(Field::kDecoupling, kDecoupledRow, {});
-  if (setup.multilayer.framed) add(Field::kTracks, kTracksRow, {});
-  return texts;
-}
-
 std::string LayerName(const elements::Setup& setup, const elements::Layer& layer, const Words& words) {
   using elements::StratumKind;
   if (!layer.stratum || *layer.stratum == StratumKind::kPlate || *layer.stratum == StratumKind::kFibre)
@@ -122,11 +106,6 @@ std::string ConnectionText(const elements::Multilayer& list, int index, const Wo
   const bool points = row.connection == elements::CavityConnection::kPoints;
   return words({kNoConnectionRow.number + static_cast<int>(row.connection)}) + ", " +
          words(points ? kConnectionsPerSquareMetreRow : kConnectionSpacingRow) + " " + row.connection_text;
-}
-
-std::string HangerText(int hanger, const Words& words) {
-  const auto place = static_cast<std::size_t>(hanger);
-  return place < kHangerRows.size() ? words(kHangerRows[place]) : std::string();
 }
 
 }  // namespace velmar::presentation

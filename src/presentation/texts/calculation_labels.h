@@ -1,14 +1,11 @@
 #pragma once
 
-#include <array>
 #include <string>
-#include <vector>
 
 #include "elements/catalogue.h"
 #include "elements/layers.h"
 #include "elements/parts.h"
 #include "elements/setup.h"
-#include "foundation/catalogue_rows.h"
 #include "presentation/texts/words.h"
 
 namespace velmar::presentation {
@@ -25,28 +22,11 @@ std::string TitleOf(elements::Family family, const Words& words);
 /// An entry of `ComboTipoIntercSEA`: "Intercapedine vuota", "Fibroso+ Massa", ...
 std::string SeaCavityTypeText(elements::SeaCavityType type, const Words& words);
 
-/// The entries of `ComboTipoAppendino`.
-inline constexpr std::array kHangerRows = {kHangerFixedDirectlyRow, kHangerSimpleRow, kHangerSpringRow};
-
-/// An entry of `ComboTipoAppendino`, 0 to 2; an empty text for another position.
-std::string HangerText(int hanger, const Words& words);
-
 /// The name of a stack of `calculation`: "Parete 1", "Lastra 1" of a glazing, "Solaio", "Rivestimento", ...
 std::string StackName(elements::Calculation calculation, elements::Stack stack, const Words& words);
 
 /// The name of a part: of its stack, and of a leaf of a free list its number: "Pannello 2".
 std::string PartName(elements::Calculation calculation, const elements::Part& part, const Words& words);
-
-/// An input beside the layers, as paper tells it. A tick has no value: the caption alone says that it is set.
-struct InputText {
-  elements::Field field{};
-  std::string caption{};
-  std::string value{};
-};
-
-/// What the calculation of `setup` reads of how the element is put together: distance or number of its
-/// connections, hanger, decoupling. An input that is added here stands on every page and in every report.
-std::vector<InputText> ConnectionTexts(const elements::Setup& setup, const Words& words);
 
 /// `caption` without a closing colon.
 std::string WithoutColon(std::string caption);

@@ -2,76 +2,14 @@
 
 #include "elements/parts.h"
 #include "foundation/message_rows.h"
+#include "presentation/texts/field_texts.h"
 #include "shell/windows/phrases.h"
 
 namespace velmar::shell {
 namespace {
 
 using calculation::StepKind;
-using elements::Field;
 using elements::FieldId;
-
-MessageRow RowFor(Field field) {
-  switch (field) {
-    case Field::kWidth:
-      return kStepWidthRow;
-    case Field::kHeight:
-      return kStepHeightRow;
-    case Field::kMaterial:
-      return kStepMaterialRow;
-    case Field::kThickness:
-      return kStepThicknessRow;
-    case Field::kSheets:
-      return kStepSheetsRow;
-    case Field::kTick:
-      return kStepDampingRow;
-    case Field::kCavityDepth:
-    case Field::kSeaCavityDepth:
-      return kStepCavityDepthRow;
-    case Field::kCavityKind:
-    case Field::kSeaCavityType:
-      return kStepCavityKindRow;
-    case Field::kFibreThickness:
-      return kStepFibreRow;
-    case Field::kSupport:
-      return kStepSupportRow;
-    case Field::kHanger:
-      return kStepHangerRow;
-    case Field::kDecoupling:
-      return kStepDecouplingRow;
-    case Field::kArea:
-      return kStepAreaRow;
-    case Field::kRating:
-      return kStepRatingRow;
-    case Field::kC:
-    case Field::kCtr:
-      return kStepTermRow;
-    case Field::kBand:
-      return kStepBandRow;
-    case Field::kMass:
-      return kStepMassRow;
-    case Field::kTightness:
-      return kStepTightnessRow;
-    case Field::kBaseThickness:
-      return kStepBaseThicknessRow;
-    case Field::kSimplified:
-      return kStepSimplifiedRow;
-    case Field::kStratumKind:
-      return kStepStratumKindRow;
-    case Field::kStratumThickness:
-      return kStepStratumThicknessRow;
-    case Field::kConnection:
-    case Field::kConnectionNumber:
-      return kStepConnectionRow;
-    case Field::kProfileHeight:
-    case Field::kProfilePitch:
-      return kStepProfileRow;
-    case Field::kTracks:
-      return kStepTracksRow;
-    default:
-      return kStepSeveralRow;
-  }
-}
 
 /// The number of a layer row in its element; counted within its group where it is not in use any longer. A
 /// row of a free list that is no layer, as air is none, has no number.
@@ -103,7 +41,7 @@ QString StepWords(const calculation::Step& step, const elements::Setup& setup,
   };
   switch (step.kind) {
     case StepKind::kField: {
-      const MessageRow row = RowFor(step.field.field);
+      const MessageRow row = presentation::StepRowOf(step.field.field);
       return step.field.group ? of_layer(row) : of_element(row);
     }
     case StepKind::kCount:

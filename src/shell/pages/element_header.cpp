@@ -11,6 +11,7 @@
 #include "foundation/decimal.h"
 #include "foundation/message_rows.h"
 #include "presentation/texts/calculation_labels.h"
+#include "presentation/texts/field_texts.h"
 #include "shell/fields/list_boxes.h"
 #include "shell/fields/number_field.h"
 #include "shell/page_parts/page_layout.h"
@@ -30,8 +31,7 @@ QString WithoutColon(QString text) {
 
 }  // namespace
 
-ElementHeader::ElementHeader(PageContext& context, QWidget* parent)
-    : QWidget(parent), context_(context) {
+ElementHeader::ElementHeader(PageContext& context, QWidget* parent) : QWidget(parent), context_(context) {
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(kPageMargin, kPageSpacing, kPageMargin, kPageSpacing);
   column->setSpacing(kPageSpacing);

@@ -110,6 +110,17 @@ TEST_F(Edited, ChoicesOneAfterTheOtherAreStepsOfTheirOwn) {
   EXPECT_EQ(setup_.leaf1.rows[0].listed, "A");
 }
 
+TEST_F(Edited, ListsAndChecksAreChosenTextsAndNumbersAreTyped) {
+  Edit([](elements::Setup& setup) { setup.hanger = 1; });
+  Edit([](elements::Setup& setup) { setup.hanger = 2; });
+  setup_ = history_.Undo(setup_);
+  EXPECT_EQ(setup_.hanger, 1);
+  Edit([](elements::Setup& setup) { setup.width_text = "1"; });
+  Edit([](elements::Setup& setup) { setup.width_text = "12"; });
+  setup_ = history_.Undo(setup_);
+  EXPECT_EQ(setup_.width_text, "4");
+}
+
 TEST_F(Edited, AChangeAfterAnUndoForgetsWhatWasUndone) {
   TypeThickness("12");
   setup_ = history_.Undo(setup_);

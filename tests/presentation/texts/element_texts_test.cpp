@@ -2,6 +2,7 @@
 
 #include "presentation/texts/calculation_labels.h"
 #include "presentation/texts/facade_texts.h"
+#include "presentation/texts/field_texts.h"
 #include "presentation/texts/structure.h"
 #include "tests/presentation/sample_setups.h"
 
