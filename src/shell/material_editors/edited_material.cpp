@@ -9,6 +9,7 @@
 #include "materials/judged_values.h"
 #include "materials/save_entry.h"
 #include "shell/windows/long_work.h"
+#include "storage/database/database_failure.h"
 
 namespace velmar::material_editors {
 namespace {
