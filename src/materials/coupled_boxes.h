@@ -7,9 +7,9 @@ namespace velmar::materials {
 
 /// The three boxes of a structural material that follow from each other, as texts.
 struct MassBoxes {
-  std::string thickness_mm{};        ///< `Text3`
-  std::string density_kg_m3{};       ///< `Text4`
-  std::string surface_mass_kg_m2{};  ///< `Text5`
+  std::string thickness_mm{};
+  std::string density_kg_m3{};
+  std::string surface_mass_kg_m2{};
 
   bool operator==(const MassBoxes&) const = default;
 };
@@ -23,9 +23,9 @@ MassBoxes CoupleMass(MassBoxes boxes, MassBox left);
 
 /// The three boxes of a resilient material that follow from each other, as texts.
 struct ResilientBoxes {
-  std::string dynamic_stiffness_mn_m3{};  ///< `Text3`, s'
-  std::string impact_improvement_db{};    ///< `Text4`, Delta Ln,w
-  std::string resonance_frequency_hz{};   ///< `Text5`, f0
+  std::string dynamic_stiffness_mn_m3{};  ///< s'
+  std::string impact_improvement_db{};    ///< Delta Ln,w
+  std::string resonance_frequency_hz{};   ///< f0
 
   bool operator==(const ResilientBoxes&) const = default;
 };

@@ -1,6 +1,5 @@
 #include "materials/judged_values.h"
 
-#include <array>
 #include <cmath>
 #include <vector>
 
@@ -10,43 +9,14 @@
 namespace velmar::materials {
 namespace {
 
-using elements::MaterialKind;
 using elements::MaterialProperty;
+using enum MaterialProperty;
 using elements::Plausibility;
 using elements::PropertyFinding;
 
-/// A property: its name, and its box in the editors of structural, fibrous and resilient materials.
-struct Named {
-  MaterialProperty property{};
-  MessageRow name{};
-  std::array<const char*, 3> boxes{};
-};
-
-constexpr Named kProperties[] = {
-    {MaterialProperty::kThickness, kThicknessMissingRow, {"Text3", "Text10", "Text6"}},
-    {MaterialProperty::kDensity, kDensityMissingRow, {"Text4", "Text9", "Text7"}},
-    {MaterialProperty::kSurfaceMass, kSurfaceMassMissingRow, {"Text5", "", ""}},
-    {MaterialProperty::kYoungsModulus, kYoungsModulusMissingRow, {"Text6", "Text11", ""}},
-    {MaterialProperty::kCriticalFrequency, kCriticalFrequencyNameRow, {"Text7", "", ""}},
-    {MaterialProperty::kLossFactor, kLossFactorMissingRow, {"Text8", "Text12", ""}},
-    {MaterialProperty::kPoissonsRatio, kPoissonsRatioNameRow, {"Text9", "Text13", ""}},
-    {MaterialProperty::kFlowResistance, kFlowResistanceMissingRow, {"", "Text14", ""}},
-    {MaterialProperty::kDynamicStiffness, kDynamicStiffnessNameRow, {"", "", "Text3"}},
-    {MaterialProperty::kImpactImprovement, kImpactImprovementNameRow, {"", "", "Text4"}},
-    {MaterialProperty::kResonanceFrequency, kResonanceNameRow, {"", "", "Text5"}},
-    {MaterialProperty::kAbsorption, kAbsorptionNameRow, {"", "TextAlfa_0", ""}},
-};
-
-const Named& Of(MaterialProperty property) {
-  for (const Named& named : kProperties) {
-    if (named.property == property) return named;
-  }
-  return kProperties[0];
-}
-
 /// "- density (kg/m³): -5 (from 0 to 12000)"
 MessageLine LineOf(const PropertyFinding& finding, double lowest, double highest) {
-  MessageLine line = {"- ", Of(finding.property).name, ": " + FormatShortest(finding.value) + " ("};
+  MessageLine line = {"- ", NameOf(finding.property), ": " + FormatShortest(finding.value) + " ("};
   if (std::isfinite(highest)) {
     line.insert(line.end(), {kUsualRangeFromRow, " " + FormatShortest(lowest) + " ", kUsualRangeToRow,
                              " " + FormatShortest(highest) + ")"});
@@ -58,8 +28,34 @@ MessageLine LineOf(const PropertyFinding& finding, double lowest, double highest
 
 }  // namespace
 
-std::string BoxOf(MaterialKind kind, MaterialProperty property) {
-  return Of(property).boxes.at(static_cast<std::size_t>(kind));
+MessageRow NameOf(MaterialProperty property) {
+  switch (property) {
+    case kThickness:
+      return kThicknessMissingRow;
+    case kDensity:
+      return kDensityMissingRow;
+    case kSurfaceMass:
+      return kSurfaceMassMissingRow;
+    case kYoungsModulus:
+      return kYoungsModulusMissingRow;
+    case kCriticalFrequency:
+      return kCriticalFrequencyNameRow;
+    case kLossFactor:
+      return kLossFactorMissingRow;
+    case kPoissonsRatio:
+      return kPoissonsRatioNameRow;
+    case kFlowResistance:
+      return kFlowResistanceMissingRow;
+    case kDynamicStiffness:
+      return kDynamicStiffnessNameRow;
+    case kImpactImprovement:
+      return kImpactImprovementNameRow;
+    case kResonanceFrequency:
+      return kResonanceNameRow;
+    case kAbsorption:
+      break;
+  }
+  return kAbsorptionNameRow;
 }
 
 std::optional<Message> ImpossibleValues(std::span<const PropertyFinding> findings) {

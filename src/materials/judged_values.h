@@ -2,15 +2,14 @@
 
 #include <optional>
 #include <span>
-#include <string>
 
 #include "elements/plausibility.h"
 #include "foundation/message.h"
 
 namespace velmar::materials {
 
-/// The box of an editor that holds `property`: "Text4" of `Form5`, "Text9" of `Form6`, ...; empty for none.
-std::string BoxOf(elements::MaterialKind kind, elements::MaterialProperty property);
+/// What `property` is called where values are told, with its unit.
+MessageRow NameOf(elements::MaterialProperty property);
 
 /// Why values that no matter can have are refused: a heading and a line for each, with what is possible.
 /// Nothing when none of `findings` is impossible.

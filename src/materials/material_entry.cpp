@@ -15,6 +15,8 @@ namespace velmar::materials {
 namespace {
 
 using elements::FibrousMaterial;
+using elements::MaterialProperty;
+using enum MaterialProperty;
 using elements::ResilientMaterial;
 using elements::StructuralMaterial;
 
@@ -33,43 +35,44 @@ void Clean(Entry& entry, const KeywordTexts& texts) {
   if (entry.keyword.empty()) entry.keyword = texts.not_specified;
 }
 
-EntryRefusal NameMissing() { return {{{kMaterialWithoutNameRow}}, "Text1"}; }
+EntryRefusal NameMissing() { return {{{kMaterialWithoutNameRow}}, kNameField}; }
 
-struct NeededBox {
+struct NeededText {
   const std::string& text;
-  MessageRow name{};
-  const char* box = "";
+  MaterialProperty property{};
+  MessageRow name = NameOf(property);
 };
 
-/// The refusal that names every empty box and leads to the first, or nothing.
-std::optional<EntryRefusal> Missing(std::initializer_list<NeededBox> boxes) {
-  EntryRefusal refusal{{{kMaterialDataMissingRow, ":"}}, ""};
-  for (const NeededBox& box : boxes) {
-    if (!box.text.empty()) continue;
-    refusal.message.push_back({"- ", box.name});
-    if (refusal.box.empty()) refusal.box = box.box;
+/// The refusal that names every empty text and is about the first, or nothing.
+std::optional<EntryRefusal> Missing(std::initializer_list<NeededText> needed) {
+  EntryRefusal refusal{{{kMaterialDataMissingRow, ":"}}};
+  for (const NeededText& one : needed) {
+    if (!one.text.empty()) continue;
+    refusal.message.push_back({"- ", one.name});
+    if (!refusal.field) refusal.field = EntryField{one.property};
   }
-  if (refusal.box.empty()) return std::nullopt;
+  if (!refusal.field) return std::nullopt;
   return refusal;
 }
 
 template <typename Material>
-struct NumberBox {
+struct NumberText {
   const std::string& text;
-  double Material::*field;
-  const char* box;
+  double Material::*value;
+  MaterialProperty property{};
 };
 
-/// Takes the boxes over into `material`; an empty one is 0.
-/// @return the refusal about the first that holds no number
+/// Takes the numbers over into `material`; an empty text is 0.
+/// @return the refusal about the first that is no number
 template <typename Material>
-std::optional<EntryRefusal> TakeNumbers(std::initializer_list<NumberBox<Material>> boxes,
+std::optional<EntryRefusal> TakeNumbers(std::initializer_list<NumberText<Material>> numbers,
                                         Material& material) {
-  for (const NumberBox<Material>& box : boxes) {
-    const std::optional<double> number = box.text.empty() ? 0.0 : ParseDecimal(box.text);
+  for (const NumberText<Material>& one : numbers) {
+    const std::optional<double> number = one.text.empty() ? 0.0 : ParseDecimal(one.text);
     if (!number)
-      return EntryRefusal{{{kMaterialNotSavedRow}, {kBoxHoldsNoNumberRow, " " + box.text}}, box.box};
-    material.*box.field = *number;
+      return EntryRefusal{{{kMaterialNotSavedRow}, {kBoxHoldsNoNumberRow, " " + one.text}},
+                          EntryField{one.property}};
+    material.*one.value = *number;
   }
   return std::nullopt;
 }
@@ -84,29 +87,32 @@ storage::MaterialRow<Material> NamedRow(const Entry& entry) {
 }
 
 std::optional<EntryRefusal> TakeAbsorption(const FibrousEntry& entry, FibrousMaterial& material) {
-  constexpr float kHighest = 1.5F;
+  const auto possible = [](float value) {
+    return elements::Judge(elements::MaterialKind::kFibrous, kAbsorption, value) !=
+           elements::Plausibility::kImpossible;
+  };
   for (std::size_t band = 0; band < entry.absorption.size(); ++band) {
     const std::string& text = entry.absorption.at(band);
     if (text.empty()) continue;
     const std::optional<float> value = ParseSingle(text);
-    if (!value || *value < 0.0F || *value > kHighest) {
+    if (!value || !possible(*value)) {
       std::string where = " " + FormatShortest(elements::kAbsorptionBandCentres.at(band));
       where.append(" Hz: ").append(text);
       return EntryRefusal{{{kAbsorptionBoxesRow}, {kAbsorptionOutOfRangeRow, std::move(where)}},
-                          "TextAlfa_" + std::to_string(band)};
+                          EntryField{kAbsorption, band}};
     }
     material.absorption.at(band) = *value;
   }
   return std::nullopt;
 }
 
-/// The refusal that names every impossible value and leads to the first, or nothing.
+/// The refusal that names every impossible value and is about the first, or nothing.
 template <typename Material>
 std::optional<EntryRefusal> Impossible(const storage::MaterialRow<Material>& row) {
   const auto findings = elements::Only(elements::FindingsOf(row.record), elements::Plausibility::kImpossible);
   auto message = ImpossibleValues(findings);
   if (!message) return std::nullopt;
-  return EntryRefusal{*std::move(message), BoxOf(findings.front().kind, findings.front().property)};
+  return EntryRefusal{*std::move(message), EntryField{findings.front().property}};
 }
 
 template <typename Material>
@@ -125,22 +131,23 @@ std::variant<storage::StructuralRow, EntryRefusal> RowOf(StructuralEntry entry, 
   using M = StructuralMaterial;
   Clean(entry, texts);
   if (entry.name.empty()) return NameMissing();
-  if (auto refusal = Missing({{entry.thickness, kThicknessMissingRow, "Text3"},
-                              {entry.density, kDensityMissingRow, "Text4"},
-                              {entry.surface_mass, kSurfaceMassMissingRow, "Text5"},
-                              {entry.youngs_modulus, kYoungsModulusMissingRow, "Text6"},
-                              {entry.loss_factor, kLossFactorMissingRow, "Text8"}})) {
+  if (auto refusal = Missing({{entry.thickness, kThickness},
+                              {entry.density, kDensity},
+                              {entry.surface_mass, kSurfaceMass},
+                              {entry.youngs_modulus, kYoungsModulus},
+                              {entry.loss_factor, kLossFactor}})) {
     return *std::move(refusal);
   }
   storage::StructuralRow row = NamedRow<M>(entry);
-  if (auto refusal = TakeNumbers<M>({{entry.thickness, &M::thickness_mm, "Text3"},
-                                     {entry.density, &M::density_kg_m3, "Text4"},
-                                     {entry.youngs_modulus, &M::youngs_modulus_gpa, "Text6"},
-                                     {entry.loss_factor, &M::loss_factor, "Text8"},
-                                     {entry.poissons_ratio, &M::poissons_ratio, "Text9"},
-                                     {entry.surface_mass, &M::surface_mass_kg_m2, "Text5"},
-                                     {entry.critical_frequency, &M::critical_frequency_hz, "Text7"}},
-                                    row.record.values)) {
+  if (auto refusal =
+          TakeNumbers<M>({{entry.thickness, &M::thickness_mm, kThickness},
+                          {entry.density, &M::density_kg_m3, kDensity},
+                          {entry.youngs_modulus, &M::youngs_modulus_gpa, kYoungsModulus},
+                          {entry.loss_factor, &M::loss_factor, kLossFactor},
+                          {entry.poissons_ratio, &M::poissons_ratio, kPoissonsRatio},
+                          {entry.surface_mass, &M::surface_mass_kg_m2, kSurfaceMass},
+                          {entry.critical_frequency, &M::critical_frequency_hz, kCriticalFrequency}},
+                         row.record.values)) {
     return *std::move(refusal);
   }
   row.source = entry.source;
@@ -154,27 +161,28 @@ std::variant<storage::FibrousRow, EntryRefusal> RowOf(FibrousEntry entry, const 
   using M = FibrousMaterial;
   Clean(entry, texts);
   if (entry.name.empty()) return NameMissing();
-  const std::string none = "-";  // stands for a box that this kind does not need
-  if (auto refusal =
-          Missing({{entry.thickness, kThicknessMissingRow, "Text10"},
-                   {entry.density, kDensityMissingRow, "Text9"},
-                   {entry.porous ? none : entry.youngs_modulus, kYoungsModulusMissingRow, "Text11"},
-                   {entry.porous ? none : entry.loss_factor, kLossFactorMissingRow, "Text12"},
-                   {entry.porous ? entry.flow_resistance : none, kFlowResistanceMissingRow, "Text14"}})) {
+  const std::string none = "-";  // stands for a value that this kind does not need
+  if (auto refusal = Missing({{entry.thickness, kThickness},
+                              {entry.density, kDensity},
+                              {entry.porous ? none : entry.youngs_modulus, kYoungsModulus},
+                              {entry.porous ? none : entry.loss_factor, kLossFactor},
+                              {entry.porous ? entry.flow_resistance : none, kFlowResistance}})) {
     return *std::move(refusal);
   }
   storage::FibrousRow row = NamedRow<M>(entry);
   M& material = row.record.values;
   material.porous = entry.porous;
   auto refusal = TakeNumbers<M>(
-      {{entry.thickness, &M::thickness_mm, "Text10"}, {entry.density, &M::density_kg_m3, "Text9"}}, material);
+      {{entry.thickness, &M::thickness_mm, kThickness}, {entry.density, &M::density_kg_m3, kDensity}},
+      material);
   if (!refusal && entry.porous) {
-    refusal = TakeNumbers<M>({{entry.flow_resistance, &M::flow_resistance_pa_s_m, "Text14"}}, material);
+    refusal =
+        TakeNumbers<M>({{entry.flow_resistance, &M::flow_resistance_pa_s_m, kFlowResistance}}, material);
     if (!refusal) refusal = TakeAbsorption(entry, material);
   } else if (!refusal) {
-    refusal = TakeNumbers<M>({{entry.youngs_modulus, &M::youngs_modulus_gpa, "Text11"},
-                              {entry.loss_factor, &M::loss_factor, "Text12"},
-                              {entry.poissons_ratio, &M::poissons_ratio, "Text13"}},
+    refusal = TakeNumbers<M>({{entry.youngs_modulus, &M::youngs_modulus_gpa, kYoungsModulus},
+                              {entry.loss_factor, &M::loss_factor, kLossFactor},
+                              {entry.poissons_ratio, &M::poissons_ratio, kPoissonsRatio}},
                              material);
   }
   if (refusal) return *std::move(refusal);
@@ -203,22 +211,23 @@ std::variant<storage::ResilientRow, EntryRefusal> RowOf(ResilientEntry entry, co
     if (boxes.impact_improvement_db.empty()) boxes.impact_improvement_db = coupled.impact_improvement_db;
     if (boxes.resonance_frequency_hz.empty()) boxes.resonance_frequency_hz = coupled.resonance_frequency_hz;
   }
-  if (boxes == ResilientBoxes{}) return EntryRefusal{{{kResilientValuesRow}}, "Text3"};
+  if (boxes == ResilientBoxes{}) return EntryRefusal{{{kResilientValuesRow}}, EntryField{kDynamicStiffness}};
   storage::ResilientRow row = NamedRow<M>(entry);
-  const auto take = [&](std::initializer_list<NumberBox<M>> numbers) {
+  const auto take = [&](std::initializer_list<NumberText<M>> numbers) {
     return TakeNumbers<M>(numbers, row.record.values);
   };
-  const NumberBox<M> improvement{boxes.impact_improvement_db, &M::impact_improvement_db, "Text4"};
-  const NumberBox<M> resonance{boxes.resonance_frequency_hz, &M::resonance_frequency_hz, "Text5"};
+  const NumberText<M> improvement{boxes.impact_improvement_db, &M::impact_improvement_db, kImpactImprovement};
+  const NumberText<M> resonance{boxes.resonance_frequency_hz, &M::resonance_frequency_hz,
+                                kResonanceFrequency};
   if (auto refusal = take({improvement, resonance})) return *std::move(refusal);
   // A negative improvement or resonance gives no stiffness.
-  if (auto refusal = Missing({{boxes.dynamic_stiffness_mn_m3, kStiffnessMissingRow, "Text3"},
-                              {entry.thickness, kThicknessMissingRow, "Text6"}})) {
+  if (auto refusal = Missing({{boxes.dynamic_stiffness_mn_m3, kDynamicStiffness, kStiffnessMissingRow},
+                              {entry.thickness, kThickness}})) {
     return *std::move(refusal);
   }
-  if (auto refusal = take({{boxes.dynamic_stiffness_mn_m3, &M::dynamic_stiffness_mn_m3, "Text3"},
-                           {entry.thickness, &M::thickness_mm, "Text6"},
-                           {entry.density, &M::density_kg_m3, "Text7"}})) {
+  if (auto refusal = take({{boxes.dynamic_stiffness_mn_m3, &M::dynamic_stiffness_mn_m3, kDynamicStiffness},
+                           {entry.thickness, &M::thickness_mm, kThickness},
+                           {entry.density, &M::density_kg_m3, kDensity}})) {
     return *std::move(refusal);
   }
   row.source = entry.source;

@@ -1,72 +1,85 @@
 #pragma once
 
 #include <array>
+#include <compare>
+#include <cstddef>
+#include <optional>
 #include <string>
 #include <variant>
 
 #include "elements/materials.h"
-#include "foundation/message.h"
+#include "elements/plausibility.h"
 #include "foundation/catalogue_rows.h"
+#include "foundation/message.h"
 #include "materials/keywords.h"
 #include "storage/materials/material_row.h"
 
 namespace velmar::materials {
 
-/// What the editor of structural materials (`Form5`) holds, as typed.
+/// What the editor of structural materials holds, as typed.
 struct StructuralEntry {
-  std::string name{};                ///< `Text1`
-  std::string description{};         ///< `Text2`
-  std::string thickness{};           ///< `Text3`, mm
-  std::string density{};             ///< `Text4`, kg/m³
-  std::string surface_mass{};        ///< `Text5`, kg/m²
-  std::string youngs_modulus{};      ///< `Text6`, GPa
-  std::string critical_frequency{};  ///< `Text7`, Hz; empty is 0
-  std::string loss_factor{};         ///< `Text8`
-  std::string poissons_ratio{};      ///< `Text9`; empty is 0
-  std::string keyword{};             ///< `Text10`; empty is kNotSpecifiedRow
-  std::string source{};              ///< `TextFonte`
+  std::string name{};
+  std::string description{};
+  std::string thickness{};           ///< mm
+  std::string density{};             ///< kg/m³
+  std::string surface_mass{};        ///< kg/m²
+  std::string youngs_modulus{};      ///< GPa
+  std::string critical_frequency{};  ///< Hz; empty is 0
+  std::string loss_factor{};
+  std::string poissons_ratio{};  ///< empty is 0
+  std::string keyword{};         ///< empty is kNotSpecifiedRow
+  std::string source{};
 
   bool operator==(const StructuralEntry&) const = default;
 };
 
-/// What the editor of fibrous materials (`Form6`) holds, as typed.
+/// What the editor of fibrous materials holds, as typed.
 struct FibrousEntry {
-  std::string name{};                       ///< `Text1`
-  std::string description{};                ///< `Text2`
-  std::string keyword = "non specificata";  ///< `Text8`; empty is kNotSpecifiedRow
-  std::string thickness = "100";            ///< `Text10`, mm
-  std::string density{};                    ///< `Text9`, kg/m³
-  bool porous = true;                       ///< `Option1`(0)
-  std::string youngs_modulus = "0.05";      ///< `Text11`, GPa; not of a porous one
-  std::string loss_factor = "0.01";         ///< `Text12`; not of a porous one
-  std::string poissons_ratio{};             ///< `Text13`; not of a porous one; empty is 0
-  std::string flow_resistance = "4000";     ///< `Text14`, Pa s/m; of a porous one
-  std::array<std::string, elements::kAbsorptionBandCount> absorption{};  ///< `TextAlfa`; of a porous one
-  std::string source{};                                                  ///< `TextFonte`
+  std::string name{};
+  std::string description{};
+  std::string keyword = "non specificata";  ///< empty is kNotSpecifiedRow
+  std::string thickness = "100";            ///< mm
+  std::string density{};                    ///< kg/m³
+  bool porous = true;
+  std::string youngs_modulus = "0.05";                                   ///< GPa; not of a porous one
+  std::string loss_factor = "0.01";                                      ///< not of a porous one
+  std::string poissons_ratio{};                                          ///< not of a porous one; empty is 0
+  std::string flow_resistance = "4000";                                  ///< Pa s/m; of a porous one
+  std::array<std::string, elements::kAbsorptionBandCount> absorption{};  ///< of a porous one
+  std::string source{};
   std::string computation{};  ///< what was computed and how, for the source; in no box
 
   bool operator==(const FibrousEntry&) const = default;
 };
 
-/// What the editor of resilient materials (`Form6`) holds, as typed.
+/// What the editor of resilient materials holds, as typed.
 struct ResilientEntry {
-  std::string name{};                       ///< `Text1`
-  std::string description{};                ///< `Text2`
-  std::string keyword = "non specificata";  ///< `Text8`; empty is kNotSpecifiedRow
-  std::string stiffness{};                  ///< `Text3`, s', MN/m³
-  std::string improvement{};                ///< `Text4`, Delta Ln,w, dB
-  std::string resonance{};                  ///< `Text5`, f0, Hz
-  std::string thickness{};                  ///< `Text6`, mm
-  std::string density{};                    ///< `Text7`, kg/m³; empty is 0
-  std::string source{};                     ///< `TextFonte`
+  std::string name{};
+  std::string description{};
+  std::string keyword = "non specificata";  ///< empty is kNotSpecifiedRow
+  std::string stiffness{};                  ///< s', MN/m³
+  std::string improvement{};                ///< Delta Ln,w, dB
+  std::string resonance{};                  ///< f0, Hz
+  std::string thickness{};                  ///< mm
+  std::string density{};                    ///< kg/m³; empty is 0
+  std::string source{};
 
   bool operator==(const ResilientEntry&) const = default;
 };
 
+/// What of an entry a refusal is about: the name, or a number of the material.
+struct EntryField {
+  std::optional<elements::MaterialProperty> property{};  ///< nothing: the name
+  std::size_t band = 0;                                  ///< of kAbsorption
+
+  auto operator<=>(const EntryField&) const = default;
+};
+inline constexpr EntryField kNameField{};
+
 /// Why an entry is not stored.
 struct EntryRefusal {
   Message message{};
-  std::string box{};  ///< control that takes the focus, such as "Text1"; empty for none
+  std::optional<EntryField> field{};  ///< the first to be mended; nothing when the entry is not at fault
 };
 
 /// The row that an entry stands for; what an editor does not show (thermal values, picture) is empty. The

@@ -7,7 +7,6 @@
 
 #include "foundation/message_rows.h"
 #include "materials/derived_values.h"
-#include "storage/database/database_failure.h"
 
 namespace velmar::materials {
 
@@ -24,6 +23,12 @@ bool ValuesDiffer(storage::MaterialRow<Material> row, const storage::MaterialRow
 template bool ValuesDiffer(storage::StructuralRow, const storage::StructuralRow&);
 template bool ValuesDiffer(storage::FibrousRow, const storage::FibrousRow&);
 template bool ValuesDiffer(storage::ResilientRow, const storage::ResilientRow&);
+
+EntryRefusal NotSaved(const storage::DatabaseFailure& failure) {
+  Message message{{kMaterialNotSavedRow}};
+  std::ranges::copy(failure.UserMessage(), std::back_inserter(message));
+  return {.message = std::move(message)};
+}
 
 namespace {
 
@@ -71,12 +76,6 @@ void KeepHidden(storage::MaterialRow<Material>& row, const storage::MaterialRow<
   }
 }
 
-EntryRefusal NotSaved(const storage::DatabaseFailure& failure) {
-  Message message{{kMaterialNotSavedRow}};
-  std::ranges::copy(failure.UserMessage(), std::back_inserter(message));
-  return {std::move(message), ""};
-}
-
 template <typename Material, typename Entry>
 std::optional<EntryRefusal> Save(storage::MaterialStore& store, const Entry& entry,
                                  const std::string& old_name, const KeywordTexts& texts) {
@@ -94,7 +93,7 @@ std::optional<EntryRefusal> Save(storage::MaterialStore& store, const Entry& ent
       });
     }
     if (!refusal) return std::nullopt;
-    return EntryRefusal{*std::move(refusal), "Text1"};
+    return EntryRefusal{*std::move(refusal), kNameField};
   } catch (const storage::DatabaseFailure& failure) {
     return NotSaved(failure);
   }
@@ -108,7 +107,7 @@ std::optional<EntryRefusal> Copy(storage::MaterialStore& store, const Entry& ent
   auto& row = std::get<storage::MaterialRow<Material>>(checked);
   KeepHidden(row, original, entry);
   try {
-    if (auto refusal = store.Add<Material>({row})) return EntryRefusal{*std::move(refusal), "Text1"};
+    if (auto refusal = store.Add<Material>({row})) return EntryRefusal{*std::move(refusal), kNameField};
     return std::nullopt;
   } catch (const storage::DatabaseFailure& failure) {
     return NotSaved(failure);

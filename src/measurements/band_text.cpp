@@ -20,12 +20,9 @@ using Cells = std::vector<std::string>;
 constexpr std::array kOtherCentres = {0.8,  1.0, 1.25,  1.6,   2.0,    2.5,    3.15,   4.0,
                                       5.0,  6.3, 8.0,   10.,   12.5,   16.,    20.,    25.,
                                       31.5, 40., 6300., 8000., 10000., 12500., 16000., 20000.};
-constexpr std::array kOctaveCentres = {63.0, 125.0, 250.0, 500.0, 1000.0, 2000.0, 4000.0, 8000.0};
 /// Exact centres of base ten differ from the nominal ones by up to 1.6 %.
 constexpr double kCentreTolerance = 0.017;
 constexpr std::size_t kFewestOctaves = 5;
-constexpr double kLowestLevelDb = -50.0;
-constexpr double kHighestLevelDb = 150.0;
 constexpr double kHertzInKilohertz = 1000.0;
 
 std::string Trimmed(std::string_view cell) {
@@ -175,7 +172,7 @@ class Collection {
     if (StandsForNothing(level)) return;
     const auto value = LevelOf(level);
     if (!value) return Refuse(line, kNoLevelRow);
-    if (*value < kLowestLevelDb || *value > kHighestLevelDb) return Refuse(line, kLevelOutOfRangeRow);
+    if (!IsPossibleLevel(*value)) return Refuse(line, kLevelOutOfRangeRow);
     for (const auto& [hertz, known] : levels_) {
       if (IsNear(frequency.hertz, hertz)) return Refuse(line, kBandTwiceRow);
     }
@@ -315,8 +312,7 @@ std::variant<BandText, RefusedText> ReadNumbers(const std::vector<Line>& lines) 
       const bool bad = !StandsForNothing(cell) && !levels.back();
       if (bad) refused.push_back(Refusal(line, kNoLevelRow));
       if (!levels.back()) continue;
-      if (*levels.back() < kLowestLevelDb || *levels.back() > kHighestLevelDb)
-        refused.push_back(Refusal(line, kLevelOutOfRangeRow));
+      if (!IsPossibleLevel(*levels.back())) refused.push_back(Refusal(line, kLevelOutOfRangeRow));
     }
   }
   constexpr std::size_t kUpTo5000 = acoustics::kBandCount - acoustics::kFirstRatedBand;
@@ -386,6 +382,12 @@ std::string Utf8FromUtf16(std::string_view bytes, bool little_endian) {
 }
 
 }  // namespace
+
+bool IsPossibleLevel(double level_db) {
+  constexpr double kLowestDb = -50.0;
+  constexpr double kHighestDb = 150.0;
+  return level_db >= kLowestDb && level_db <= kHighestDb;
+}
 
 std::variant<BandText, RefusedText> ReadBandText(std::string_view text, std::string_view symbol) {
   constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";

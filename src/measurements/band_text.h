@@ -14,6 +14,13 @@
 
 namespace velmar::measurements {
 
+/// The centres of the octave bands of the library, Hz.
+inline constexpr std::array<double, storage::kOctaveCount> kOctaveCentres = {63,   125,  250,  500,
+                                                                             1000, 2000, 4000, 8000};
+
+/// Whether a level, a rating or an adaptation term can be `level_db`: from -50 dB to 150 dB.
+bool IsPossibleLevel(double level_db);
+
 /// The values of a text with frequencies and levels, dB.
 struct BandText {
   std::array<std::optional<double>, acoustics::kBandCount> thirds{};

@@ -11,9 +11,6 @@ namespace {
 
 using storage::MeasuredTest;
 
-constexpr double kLowestLevelDb = -50.0;
-constexpr double kHighestLevelDb = 150.0;
-
 std::string Trimmed(const std::string& text) {
   constexpr const char* kBlanks = " \t\r\n";
   const std::size_t first = text.find_first_not_of(kBlanks);
@@ -37,7 +34,7 @@ bool IsPossible(Kind kind, double value) {
     case Kind::kPositive:
       return value > 0.0;
     case Kind::kLevel:
-      return value >= kLowestLevelDb && value <= kHighestLevelDb;
+      return IsPossibleLevel(value);
   }
   return false;
 }
@@ -45,41 +42,42 @@ bool IsPossible(Kind kind, double value) {
 /// Reads the numbers of an entry and keeps the first refusal.
 class Numbers {
  public:
-  std::optional<double> Take(const std::string& text, const std::string& field, Kind kind) {
+  std::optional<double> Take(const std::string& text, Kind kind, MeasurementField field,
+                             std::size_t band = 0) {
     if (Trimmed(text).empty()) return std::nullopt;
     const auto value = ParseDecimal(text);
     if (!value) {
-      Refuse({{kNotANumberRow, " " + text}}, field);
+      Refuse({{kNotANumberRow, " " + text}}, field, band);
     } else if (!IsPossible(kind, *value)) {
-      Refuse({{kImpossibleMeasurementRow, " " + text}}, field);
+      Refuse({{kImpossibleMeasurementRow, " " + text}}, field, band);
     }
     return value;
   }
   const std::optional<MeasurementRefusal>& Refusal() const { return refusal_; }
 
  private:
-  void Refuse(Message message, const std::string& field) {
-    if (!refusal_) refusal_ = MeasurementRefusal{std::move(message), field};
+  void Refuse(Message message, MeasurementField field, std::size_t band) {
+    if (!refusal_) refusal_ = MeasurementRefusal{std::move(message), field, band};
   }
 
   std::optional<MeasurementRefusal> refusal_;
 };
 
 void TakeNumbers(const MeasurementEntry& entry, Numbers& numbers, MeasuredTest& test) {
-  using namespace field_names;
-  test.rating = numbers.Take(entry.rating, kRating, Kind::kLevel);
-  test.adaptation = numbers.Take(entry.adaptation, kAdaptation, Kind::kLevel);
-  test.other_adaptation = numbers.Take(entry.other_adaptation, kOtherAdaptation, Kind::kLevel);
+  using enum MeasurementField;
+  test.rating = numbers.Take(entry.rating, Kind::kLevel, kRating);
+  test.adaptation = numbers.Take(entry.adaptation, Kind::kLevel, kAdaptation);
+  test.other_adaptation = numbers.Take(entry.other_adaptation, Kind::kLevel, kOtherAdaptation);
   for (std::size_t i = 0; i < test.bands.size(); ++i)
-    test.bands.at(i) = numbers.Take(entry.thirds.at(i), kThirds + std::to_string(i), Kind::kLevel);
+    test.bands.at(i) = numbers.Take(entry.thirds.at(i), Kind::kLevel, kThird, i);
   for (std::size_t i = 0; i < test.octaves.size(); ++i)
-    test.octaves.at(i) = numbers.Take(entry.octaves.at(i), kOctaves + std::to_string(i), Kind::kLevel);
-  test.area_m2 = numbers.Take(entry.area, kArea, Kind::kPositive);
-  test.mass_kg_m2 = numbers.Take(entry.mass, kMass, Kind::kNotNegative);
-  test.field.thickness_mm = numbers.Take(entry.thickness, kThickness, Kind::kNotNegative);
-  test.field.source_volume_m3 = numbers.Take(entry.source_volume, kSourceVolume, Kind::kNotNegative);
-  test.field.receiving_volume_m3 = numbers.Take(entry.receiving_volume, kReceivingVolume, Kind::kNotNegative);
-  test.uncertainty_db = numbers.Take(entry.uncertainty, kUncertainty, Kind::kNotNegative);
+    test.octaves.at(i) = numbers.Take(entry.octaves.at(i), Kind::kLevel, kOctave, i);
+  test.area_m2 = numbers.Take(entry.area, Kind::kPositive, kArea);
+  test.mass_kg_m2 = numbers.Take(entry.mass, Kind::kNotNegative, kMass);
+  test.field.thickness_mm = numbers.Take(entry.thickness, Kind::kNotNegative, kThickness);
+  test.field.source_volume_m3 = numbers.Take(entry.source_volume, Kind::kNotNegative, kSourceVolume);
+  test.field.receiving_volume_m3 = numbers.Take(entry.receiving_volume, Kind::kNotNegative, kReceivingVolume);
+  test.uncertainty_db = numbers.Take(entry.uncertainty, Kind::kNotNegative, kUncertainty);
 }
 
 MeasuredTest WithTexts(const MeasurementEntry& entry) {
@@ -133,12 +131,13 @@ void NameRating(const storage::LibraryFolder& folder, MeasuredTest& test) {
 std::variant<MeasuredTest, MeasurementRefusal> TestOf(const storage::LibraryFolder& folder,
                                                       const MeasurementEntry& entry) {
   MeasuredTest test = WithTexts(entry);
-  if (IsBlank(test.name)) return MeasurementRefusal{{{kMeasurementWithoutNameRow}}, field_names::kName};
+  if (IsBlank(test.name)) return MeasurementRefusal{{{kMeasurementWithoutNameRow}}, MeasurementField::kName};
   Numbers numbers;
   TakeNumbers(entry, numbers, test);
   if (numbers.Refusal()) return *numbers.Refusal();
   if (!test.rating && !HasBands(test))
-    return MeasurementRefusal{{{kMeasurementWithoutValuesRow}}, std::string(field_names::kThirds) + "3"};
+    return MeasurementRefusal{
+        {{kMeasurementWithoutValuesRow}}, MeasurementField::kThird, acoustics::kFirstRatedBand};
   NameRating(folder, test);
   return test;
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <optional>
 #include <string>
 #include <variant>
@@ -42,28 +43,28 @@ struct MeasurementEntry {
   bool operator==(const MeasurementEntry&) const = default;
 };
 
+/// The fields of an entry that a refusal can be about.
+enum class MeasurementField {
+  kName,
+  kRating,
+  kAdaptation,
+  kOtherAdaptation,
+  kThird,
+  kOctave,
+  kArea,
+  kMass,
+  kThickness,
+  kSourceVolume,
+  kReceivingVolume,
+  kUncertainty,
+};
+
 /// Why an entry is not stored, and the field that it is about.
 struct MeasurementRefusal {
   Message message{};
-  std::string field{};  ///< control name, such as "TextNome"
+  MeasurementField field = MeasurementField::kName;
+  std::size_t band = 0;  ///< of kThird and kOctave
 };
-
-/// The control names of the fields, by which refusals name them: bands are "TextBanda_0" to "TextBanda_20"
-/// and "TextOttava_0" to "TextOttava_7".
-namespace field_names {
-inline constexpr const char* kName = "TextNome";
-inline constexpr const char* kRating = "TextIndice";
-inline constexpr const char* kAdaptation = "TextC";
-inline constexpr const char* kOtherAdaptation = "TextCtr";
-inline constexpr const char* kArea = "TextArea";
-inline constexpr const char* kMass = "TextMassa";
-inline constexpr const char* kThickness = "TextSpessore";
-inline constexpr const char* kSourceVolume = "TextVe";
-inline constexpr const char* kReceivingVolume = "TextVr";
-inline constexpr const char* kUncertainty = "TextIncertezza";
-inline constexpr const char* kThirds = "TextBanda_";
-inline constexpr const char* kOctaves = "TextOttava_";
-}  // namespace field_names
 
 /// The test that `entry` stands for in `folder`. An empty printed rating becomes that of the bands, and the
 /// origin of the rating says which it is.

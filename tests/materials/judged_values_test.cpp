@@ -39,11 +39,16 @@ TEST(ImprobableValues, HaveALineEachWithWhatIsUsual) {
   EXPECT_FALSE(ImprobableValues(std::vector{kNegative}));
 }
 
-TEST(BoxOf, IsTheControlOfTheEditor) {
-  EXPECT_EQ(BoxOf(MaterialKind::kStructural, MaterialProperty::kDensity), "Text4");
-  EXPECT_EQ(BoxOf(MaterialKind::kFibrous, MaterialProperty::kDensity), "Text9");
-  EXPECT_EQ(BoxOf(MaterialKind::kResilient, MaterialProperty::kDensity), "Text7");
-  EXPECT_EQ(BoxOf(MaterialKind::kStructural, MaterialProperty::kAbsorption), "");
+TEST(NameOf, IsTheRowOfTheProperty) {
+  EXPECT_EQ(NameOf(MaterialProperty::kThickness), MessageRow{349});
+  EXPECT_EQ(NameOf(MaterialProperty::kSurfaceMass), MessageRow{351});
+  EXPECT_EQ(NameOf(MaterialProperty::kYoungsModulus), MessageRow{352});
+  EXPECT_EQ(NameOf(MaterialProperty::kCriticalFrequency), MessageRow{2507});
+  EXPECT_EQ(NameOf(MaterialProperty::kPoissonsRatio), MessageRow{2508});
+  EXPECT_EQ(NameOf(MaterialProperty::kFlowResistance), MessageRow{1141});
+  EXPECT_EQ(NameOf(MaterialProperty::kImpactImprovement), MessageRow{2510});
+  EXPECT_EQ(NameOf(MaterialProperty::kResonanceFrequency), MessageRow{2511});
+  EXPECT_EQ(NameOf(MaterialProperty::kAbsorption), MessageRow{2512});
 }
 
 }  // namespace

@@ -6,6 +6,7 @@ namespace velmar::materials {
 namespace {
 
 using elements::FibrousMaterial;
+using elements::MaterialProperty;
 using elements::ResilientMaterial;
 using elements::StructuralMaterial;
 
@@ -61,7 +62,7 @@ TEST(StructuralEntry, WithoutANameIsRefused) {
     StructuralEntry entry;
     entry.name = name;
     EXPECT_EQ(RefusalOf(entry).message, (Message{{MessageRow{347}}}));
-    EXPECT_EQ(RefusalOf(entry).box, "Text1");
+    EXPECT_EQ(RefusalOf(entry).field, kNameField);
   }
 }
 
@@ -74,23 +75,34 @@ TEST(StructuralEntry, EveryMissingValueIsNamed) {
                                                {"- ", MessageRow{351}},
                                                {"- ", MessageRow{352}},
                                                {"- ", MessageRow{353}}}));
-  EXPECT_EQ(RefusalOf(entry).box, "Text3");
+  EXPECT_EQ(RefusalOf(entry).field, EntryField{MaterialProperty::kThickness});
 }
 
-TEST(StructuralEntry, TheFirstBoxThatHoldsNoNumberTakesTheFocus) {
-  const std::pair<std::string StructuralEntry::*, const char*> boxes[] = {
-      {&StructuralEntry::thickness, "Text3"},         {&StructuralEntry::density, "Text4"},
-      {&StructuralEntry::surface_mass, "Text5"},      {&StructuralEntry::youngs_modulus, "Text6"},
-      {&StructuralEntry::loss_factor, "Text8"},       {&StructuralEntry::poissons_ratio, "Text9"},
-      {&StructuralEntry::critical_frequency, "Text7"}};
-  for (const auto& [field, box] : boxes) {
+TEST(StructuralEntry, TheFirstTextThatIsNoNumberIsNamed) {
+  const std::pair<std::string StructuralEntry::*, MaterialProperty> numbers[] = {
+      {&StructuralEntry::thickness, MaterialProperty::kThickness},
+      {&StructuralEntry::density, MaterialProperty::kDensity},
+      {&StructuralEntry::surface_mass, MaterialProperty::kSurfaceMass},
+      {&StructuralEntry::youngs_modulus, MaterialProperty::kYoungsModulus},
+      {&StructuralEntry::loss_factor, MaterialProperty::kLossFactor},
+      {&StructuralEntry::poissons_ratio, MaterialProperty::kPoissonsRatio},
+      {&StructuralEntry::critical_frequency, MaterialProperty::kCriticalFrequency}};
+  for (const auto& [text, property] : numbers) {
     StructuralEntry entry = Brick();
-    entry.*field = "12x";
-    EXPECT_EQ(RefusalOf(entry).box, box);
+    entry.*text = "12x";
+    EXPECT_EQ(RefusalOf(entry).field, EntryField{property});
     EXPECT_EQ(RefusalOf(entry).message[0], (MessageLine{MessageRow{355}}));
-    entry.*field = "1e999";
-    EXPECT_EQ(RefusalOf(entry).box, box);
+    entry.*text = "1e999";
+    EXPECT_EQ(RefusalOf(entry).field, EntryField{property});
   }
+}
+
+TEST(StructuralEntry, TheFirstImpossibleValueIsNamed) {
+  StructuralEntry entry = Brick();
+  entry.loss_factor = "2";
+  entry.poissons_ratio = "0,6";
+  EXPECT_EQ(RefusalOf(entry).message.size(), 3U);
+  EXPECT_EQ(RefusalOf(entry).field, EntryField{MaterialProperty::kLossFactor});
 }
 
 TEST(StructuralEntry, ComesBackFromItsRow) {
@@ -132,9 +144,27 @@ TEST(FibrousEntry, AnImpossibleAbsorptionIsRefusedWithItsBand) {
   for (const char* text : {"-0,1", "1,6", "molto", "1e999"}) {
     FibrousEntry entry = Wool();
     entry.absorption[3] = text;
-    EXPECT_EQ(RefusalOf(entry).box, "TextAlfa_3") << text;
+    EXPECT_EQ(RefusalOf(entry).field, (EntryField{MaterialProperty::kAbsorption, 3})) << text;
     EXPECT_EQ(RefusalOf(entry).message[0], (MessageLine{MessageRow{361}}));
     EXPECT_EQ(RefusalOf(entry).message[1], (MessageLine{MessageRow{1143}, std::string(" 200 Hz: ") + text}));
+  }
+}
+
+TEST(FibrousEntry, TheTextThatIsNoNumberIsNamed) {
+  const std::pair<std::string FibrousEntry::*, MaterialProperty> solid[] = {
+      {&FibrousEntry::thickness, MaterialProperty::kThickness},
+      {&FibrousEntry::density, MaterialProperty::kDensity},
+      {&FibrousEntry::youngs_modulus, MaterialProperty::kYoungsModulus},
+      {&FibrousEntry::loss_factor, MaterialProperty::kLossFactor},
+      {&FibrousEntry::poissons_ratio, MaterialProperty::kPoissonsRatio}};
+  FibrousEntry entry = Wool();
+  entry.flow_resistance = "12x";
+  EXPECT_EQ(RefusalOf(entry).field, EntryField{MaterialProperty::kFlowResistance});
+  for (const auto& [text, property] : solid) {
+    entry = Wool();
+    entry.porous = false;
+    entry.*text = "12x";
+    EXPECT_EQ(RefusalOf(entry).field, EntryField{property});
   }
 }
 
@@ -172,7 +202,7 @@ TEST(ResilientEntry, WithNoneOfThemItIsRefused) {
   ResilientEntry entry = Rubber();
   entry.stiffness = "";
   EXPECT_EQ(RefusalOf(entry).message, (Message{{MessageRow{360}}}));
-  EXPECT_EQ(RefusalOf(entry).box, "Text3");
+  EXPECT_EQ(RefusalOf(entry).field, EntryField{MaterialProperty::kDynamicStiffness});
 }
 
 TEST(ResilientEntry, ANegativeValueGivesNoStiffnessAndIsNotStoredWithout) {
@@ -182,21 +212,21 @@ TEST(ResilientEntry, ANegativeValueGivesNoStiffnessAndIsNotStoredWithout) {
   EXPECT_EQ(RefusalOf(entry).message, (Message{{MessageRow{348}, ":"}, {"- ", MessageRow{1142}}}));
   entry.improvement = "";
   entry.resonance = "-80";
-  EXPECT_EQ(RefusalOf(entry).box, "Text3");
+  EXPECT_EQ(RefusalOf(entry).field, EntryField{MaterialProperty::kDynamicStiffness});
 }
 
-TEST(ResilientEntry, TheBoxThatHoldsNoNumberTakesTheFocus) {
-  const std::pair<std::string ResilientEntry::*, const char*> boxes[] = {
-      {&ResilientEntry::stiffness, "Text3"},
-      {&ResilientEntry::improvement, "Text4"},
-      {&ResilientEntry::resonance, "Text5"},
-      {&ResilientEntry::thickness, "Text6"},
-      {&ResilientEntry::density, "Text7"}};
-  for (const auto& [field, box] : boxes) {
+TEST(ResilientEntry, TheTextThatIsNoNumberIsNamed) {
+  const std::pair<std::string ResilientEntry::*, MaterialProperty> numbers[] = {
+      {&ResilientEntry::stiffness, MaterialProperty::kDynamicStiffness},
+      {&ResilientEntry::improvement, MaterialProperty::kImpactImprovement},
+      {&ResilientEntry::resonance, MaterialProperty::kResonanceFrequency},
+      {&ResilientEntry::thickness, MaterialProperty::kThickness},
+      {&ResilientEntry::density, MaterialProperty::kDensity}};
+  for (const auto& [text, property] : numbers) {
     ResilientEntry entry = Rubber();
-    if (field == &ResilientEntry::improvement) entry.stiffness = "";
-    entry.*field = "12x";
-    EXPECT_EQ(RefusalOf(entry).box, box);
+    if (text == &ResilientEntry::improvement) entry.stiffness = "";
+    entry.*text = "12x";
+    EXPECT_EQ(RefusalOf(entry).field, EntryField{property});
   }
 }
 
@@ -204,7 +234,7 @@ TEST(ResilientEntry, AMissingThicknessIsNamed) {
   ResilientEntry entry = Rubber();
   entry.thickness = "";
   EXPECT_EQ(RefusalOf(entry).message, (Message{{MessageRow{348}, ":"}, {"- ", MessageRow{349}}}));
-  EXPECT_EQ(RefusalOf(entry).box, "Text6");
+  EXPECT_EQ(RefusalOf(entry).field, EntryField{MaterialProperty::kThickness});
 }
 
 }  // namespace

@@ -35,7 +35,7 @@ TEST_F(SaveEntryTest, ANameThatDiffersOnlyInCaseIsRefused) {
   brick_.name = "MATTONE";
   const auto refusal = SaveEntry(store_, brick_, "", kTexts);
   EXPECT_EQ(refusal->message, (Message{{MessageRow{354}}}));
-  EXPECT_EQ(refusal->box, "Text1");
+  EXPECT_EQ(refusal->field, kNameField);
   EXPECT_EQ(store_.List(MaterialFamily::kStructural).size(), 1U);
 }
 
@@ -112,6 +112,7 @@ TEST_F(SaveEntryTest, ADatabaseThatCannotBeWrittenIsToldBehindRow355) {
   ASSERT_EQ(refusal->message.size(), 2U);
   EXPECT_EQ(refusal->message[0], (MessageLine{MessageRow{355}}));
   EXPECT_EQ(LeadingRow(refusal->message[1]), MessageRow{1108});
+  EXPECT_FALSE(refusal->field) << "no box is at fault";
 }
 
 }  // namespace

@@ -44,6 +44,13 @@ std::string FirstWords(std::string_view text) {
   return words;
 }
 
+TEST(IsPossibleLevel, GoesFromMinus50To150dB) {
+  EXPECT_TRUE(IsPossibleLevel(-50.0));
+  EXPECT_TRUE(IsPossibleLevel(150.0));
+  EXPECT_FALSE(IsPossibleLevel(-50.1));
+  EXPECT_FALSE(IsPossibleLevel(150.1));
+}
+
 TEST(BandTextTest, ReadsTheReportOfAnAnalyserWithTabulatorsAndUnits) {
   const BandText bands = Taken(
       "Progetto: parete in forati\r\nStrumento: fonometro classe 1\r\n\r\nFrequenza\tR\r\n[Hz]\t[dB]\r\n"

@@ -1,5 +1,7 @@
 #include "measurements/measurement_entry.h"
 
+#include <tuple>
+
 #include <gtest/gtest.h>
 
 #include "foundation/message_rows.h"
@@ -80,24 +82,44 @@ TEST(MeasurementEntryTest, EverythingTypedComesBack) {
 }
 
 TEST(MeasurementEntryTest, BadFieldsAreNamed) {
+  const std::tuple<std::string MeasurementEntry::*, const char*, MeasurementField> bad[] = {
+      {&MeasurementEntry::name, "  ", MeasurementField::kName},
+      {&MeasurementEntry::rating, "3O", MeasurementField::kRating},
+      {&MeasurementEntry::adaptation, "-2-", MeasurementField::kAdaptation},
+      {&MeasurementEntry::other_adaptation, "-200", MeasurementField::kOtherAdaptation},
+      {&MeasurementEntry::area, "0", MeasurementField::kArea},
+      {&MeasurementEntry::mass, "-1", MeasurementField::kMass},
+      {&MeasurementEntry::thickness, "-1", MeasurementField::kThickness},
+      {&MeasurementEntry::source_volume, "-1", MeasurementField::kSourceVolume},
+      {&MeasurementEntry::receiving_volume, "-1", MeasurementField::kReceivingVolume},
+      {&MeasurementEntry::uncertainty, "-1", MeasurementField::kUncertainty},
+  };
+  for (const auto& [text, typed, field] : bad) {
+    MeasurementEntry entry = StandardExample();
+    entry.*text = typed;
+    EXPECT_EQ(Refused(entry).field, field) << typed;
+  }
+}
+
+TEST(MeasurementEntryTest, BadBandsAreNamed) {
   MeasurementEntry entry = StandardExample();
-  entry.name = "  ";
-  EXPECT_EQ(Refused(entry).field, "TextNome");
-  entry = StandardExample();
+  entry.octaves[2] = "1o";
+  EXPECT_EQ(Refused(entry).field, MeasurementField::kOctave);
+  EXPECT_EQ(Refused(entry).band, 2U);
   entry.thirds[4] = "1o";
-  EXPECT_EQ(Refused(entry).field, "TextBanda_4");
+  EXPECT_EQ(Refused(entry).field, MeasurementField::kThird);
+  EXPECT_EQ(Refused(entry).band, 4U);
   EXPECT_EQ(LeadingRow(Refused(entry).message.front()), kNotANumberRow);
   entry.thirds[4] = "400";
   EXPECT_EQ(LeadingRow(Refused(entry).message.front()), kImpossibleMeasurementRow);
-  entry = StandardExample();
-  entry.area = "0";
-  EXPECT_EQ(Refused(entry).field, "TextArea");
-  entry = StandardExample();
-  entry.mass = "-1";
-  EXPECT_EQ(Refused(entry).field, "TextMassa");
-  entry = {};
+}
+
+TEST(MeasurementEntryTest, WithoutValuesTheBandOf100HzIsAskedFor) {
+  MeasurementEntry entry;
   entry.name = "vuota";
   EXPECT_EQ(LeadingRow(Refused(entry).message.front()), kMeasurementWithoutValuesRow);
+  EXPECT_EQ(Refused(entry).field, MeasurementField::kThird);
+  EXPECT_EQ(Refused(entry).band, 3U);
 }
 
 TEST(MeasurementEntryTest, ARatingAloneIsAMeasurement) {

@@ -96,7 +96,7 @@ StudioProfileDialog::StudioProfileDialog(const DocumentServices& documents, cons
     Fill({});
   }
   SetMnemonics(*this);
-  findChild<QLineEdit*>()->setFocus(Qt::OtherFocusReason);
+  fields_.front().box->setFocus(Qt::OtherFocusReason);
   resize(kWidth, sizeHint().height());
 }
 
@@ -105,7 +105,6 @@ void StudioProfileDialog::AddFields(QFormLayout& form) {
   for (const elements::StudioField& field : elements::TypedStudioFields()) {
     const QString caption = Text(words, field.caption);
     TypedField typed{.field = &field};
-    QWidget* box = nullptr;
     if (field.most_lines > 1) {
       auto* lines = new QPlainTextEdit;
       lines->setTabChangesFocus(true);
@@ -113,17 +112,17 @@ void StudioProfileDialog::AddFields(QFormLayout& form) {
       typed.text = [lines] { return lines->toPlainText(); };
       typed.set = [lines](const QString& text) { lines->setPlainText(text); };
       connect(lines, &QPlainTextEdit::textChanged, this, &StudioProfileDialog::Follow);
-      box = lines;
+      typed.box = lines;
     } else {
       auto* line = new QLineEdit;
       typed.text = [line] { return line->text(); };
       typed.set = [line](const QString& text) { line->setText(text); };
       connect(line, &QLineEdit::textChanged, this, &StudioProfileDialog::Follow);
-      box = line;
+      typed.box = line;
     }
-    box->setObjectName(field.key);
-    box->setAccessibleName(caption);
-    form.addRow(caption, box);
+    typed.box->setObjectName(field.key);
+    typed.box->setAccessibleName(caption);
+    form.addRow(caption, typed.box);
     typed.note = NoteUnder(form, field.key, this);
     fields_.push_back(std::move(typed));
   }

@@ -30,6 +30,7 @@ class StudioProfileDialog : public QDialog {
  private:
   struct TypedField {
     const elements::StudioField* field = nullptr;
+    QWidget* box = nullptr;
     std::function<QString()> text{};
     std::function<void(const QString&)> set{};
     QLabel* note = nullptr;

@@ -9,6 +9,7 @@
 #include <QVBoxLayout>
 #include <variant>
 
+#include "elements/plausibility.h"
 #include "foundation/decimal.h"
 #include "foundation/message_rows.h"
 #include "materials/pasted_absorption.h"
@@ -20,7 +21,6 @@ namespace velmar::material_editors {
 namespace {
 
 constexpr std::size_t kBandsAColumn = 5;
-constexpr double kHighest = 1.5;
 
 /// The last box says 6000, though its band is the one of 6300 Hz: so it has always been labelled.
 QString BandLabel(std::size_t band) {
@@ -140,6 +140,8 @@ AbsorptionPanel::Texts AbsorptionPanel::Entered() const {
   return texts;
 }
 
+QLineEdit* AbsorptionPanel::Box(std::size_t band) const { return boxes_.at(band); }
+
 void AbsorptionPanel::changeEvent(QEvent* event) {
   QGroupBox::changeEvent(event);
   if (event->type() == QEvent::EnabledChange && curve_ != nullptr) DrawCurve();
@@ -151,7 +153,10 @@ void AbsorptionPanel::DrawCurve() {
   chart.frequency_axis = tools_.words(kFrequencyRow);
   for (std::size_t band = 0; isEnabled() && band < boxes_.size(); ++band) {
     const std::optional<double> value = ParseDecimal(boxes_.at(band)->Number());
-    if (value && *value >= 0.0 && *value <= kHighest) chart.values.at(band) = value;
+    const bool drawn =
+        value && elements::Judge(elements::MaterialKind::kFibrous, elements::MaterialProperty::kAbsorption,
+                                 *value) != elements::Plausibility::kImpossible;
+    if (drawn) chart.values.at(band) = value;
   }
   curve_->Show(chart);
 }

@@ -10,6 +10,7 @@
 #include "presentation/drawing/absorption_chart.h"
 #include "shell/windows/window_tools.h"
 
+class QLineEdit;
 class QPushButton;
 
 namespace velmar::material_editors {
@@ -43,6 +44,7 @@ class AbsorptionPanel : public QGroupBox {
 
   void Show(const Texts& coefficients);
   Texts Entered() const;
+  QLineEdit* Box(std::size_t band) const;
 
   /// "Calcola"; what it does is the editor's.
   QPushButton* ComputeButton() const { return compute_; }

@@ -1,7 +1,6 @@
 #include "shell/material_editors/edited_material.h"
 
 #include <algorithm>
-#include <iterator>
 #include <type_traits>
 #include <variant>
 
@@ -16,7 +15,6 @@ namespace velmar::material_editors {
 namespace {
 
 using materials::EntryRefusal;
-using storage::DatabaseFailure;
 
 template <typename Material>
 constexpr elements::MaterialFamily FamilyOf() {
@@ -28,12 +26,6 @@ constexpr elements::MaterialFamily FamilyOf() {
 }
 
 SaveOutcome Refused(EntryRefusal refusal) { return {.refusal = std::move(refusal)}; }
-
-SaveOutcome NotReadable(const DatabaseFailure& failure) {
-  Message message{{kMaterialNotSavedRow}};
-  std::ranges::copy(failure.UserMessage(), std::back_inserter(message));
-  return Refused({std::move(message), ""});
-}
 
 Message GoneQuestion(const std::string& name) {
   return {{kEditedMaterialGoneRow, " " + name}, {kSaveAsNewRow}};
@@ -56,8 +48,8 @@ SaveOutcome EditedMaterial<Material>::Save(const Entry& entry, bool touched, con
     std::optional<Row> stored;
     try {
       stored = store_->Find<Material>(opened_name);
-    } catch (const DatabaseFailure& failure) {
-      return NotReadable(failure);
+    } catch (const storage::DatabaseFailure& failure) {
+      return Refused(materials::NotSaved(failure));
     }
     if (!stored) {
       if (!ask(GoneQuestion(opened_name))) return {};

@@ -41,11 +41,18 @@ QHBoxLayout* EditorDialog::MakeButtons(bool with_copy) {
   return row;
 }
 
-void EditorDialog::Finish(QLineEdit* first) {
+void EditorDialog::Finish(FieldBoxes boxes) {
+  boxes_ = std::move(boxes);
   shell::SetMnemonics(*this);
   if (!shell::RestoreSizes(tools_.memory, {memory_name_, this, nullptr, nullptr})) resize(sizeHint());
-  first->setFocus();
-  first->selectAll();
+  LeadTo(materials::kNameField);
+}
+
+void EditorDialog::LeadTo(const materials::EntryField& field) {
+  const auto found = boxes_.find(field);
+  if (found == boxes_.end()) return;
+  found->second->setFocus();
+  found->second->selectAll();
 }
 
 void EditorDialog::Save(bool as_copy) {
@@ -55,10 +62,7 @@ void EditorDialog::Save(bool as_copy) {
   const SaveOutcome outcome = as_copy ? StoreCopy(shell::ToUtf8(tools_.Text(kCopyNameRow)), ask) : Store(ask);
   if (outcome.refusal) {
     tools_.Tell(tools_.Text(outcome.refusal->message));
-    if (auto* box = findChild<QWidget*>(shell::FromUtf8(outcome.refusal->box))) {
-      box->setFocus();
-      if (auto* line = qobject_cast<QLineEdit*>(box)) line->selectAll();
-    }
+    if (outcome.refusal->field) LeadTo(*outcome.refusal->field);
     return;
   }
   if (!outcome.done) return;

@@ -6,10 +6,10 @@
 #include <vector>
 
 #include "shell/material_editors/edited_material.h"
+#include "shell/material_editors/field_grid.h"
 #include "shell/windows/window_tools.h"
 
 class QHBoxLayout;
-class QLineEdit;
 
 namespace velmar::material_editors {
 
@@ -40,14 +40,17 @@ class EditorDialog : public QDialog {
 
   /// "Salva", "Salva come copia" where there is something to copy, and "Annulla".
   QHBoxLayout* MakeButtons(bool with_copy);
-  /// To be called when all controls stand: letters for Alt, the remembered size, the focus on `first`.
-  void Finish(QLineEdit* first);
+  /// To be called when all controls stand: letters for Alt, the remembered size, the focus on the name.
+  /// @param boxes to which refusals lead
+  void Finish(FieldBoxes boxes);
 
  private:
   void Save(bool as_copy);
+  void LeadTo(const materials::EntryField& field);
 
   shell::WindowTools tools_;
   QString memory_name_;
+  FieldBoxes boxes_;
   std::optional<shell::MaterialChange> change_;
 };
 

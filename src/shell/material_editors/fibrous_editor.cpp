@@ -5,11 +5,11 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QVBoxLayout>
+#include <utility>
 
 #include "foundation/message_rows.h"
 #include "materials/computed_absorption.h"
 #include "shell/material_editors/absorption_panel.h"
-#include "shell/material_editors/field_grid.h"
 #include "shell/material_editors/keyword_box.h"
 #include "shell/material_editors/number_box.h"
 #include "shell/windows/phrases.h"
@@ -17,6 +17,7 @@
 namespace velmar::material_editors {
 namespace {
 
+using enum elements::MaterialProperty;
 using materials::FibrousEntry;
 
 constexpr int kColumnGapPx = 16;
@@ -30,37 +31,39 @@ FibrousEditor::FibrousEditor(shell::WindowTools tools, EditedMaterial<elements::
     : EditorDialog(std::move(tools), QStringLiteral("Form6"), QStringLiteral("materiale-fibroso"), parent),
       material_(std::move(material)) {
   setWindowTitle(Tools().Text(kFibrousMaterialRow));
-  MakeControls(keywords, picture);
+  FieldBoxes boxes = MakeControls(keywords, picture);
   connect(absorption_->ComputeButton(), &QPushButton::clicked, this, [this] { ComputeAbsorption(); });
   connect(porous_, &QRadioButton::toggled, this, [this] { EnableWhatCounts(); });
   Show(material_.Opened() ? materials::EntryOf(*material_.Opened()) : FibrousEntry{});
   EnableWhatCounts();
   shown_first_ = Entry();
-  Finish(name_);
+  Finish(std::move(boxes));
 }
 
-void FibrousEditor::MakeControls(const std::vector<std::string>& keywords,
-                                 const std::filesystem::path& picture) {
+FieldBoxes FibrousEditor::MakeControls(const std::vector<std::string>& keywords,
+                                       const std::filesystem::path& picture) {
   const auto option = [this](const char* object_name, MessageRow words) {
     auto* button = new QRadioButton(Tools().Text(words), this);
     button->setObjectName(QLatin1String(object_name));
     return button;
   };
   FieldGrid fields(Tools(), this);
-  name_ = fields.AddText("Text1", kMaterialNameRow);
+  name_ = fields.AddName();
   description_ = fields.AddText("Text2", kMaterialDescriptionRow);
   fields.AddGap();
-  thickness_ = fields.AddNumber("Text10", kMaterialThicknessRow);
-  density_ = fields.AddNumber("Text9", kMaterialDensityRow);
+  thickness_ = fields.AddNumber(kThickness, "Text10", kMaterialThicknessRow);
+  density_ = fields.AddNumber(kDensity, "Text9", kMaterialDensityRow);
   fields.AddGap();
   fields.AddWhole(porous_ = option("Option1_0", kPorousRow));
-  flow_resistance_ = fields.AddNumber("Text14", kMaterialFlowResistanceRow, kFlowResistanceTipRow);
+  flow_resistance_ =
+      fields.AddNumber(kFlowResistance, "Text14", kMaterialFlowResistanceRow, kFlowResistanceTipRow);
   fields.AddGap();
   fields.AddWhole(solid_ = option("Option1_1", kSolidRow));
   const int first_row_beside = fields.NextRow();
-  youngs_modulus_ = fields.AddNumber("Text11", kMaterialYoungsModulusRow, kYoungsModulusTipRow);
-  loss_factor_ = fields.AddNumber("Text12", kMaterialLossFactorRow, kLossFactorTipRow);
-  poissons_ratio_ = fields.AddNumber("Text13", kPoissonsRatioRow, kPoissonsRatioTipRow);
+  youngs_modulus_ =
+      fields.AddNumber(kYoungsModulus, "Text11", kMaterialYoungsModulusRow, kYoungsModulusTipRow);
+  loss_factor_ = fields.AddNumber(kLossFactor, "Text12", kMaterialLossFactorRow, kLossFactorTipRow);
+  poissons_ratio_ = fields.AddNumber(kPoissonsRatio, "Text13", kPoissonsRatioRow, kPoissonsRatioTipRow);
   fields.AddPicture(picture, first_row_beside);
   fields.AddGap();
   fields.Add(kMaterialKeywordRow, keyword_ = new KeywordBox(QStringLiteral("Text8"), keywords, this),
@@ -78,6 +81,10 @@ void FibrousEditor::MakeControls(const std::vector<std::string>& keywords,
   column->addLayout(faces, 1);
   column->addSpacing(kButtonGapPx);
   column->addLayout(MakeButtons(material_.Opened().has_value()));
+  FieldBoxes boxes = fields.Boxes();
+  for (std::size_t band = 0; band < elements::kAbsorptionBandCount; ++band)
+    boxes.emplace(materials::EntryField{kAbsorption, band}, absorption_->Box(band));
+  return boxes;
 }
 
 void FibrousEditor::Show(const FibrousEntry& entry) {

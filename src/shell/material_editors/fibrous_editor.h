@@ -32,7 +32,8 @@ class FibrousEditor : public EditorDialog {
   SaveOutcome StoreCopy(const std::string& mark, const AskUser& ask) override;
 
  private:
-  void MakeControls(const std::vector<std::string>& keywords, const std::filesystem::path& picture);
+  /// @return the boxes to which refusals lead
+  FieldBoxes MakeControls(const std::vector<std::string>& keywords, const std::filesystem::path& picture);
   void Show(const materials::FibrousEntry& entry);
   materials::FibrousEntry Entry() const;
   void EnableWhatCounts();

@@ -49,6 +49,12 @@ void FieldGrid::Add(MessageRow caption, QWidget* box, MessageRow tip) {
   grid_->addWidget(box, next_row_++, 1, 1, kColumns - 1);
 }
 
+QLineEdit* FieldGrid::AddName() {
+  QLineEdit* box = AddText("Text1", kMaterialNameRow);
+  boxes_.emplace(materials::kNameField, box);
+  return box;
+}
+
 QLineEdit* FieldGrid::AddText(const char* object_name, MessageRow caption) {
   auto* box = new QLineEdit(window_);
   box->setObjectName(QLatin1String(object_name));
@@ -57,8 +63,10 @@ QLineEdit* FieldGrid::AddText(const char* object_name, MessageRow caption) {
   return box;
 }
 
-NumberBox* FieldGrid::AddNumber(const char* object_name, MessageRow caption, MessageRow tip) {
+NumberBox* FieldGrid::AddNumber(elements::MaterialProperty property, const char* object_name,
+                                MessageRow caption, MessageRow tip) {
   auto* box = new NumberBox(QLatin1String(object_name), window_);
+  boxes_.emplace(materials::EntryField{property}, box);
   Name(caption, box, tip);
   grid_->addWidget(box, next_row_++, 1);
   return box;

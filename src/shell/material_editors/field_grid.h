@@ -1,8 +1,11 @@
 #pragma once
 
 #include <filesystem>
+#include <map>
 
+#include "elements/plausibility.h"
 #include "foundation/message.h"
+#include "materials/material_entry.h"
 #include "shell/windows/window_tools.h"
 
 class QGridLayout;
@@ -14,6 +17,9 @@ namespace velmar::material_editors {
 
 class NumberBox;
 
+/// The boxes of an editor by what they hold of the entry.
+using FieldBoxes = std::map<materials::EntryField, QLineEdit*>;
+
 /// The boxes of an editor below each other, their words before them. Beside the number boxes there is room
 /// for a picture.
 class FieldGrid {
@@ -24,12 +30,17 @@ class FieldGrid {
   QGridLayout* Layout() const { return grid_; }
   /// The row that comes next.
   int NextRow() const { return next_row_; }
+  /// The name and the numbers so far.
+  const FieldBoxes& Boxes() const { return boxes_; }
 
   /// `box` over the whole width, behind the words of `caption`, which also give its accessible name.
   /// @param tip row that explains the value in one sentence, 0 for none
   void Add(MessageRow caption, QWidget* box, MessageRow tip = {});
+  /// The box of the name (`Text1`).
+  QLineEdit* AddName();
   QLineEdit* AddText(const char* object_name, MessageRow caption);
-  NumberBox* AddNumber(const char* object_name, MessageRow caption, MessageRow tip = {});
+  NumberBox* AddNumber(elements::MaterialProperty property, const char* object_name, MessageRow caption,
+                       MessageRow tip = {});
   /// A control that brings its own words.
   void AddWhole(QWidget* control);
   /// A quiet remark.
@@ -46,6 +57,7 @@ class FieldGrid {
   QWidget* window_;
   QGridLayout* grid_;
   int next_row_ = 0;
+  FieldBoxes boxes_;
 };
 
 }  // namespace velmar::material_editors

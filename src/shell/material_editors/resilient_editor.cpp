@@ -3,9 +3,9 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QVBoxLayout>
+#include <utility>
 
 #include "foundation/message_rows.h"
-#include "shell/material_editors/field_grid.h"
 #include "shell/material_editors/keyword_box.h"
 #include "shell/material_editors/number_box.h"
 #include "shell/windows/phrases.h"
@@ -13,6 +13,7 @@
 namespace velmar::material_editors {
 namespace {
 
+using enum elements::MaterialProperty;
 using materials::ResilientBox;
 using materials::ResilientBoxes;
 using materials::ResilientEntry;
@@ -28,7 +29,7 @@ ResilientEditor::ResilientEditor(shell::WindowTools tools,
     : EditorDialog(std::move(tools), QStringLiteral("Form6"), QStringLiteral("materiale-resiliente"), parent),
       material_(std::move(material)) {
   setWindowTitle(Tools().Text(kResilientEditorCaptionRow));
-  MakeControls(keywords, picture);
+  FieldBoxes boxes = MakeControls(keywords, picture);
   connect(stiffness_, &NumberBox::Left, this,
           [this](bool edited) { Couple(ResilientBox::kStiffness, edited); });
   connect(improvement_, &NumberBox::Left, this,
@@ -39,26 +40,26 @@ ResilientEditor::ResilientEditor(shell::WindowTools tools,
   shown_first_ = Entry();
   connect(stiffness_, &QLineEdit::textChanged, this, [this] { ShowStandard(); });
   ShowStandard();
-  Finish(name_);
+  Finish(std::move(boxes));
 }
 
-void ResilientEditor::MakeControls(const std::vector<std::string>& keywords,
-                                   const std::filesystem::path& picture) {
+FieldBoxes ResilientEditor::MakeControls(const std::vector<std::string>& keywords,
+                                         const std::filesystem::path& picture) {
   FieldGrid fields(Tools(), this);
-  name_ = fields.AddText("Text1", kMaterialNameRow);
+  name_ = fields.AddName();
   description_ = fields.AddText("Text2", kMaterialDescriptionRow);
   fields.AddGap();
   const int first_row_beside = fields.NextRow();
-  stiffness_ = fields.AddNumber("Text3", kDynamicStiffnessRow, kStiffnessTipRow);
-  improvement_ = fields.AddNumber("Text4", kImpactImprovementRow, kImprovementTipRow);
-  resonance_ = fields.AddNumber("Text5", kResonanceRow, kResonanceTipRow);
+  stiffness_ = fields.AddNumber(kDynamicStiffness, "Text3", kDynamicStiffnessRow, kStiffnessTipRow);
+  improvement_ = fields.AddNumber(kImpactImprovement, "Text4", kImpactImprovementRow, kImprovementTipRow);
+  resonance_ = fields.AddNumber(kResonanceFrequency, "Text5", kResonanceRow, kResonanceTipRow);
   fields.AddPicture(picture, first_row_beside);
   fields.AddRemark(kOneOfThreeRow);
   standard_ = fields.AddRemark(kStandardImprovementRow);
   standard_->setObjectName(QStringLiteral("LabelDLw12354"));
   fields.AddGap();
-  thickness_ = fields.AddNumber("Text6", kMaterialThicknessRow);
-  density_ = fields.AddNumber("Text7", kMaterialDensityRow);
+  thickness_ = fields.AddNumber(kThickness, "Text6", kMaterialThicknessRow);
+  density_ = fields.AddNumber(kDensity, "Text7", kMaterialDensityRow);
   fields.AddGap();
   fields.Add(kMaterialKeywordRow, keyword_ = new KeywordBox(QStringLiteral("Text8"), keywords, this),
              kKeywordTipRow);
@@ -68,6 +69,7 @@ void ResilientEditor::MakeControls(const std::vector<std::string>& keywords,
   column->addSpacing(kButtonGapPx);
   column->addStretch(1);
   column->addLayout(MakeButtons(material_.Opened().has_value()));
+  return fields.Boxes();
 }
 
 void ResilientEditor::Show(const ResilientEntry& entry) {

@@ -31,7 +31,8 @@ class ResilientEditor : public EditorDialog {
   SaveOutcome StoreCopy(const std::string& mark, const AskUser& ask) override;
 
  private:
-  void MakeControls(const std::vector<std::string>& keywords, const std::filesystem::path& picture);
+  /// @return the boxes to which refusals lead
+  FieldBoxes MakeControls(const std::vector<std::string>& keywords, const std::filesystem::path& picture);
   void Show(const materials::ResilientEntry& entry);
   materials::ResilientEntry Entry() const;
   void Couple(materials::ResilientBox left, bool edited);

@@ -4,7 +4,6 @@
 #include <QVBoxLayout>
 
 #include "foundation/message_rows.h"
-#include "shell/material_editors/field_grid.h"
 #include "shell/material_editors/keyword_box.h"
 #include "shell/material_editors/number_box.h"
 #include "shell/windows/phrases.h"
@@ -12,6 +11,7 @@
 namespace velmar::material_editors {
 namespace {
 
+using enum elements::MaterialProperty;
 using materials::MassBox;
 using materials::MassBoxes;
 using materials::StructuralEntry;
@@ -29,18 +29,20 @@ StructuralEditor::StructuralEditor(shell::WindowTools tools,
   setWindowTitle(Tools().Text(kStructuralEditorCaptionRow));
   auto* column = new QVBoxLayout(this);
   FieldGrid fields(Tools(), this);
-  name_ = fields.AddText("Text1", kMaterialNameRow);
+  name_ = fields.AddName();
   description_ = fields.AddText("Text2", kMaterialDescriptionRow);
   fields.AddGap();
-  thickness_ = fields.AddNumber("Text3", kMaterialThicknessRow);
-  density_ = fields.AddNumber("Text4", kMaterialDensityRow);
-  surface_mass_ = fields.AddNumber("Text5", kMaterialSurfaceMassRow, kSurfaceMassTipRow);
+  thickness_ = fields.AddNumber(kThickness, "Text3", kMaterialThicknessRow);
+  density_ = fields.AddNumber(kDensity, "Text4", kMaterialDensityRow);
+  surface_mass_ = fields.AddNumber(kSurfaceMass, "Text5", kMaterialSurfaceMassRow, kSurfaceMassTipRow);
   fields.AddRemark(kTwoOfThreeRow);
   fields.AddGap();
-  youngs_modulus_ = fields.AddNumber("Text6", kMaterialYoungsModulusRow, kYoungsModulusTipRow);
-  critical_frequency_ = fields.AddNumber("Text7", kCriticalFrequencyRow, kCriticalFrequencyTipRow);
-  loss_factor_ = fields.AddNumber("Text8", kMaterialLossFactorRow, kLossFactorTipRow);
-  poissons_ratio_ = fields.AddNumber("Text9", kPoissonsRatioRow, kPoissonsRatioTipRow);
+  youngs_modulus_ =
+      fields.AddNumber(kYoungsModulus, "Text6", kMaterialYoungsModulusRow, kYoungsModulusTipRow);
+  critical_frequency_ =
+      fields.AddNumber(kCriticalFrequency, "Text7", kCriticalFrequencyRow, kCriticalFrequencyTipRow);
+  loss_factor_ = fields.AddNumber(kLossFactor, "Text8", kMaterialLossFactorRow, kLossFactorTipRow);
+  poissons_ratio_ = fields.AddNumber(kPoissonsRatio, "Text9", kPoissonsRatioRow, kPoissonsRatioTipRow);
   fields.AddGap();
   fields.Add(kMaterialKeywordRow, keyword_ = new KeywordBox(QStringLiteral("Text10"), keywords, this),
              kKeywordTipRow);
@@ -56,7 +58,7 @@ StructuralEditor::StructuralEditor(shell::WindowTools tools,
           [this](bool edited) { Couple(MassBox::kSurfaceMass, edited); });
   Show(material_.Opened() ? materials::EntryOf(*material_.Opened()) : StructuralEntry{});
   shown_first_ = Entry();
-  Finish(name_);
+  Finish(fields.Boxes());
 }
 
 void StructuralEditor::Show(const StructuralEntry& entry) {

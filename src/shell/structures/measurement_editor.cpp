@@ -27,6 +27,7 @@ namespace velmar::structures {
 namespace {
 
 using measurements::MeasurementEntry;
+using measurements::MeasurementField;
 using shell::NumberField;
 
 constexpr const char* kMemoryName = "nuova-misura";
@@ -59,17 +60,37 @@ constexpr std::array kTexts = {
     TextField{"TextFonte", kSourceCaptionRow, &MeasurementEntry::source},
     TextField{"TextInformazione", kTestRemarksRow, &MeasurementEntry::notes},
 };
+struct NumberRow {
+  MeasurementField field{};
+  const char* name = "";
+  MessageRow caption{};
+  std::string MeasurementEntry::*text = nullptr;
+};
 constexpr std::array kNumbers = {
-    TextField{measurements::field_names::kArea, kMeasurementAreaRow, &MeasurementEntry::area},
-    TextField{measurements::field_names::kMass, kMeasurementMassRow, &MeasurementEntry::mass},
-    TextField{measurements::field_names::kUncertainty, kUncertaintyRow, &MeasurementEntry::uncertainty},
-    TextField{measurements::field_names::kThickness, kMeasurementThicknessRow, &MeasurementEntry::thickness},
-    TextField{measurements::field_names::kSourceVolume, kSourceVolumeRow, &MeasurementEntry::source_volume},
-    TextField{measurements::field_names::kReceivingVolume, kReceivingVolumeRow,
+    NumberRow{MeasurementField::kArea, "TextArea", kMeasurementAreaRow, &MeasurementEntry::area},
+    NumberRow{MeasurementField::kMass, "TextMassa", kMeasurementMassRow, &MeasurementEntry::mass},
+    NumberRow{MeasurementField::kUncertainty, "TextIncertezza", kUncertaintyRow,
+              &MeasurementEntry::uncertainty},
+    NumberRow{MeasurementField::kThickness, "TextSpessore", kMeasurementThicknessRow,
+              &MeasurementEntry::thickness},
+    NumberRow{MeasurementField::kSourceVolume, "TextVe", kSourceVolumeRow, &MeasurementEntry::source_volume},
+    NumberRow{MeasurementField::kReceivingVolume, "TextVr", kReceivingVolumeRow,
               &MeasurementEntry::receiving_volume},
 };
 /// The first of kNumbers that only a test in a building has.
 constexpr std::size_t kFirstInSitu = 3;
+
+struct PrintedRow {
+  MeasurementField field{};
+  const char* name = "";
+  std::string MeasurementEntry::*text = nullptr;
+};
+/// The rating and its two terms, captioned by the symbols of the kind.
+constexpr std::array kPrinted = {
+    PrintedRow{MeasurementField::kRating, "TextIndice", &MeasurementEntry::rating},
+    PrintedRow{MeasurementField::kAdaptation, "TextC", &MeasurementEntry::adaptation},
+    PrintedRow{MeasurementField::kOtherAdaptation, "TextCtr", &MeasurementEntry::other_adaptation},
+};
 
 QString Symbol(std::string_view symbol) {
   return QString::fromUtf8(symbol.data(), static_cast<qsizetype>(symbol.size()));
@@ -148,7 +169,8 @@ QWidget* MeasurementEditor::MakeTexts() {
   auto* label = new QLabel(tools_.Text(kMeasurementKindRow), side);
   label->setBuddy(kind_);
   form->addRow(label, kind_);
-  name_ = AddText(*form, measurements::field_names::kName, kMeasurementNameRow);
+  name_ = AddText(*form, "TextNome", kMeasurementNameRow);
+  boxes_.emplace(MeasurementField::kName, name_);
   description_ = new QPlainTextEdit(side);
   description_->setObjectName(QStringLiteral("TextDescrizione"));
   description_->setAccessibleName(tools_.Text(kDescriptionRow));
@@ -170,6 +192,7 @@ QWidget* MeasurementEditor::MakeValues() {
   for (std::size_t i = 0; i < kNumbers.size(); ++i) {
     QFormLayout& place = i < kFirstInSitu ? *form : *field_form;
     numbers_.push_back(AddNumber(place, kNumbers.at(i).name, kNumbers.at(i).caption));
+    boxes_.emplace(kNumbers.at(i).field, numbers_.back());
   }
   site_ = AddText(*field_form, "TextCantiere", kFieldSiteRow);
   return values;
@@ -179,11 +202,9 @@ QWidget* MeasurementEditor::MakeRating() {
   auto* frame = new QGroupBox(tools_.Text(kPrintedRatingRow), this);
   auto* column = new QVBoxLayout(frame);
   auto* row = new QHBoxLayout;
-  const std::array<const char*, 3> names = {measurements::field_names::kRating,
-                                            measurements::field_names::kAdaptation,
-                                            measurements::field_names::kOtherAdaptation};
   for (std::size_t i = 0; i < printed_.size(); ++i) {
-    printed_.at(i) = new NumberField(QLatin1String(names.at(i)), shell::NumberKind::kTerm, frame);
+    printed_.at(i) = new NumberField(QLatin1String(kPrinted.at(i).name), shell::NumberKind::kTerm, frame);
+    boxes_.emplace(kPrinted.at(i).field, printed_.at(i));
     printed_captions_.at(i) = new QLabel(frame);
     printed_captions_.at(i)->setBuddy(printed_.at(i));
     row->addWidget(printed_captions_.at(i));
@@ -273,9 +294,7 @@ void MeasurementEditor::Show(const MeasurementEntry& entry) {
   }
   for (std::size_t i = 0; i < numbers_.size(); ++i) numbers_[i]->Show(entry.*kNumbers.at(i).text);
   site_->setText(shell::FromUtf8(entry.site));
-  printed_[0]->Show(entry.rating);
-  printed_[1]->Show(entry.adaptation);
-  printed_[2]->Show(entry.other_adaptation);
+  for (std::size_t i = 0; i < printed_.size(); ++i) printed_.at(i)->Show(entry.*kPrinted.at(i).text);
   bands_->Show(entry);
   ShowPicture(entry.picture);
 }
@@ -348,14 +367,23 @@ void MeasurementEditor::ReadFile() {
   });
 }
 
+QLineEdit* MeasurementEditor::BoxOf(const measurements::MeasurementRefusal& refusal) const {
+  if (refusal.field == MeasurementField::kThird) return bands_->Third(refusal.band);
+  if (refusal.field == MeasurementField::kOctave) return bands_->Octave(refusal.band);
+  return boxes_.at(refusal.field);
+}
+
+void MeasurementEditor::Refuse(const measurements::MeasurementRefusal& refusal) {
+  tools_.Tell(tools_.Text(refusal.message));
+  QLineEdit* box = BoxOf(refusal);
+  box->setFocus();
+  box->selectAll();
+}
+
 void MeasurementEditor::Save() {
   const auto checked = measurements::TestOf(FolderOf(Kind()), Entry());
   if (const auto* refusal = std::get_if<measurements::MeasurementRefusal>(&checked)) {
-    tools_.Tell(tools_.Text(refusal->message));
-    if (auto* box = findChild<QLineEdit*>(shell::FromUtf8(refusal->field))) {
-      box->setFocus();
-      box->selectAll();
-    }
+    Refuse(*refusal);
     return;
   }
   auto test = std::get<storage::MeasuredTest>(checked);
@@ -369,8 +397,7 @@ void MeasurementEditor::Save() {
   });
   if (!done) return;
   if (refusal) {
-    tools_.Tell(tools_.Text(*refusal));
-    name_->setFocus();
+    Refuse({*refusal, MeasurementField::kName});
     return;
   }
   stored_name_ = test.name;

@@ -1,7 +1,9 @@
 #pragma once
 
 #include <QDialog>
+#include <array>
 #include <functional>
+#include <map>
 #include <optional>
 #include <string>
 #include <vector>
@@ -65,6 +67,9 @@ class MeasurementEditor : public QDialog {
   void ChoosePicture();
   void ReadFile();
   void Save();
+  QLineEdit* BoxOf(const measurements::MeasurementRefusal& refusal) const;
+  /// Tells why and leads to the box in question.
+  void Refuse(const measurements::MeasurementRefusal& refusal);
 
   shell::WindowTools tools_;
   OwnMeasurementSource own_;
@@ -84,6 +89,7 @@ class MeasurementEditor : public QDialog {
   QLabel* computed_ = nullptr;
   QLabel* verdict_ = nullptr;
   MeasurementBands* bands_ = nullptr;
+  std::map<measurements::MeasurementField, QLineEdit*> boxes_;  ///< but the bands
   shell::PictureView* picture_ = nullptr;
 };
 

@@ -24,8 +24,6 @@ namespace {
 using shell::NumberField;
 
 constexpr int kBandsAColumn = 7;
-constexpr std::array<const char*, storage::kOctaveCount> kOctaveCaptions = {"63",   "125",  "250",  "500",
-                                                                            "1000", "2000", "4000", "8000"};
 constexpr int kLongestRefusal = 12;  ///< lines of a box that still fits the screen
 
 }  // namespace
@@ -68,8 +66,7 @@ QWidget* MeasurementBands::MakeThirds() {
   for (std::size_t band = 0; band < acoustics::kBandCount; ++band) {
     const int index = static_cast<int>(band);
     const QString caption = QString::number(static_cast<int>(acoustics::BandCentre(band))) + " Hz";
-    auto* box =
-        MakeBox(QLatin1String(measurements::field_names::kThirds) + QString::number(index), caption, frame);
+    auto* box = MakeBox(QStringLiteral("TextBanda_%1").arg(index), caption, frame);
     auto* label = new QLabel(caption, frame);
     label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     const int place = 2 * (index / kBandsAColumn);
@@ -86,11 +83,10 @@ QWidget* MeasurementBands::MakeOctaves() {
   auto* grid = new QGridLayout(frame);
   grid->setVerticalSpacing(4);
   constexpr int kAColumn = 3;
-  for (std::size_t i = 0; i < kOctaveCaptions.size(); ++i) {
+  for (std::size_t i = 0; i < measurements::kOctaveCentres.size(); ++i) {
     const int index = static_cast<int>(i);
-    const QString caption = QLatin1String(kOctaveCaptions.at(i)) + QStringLiteral(" Hz");
-    auto* box =
-        MakeBox(QLatin1String(measurements::field_names::kOctaves) + QString::number(index), caption, frame);
+    const QString caption = QStringLiteral("%1 Hz").arg(measurements::kOctaveCentres.at(i));
+    auto* box = MakeBox(QStringLiteral("TextOttava_%1").arg(index), caption, frame);
     auto* label = new QLabel(caption, frame);
     label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     const int place = 2 * (index / kAColumn);
@@ -111,6 +107,10 @@ void MeasurementBands::Take(measurements::MeasurementEntry& entry) const {
   for (std::size_t i = 0; i < thirds_.size(); ++i) entry.thirds.at(i) = shell::ToUtf8(thirds_[i]->text());
   for (std::size_t i = 0; i < octaves_.size(); ++i) entry.octaves.at(i) = shell::ToUtf8(octaves_[i]->text());
 }
+
+QLineEdit* MeasurementBands::Third(std::size_t band) const { return thirds_.at(band); }
+
+QLineEdit* MeasurementBands::Octave(std::size_t band) const { return octaves_.at(band); }
 
 void MeasurementBands::Read(const QString& text, const std::string& symbol) {
   const auto read = measurements::ReadBandText(shell::ToUtf8(text), symbol);

@@ -9,6 +9,8 @@
 #include "measurements/measurement_entry.h"
 #include "shell/windows/window_tools.h"
 
+class QLineEdit;
+
 namespace velmar::shell {
 class NumberField;
 }
@@ -25,6 +27,9 @@ class MeasurementBands : public QWidget {
   void Show(const measurements::MeasurementEntry& entry);
   /// Puts what the boxes hold into `entry`.
   void Take(measurements::MeasurementEntry& entry) const;
+  /// The box of third-octave band `band` (`TextBanda`), and the one of octave band `band` (`TextOttava`).
+  QLineEdit* Third(std::size_t band) const;
+  QLineEdit* Octave(std::size_t band) const;
 
   /// Fills the boxes from `text`; what cannot be taken is told line by line, and nothing is taken then.
   /// @param symbol of the levels, such as "R"

@@ -270,12 +270,27 @@ TEST_F(FibrousEditorTest, AnImpossibleCoefficientIsToldWithItsBand) {
   EXPECT_FALSE(Stored("Feltro"));
 }
 
+TEST_F(FibrousEditorTest, EveryBandTakesTheFocusOfItsCoefficient) {
+  Open();
+  FillIn();
+  for (int band = 0; band < 19; ++band) {
+    Child<QLineEdit>(*window_, "Text1").setFocus();
+    Alfa(band).setText("2");
+    Save();
+    EXPECT_EQ(Focused(), "TextAlfa_" + std::to_string(band));
+    EXPECT_EQ(Alfa(band).selectedText(), "2");
+    Alfa(band).clear();
+  }
+  EXPECT_EQ(told_.size(), 19);
+}
+
 TEST_F(FibrousEditorTest, ATextThatIsNoNumberTakesTheFocus) {
   for (const char* box : {"Text9", "Text10", "Text14", "Text11", "Text12", "Text13"}) {
     told_.clear();
     Open();
     FillIn();
     Choose(box == std::string("Text14") ? "Option1_0" : "Option1_1");
+    Child<QLineEdit>(*window_, "Text1").setFocus();
     Child<QLineEdit>(*window_, box).setText("1..2");
     Save();
     ASSERT_EQ(told_.size(), 1) << box;

@@ -160,6 +160,18 @@ TEST_F(ResilientEditorTest, ATextThatIsNoNumberTakesTheFocus) {
   }
 }
 
+TEST_F(ResilientEditorTest, AnImpossibleValueTakesTheFocus) {
+  Open();
+  Type(*window_, "Text1", "Sughero");
+  Type(*window_, "Text3", "10");
+  Type(*window_, "Text6", "10");
+  Child<QLineEdit>(*window_, "Text7").setText("-1");
+  Save();
+  ASSERT_EQ(told_.size(), 1);
+  EXPECT_EQ(Focused(), "Text7");
+  EXPECT_FALSE(Stored("Sughero"));
+}
+
 TEST_F(ResilientEditorTest, ModifyShowsTheRowAndChangesNothingByItself) {
   store_.Add<ResilientMaterial>({Rubber()});
   const auto before = storage::CellsFromRow(*Stored("Gomma"));

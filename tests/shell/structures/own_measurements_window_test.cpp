@@ -143,6 +143,48 @@ TEST_F(OwnMeasurementsWindowTest, DamagedLinesAreNamedAndNothingIsTaken) {
   EXPECT_EQ(Child<QLineEdit>(Editor(), "TextBanda_3").text(), "");
 }
 
+TEST_F(OwnMeasurementsWindowTest, ARefusedValueTakesTheFocus) {
+  Open(TargetNeeds::kNothing);
+  Press(*window_, "CommandNuovaMisura");
+  Child<QComboBox>(Editor(), "ComboTipo").setCurrentText("Dati in opera R'w");
+  Type("TextNome", "Divisorio");
+  for (const char* name :
+       {"TextIndice", "TextC", "TextCtr", "TextBanda_0", "TextBanda_20", "TextOttava_0", "TextOttava_7",
+        "TextArea", "TextMassa", "TextIncertezza", "TextSpessore", "TextVe", "TextVr"}) {
+    boxes_.told.clear();
+    auto& box = Child<QLineEdit>(Editor(), name);
+    Child<QLineEdit>(Editor(), "TextNome").setFocus();
+    box.setText("1..2");
+    Press(Editor(), "Command1");
+    EXPECT_EQ(boxes_.told.size(), 1) << name;
+    EXPECT_EQ(Editor().focusWidget(), &box) << name;
+    EXPECT_EQ(box.selectedText(), box.text()) << name;
+    box.clear();
+  }
+  EXPECT_TRUE(storage::OwnMeasurements(library_).All(FolderOf(Branch::kFieldWalls)).empty());
+}
+
+TEST_F(OwnMeasurementsWindowTest, WhatIsMissingOrTakenTakesTheFocus) {
+  storage::MeasuredTest mine;
+  mine.name = "Mia";
+  mine.rating = 48;
+  storage::OwnMeasurements(library_).Add(walls_, {&mine, 1});
+  Open();
+  OpenLibraryFile(*window_, "TreeView1", "Fornita");
+  Press(*window_, "CommandNuovaMisura");
+  Child<QLineEdit>(Editor(), "TextArea").setFocus();
+  Press(Editor(), "Command1");
+  EXPECT_EQ(Editor().focusWidget()->objectName(), "TextNome") << "it has no name";
+  Type("TextNome", "MIA");
+  Press(Editor(), "Command1");
+  EXPECT_EQ(Editor().focusWidget()->objectName(), "TextBanda_3") << "it has no values";
+  Type("TextIndice", "50");
+  Press(Editor(), "Command1");
+  EXPECT_EQ(boxes_.told.size(), 3);
+  EXPECT_EQ(Editor().focusWidget()->objectName(), "TextNome") << "the name is taken";
+  EXPECT_EQ(Stored().size(), 1U);
+}
+
 TEST_F(OwnMeasurementsWindowTest, ClosingAsksBeforeItThrowsEntriesAway) {
   Open();
   Press(*window_, "CommandNuovaMisura");
