@@ -102,8 +102,9 @@ void AddNavigation(const std::string& file, const std::vector<PlacedHeading>& he
     root.replaceKey("/Lang", Object::newString("it-IT"));
     root.replaceKey("/ViewerPreferences", Object::parse("<< /DisplayDocTitle true >>"));
     for (const PlacedLink& link : links) {
-      const auto to = std::ranges::find_if(
-          headings, [&](const PlacedHeading& heading) { return heading.heading.anchor == link.anchor; });
+      const auto to = std::find_if(headings.begin(), headings.end(), [&](const PlacedHeading& heading) {
+        return heading.heading.anchor == link.anchor;
+      });
       if (to == headings.end()) throw std::runtime_error("a link leads nowhere: #" + link.anchor);
       AddLink(document, pages, link, *to);
     }

@@ -1,5 +1,6 @@
 #include "elements/setup.h"
 
+#include <cstddef>
 #include <set>
 #include <string>
 
@@ -17,11 +18,11 @@ TEST(Setup, IsAValue) {
 }
 
 TEST(SingleFields, HaveOnePlaceAndOneNameEach) {
-  Setup setup;
+  elements::Setup setup;
   std::set<std::string> names;
   std::set<const void*> places;
   FieldSet fields;
-  int count = 0;
+  std::size_t count = 0;
   VisitSingleFields(
       [&](Field field, const char* name, const auto& value) {
         EXPECT_FALSE(fields.Has(field)) << name;
@@ -36,8 +37,8 @@ TEST(SingleFields, HaveOnePlaceAndOneNameEach) {
 }
 
 TEST(SingleFields, AreOfTheSameFieldInEachSetup) {
-  const Setup before;
-  Setup after;
+  const elements::Setup before;
+  elements::Setup after;
   after.width_text = "5";
   after.multilayer.framed = true;
   after.base.thickness_mm = 120.0;

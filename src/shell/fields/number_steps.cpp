@@ -23,10 +23,12 @@ class Steps : public QObject {
   explicit Steps(NumberField* field) : QObject(field), field_(field) { field->installEventFilter(this); }
 
   bool eventFilter(QObject* watched, QEvent* event) override {
+    // Others come too while the field is being destroyed, and is none any longer.
+    const bool key = event->type() == QEvent::KeyPress;
+    if (!key && event->type() != QEvent::Wheel) return QObject::eventFilter(watched, event);
     if (field_->isReadOnly() || !field_->isEnabled()) return false;
-    if (event->type() == QEvent::KeyPress) return TakeKey(static_cast<const QKeyEvent&>(*event));
-    if (event->type() == QEvent::Wheel) return TakeWheel(static_cast<QWheelEvent&>(*event));
-    return QObject::eventFilter(watched, event);
+    return key ? TakeKey(static_cast<const QKeyEvent&>(*event))
+               : TakeWheel(static_cast<QWheelEvent&>(*event));
   }
 
  private:

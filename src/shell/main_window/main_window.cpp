@@ -140,6 +140,13 @@ MainWindow::MainWindow(const WindowServices& services, QWidget* parent)
   ShowAll();
 }
 
+// A field that has the keys is left while the pages are still there to be told: when it is destroyed, what
+// they work on is gone already.
+MainWindow::~MainWindow() {
+  if (QWidget* field = focusWidget()) field->clearFocus();
+  disconnect(qApp, nullptr, this, nullptr);
+}
+
 void MainWindow::MakeCentre() {
   auto* inputs = new QWidget;
   inputs->setMinimumWidth(kNarrowestInputs);

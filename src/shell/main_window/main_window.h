@@ -39,6 +39,7 @@ class MainWindow : public QMainWindow {
  public:
   /// @param services outlives the window
   explicit MainWindow(const WindowServices& services, QWidget* parent = nullptr);
+  ~MainWindow() override;
 
  public slots:
   /// Opens the project file `project` as if it were dropped on the window.

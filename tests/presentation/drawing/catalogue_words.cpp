@@ -4,7 +4,6 @@
 #include <fstream>
 #include <iterator>
 #include <map>
-#include <memory>
 #include <stdexcept>
 #include <string>
 #include <vector>
@@ -26,12 +25,15 @@ void Read(const std::string& path, std::map<int, std::string>& texts) {
 }  // namespace
 
 Words CatalogueWords() {
-  const auto texts = std::make_shared<std::map<int, std::string>>();
-  Read(VELMAR_MESSAGES "/catalogue.csv", *texts);
-  Read(VELMAR_MESSAGES "/texts.csv", *texts);
-  return [texts](MessageRow row) {
-    const auto found = texts->find(row.number);
-    return found == texts->end() ? std::string() : found->second;
+  static const std::map<int, std::string> texts = [] {
+    std::map<int, std::string> read;
+    Read(VELMAR_MESSAGES "/catalogue.csv", read);
+    Read(VELMAR_MESSAGES "/texts.csv", read);
+    return read;
+  }();
+  return [](MessageRow row) {
+    const auto found = texts.find(row.number);
+    return found == texts.end() ? std::string() : found->second;
   };
 }
 
