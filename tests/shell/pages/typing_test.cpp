@@ -47,6 +47,13 @@ class TypingTest : public QObject {
     QVERIFY(FieldNote::TextAt(Field("Text5_0")).contains("superare 0"));
   }
 
+  void aFieldThatIsLeftByClosingIsLeftInOrder() {
+    fixture_->Choose("TIPO_PARETE_SINGOLA_0");
+    fixture_->Type("Text5_0", "0");
+    fixture_->window.reset();
+    QCOMPARE(Setup().leaf1.rows[0].thickness_text, std::string("10"));
+  }
+
   void aBaseMassKeepsItsComma() {
     fixture_->Choose("mnuCalcoloControplaccaggiScelta_0");
     fixture_->Type("TextMassaBase", "192,5");
