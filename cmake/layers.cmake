@@ -61,34 +61,12 @@ function(add_layer name)
                              "set(${name}_uses ${LAYER_USES})\nset(${name}_libraries ${LAYER_LIBRARIES})\n")
 endfunction()
 
-# Long under the sanitizers, where others call the same layers: they run optimised, also when the tests of their
-# room do not.
-set(OPTIMISED_PROGRAMS cli_drawn_test presentation_paper_test validation_test every_calculation_test
-    material_commands_test new_element_test project_files_test recovery_test report_commands_test
-    structure_commands_test window_rules_test)
-
-# choose_test(program result): whether a test program is built and run. TESTS_ARE_RUN says it of a room.
-function(choose_test program result)
-  set(chosen ${TESTS_ARE_RUN})
-  if(program IN_LIST OPTIMISED_PROGRAMS)
-    if(VELMAR_SANITIZE)
-      set(chosen OFF)
-      set_target_properties(${program} PROPERTIES EXCLUDE_FROM_ALL ON)
-    else()
-      set(chosen ON)
-      add_dependencies(optimised_tests ${program})
-    endif()
-  endif()
-  set(${result} ${chosen} PARENT_SCOPE)
-endfunction()
-
 # add_program_tests(program label [ENVIRONMENT ...]): the tests of a GoogleTest program, each known to CTest by its
 # name. Under the sanitizers a program starts slowly and stands for all its tests at once; so does one whose tests
 # share what takes longer to make than to test.
 set(WHOLE_PROGRAMS presentation_reports_test validation_test)
 function(add_program_tests program label)
-  choose_test(${program} chosen)
-  if(NOT chosen)
+  if(NOT TESTS_ARE_RUN)
     return()
   endif()
   if(VELMAR_SANITIZE OR program IN_LIST WHOLE_PROGRAMS)
