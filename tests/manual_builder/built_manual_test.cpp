@@ -7,13 +7,11 @@
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-#include <qpdf/QPDF.hh>
-#include <qpdf/QPDFObjectHandle.hh>
-#include <qpdf/QPDFOutlineDocumentHelper.hh>
 
 #include "presentation/manual/manual_headings.h"
 #include "storage/materials/material_store.h"
 #include "tests/cli/spoken_command.h"
+#include "tests/manual_builder/built_pdf.h"
 
 namespace velmar::manual {
 namespace {
@@ -95,36 +93,28 @@ TEST(Chapters, TypeNoRatingByHand) {
   for (const auto& entry : fs::directory_iterator(CHAPTERS)) {
     const std::string name = entry.path().filename().string();
     if (name < "05" || name >= "15" || entry.path().extension() != ".md") continue;
-    EXPECT_TRUE(AllMatches(TextOf(entry.path()), R"((\b(?:Rw|Ln,w) = [0-9]+\b(?! (?:\+|−))))").empty()) << name;
+    EXPECT_TRUE(AllMatches(TextOf(entry.path()), R"((\b(?:Rw|Ln,w) = [0-9]+\b(?! (?:\+|−))))").empty())
+        << name;
   }
 }
 
-void CollectTitles(QPDFOutlineObjectHelper& bookmark, std::vector<std::string>& titles) {
-  titles.push_back(bookmark.getTitle());
-  EXPECT_FALSE(bookmark.getDestPage().isNull()) << titles.back();
-  for (QPDFOutlineObjectHelper& below : bookmark.getKids()) CollectTitles(below, titles);
-}
+BuiltPdf ManualPdf() { return ReadPdf((fs::path(MANUAL) / "VELMARpro - Manuale d'uso.pdf").string()); }
 
 TEST(ManualPdf, HasABookmarkForEveryHeading) {
-  QPDF document;
-  document.processFile((fs::path(MANUAL) / "VELMARpro - Manuale d'uso.pdf").string().c_str());
-  std::vector<std::string> titles;
-  for (QPDFOutlineObjectHelper& bookmark : QPDFOutlineDocumentHelper(document).getTopLevelOutlines())
-    CollectTitles(bookmark, titles);
+  const BuiltPdf pdf = ManualPdf();
   std::vector<std::string> headings;
   for (const presentation::ManualHeading& heading : presentation::HeadingsIn(ManualText())) {
     if (heading.level > 1) headings.push_back(heading.title);
   }
   headings.emplace_back("Indice analitico");
-  EXPECT_EQ(titles, headings);
+  EXPECT_EQ(pdf.bookmarks, headings);
+  EXPECT_THAT(pdf.bookmarks_without_a_page, testing::IsEmpty());
 }
 
 TEST(ManualPdf, HasLinksInItsContents) {
-  QPDF document;
-  document.processFile((fs::path(MANUAL) / "VELMARpro - Manuale d'uso.pdf").string().c_str());
-  const std::vector<QPDFObjectHandle>& pages = document.getAllPages();
-  ASSERT_GT(pages.size(), 20U);
-  EXPECT_GT(QPDFObjectHandle(pages[1]).getKey("/Annots").getArrayNItems(), 20);
+  const BuiltPdf pdf = ManualPdf();
+  EXPECT_GT(pdf.page_count, 20U);
+  EXPECT_GT(pdf.links_on_second_page, 20);
 }
 
 }  // namespace
