@@ -5,6 +5,7 @@
 #include <limits>
 #include <numbers>
 
+#include "foundation/lane_functions.h"
 #include "foundation/wide_vectors.h"
 #include "models/layered/air.h"
 

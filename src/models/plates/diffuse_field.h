@@ -8,9 +8,11 @@
 namespace velmar::models {
 
 inline constexpr std::size_t kMostPlates = 3;
+/// So many frequencies run side by side; a multiple of it wastes none.
+inline constexpr std::size_t kFrequencyLanes = 8;
 
 /// The transmission coefficient in a diffuse field at each of `frequencies_hz`, into `taus` of the same
-/// length: the hot loop of every airborne model. It works on groups of eight frequencies side by side with
+/// length: the hot loop of every airborne model. It works on groups of frequencies side by side with
 /// additions, products and quotients alone, so that every machine gives the same bits however wide its
 /// vectors are.
 ///

@@ -16,13 +16,11 @@ using acoustics::kAirImpedance;
 using acoustics::kSpeedOfSound;
 using acoustics::kTwoPi;
 
-/// Hyperbolic tangent out of exponentials. Too large an argument gives no number, so that an absurd layer
-/// ends the run instead of passing for a blocked one.
-double Tanh(double x) {
-  const double rising = std::exp(x);
-  const double falling = std::exp(-x);
-  return (rising - falling) / (rising + falling);
-}
+struct LibraryFunctions {
+  static double Log(double x) { return std::log(x); }
+  static double Exp(double x) { return std::exp(x); }
+  static double Tan(double x) { return std::tan(x); }
+};
 
 /// B (k sin theta)^4 / omega, the stiffness part of a plate's impedance.
 double StiffnessTerm(double frequency_hz, double theta, const Plate& plate) {
@@ -60,20 +58,8 @@ PorousMedium FindPorousMedium(double frequency_hz, const Cavity& cavity) {
                             "the flow resistivity is " + std::to_string(cavity.flow_resistivity_pa_s_m2));
   }
   const double x = kAirDensity / cavity.flow_resistivity_pa_s_m2 * frequency_hz;
-  const double log_x = std::log(x);
   const double phase = kTwoPi * frequency_hz * cavity.porous_thickness_m / kSpeedOfSound;
-  // The attenuation has no addition of 1, unlike the phase.
-  const double tan_a = std::tan(phase * (1.0 + 0.0978 * std::exp(-0.7 * log_x)));
-  const double tanh_b = Tanh(-phase * (0.189 * std::exp(-0.595 * log_x)));
-  // tan(a + jb) = (tan a + j tanh b) / (1 - j tan a tanh b)
-  const double product = tan_a * tanh_b;
-  const double divisor = 1.0 + product * product;
-  PorousMedium medium;
-  medium.impedance_real = 1.0 + 0.0571 * std::exp(-0.754 * log_x);
-  medium.impedance_imag = -0.087 * std::exp(-0.732 * log_x);
-  medium.tangent_real = tan_a * (1.0 - tanh_b * tanh_b) / divisor;
-  medium.tangent_imag = tanh_b * (1.0 + tan_a * tan_a) / divisor;
-  return medium;
+  return PorousMediumOf<LibraryFunctions>(x, phase);
 }
 
 double CavityImag(double frequency_hz, double theta, const Cavity& cavity) {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "models/plates/porous_medium.h"
+
 namespace velmar::models {
 
 /// A thin infinite plate.
@@ -24,14 +26,6 @@ double AirImpedance(double theta);
 double PlateImag(double frequency_hz, double theta, const Plate& plate);
 /// Real part of the same impedance: the losses. It vanishes at normal incidence.
 double PlateReal(double frequency_hz, double theta, const Plate& plate);
-
-/// A porous medium seen through its flow resistivity, after Delany and Bazley.
-struct PorousMedium {
-  double impedance_real = 0.0;  ///< characteristic impedance over that of air
-  double impedance_imag = 0.0;
-  double tangent_real = 0.0;  ///< tan(a + jb) of the complex phase through the layer
-  double tangent_imag = 0.0;
-};
 
 /// The porous layer of `cavity` at `frequency_hz`.
 /// @throws ArithmeticFailure when the flow resistivity is not positive

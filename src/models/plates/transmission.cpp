@@ -1,5 +1,6 @@
 #include "models/plates/transmission.h"
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <cstddef>
@@ -14,14 +15,17 @@ namespace {
 
 constexpr std::size_t kBandSteps = 20;
 constexpr std::size_t kBandPoints = kBandSteps + 1;
+/// With the last one repeated until the lanes of the integration are full.
+constexpr std::size_t kFilledPoints = (kBandPoints + kFrequencyLanes - 1) / kFrequencyLanes * kFrequencyLanes;
 
 /// The frequencies of a band relative to its centre: from a sixth of an octave below to a sixth above.
-std::array<double, kBandPoints> BandRatios() {
-  std::array<double, kBandPoints> ratios{};
+std::array<double, kFilledPoints> BandRatios() {
+  std::array<double, kFilledPoints> ratios{};
   const double lowest = 1.0 / std::pow(2.0, 1.0 / 6.0);
   const double width = std::pow(2.0, 1.0 / 3.0) - 1.0;
-  for (std::size_t j = 0; j < kBandPoints; ++j) {
-    ratios[j] = lowest * (1.0 + width * static_cast<double>(j) / static_cast<double>(kBandSteps));
+  for (std::size_t j = 0; j < kFilledPoints; ++j) {
+    const auto step = static_cast<double>(std::min(j, kBandSteps));
+    ratios[j] = lowest * (1.0 + width * step / static_cast<double>(kBandSteps));
   }
   return ratios;
 }
@@ -32,10 +36,16 @@ double ReductionIndex(double tau) {
 
 /// The mean in decibels by the trapezoidal rule. The logarithm of the product stands for the sum of the
 /// logarithms as long as the product keeps its full precision.
-double BandMean(const std::array<double, kBandPoints>& taus) {
-  double product = std::sqrt(taus[0] * taus[kBandSteps]);
-  for (std::size_t j = 1; j < kBandSteps; ++j) product *= taus[j];
-  if (product > 1e-250 && product < 1e250) return ReductionIndex(product) / kBandSteps;
+double BandMean(const std::array<double, kFilledPoints>& taus) {
+  // Two products side by side: each waits only for its own.
+  double odd = std::sqrt(taus[0] * taus[kBandSteps]) * taus[1];
+  double even = 1.0;
+  for (std::size_t j = 2; j < kBandSteps; j += 2) {
+    even *= taus[j];
+    odd *= taus[j + 1];
+  }
+  const auto is_precise = [](double product) { return product > 1e-125 && product < 1e125; };
+  if (is_precise(even) && is_precise(odd)) return ReductionIndex(even * odd) / kBandSteps;
 
   double sum = 0.5 * (ReductionIndex(taus[0]) + ReductionIndex(taus[kBandSteps]));
   for (std::size_t j = 1; j < kBandSteps; ++j) sum += ReductionIndex(taus[j]);
@@ -71,10 +81,10 @@ double PointR(double frequency_hz, std::span<const Plate> plates, const Cavity& 
 }
 
 double BandR(double frequency_hz, std::span<const Plate> plates, const Cavity& cavity) {
-  static const std::array<double, kBandPoints> kRatios = BandRatios();
-  std::array<double, kBandPoints> frequencies{};
-  std::array<double, kBandPoints> taus{};
-  for (std::size_t j = 0; j < kBandPoints; ++j) frequencies[j] = frequency_hz * kRatios[j];
+  static const std::array<double, kFilledPoints> kRatios = BandRatios();
+  std::array<double, kFilledPoints> frequencies;
+  std::array<double, kFilledPoints> taus;
+  for (std::size_t j = 0; j < kFilledPoints; ++j) frequencies[j] = frequency_hz * kRatios[j];
   DiffuseTau(frequencies, plates, cavity, taus);
   return BandMean(taus);
 }

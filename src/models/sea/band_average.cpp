@@ -26,22 +26,42 @@ double MassLaw(double mass_kg_m2, std::size_t hz) {
   return 20.0 * acoustics::Log10(mass_kg_m2 * static_cast<double>(hz)) - 48.0;
 }
 
+constexpr std::size_t kGroup = 4;
+
+/// Whether the product of the kGroup ratios from `first` on is far from the ends of the number range.
+bool IsModerate(const HzSpectrum& power_ratio, std::size_t first) {
+  constexpr double kModerate = 1e37;
+  bool is_moderate = true;
+  for (std::size_t i = first; i < first + kGroup; ++i)
+    is_moderate &= power_ratio[i] < kModerate && power_ratio[i] > 1.0 / kModerate;
+  return is_moderate;
+}
+
 /// Natural logarithm of the product of `power_ratio` from `first` to before `end`.
 double LogOfProduct(const HzSpectrum& power_ratio, std::size_t first, std::size_t end) {
   constexpr double kLarge = 1e150;
   double sum = 0.0;
   double product = 1.0;
-  for (std::size_t f = first; f < end; ++f) {
-    const double ratio = power_ratio[f];
-    if (!(ratio > 0.0) || !std::isfinite(ratio)) throw ArithmeticFailure("a level has no logarithm");
-    if (ratio > kLarge || ratio < 1.0 / kLarge) {
-      sum += std::log(ratio);
-      continue;
-    }
-    product *= ratio;
+  const auto take = [&sum, &product](double factor) {
+    product *= factor;
     if (product > kLarge || product < 1.0 / kLarge) {
       sum += std::log(product);
       product = 1.0;
+    }
+  };
+  std::size_t f = first;
+  while (f < end) {
+    if (f + kGroup <= end && IsModerate(power_ratio, f)) {
+      take((power_ratio[f] * power_ratio[f + 1]) * (power_ratio[f + 2] * power_ratio[f + 3]));
+      f += kGroup;
+      continue;
+    }
+    const double ratio = power_ratio[f++];
+    if (!(ratio > 0.0) || !std::isfinite(ratio)) throw ArithmeticFailure("a level has no logarithm");
+    if (ratio > kLarge || ratio < 1.0 / kLarge) {
+      sum += std::log(ratio);
+    } else {
+      take(ratio);
     }
   }
   return sum + std::log(product);

@@ -5,6 +5,7 @@
 #include "acoustics/constants.h"
 #include "foundation/failure.h"
 #include "foundation/message_rows.h"
+#include "foundation/wide_vectors.h"
 
 namespace velmar::models {
 namespace {
@@ -23,6 +24,7 @@ void RequireBalance(double resonant, double forced) {
 
 }  // namespace
 
+VELMAR_WIDE_VECTORS
 HzSpectrum SeaPointBridgeCoupling(const SeaPointBridge& bridge, const HzSpectrum& radiation_efficiency) {
   HzSpectrum coupling{};
   if (bridge.count == 0) return coupling;
@@ -40,6 +42,7 @@ HzSpectrum SeaPointBridgeCoupling(const SeaPointBridge& bridge, const HzSpectrum
   return coupling;
 }
 
+VELMAR_WIDE_VECTORS
 void SeaLineBridgeCoupling(const SeaLineBridge& bridge, const HzSpectrum& radiation_efficiency,
                            HzSpectrum& coupling) {
   if (bridge.count == 0.0) return;
@@ -56,6 +59,7 @@ void SeaLineBridgeCoupling(const SeaLineBridge& bridge, const HzSpectrum& radiat
   }
 }
 
+VELMAR_WIDE_VECTORS
 void AddBridge(const HzSpectrum& coupling, HzSpectrum& power_ratio) {
   for (std::size_t f = 1; f <= kHighestHz; ++f) {
     const double ratio = power_ratio[f] / (1.0 + power_ratio[f] * coupling[f]);

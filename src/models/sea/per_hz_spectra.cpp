@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "foundation/wide_vectors.h"
+
 namespace velmar::models {
 namespace {
 
@@ -12,12 +14,14 @@ constexpr std::array<int, kAbsorptionBandCount> kAbsorptionFrequencies = {
 struct Line {
   double slope = 0.0;
   double intercept = 0.0;
-  std::size_t first_hz = 0;
-  std::size_t last_hz = 0;
+  int first_hz = 0;
+  int last_hz = 0;
 };
 
-void Draw(const Line& line, HzSpectrum& per_hz) {
-  for (std::size_t f = line.first_hz; f <= std::min(line.last_hz, kHighestHz); ++f) {
+VELMAR_WIDE_VECTORS void Draw(const Line& line, HzSpectrum& per_hz) {
+  const int last = std::min(line.last_hz, kLastHz);
+#pragma omp simd
+  for (int f = line.first_hz; f <= last; ++f) {
     per_hz[f] = line.slope * static_cast<double>(f) + line.intercept;
   }
 }
@@ -26,8 +30,8 @@ Line Between(double x0, double y0, double x1, double y1) {
   const double slope = (y1 - y0) / (x1 - x0);
   return {.slope = slope,
           .intercept = y0 - x0 * slope,
-          .first_hz = static_cast<std::size_t>(x0),
-          .last_hz = static_cast<std::size_t>(x1)};
+          .first_hz = static_cast<int>(x0),
+          .last_hz = static_cast<int>(x1)};
 }
 
 }  // namespace

@@ -5,6 +5,7 @@
 #include <optional>
 
 #include "acoustics/constants.h"
+#include "foundation/lane_functions.h"
 #include "foundation/rounding.h"
 #include "foundation/wide_vectors.h"
 
@@ -73,87 +74,99 @@ bool HasPoleOnGrid(double critical_frequency_hz) {
 /// Edge and corner radiation at 1 Hz to `last_hz`, all of them below coincidence. A negative efficiency
 /// counts as 1.
 VELMAR_WIDE_VECTORS
-void FillEdgeModes(const RadiationFormula& formula, std::size_t last_hz, HzSpectrum& efficiency) {
+void FillEdgeModes(const RadiationFormula& formula, int last_hz, HzSpectrum& efficiency) {
   const HzSpectrum& roots = RootsOfHz();
   const double per_hz = 1.0 / formula.critical_frequency_hz;
   const double per_root = 1.0 / std::sqrt(formula.critical_frequency_hz);
-  for (std::size_t f = 1; f <= last_hz; ++f) {
-    const double wave_ratio = roots[f] * per_root;
-    efficiency[f] = (1.0 + wave_ratio) / (1.0 - wave_ratio);
-  }
-  for (std::size_t f = 1; f <= last_hz; ++f) efficiency[f] = std::log(efficiency[f]);
-  for (int f = 1; f <= static_cast<int>(last_hz); ++f) {
+#pragma omp simd
+  for (int f = 1; f <= last_hz; ++f) {
     const double ratio = static_cast<double>(f) * per_hz;
     const double wave_ratio = roots[f] * per_root;
     const double distance = 1.0 - ratio;
-    const double edge = formula.edge * (efficiency[f] * distance + 2.0 * wave_ratio) * wave_ratio;
+    const double log = LaneLog((1.0 + wave_ratio) / (1.0 - wave_ratio));
+    const double edge = formula.edge * (log * distance + 2.0 * wave_ratio) * wave_ratio;
     const double corner = formula.corner * (1.0 - 2.0 * ratio) * distance;
     const double sum = (edge + corner) / (wave_ratio * distance * std::sqrt(distance));
     efficiency[f] = sum < 0.0 ? 1.0 : sum;
   }
 }
 
-double Supersonic(const RadiationFormula& formula, std::size_t hz) {
+double Supersonic(const RadiationFormula& formula, int hz) {
   return 1.0 / std::sqrt(std::abs(1.0 - formula.critical_frequency_hz / static_cast<double>(hz)));
 }
+
+/// So near, as a share, that the rounding of the levels could decide which is above.
+constexpr double kClose = 1e-12;
 
 /// Whether the level of `left` is not above that of `right`. The levels are only formed where their rounding
 /// could decide.
 bool IsLevelNotAbove(double left, double right) {
-  constexpr double kClose = 1e-12;
   if (std::abs(left - right) > kClose * right) return left < right;
   static const double kLn10 = std::log(10.0);
   return 10.0 * (std::log(left) / kLn10) <= 10.0 * (std::log(right) / kLn10);
 }
 
+/// Takes `candidate` from `first_hz` to `last_hz` wherever its level is not above that of `limit`, nothing
+/// elsewhere; both are functions of the frequency.
+/// @return the last frequency at which it was taken, 0 when at none
+template <typename Candidate, typename Limit>
+VELMAR_LANE_FUNCTION int TakeUpTo(int first_hz, int last_hz, const Candidate& candidate, const Limit& limit,
+                                  HzSpectrum& efficiency) {
+  int last = 0;
+  int close = 0;
+#pragma omp simd reduction(max : last) reduction(| : close)
+  for (int f = first_hz; f <= last_hz; ++f) {
+    const double value = candidate(f);
+    const double highest = limit(f);
+    const bool is_taken = value < highest;
+    close |= std::abs(value - highest) <= kClose * highest ? 1 : 0;
+    efficiency[f] = is_taken ? value : 0.0;
+    last = is_taken ? f : last;
+  }
+  if (close == 0) return last;
+  last = 0;
+  for (int f = first_hz; f <= last_hz; ++f) {
+    const bool is_taken = limit(f) > 0.0 && IsLevelNotAbove(candidate(f), limit(f));
+    efficiency[f] = is_taken ? candidate(f) : 0.0;
+    if (is_taken) last = f;
+  }
+  return last;
+}
+
 /// The last frequency below coincidence, 0 to 6000 Hz.
-std::size_t LastBelow(double frequency_hz) {
-  if (frequency_hz > static_cast<double>(kHighestHz)) return kHighestHz;
-  return static_cast<std::size_t>(std::max(0.0, std::ceil(frequency_hz) - 1.0));
+int LastBelow(double frequency_hz) {
+  if (frequency_hz > static_cast<double>(kLastHz)) return kLastHz;
+  return static_cast<int>(std::max(0.0, std::ceil(frequency_hz) - 1.0));
 }
 
-std::size_t TakeLow(const RadiationFormula& formula, const HzSpectrum& edge_modes, HzSpectrum& efficiency) {
-  std::size_t last = 0;
-  const std::size_t end = LastBelow(formula.critical_frequency_hz / 2.0);
-  for (std::size_t f = 1; f <= end; ++f) {
-    const double low = formula.low * Square(static_cast<double>(f));
-    if (edge_modes[f] > 0.0 && IsLevelNotAbove(low, edge_modes[f])) {
-      efficiency[f] = low;
-      last = f;
-    }
-  }
-  return last;
+VELMAR_WIDE_VECTORS
+int TakeLow(const RadiationFormula& formula, const HzSpectrum& edge_modes, HzSpectrum& efficiency) {
+  const auto low = [&formula](int f) { return formula.low * Square(static_cast<double>(f)); };
+  const auto edge = [&edge_modes](int f) { return edge_modes[f]; };
+  return TakeUpTo(1, LastBelow(formula.critical_frequency_hz / 2.0), low, edge, efficiency);
 }
 
-std::size_t TakeEdgeModes(const RadiationFormula& formula, std::size_t after_hz, std::size_t below_hz,
-                          const HzSpectrum& edge_modes, HzSpectrum& efficiency) {
-  if (after_hz == kHighestHz) return kHighestHz;
-  std::size_t last = 0;
-  for (std::size_t f = after_hz + 1; f <= below_hz; ++f) {
-    const double edge = edge_modes[f] > 0.0 ? edge_modes[f] : 1.0;
-    if (IsLevelNotAbove(edge, formula.plateau)) {
-      efficiency[f] = edge;
-      last = f;
-    }
-  }
-  return last;
+VELMAR_WIDE_VECTORS
+int TakeEdgeModes(const RadiationFormula& formula, int after_hz, int below_hz, const HzSpectrum& edge_modes,
+                  HzSpectrum& efficiency) {
+  if (after_hz == kLastHz) return kLastHz;
+  const auto edge = [&edge_modes](int f) { return edge_modes[f] > 0.0 ? edge_modes[f] : 1.0; };
+  const auto plateau = [&formula](int) { return formula.plateau; };
+  return TakeUpTo(after_hz + 1, below_hz, edge, plateau, efficiency);
 }
 
-std::size_t TakePlateau(const RadiationFormula& formula, std::size_t after_hz, std::size_t below_hz,
-                        HzSpectrum& efficiency) {
-  if (after_hz == kHighestHz) return kHighestHz;
+int TakePlateau(const RadiationFormula& formula, int after_hz, int below_hz, HzSpectrum& efficiency) {
+  if (after_hz == kLastHz) return kLastHz;
   if (below_hz <= after_hz) return 0;
-  std::fill(efficiency.begin() + static_cast<std::ptrdiff_t>(after_hz) + 1,
-            efficiency.begin() + static_cast<std::ptrdiff_t>(below_hz) + 1, formula.plateau);
+  std::fill(efficiency.begin() + after_hz + 1, efficiency.begin() + below_hz + 1, formula.plateau);
   return below_hz;
 }
 
 /// The plateau as far as supersonic radiation exceeds it, supersonic radiation beyond.
-void TakeSupersonic(const RadiationFormula& formula, std::size_t after_hz, std::size_t below_hz,
-                    HzSpectrum& efficiency) {
-  if (after_hz == kHighestHz) return;
-  std::size_t last = 0;
-  for (std::size_t f = after_hz + 1; f <= kHighestHz; ++f) {
+void TakeSupersonic(const RadiationFormula& formula, int after_hz, int below_hz, HzSpectrum& efficiency) {
+  if (after_hz == kLastHz) return;
+  int last = 0;
+  for (int f = after_hz + 1; f <= kLastHz; ++f) {
     if (IsLevelNotAbove(formula.plateau, Supersonic(formula, f))) {
       efficiency[f] = formula.plateau;
       last = f;
@@ -161,10 +174,15 @@ void TakeSupersonic(const RadiationFormula& formula, std::size_t after_hz, std::
       break;  // above coincidence the radiation only falls
     }
   }
-  const std::size_t coincidence = std::max(last, below_hz) + 1;
-  for (std::size_t f = last + 1; f < coincidence; ++f) efficiency[f] = Supersonic(formula, f);
+  const int coincidence = std::max(last, below_hz) + 1;
+  for (int f = last + 1; f < coincidence; ++f) efficiency[f] = Supersonic(formula, f);
   // Above coincidence it never falls below 1, which no cap lets through: any such number will do.
-  for (std::size_t f = coincidence; f <= kHighestHz; ++f) efficiency[f] = 1.0;
+  for (int f = coincidence; f <= kLastHz; ++f) efficiency[f] = 1.0;
+}
+
+VELMAR_WIDE_VECTORS void LimitTo(double cap, HzSpectrum& efficiency) {
+#pragma omp simd
+  for (int f = 1; f <= kLastHz; ++f) efficiency[f] = efficiency[f] < cap ? efficiency[f] : cap;
 }
 
 }  // namespace
@@ -194,14 +212,14 @@ SeaPlate SeaPlateRadiation(const SeaPlateInput& input) {
 
   HzSpectrum scratch;
   HzSpectrum& efficiency = plate.radiation_efficiency;
-  const std::size_t below_hz = LastBelow(critical_hz);
+  const int below_hz = LastBelow(critical_hz);
   FillEdgeModes(formula, below_hz, scratch);
-  const std::size_t low_end = TakeLow(formula, scratch, efficiency);
-  const std::size_t edge_end = TakeEdgeModes(formula, low_end, below_hz, scratch, efficiency);
-  const std::size_t plateau_end = TakePlateau(formula, edge_end, below_hz, efficiency);
+  const int low_end = TakeLow(formula, scratch, efficiency);
+  const int edge_end = TakeEdgeModes(formula, low_end, below_hz, scratch, efficiency);
+  const int plateau_end = TakePlateau(formula, edge_end, below_hz, efficiency);
   TakeSupersonic(formula, plateau_end, below_hz, efficiency);
   const double cap = std::min(input.radiation_cap, kSingleWallRadiationCap);
-  for (std::size_t f = 1; f <= kHighestHz; ++f) efficiency[f] = std::min(efficiency[f], cap);
+  LimitTo(cap, efficiency);
   plate.critical_frequency_hz = critical_hz;
   plate.longitudinal_speed_m_s = speed;
   plate.surface_mass_kg_m2 = mass;

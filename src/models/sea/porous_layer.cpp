@@ -5,6 +5,7 @@
 #include "acoustics/constants.h"
 #include "foundation/failure.h"
 #include "foundation/message_rows.h"
+#include "foundation/wide_vectors.h"
 #include "models/sea/power_ratio.h"
 
 namespace velmar::models {
@@ -12,6 +13,30 @@ namespace {
 
 constexpr double kRestTransmission = 0.98;
 constexpr double kMinus5Point5Db = 0.28183829312644537;
+
+VELMAR_WIDE_VECTORS double Highest(const HzSpectrum& absorption) {
+  double highest = 0.0;
+#pragma omp simd reduction(max : highest)
+  for (std::size_t f = 1; f <= kHighestHz; ++f) highest = absorption[f] > highest ? absorption[f] : highest;
+  return highest;
+}
+
+/// A coefficient of 1 and more takes that of the frequency below.
+void LimitAbsorption(HzSpectrum& absorption) {
+  if (Highest(absorption) < 1.0) return;
+  for (std::size_t f = 1; f <= kHighestHz; ++f) {
+    if (absorption[f] >= 1.0) absorption[f] = absorption[f - 1];
+  }
+  if (absorption[0] >= 1.0 && absorption[1] >= 1.0) throw ArithmeticFailure("a fill absorbs everything");
+}
+
+VELMAR_WIDE_VECTORS void PassLayer(double per_hz, const HzSpectrum& absorption, HzSpectrum& power_ratio) {
+#pragma omp simd
+  for (int f = 1; f <= kLastHz; ++f) {
+    const double mass = per_hz * static_cast<double>(f);
+    power_ratio[f] *= 1.0 / ((1.0 - absorption[f]) * kRestTransmission) + mass * mass * kMinus5Point5Db;
+  }
+}
 
 }  // namespace
 
@@ -24,14 +49,8 @@ void MultiplyPorousLayer(const SeaPorousLayer& layer, HzSpectrum& absorption, Hz
   if (!(per_hz > 0.0) || !std::isfinite(per_hz)) {
     throw ArithmeticFailure(kNoFillMassRow, "a fill has no mass");
   }
-  for (std::size_t f = 1; f <= kHighestHz; ++f) {
-    if (absorption[f] >= 1.0) absorption[f] = absorption[f - 1];
-  }
-  if (absorption[0] >= 1.0 && absorption[1] >= 1.0) throw ArithmeticFailure("a fill absorbs everything");
-  for (int f = 1; f <= kLastHz; ++f) {
-    const double mass = per_hz * static_cast<double>(f);
-    power_ratio[f] *= 1.0 / ((1.0 - absorption[f]) * kRestTransmission) + mass * mass * kMinus5Point5Db;
-  }
+  LimitAbsorption(absorption);
+  PassLayer(per_hz, absorption, power_ratio);
 }
 
 HzSpectrum SeaPorousLayerAttenuation(const SeaPorousLayer& layer, const HzSpectrum& absorption) {

@@ -49,13 +49,5 @@ TEST(LayeredQuadrature, EndsOnAFunctionThatNeverSettles) {
   EXPECT_EQ(calls, 7 + 50 * 14);
 }
 
-TEST(LayeredQuadrature, LanesKnowExponentialSineAndCosine) {
-  for (double x = -700.0; x <= 0.0; x += 0.37) EXPECT_NEAR(LaneExp(x) / std::exp(x), 1.0, 1e-14) << x;
-  for (double x = 0.0; x < 2000.0; x += 0.0713) {
-    EXPECT_NEAR(LaneSineCosine(x).sine, std::sin(x), 1e-14) << x;
-    EXPECT_NEAR(LaneSineCosine(x).cosine, std::cos(x), 1e-14) << x;
-  }
-}
-
 }  // namespace
 }  // namespace velmar::models

@@ -1,5 +1,6 @@
 #include <array>
 #include <cmath>
+#include <optional>
 #include <random>
 
 #include <gtest/gtest.h>
@@ -86,6 +87,35 @@ TEST(PlainEquality, OfBandsOfAbsurdPlates) {
     const double f = dice.Decades(1, 1e5);
     ASSERT_NEAR(BandR(f, plate), PlainBandR(f, {&plate, 1}, {}), 1e-9) << "set-up " << n;
   }
+}
+
+/// The reduction index, or none where the arithmetic came to nothing.
+template <typename Formula>
+std::optional<double> IndexOf(const Formula& formula) {
+  try {
+    return formula();
+  } catch (const ArithmeticFailure&) {
+    return std::nullopt;
+  }
+}
+
+// Layers as deep as rooms and as dense as rock: arguments that the functions of the lanes are not made for.
+TEST(PlainEquality, OfBandsOverAbsurdCavities) {
+  Dice dice;
+  int numbers = 0;
+  for (int n = 0; n < 1000; ++n) {
+    const std::array<Plate, 2> plates{dice.RollPlate(), dice.RollPlate()};
+    const Cavity cavity{dice.Decades(1e-4, 200), dice.Decades(1e-4, 50), dice.Decades(1e-2, 1e8)};
+    const double f = dice.Decades(40, 5000);
+    const auto plain = IndexOf([&] { return PlainBandR(f, plates, cavity); });
+    const auto index = IndexOf([&] { return BandR(f, plates, cavity); });
+    ASSERT_EQ(index.has_value(), plain.has_value()) << "set-up " << n;
+    if (!plain) continue;
+    ++numbers;
+    ASSERT_NEAR(*index, *plain, 1e-8) << "set-up " << n;
+  }
+  EXPECT_GT(numbers, 500);
+  EXPECT_LT(numbers, 1000);
 }
 
 TEST(PlainEquality, OfPlateConstantsAndLossFactors) {

@@ -6,6 +6,7 @@
 #include "models/sea/leaf_transmission.h"
 #include "models/sea/plate_radiation.h"
 #include "tests/models/layered/sample_elements.h"
+#include "tests/models/sea/random_elements.h"
 
 namespace {
 
@@ -41,6 +42,12 @@ void PrintSeaLeaf(StackDice& dice) {
   Print("leaf", ratio);
 }
 
+/// Sides, fills, bridges and masses in the cavity.
+void PrintSeaWalls(RandomElements& random) {
+  Print("double wall", CalculateDoubleSeaWall(random.Double()).reduction_index_db);
+  Print("lining", CalculateLining(random.Lining()).reduction_index_db);
+}
+
 void PrintStack(const LayeredElement& element) {
   const LayeredOutcome outcome = PredictLayered(element);
   if (const auto* prediction = std::get_if<LayeredPrediction>(&outcome))
@@ -52,10 +59,12 @@ void PrintStack(const LayeredElement& element) {
 int main() {
   constexpr int kElements = 12;
   StackDice dice(7);
+  RandomElements random(7);
   for (int i = 0; i < kElements; ++i) {
     PrintDiffuseField(dice, 1);
     PrintDiffuseField(dice, 2);
     PrintSeaLeaf(dice);
+    PrintSeaWalls(random);
     PrintStack(dice.RollStack(dice.Whole(1, 4)));
   }
   PrintStack(BoardsOnSteelStuds());
