@@ -1,6 +1,5 @@
 // What this machine can do at most of the operation that a model waits for, measured beside the models.
 #include <array>
-#include <cmath>
 
 #include <benchmark/benchmark.h>
 
@@ -36,16 +35,6 @@ void MachineDivisions(benchmark::State& state) {
   state.SetItemsProcessed(state.iterations() * static_cast<std::int64_t>(kNumbers));
 }
 BENCHMARK(MachineDivisions);
-
-/// Logarithms of the library, one at a time.
-void MachineLogarithms(benchmark::State& state) {
-  const Numbers numbers = SomeNumbers();
-  for (auto _ : state) {
-    for (const double number : numbers) benchmark::DoNotOptimize(std::log(number));
-  }
-  state.SetItemsProcessed(state.iterations() * static_cast<std::int64_t>(kNumbers));
-}
-BENCHMARK(MachineLogarithms);
 
 }  // namespace
 }  // namespace velmar
