@@ -82,8 +82,8 @@ double PointR(double frequency_hz, std::span<const Plate> plates, const Cavity& 
 
 double BandR(double frequency_hz, std::span<const Plate> plates, const Cavity& cavity) {
   static const std::array<double, kFilledPoints> kRatios = BandRatios();
-  std::array<double, kFilledPoints> frequencies;
-  std::array<double, kFilledPoints> taus;
+  std::array<double, kFilledPoints> frequencies{};
+  std::array<double, kFilledPoints> taus{};
   for (std::size_t j = 0; j < kFilledPoints; ++j) frequencies[j] = frequency_hz * kRatios[j];
   DiffuseTau(frequencies, plates, cavity, taus);
   return BandMean(taus);
