@@ -21,6 +21,7 @@ using acoustics::kTwoPi;
 
 constexpr std::size_t kLanes = kFrequencyLanes;
 using Lanes = std::array<double, kLanes>;
+using Frequencies = std::span<const double, kLanes>;  ///< Hz
 
 constexpr std::size_t kAngleSteps = 20;
 constexpr double kLimitingAngle = 0.8;  ///< of a right angle
@@ -69,7 +70,7 @@ struct PlateLanes {
   Lanes losses{};
 };
 
-VELMAR_LANE_FUNCTION PlateLanes LanesOf(const double* frequencies_hz, const PlateSums& sums) {
+VELMAR_LANE_FUNCTION PlateLanes LanesOf(Frequencies frequencies_hz, const PlateSums& sums) {
   constexpr double kPerC = 1.0 / kSpeedOfSound;
   PlateLanes plates;
 #pragma omp simd
@@ -87,6 +88,15 @@ VELMAR_LANE_FUNCTION PlateLanes LanesOf(const double* frequencies_hz, const Plat
 struct MediumLanes {
   Lanes impedance_real{}, impedance_imag{}, tangent_real{}, tangent_imag{};
   Lanes cosine{}, sine{};  ///< of the phase through the air
+
+  VELMAR_LANE_FUNCTION void Set(std::size_t lane, PorousMedium medium, LaneTurn air) {
+    impedance_real[lane] = medium.impedance_real;
+    impedance_imag[lane] = medium.impedance_imag;
+    tangent_real[lane] = medium.tangent_real;
+    tangent_imag[lane] = medium.tangent_imag;
+    cosine[lane] = air.cosine;
+    sine[lane] = air.sine;
+  }
 };
 
 /// The functions of the porous layer side by side.
@@ -100,10 +110,10 @@ struct LaneFunctions {
 };
 
 /// The arguments that LaneFunctions takes whatever the layer makes of them.
-bool IsUsual(const double* frequencies_hz, const Cavity& cavity) {
+bool IsUsual(Frequencies frequencies_hz, const Cavity& cavity) {
   constexpr double kLargest = 1e6;
   constexpr double kLargestPhase = 1000.0;
-  const auto [lowest, highest] = std::minmax_element(frequencies_hz, frequencies_hz + kLanes);
+  const auto [lowest, highest] = std::minmax_element(frequencies_hz.begin(), frequencies_hz.end());
   const double resistance = cavity.flow_resistivity_pa_s_m2;
   const double thickness = cavity.porous_thickness_m;
   const double phase = kTwoPi / kSpeedOfSound * *highest;
@@ -114,7 +124,7 @@ bool IsUsual(const double* frequencies_hz, const Cavity& cavity) {
   return phase * thickness / smallest_x < kLargestPhase;
 }
 
-VELMAR_WIDE_VECTORS void FillMedium(const double* frequencies_hz, const Cavity& cavity, MediumLanes& lanes) {
+VELMAR_WIDE_VECTORS void FillMedium(Frequencies frequencies_hz, const Cavity& cavity, MediumLanes& lanes) {
   const double x_per_hz = kAirDensity / cavity.flow_resistivity_pa_s_m2;
   const double k_per_hz = kTwoPi / kSpeedOfSound;
   const double thickness = cavity.porous_thickness_m;
@@ -122,27 +132,15 @@ VELMAR_WIDE_VECTORS void FillMedium(const double* frequencies_hz, const Cavity& 
 #pragma omp simd
   for (std::size_t lane = 0; lane < kLanes; ++lane) {
     const double f = frequencies_hz[lane];
-    const PorousMedium medium = PorousMediumOf<LaneFunctions>(x_per_hz * f, k_per_hz * f * thickness);
-    const LaneTurn turn = LaneSineCosine(k_per_hz * f * depth);
-    lanes.impedance_real[lane] = medium.impedance_real;
-    lanes.impedance_imag[lane] = medium.impedance_imag;
-    lanes.tangent_real[lane] = medium.tangent_real;
-    lanes.tangent_imag[lane] = medium.tangent_imag;
-    lanes.cosine[lane] = turn.cosine;
-    lanes.sine[lane] = turn.sine;
+    lanes.Set(lane, PorousMediumOf<LaneFunctions>(x_per_hz * f, k_per_hz * f * thickness),
+              LaneSineCosine(k_per_hz * f * depth));
   }
 }
 
-void FillMediumOneByOne(const double* frequencies_hz, const Cavity& cavity, MediumLanes& lanes) {
+void FillMediumOneByOne(Frequencies frequencies_hz, const Cavity& cavity, MediumLanes& lanes) {
   for (std::size_t lane = 0; lane < kLanes; ++lane) {
-    const PorousMedium medium = FindPorousMedium(frequencies_hz[lane], cavity);
     const double kd = kTwoPi * frequencies_hz[lane] / kSpeedOfSound * cavity.depth_m;
-    lanes.impedance_real[lane] = medium.impedance_real;
-    lanes.impedance_imag[lane] = medium.impedance_imag;
-    lanes.tangent_real[lane] = medium.tangent_real;
-    lanes.tangent_imag[lane] = medium.tangent_imag;
-    lanes.cosine[lane] = std::cos(kd);
-    lanes.sine[lane] = std::sin(kd);
+    lanes.Set(lane, FindPorousMedium(frequencies_hz[lane], cavity), {std::sin(kd), std::cos(kd)});
   }
 }
 
@@ -177,7 +175,7 @@ VELMAR_LANE_FUNCTION CavityLanes LanesOf(const MediumLanes& medium) {
   return cavity;
 }
 
-VELMAR_WIDE_VECTORS Lanes OnePlateTau(const Angles& angles, const double* frequencies_hz,
+VELMAR_WIDE_VECTORS Lanes OnePlateTau(const Angles& angles, Frequencies frequencies_hz,
                                       const PlateSums& sums) {
   const PlateLanes plates = LanesOf(frequencies_hz, sums);
   Lanes tau{};
@@ -195,7 +193,7 @@ VELMAR_WIDE_VECTORS Lanes OnePlateTau(const Angles& angles, const double* freque
   return tau;
 }
 
-VELMAR_WIDE_VECTORS Lanes CavityTau(const Angles& angles, const double* frequencies_hz, const PlateSums& sums,
+VELMAR_WIDE_VECTORS Lanes CavityTau(const Angles& angles, Frequencies frequencies_hz, const PlateSums& sums,
                                     const MediumLanes& medium) {
   constexpr double kThreeAirImpedances = 3.0 * kAirImpedance;
   const PlateLanes plates = LanesOf(frequencies_hz, sums);
@@ -230,27 +228,24 @@ void DiffuseTau(std::span<const double> frequencies_hz, std::span<const Plate> p
   if (plates.empty() || plates.size() > kMostPlates) return;
 
   const PlateSums sums = SumPlates(plates);
-  const auto taus_of = [&](const double* frequencies) {
+  const auto taus_of = [&](Frequencies frequencies) {
     if (plates.size() == 1) return OnePlateTau(kAngles, frequencies, sums);
     MediumLanes medium;
     IsUsual(frequencies, cavity) ? FillMedium(frequencies, cavity, medium)
                                  : FillMediumOneByOne(frequencies, cavity, medium);
     return CavityTau(kAngles, frequencies, sums, medium);
   };
-  for (std::size_t first = 0; first < frequencies_hz.size(); first += kLanes) {
-    const double* const block = frequencies_hz.data() + first;
-    const std::size_t count = frequencies_hz.size() - first;
-    if (count >= kLanes) {
-      const Lanes lanes = taus_of(block);
-      std::copy(lanes.begin(), lanes.end(), taus.data() + first);
-      continue;
-    }
-    Lanes padded{};
-    padded.fill(block[0]);
-    std::copy_n(block, count, padded.begin());
-    const Lanes lanes = taus_of(padded.data());
-    std::copy_n(lanes.begin(), count, taus.data() + first);
-  }
+  std::size_t first = 0;
+  for (; first + kLanes <= frequencies_hz.size(); first += kLanes)
+    std::ranges::copy(taus_of(frequencies_hz.subspan(first).first<kLanes>()), taus.begin() + first);
+  if (first == frequencies_hz.size()) return;
+
+  const std::span<const double> rest = frequencies_hz.subspan(first);
+  Lanes padded{};
+  padded.fill(rest.front());
+  std::ranges::copy(rest, padded.begin());
+  const Lanes lanes = taus_of(padded);
+  std::copy_n(lanes.begin(), rest.size(), taus.begin() + first);
 }
 
 }  // namespace velmar::models

@@ -8,10 +8,11 @@
 #include <string_view>
 #include <vector>
 
+#include "presentation/texts/words.h"
+
 namespace velmar::presentation {
 namespace {
 
-constexpr const char* kNothing = "–";
 constexpr int kTableHalfPoints = 15;
 /// At the sides of a cell, in twentieths of a point: narrow, so that a unit stands in one line.
 constexpr int kLeftMargin = 80;
@@ -86,7 +87,7 @@ pugi::xml_node AppendRow(pugi::xml_node table, const std::vector<std::string>& c
     pugi::xml_node run = AppendParagraph(paragraph, head ? "RelazioneTestata" : "RelazioneBande", cells[i]);
     SetSize(run);
     if (look.keeps_with_next) paragraph.child("w:pPr").append_child("w:keepNext");
-    if (i < look.right.size() && look.right[i] && (head || IsNumber(cells[i]) || cells[i] == kNothing))
+    if (i < look.right.size() && look.right[i] && (head || IsNumber(cells[i]) || cells[i] == kNoValue))
       paragraph.child("w:pPr").append_child("w:jc").append_attribute("w:val") = "right";
   }
   return row;
@@ -109,7 +110,7 @@ std::vector<bool> NumberColumns(const DataTable& table) {
   std::vector<bool> numbers(table.heads.size(), true);
   for (const auto& row : table.rows) {
     for (std::size_t i = 0; i < numbers.size(); ++i)
-      numbers[i] = numbers[i] && (row[i].empty() || row[i] == kNothing || IsNumber(row[i]));
+      numbers[i] = numbers[i] && (row[i].empty() || row[i] == kNoValue || IsNumber(row[i]));
   }
   return numbers;
 }

@@ -6,6 +6,7 @@
 #include "presentation/documents/workbook.h"
 #include "presentation/reports/data_sheet.h"
 #include "presentation/reports/layer_table.h"
+#include "presentation/texts/words.h"
 
 namespace velmar::presentation {
 namespace {
@@ -48,7 +49,6 @@ constexpr CellPlace kSigner{62, 8};
 constexpr int kLastSignedRow = 68;
 constexpr const char* kOneDecimal = "0.0";
 constexpr const char* kWhole = "0";
-constexpr const char* kNothing = "–";
 
 void SetNumber(Workbook& workbook, CellPlace place, std::optional<double> value, const char* format) {
   if (!value) {
@@ -223,14 +223,14 @@ void FillExcelReport(Workbook& workbook, const ReportRecord& record) {
   if (record.totals) {
     SetNumber(workbook, kThickness, record.totals->thickness_mm, kOneDecimal);
   } else {
-    sheet.SetText(kThickness, kNothing);
+    sheet.SetText(kThickness, kNoValue);
   }
   WriteBands(workbook, record);
   if (!record.generic_note.empty()) sheet.SetText(kGenericNote, record.generic_note);
   WriteRatings(workbook, record);
   SetDimension(workbook, kWidthRow, record.width_caption, record.width);
   SetDimension(workbook, kHeightRow, record.height_caption, record.height);
-  SetEntered(workbook, kArea, record.area.empty() ? kNothing : record.area);
+  SetEntered(workbook, kArea, record.area.empty() ? kNoValue : record.area);
   WriteCurves(workbook, record);
   WriteInformation(workbook, record);
   WriteRemarks(workbook, record);

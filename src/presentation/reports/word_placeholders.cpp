@@ -4,17 +4,17 @@
 
 #include "foundation/decimal.h"
 #include "presentation/texts/result_lines.h"
+#include "presentation/texts/words.h"
 
 namespace velmar::presentation {
 namespace {
 
 // With fewer the masses of thin boards would not add up to the total.
 constexpr int kMassDecimals = 2;
-constexpr const char* kNothing = "–";
 constexpr const char* kUnit = " [dB]";
 
 /// A small element's area is entered as "-".
-std::string OrDash(const std::string& text) { return text.empty() || text == "-" ? kNothing : text; }
+std::string OrDash(const std::string& text) { return text.empty() || text == "-" ? kNoValue : text; }
 
 std::string Number(std::optional<double> value, int decimals) {
   return value ? FormatFixed(*value, decimals) : std::string();
@@ -36,7 +36,7 @@ std::string DimensionsText(const ReportRecord& record) {
   if (!record.width.empty() && !record.height.empty()) return record.width + " × " + record.height + " m";
   if (!record.width.empty()) return record.width_caption + " " + record.width;
   if (!record.height.empty()) return record.height_caption + " " + record.height;
-  return kNothing;
+  return kNoValue;
 }
 
 void AddBands(const ReportRecord& record, Placeholders& values) {

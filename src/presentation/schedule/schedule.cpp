@@ -14,17 +14,17 @@
 #include "presentation/texts/requirement_text.h"
 #include "presentation/texts/result_lines.h"
 #include "presentation/texts/result_notes.h"
+#include "presentation/texts/words.h"
 
 namespace velmar::presentation {
 namespace {
 
-constexpr const char* kNothing = "–";
 constexpr const char* kOutsideMark = " *";
 
-std::string OrDash(std::string text) { return text.empty() ? kNothing : text; }
+std::string OrDash(std::string text) { return text.empty() ? kNoValue : text; }
 
 std::string Shortest(std::optional<double> value, int decimals) {
-  return value ? FormatShortest(RoundToEven(*value, decimals)) : kNothing;
+  return value ? FormatShortest(RoundToEven(*value, decimals)) : kNoValue;
 }
 
 /// Rw at least, Ln,w at most; and how the result stands to it.
@@ -93,7 +93,7 @@ std::vector<double> ScheduleWeights() {
 
 std::vector<std::string> ScheduleCells(const ScheduleElement& element, DocumentLanguage language) {
   const auto rating = [&](std::optional<double> value) {
-    return value ? FormatLevel(value) + (element.outside_range ? kOutsideMark : "") : std::string(kNothing);
+    return value ? FormatLevel(value) + (element.outside_range ? kOutsideMark : "") : std::string(kNoValue);
   };
   std::string description = element.title;
   for (const std::string* further : {&element.description, &element.remark}) {
@@ -101,9 +101,9 @@ std::vector<std::string> ScheduleCells(const ScheduleElement& element, DocumentL
   }
   std::vector<std::string> cells = {element.code,
                                     description,
-                                    element.drawing ? std::string() : kNothing,
+                                    element.drawing ? std::string() : kNoValue,
                                     Shortest(element.thickness_mm, 1),
-                                    element.mass_kg_m2 ? FormatFixed(*element.mass_kg_m2, 1) : kNothing,
+                                    element.mass_kg_m2 ? FormatFixed(*element.mass_kg_m2, 1) : kNoValue,
                                     rating(element.rw_db),
                                     OrDash(FormatTerm(element.c_db)),
                                     OrDash(FormatTerm(element.ctr_db)),

@@ -11,7 +11,6 @@
 namespace velmar::presentation {
 namespace {
 
-constexpr const char* kNothing = "–";
 constexpr const char* kAirborneSymbol = "Rw";
 constexpr const char* kImpactSymbol = "Ln,w";
 
@@ -65,7 +64,7 @@ std::optional<ComparedCurve> CurveOf(std::string name, const Numbers& numbers,
 }
 
 std::string Unsigned(const std::optional<double>& value, int decimals) {
-  return value ? FormatFixed(*value, decimals) : kNothing;
+  return value ? FormatFixed(*value, decimals) : kNoValue;
 }
 
 std::string Number(std::size_t index) { return std::to_string(index + 1); }
@@ -85,7 +84,7 @@ DataTable RatingsOf(const Comparison& comparison, const Words& words) {
     if (!comparison.is_impact) row.push_back(SignedCell(curve.other_term));
     if (comparison.against)
       row.push_back(i == *comparison.against
-                        ? kNothing
+                        ? kNoValue
                         : SignedCell(RatingDifference(curve, comparison.curves[*comparison.against])));
     table.rows.push_back(std::move(row));
   }
@@ -94,7 +93,7 @@ DataTable RatingsOf(const Comparison& comparison, const Words& words) {
 
 /// A row of a table of bands, unless all its cells are empty.
 void AddBand(DataTable& table, std::size_t band, std::vector<std::string> cells) {
-  if (std::ranges::all_of(cells, [](const std::string& cell) { return cell == kNothing; })) return;
+  if (std::ranges::all_of(cells, [](const std::string& cell) { return cell == kNoValue; })) return;
   cells.insert(cells.begin(), FormatShortest(acoustics::BandCentre(band)));
   table.rows.push_back(std::move(cells));
 }
@@ -163,14 +162,14 @@ std::optional<double> RatingDifference(const ComparedCurve& curve, const Compare
 }
 
 std::string RatingCell(const ComparedCurve& curve, bool is_impact) {
-  if (!curve.rating) return kNothing;
+  if (!curve.rating) return kNoValue;
   const std::string value = FormatShortest(RoundToEven(*curve.rating, 1));
   const bool is_of_column = curve.symbol == (is_impact ? kImpactSymbol : kAirborneSymbol);
   return is_of_column || curve.symbol.empty() ? value : curve.symbol + ' ' + value;
 }
 
 std::string SignedCell(const std::optional<double>& value, int decimals) {
-  if (!value) return kNothing;
+  if (!value) return kNoValue;
   const double shown = RoundToEven(*value, decimals);
   if (shown == 0.0) return FormatFixed(0.0, decimals);
   return (shown > 0.0 ? "+" : "") + FormatFixed(shown, decimals);

@@ -14,9 +14,6 @@
 
 namespace velmar::presentation {
 
-/// What stands for a value that is not there.
-inline constexpr const char* kNoValue = "–";
-
 /// A caption and its value.
 struct DataField {
   std::string caption{};
