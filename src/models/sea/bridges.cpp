@@ -22,9 +22,22 @@ void RequireBalance(double resonant, double forced) {
   }
 }
 
+VELMAR_WIDE_VECTORS void CoupleByPoints(double resonant, double forced,
+                                        const HzSpectrum& radiation_efficiency, HzSpectrum& coupling) {
+  for (int f = 1; f <= kLastHz; ++f) {
+    coupling[f] = radiation_efficiency[f] * resonant / static_cast<double>(f) + forced;
+  }
+}
+
+VELMAR_WIDE_VECTORS void CoupleByLines(double resonant, double forced, const HzSpectrum& radiation_efficiency,
+                                       const HzSpectrum& roots, HzSpectrum& coupling) {
+  for (int f = 1; f <= kLastHz; ++f) {
+    coupling[f] = (forced * roots[f] + radiation_efficiency[f] * resonant) / static_cast<double>(f);
+  }
+}
+
 }  // namespace
 
-VELMAR_WIDE_VECTORS
 HzSpectrum SeaPointBridgeCoupling(const SeaPointBridge& bridge, const HzSpectrum& radiation_efficiency) {
   HzSpectrum coupling{};
   if (bridge.count == 0) return coupling;
@@ -36,13 +49,10 @@ HzSpectrum SeaPointBridgeCoupling(const SeaPointBridge& bridge, const HzSpectrum
   const double resonant = kAirImpedance / (m * m * impedance * kTwoPi * bridge.loss_factor) * scale;
   const double forced = 1.0 / kTwoPi * kAirDensity / (m * m * kSpeedOfSound) * scale;
   RequireBalance(resonant, forced);
-  for (int f = 1; f <= kLastHz; ++f) {
-    coupling[f] = radiation_efficiency[f] * resonant / static_cast<double>(f) + forced;
-  }
+  CoupleByPoints(resonant, forced, radiation_efficiency, coupling);
   return coupling;
 }
 
-VELMAR_WIDE_VECTORS
 void SeaLineBridgeCoupling(const SeaLineBridge& bridge, const HzSpectrum& radiation_efficiency,
                            HzSpectrum& coupling) {
   if (bridge.count == 0.0) return;
@@ -53,10 +63,7 @@ void SeaLineBridgeCoupling(const SeaLineBridge& bridge, const HzSpectrum& radiat
   const double forced = bridge.count * kAirDensity / (m * m * kTwoPi) * resistance;
   const double resonant = bridge.count * kAirImpedance / (kTwoPi * m * bridge.loss_factor);
   RequireBalance(resonant, forced);
-  const HzSpectrum& roots = RootsOfHz();
-  for (int f = 1; f <= kLastHz; ++f) {
-    coupling[f] = (forced * roots[f] + radiation_efficiency[f] * resonant) / static_cast<double>(f);
-  }
+  CoupleByLines(resonant, forced, radiation_efficiency, RootsOfHz(), coupling);
 }
 
 VELMAR_WIDE_VECTORS
