@@ -237,7 +237,7 @@ void DiffuseTau(std::span<const double> frequencies_hz, std::span<const Plate> p
   };
   std::size_t first = 0;
   for (; first + kLanes <= frequencies_hz.size(); first += kLanes)
-    std::ranges::copy(taus_of(frequencies_hz.subspan(first).first<kLanes>()), taus.begin() + first);
+    std::ranges::copy(taus_of(frequencies_hz.subspan(first).first<kLanes>()), taus.subspan(first).begin());
   if (first == frequencies_hz.size()) return;
 
   const std::span<const double> rest = frequencies_hz.subspan(first);
@@ -245,7 +245,7 @@ void DiffuseTau(std::span<const double> frequencies_hz, std::span<const Plate> p
   padded.fill(rest.front());
   std::ranges::copy(rest, padded.begin());
   const Lanes lanes = taus_of(padded);
-  std::copy_n(lanes.begin(), rest.size(), taus.begin() + first);
+  std::copy_n(lanes.begin(), rest.size(), taus.subspan(first).begin());
 }
 
 }  // namespace velmar::models
