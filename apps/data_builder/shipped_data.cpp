@@ -17,12 +17,12 @@ namespace {
 
 namespace fs = std::filesystem;
 
-void BuildMaterials(const fs::path& texts, const fs::path& file) {
+void BuildMaterials(const fs::path& texts, const fs::path& file, Heading heading) {
   constexpr std::array<std::string_view, 3> kTexts = {"structural.csv", "fibrous.csv", "resilient.csv"};
   DatabaseFile database(file);
   const std::vector<storage::TableSchema> tables = storage::MaterialTables();
   for (size_t i = 0; i < tables.size(); ++i)
-    database.Add(tables[i], ReadRows(texts / kTexts.at(i), tables[i]));
+    database.Add(tables[i], ReadRows(texts / kTexts.at(i), tables[i], heading));
   database.Commit();
 }
 
@@ -67,7 +67,7 @@ void CopyPictures(const fs::path& source, const fs::path& target) {
 void BuildShippedData(const fs::path& source, const fs::path& target) {
   const fs::path databases = target / "Databases";
   fs::remove_all(databases);
-  BuildMaterials(source / "materials", databases / "Database" / "Database.mdb");
+  BuildMaterials(source / "materials", databases / "Database" / "Database.mdb", Heading::kWhole);
   BuildEmptyResults(databases / "Database" / "Database_teorico.mdb");
   BuildLibrary(source / "library", databases / "Database");
   CopyPictures(source / "library" / "immagine", databases / "immagine");
@@ -75,7 +75,8 @@ void BuildShippedData(const fs::path& source, const fs::path& target) {
   // What the first version shipped: the start tells by it what of such a data folder nobody changed.
   const fs::path former = target / "Former" / "Databases";
   fs::remove_all(former);
-  BuildMaterials(source / "former" / "materials", former / "Database" / "Database.mdb");
+  BuildMaterials(source / "former" / "materials", former / "Database" / "Database.mdb",
+                 Heading::kAsItOnceWas);
   BuildMessages(source / "former" / "messages", former / "InterfMess.mdb");
 }
 

@@ -22,12 +22,13 @@ CsvTable ReadTableText(const std::filesystem::path& file) {
 }
 
 std::vector<std::vector<storage::Cell>> ReadRows(const std::filesystem::path& file,
-                                                 const storage::TableSchema& schema) {
+                                                 const storage::TableSchema& schema, Heading heading) {
   const CsvTable table = ReadTableText(file);
-  if (table.header.size() != schema.columns.size()) {
+  const size_t most = schema.columns.size();
+  if (table.header.size() > most || (table.header.size() < most && heading == Heading::kWhole)) {
     throw std::runtime_error(file.string() + ": the heading does not have the columns of " + schema.name);
   }
-  for (size_t i = 0; i < schema.columns.size(); ++i) {
+  for (size_t i = 0; i < table.header.size(); ++i) {
     if (table.header[i] == schema.columns[i].name) continue;
     throw std::runtime_error(file.string() + ": column \"" + table.header[i] + "\" should be \"" +
                              schema.columns[i].name + "\"");
@@ -43,6 +44,7 @@ std::vector<std::vector<storage::Cell>> ReadRows(const std::filesystem::path& fi
       }
       row.push_back(std::move(*cell));
     }
+    row.resize(most);
     rows.push_back(std::move(row));
   }
   return rows;

@@ -362,6 +362,29 @@ std::optional<Setup> ReadSetupText(std::string_view text) {
   return setup;
 }
 
+NamedTexts SingleFieldTexts(const Setup& setup, FieldSet fields) {
+  NamedTexts texts;
+  VisitSingleFields(
+      [&](Field field, const char* name, const auto& value, const auto& blank) {
+        if (fields.Has(field) && value != blank) texts.emplace_back(name, TextOf(value));
+      },
+      setup, Blank());
+  return texts;
+}
+
+bool TakeSingleFields(const NamedTexts& texts, FieldSet fields, Setup& setup) {
+  bool whole = true;
+  VisitSingleFields(
+      [&](Field field, const char* name, auto& value, const auto& blank) {
+        if (!fields.Has(field)) return;
+        value = blank;
+        const auto text = std::ranges::find(texts, name, &NamedTexts::value_type::first);
+        if (text != texts.end() && !Take(text->second, value)) whole = false;
+      },
+      setup, Blank());
+  return whole;
+}
+
 template <typename Material>
 std::string WriteRowText(const LayerRow<Material>& row) {
   return RowText(row, MaterialText(row.slot));

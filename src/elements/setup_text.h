@@ -4,6 +4,8 @@
 #include <string>
 #include <string_view>
 
+#include "elements/fields.h"
+#include "elements/named_texts.h"
 #include "elements/setup.h"
 
 namespace velmar::elements {
@@ -20,6 +22,13 @@ std::string WriteSetupText(const Setup& setup);
 /// The set-up that `text` was written of, without information and further values; nothing when it is none, or
 /// has a field that this program does not know.
 std::optional<Setup> ReadSetupText(std::string_view text);
+
+/// The texts of those of `fields` that `setup` has once and that differ from Setup{}, under their names in
+/// the text of a set-up.
+NamedTexts SingleFieldTexts(const Setup& setup, FieldSet fields);
+/// Sets those of `fields` that a set-up has once to what `texts` hold under their names, and to what Setup{}
+/// has where there is no such name. @return false when a text is none of its field
+bool TakeSingleFields(const NamedTexts& texts, FieldSet fields, Setup& setup);
 
 /// One row with all values of its material as a text that gives it back exactly.
 template <typename Material>

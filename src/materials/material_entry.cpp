@@ -239,34 +239,32 @@ std::variant<storage::ResilientRow, EntryRefusal> RowOf(ResilientEntry entry, co
 
 StructuralEntry EntryOf(const storage::StructuralRow& row) {
   using M = StructuralMaterial;
-  return {row.record.values.name,
-          row.record.values.description,
-          TextOf(row, &M::thickness_mm),
-          TextOf(row, &M::density_kg_m3),
-          TextOf(row, &M::surface_mass_kg_m2),
-          TextOf(row, &M::youngs_modulus_gpa),
-          TextOf(row, &M::critical_frequency_hz),
-          TextOf(row, &M::loss_factor),
-          TextOf(row, &M::poissons_ratio),
-          row.keyword,
-          row.source};
+  return {.name = row.record.values.name,
+          .description = row.record.values.description,
+          .thickness = TextOf(row, &M::thickness_mm),
+          .density = TextOf(row, &M::density_kg_m3),
+          .surface_mass = TextOf(row, &M::surface_mass_kg_m2),
+          .youngs_modulus = TextOf(row, &M::youngs_modulus_gpa),
+          .critical_frequency = TextOf(row, &M::critical_frequency_hz),
+          .loss_factor = TextOf(row, &M::loss_factor),
+          .poissons_ratio = TextOf(row, &M::poissons_ratio),
+          .keyword = row.keyword,
+          .source = row.source};
 }
 
 FibrousEntry EntryOf(const storage::FibrousRow& row) {
   using M = FibrousMaterial;
-  FibrousEntry entry{row.record.values.name,
-                     row.record.values.description,
-                     row.keyword,
-                     TextOf(row, &M::thickness_mm),
-                     TextOf(row, &M::density_kg_m3),
-                     row.record.values.porous,
-                     TextOf(row, &M::youngs_modulus_gpa),
-                     TextOf(row, &M::loss_factor),
-                     TextOf(row, &M::poissons_ratio),
-                     TextOf(row, &M::flow_resistance_pa_s_m),
-                     {},
-                     row.source,
-                     {}};
+  FibrousEntry entry{.name = row.record.values.name,
+                     .description = row.record.values.description,
+                     .keyword = row.keyword,
+                     .thickness = TextOf(row, &M::thickness_mm),
+                     .density = TextOf(row, &M::density_kg_m3),
+                     .porous = row.record.values.porous,
+                     .youngs_modulus = TextOf(row, &M::youngs_modulus_gpa),
+                     .loss_factor = TextOf(row, &M::loss_factor),
+                     .poissons_ratio = TextOf(row, &M::poissons_ratio),
+                     .flow_resistance = TextOf(row, &M::flow_resistance_pa_s_m),
+                     .source = row.source};
   for (std::size_t band = 0; band < entry.absorption.size(); ++band) {
     const float value = row.record.values.absorption.at(band);
     if (value != elements::kNoAbsorption) entry.absorption.at(band) = FormatShortest(value);
@@ -276,15 +274,15 @@ FibrousEntry EntryOf(const storage::FibrousRow& row) {
 
 ResilientEntry EntryOf(const storage::ResilientRow& row) {
   using M = ResilientMaterial;
-  return {row.record.values.name,
-          row.record.values.description,
-          row.keyword,
-          TextOf(row, &M::dynamic_stiffness_mn_m3),
-          TextOf(row, &M::impact_improvement_db),
-          TextOf(row, &M::resonance_frequency_hz),
-          TextOf(row, &M::thickness_mm),
-          TextOf(row, &M::density_kg_m3),
-          row.source};
+  return {.name = row.record.values.name,
+          .description = row.record.values.description,
+          .keyword = row.keyword,
+          .stiffness = TextOf(row, &M::dynamic_stiffness_mn_m3),
+          .improvement = TextOf(row, &M::impact_improvement_db),
+          .resonance = TextOf(row, &M::resonance_frequency_hz),
+          .thickness = TextOf(row, &M::thickness_mm),
+          .density = TextOf(row, &M::density_kg_m3),
+          .source = row.source};
 }
 
 }  // namespace velmar::materials

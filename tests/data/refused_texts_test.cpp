@@ -39,6 +39,23 @@ TEST_F(RefusedTextTest, AColumnOfAnotherName) {
   EXPECT_THAT([&] { ReadRows(file, kSchema); }, ThrowsMessage<std::runtime_error>(HasSubstr("\"s (mm)\"")));
 }
 
+TEST_F(RefusedTextTest, AMissingColumnUnlessTheFileIsOlder) {
+  const auto file = Write("a.csv", "Nome\nx\n");
+  EXPECT_ANY_THROW(ReadRows(file, kSchema));
+  const auto rows = ReadRows(file, kSchema, Heading::kAsItOnceWas);
+  ASSERT_EQ(rows.size(), 1U);
+  EXPECT_EQ(rows.front(), (std::vector<storage::Cell>{std::string("x"), storage::Cell{}}));
+}
+
+TEST_F(RefusedTextTest, AColumnTooManyOrInAnotherPlace) {
+  for (const Heading heading : {Heading::kWhole, Heading::kAsItOnceWas}) {
+    const auto too_many = Write("a.csv", "Nome,s (mm),E (GPa)\nx,1,2\n");
+    EXPECT_ANY_THROW(ReadRows(too_many, kSchema, heading));
+    const auto elsewhere = Write("b.csv", "s (mm)\n1\n");
+    EXPECT_ANY_THROW(ReadRows(elsewhere, kSchema, heading));
+  }
+}
+
 TEST_F(RefusedTextTest, ANumberThatIsNone) {
   const auto file = Write("a.csv", "Nome,s (mm)\nx,dodici\n");
   EXPECT_THAT([&] { ReadRows(file, kSchema); }, ThrowsMessage<std::runtime_error>(HasSubstr("dodici")));

@@ -6,6 +6,9 @@
 
 #include <gtest/gtest.h>
 
+#include "elements/catalogue.h"
+#include "elements/keyed_values.h"
+
 namespace velmar::elements {
 namespace {
 
@@ -34,6 +37,39 @@ TEST(SingleFields, HaveOnePlaceAndOneNameEach) {
       setup);
   EXPECT_EQ(names.size(), count);
   EXPECT_EQ(places.size(), count);
+}
+
+/// What a set-up has several times stands in rows, parts and components. Any other field that a calculation
+/// reads and that is not visited would be missing from steps, variants and project files.
+TEST(SingleFields, AreAllThatCalculationsReadBesideRowsAndParts) {
+  constexpr FieldSet kOfRowsAndParts = {Field::kArea,
+                                        Field::kRating,
+                                        Field::kC,
+                                        Field::kCtr,
+                                        Field::kBand,
+                                        Field::kMass,
+                                        Field::kTightness,
+                                        Field::kStratumKind,
+                                        Field::kStratumThickness,
+                                        Field::kConnection,
+                                        Field::kConnectionNumber,
+                                        Field::kProfileHeight,
+                                        Field::kProfilePitch};
+  FieldSet known = kOfRowsAndParts;
+  const elements::Setup setup;
+  VisitSingleFields(
+      [&](Field field, const char* name, const auto&) {
+        EXPECT_FALSE(kOfRowsAndParts.Has(field)) << name;
+        EXPECT_TRUE(KeyedValues::IsName(name)) << name;
+        known = known.With({field});
+      },
+      setup);
+  for (const CalculationRow& row : Catalogue()) {
+    for (int i = 0; i <= static_cast<int>(kLastField); ++i) {
+      const auto field = static_cast<Field>(i);
+      EXPECT_TRUE(known.Has(field) || !row.Reads(field)) << row.variant << ", field " << i;
+    }
+  }
 }
 
 TEST(SingleFields, AreOfTheSameFieldInEachSetup) {

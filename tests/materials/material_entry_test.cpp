@@ -1,5 +1,10 @@
 #include "materials/material_entry.h"
 
+#include <set>
+#include <string>
+#include <utility>
+#include <vector>
+
 #include <gtest/gtest.h>
 
 namespace velmar::materials {
@@ -235,6 +240,55 @@ TEST(ResilientEntry, AMissingThicknessIsNamed) {
   entry.thickness = "";
   EXPECT_EQ(RefusalOf(entry).message, (Message{{MessageRow{348}, ":"}, {"- ", MessageRow{349}}}));
   EXPECT_EQ(RefusalOf(entry).field, EntryField{MaterialProperty::kThickness});
+}
+
+/// A row with a number of its own, possible for each, in every column of numbers.
+template <typename Material>
+storage::MaterialRow<Material> FullRow(bool porous) {
+  std::vector<storage::Cell> cells;
+  for (const storage::ColumnSchema& column : storage::TableOf<Material>().columns) {
+    const auto place = static_cast<double>(cells.size());
+    if (column.type == storage::ColumnType::kNumber) {
+      cells.emplace_back(0.01 * (place + 1.0));
+    } else if (column.type == storage::ColumnType::kYesNo) {
+      cells.emplace_back(porous);
+    } else {
+      cells.emplace_back("testo " + std::to_string(cells.size()));
+    }
+  }
+  return storage::RowFromCells<Material>(cells);
+}
+
+/// Expects that a row is the same once its entry was stored, but for the columns that `emptied` tells.
+template <typename Material, typename Emptied>
+void ExpectToComeBack(bool porous, Emptied emptied) {
+  const storage::MaterialRow<Material> row = FullRow<Material>(porous);
+  const auto back = std::get<storage::MaterialRow<Material>>(RowOf(EntryOf(row), kTexts));
+  const std::vector<storage::Cell> before = storage::CellsFromRow(row);
+  const std::vector<storage::Cell> after = storage::CellsFromRow(back);
+  const storage::TableSchema table = storage::TableOf<Material>();
+  for (std::size_t i = 0; i < before.size(); ++i) {
+    if (!emptied(table.columns[i].name))
+      EXPECT_EQ(after[i], before[i]) << table.columns[i].name;
+    else
+      EXPECT_NE(after[i], before[i]) << table.columns[i].name;
+  }
+}
+
+/// A column that the entry does not take along would be emptied by whoever opens and saves the material.
+TEST(MaterialEntry, TakesEveryColumnAlong) {
+  const auto one_of = [](std::set<std::string> names) {
+    return [names = std::move(names)](const std::string& name) { return names.contains(name); };
+  };
+  ExpectToComeBack<StructuralMaterial>(
+      false, one_of({"Lambda (W/m K)", "C (W/m² K)", "Sigma_a 10^12 (Kg/msPa)", "Sigma_u 10^12 (Kg/msPa)",
+                     "R (m² K/W)"}));
+  ExpectToComeBack<FibrousMaterial>(true, one_of({"Modulo di Young E (GPa)", "Fattore di perdita interna",
+                                                  "Rapporto di Poisson", "Immagine"}));
+  ExpectToComeBack<FibrousMaterial>(false, [](const std::string& name) {
+    return name.starts_with("Alfa") || name.starts_with("Resistenza") || name == "Immagine";
+  });
+  ExpectToComeBack<ResilientMaterial>(false, one_of({"Immagine"}));
 }
 
 }  // namespace

@@ -99,9 +99,16 @@ MessageRow StepRowOf(Field field) {
       return kStepProfileRow;
     case Field::kTracks:
       return kStepTracksRow;
-    default:
-      return kStepSeveralRow;
+    case Field::kDensity:
+    case Field::kYoungsModulus:
+    case Field::kLossFactor:
+    case Field::kPoissonsRatio:
+    case Field::kFlowResistance:
+    case Field::kDynamicStiffness:
+    case Field::kAbsorption:
+      break;  // of a material, which changes as a whole
   }
+  return kStepSeveralRow;
 }
 
 std::optional<DataField> FieldOf(Field field, const Setup& setup, const CalculationRow& row,

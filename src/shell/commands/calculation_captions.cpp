@@ -74,16 +74,7 @@ constexpr std::array<Entry, elements::kCalculationCount> kEntries = {{
     {kMultilayerGeneric, kMultilayerRow},
 }};
 
-/// A calculation that is missing, or twice in the menu, fails here.
-constexpr bool NamesEachCalculationOnce() {
-  for (std::size_t i = 0; i < elements::kCalculationCount; ++i) {
-    const auto named = std::ranges::count(kEntries, static_cast<Calculation>(i), &Entry::calculation);
-    if (named != 1) return false;
-  }
-  return std::ranges::none_of(kEntries, [](const Entry& entry) { return entry.row == MessageRow{}; });
-}
-static_assert(NamesEachCalculationOnce());
-
+/// A calculation that is missing, twice in the menu or without its words fails here.
 constexpr bool EachCalculationStandsOnceWithItsWords() {
   std::array<int, elements::kCalculationCount> times{};
   for (const Entry& entry : kEntries) {

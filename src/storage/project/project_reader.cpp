@@ -9,6 +9,7 @@
 #include "storage/project/common_part.h"
 #include "storage/project/family_parts.h"
 #include "storage/project/keyed_block.h"
+#include "storage/project/keyed_fields.h"
 #include "storage/project/line_cursor.h"
 #include "storage/project/project_failure.h"
 #include "storage/project/version_code.h"
@@ -72,7 +73,8 @@ OpenedProject ReadProject(std::string_view bytes, const ProjectReadContext& cont
         .lines = lines, .materials = context.materials, .version_code = version_code, .layout = *layout};
     ReadFamilyPart(in, opened.setup);
   }
-  opened.setup.further = ReadKeyedBlock(lines);
+  if (!TakeKeyedValues(ReadKeyedBlock(lines), opened.setup))
+    lines.Fail({kNamedValueExpectedRow}, "the text of a field is none of it");
   return opened;
 }
 

@@ -6,6 +6,7 @@
 #include "storage/project/common_part.h"
 #include "storage/project/family_parts.h"
 #include "storage/project/keyed_block.h"
+#include "storage/project/keyed_fields.h"
 #include "storage/project/line_writer.h"
 
 namespace velmar::storage {
@@ -44,7 +45,7 @@ std::string WriteProject(const Setup& setup, const StoredCalculation& unknown) {
   WriteStoredCalculation(out, stored);
   if (const std::optional<PartLayout> layout = FindPartLayout(stored.family, stored.variant))
     WriteFamilyPart(out, setup, *layout);
-  WriteKeyedBlock(out, setup.further);
+  WriteKeyedBlock(out, KeyedValuesOf(setup));
   return out.Bytes();
 }
 

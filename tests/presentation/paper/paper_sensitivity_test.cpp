@@ -12,6 +12,7 @@
 #include "tests/presentation/documents/opened_report.h"
 #include "tests/presentation/drawing/catalogue_words.h"
 #include "tests/presentation/sample_setups.h"
+#include "tests/support/changed_fields.h"
 
 // A consultant signs the paper: whatever the outcome depends on has to be read there. Results and totals are
 // masked, so that a paper can differ by its inputs alone.
@@ -171,27 +172,15 @@ struct Change {
   std::function<void(elements::Setup&)> apply{};
 };
 
-/// Another value in each field that a set-up has once.
+/// Another value in each field that a calculation may read.
 std::vector<Change> Changes(const elements::CalculationRow& row) {
   std::vector<Change> changes = {
-      {Field::kWidth, [](auto& setup) { setup.width_text = "7,77"; }},
-      {Field::kHeight, [](auto& setup) { setup.height_text = "6,66"; }},
-      {Field::kCavityDepth, [](auto& setup) { setup.cavity.depth_text = "123"; }},
-      {Field::kCavityKind, [](auto& setup) { setup.cavity.kind = elements::CavityKind::kEmpty; }},
-      {Field::kFibreThickness, [](auto& setup) { setup.cavity.fibre_text = "35"; }},
-      {Field::kSeaCavityDepth, [](auto& setup) { setup.sea_cavity.depth_text = "234"; }},
-      {Field::kSeaCavityType, [](auto& setup) { setup.sea_cavity.type = elements::SeaCavityType::kEmpty; }},
-      {Field::kSupport, [](auto& setup) { setup.support_distance_text = "17"; }},
-      {Field::kHanger, [](auto& setup) { setup.hanger = 2; }},
-      {Field::kDecoupling, [](auto& setup) { setup.decoupled = true; }},
       {Field::kArea, [](auto& setup) { setup.base.area_text = "33"; }},
       {Field::kRating, [](auto& setup) { setup.base.rating_text = "57"; }},
       {Field::kC, [](auto& setup) { setup.base.c_text = "-9"; }},
       {Field::kCtr, [](auto& setup) { setup.base.ctr_text = "-11"; }},
       {Field::kBand, [](auto& setup) { setup.base.band_texts[6] = "33,3"; }},
       {Field::kMass, [](auto& setup) { setup.base.mass_kg_m2 = 555.0F; }},
-      {Field::kBaseThickness, [](auto& setup) { setup.base.thickness_mm = 333.0; }},
-      {Field::kSimplified, [](auto& setup) { setup.facade.simplified = true; }},
       {Field::kTightness, [](auto& setup) { setup.facade.components[0].tightness_class = 3; }},
       {Field::kStratumKind,
        [](auto& setup) { setup.multilayer.strata[4].kind = elements::StratumKind::kBondedPlate; }},
@@ -201,8 +190,13 @@ std::vector<Change> Changes(const elements::CalculationRow& row) {
       {Field::kConnectionNumber, [](auto& setup) { setup.multilayer.strata[1].connection_text = "43"; }},
       {Field::kProfileHeight, [](auto& setup) { setup.multilayer.strata[0].profile_height_text = "57"; }},
       {Field::kProfilePitch, [](auto& setup) { setup.multilayer.strata[0].profile_pitch_text = "207"; }},
-      {Field::kTracks, [](auto& setup) { setup.multilayer.framed = true; }},
   };
+  const elements::Setup any;
+  elements::VisitSingleFields(
+      [&](Field field, const char*, const auto&) {
+        changes.push_back({field, [field](auto& setup) { tests::ChangeSingleFields(setup, {field}); }});
+      },
+      any);
   if (!row.stacks.Has(Stack::kComponents)) return changes;
   const std::vector<Change> of_components = {
       {Field::kArea, [](auto& setup) { setup.facade.components[0].area_text = "4,4"; }},
@@ -219,6 +213,15 @@ class PaperSensitivity : public testing::TestWithParam<int> {
     return elements::RowOf(static_cast<Calculation>(GetParam()));
   }
 };
+
+TEST_P(PaperSensitivity, LooksAtEveryFieldThatTheCalculationReads) {
+  const std::vector<Change> changes = Changes(Row());
+  for (int i = 0; i <= static_cast<int>(elements::kLastField); ++i) {
+    const auto field = static_cast<Field>(i);
+    const bool changed = std::ranges::find(changes, field, &Change::field) != changes.end();
+    EXPECT_TRUE(changed || !Row().Reads(field)) << i;
+  }
+}
 
 TEST_P(PaperSensitivity, TellsEveryFieldThatTheCalculationReads) {
   const elements::CalculationRow& row = Row();

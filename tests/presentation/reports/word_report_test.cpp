@@ -148,6 +148,24 @@ TEST(WordReport, KnowsNoPlaceholderThatTheManualDoesNotTell) {
   }
 }
 
+/// Words that show their language and can be told from names and numbers.
+Words WordsOf(const std::string& language) {
+  return [language](MessageRow row) { return language + std::to_string(row.number) + "."; };
+}
+
+TEST(WordReport, InBothLanguagesTellsTheWordsOfBothInEveryPlaceholder) {
+  for (const ReportCase& report_case : ReportCases()) {
+    const auto record_in = [&](const std::string& language) {
+      return ReportRecordOf(report_case.setup, report_case.result, report_case.totals, WordsOf(language));
+    };
+    const Placeholders both = TextPlaceholders(InBoth(record_in("it"), record_in("en")));
+    for (const auto& [name, value] : TextPlaceholders(record_in("it"))) {
+      if (value.find("it") == std::string::npos) continue;
+      EXPECT_THAT(both.at(name), HasSubstr("en")) << report_case.name << ", " << name;
+    }
+  }
+}
+
 TEST(WordReport, HeadsNothingThatIsEmpty) {
   ReportCase brick = ReportCases().front();
   brick.setup.information = {};

@@ -214,6 +214,18 @@ class FieldNotesTest : public QObject {
     }
   }
 
+  void everyFieldThatACalculationReadsHasItsPlace() {
+    for (const elements::CalculationRow& row : elements::Catalogue()) {
+      fixture_->Choose(row.calculation);
+      const PageContext& pages = fixture_->window->findChild<CommandSet*>()->At().pages;
+      elements::VisitSingleFields(
+          [&](elements::Field field, const char* name, const auto&) {
+            if (row.Reads(field)) QVERIFY2(pages.ControlOf({field}) != nullptr, name);
+          },
+          fixture_->open.Setup());
+    }
+  }
+
  private:
   QString NoteAt(const QString& control) const { return FieldNote::TextAt(fixture_->Find<QWidget>(control)); }
   void RequireField(const MessageLine& line) const {

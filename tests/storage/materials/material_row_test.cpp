@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include "elements/layers.h"
+#include "elements/setup_text.h"
+
 namespace velmar::storage {
 namespace {
 
@@ -40,6 +43,15 @@ TYPED_TEST_SUITE(MaterialRowTest, Materials);
 TYPED_TEST(MaterialRowTest, GivesEveryColumnBack) {
   const std::vector<Cell> cells = DistinctCells(TableOf<TypeParam>());
   EXPECT_EQ(CellsFromRow(RowFromCells<TypeParam>(cells)), cells);
+}
+
+/// A layer holds what its material's record holds, and variants hold layers as texts.
+TYPED_TEST(MaterialRowTest, ALayerOfItKeepsEveryColumnInTheTextOfASetup) {
+  elements::LayerRow<TypeParam> layer;
+  layer.slot = RowFromCells<TypeParam>(DistinctCells(TableOf<TypeParam>())).record.values;
+  elements::LayerRow<TypeParam> back;
+  ASSERT_TRUE(elements::ReadRowText(elements::WriteRowText(layer), back));
+  EXPECT_EQ(back, layer);
 }
 
 TYPED_TEST(MaterialRowTest, ANullStaysANull) {

@@ -1,8 +1,12 @@
+#include <utility>
+
 #include <gtest/gtest.h>
 
 #include "elements/catalogue.h"
 #include "storage/project/project_reader.h"
 #include "storage/project/project_writer.h"
+#include "tests/storage/project/sample_setup.h"
+#include "tests/support/changed_fields.h"
 #include "tests/support/random_setup.h"
 
 namespace velmar::storage {
@@ -33,6 +37,22 @@ TEST_P(RoundTripTest, DoesNotDependOnTheProjectBefore) {
     ProjectReadContext context;
     context.current = tests::RandomSetup(other.calculation, tests::Wildness::kAnyOfItsFile, random);
     EXPECT_EQ(WriteProject(ReadProject(bytes, context).setup), bytes) << other.variant;
+  }
+}
+
+/// A field that is read and not kept would give other numbers when the project is opened again.
+TEST_P(RoundTripTest, KeepsEveryFieldThatTheCalculationReads) {
+  for (int i = 0; i <= static_cast<int>(elements::kLastField); ++i) {
+    const auto field = static_cast<elements::Field>(i);
+    if (!GetParam().Reads(field)) continue;
+    elements::Setup setup = SampleSetup(GetParam().calculation);
+    tests::ChangeSingleFields(setup, {field});
+    ProjectReadContext context;
+    context.current = SampleSetup(GetParam().calculation);
+    const elements::Setup opened = ReadProject(WriteProject(setup), context).setup;
+    elements::VisitSingleFields([&](elements::Field one, const char* name, const auto& was,
+                                    const auto& is) { EXPECT_TRUE(one != field || was == is) << name; },
+                                std::as_const(setup), opened);
   }
 }
 
