@@ -44,8 +44,9 @@ constexpr QSize kFirstSize{1280, 720};
 constexpr int kInputsWidth = 600;
 /// Beside the results of a lining and the comparison the inputs find no more on a screen of 1366 pixels.
 constexpr int kNarrowestInputs = 440;
-/// What a table of layers needs; less only where the results have nothing to give.
-constexpr int kUsableInputs = 545;
+/// What the widest page needs beside a bar to scroll it down; less only where the results have nothing to
+/// give.
+constexpr int kUsableInputs = 590;
 
 /// What stands ready for a command. The generic linings give ratings alone.
 Needs StateOf(const calculation::OpenCalculation& open) {
