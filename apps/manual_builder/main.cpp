@@ -152,6 +152,8 @@ void WritePdf(const std::string& text, const Places& places, const fs::path& fol
   if (!pages.MissingPictures().isEmpty())
     throw std::runtime_error("no picture " + pages.MissingPictures().constFirst().toStdString());
   if (!pages.HoldsWholeText()) throw std::runtime_error("the text runs over its last page");
+  if (const QString picture = pages.CaptionAlone(); !picture.isEmpty())
+    throw std::runtime_error("the caption of " + picture.toStdString() + " stands on another page");
   std::vector<manual::PlacedHeading> headings = pages.Headings();
   std::vector<manual::PlacedLink> links = pages.Links();
   const std::vector<std::string> terms = TermsIn(places.manual / "indice-analitico.txt");

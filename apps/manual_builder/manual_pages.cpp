@@ -25,10 +25,13 @@ constexpr int kTextPoints = 10;
 constexpr int kFootPoints = 8;
 constexpr int kCodePoints = 8;
 constexpr int kWideTablePoints = 8;
-constexpr int kWideTableColumns = 6;  ///< from as many on a table is wide
+constexpr int kWideTableColumns = 5;  ///< from as many on a table is wide
 constexpr double kLineHeightPercent = 128.0;
+constexpr double kTableLine = 110.0;   ///< of the letters' height, per cent
 constexpr double kPictureWidth = 0.8;  ///< of the text's width, at most
 constexpr double kPointsAPixel = 0.45;
+constexpr double kSmallestPicture = 0.65;  ///< of its size, where it finds no room otherwise
+constexpr double kAbovePicture = 8.0;
 /// A heading or table that starts lower on its page than this goes to the next one.
 constexpr double kLowestHeading = 0.86;
 constexpr double kLowestTable = 0.8;
@@ -217,7 +220,7 @@ void ManualPages::DressPictures(const QString& folder) {
       cursor.setCharFormat(picture);
       QTextBlockFormat centred;
       centred.setAlignment(Qt::AlignHCenter);
-      centred.setTopMargin(8.0);
+      centred.setTopMargin(kAbovePicture);
       centred.setBottomMargin(10.0);
       // A line height in parts of the line would stretch the picture's own.
       centred.setLineHeight(0.0, QTextBlockFormat::SingleHeight);
@@ -241,7 +244,7 @@ void ManualPages::DressTables() {
     look.setBorderStyle(QTextFrameFormat::BorderStyle_Solid);
     look.setBorderBrush(kRule);
     look.setBorderCollapse(true);
-    look.setCellPadding(4.0);
+    look.setCellPadding(3.0);
     look.setCellSpacing(0.0);
     look.setTopMargin(4.0);
     look.setBottomMargin(10.0);
@@ -255,6 +258,7 @@ void ManualPages::DressTables() {
         QTextBlockFormat tight;
         tight.setBottomMargin(0.0);
         tight.setAlignment(Qt::AlignLeft);
+        tight.setLineHeight(kTableLine, QTextBlockFormat::ProportionalHeight);
         cursor.mergeBlockFormat(tight);
         if (table->columns() >= kWideTableColumns) {
           cursor.setPosition(cell.lastCursorPosition().position(), QTextCursor::KeepAnchor);
@@ -285,6 +289,42 @@ void ManualPages::MoveToNextPage(const QTextBlock& block) {
   document_.markContentsDirty(block.position(), document_.characterCount() - block.position());
 }
 
+// A picture is one line of its block, its caption the others.
+void ManualPages::FitPicture(const QTextBlock& block) {
+  const auto picture = block.begin().fragment();
+  if (!picture.isValid() || !picture.charFormat().isImageFormat()) return;
+  const QAbstractTextDocumentLayout& layout = *document_.documentLayout();
+  layout.blockBoundingRect(block);
+  const QTextLayout& lines = *block.layout();
+  if (lines.lineCount() == 0) return;
+  const double top = lines.position().y() + lines.lineAt(0).y();
+  const double height = lines.lineAt(0).height();
+  double caption = 0.0;
+  for (int i = 1; i < lines.lineCount(); ++i) caption += lines.lineAt(i).height();
+  const QRectF last = lines.lineAt(lines.lineCount() - 1).rect().translated(lines.position());
+  const auto page_of = [](double y) { return static_cast<int>(y / kText.height()); };
+  const QTextBlock before = block.previous();
+  if (!before.isValid() || Breaks(block)) return;
+  const QTextFrame* frame = QTextCursor(before).currentFrame();
+  const QRectF above = frame != nullptr && frame != document_.rootFrame()
+                           ? layout.frameBoundingRect(const_cast<QTextFrame*>(frame))
+                           : layout.blockBoundingRect(before);
+  const double foot = above.bottom() - 0.5;
+  if (page_of(top) == page_of(foot) && page_of(last.bottom() - 0.5) == page_of(foot)) return;
+  // The line is higher than its picture by what letters have below it.
+  constexpr double kSpare = 12.0;
+  const double room = kText.height() - std::fmod(foot, kText.height()) - kAbovePicture - caption - kSpare;
+  const double part = room / height;
+  if (part < kSmallestPicture || part >= 1.0) return MoveToNextPage(block);
+  QTextImageFormat smaller = picture.charFormat().toImageFormat();
+  smaller.setWidth(smaller.width() * part);
+  QTextCursor cursor(&document_);
+  cursor.setPosition(picture.position());
+  cursor.setPosition(picture.position() + picture.length(), QTextCursor::KeepAnchor);
+  cursor.setCharFormat(smaller);
+  document_.markContentsDirty(block.position(), document_.characterCount() - block.position());
+}
+
 // From above downwards: what is moved moves all that follows.
 void ManualPages::KeepTogether() {
   const auto page_of = [this](const QTextBlock& block) {
@@ -307,6 +347,7 @@ void ManualPages::KeepTogether() {
       if ((alone || height_on_page(block) >= kLowestHeading) && !Breaks(first)) MoveToNextPage(first);
       continue;
     }
+    FitPicture(block);
     QTextTable* table = QTextCursor(block).currentTable();
     if (table == nullptr || table->firstPosition() != block.position()) continue;
     if (height_on_page(block) < kLowestTable) continue;
@@ -375,6 +416,21 @@ std::map<int, int> ManualPages::PagesOf(const QString& term) const {
 bool ManualPages::HoldsWholeText() const {
   const QRectF last = document_.documentLayout()->blockBoundingRect(document_.lastBlock());
   return last.height() > 0.0 && last.bottom() <= Count() * kText.height();
+}
+
+QString ManualPages::CaptionAlone() const {
+  for (QTextBlock block = document_.begin(); block.isValid(); block = block.next()) {
+    const QTextFragment picture = block.begin().fragment();
+    if (!picture.isValid() || !picture.charFormat().isImageFormat()) continue;
+    document_.documentLayout()->blockBoundingRect(block);
+    const QTextLayout& lines = *block.layout();
+    const auto page_of = [&lines](int line) {
+      return static_cast<int>((lines.position().y() + lines.lineAt(line).y() + 1.0) / kText.height());
+    };
+    if (lines.lineCount() > 1 && page_of(0) != page_of(lines.lineCount() - 1))
+      return picture.charFormat().toImageFormat().name();
+  }
+  return {};
 }
 
 void ManualPages::PaintPage(QPainter& painter, int page) const {

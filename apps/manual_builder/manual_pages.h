@@ -42,8 +42,9 @@ struct PageLook {
 void PaintFoot(QPainter& painter, const QString& product, const QString& number);
 
 /// The text of the user manual set for A4: chapters that begin on a page of their own, headings that stay
-/// with their text, pictures, tables with lines. Lengths in points. The title of the manual stands on its
-/// front page and is left out here.
+/// with their text, pictures that stay with their caption and shrink a little where they so find room on a
+/// page, tables with lines. Lengths in points. The title of the manual stands on its front page and is left
+/// out here.
 class ManualPages {
  public:
   /// @param markdown the manual's text
@@ -57,6 +58,9 @@ class ManualPages {
 
   /// Whether the last line of the text stands on a page.
   bool HoldsWholeText() const;
+
+  /// The first picture whose caption stands on another page, empty when there is none.
+  QString CaptionAlone() const;
 
   /// Every heading on its page.
   const std::vector<PlacedHeading>& Headings() const { return headings_; }
@@ -76,6 +80,7 @@ class ManualPages {
   void DressTables();
   void KeepTogether();
   void MoveToNextPage(const QTextBlock& block);
+  void FitPicture(const QTextBlock& block);
   double TopOf(const QTextBlock& block) const;
   void FindHeadings();
   void FindLinks();

@@ -1,8 +1,11 @@
 #include "presentation/drawing/chart_marks.h"
 
+#include <QLineF>
 #include <QPainter>
 #include <QStringList>
 #include <algorithm>
+#include <array>
+#include <vector>
 
 #include "acoustics/bands.h"
 #include "presentation/drawing/colours.h"
@@ -20,6 +23,58 @@ QColor OverPaper(const QColor& colour, int alpha) {
   const auto mixed = [alpha](int ink, int paper) { return (ink * alpha + paper * (255 - alpha)) / 255; };
   return {mixed(colour.red(), kPaperColour.red()), mixed(colour.green(), kPaperColour.green()),
           mixed(colour.blue(), kPaperColour.blue())};
+}
+
+/// The lines that `chart` is made of; of octaves the slopes between them.
+std::vector<QLineF> LinesOf(const ChartLayout& layout, const CurveChart& chart, const ChartRange& range) {
+  std::vector<QLineF> lines;
+  const auto add = [&](const acoustics::Spectrum& values) {
+    for (const ChartSegment& segment : CurveSegments(values, chart.first_band, chart.last_band)) {
+      lines.emplace_back(layout.At(static_cast<double>(segment.from), LogicalY(values[segment.from], range)),
+                         layout.At(static_cast<double>(segment.to), LogicalY(values[segment.to], range)));
+    }
+  };
+  add(chart.values);
+  for (const auto* values :
+       {&chart.base, &chart.laboratory, &chart.in_situ, &chart.octaves, &chart.marks.former}) {
+    if (*values) add(**values);
+  }
+  for (const FurtherCurve& curve : chart.further) add(curve.values);
+  if (chart.shift) {
+    const QPolygonF reference = ReferenceLine(layout, chart, range, *chart.shift);
+    for (qsizetype i = 1; i < reference.size(); ++i) lines.emplace_back(reference[i - 1], reference[i]);
+  }
+  return lines;
+}
+
+bool Meets(const QRectF& box, const QLineF& line) {
+  if (box.contains(line.p1()) || box.contains(line.p2())) return true;
+  const std::array edges = {QLineF(box.topLeft(), box.topRight()), QLineF(box.topRight(), box.bottomRight()),
+                            QLineF(box.bottomRight(), box.bottomLeft()),
+                            QLineF(box.bottomLeft(), box.topLeft())};
+  return std::ranges::any_of(
+      edges, [&line](const QLineF& edge) { return line.intersects(edge) == QLineF::BoundedIntersection; });
+}
+
+/// The corner of the plot in which words of `size` hide no curve; where each has one, that which the curves
+/// usually leave free.
+QRectF FreeCorner(const QSizeF& size, const ChartLayout& layout, const CurveChart& chart,
+                  const ChartRange& range) {
+  const double em = layout.text_px;
+  const QRectF plot = layout.plot.adjusted(0.5 * em, 0.4 * em, -0.5 * em, -0.4 * em);
+  const double top = plot.top();
+  const double bottom = plot.bottom() - size.height();
+  const bool above = chart.unfavourable == acoustics::Unfavourable::kAbove;
+  const double usual = above ? top : bottom;
+  const double opposite = above ? bottom : top;
+  const double right = plot.right() - size.width();
+  const std::vector<QLineF> lines = LinesOf(layout, chart, range);
+  for (const QPointF& corner : {QPointF(right, usual), QPointF(right, opposite), QPointF(plot.left(), usual),
+                                QPointF(plot.left(), opposite)}) {
+    const QRectF box(corner, size);
+    if (std::ranges::none_of(lines, [&box](const QLineF& line) { return Meets(box, line); })) return box;
+  }
+  return {QPointF(right, usual), size};
 }
 
 }  // namespace
@@ -53,7 +108,8 @@ void DrawDeviations(QPainter& painter, const ChartLayout& layout, const CurveCha
   painter.setBrush(Qt::NoBrush);
 }
 
-void DrawDeviationSum(QPainter& painter, const ChartLayout& layout, const CurveChart& chart) {
+void DrawDeviationSum(QPainter& painter, const ChartLayout& layout, const CurveChart& chart,
+                      const ChartRange& range) {
   if (!chart.marks.deviations || !chart.shift || chart.words.deviations.empty()) return;
   const double em = layout.text_px;
   QStringList lines = {FromWords(chart.words.deviations)};
@@ -63,11 +119,7 @@ void DrawDeviationSum(QPainter& painter, const ChartLayout& layout, const CurveC
   const double line_height = 1.5 * em;
   const QSizeF size(std::min(width + em, layout.plot.width() - em),
                     line_height * static_cast<double>(lines.size()));
-  const QRectF& plot = layout.plot;
-  const bool above = chart.unfavourable == acoustics::Unfavourable::kAbove;
-  const QRectF box(QPointF(plot.right() - size.width() - 0.5 * em,
-                           above ? plot.top() + 0.4 * em : plot.bottom() - size.height() - 0.4 * em),
-                   size);
+  const QRectF box = FreeCorner(size, layout, chart, range);
   QColor ground = kPaperColour;
   ground.setAlphaF(0.85F);
   painter.fillRect(box, ground);

@@ -22,9 +22,10 @@ QColor Paler(const QColor& colour);
 /// The bands on the unfavourable side, between curve and reference curve.
 void DrawDeviations(QPainter& painter, const ChartLayout& layout, const CurveChart& chart,
                     const ChartRange& range);
-/// Their sum and what is to be said of it, where the curves leave room: under them, or over them for impact
-/// sound.
-void DrawDeviationSum(QPainter& painter, const ChartLayout& layout, const CurveChart& chart);
+/// Their sum and what is to be said of it, in a corner where the curves leave room: at the right under them,
+/// or over them for impact sound, unless a curve stands there.
+void DrawDeviationSum(QPainter& painter, const ChartLayout& layout, const CurveChart& chart,
+                      const ChartRange& range);
 /// The reference curve where it has the required rating.
 void DrawRequirement(QPainter& painter, const ChartLayout& layout, const CurveChart& chart,
                      const ChartRange& range);

@@ -137,7 +137,7 @@ void DrawCurveChart(QPainter& painter, const QRectF& area, const CurveChart& cha
   DrawCurves(painter, layout, chart, range);
   painter.setRenderHint(QPainter::Antialiasing);
   DrawAxisLabels(painter, layout, chart, range);
-  DrawDeviationSum(painter, layout, chart);
+  DrawDeviationSum(painter, layout, chart, range);
   DrawLegend(painter, layout);
   painter.setPen(kInkColour);
   DrawTextIn(painter, layout.plot, Qt::AlignCenter, FromWords(chart.words.note));

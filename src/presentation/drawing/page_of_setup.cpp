@@ -54,7 +54,7 @@ std::vector<PageField> FieldsOf(const Setup& setup, const CalculationRow& row, c
   if (row.Reads(Field::kWidth)) add(kElementWidthRow, setup.width_text);
   if (row.Reads(Field::kHeight)) add(kElementHeightRow, setup.height_text);
   add(kTotalThicknessRow, NumberText(totals.thickness_mm));
-  add(kSurfaceMassRow, NumberText(totals.surface_mass_kg_m2));
+  add(kSurfaceMassRow, FormatFixed(totals.surface_mass_kg_m2, 1));
   if (IsLining(row.family)) {
     add(row.family == Family::kCeiling ? kBaseFloorRow : kBaseWallRow, setup.base.name);
   }

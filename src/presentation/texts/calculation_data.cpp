@@ -101,7 +101,7 @@ void ForEachLayer(const Setup& setup, Take&& take) {
 DataTable LayerTable(const Setup& setup, const Words& words, const MaterialSources& sources) {
   DataTable table{.title = words(kLayerDataRow),
                   .heads = {words(kNumberHeadRow), words(kMaterialHeadRow), "s [mm]", "ρ [kg/m³]", "E [GPa]",
-                            "η", "ν", "s' [MN/m³]", "Rs [Pa s/m]", words(kSourceHeadRow)},
+                            "η", "ν", "s' [MN/m³]", "Rs [Pa·s/m]", words(kSourceHeadRow)},
                   .weights = {0.65, 2.7, 1.1, 1.3, 1.15, 0.9, 0.65, 1.45, 1.4, 6.0}};
   std::map<std::string, int> told;
   ForEachLayer(setup, [&](const Layer& layer) {

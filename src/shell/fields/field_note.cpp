@@ -141,6 +141,8 @@ void FieldNote::Put(QWidget* field, const QString& text, NoteLife life) {
   QAccessible::updateAccessibility(&alert);
 }
 
+void FieldNote::Remove(const QWidget* window) { delete NoteIn(window); }
+
 FieldNote* FieldNote::NoteIn(const QWidget* window) {
   return static_cast<FieldNote*>(window->property(kNoteOfWindow).value<QPointer<QWidget>>().data());
 }

@@ -20,6 +20,8 @@ class FieldNote : public QWidget {
  public:
   /// Puts `text` beside `field`, in place of any other note of its window.
   static void Put(QWidget* field, const QString& text, NoteLife life);
+  /// Takes away the note of `window`: what it was about is no longer there.
+  static void Remove(const QWidget* window);
   /// The words beside `field`, empty when none stand there.
   static QString TextAt(const QWidget* field);
 

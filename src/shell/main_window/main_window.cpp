@@ -22,6 +22,7 @@
 #include "shell/commands/edit_menu.h"
 #include "shell/commands/menus.h"
 #include "shell/commands/tool_bar.h"
+#include "shell/fields/field_note.h"
 #include "shell/fields/material_change.h"
 #include "shell/main_window/continuous_switch.h"
 #include "shell/main_window/start_screen.h"
@@ -43,8 +44,9 @@ constexpr QSize kFirstSize{1280, 720};
 constexpr int kInputsWidth = 600;
 /// Beside the results of a lining and the comparison the inputs find no more on a screen of 1366 pixels.
 constexpr int kNarrowestInputs = 440;
-/// What a table of layers needs; less only where the results have nothing to give.
-constexpr int kUsableInputs = 545;
+/// What the widest page needs beside a bar to scroll it down; less only where the results have nothing to
+/// give.
+constexpr int kUsableInputs = 590;
 
 /// What stands ready for a command. The generic linings give ratings alone.
 Needs StateOf(const calculation::OpenCalculation& open) {
@@ -234,6 +236,8 @@ void MainWindow::Connect() {
   connect(edit_menu_, &EditMenu::FixVariantWanted, variants_, &VariantStrip::Fix);
   connect(variants_, &VariantStrip::SettleAsked, &context_, &PageContext::SettleAsked);
   connect(&commands_, &CommandSet::AboutToAct, results_->Requirement(), &RequirementLine::Settle);
+  // What was said of a field of the element before.
+  connect(&files_, &ProjectFiles::Opened, this, [this] { FieldNote::Remove(this); });
   connect(&files_, &ProjectFiles::Opened, tabs_, &InputTabs::FocusFirst);
   connect(&files_, &ProjectFiles::Emptied, this, [this] {
     for (const elements::CalculationRow& row : elements::Catalogue())

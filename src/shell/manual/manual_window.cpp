@@ -3,6 +3,8 @@
 #include <QAbstractTextDocumentLayout>
 #include <QDialogButtonBox>
 #include <QHBoxLayout>
+#include <QImage>
+#include <QImageReader>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
@@ -30,8 +32,33 @@ constexpr int kContentsWidth = 300;
 constexpr int kPictureWidth = 680;
 constexpr int kChapterLevel = 2;
 constexpr int kLowestLevel = 3;
-constexpr double kCellPadding = 5.0;
+constexpr double kCellPadding = 4.0;
 constexpr double kMargin = 18.0;
+constexpr int kManyColumns = 6;
+constexpr double kWidestTable = 99.0;  ///< per cent of the page
+
+/// The size on the screen of a picture of `natural` size: none is drawn larger than it is.
+QSize ShownSize(const QSize& natural) {
+  return natural.width() <= kPictureWidth
+             ? natural
+             : natural.scaled(kPictureWidth, natural.height(), Qt::KeepAspectRatio);
+}
+
+/// The manual's text. A text window would make its pictures smaller without smoothing them.
+class ManualText : public QTextBrowser {
+ protected:
+  QVariant loadResource(int type, const QUrl& name) override {
+    const QVariant resource = QTextBrowser::loadResource(type, name);
+    if (type != QTextDocument::ImageResource || resource.typeId() != QMetaType::QByteArray) return resource;
+    const QImage picture = QImage::fromData(resource.toByteArray());
+    if (picture.isNull()) return resource;
+    const double ratio = devicePixelRatioF();
+    QImage shown = picture.scaled((QSizeF(ShownSize(picture.size())) * ratio).toSize(), Qt::IgnoreAspectRatio,
+                                  Qt::SmoothTransformation);
+    shown.setDevicePixelRatio(ratio);
+    return shown;
+  }
+};
 
 }  // namespace
 
@@ -97,7 +124,7 @@ ManualWindow::ManualWindow(const presentation::Words& words, const QString& mark
 }
 
 void ManualWindow::MakeText(const QString& markdown, const QString& folder) {
-  text_ = new QTextBrowser;
+  text_ = new ManualText;
   text_->setObjectName("TestoManuale");
   text_->setAccessibleName(windowTitle());
   text_->setOpenLinks(false);
@@ -105,10 +132,10 @@ void ManualWindow::MakeText(const QString& markdown, const QString& folder) {
   text_->document()->setBaseUrl(QUrl::fromLocalFile(folder + '/'));
   text_->document()->setDocumentMargin(kMargin);
   text_->document()->setMarkdown(markdown, QTextDocument::MarkdownDialectGitHub);
-  DressText();
+  DressText(folder);
 }
 
-void ManualWindow::DressText() {
+void ManualWindow::DressText(const QString& folder) {
   QTextDocument& document = *text_->document();
   for (QTextFrame* frame : document.rootFrame()->childFrames()) {
     auto* table = qobject_cast<QTextTable*>(frame);
@@ -120,14 +147,25 @@ void ManualWindow::DressText() {
     look.setBorderBrush(palette().mid());
     look.setCellPadding(kCellPadding);
     look.setCellSpacing(0.0);
+    // A table of many columns fills the page, and would stand over by what its columns are rounded up.
+    if (table->columns() >= kManyColumns)
+      look.setWidth(QTextLength(QTextLength::PercentageLength, kWidestTable));
     table->setFormat(look);
   }
   for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
+    // A long command goes on in the next line: nobody scrolls the whole manual sideways for it.
+    if (block.blockFormat().nonBreakableLines()) {
+      QTextBlockFormat broken;
+      broken.setNonBreakableLines(false);
+      QTextCursor(block).mergeBlockFormat(broken);
+    }
     for (auto it = block.begin(); !it.atEnd(); ++it) {
       const QTextFragment fragment = it.fragment();
       if (!fragment.charFormat().isImageFormat()) continue;
       QTextImageFormat picture = fragment.charFormat().toImageFormat();
-      picture.setWidth(kPictureWidth);
+      const QSize size = ShownSize(QImageReader(folder + '/' + picture.name()).size());
+      picture.setWidth(size.width());
+      picture.setHeight(size.height());
       QTextCursor cursor(&document);
       cursor.setPosition(fragment.position());
       cursor.setPosition(fragment.position() + fragment.length(), QTextCursor::KeepAnchor);

@@ -37,7 +37,7 @@ class ManualWindow : public QDialog {
 
  private:
   void MakeText(const QString& markdown, const QString& folder);
-  void DressText();
+  void DressText(const QString& folder);
   void FindHeadings(const std::string& markdown);
   void FillContents();
   void Search(bool backward);

@@ -55,6 +55,7 @@ LayerRow::LayerRow(const LayerRowPlan& plan, PageContext& context, QGridLayout& 
                            static_cast<QWidget*>(sheets_), static_cast<QWidget*>(chooser_)}) {
       if (field != nullptr) tools_->Serve(field);
     }
+    if (plan.has_menu) menu_ = tools_->MakeButton();
   }
   MoveTo(grid, line);
   ForEachWidget([this](QWidget* widget) { widget->installEventFilter(this); });
@@ -154,13 +155,16 @@ void LayerRow::MoveTo(QGridLayout& grid, int line) {
   grid.addWidget(thickness_, line, kThicknessColumn + plan_.shift);
   if (sheets_ != nullptr) grid.addWidget(sheets_, line, kSheetsColumn + plan_.shift);
   grid.addWidget(chooser_, line, kChooserColumn + plan_.shift);
-  if (tools_ != nullptr) grid.addWidget(tools_->Button(), line, kToolsColumn + plan_.shift);
+  if (menu_ != nullptr) grid.addWidget(menu_, line, kToolsColumn + plan_.shift);
+}
+
+void LayerRow::LeaveMenuTo(QToolButton* button) {
+  if (tools_ != nullptr) tools_->LeaveMenuTo(button);
 }
 
 template <typename Visit>
 void LayerRow::ForEachWidget(Visit&& visit) const {
-  QWidget* tools = tools_ != nullptr ? tools_->Button() : nullptr;
-  const std::array<QWidget*, 7> widgets = {check_, number_, material_, thickness_, sheets_, chooser_, tools};
+  const std::array<QWidget*, 7> widgets = {check_, number_, material_, thickness_, sheets_, chooser_, menu_};
   for (QWidget* widget : widgets) {
     if (widget != nullptr) visit(widget);
   }

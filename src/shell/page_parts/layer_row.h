@@ -27,6 +27,7 @@ struct LayerRowPlan {
   const char* check = nullptr;      ///< control name of the damping check; none: no check
   QString label{};                  ///< what stands before the list behind the row's number
   int shift = 0;                    ///< columns between the lead and the material
+  bool has_menu = true;             ///< false: LeaveMenuTo() follows
 };
 
 /// One row of a layer table, in one line of a grid: number or check, material, thickness, sheets, button of
@@ -46,6 +47,9 @@ class LayerRow : public QObject {
 
   /// Stands in `line` of `grid` from now on.
   void MoveTo(QGridLayout& grid, int line);
+
+  /// The row is part of another, whose menu is that of `button`: it has none of its own from now on.
+  void LeaveMenuTo(QToolButton* button);
 
   /// Shows the row, or hides it.
   void Show(const elements::Setup& setup, bool visible);
@@ -75,6 +79,7 @@ class LayerRow : public QObject {
   NumberField* thickness_ = nullptr;
   CountBox* sheets_ = nullptr;
   QToolButton* chooser_ = nullptr;
+  QToolButton* menu_ = nullptr;  ///< of the tools; none where the menu is another's
   LayerTools* tools_ = nullptr;  ///< of rows that stand for themselves, not of damping
 };
 

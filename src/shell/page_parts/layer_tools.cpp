@@ -49,9 +49,23 @@ int DraggedRow(const QMimeData& mime, elements::LayerGroup group) {
 LayerTools::LayerTools(elements::LayerGroup group, int index, PageContext& context, QLabel* number,
                        QWidget* page)
     : QObject(page), group_(group), index_(index), context_(context), number_(number), page_(page) {
-  const QString caption = Text(context.Words(), kLayerActionsRow) + ' ' + QString::number(index + 1);
-  button_ = new QToolButton(page);
-  button_->setObjectName(ArrayName("Azioni" + std::string(RowOf(group).list), index));
+  number_->setAcceptDrops(true);
+  number_->setToolTip(Text(context.Words(), kDragLayerTipRow));
+  number_->setContextMenuPolicy(Qt::CustomContextMenu);
+  connect(number_, &QWidget::customContextMenuRequested, this, &LayerTools::OpenMenu);
+  number_->installEventFilter(this);
+  connect(&context_, &PageContext::RowFocusAsked, this,
+          [this](elements::LayerGroup wanted, int row, int place) {
+            if (wanted != group_ || row != index_) return;
+            QWidget* field = served_.at(static_cast<std::size_t>(place));
+            if (field->isVisible()) field->setFocus(Qt::ShortcutFocusReason);
+          });
+}
+
+QToolButton* LayerTools::MakeButton() {
+  const QString caption = Text(context_.Words(), kLayerActionsRow) + ' ' + QString::number(index_ + 1);
+  button_ = new QToolButton(page_);
+  button_->setObjectName(ArrayName("Azioni" + std::string(RowOf(group_).list), index_));
   button_->setText(QStringLiteral("⋮"));
   button_->setAutoRaise(true);
   // The fields follow each other as without it; Ctrl+Shift+A opens it by keys.
@@ -59,16 +73,7 @@ LayerTools::LayerTools(elements::LayerGroup group, int index, PageContext& conte
   button_->setToolTip(caption);
   button_->setAccessibleName(caption);
   connect(button_, &QToolButton::clicked, this, &LayerTools::OpenMenu);
-  number_->setAcceptDrops(true);
-  number_->setToolTip(Text(context.Words(), kDragLayerTipRow));
-  number_->setContextMenuPolicy(Qt::CustomContextMenu);
-  connect(number_, &QWidget::customContextMenuRequested, this, &LayerTools::OpenMenu);
-  number_->installEventFilter(this);
-  connect(&context_, &PageContext::RowFocusAsked, this, [this](elements::LayerGroup wanted, int row, int place) {
-    if (wanted != group_ || row != index_) return;
-    QWidget* field = served_.at(static_cast<std::size_t>(place));
-    if (field->isVisible()) field->setFocus(Qt::ShortcutFocusReason);
-  });
+  return button_;
 }
 
 void LayerTools::Serve(QWidget* field) {
@@ -76,9 +81,24 @@ void LayerTools::Serve(QWidget* field) {
   served_.push_back(field);
 }
 
+void LayerTools::LeaveMenuTo(QToolButton* button) {
+  button_ = button;
+  is_left_ = true;
+  QMenu* menu = button->menu();
+  connect(menu, &QMenu::aboutToShow, this, [this, menu] {
+    qDeleteAll(std::exchange(of_material_, {}));
+    if (!number_->isVisible()) return;
+    const qsizetype own = menu->actions().size();
+    AddMaterialActions(*menu);
+    of_material_ = menu->actions().mid(own);
+  });
+}
+
 int LayerTools::RowsInUse() const { return elements::RowsInUse(context_.open.Setup(), group_); }
 
 void LayerTools::OpenMenu() {
+  const QPoint place = button_->mapToGlobal(QPoint(0, button_->height()));
+  if (is_left_) return button_->menu()->popup(place);
   const Setup& setup = context_.open.Setup();
   const bool free = calculation::HasFreeCount(group_);
   const bool room = calculation::CanInsertLayer(setup, group_);
@@ -112,7 +132,7 @@ void LayerTools::OpenMenu() {
     add(kPasteLayersInsteadRow, "incolla_tutti", 0, copied, [this] { Paste(true); });
   }
   AddMaterialActions(*menu);
-  menu->popup(button_->mapToGlobal(QPoint(0, button_->height())));
+  menu->popup(place);
 }
 
 void LayerTools::AddMaterialActions(QMenu& menu) {
@@ -251,6 +271,7 @@ bool LayerTools::eventFilter(QObject* watched, QEvent* event) {
       constexpr std::array kKeys = {Qt::Key_Up,     Qt::Key_Down, Qt::Key_I, Qt::Key_D,
                                     Qt::Key_Delete, Qt::Key_C,    Qt::Key_V, Qt::Key_A};
       if (std::ranges::find(kKeys, key->key()) == kKeys.end()) return false;
+      if (is_left_ && key->key() != Qt::Key_A) return false;
       event->accept();
       if (event->type() == QEvent::ShortcutOverride) return true;
       return TakeKey(static_cast<QWidget*>(watched), key->key());

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QList>
 #include <QObject>
 #include <vector>
 
@@ -7,6 +8,7 @@
 #include "elements/layer_groups.h"
 #include "shell/page_parts/page_context.h"
 
+class QAction;
 class QHBoxLayout;
 class QLabel;
 class QMenu;
@@ -28,11 +30,15 @@ class LayerTools : public QObject {
   /// @param number what shows the row's number; takes dropped layers
   LayerTools(elements::LayerGroup group, int index, PageContext& context, QLabel* number, QWidget* page);
 
-  /// Keys in `field` of the row act on the row from now on. All rows of a table hand in their fields in the same
-  /// order.
+  /// Keys in `field` of the row act on the row from now on. All rows of a table hand in their fields in the
+  /// same order.
   void Serve(QWidget* field);
-  /// The button that opens the menu.
-  QToolButton* Button() const { return button_; }
+  // One of the two follows.
+  /// Makes the button that opens the menu.
+  QToolButton* MakeButton();
+  /// The menu of `button` is that of the row, with what is done with the material at its end; what has that
+  /// menu has the keys too, except the one that opens it.
+  void LeaveMenuTo(QToolButton* button);
   /// Drags the layer from its number: a number of the same table takes the layer, a list its material.
   void Drag(const QString& material);
 
@@ -64,6 +70,8 @@ class LayerTools : public QObject {
   QLabel* number_;
   QWidget* page_;
   QToolButton* button_ = nullptr;
+  bool is_left_ = false;         ///< the button and its menu are another's
+  QList<QAction*> of_material_;  ///< at the end of that menu
   std::vector<QWidget*> served_;
 };
 

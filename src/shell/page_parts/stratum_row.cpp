@@ -31,7 +31,7 @@ using elements::StratumKind;
 constexpr const char* kSheets = "ComboLastre";
 constexpr int kLinesOfRow = 2;
 constexpr int kThicknessColumn = LayerRow::kThicknessColumn + StratumRow::kShift;
-constexpr int kMenuColumn = LayerRow::kChooserColumn + StratumRow::kShift + 1;
+constexpr int kMenuColumn = LayerRow::kToolsColumn + StratumRow::kShift;
 
 QStringList Items(const presentation::Words& words, MessageRow first, int count) {
   QStringList items;
@@ -57,18 +57,22 @@ StratumRow::StratumRow(int index, PageContext& context, QGridLayout& grid, QWidg
   grid.addWidget(number_, line, LayerRow::kLeadColumn);
   MakeKind(page);
   grid.addWidget(kind_, line, kKindColumn);
-  solid_ = new LayerRow(
-      {.group = LayerGroup::kStratumSolid, .index = index, .count_box = kSheets, .shift = kShift}, context,
-      grid, line, page);
-  fibre_ = new LayerRow({.group = LayerGroup::kStratumFibre, .index = index, .shift = kShift}, context, grid,
-                        line, page);
-  thickness_ = MakeText({"TextSpessoreStrato", Field::kStratumThickness, kLayerThicknessRow,
-                         &Stratum::thickness_text},
-                        page);
+  solid_ = new LayerRow({.group = LayerGroup::kStratumSolid,
+                         .index = index,
+                         .count_box = kSheets,
+                         .shift = kShift,
+                         .has_menu = false},
+                        context, grid, line, page);
+  fibre_ =
+      new LayerRow({.group = LayerGroup::kStratumFibre, .index = index, .shift = kShift, .has_menu = false},
+                   context, grid, line, page);
+  thickness_ = MakeText(
+      {"TextSpessoreStrato", Field::kStratumThickness, kLayerThicknessRow, &Stratum::thickness_text}, page);
   thickness_->setToolTip(Text(context.Words(), kLayerThicknessTipRow));
   grid.addWidget(thickness_, line, kThicknessColumn);
   MakeMenu(page);
   grid.addWidget(more_, line, kMenuColumn);
+  for (LayerRow* row : {solid_, fibre_}) row->LeaveMenuTo(more_);
   MakeDetail(grid, page);
 }
 
@@ -147,13 +151,11 @@ void StratumRow::MakeDetail(QGridLayout& grid, QWidget* page) {
     line->addWidget(field);
     of_profile_.insert(of_profile_.end(), {label, field});
   };
-  profile_height_ = MakeText({"TextAltezzaGreca", Field::kProfileHeight, kProfileHeightRow,
-                              &Stratum::profile_height_text},
-                             detail_);
+  profile_height_ = MakeText(
+      {"TextAltezzaGreca", Field::kProfileHeight, kProfileHeightRow, &Stratum::profile_height_text}, detail_);
   add(profile_height_, kProfileHeightRow);
-  profile_pitch_ = MakeText({"TextPassoGreca", Field::kProfilePitch, kProfilePitchRow,
-                             &Stratum::profile_pitch_text},
-                            detail_);
+  profile_pitch_ = MakeText(
+      {"TextPassoGreca", Field::kProfilePitch, kProfilePitchRow, &Stratum::profile_pitch_text}, detail_);
   add(profile_pitch_, kProfilePitchRow);
   line->addStretch(1);
   const int below = 2 + index_ * kLinesOfRow;
@@ -174,9 +176,8 @@ void StratumRow::MakeConnection(QBoxLayout& line, QWidget* page) {
   });
   auto* caption = new QLabel(Text(words, kCavityConnectionRow), page);
   caption->setBuddy(connection_);
-  connection_number_ = MakeText({"TextCollegamento", Field::kConnectionNumber, kConnectionSpacingRow,
-                                 &Stratum::connection_text},
-                                page);
+  connection_number_ = MakeText(
+      {"TextCollegamento", Field::kConnectionNumber, kConnectionSpacingRow, &Stratum::connection_text}, page);
   connection_caption_ = new QLabel(page);
   connection_caption_->setBuddy(connection_number_);
   of_cavity_ = {caption, connection_};

@@ -54,6 +54,8 @@ ComponentsPage::ComponentsPage(PageContext& context, QWidget* parent) : Page(par
   tabs_->setObjectName("SSTab2");
   for (int i = 0; i < elements::Facade::kCapacity; ++i) components_.push_back(AddComponent(i));
   column->addWidget(tabs_, 1);
+  connect(tabs_, &QTabWidget::currentChanged, this, &ComponentsPage::FitHeight);
+  FitHeight();
   connect(table_, &FacadeTable::ComponentWanted, this, [this](int number) {
     tabs_->setCurrentIndex(number - 1);
     components_.at(static_cast<std::size_t>(number - 1)).form->setFocus(Qt::OtherFocusReason);
@@ -93,7 +95,6 @@ ComponentsPage::Component ComponentsPage::AddComponent(int index) {
   auto* lines = new QVBoxLayout(frame);
   lines->setContentsMargins(0, 0, 0, 0);
   auto* label = new QLabel(Text(words, kAirTightnessRow), frame);
-  label->setWordWrap(true);
   component.tightness = new ChoiceBox(ArrayName("ComboTenutaAria", index), frame);
   QStringList classes = {Text(words, kClassZeroRow)};
   for (int i = 1; i <= kHighestClass; ++i)
@@ -120,6 +121,15 @@ ComponentsPage::Component ComponentsPage::AddComponent(int index) {
   column->addStretch(1);
   tabs_->addTab(page, QString::number(index + 1) + QStringLiteral("°"));
   return component;
+}
+
+// The page is as high as the tab that is seen: what another one holds needs no scrolling here.
+void ComponentsPage::FitHeight() {
+  for (int i = 0; i < tabs_->count(); ++i) {
+    const bool seen = i == tabs_->currentIndex();
+    tabs_->widget(i)->setSizePolicy(QSizePolicy::Preferred,
+                                    seen ? QSizePolicy::Preferred : QSizePolicy::Ignored);
+  }
 }
 
 void ComponentsPage::Show(const elements::Setup& setup) {

@@ -34,6 +34,7 @@ class ComponentsPage : public Page {
 
   void AddHead(QVBoxLayout& column);
   Component AddComponent(int index);
+  void FitHeight();
 
   PageContext& context_;
   CountBox* count_ = nullptr;

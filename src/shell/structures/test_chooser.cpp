@@ -122,7 +122,8 @@ QWidget* TestChooser::MakeList(const Controls& controls) {
   ShowKeyword(QString());
   keywords_->setMinimumContentsLength(kFilterCharacters);
   auto* filters = new QFormLayout;
-  filters->setRowWrapPolicy(QFormLayout::WrapLongRows);
+  // A single filter in the narrow column of a comparison stands as wide as the search below it.
+  filters->setRowWrapPolicy(controls.filters_uses ? QFormLayout::WrapLongRows : QFormLayout::WrapAllRows);
   filters->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
   filters->addRow(tools_.Text(kKeywordFilterRow), keywords_);
   uses_ = new QComboBox(side);

@@ -60,6 +60,24 @@ TEST(ChartMarks, LeaveABandWithoutAValueUnshaded) {
   EXPECT_EQ(Drawn(chart).At(PointOf(chart, 16.3, 42.2)), kPaperColour);
 }
 
+TEST(ChartMarks, TellTheSumWhereItHidesNoCurve) {
+  CurveChart floor = Wall();
+  floor.unfavourable = acoustics::Unfavourable::kAbove;
+  floor.shift = 0.0;
+  floor.marks.deviations = true;
+  floor.words.deviations = "31,0 dB";
+  const QRectF plot = LayoutOf(kArea, floor, QFont()).plot;
+  const QRectF right(plot.center(), plot.bottomRight());
+  const QRectF upper = right.translated(0.0, -plot.height() / 2.0);
+  EXPECT_GT(Drawn(floor).Count(kQuietInkColour, upper), 5);
+  EXPECT_EQ(Drawn(floor).Count(kQuietInkColour, right), 0);
+  // A bare floor: the higher the frequency, the louder.
+  for (std::size_t band = 0; band < acoustics::kBandCount; ++band)
+    floor.values[band] = 46.0 + 2.0 * static_cast<double>(band);
+  EXPECT_EQ(Drawn(floor).Count(kQuietInkColour, upper), 0);
+  EXPECT_GT(Drawn(floor).Count(kQuietInkColour, right), 5);
+}
+
 TEST(ChartMarks, MakeBandsOutsideTheRatingPaler) {
   CurveChart chart = Wall();
   chart.shift.reset();

@@ -5,6 +5,9 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QTabWidget>
 #include <QTest>
 #include <QTimer>
 #include <QToolButton>
@@ -198,6 +201,24 @@ class StructureCommandsTest : public QObject {
     // The filter of the keywords shows what it holds.
     const auto* keywords = fixture.Find<QDialog>("Form8")->findChild<QComboBox*>("Combo1");
     QVERIFY(keywords->width() > keywords->fontMetrics().horizontalAdvance("tutti") + 20);
+  }
+
+  void aClosedComparisonGivesTheInputsTheirRoomBack() {
+    Program program;
+    WindowFixture& fixture = program.fixture;
+    fixture.window->resize(1366, 768);
+    fixture.window->show();
+    fixture.window->OpenProject(EXAMPLES "/facciata-nove-componenti.drav");
+    fixture.Run();
+    auto* strip = fixture.Find<QTabWidget>("SSTab1");
+    strip->setCurrentIndex(5);
+    fixture.Find<QAction>("confronta_risultati")->trigger();
+    for (int i = 0; i < 5; ++i) QCoreApplication::processEvents();
+    fixture.Find<QDialog>("Form8")->close();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    const auto* area = qobject_cast<QScrollArea*>(strip->currentWidget());
+    QVERIFY(area != nullptr);
+    QTRY_COMPARE(area->horizontalScrollBar()->maximum(), 0);
   }
 
   void theResultsTableStandsBesideTheCurve() {

@@ -38,6 +38,17 @@ class FieldNotesTest : public QObject {
     QVERIFY(fixture_->Find<QWidget>("Text5_0")->accessibleDescription().isEmpty());
   }
 
+  void aNoteGoesWithItsElement() {
+    fixture_->Choose("TIPO_PARETE_SINGOLA_0");
+    fixture_->Type("Text5_0", "0");
+    QTest::keyClick(fixture_->Find<QWidget>("Text5_0"), Qt::Key_Return);
+    QVERIFY(!NoteAt("Text5_0").isEmpty());
+    fixture_->save = false;
+    fixture_->window->OpenProject(EXAMPLES "/doppia-forati-lana.drav");
+    QCOMPARE(fixture_->Find<QLineEdit>("Text5_0")->text(), QString("15"));
+    QCOMPARE(NoteAt("Text5_0"), QString());
+  }
+
   void aNumberThatStaysIsNotExplained() {
     fixture_->Choose("TIPO_PARETE_SINGOLA_0");
     for (const char* keys : {"25", "12,5", "1E3"}) {

@@ -5,6 +5,8 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QProcess>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QTabWidget>
 #include <QTemporaryDir>
 #include <QTest>
@@ -12,6 +14,7 @@
 #include "calculation/edits/select_calculation.h"
 #include "calculation/runs/run.h"
 #include "elements/layer_groups.h"
+#include "shell/fields/list_boxes.h"
 #include "shell/pages/tab_layout.h"
 #include "tests/shell/support/window_fixture.h"
 
@@ -96,6 +99,15 @@ void FillIn(const WindowFixture& fixture) {
   }
 }
 
+/// Every count of `page` at its highest: as many rows as it can have.
+void FillUp(const QWidget& page) {
+  for (CountBox* count : page.findChildren<CountBox*>()) {
+    if (!count->isVisible() || !count->isEnabled()) continue;
+    count->setCurrentIndex(count->count() - 1);
+    emit count->activated(count->currentIndex());
+  }
+}
+
 }  // namespace
 
 /// Each calculation, from its menu entry to the numbers.
@@ -120,6 +132,33 @@ class EveryCalculationTest : public QObject {
           std::ranges::any_of(tabs, [tab](const ShownTab& one) { return static_cast<int>(one.tab) == tab; });
       QCOMPARE(strip->isTabVisible(tab), shown);
     }
+  }
+
+  void itsPagesNeedNoSidewaysScrollingOnALaptop_data() { AddRows(); }
+  void itsPagesNeedNoSidewaysScrollingOnALaptop() {
+    QFETCH(const int, index);
+    const auto calculation = static_cast<Calculation>(index);
+    WindowFixture fixture;
+    fixture.Choose(calculation);
+    fixture.window->resize(1366, 768);
+    fixture.window->show();
+    QVERIFY(QTest::qWaitForWindowExposed(fixture.window.get()));
+    auto* strip = fixture.Find<QTabWidget>("SSTab1");
+    for (const ShownTab& shown : TabsOf(calculation)) {
+      strip->setCurrentIndex(static_cast<int>(shown.tab));
+      const auto* area = qobject_cast<QScrollArea*>(strip->currentWidget());
+      QVERIFY(area != nullptr);
+      for (const bool full : {false, true}) {
+        if (full) FillUp(*area->widget());
+        QTest::qWait(0);
+        QVERIFY2(area->horizontalScrollBar()->maximum() == 0,
+                 qPrintable(QString("tab %1, %2: %3 px beyond the edge")
+                                .arg(static_cast<int>(shown.tab))
+                                .arg(full ? "full" : "as chosen")
+                                .arg(area->horizontalScrollBar()->maximum())));
+      }
+    }
+    QCOMPARE(fixture.window->size(), QSize(1366, 768));
   }
 
   void itsSavedProjectGivesTheNumbersOfTheWindow_data() { AddRows(); }

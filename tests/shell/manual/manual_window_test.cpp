@@ -4,15 +4,20 @@
 #include <QApplication>
 #include <QDirIterator>
 #include <QFile>
+#include <QImageReader>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRegularExpression>
+#include <QScrollBar>
 #include <QTest>
+#include <QTextBlock>
 #include <QTextBrowser>
+#include <QTextDocument>
 #include <QTimer>
 #include <QTreeWidget>
 #include <algorithm>
+#include <cmath>
 
 #include "shell/manual/help_chapters.h"
 #include "tests/shell/support/window_fixture.h"
@@ -53,6 +58,34 @@ class ManualWindowTest : public QObject {
   Q_OBJECT
 
  private slots:
+  void itIsReadWithoutScrollingSideways() {
+    const WindowFixture fixture;
+    ManualWindow window(fixture.services.words, ManualText(), MANUAL, nullptr);
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    const auto* text = window.findChild<QTextBrowser*>("TestoManuale");
+    QVERIFY(text->verticalScrollBar()->maximum() > 0);
+    QCOMPARE(text->horizontalScrollBar()->maximum(), 0);
+  }
+
+  void noPictureIsDrawnLargerThanItIs() {
+    const WindowFixture fixture;
+    const ManualWindow window(fixture.services.words, ManualText(), MANUAL, nullptr);
+    const QTextDocument& text = *window.findChild<QTextBrowser*>("TestoManuale")->document();
+    int pictures = 0;
+    for (QTextBlock block = text.begin(); block.isValid(); block = block.next()) {
+      for (auto it = block.begin(); !it.atEnd(); ++it) {
+        if (!it.fragment().charFormat().isImageFormat()) continue;
+        const QTextImageFormat picture = it.fragment().charFormat().toImageFormat();
+        const QSize size = QImageReader(QString(MANUAL "/") + picture.name()).size();
+        QVERIFY2(picture.width() > 100 && picture.width() <= size.width(), qPrintable(picture.name()));
+        QVERIFY(std::abs(picture.height() / picture.width() - 1.0 * size.height() / size.width()) < 0.01);
+        ++pictures;
+      }
+    }
+    QVERIFY(pictures >= 20);
+  }
+
   void everyChapterThatAWindowNamesIsInTheManual() {
     std::vector<std::string> anchors;
     for (const auto& heading : presentation::HeadingsIn(ManualText().toStdString()))

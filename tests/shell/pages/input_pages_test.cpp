@@ -4,6 +4,8 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QRadioButton>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QTabWidget>
 #include <QTableWidget>
 #include <QTest>
@@ -141,6 +143,16 @@ class InputPagesTest : public QObject {
     QCOMPARE(fixture_->open.Setup().facade.components.at(0).area_text, std::string("-"));
     QCOMPARE(TextOf("Text23_0"), "-");
     QCOMPARE(fixture_->Find<QLabel>("Label19_0")->text(), QString("0,0%"));
+  }
+
+  void aFacadeOfRatingsFitsIntoALaptop() {
+    fixture_->window->resize(1366, 768);
+    fixture_->window->OpenProject(EXAMPLES "/facciata-semplificata.drav");
+    auto* strip = fixture_->Find<QTabWidget>("SSTab1");
+    strip->setCurrentIndex(5);
+    const auto* area = qobject_cast<QScrollArea*>(strip->currentWidget());
+    QVERIFY(area != nullptr);
+    QTRY_COMPARE(area->verticalScrollBar()->maximum(), 0);
   }
 
   void aFacadeWithoutAreaShowsNone() {

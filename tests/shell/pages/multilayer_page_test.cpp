@@ -5,9 +5,14 @@
 #include <QCompleter>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMenu>
 #include <QPushButton>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QTabWidget>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QToolButton>
 
 #include "tests/shell/support/window_fixture.h"
 
@@ -86,6 +91,62 @@ class MultilayerPageTest : public QObject {
     QCOMPARE(Kinds(), QStringList({"Lastra", "Aria", "Lastra"}));
   }
 
+  void theKeyboardMovesTheRowFromItsMaterialToo() {
+    ChooseMaterial(0, "Vetro float");
+    auto* material = fixture_->Find<QComboBox>("ComboMatStrato_0");
+    material->setFocus();
+    QTest::keyClick(material, Qt::Key_Down, Qt::ControlModifier | Qt::ShiftModifier);
+    QCOMPARE(Kinds(), QStringList({"Aria", "Lastra", "Lastra"}));
+    QCOMPARE(fixture_->Find<QComboBox>("ComboMatStrato_1")->currentText(), QString("Vetro float"));
+  }
+
+  void aRowHasOneMenuWithWhatItsMaterialOffers() {
+    for (int row = 0; row < 3; ++row) {
+      auto* button = fixture_->Find<QToolButton>("CommandAzioniStrato_" + QString::number(row));
+      const QRect place(button->mapTo(fixture_->window.get(), QPoint()), button->size());
+      for (const QAbstractButton* other : fixture_->window->findChildren<QAbstractButton*>()) {
+        if (other == button || !other->isVisible()) continue;
+        const QRect there(other->mapTo(fixture_->window.get(), QPoint()), other->size());
+        QVERIFY2(!there.intersects(place), qPrintable(other->objectName()));
+      }
+    }
+    ChooseMaterial(0, "Vetro float");
+    const auto offers = [this](int row) {
+      QMenu* menu = fixture_->Find<QToolButton>("CommandAzioniStrato_" + QString::number(row))->menu();
+      menu->popup({});
+      QStringList names;
+      for (const QAction* action : menu->actions()) names += action->objectName();
+      menu->close();
+      return names;
+    };
+    // A second time it is not longer than the first.
+    for (int time = 0; time < 2; ++time) QCOMPARE(offers(0).count("preferito"), 1);
+    QVERIFY(offers(0).contains("StratoDuplica_0"));
+    QVERIFY(!offers(1).contains("preferito"));
+    ChooseKind(1, StratumKind::kFibre);
+    ChooseFibre(1, "Lana di roccia 40");
+    QCOMPARE(offers(1).count("preferito"), 1);
+  }
+
+  void everyKindAndConnectionFitsIntoALaptop() {
+    fixture_->window->resize(1366, 768);
+    auto* strip = fixture_->Find<QTabWidget>("SSTab1");
+    const auto* area = qobject_cast<QScrollArea*>(strip->currentWidget());
+    QVERIFY(area != nullptr);
+    for (int row = 0; row < 9; ++row) fixture_->Find<QPushButton>("CommandAggiungiStrato")->click();
+    const int kinds = fixture_->Find<QComboBox>("ComboTipoStrato_1")->count();
+    for (int kind = 0; kind < kinds; ++kind) {
+      Pick("ComboTipoStrato_1", kind);
+      auto* connection = fixture_->Find<QComboBox>("ComboCollegamento_1");
+      for (int item = 0; item < connection->count(); ++item) {
+        if (connection->isVisible()) Pick("ComboCollegamento_1", item);
+        QTest::qWait(0);
+        QVERIFY2(area->horizontalScrollBar()->maximum() == 0,
+                 qPrintable(QString("kind %1, connection %2").arg(kind).arg(item)));
+      }
+    }
+  }
+
   void duplicateAndDelete() {
     Menu("StratoDuplica", 1);
     QCOMPARE(Kinds(), QStringList({"Lastra", "Aria", "Aria", "Lastra"}));
@@ -156,8 +217,10 @@ class MultilayerPageTest : public QObject {
   void ChooseKind(int row, StratumKind kind) const {
     Pick(qPrintable("ComboTipoStrato_" + QString::number(row)), static_cast<int>(kind));
   }
-  void ChooseMaterial(int row, const QString& name) const {
-    auto* box = fixture_->Find<QComboBox>("ComboMatStrato_" + QString::number(row));
+  void ChooseMaterial(int row, const QString& name) const { ChooseIn("ComboMatStrato_", row, name); }
+  void ChooseFibre(int row, const QString& name) const { ChooseIn("ComboFibraStrato_", row, name); }
+  void ChooseIn(const char* list, int row, const QString& name) const {
+    auto* box = fixture_->Find<QComboBox>(list + QString::number(row));
     box->setFocus();
     box->lineEdit()->selectAll();
     QTest::keyClicks(box->lineEdit(), name);
