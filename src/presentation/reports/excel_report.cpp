@@ -217,7 +217,8 @@ void FillExcelReport(Workbook& workbook, const ReportRecord& record) {
   const std::string description = ForPaper(record.description, record.language);
   sheet.SetText(kDescription, description);
   FitHeight(sheet, kDescription.row, description, kDescription.column, kLastDescriptionColumn);
-  sheet.SetText(kSectionTitle, record.section_title);
+  // A facade has no section.
+  if (record.family != elements::Family::kFacade) sheet.SetText(kSectionTitle, record.section_title);
   WriteLayerTable(workbook, record);
   SetNumber(workbook, kSurfaceMass, record.surface_mass_kg_m2, kOneDecimal);
   if (record.totals) {

@@ -37,6 +37,8 @@ BandBoxes::BandBoxes(const QString& frame_name, const QString& name, const prese
     auto* box = new NumberField(name + '_' + QString::number(index), NumberKind::kReal, this);
     box->setAccessibleName(frequency);
     box->ShowDecimals(kShownDecimals);
+    // A level has a digit less than other numbers.
+    box->setFixedWidth(box->minimumWidth() - fontMetrics().horizontalAdvance(QLatin1Char('0')));
     box->installEventFilter(this);
     connect(box, &NumberField::Edited, this,
             [this, band](const std::string& text) { emit Edited(band, text); });

@@ -17,7 +17,7 @@
 namespace velmar::shell {
 namespace {
 
-constexpr int kNarrowestInLetters = 14;
+constexpr int kNarrowestInLetters = 11;
 
 }  // namespace
 

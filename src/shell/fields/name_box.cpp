@@ -14,7 +14,7 @@ NameBox::NameBox(const QString& object_name, std::function<std::vector<std::stri
   setInsertPolicy(QComboBox::NoInsert);
   setCompleter(nullptr);
   setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-  setMinimumContentsLength(14);
+  setMinimumContentsLength(10);
   setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
   connect(lineEdit(), &QLineEdit::textEdited, this, [this] { typed_ = true; });
   SelectAllOnFocus(lineEdit(), this);

@@ -203,6 +203,30 @@ class StructureCommandsTest : public QObject {
     QVERIFY(keywords->width() > keywords->fontMetrics().horizontalAdvance("tutti") + 20);
   }
 
+  void theWidestPagesFitBesideTheComparison_data() {
+    QTest::addColumn<QString>("project");
+    QTest::addColumn<int>("tab");
+    QTest::newRow("facade") << "facciata-nove-componenti" << 5;
+    QTest::newRow("list of layers") << "multistrato-vetrocamera-tripla" << 9;
+  }
+  void theWidestPagesFitBesideTheComparison() {
+    QFETCH(const QString, project);
+    QFETCH(const int, tab);
+    Program program;
+    WindowFixture& fixture = program.fixture;
+    fixture.window->resize(1366, 768);
+    fixture.window->show();
+    fixture.window->OpenProject(QString("%1/%2.drav").arg(EXAMPLES, project).toStdString());
+    fixture.Run();
+    auto* strip = fixture.Find<QTabWidget>("SSTab1");
+    strip->setCurrentIndex(tab);
+    fixture.Find<QAction>("confronta_risultati")->trigger();
+    const auto* area = qobject_cast<QScrollArea*>(strip->currentWidget());
+    QVERIFY(area != nullptr);
+    QTRY_COMPARE(area->horizontalScrollBar()->maximum(), 0);
+    QCOMPARE(fixture.window->width(), 1366);
+  }
+
   void aClosedComparisonGivesTheInputsTheirRoomBack() {
     Program program;
     WindowFixture& fixture = program.fixture;
