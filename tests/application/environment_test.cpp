@@ -3,12 +3,12 @@
 #include <SQLiteCpp/Database.h>
 
 #include "foundation/failure.h"
+#include "foundation/message_rows.h"
 #include "storage/configuration/first_start.h"
 #include "storage/materials/material_store.h"
 #include "storage/messages/message_table_reader.h"
 #include "tests/application/start_fixture.h"
 #include "tests/storage/support/databases.h"
-#include "foundation/message_rows.h"
 
 namespace velmar::application {
 namespace {

@@ -32,7 +32,7 @@ struct Services {
   /// What is wrong with a document template, a line each; empty where nothing draws. @throws Failure when no
   /// report can be made of it
   std::function<Message(const std::filesystem::path&)> check_template{};
-  TogetherReports together{};                  ///< of `report --together`; without formats where nothing draws
+  TogetherReports together{};  ///< of `report --together`; without formats where nothing draws
 };
 
 }  // namespace velmar::cli

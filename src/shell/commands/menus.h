@@ -19,6 +19,6 @@ struct OpenMenus {
 /// Fills the menu bar from the command table and the calculation tree. What leads nowhere in this
 /// installation is not shown: a contact without an address, a maintenance program that is not there.
 OpenMenus FillMenuBar(QMenuBar& bar, const CommandSet& commands, const CalculationActions& calculations,
-                   const presentation::Words& words);
+                      const presentation::Words& words);
 
 }  // namespace velmar::shell

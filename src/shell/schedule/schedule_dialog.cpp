@@ -154,7 +154,8 @@ void ScheduleDialog::AddFromDisk() {
 void ScheduleDialog::RemoveChosen() {
   const int row = list_->currentRow();
   qDeleteAll(list_->selectedItems());
-  if (list_->count() > 0) list_->setCurrentRow(std::clamp(row, 0, list_->count() - 1), QItemSelectionModel::ClearAndSelect);
+  if (list_->count() > 0)
+    list_->setCurrentRow(std::clamp(row, 0, list_->count() - 1), QItemSelectionModel::ClearAndSelect);
   Follow();
 }
 

@@ -8,7 +8,8 @@
 namespace velmar::storage {
 
 /// How the rows of the message database `file` are to be: its tables with the languages that it has. A table
-/// without a column, and one that is missing, is left out; catalogues of older versions have no further texts.
+/// without a column, and one that is missing, is left out; catalogues of older versions have no further
+/// texts.
 /// @param shipped the message database that comes with the program: its text for the same row takes the place
 ///        of a broken one. Nothing: broken texts are only mended.
 /// Throws as ReadDatabase and TableRows do.

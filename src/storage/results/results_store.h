@@ -6,8 +6,8 @@
 #include <string_view>
 #include <vector>
 
-#include "foundation/message.h"
 #include "foundation/catalogue_rows.h"
+#include "foundation/message.h"
 #include "storage/results/saved_result.h"
 
 namespace velmar::storage {

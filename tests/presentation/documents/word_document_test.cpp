@@ -82,8 +82,9 @@ TEST(WordDocument, ReplacesInHeaders) {
 TEST(WordDocument, TellsWhatIsLeft) {
   WordDocument document(DocumentOf(Paragraph({"[P1_", "MIO] [P1_NORMA]"})));
   document.Replace({{"P1_NORMA", "[P1_FALSO]"}});
-  EXPECT_THAT(document.Left(), ElementsAre("[CODICE_ALLEGATO]", "[P1_MIO]", "[P1_PROGETTO]", "[STUDIO_INDIRIZZO]",
-                                           "[STUDIO_LOGO]", "[STUDIO_NOME]", "[STUDIO_PIEDE]"));
+  EXPECT_THAT(document.Left(),
+              ElementsAre("[CODICE_ALLEGATO]", "[P1_MIO]", "[P1_PROGETTO]", "[STUDIO_INDIRIZZO]",
+                          "[STUDIO_LOGO]", "[STUDIO_NOME]", "[STUDIO_PIEDE]"));
 }
 
 struct Block {

@@ -139,12 +139,12 @@ class PaperCommandsTest : public QObject {
                         program.fixture.services.materials, /*go_on_outside_ranges=*/true);
     const presentation::Words& words = program.fixture.services.words;
     const presentation::PaginaDiStampa told = documents::PageOf({.name = {},
-                                                           .setup = run.setup,
-                                                           .result = run.outcome.result.value(),
-                                                           .totals = run.totals,
-                                                           .words = words,
-                                                           .file = example.toStdString() + ".drav"},
-                                                          {.words = words});
+                                                                 .setup = run.setup,
+                                                                 .result = run.outcome.result.value(),
+                                                                 .totals = run.totals,
+                                                                 .words = words,
+                                                                 .file = example.toStdString() + ".drav"},
+                                                                {.words = words});
     const Drawn page = DrawnOf(told);
     // With its origin: the project's file and fingerprint.
     QVERIFY(std::ranges::any_of(

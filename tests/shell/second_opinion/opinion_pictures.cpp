@@ -1,6 +1,6 @@
-// opinion_pictures OUT.png WIDTH HEIGHT light|dark PROJECT.drav [closed | why MODEL | MODEL...]: the main window
-// with the result of a project and the second opinion opened, the curves of the named models ticked; "closed"
-// leaves it closed, "why" shows the route of a model.
+// opinion_pictures OUT.png WIDTH HEIGHT light|dark PROJECT.drav [closed | why MODEL | MODEL...]: the main
+// window with the result of a project and the second opinion opened, the curves of the named models ticked;
+// "closed" leaves it closed, "why" shows the route of a model.
 #include <QCheckBox>
 #include <QPixmap>
 #include <QTest>

@@ -23,12 +23,8 @@ class RowRepairTest : public testing::Test {
  protected:
   RowRepairTest() { MakeTables(file_, {kSchema}); }
 
-  std::vector<RowFault> Find(const RowRules& rules = kRules) {
-    return FindRowFaults(file_, rules);
-  }
-  std::vector<RowFault> Mend(const RowRules& rules = kRules) {
-    return MendRows(file_, rules);
-  }
+  std::vector<RowFault> Find(const RowRules& rules = kRules) { return FindRowFaults(file_, rules); }
+  std::vector<RowFault> Mend(const RowRules& rules = kRules) { return MendRows(file_, rules); }
   std::vector<StoredRow> Rows() {
     return ReadDatabase(file_, [](SQLite::Database& database) { return TableRows(database, kSchema).All(); });
   }

@@ -89,8 +89,9 @@ TEST_F(LibraryStoreTest, ASeriesOfAnEarlierVersionOpensUnchanged) {
   });
   ASSERT_EQ(old.columns.size(), 35U);
   MakeTables(FileOf("a.mdb"), {old});
-  Execute(FileOf("a.mdb"), {"INSERT INTO Rw_laboratorio (Nome, [Rw (dB)], [R - 500Hz (dB)], Certificato) VALUES "
-                            "('Muro', 47, 41.5, '3/1991')"});
+  Execute(FileOf("a.mdb"),
+          {"INSERT INTO Rw_laboratorio (Nome, [Rw (dB)], [R - 500Hz (dB)], Certificato) VALUES "
+           "('Muro', 47, 41.5, '3/1991')"});
   const std::string bytes = ReadFile(FileOf("a.mdb"));
   ASSERT_EQ(store_.Tests(rw_, FileOf("a.mdb")).size(), 1U);
   const auto test = store_.Find(rw_, FileOf("a.mdb"), "Muro");
