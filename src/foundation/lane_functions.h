@@ -10,6 +10,12 @@ namespace velmar {
 // Functions for loops that run several numbers side by side: additions, products and quotients alone, without
 // a branch, so that the compiler turns such a loop into vectors and every machine gives the same bits.
 
+/// ln 2 in two parts: a small whole number times the first is exact.
+inline constexpr double kLn2High = 0.693147180369123816490;
+inline constexpr double kLn2Low = 1.90821492927058770002e-10;
+/// 2^52 and the bias of an exponent: a whole number added to it stands as an exponent in the last bits.
+inline constexpr double kExponentShift = 4503599627370496.0 + 1023.0;
+
 /// Nearest whole number of `x`, ties to even; |x| below 2^51.
 VELMAR_LANE_FUNCTION double LaneRound(double x) {
   constexpr double kShift = 6755399441055744.0;  // 1.5 * 2^52: the fraction falls off
@@ -19,9 +25,6 @@ VELMAR_LANE_FUNCTION double LaneRound(double x) {
 /// e^x for x in [-700, 700], to about two units in the last place.
 VELMAR_LANE_FUNCTION double LaneExp(double x) {
   constexpr double kLog2E = 1.4426950408889634;
-  constexpr double kLn2High = 0.693147180369123816490;
-  constexpr double kLn2Low = 1.90821492927058770002e-10;
-  constexpr double kExponentShift = 4503599627370496.0 + 1023.0;  // 2^52 and the bias
   const double whole = LaneRound(x * kLog2E);
   const double r = (x - whole * kLn2High) - whole * kLn2Low;
   double p = 1.0 / 6227020800.0;
@@ -46,8 +49,6 @@ VELMAR_LANE_FUNCTION double LaneExp(double x) {
 /// two units in the last place. The library's may differ in its last bit from one processor to the next; this
 /// does not.
 VELMAR_LANE_FUNCTION double LaneLog(double x) {
-  constexpr double kLn2High = 0.693147180369123816490;
-  constexpr double kLn2Low = 1.90821492927058770002e-10;
   constexpr std::uint64_t kOne = std::uint64_t{0x3ff} << 52;
   constexpr std::uint64_t kRootOfHalf = 0x3fe6a09e667f3bcd;
   constexpr std::uint64_t kTwoTo52 = std::uint64_t{0x433} << 52;
@@ -55,7 +56,7 @@ VELMAR_LANE_FUNCTION double LaneLog(double x) {
   const auto bits = std::bit_cast<std::uint64_t>(x);
   const std::uint64_t biased = (bits + (kOne - kRootOfHalf)) >> 52;
   const double m = std::bit_cast<double>(bits - (biased << 52) + kOne);
-  const double k = std::bit_cast<double>(biased | kTwoTo52) - (4503599627370496.0 + 1023.0);
+  const double k = std::bit_cast<double>(biased | kTwoTo52) - kExponentShift;
   // ln m = 2 artanh s
   const double f = m - 1.0;
   const double s = f / (2.0 + f);
@@ -74,6 +75,7 @@ VELMAR_LANE_FUNCTION double LaneLog(double x) {
   return k * kLn2High + (f - (s * (f - z * p) - k * kLn2Low));
 }
 
+/// Of an angle.
 struct LaneTurn {
   double sine;
   double cosine;

@@ -58,6 +58,14 @@ void CoversNothing(const WindowFixture& fixture, const char* name) {
   }
 }
 
+/// The result of an example project in a window of the size of a small screen.
+void RunOnASmallScreen(WindowFixture& fixture, const QString& project) {
+  fixture.window->resize(1366, 768);
+  fixture.window->show();
+  fixture.window->OpenProject(QString("%1/%2.drav").arg(EXAMPLES, project).toStdString());
+  fixture.Run();
+}
+
 }  // namespace
 
 class StructureCommandsTest : public QObject {
@@ -184,10 +192,7 @@ class StructureCommandsTest : public QObject {
     QFETCH(const int, inputs);
     Program program;
     WindowFixture& fixture = program.fixture;
-    fixture.window->resize(1366, 768);
-    fixture.window->show();
-    fixture.window->OpenProject(QString("%1/%2.drav").arg(EXAMPLES, project).toStdString());
-    fixture.Run();
+    RunOnASmallScreen(fixture, project);
     fixture.Find<QAction>("calcolo_continuo")->setChecked(continuous);
     fixture.Find<QAction>("confronta_risultati")->trigger();
     if (continuous) {
@@ -214,10 +219,7 @@ class StructureCommandsTest : public QObject {
     QFETCH(const int, tab);
     Program program;
     WindowFixture& fixture = program.fixture;
-    fixture.window->resize(1366, 768);
-    fixture.window->show();
-    fixture.window->OpenProject(QString("%1/%2.drav").arg(EXAMPLES, project).toStdString());
-    fixture.Run();
+    RunOnASmallScreen(fixture, project);
     auto* strip = fixture.Find<QTabWidget>("SSTab1");
     strip->setCurrentIndex(tab);
     fixture.Find<QAction>("confronta_risultati")->trigger();
